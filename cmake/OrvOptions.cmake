@@ -1,0 +1,37 @@
+# What a build can be told. Everything else follows from these.
+
+set(ORV_GENICAM_ROOT "" CACHE PATH
+    "Installed GenICam reference implementation (3.0 to 3.4) to build the GUI library against; empty: the stand-ins here")
+set(ORV_CAMERA_API_LIBRARY "" CACHE FILEPATH
+    "Camera access library to link when ORV_GENICAM_ROOT is set; empty: the application provides it")
+set(ORV_SANITIZE "" CACHE STRING "Sanitizers for everything that is built here, e.g. address,undefined or thread")
+
+# A vendor's headers replace the stand-ins, and with them go the programs and tests that need simulated cameras.
+if(ORV_GENICAM_ROOT)
+    set(ORV_STAND_INS OFF)
+else()
+    set(ORV_STAND_INS ON)
+endif()
+
+include(CMakeDependentOption)
+cmake_dependent_option(ORV_BUILD_TESTS "Build the test suite" "${PROJECT_IS_TOP_LEVEL}" "ORV_STAND_INS" OFF)
+cmake_dependent_option(ORV_BUILD_APPS "Build the explorer" ON "ORV_STAND_INS" OFF)
+cmake_dependent_option(ORV_BUILD_BENCHMARKS "Build the benchmarks" OFF "ORV_STAND_INS" OFF)
+cmake_dependent_option(ORV_BUILD_FUZZERS "Build the fuzzers (clang only)" OFF "ORV_STAND_INS" OFF)
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+    set(CMAKE_BUILD_TYPE Release CACHE STRING "" FORCE)
+endif()
+
+if(ORV_SANITIZE)
+    add_compile_options(-fsanitize=${ORV_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    add_link_options(-fsanitize=${ORV_SANITIZE})
+endif()

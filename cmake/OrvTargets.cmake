@@ -1,0 +1,15 @@
+# Warnings and definitions for our own code, and the helpers that declare its targets.
+
+add_library(orv_own_code INTERFACE)
+target_compile_options(orv_own_code INTERFACE -Wall -Wextra -Wshadow -Wconversion -Werror)
+target_compile_definitions(orv_own_code INTERFACE
+    QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
+    QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
+
+# Undefined symbols in a shared library are an error where it is linked. Two builds cannot have that: one with a
+# sanitizer, whose runtime comes with the program, and one that leaves the camera access library to the application.
+function(orv_forbid_undefined_symbols target)
+    if(NOT ORV_SANITIZE)
+        target_link_options(${target} PRIVATE LINKER:--no-undefined)
+    endif()
+endfunction()

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <GenApi/Container.h>
+#include <GenApi/IValue.h>
+
+namespace GENAPI_NAMESPACE {
+
+/** A group of features. */
+struct ORV_GENAPI_EXPORT ICategory : virtual public IValue
+{
+    /** The direct children, in the order of the description. */
+    virtual void GetFeatures(FeatureList_t &Features) const = 0;
+
+protected:
+    ~ICategory() = default;
+};
+
+} // namespace GENAPI_NAMESPACE

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <GenApi/IValue.h>
+
+namespace GENAPI_NAMESPACE {
+
+/** Something a device can be told to do. */
+struct ORV_GENAPI_EXPORT ICommand : virtual public IValue
+{
+    virtual void Execute(bool Verify = true) = 0;
+
+    /** Whether the last execution has ended, as far as the device can tell. */
+    virtual bool IsDone(bool Verify = true) = 0;
+
+protected:
+    ~ICommand() = default;
+};
+
+} // namespace GENAPI_NAMESPACE

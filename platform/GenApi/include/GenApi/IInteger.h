@@ -1,0 +1,31 @@
+#pragma once
+
+#include <GenApi/Autovector.h>
+#include <GenApi/IValue.h>
+
+namespace GENAPI_NAMESPACE {
+
+/** A signed 64-bit number. */
+struct ORV_GENAPI_EXPORT IInteger : virtual public IValue
+{
+    virtual void SetValue(int64_t Value, bool Verify = true) = 0;
+    virtual int64_t GetValue(bool Verify = false, bool IgnoreCache = false) = 0;
+    virtual int64_t GetMin() = 0;
+    virtual int64_t GetMax() = 0;
+
+    /** The step of a fixed increment; 1 when the increment is a list. */
+    virtual int64_t GetInc() = 0;
+    virtual EIncMode GetIncMode() = 0;
+
+    /** The valid values, ascending; those within minimum and maximum when \a bounded. Empty without a list. */
+    virtual int64_autovector_t GetListOfValidValues(bool bounded = true) = 0;
+    virtual ERepresentation GetRepresentation() = 0;
+
+    /** The physical unit, UTF-8; empty when there is none. */
+    virtual GENICAM_NAMESPACE::gcstring GetUnit() = 0;
+
+protected:
+    ~IInteger() = default;
+};
+
+} // namespace GENAPI_NAMESPACE

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <GenApi/IBase.h>
+
+namespace GENAPI_NAMESPACE {
+
+/** The way to a device: reads and writes bytes at an address. Failures are thrown. */
+struct ORV_GENAPI_EXPORT IPort : virtual public IBase
+{
+    virtual void Read(void *pBuffer, int64_t Address, int64_t Length) = 0;
+    virtual void Write(const void *pBuffer, int64_t Address, int64_t Length) = 0;
+
+protected:
+    ~IPort() = default;
+};
+
+} // namespace GENAPI_NAMESPACE

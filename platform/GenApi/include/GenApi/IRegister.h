@@ -1,0 +1,21 @@
+#pragma once
+
+#include <GenApi/IValue.h>
+
+namespace GENAPI_NAMESPACE {
+
+/** A range of bytes in the device. */
+struct ORV_GENAPI_EXPORT IRegister : virtual public IValue
+{
+    virtual void Set(const uint8_t *pBuffer, int64_t Length, bool Verify = true) = 0;
+    virtual void Get(uint8_t *pBuffer, int64_t Length, bool Verify = false, bool IgnoreCache = false) = 0;
+
+    /** Length in bytes. */
+    virtual int64_t GetLength(bool Verify = false) = 0;
+    virtual int64_t GetAddress(bool Verify = false) = 0;
+
+protected:
+    ~IRegister() = default;
+};
+
+} // namespace GENAPI_NAMESPACE

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <GenApi/IValue.h>
+
+namespace GENAPI_NAMESPACE {
+
+/** A text, UTF-8. */
+struct ORV_GENAPI_EXPORT IString : virtual public IValue
+{
+    virtual void SetValue(const GENICAM_NAMESPACE::gcstring &Value, bool Verify = true) = 0;
+    virtual GENICAM_NAMESPACE::gcstring GetValue(bool Verify = false, bool IgnoreCache = false) = 0;
+
+    /** The longest text that can be written, in bytes. */
+    virtual int64_t GetMaxLength(bool Verify = false) = 0;
+
+protected:
+    ~IString() = default;
+};
+
+} // namespace GENAPI_NAMESPACE

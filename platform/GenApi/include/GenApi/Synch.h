@@ -1,0 +1,27 @@
+#pragma once
+
+#include <Base/GCNamespace.h>
+
+#include <mutex>
+
+namespace GENAPI_NAMESPACE {
+
+/** A lock that the thread which holds it may take again. */
+class ORV_GENAPI_EXPORT CLock
+{
+public:
+    CLock() = default;
+    CLock(const CLock &) = delete;
+    CLock &operator=(const CLock &) = delete;
+
+    void Lock() { m_mutex.lock(); }
+    void Unlock() { m_mutex.unlock(); }
+
+    /** Takes the lock if that needs no waiting; true when it was taken. */
+    bool TryLock() { return m_mutex.try_lock(); }
+
+private:
+    std::recursive_mutex m_mutex;
+};
+
+} // namespace GENAPI_NAMESPACE

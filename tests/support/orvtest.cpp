@@ -1,0 +1,84 @@
+#include "orvtest.h"
+
+#include <QMutex>
+#include <QStringList>
+
+namespace OrvTest {
+
+namespace {
+
+/** What the offscreen platform says on every run, by its exact text. */
+const char *const platformNoise[] = {
+    "This plugin does not support propagateSizeHints()",
+    "This plugin does not support raise()",
+};
+
+struct Watch
+{
+    QMutex mutex;
+    QStringList expected;
+    QStringList unexpected;
+    QtMessageHandler next = nullptr;
+};
+
+Watch &watch()
+{
+    static Watch instance;
+    return instance;
+}
+
+void noteMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    Watch &w = watch();
+    if (type == QtWarningMsg || type == QtCriticalMsg) {
+        for (const char *noise : platformNoise) {
+            if (text == QLatin1String(noise))
+                return;
+        }
+        const QMutexLocker lock(&w.mutex);
+        if (w.expected.removeOne(text))
+            return;
+        w.unexpected.append(text);
+    }
+    if (w.next)
+        w.next(type, context, text);
+}
+
+} // namespace
+
+void TestCase::expectWarning(const QString &text)
+{
+    const QMutexLocker lock(&watch().mutex);
+    watch().expected.append(text);
+}
+
+void TestCase::init()
+{
+    // QTest installs its handler when the run starts; the watch has to sit in front of it.
+    const QtMessageHandler previous = qInstallMessageHandler(noteMessage);
+    if (previous != noteMessage)
+        watch().next = previous;
+}
+
+void TestCase::cleanup()
+{
+    QStringList unexpected;
+    QStringList missing;
+    {
+        const QMutexLocker lock(&watch().mutex);
+        unexpected.swap(watch().unexpected);
+        missing.swap(watch().expected);
+    }
+    QVERIFY2(unexpected.isEmpty(),
+             qPrintable(QLatin1String("unexpected warning: ") + unexpected.join(QLatin1String(" | "))));
+    QVERIFY2(missing.isEmpty(), qPrintable(QLatin1String("missing warning: ") + missing.join(QLatin1String(" | "))));
+}
+
+int runTests(QObject *test, int argc, char **argv)
+{
+    const int failures = QTest::qExec(test, argc, argv);
+    qInstallMessageHandler(nullptr);
+    return failures;
+}
+
+} // namespace OrvTest

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QtTest>
+
+#include <QApplication>
+
+namespace OrvTest {
+
+/**
+ * Base of every test class: a Qt warning that a test did not announce fails that test, whichever thread it came from.
+ *
+ * A derived class that needs its own init() or cleanup() calls these first.
+ */
+class TestCase : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** The next warning with exactly this text is wanted; the test fails when it does not come. */
+    static void expectWarning(const QString &text);
+
+protected Q_SLOTS:
+    void init();
+    void cleanup();
+};
+
+/** Installs the warning watch around QTest::qExec(). */
+int runTests(QObject *test, int argc, char **argv);
+
+} // namespace OrvTest
+
+/** main() of a test program whose only class is \a TestClass. */
+#define ORV_TEST_MAIN(TestClass)                                                                                       \
+    int main(int argc, char **argv)                                                                                    \
+    {                                                                                                                  \
+        QApplication app(argc, argv);                                                                                  \
+        TestClass test;                                                                                                \
+        return OrvTest::runTests(&test, argc, argv);                                                                   \
+    }
