@@ -16,17 +16,10 @@
 #include <QTreeView>
 #include <QWhatsThis>
 
-#include <set>
-
 namespace {
 
 constexpr int pollInterval = 200; // milliseconds
 constexpr int messageTime = 5000; // milliseconds
-
-bool isCategory(const QModelIndex &index)
-{
-    return dynamic_cast<GenApi::ICategory *>(index.data(Qt::UserRole).value<GenApi::IValue *>()) != nullptr;
-}
 
 } // namespace
 
@@ -62,30 +55,31 @@ void ExplorerWindow::createTree()
     setCentralWidget(m_tree);
 
     m_tree->header()->setSectionsMovable(false);
-    m_tree->header()->resizeSection(0, width() / 2);
+    m_tree->header()->resizeSection(GenParamTreeModel::NameColumn, width() / 2);
 }
 
 void ExplorerWindow::createStatusBar()
 {
-    const int features = arrangeRows(QModelIndex());
+    std::set<const GenApi::IValue *> features;
+    arrangeRows(QModelIndex(), features);
     m_errorLabel = new QLabel(this);
-    statusBar()->addWidget(new QLabel(tr("Features: %1").arg(features), this));
+    statusBar()->addWidget(new QLabel(tr("Features: %1").arg(features.size()), this));
     statusBar()->addWidget(m_errorLabel);
     showErrorCount();
 }
 
-int ExplorerWindow::arrangeRows(const QModelIndex &parent)
+void ExplorerWindow::arrangeRows(const QModelIndex &parent, std::set<const GenApi::IValue *> &features)
 {
-    int features = 0;
     for (int row = 0; row < m_model->rowCount(parent); ++row) {
-        const QModelIndex index = m_model->index(row, 0, parent);
-        if (isCategory(index))
-            m_tree->setFirstColumnSpanned(row, parent, true);
-        else
-            ++features;
-        features += arrangeRows(index);
+        const QModelIndex index = m_model->index(row, GenParamTreeModel::NameColumn, parent);
+        auto *value = index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
+        if (!dynamic_cast<GenApi::ICategory *>(value)) {
+            features.insert(value);
+            continue;
+        }
+        m_tree->setFirstColumnSpanned(row, parent, true);
+        arrangeRows(index, features);
     }
-    return features;
 }
 
 void ExplorerWindow::createActions()

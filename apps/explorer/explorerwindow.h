@@ -1,5 +1,7 @@
 #pragma once
 
+#include <GenApi/IValue.h>
+
 #include <QElapsedTimer>
 #include <QMainWindow>
 #include <QScopedPointer>
@@ -7,6 +9,7 @@
 
 #include <map>
 #include <memory>
+#include <set>
 #include <utility>
 
 class CameraSource;
@@ -32,8 +35,8 @@ private:
     void createStatusBar();
     void watchErrors();
 
-    /** Lets categories below \a parent take the whole row; the number of rows there that are none. */
-    int arrangeRows(const QModelIndex &parent);
+    /** Lets the categories below \a parent take whole rows and adds what is no category to \a features. */
+    void arrangeRows(const QModelIndex &parent, std::set<const GenApi::IValue *> &features);
 
     void poll();
     void refresh();
