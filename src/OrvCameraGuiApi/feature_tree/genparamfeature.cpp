@@ -45,18 +45,15 @@ QString macText(qint64 value)
     return bytes.join(QLatin1Char(':')).toUpper();
 }
 
-/** The number in a dotted address with all four parts; blanks around the parts are allowed. */
+/** The number in a dotted address with all four parts. */
 std::optional<qint64> addressFromText(const QString &text)
 {
-    // The conversion reads anything as some address, and the validator takes an empty field and signs.
-    const bool isDotted = std::all_of(text.begin(), text.end(), [](QChar c) {
-        return (c >= QLatin1Char('0') && c <= QLatin1Char('9')) || c == QLatin1Char('.') || c == QLatin1Char(' ');
-    });
+    // The conversion reads anything as some address, and the validator lets a field be empty.
     QString input = text;
     int position = 0;
-    if (text.isEmpty() || !isDotted || IP4Validator(nullptr).validate(input, position) != QValidator::Acceptable)
+    if (text.isEmpty() || IP4Validator().validate(input, position) != QValidator::Acceptable)
         return std::nullopt;
-    return IP4Validator::getIp(input.remove(QLatin1Char(' ')));
+    return IP4Validator::getIp(text);
 }
 
 /** The whole number next to \a value; none when it is no number or does not fit. */
