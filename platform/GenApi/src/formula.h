@@ -28,10 +28,12 @@ struct FormulaScope
 /**
  * A SwissKnife or converter formula, compiled to a flat program for a stack machine.
  *
- * Operators, from the tightest: ( ), unary + - ~, ** (right associative, so that -2**2 is 4 and 2**3**2 is 512),
- * * / %, + -, << >>, < > <= >=, = <>, &, ^, |, &&, ||, ?: (right associative). Functions: SGN NEG ABS SQRT ROUND(x)
- * ROUND(x, digits) FLOOR CEIL TRUNC SIN COS TAN ASIN ACOS ATAN EXP LN LG; numbers E and PI. Comparisons and logical
- * operators give 1 or 0. Only the branch of ?: that is taken and the side of && and || that is needed are evaluated.
+ * Operators, the tightest first: ( ), unary + - ~, ** (right associative: -2**2 is 4 and 2**3**2 is 512), * / %, + -,
+ * << >>, < > <= >=, = <>, &, ^, |, &&, ||, ?: (right associative). Functions, in any case: SGN NEG ABS SQRT ROUND(x)
+ * ROUND(x, digits) FLOOR CEIL TRUNC SIN COS TAN ASIN ACOS ATAN EXP LN LG; numbers of a float formula: E and PI.
+ * Comparisons and logical operators give 1 or 0. Only the branch of ?: that is taken and the sides of && and || that
+ * are needed are evaluated. Rounding goes half away from zero, / of integers and % towards zero. A shift by a negative
+ * amount goes the other way, one by 64 or more shifts everything out.
  *
  * A const Formula may be evaluated by several threads at once.
  */
@@ -39,11 +41,14 @@ class Formula
 {
 public:
     enum class Kind : uint8_t {
-        Integer, ///< 64-bit two's complement throughout; results that do not fit wrap
+        Integer, ///< 64-bit two's complement, results that do not fit wrap; fractions of literals are cut off
         Float ///< double; & ^ | ~ << >> % work on operands converted to 64-bit integers, clamped, NaN as 0
     };
 
-    /** Gives the variables' values while a formula is evaluated; what it throws passes through the evaluation. */
+    /**
+     * Gives the variables' values during an evaluation: each one that is needed once, however often the formula names
+     * it. What it throws passes through the evaluation.
+     */
     class Symbols
     {
     public:
@@ -59,20 +64,26 @@ public:
 
     /**
      * Compiles \a text. Throws FormulaError on bad syntax, an unknown name, an expression that uses itself, nesting
-     * deeper than maximumDepth or a program longer than maximumLength.
+     * deeper than maximumDepth or more text than maximumText.
      */
     static Formula parse(std::string_view text, const FormulaScope &scope, Kind kind);
 
-    /** The value of a formula of Kind::Integer. Throws FormulaError, for a division by zero among others. */
+    /**
+     * The value of a formula of Kind::Integer. Throws FormulaError when it has none, as for a division by zero. SQRT is
+     * exact; the other float functions are computed in double, cut off and clamped.
+     */
     int64_t evaluateInt(Symbols &symbols) const;
 
-    /** The value of a formula of Kind::Float. Throws FormulaError. */
+    /**
+     * The value of a formula of Kind::Float. Throws FormulaError when it has none: a division by zero, a function or
+     * power of finite operands without a finite value.
+     */
     double evaluateFloat(Symbols &symbols) const;
 
     Kind kind() const { return m_kind; }
 
-    static constexpr unsigned maximumDepth = 500; ///< parentheses, arguments, signs and expressions within each other
-    static constexpr unsigned maximumLength = 65536; ///< of a program, in words
+    static constexpr unsigned maximumDepth = 500; ///< of parentheses, branches, signs, powers and expressions
+    static constexpr unsigned maximumText = 65536; ///< characters, an expression's counted wherever it is used
 
 private:
     friend class FormulaCompiler;
@@ -80,8 +91,9 @@ private:
     template <typename Arithmetic>
     typename Arithmetic::Value run(Symbols &symbols) const;
 
-    std::vector<uint32_t> m_program; ///< an operation in the low byte, its argument above; literals follow their word
-    uint16_t m_stackSize = 0;
+    std::vector<uint32_t> m_program; ///< an operation in the low byte, its argument above; a literal may follow
+    uint32_t m_variableCount = 0; ///< the highest slot in use, plus one
+    uint16_t m_stackSize = 0; ///< the limits of depth and text keep it small
     Kind m_kind = Kind::Integer;
 };
 
