@@ -12,6 +12,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <exception>
 #include <vector>
 
 namespace {
@@ -126,6 +127,8 @@ std::unique_ptr<CameraSource> openDescription(const QString &path)
         return std::make_unique<Description>(path);
     } catch (const GenICam::GenericException &e) {
         fail(QString::fromUtf8(e.GetDescription()));
+    } catch (const std::exception &e) { // a file too large for the memory
+        fail(Text::tr("%1: %2").arg(path, QString::fromLocal8Bit(e.what())));
     }
 }
 

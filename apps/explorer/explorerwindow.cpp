@@ -64,7 +64,7 @@ void ExplorerWindow::createStatusBar()
     arrangeRows(QModelIndex(), features);
     m_errorLabel = new QLabel(this);
     statusBar()->addWidget(new QLabel(tr("Features: %1").arg(features.size()), this));
-    statusBar()->addWidget(m_errorLabel);
+    statusBar()->addPermanentWidget(m_errorLabel);
     showErrorCount();
 }
 
