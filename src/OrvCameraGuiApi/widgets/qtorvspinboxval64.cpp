@@ -170,7 +170,7 @@ QLocale QtOrvSpinBoxVal64Private::numberLocale() const
     return locale;
 }
 
-/** Locale and group separators of a widget change without notice, so the validator gets them when it is asked. */
+/** A widget is not told when its group separators are switched, so the validator gets the locale when it is asked. */
 const Int64Validator &QtOrvSpinBoxVal64Private::localizedValidator()
 {
     validator.setLocale(numberLocale());
