@@ -360,6 +360,7 @@ QSize QtOrvSpinBoxVal64Private::measuredSize() const
 
     QStyleOptionSpinBox option;
     q->initStyleOption(&option);
+    // The application's global strut is left out: Qt has deprecated it, and it is empty unless someone sets it.
     const QSize contents(width + cursorWidth, edit()->sizeHint().height());
     return q->style()->sizeFromContents(QStyle::CT_SpinBox, &option, contents, q);
 }

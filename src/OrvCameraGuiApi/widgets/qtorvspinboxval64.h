@@ -13,7 +13,8 @@ class QtOrvSpinBoxVal64Private;
  *
  * It shows prefix, number and suffix. The number is in displayIntegerBase(): in base 10 as the widget's locale writes
  * it, with group separators only if setGroupSeparatorShown(true); in any other base as a minus sign for a negative
- * number, then lower-case digits. Cursor and selection keep to the number, and no edit can damage prefix or suffix.
+ * number, then lower-case digits. What it shows it also reads; base 10 may be typed plainly as well. Cursor and
+ * selection keep to the number, and no edit can damage prefix or suffix.
  *
  * ## When a number is committed
  *
