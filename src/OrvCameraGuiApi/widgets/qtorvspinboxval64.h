@@ -118,7 +118,10 @@ public:
     bool buttonTracking() const;
     void setButtonTracking(bool track);
 
-    /** Both hints take in the longer bound, the special value text, prefix and suffix. */
+    /**
+     * Both hints, in pixels, have room for the wider bound (of its first 20 characters) or the special value text, each
+     * with prefix and suffix. They are measured anew after a change of range, prefix, suffix, font, style or locale.
+     */
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
