@@ -24,8 +24,7 @@ class QtOrvSpinBoxVal64Private;
  * - Typing commits every in-range number at once while keyboardTracking() is on, and puts the value's text back for
  *   anything else. With keyboardTracking() off the typed text waits: Return and Enter commit it; loss of focus, a mouse
  *   press on the box and the keys Up, Down, Page Up and Page Down discard it, or commit it if ignoreFocusOut() is off.
- *   A pop-up such as the context menu leaves it waiting. Text that is not an in-range number is replaced by the
- *   value's.
+ *   Text that is not an in-range number is replaced by the value's.
  * - Stepping commits every step. With buttonTracking() off, the steps of a held arrow button or step key are only
  *   shown, and the number they arrived at is committed on release, or when the focus is lost before. Like
  *   every commit this one is refused outside the range; the shown number then stays as it is.
