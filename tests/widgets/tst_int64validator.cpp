@@ -8,9 +8,6 @@ namespace {
 
 constexpr long long Smallest = std::numeric_limits<long long>::min();
 constexpr long long Largest = std::numeric_limits<long long>::max();
-constexpr auto Acceptable = QValidator::Acceptable;
-constexpr auto Intermediate = QValidator::Intermediate;
-constexpr auto Invalid = QValidator::Invalid;
 
 } // namespace
 
@@ -19,118 +16,70 @@ class tst_Int64Validator : public OrvTest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void judges_data();
-    void judges();
-    void readsItsLocale();
-    void announcesBounds();
-    void keepsBaseThatCannotBeUsed();
-};
-
-void tst_Int64Validator::judges_data()
-{
-    QTest::addColumn<long long>("bottom");
-    QTest::addColumn<long long>("top");
-    QTest::addColumn<int>("base");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("state");
-
-    const auto row = [](long long bottom, long long top, int base, const char *text, QValidator::State state) {
-        QTest::addRow("%lld..%lld base %d: \"%s\"", bottom, top, base, text)
-            << bottom << top << base << QString::fromLatin1(text) << int(state);
-    };
-    row(10, 100, 10, "", Intermediate);
-    row(10, 100, 10, "5", Intermediate);
-    row(10, 100, 10, "-", Invalid);
-    row(10, 100, 10, "-5", Invalid);
-    row(10, 100, 10, "10", Acceptable);
-    row(10, 100, 10, "100", Acceptable);
-    row(10, 100, 10, "101", Invalid);
-    row(-10, 100, 10, "-", Intermediate);
-    row(-10, 100, 10, "-10", Acceptable);
-    row(-10, 100, 10, "-11", Invalid);
-    row(-10, 100, 10, "101", Invalid);
-    row(-100, -10, 10, "-5", Intermediate);
-    row(-100, -10, 10, "100", Intermediate);
-    row(-100, -10, 10, "101", Invalid);
-    row(-100, -10, 10, "-10", Acceptable);
-    row(-100, -10, 10, "-101", Invalid);
-    row(100, 10, 10, "50", Intermediate); // exchanged bounds: nothing is in the range
-    row(100, 10, 10, "100", Invalid);
-    row(-10, -100, 10, "-50", Intermediate);
-    row(Smallest, -1, 10, "9223372036854775807", Intermediate);
-    row(Smallest, Largest, 10, "-9223372036854775808", Acceptable);
-    row(Smallest, Largest, 10, "9223372036854775808", Invalid);
-    row(Smallest, Largest, 10, "ff", Invalid);
-    row(Smallest, Largest, 10, "1e3", Invalid);
-    row(Smallest, Largest, 16, "-ff", Acceptable);
-    row(Smallest, Largest, 16, "-8000000000000000", Acceptable);
-    row(Smallest, Largest, 16, "1,000", Invalid);
-    row(Smallest, Largest, 2, "12", Invalid);
-}
-
-void tst_Int64Validator::judges()
-{
-    QFETCH(long long, bottom);
-    QFETCH(long long, top);
-    QFETCH(int, base);
-    QFETCH(QString, text);
-    Int64Validator validator(bottom, top);
-    validator.setBase(base);
-    int pos = 0;
-    QTEST(int(validator.validate(text, pos)), "state");
-}
-
-void tst_Int64Validator::readsItsLocale()
-{
-    Int64Validator validator;
-    QLocale german(QLocale::German);
-    validator.setLocale(german);
-    QCOMPARE(validator.toInt64(QStringLiteral("1.234.567")), 1234567);
-    QCOMPARE(validator.toInt64(QStringLiteral("-1.23")), -123); // being edited
-
-    german.setNumberOptions(QLocale::OmitGroupSeparator);
-    validator.setLocale(german);
-    bool ok = true;
-    QCOMPARE(validator.toInt64(QStringLiteral("1.5"), &ok), 0); // no decimal fraction to be taken for 15
-    QVERIFY(!ok);
-
-    const QLocale swedish(QLocale::Swedish); // a minus sign of its own
-    validator.setLocale(swedish);
-    QString minus(swedish.negativeSign());
-    QVERIFY(minus != QLatin1String("-"));
-    int pos = 0;
-    QCOMPARE(validator.validate(minus, pos), Intermediate);
-    QCOMPARE(validator.toInt64(swedish.toString(-7)), -7);
-    QCOMPARE(validator.toInt64(QStringLiteral("-7")), -7);
-}
-
-void tst_Int64Validator::announcesBounds()
-{
-    Int64Validator validator(0, 99);
-    QStringList announced;
-    connect(&validator, &Int64Validator::bottomChanged, &validator,
-            [&](long long bottom) { announced.append(QStringLiteral("bottom %1").arg(bottom)); });
-    connect(&validator, &Int64Validator::topChanged, &validator,
-            [&](long long top) { announced.append(QStringLiteral("top %1").arg(top)); });
-    validator.setRange(Smallest, 5);
-    validator.setRange(Smallest, 5);
-    validator.setProperty("top", Largest);
-    const QStringList expected{QStringLiteral("bottom -9223372036854775808"), QStringLiteral("top 5"),
-                               QStringLiteral("top 9223372036854775807")};
-    QCOMPARE(announced, expected);
-}
-
-void tst_Int64Validator::keepsBaseThatCannotBeUsed()
-{
-    Int64Validator validator;
-    validator.setBase(16);
-    for (const int base : {std::numeric_limits<int>::min(), -2, 0, 1, 37}) {
-        validator.setBase(base);
-        QCOMPARE(validator.base(), 16);
+    void judges_data()
+    {
+        QTest::addColumn<long long>("bottom");
+        QTest::addColumn<long long>("top");
+        QTest::addColumn<int>("base");
+        QTest::addColumn<QString>("acceptable");
+        QTest::addColumn<QString>("intermediate");
+        QTest::addColumn<QString>("invalid");
+        const auto row = [](long long bottom, long long top, int base, const char *acceptable, const char *intermediate,
+                            const char *invalid) {
+            QTest::addRow("%lld to %lld, base %d", bottom, top, base)
+                << bottom << top << base << QString::fromLatin1(acceptable) << QString::fromLatin1(intermediate)
+                << QString::fromLatin1(invalid);
+        };
+        row(10, 100, 10, "10 50 100", "5 0", "- -5 101 500 x 1e1");
+        row(-10, 100, 10, "-10 0 100", "-", "-11 101");
+        row(-100, -10, 10, "-100 -10", "- -5 0 100", "-101 101");
+        row(100, 10, 10, "", "50", "100 -"); // exchanged bounds: nothing is in the range
+        row(-10, -100, 10, "", "- -50", "-100 11");
+        row(Smallest, -1, 10, "-9223372036854775808", "- 9223372036854775807", "9223372036854775808");
+        row(Smallest, Largest, 16, "-ff -8000000000000000 7FFFFFFFFFFFFFFF", "-", "1,000 8000000000000000 g");
     }
-    validator.setBase(36);
-    QCOMPARE(validator.toInt64(QStringLiteral("z")), 35);
-}
+    void judges()
+    {
+        QFETCH(long long, bottom);
+        QFETCH(long long, top);
+        QFETCH(int, base);
+        Int64Validator validator(bottom, top);
+        validator.setBase(base);
+        validator.setBase(1); // cannot be used
+        validator.setBase(37);
+        const auto verdict = [&validator](QString text) {
+            int pos = 0;
+            return validator.validate(text, pos);
+        };
+        QCOMPARE(verdict(QString()), QValidator::Intermediate);
+        const char *const columns[] = {"invalid", "intermediate", "acceptable"}; // in the order of QValidator::State
+        for (const int state : {QValidator::Invalid, QValidator::Intermediate, QValidator::Acceptable}) {
+            const QString texts = *static_cast<QString *>(QTest::qData(columns[state], QMetaType::QString));
+            for (const QString &text : texts.split(QLatin1Char(' '), Qt::SkipEmptyParts))
+                QVERIFY2(verdict(text) == state, qPrintable(text));
+        }
+    }
+
+    void readsItsLocale()
+    {
+        Int64Validator validator;
+        QLocale german(QLocale::German);
+        validator.setLocale(german);
+        QCOMPARE(validator.toInt64(QStringLiteral("-1.234.56")), -123456); // being edited
+        german.setNumberOptions(QLocale::OmitGroupSeparator);
+        validator.setLocale(german);
+        bool ok = true;
+        QCOMPARE(validator.toInt64(QStringLiteral("1.5"), &ok), 0); // no decimal fraction to be taken for 15
+        QVERIFY(!ok);
+
+        const QLocale swedish(QLocale::Swedish); // a minus sign of its own
+        validator.setLocale(swedish);
+        QString minus(swedish.negativeSign());
+        int pos = 0;
+        QCOMPARE(validator.validate(minus, pos), QValidator::Intermediate);
+        QCOMPARE(validator.toInt64(minus + QLatin1Char('7')), -7);
+    }
+};
 
 ORV_TEST_MAIN(tst_Int64Validator)
 
