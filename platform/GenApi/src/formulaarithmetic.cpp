@@ -1,0 +1,269 @@
+#include "formulaarithmetic.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+
+namespace OrvGenApi {
+
+namespace {
+
+template <typename Value>
+bool compare(Op op, Value a, Value b)
+{
+    switch (op) {
+    case Op::Less:
+        return a < b;
+    case Op::Greater:
+        return a > b;
+    case Op::LessOrEqual:
+        return a <= b;
+    case Op::GreaterOrEqual:
+        return a >= b;
+    case Op::Equal:
+        return a == b;
+    default:
+        return a != b;
+    }
+}
+
+/** Throws when \a result is no number or infinite though the operands are fine. */
+double checked(double result, bool operandsFinite)
+{
+    if (operandsFinite && !std::isfinite(result))
+        throw FormulaError{"no finite result"};
+    return result;
+}
+
+} // namespace
+
+int64_t toInteger(double value)
+{
+    constexpr double limit = 9223372036854775808.0;
+    if (std::isnan(value))
+        return 0;
+    if (value >= limit)
+        return std::numeric_limits<int64_t>::max();
+    return value < -limit ? std::numeric_limits<int64_t>::min() : static_cast<int64_t>(value);
+}
+
+int64_t IntArithmetic::unary(Op op, Value a)
+{
+    switch (op) {
+    case Op::ToBool:
+        return a != 0;
+    case Op::Negate:
+        return negate(a);
+    case Op::Invert:
+        return ~a;
+    case Op::Sgn:
+        return (a > 0) - (a < 0);
+    case Op::Abs:
+        return a < 0 ? negate(a) : a;
+    case Op::Round:
+    case Op::Floor:
+    case Op::Ceil:
+    case Op::Trunc:
+        return a;
+    case Op::Sqrt:
+        return squareRoot(a);
+    default:
+        return toInteger(FloatArithmetic::unary(op, static_cast<double>(a)));
+    }
+}
+
+int64_t IntArithmetic::binary(Op op, Value a, Value b)
+{
+    switch (op) {
+    case Op::RoundTo:
+        return roundTo(a, b);
+    case Op::Power:
+        return power(a, b);
+    case Op::Multiply:
+        return wrapped(bits(a) * bits(b));
+    case Op::Divide:
+        return divide(a, b);
+    case Op::Modulo:
+        return wrapped(bits(a) - bits(divide(a, b)) * bits(b));
+    case Op::Add:
+        return wrapped(bits(a) + bits(b));
+    case Op::Subtract:
+        return wrapped(bits(a) - bits(b));
+    case Op::ShiftLeft:
+        return shiftLeft(a, b);
+    case Op::ShiftRight:
+        return shiftRight(a, b);
+    case Op::And:
+        return a & b;
+    case Op::Xor:
+        return a ^ b;
+    case Op::Or:
+        return a | b;
+    default:
+        return compare(op, a, b);
+    }
+}
+
+/** Cut off; the floating-point root is the first guess only. */
+int64_t IntArithmetic::squareRoot(Value a)
+{
+    if (a < 0)
+        throw FormulaError{"no finite result"};
+    const uint64_t square = bits(a);
+    auto root = static_cast<uint64_t>(std::sqrt(static_cast<double>(a)));
+    while (root * root > square)
+        --root;
+    while ((root + 1) * (root + 1) <= square)
+        ++root;
+    return wrapped(root);
+}
+
+int64_t IntArithmetic::power(Value base, Value exponent)
+{
+    if (exponent < 0) {
+        // The reciprocal of the power, cut off: the division leaves something of 1 only.
+        if (base == -1)
+            return exponent % 2 == 0 ? 1 : -1;
+        return divide(1, base);
+    }
+    uint64_t result = 1;
+    uint64_t factor = bits(base);
+    for (uint64_t rest = bits(exponent); rest != 0; rest >>= 1) {
+        if (rest & 1)
+            result *= factor;
+        factor *= factor;
+    }
+    return wrapped(result);
+}
+
+int64_t IntArithmetic::divide(Value a, Value b)
+{
+    if (b == 0)
+        throw FormulaError{"division by zero"};
+    return b == -1 ? negate(a) : a / b;
+}
+
+int64_t IntArithmetic::shiftLeft(Value a, Value amount)
+{
+    if (amount < 0)
+        return shiftRight(a, amount < -64 ? 64 : -amount);
+    return amount > 63 ? 0 : wrapped(bits(a) << amount);
+}
+
+int64_t IntArithmetic::shiftRight(Value a, Value amount)
+{
+    if (amount < 0)
+        return shiftLeft(a, amount < -64 ? 64 : -amount);
+    return a >> std::min<Value>(amount, 63);
+}
+
+/** Only a negative number of digits changes anything: then so many digits before the point become zeros. */
+int64_t IntArithmetic::roundTo(Value a, Value digits)
+{
+    if (digits >= 0)
+        return a;
+    if (digits < -18)
+        return 0;
+    const Value scale = power(10, -digits);
+    const Value rest = a % scale;
+    const Value away = rest * 2 >= scale ? 1 : rest * 2 <= -scale ? -1 : 0;
+    return wrapped(bits(a / scale + away) * bits(scale));
+}
+
+double FloatArithmetic::unary(Op op, Value a)
+{
+    switch (op) {
+    case Op::ToBool:
+        return a != 0;
+    case Op::Negate:
+        return -a;
+    case Op::Invert:
+        return static_cast<Value>(~toInteger(a));
+    case Op::Sgn:
+        return (a > 0) - (a < 0);
+    case Op::Abs:
+        return std::abs(a);
+    case Op::Round:
+        return std::round(a);
+    case Op::Floor:
+        return std::floor(a);
+    case Op::Ceil:
+        return std::ceil(a);
+    case Op::Trunc:
+        return std::trunc(a);
+    default:
+        return checked(transcendental(op, a), std::isfinite(a));
+    }
+}
+
+double FloatArithmetic::transcendental(Op op, Value a)
+{
+    switch (op) {
+    case Op::Sqrt:
+        return std::sqrt(a);
+    case Op::Sin:
+        return std::sin(a);
+    case Op::Cos:
+        return std::cos(a);
+    case Op::Tan:
+        return std::tan(a);
+    case Op::Asin:
+        return std::asin(a);
+    case Op::Acos:
+        return std::acos(a);
+    case Op::Atan:
+        return std::atan(a);
+    case Op::Exp:
+        return std::exp(a);
+    case Op::Ln:
+        return std::log(a);
+    default:
+        return std::log10(a);
+    }
+}
+
+double FloatArithmetic::binary(Op op, Value a, Value b)
+{
+    switch (op) {
+    case Op::RoundTo:
+        return roundTo(a, b);
+    case Op::Power:
+        return checked(std::pow(a, b), std::isfinite(a) && std::isfinite(b));
+    case Op::Multiply:
+        return a * b;
+    case Op::Divide:
+        return divide(a, b);
+    case Op::Add:
+        return a + b;
+    case Op::Subtract:
+        return a - b;
+    case Op::Modulo:
+    case Op::ShiftLeft:
+    case Op::ShiftRight:
+    case Op::And:
+    case Op::Xor:
+    case Op::Or:
+        return static_cast<Value>(IntArithmetic::binary(op, toInteger(a), toInteger(b)));
+    default:
+        return compare(op, a, b);
+    }
+}
+
+double FloatArithmetic::divide(Value a, Value b)
+{
+    if (b == 0)
+        throw FormulaError{"division by zero"};
+    return a / b;
+}
+
+double FloatArithmetic::roundTo(Value a, Value digits)
+{
+    constexpr int64_t most = std::numeric_limits<Value>::max_exponent10;
+    const int64_t places = std::clamp(toInteger(digits), -most, most);
+    const Value scale = std::pow(10.0, static_cast<Value>(std::abs(places)));
+    const Value rounded = places < 0 ? std::round(a / scale) * scale : std::round(a * scale) / scale;
+    return std::isfinite(rounded) ? rounded : a;
+}
+
+} // namespace OrvGenApi

@@ -1,0 +1,299 @@
+#include "formula.h"
+
+#include <orvtest.h>
+
+#include <cmath>
+#include <limits>
+#include <random>
+
+using OrvGenApi::Formula;
+using OrvGenApi::FormulaError;
+using OrvGenApi::FormulaScope;
+
+namespace {
+
+constexpr int64_t Smallest = std::numeric_limits<int64_t>::min();
+constexpr int64_t Largest = std::numeric_limits<int64_t>::max();
+
+/** Gives A = 5, B = -3, Z = 0, W.Max = 2000000000000001 and counts how often it is asked. */
+class Values : public Formula::Symbols
+{
+public:
+    int64_t intValue(unsigned slot) override
+    {
+        ++reads;
+        return values[slot];
+    }
+    double floatValue(unsigned slot) override { return static_cast<double>(intValue(slot)); }
+
+    std::vector<int64_t> values{5, -3, 0, 2000000000000001};
+    int reads = 0;
+};
+
+const FormulaScope &scope()
+{
+    static const FormulaScope result{
+        {"A", "B", "Z", "W.Max"},
+        {{"K", " -10 "}, {"SIN", "7"}, {"A", "99"}},
+        {{"SUM", "A + B"}, {"TWICE", "SUM * 2"}, {"LOOP", "1 + LOOP2"}, {"LOOP2", "LOOP"}}};
+    return result;
+}
+
+int64_t integer(const std::string &text)
+{
+    Values values;
+    return Formula::parse(text, scope(), Formula::Kind::Integer).evaluateInt(values);
+}
+
+double real(const std::string &text)
+{
+    Values values;
+    return Formula::parse(text, scope(), Formula::Kind::Float).evaluateFloat(values);
+}
+
+std::string repeated(const std::string &text, int count)
+{
+    return QString::fromStdString(text).repeated(count).toStdString();
+}
+
+} // namespace
+
+class tst_Formula : public OrvTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void integers_data();
+    void integers();
+    void floats_data();
+    void floats();
+    void errors_data();
+    void errors();
+    void readsOnlyWhatIsNeededAndThatOnce();
+    void limitsNestingOnly();
+    void expandsDefinitionsUpToALimit();
+    void takesManyVariables();
+    void survivesMutations();
+};
+
+void tst_Formula::integers_data()
+{
+    QTest::addColumn<qlonglong>("expected");
+    const auto row = [](const char *formula, int64_t expected) { QTest::newRow(formula) << qlonglong(expected); };
+    // Precedence and associativity.
+    row("2 + 3 * 4 - 10 / 5 % 2", 14);
+    row("10 - 4 - 3", 3);
+    row("-2**2", 4);
+    row("2**3**2", 512);
+    row("3*2**-1+1", 1);
+    row("1 | 6 ^ 3 & 5 = 5", 1 | (6 ^ (3 & 1)));
+    row("1 << 2 + 1 < 9 = 1", 1);
+    row("0 && 0 || 7", 1);
+    row("2 && B", 1);
+    row("1 || 0 && 0", 1);
+    row("0 ? 1 : 0 ? 2 : 1 ? 3 : 4", 3);
+    row("1 ? 0 ? 1 : 2 : 3", 2);
+    row("(A<>5)||(A>=5)&&(B<=-3)", 1);
+    row("A > B | 4", 5);
+    row("~-+A", 4);
+    row("A--B", 2);
+    row("\t\n( A )\r\n*2 ", 10);
+    // Names.
+    row("W.Max+K", 1999999999999991);
+    row("A", 5);
+    row("TWICE", 4);
+    row("SUM * 3", 6);
+    row("SIN + COS(Z)", 8);
+    // Literals.
+    row("0xfF + 010", 265);
+    row("0xFFFFFFFFFFFFFFFF", -1);
+    row("18446744073709551615", -1);
+    row("8388607 + 8388608 - 0X800000", 8388607);
+    row("2.9 + 1e3 + .5", 1002);
+    row("-1e30", -Largest);
+    // Wrapping and exactness.
+    row("9223372036854775807 + 1", Smallest);
+    row("-0x8000000000000000 - 1", Largest);
+    row("0x8000000000000000 / -1", Smallest);
+    row("0x8000000000000000 % -1", 0);
+    row("ABS(0x8000000000000000)", Smallest);
+    row("9007199254740993 * 3 / 3", 9007199254740993);
+    row("3**39", 4052555153018976267);
+    row("2**63", Smallest);
+    row("(-1)**-3 + 1**-9 + 5**-1", 0);
+    row("-7 / 2 * 10 + -7 % 2", -31);
+    row("1 << 63", Smallest);
+    row("(1 << 64) + (-8 >> 64) + (8 >> -2) + (8 << -2) + (1 << 0x8000000000000000)", 33);
+    // Functions.
+    row("SGN(B) + NEG(B) + ABS(B)", 5);
+    row("SQRT(9223372036854775807)", 3037000499);
+    row("SQRT(4503599761588224) + sqrt(4503599761588223)", 67108865 + 67108864 - 1);
+    row("ROUND(-1250, -2) + ROUND(1249, -2) + ROUND(7, 2)", -93);
+    row("EXP(100) - LG(1000)", Largest - 3);
+}
+
+void tst_Formula::integers()
+{
+    QFETCH(qlonglong, expected);
+    QCOMPARE(qlonglong(integer(QTest::currentDataTag())), expected);
+}
+
+void tst_Formula::floats_data()
+{
+    QTest::addColumn<double>("expected");
+    const auto row = [](const char *formula, double expected) { QTest::newRow(formula) << expected; };
+    row("7 / 2", 3.5);
+    row("1000000 / -8e-1", -1250000);
+    row("10**(A/2)", std::pow(10, 2.5));
+    row("2**-1 + -2**2", 4.5);
+    row("(A > 4.5) + (A = 5) * 2 + (A <> 5)", 3);
+    row("0.1 && 0.0 || Z", 0);
+    row("0.5 ? 1.25 : 2", 1.25);
+    row("0xFFFFFFFFFFFFFFFF", 18446744073709551615.0);
+    row("16777216.5 + 1.5e-3", 16777216.5015);
+    row("7.9 & 3.9 | 8", 11);
+    row("~0.9 + (1 << 3.7) + 7.5 % 4", 10);
+    row("(1e300 & -1) - 9223372036854775807", 0);
+    row("SGN(-0.5) + NEG(2.5) + ABS(-2.25)", -1.25);
+    row("ROUND(2.5) + ROUND(-2.5) + FLOOR(-1.5) + CEIL(-1.5) + TRUNC(-1.5)", -4);
+    row("ROUND(2.567, 1) + ROUND(1250, -2) + ROUND(1.5, 400) + ROUND(5, -400)", 1304.1);
+    row("SQRT(2.25) + EXP(0) + LN(E ** 2) + LG(1000)", 7.5);
+    row("COS(PI) + TAN(0) + 6 * ASIN(0.5) / PI + ACOS(1) + 4 * ATAN(1) / PI", 1);
+    row("TWICE / K", -0.4);
+    row("Z ? 1 / Z : Z && 1 / Z || 1", 1);
+}
+
+void tst_Formula::floats()
+{
+    QFETCH(double, expected);
+    const double actual = real(QTest::currentDataTag());
+    QVERIFY2(std::abs(actual - expected) <= 1e-14 * std::abs(expected), qPrintable(QString::number(actual, 'g', 17)));
+}
+
+void tst_Formula::errors_data()
+{
+    QTest::addColumn<QString>("forInteger");
+    QTest::addColumn<QString>("forFloat");
+    const auto row = [](const char *formula, const char *forInteger, const char *forFloat = nullptr) {
+        QTest::newRow(formula) << QString::fromLatin1(forInteger)
+                               << QString::fromLatin1(forFloat ? forFloat : forInteger);
+    };
+    row("", "expected a value at character 1");
+    row("A * ", "expected a value at character 5");
+    row("(A", "expected \")\" at character 3");
+    row("A)", "expected an operator at character 2");
+    row("A == 5", "expected a value at character 4");
+    row("A ? 1", "expected \":\" at character 6");
+    row("A 5", "expected an operator at character 3");
+    row("1 + a", "unknown name \"a\" at character 5");
+    row("ABS", "unknown name \"ABS\" at character 1");
+    row("ABS(1, 2)", "expected \")\" at character 6");
+    row("SIN(1)", "expected an operator at character 4");
+    row("12A", "malformed number at character 1");
+    row("1 + 0x", "malformed number at character 5");
+    row(".", "malformed number at character 1");
+    row("1e999", "number out of range at character 1");
+    row("LOOP", "\"LOOP\" uses itself at character 5 of \"LOOP2\"");
+    row("A / Z", "division by zero");
+    row("A % Z", "division by zero");
+    row("0 ** -1", "division by zero", "no finite result");
+    row("SQRT(B)", "no finite result");
+    row("LN(Z)", "no finite result");
+}
+
+void tst_Formula::errors()
+{
+    const auto message = [](auto evaluate) -> QString {
+        try {
+            return QString::number(evaluate(QTest::currentDataTag()));
+        } catch (const FormulaError &error) {
+            return QString::fromStdString(error.message);
+        }
+    };
+    QTEST(message(integer), "forInteger");
+    QTEST(message(real), "forFloat");
+}
+
+void tst_Formula::readsOnlyWhatIsNeededAndThatOnce()
+{
+    const auto reads = [](const char *text) {
+        Values values;
+        Formula::parse(text, scope(), Formula::Kind::Integer).evaluateInt(values);
+        return values.reads;
+    };
+    QCOMPARE(reads("A * A + A"), 1);
+    QCOMPARE(reads("Z ? B / Z : A"), 2);
+    QCOMPARE(reads("A ? 7 : B / Z"), 1);
+    QCOMPARE(reads("Z && A / Z || A || B / Z"), 2);
+}
+
+void tst_Formula::limitsNestingOnly()
+{
+    const std::pair<const char *, const char *> brackets[] = {
+        {"(", ")"}, {"-", ""}, {"1 ? ", ":0"}, {"ROUND(1,", ")"}, {"1**", ""}, {"1|1^1&1=1<1<<1+1*(", ")"}};
+    for (const auto &[opening, closing] : brackets) {
+        QVERIFY(integer(repeated(opening, 499) + "1" + repeated(closing, 499)) >= -1);
+        QVERIFY_EXCEPTION_THROWN(integer(repeated(opening, 501) + "1" + repeated(closing, 501)), FormulaError);
+    }
+    QVERIFY_EXCEPTION_THROWN(integer(repeated("(", 60000)), FormulaError);
+    QVERIFY_EXCEPTION_THROWN(integer(repeated("(", 100000)), FormulaError);
+    QCOMPARE(integer(repeated("A = 1 ? 2 : ", 5000) + "3"), int64_t(3));
+    QCOMPARE(integer("0" + repeated(" + 1", 10000)), int64_t(10000));
+}
+
+void tst_Formula::expandsDefinitionsUpToALimit()
+{
+    std::vector<std::string> names{"X0"};
+    std::vector<std::string> texts{"1"};
+    for (int i = 1; i <= 60; ++i) {
+        texts.push_back(names.back() + "+" + names.back());
+        names.push_back("X" + std::to_string(i));
+    }
+    FormulaScope doubled;
+    for (size_t i = 0; i < names.size(); ++i)
+        doubled.expressions.emplace_back(names[i], texts[i]);
+    Values values;
+    QCOMPARE(Formula::parse("X10", doubled, Formula::Kind::Integer).evaluateInt(values), int64_t(1024));
+    QVERIFY_EXCEPTION_THROWN(Formula::parse("X60", doubled, Formula::Kind::Integer), FormulaError);
+}
+
+void tst_Formula::takesManyVariables()
+{
+    std::vector<std::string> names;
+    for (int i = 0; i < 1000; ++i)
+        names.push_back("V" + std::to_string(i));
+    Values values;
+    values.values.assign(names.size(), 2);
+    const FormulaScope many{{names.begin(), names.end()}, {}, {}};
+    QCOMPARE(Formula::parse("V999*V15+V16*V16", many, Formula::Kind::Integer).evaluateInt(values), int64_t(8));
+    QCOMPARE(values.reads, 3);
+    QVERIFY_EXCEPTION_THROWN(Formula().evaluateInt(values), FormulaError);
+}
+
+/** Whatever stands in a formula, there is a value or a FormulaError. */
+void tst_Formula::survivesMutations()
+{
+    const std::string seeds[] = {"((A ^ 5) & 0xFF) + (B % 7) - (~B & 3) + ((A > B || A <> 3) ? TWICE : 20) / Z ** -3",
+                                 "ROUND(SQRT(ABS(A)) * 1.5e3, 2) << W.Max >> K = LN(E) && 0x8000000000000000 / -1"};
+    const std::string alphabet = "()+-*/%&|^~<>=?:,. 019xEABZ\n\xC3";
+    std::mt19937 random(20240607);
+    int evaluated = 0;
+    for (int i = 0; i < 4000; ++i) {
+        std::string text = seeds[i % 2];
+        for (unsigned edits = random() % 4 + 1; edits > 0; --edits)
+            text.replace(random() % text.size(), random() % 2, 1, alphabet[random() % alphabet.size()]);
+        for (double (*evaluate)(const std::string &) : {+[](const std::string &t) { return double(integer(t)); },
+                                                        +[](const std::string &t) { return real(t); }}) {
+            try {
+                evaluate(text);
+                ++evaluated;
+            } catch (const FormulaError &error) {
+                QVERIFY(!error.message.empty());
+            }
+        }
+    }
+    QVERIFY2(evaluated > 100, "mutations that leave nothing to evaluate test the parser only");
+}
+
+ORV_TEST_MAIN(tst_Formula)
+#include "tst_formula.moc"
