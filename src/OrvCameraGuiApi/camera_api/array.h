@@ -1,0 +1,46 @@
+#pragma once
+
+#include <OrvCameraGuiApi/camera_api/cameraapi.h>
+#include <OrvCameraGuiApi/camera_api/orvcamerr.h>
+
+#include <GenApi/INodeMap.h>
+
+#include <cstdint>
+
+namespace OrvGenParam {
+
+class Boolean;
+class Command;
+class Enum;
+class Int;
+class String;
+
+/**
+ * All parameters of a device or an interface, by feature name (UTF-8). Lives as long as the object that it came from,
+ * and so do the parameters.
+ *
+ * A lookup is null when there is no such feature or when it has another kind; \a err, which may be null, tells which.
+ */
+class ORV_CAMERA_API Array
+{
+protected:
+    virtual ~Array() = default;
+
+public:
+    virtual Boolean *GetBoolean(const char *name, OrvCamErr *err) = 0;
+    virtual Command *GetCommand(const char *name, OrvCamErr *err) = 0;
+    virtual Enum *GetEnum(const char *name, OrvCamErr *err) = 0;
+    virtual Int *GetInt(const char *name, OrvCamErr *err) = 0;
+    virtual String *GetString(const char *name, OrvCamErr *err) = 0;
+
+    /** The node map behind the parameters; belongs to the array. */
+    virtual GenApi::INodeMap *GetNodeMap() = 0;
+
+    /** Sets an integer feature by name. */
+    virtual OrvCamErr SetIntegerValue(const char *name, std::int64_t value) = 0;
+
+    /** Reads an integer feature by name; 0 and the reason in \a err when that fails. */
+    virtual std::int64_t GetIntegerValue(const char *name, OrvCamErr *err) = 0;
+};
+
+} // namespace OrvGenParam

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <OrvCameraGuiApi/camera_api/param.h>
+
+namespace OrvGenParam {
+
+/** A truth value. */
+class ORV_CAMERA_API Boolean : public virtual Param
+{
+protected:
+    ~Boolean() override = default;
+
+public:
+    virtual OrvCamErr SetValue(bool value) = 0;
+    virtual bool GetValue(OrvCamErr *err) = 0;
+};
+
+} // namespace OrvGenParam

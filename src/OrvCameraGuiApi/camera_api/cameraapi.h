@@ -1,0 +1,7 @@
+#pragma once
+
+/**
+ * Marks the classes and functions that cross the border to the camera access library. Their type information has to be
+ * one and the same on both sides, or a dynamic_cast from Param to its kinds fails.
+ */
+#define ORV_CAMERA_API __attribute__((visibility("default")))
