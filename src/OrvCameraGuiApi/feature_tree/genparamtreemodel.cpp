@@ -1,0 +1,449 @@
+#include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
+
+#include <OrvCameraGuiApi/feature_tree/blockarena.h>
+#include <OrvCameraGuiApi/feature_tree/genparameditor.h>
+#include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
+#include <OrvCameraGuiApi/feature_tree/genparamwhatsthis.h>
+#include <OrvCameraGuiApi/feature_tree/nodechangeforwarder.h>
+
+#include <QBrush>
+#include <QGuiApplication>
+#include <QPalette>
+
+#include <algorithm>
+#include <cstring>
+#include <limits>
+#include <map>
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace {
+
+struct IndexFeature;
+
+/** A row's identity; the internal pointer of model indexes. */
+using FeatureEntry = std::pair<GenApi::IValue *const, IndexFeature>;
+
+/** Where a feature stands. There is one a feature, so it is kept small. */
+struct IndexFeature
+{
+    FeatureEntry *parent = nullptr; ///< null at the root level
+    FeatureEntry **children = nullptr; ///< null for what is no category, and for one that is not entered
+    qint32 row = 0;
+    qint32 childCount = 0;
+    const char *name = ""; ///< of the node, UTF-8, in the arena
+};
+
+/** A category whose features are being added; null and the root's rows for the root. */
+struct Visit
+{
+    FeatureEntry *category;
+    FeatureEntry **children;
+    GenApi::FeatureList_t features;
+    qint32 count;
+    qint32 next;
+};
+
+/** Of what has failed. */
+constexpr QColor errorColor(255, 0, 0);
+
+QBrush paletteBrush(QPalette::ColorGroup group, QPalette::ColorRole role)
+{
+    return QBrush(QGuiApplication::palette().color(group, role));
+}
+
+void registerMetaTypes()
+{
+    qRegisterMetaType<GenApi::IValue *>("GenApi::IValue*");
+    qRegisterMetaType<QVector<int>>("QVector<int>");
+    qRegisterMetaType<ControlData>("ControlData");
+    qRegisterMetaType<VariantData>("VariantData");
+}
+
+GenApi::INodeMap *nodeMapOf(OrvGenParam::Array *params)
+{
+    GenApi::INodeMap *nodeMap = nullptr;
+    if (params)
+        failureOf([&] { nodeMap = params->GetNodeMap(); });
+    return nodeMap;
+}
+
+} // namespace
+
+class GenParamTreeModelPrivate
+{
+public:
+    GenParamTreeModelPrivate(GenParamTreeModel *model, GenApi::INodeMap *map);
+    ~GenParamTreeModelPrivate();
+    Q_DISABLE_COPY(GenParamTreeModelPrivate)
+
+    void build();
+    void enter(GenApi::ICategory &category, FeatureEntry *entry);
+    FeatureEntry *addFeature(GenApi::IValue *value, FeatureEntry *parent, qint32 row);
+    FeatureEntry *furtherOccurrence(FeatureEntry *first, FeatureEntry *parent, qint32 row);
+    void describe(FeatureEntry &entry);
+    const char *keepText(const GenICam::gcstring &text);
+    void nodeChanged(GenApi::IValue *value);
+
+    static FeatureEntry &entryOf(const QModelIndex &index);
+    GenParamFeature featureOf(const QModelIndex &index) const;
+    bool hasError(const GenParamFeature &feature) const;
+
+    QVariant controlData(const GenParamFeature &feature) const;
+    QVariant nameData(const GenParamFeature &feature, int role) const;
+    QString displayName(const GenParamFeature &feature) const;
+    QString nameToolTip(const GenParamFeature &feature) const;
+    QVariant valueData(const QModelIndex &index, int role);
+    QVariant readValue(const GenParamFeature &feature, int role) const;
+    QVariant valueForeground(const GenParamFeature &feature, GenApi::EInterfaceType type) const;
+    void recordError(const QModelIndex &index, const QString &message, int role);
+
+    GenParamTreeModel *const q;
+    GenApi::INodeMap *const nodeMap;
+    bool addressesAreDeclared = false; ///< the node map tells which integers are addresses: names tell nothing
+    const GenICam::gcstring currentAddressName = "GevCurrentIPAddress";
+    std::vector<GenApi::CallbackHandleType> callbacks;
+    BlockArena arena; ///< of the entries, the child arrays and the names
+    std::pmr::map<GenApi::IValue *, IndexFeature> entries{&arena};
+    std::vector<FeatureEntry **> childArrays;
+    FeatureEntry **rootChildren = nullptr;
+    qint32 rootChildCount = 0;
+
+    GenApi::IValue *root = nullptr;
+    std::vector<Visit> visits; ///< while the tree is built: the way from the root to the category being visited
+    const std::shared_ptr<NodeChangeForwarder> forwarder;
+};
+
+GenParamTreeModelPrivate::GenParamTreeModelPrivate(GenParamTreeModel *model, GenApi::INodeMap *map)
+    : q(model)
+    , nodeMap(map)
+    , forwarder(std::make_shared<NodeChangeForwarder>(model, [this](GenApi::IValue *value) { nodeChanged(value); }))
+{
+    registerMetaTypes();
+    if (failureOf([this] { build(); }))
+        rootChildCount = 0;
+    callbacks.shrink_to_fit();
+    visits = {};
+}
+
+GenParamTreeModelPrivate::~GenParamTreeModelPrivate()
+{
+    forwarder->detach();
+    for (const GenApi::CallbackHandleType callback : callbacks)
+        failureOf([&] { GenApi::Deregister(callback); });
+}
+
+/** Adds all features, depth first. Not recursive: a description decides how deep its categories are nested. */
+void GenParamTreeModelPrivate::build()
+{
+    const GenApi::CCategoryPtr category(nodeMap ? nodeMap->GetNode("Root") : nullptr);
+    if (!category.IsValid())
+        return;
+    root = category;
+    enter(*category, nullptr);
+    while (!visits.empty()) {
+        Visit &visit = visits.back();
+        if (visit.next == visit.count) {
+            visits.pop_back();
+            continue;
+        }
+        // Adding a category begins a visit, which may move this one.
+        FeatureEntry **const slot = visit.children + visit.next;
+        const qint32 row = visit.next++;
+        *slot = addFeature(visit.features[size_t(row)], visit.category, row);
+    }
+}
+
+void GenParamTreeModelPrivate::enter(GenApi::ICategory &category, FeatureEntry *entry)
+{
+    GenApi::FeatureList_t features;
+    if (failureOf([&] { category.GetFeatures(features); }))
+        features.clear();
+    const auto count = qint32(std::min<size_t>(features.size(), std::numeric_limits<qint32>::max()));
+    auto **const children =
+        static_cast<FeatureEntry **>(arena.allocate(size_t(count) * sizeof(FeatureEntry *), alignof(FeatureEntry *)));
+    childArrays.push_back(children);
+    (entry ? entry->second.children : rootChildren) = children;
+    (entry ? entry->second.childCount : rootChildCount) = count;
+    visits.push_back({entry, children, std::move(features), count, 0});
+}
+
+FeatureEntry *GenParamTreeModelPrivate::addFeature(GenApi::IValue *value, FeatureEntry *parent, qint32 row)
+{
+    const size_t known = entries.size();
+    // Nodes come mostly in the order in which they were made, which the hint makes cheap.
+    FeatureEntry &entry = *entries.try_emplace(entries.end(), value, IndexFeature{parent, nullptr, row, 0, ""});
+    const bool isNew = entries.size() > known;
+    failureOf([&] { callbacks.push_back(GenApi::Register(GenApi::CNodePtr(value), NodeChangeCallback(forwarder))); });
+    if (!isNew)
+        return furtherOccurrence(&entry, parent, row);
+    failureOf([&] { describe(entry); });
+    // A category is entered only where it stands first: no description can make this endless.
+    const GenApi::CCategoryPtr category(value);
+    if (category.IsValid() && value != root)
+        enter(*category, &entry);
+    return &entry;
+}
+
+/**
+ * A feature that is listed again keeps the place of its first occurrence, intentionally. Only a category inside itself
+ * gets an entry for this one row, without children: otherwise a view that expands all would find no end.
+ */
+FeatureEntry *GenParamTreeModelPrivate::furtherOccurrence(FeatureEntry *first, FeatureEntry *parent, qint32 row)
+{
+    const FeatureEntry *ancestor = first->second.children ? parent : nullptr;
+    while (ancestor && ancestor != first)
+        ancestor = ancestor->second.parent;
+    if (!ancestor)
+        return first;
+    void *const place = arena.allocate(sizeof(FeatureEntry), alignof(FeatureEntry));
+    return new (place) FeatureEntry(first->first, IndexFeature{parent, nullptr, row, 0, first->second.name});
+}
+
+/** Keeps the name, and learns from it whether this node map declares addresses. */
+void GenParamTreeModelPrivate::describe(FeatureEntry &entry)
+{
+    const GenICam::gcstring name = GenApi::CNodePtr(entry.first)->GetName();
+    entry.second.name = keepText(name);
+    if (name == currentAddressName) {
+        const GenApi::CIntegerPtr address(entry.first);
+        if (address.IsValid() && address->GetRepresentation() == GenApi::IPV4Address)
+            addressesAreDeclared = true;
+    }
+}
+
+const char *GenParamTreeModelPrivate::keepText(const GenICam::gcstring &text)
+{
+    const size_t size = text.length() + 1;
+    return static_cast<const char *>(std::memcpy(arena.allocate(size, 1), text.c_str(), size));
+}
+
+void GenParamTreeModelPrivate::nodeChanged(GenApi::IValue *value)
+{
+    const auto entry = entries.find(value);
+    if (entry == entries.end())
+        return;
+    const QModelIndex cell = q->createIndex(entry->second.row, GenParamTreeModel::ValueColumn, &*entry);
+    Q_EMIT q->dataChanged(cell, cell, QVector<int>());
+}
+
+FeatureEntry &GenParamTreeModelPrivate::entryOf(const QModelIndex &index)
+{
+    return *static_cast<FeatureEntry *>(index.internalPointer());
+}
+
+GenParamFeature GenParamTreeModelPrivate::featureOf(const QModelIndex &index) const
+{
+    const FeatureEntry &entry = entryOf(index);
+    return GenParamFeature(entry.first, entry.second.name, !addressesAreDeclared);
+}
+
+bool GenParamTreeModelPrivate::hasError(const GenParamFeature &feature) const
+{
+    return q->m_errors.hasErrors() && q->m_errors.hasError(feature.name());
+}
+
+/** Invalid where there is no editor, or a getter that one needs throws. */
+QVariant GenParamTreeModelPrivate::controlData(const GenParamFeature &feature) const
+{
+    ControlData control;
+    failureOf([&] { control = createGenParamEditor(feature); });
+    return control.editor ? QVariant::fromValue(control) : QVariant();
+}
+
+QVariant GenParamTreeModelPrivate::nameData(const GenParamFeature &feature, int role) const
+{
+    switch (role) {
+    case Qt::DisplayRole:
+        return displayName(feature);
+    case Qt::ToolTipRole:
+        return nameToolTip(feature);
+    case Qt::BackgroundRole: {
+        bool isCategory = false;
+        failureOf([&] { isCategory = feature.type() == GenApi::intfICategory; });
+        return isCategory ? paletteBrush(QPalette::Active, QPalette::Midlight) : QVariant();
+    }
+    case Qt::ForegroundRole:
+        return hasError(feature) ? QBrush(errorColor) : QVariant();
+    default:
+        return {};
+    }
+}
+
+QString GenParamTreeModelPrivate::displayName(const GenParamFeature &feature) const
+{
+    QString text;
+    failureOf([&] { text = fromGenICam(feature.node()->GetDisplayName()); });
+    return text.isEmpty() ? feature.name() : text;
+}
+
+QString GenParamTreeModelPrivate::nameToolTip(const GenParamFeature &feature) const
+{
+    if (hasError(feature))
+        return q->m_errors.firstMessage(feature.name());
+    QString text;
+    if (failureOf([&] { text = fromGenICam(feature.node()->GetToolTip()); }))
+        return feature.name();
+    return text.isEmpty() ? displayName(feature) : text;
+}
+
+QVariant GenParamTreeModelPrivate::valueData(const QModelIndex &index, int role)
+{
+    // Views ask for many more roles at every repaint; those ask no node.
+    if (role != Qt::DisplayRole && role != Qt::EditRole && role != Qt::ToolTipRole && role != Qt::ForegroundRole)
+        return {};
+    const GenParamFeature feature = featureOf(index);
+    QVariant result;
+    if (const auto failure = failureOf([&] { result = readValue(feature, role); })) {
+        recordError(index, *failure, role);
+        return role == Qt::DisplayRole ? GenParamTreeModel::tr("ERROR") : QVariant();
+    }
+    // A tool tip that could not be read stays recorded, intentionally: from then on the tip is that message.
+    if (role != Qt::ToolTipRole && hasError(feature)) {
+        const QString name = feature.name();
+        if (q->m_errors.ClearError(name, role))
+            Q_EMIT q->errorDisappeared(index, name, role);
+    }
+    return result;
+}
+
+QVariant GenParamTreeModelPrivate::readValue(const GenParamFeature &feature, int role) const
+{
+    const GenApi::EInterfaceType type = feature.type();
+    if (type == GenApi::intfICategory)
+        return {};
+    if (role == Qt::ForegroundRole)
+        return valueForeground(feature, type);
+    if (role == Qt::ToolTipRole) {
+        if (hasError(feature))
+            return q->m_errors.firstMessage(feature.name());
+        return feature.value() ? fromGenICam(feature.node()->GetToolTip()) : QString();
+    }
+    const GenApi::EAccessMode mode = feature.accessMode();
+    if (mode < GenApi::WO)
+        return GenParamTreeModel::tr("<Value not available>");
+    if (type != GenApi::intfICommand && !isReadable(mode))
+        return GenParamTreeModel::tr("<Value not readable>");
+    return role == Qt::DisplayRole ? feature.displayText(type) : feature.editValue(type);
+}
+
+QVariant GenParamTreeModelPrivate::valueForeground(const GenParamFeature &feature, GenApi::EInterfaceType type) const
+{
+    if (hasError(feature))
+        return QBrush(errorColor);
+    const GenApi::EAccessMode mode = feature.accessMode();
+    const bool hasText = isReadable(mode) || type == GenApi::intfICommand;
+    return hasText && isWritable(mode) ? QVariant() : paletteBrush(QPalette::Disabled, QPalette::Text);
+}
+
+/** Slots of the signal may call back into the model: nothing is done after it. */
+void GenParamTreeModelPrivate::recordError(const QModelIndex &index, const QString &message, int role)
+{
+    const QString name = featureOf(index).name();
+    if (q->m_errors.SetError(name, message, role))
+        Q_EMIT q->errorAppeared(index, name, message, role);
+}
+
+GenParamTreeModel::GenParamTreeModel(GenApi::INodeMap *nodeMap, QObject *parent)
+    : QAbstractItemModel(parent)
+    , d(new GenParamTreeModelPrivate(this, nodeMap))
+{
+}
+
+GenParamTreeModel::GenParamTreeModel(OrvGenParam::Array *params, QObject *parent)
+    : GenParamTreeModel(nodeMapOf(params), parent)
+{
+}
+
+GenParamTreeModel::~GenParamTreeModel() = default;
+
+QModelIndex GenParamTreeModel::index(int row, int column, const QModelIndex &parent) const
+{
+    if (row < 0 || row >= rowCount(parent) || column < 0 || column >= columnCount(parent))
+        return {};
+    FeatureEntry **const children = parent.isValid() ? d->entryOf(parent).second.children : d->rootChildren;
+    return createIndex(row, column, children[row]);
+}
+
+QModelIndex GenParamTreeModel::parent(const QModelIndex &index) const
+{
+    FeatureEntry *const parent = index.isValid() ? d->entryOf(index).second.parent : nullptr;
+    return parent ? createIndex(parent->second.row, NameColumn, parent) : QModelIndex();
+}
+
+int GenParamTreeModel::rowCount(const QModelIndex &parent) const
+{
+    if (!parent.isValid())
+        return d->rootChildCount;
+    return parent.column() == NameColumn ? d->entryOf(parent).second.childCount : 0;
+}
+
+int GenParamTreeModel::columnCount(const QModelIndex &) const
+{
+    return 2;
+}
+
+QVariant GenParamTreeModel::headerData(int section, Qt::Orientation, int role) const
+{
+    if (role != Qt::DisplayRole)
+        return {};
+    switch (section) {
+    case NameColumn:
+        return tr("Name");
+    case ValueColumn:
+        return tr("Value");
+    default:
+        return {};
+    }
+}
+
+Qt::ItemFlags GenParamTreeModel::flags(const QModelIndex &index) const
+{
+    if (!index.isValid())
+        return Qt::NoItemFlags;
+    Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+    if (index.column() == ValueColumn) {
+        failureOf([&] {
+            if (isWritable(d->featureOf(index).accessMode()))
+                flags |= Qt::ItemIsEditable;
+        });
+    }
+    return flags;
+}
+
+QVariant GenParamTreeModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid())
+        return {};
+    switch (role) {
+    case ValueInterfaceRole:
+        return QVariant::fromValue(d->featureOf(index).value());
+    case ControlDataRole:
+        return d->controlData(d->featureOf(index));
+    case Qt::WhatsThisRole:
+        return genParamWhatsThis(d->featureOf(index));
+    default:
+        return index.column() == NameColumn ? d->nameData(d->featureOf(index), role) : d->valueData(index, role);
+    }
+}
+
+bool GenParamTreeModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    if (!index.isValid() || index.column() != ValueColumn || role != Qt::EditRole)
+        return false;
+    const GenParamFeature feature = d->featureOf(index);
+    const bool isListed = value.userType() == qMetaTypeId<VariantData>();
+    bool isWritten = false;
+    const auto failure =
+        failureOf([&] { isWritten = feature.write(isListed ? value.value<VariantData>().value : value); });
+    if (failure)
+        d->recordError(index, *failure, ValueInterfaceRole);
+    if (failure || !isWritten)
+        return false;
+    const QString name = feature.name();
+    Q_EMIT dataChanged(index, index);
+    m_errors.ClearError(name, ValueInterfaceRole);
+    Q_EMIT errorDisappeared(index, name, ValueInterfaceRole);
+    return true;
+}

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <OrvCameraGuiApi/camera_api/orvgenparam.h>
+#include <OrvCameraGuiApi/feature_tree/controldata.h>
+#include <OrvCameraGuiApi/feature_tree/genparamerrorcontroller.h>
+
+#include <GenApi/GenApi.h>
+
+#include <QAbstractItemModel>
+#include <QScopedPointer>
+
+class GenParamTreeModelPrivate;
+
+Q_DECLARE_METATYPE(GenApi::IValue *)
+
+/**
+ * The features of a node map: names in column 0, values in column 1, categories with rows of their own.
+ *
+ * The tree is built once, in the constructor. A feature that several categories list is a row of each of them, but its
+ * parent() and the cell that is reported as changed are those of its first occurrence; this is intentional. Nothing but
+ * names is kept: values are read when they are asked for, and only by the roles that need them.
+ *
+ * What GenApi throws never leaves the model. A failed read of a value is recorded under the role that was read, a
+ * failed write under ValueInterfaceRole, and announced once. Lives on one thread, the GUI's; nodes may change on any.
+ */
+class GenParamTreeModel : public QAbstractItemModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { NameColumn = 0, ValueColumn = 1 };
+
+    enum Role {
+        ValueInterfaceRole = Qt::UserRole, ///< GenApi::IValue*, in both columns
+        ControlDataRole = Qt::UserRole + 1 ///< ControlData with a new editor that the caller owns, in both columns
+    };
+
+    /** \a nodeMap stays the caller's and outlives the model; null, or one without "Root", gives no rows. */
+    GenParamTreeModel(GenApi::INodeMap *nodeMap, QObject *parent);
+
+    /** Shows the node map behind \a params, which stays the caller's and outlives the model; may be null. */
+    GenParamTreeModel(OrvGenParam::Array *params, QObject *parent);
+
+    /** Deregisters from all nodes; changes that are still on their way from other threads are dropped. */
+    ~GenParamTreeModel() override;
+
+    QModelIndex index(int row, int column, const QModelIndex &parent = QModelIndex()) const override;
+    QModelIndex parent(const QModelIndex &index) const override;
+    int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex &parent = QModelIndex()) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+
+    /**
+     * Writes the value of a feature, for Qt::EditRole in the value column, or executes a command. False when GenApi
+     * refuses, which is recorded, and when \a value does not convert to the feature's type, which is not: then nothing
+     * was written.
+     */
+    bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
+
+Q_SIGNALS:
+    /** A read (Qt's roles) or write (ValueInterfaceRole) of the feature failed that did not fail before. */
+    void errorAppeared(const QModelIndex &index, const QString &featureName, const QString &message, int role);
+
+    /** What failed before went well; for ValueInterfaceRole: a write went well, whether or not one failed before. */
+    void errorDisappeared(const QModelIndex &index, const QString &featureName, int role);
+
+private:
+    friend class GenParamTreeModelPrivate;
+
+    GenParamErrorController m_errors;
+    const QScopedPointer<GenParamTreeModelPrivate> d;
+};
