@@ -25,8 +25,8 @@ QString GenParamErrorController::GetErrorInfo() const
     for (auto feature = m_errors.cbegin(); feature != m_errors.cend(); ++feature) {
         for (auto error = feature->cbegin(); error != feature->cend(); ++error) {
             // One call of arg(): a message may itself hold what looks like a place marker.
-            info += QStringLiteral("{%1}{id:%3}: %2 \n")
-                        .arg(feature.key(), error.value(), QString::number(error.key()));
+            info +=
+                QStringLiteral("{%1}{id:%3}: %2 \n").arg(feature.key(), error.value(), QString::number(error.key()));
         }
     }
     return info;

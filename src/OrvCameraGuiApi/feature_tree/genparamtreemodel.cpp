@@ -161,8 +161,8 @@ void GenParamTreeModelPrivate::enter(GenApi::ICategory &category, FeatureEntry *
     if (failureOf([&] { category.GetFeatures(features); }))
         features.clear();
     const auto count = qint32(std::min<size_t>(features.size(), std::numeric_limits<qint32>::max()));
-    auto **const children = static_cast<FeatureEntry **>(
-        arena.allocate(size_t(count) * sizeof(FeatureEntry *), alignof(FeatureEntry *)));
+    auto **const children =
+        static_cast<FeatureEntry **>(arena.allocate(size_t(count) * sizeof(FeatureEntry *), alignof(FeatureEntry *)));
     childArrays.push_back(children);
     (entry ? entry->second.children : rootChildren) = children;
     (entry ? entry->second.childCount : rootChildCount) = count;
@@ -435,8 +435,8 @@ bool GenParamTreeModel::setData(const QModelIndex &index, const QVariant &value,
     const GenParamFeature feature = d->featureOf(index);
     const bool isListed = value.userType() == qMetaTypeId<VariantData>();
     bool isWritten = false;
-    const auto failure
-        = failureOf([&] { isWritten = feature.write(isListed ? value.value<VariantData>().value : value); });
+    const auto failure =
+        failureOf([&] { isWritten = feature.write(isListed ? value.value<VariantData>().value : value); });
     if (failure)
         d->recordError(index, *failure, ValueInterfaceRole);
     if (failure || !isWritten)

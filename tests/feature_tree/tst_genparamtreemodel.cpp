@@ -1,0 +1,689 @@
+#include "featurecamera.h"
+
+#include <OrvCameraGuiApi/device_selection/ip4validator.h>
+#include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
+#include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
+#include <OrvGenApi/testing/faults.h>
+
+#include "orvtest.h"
+
+#include <QAbstractItemModelTester>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <atomic>
+#include <thread>
+
+using OrvGenApi::testing::clearFaults;
+using OrvGenApi::testing::failGetter;
+using OrvGenApi::testing::registeredCallbacks;
+
+namespace {
+
+constexpr int nameColumn = GenParamTreeModel::NameColumn;
+constexpr int valueColumn = GenParamTreeModel::ValueColumn;
+
+/** A model over a camera; goes before it. */
+struct FeatureTree : FeatureCamera
+{
+    explicit FeatureTree(const QByteArray &nodes = allKinds())
+        : FeatureCamera(nodes)
+        , model(new GenParamTreeModel(map.get(), nullptr))
+    {
+    }
+
+    static QString nodeName(const QModelIndex &index)
+    {
+        auto *const value = index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
+        return QString::fromUtf8(GenApi::CNodePtr(value)->GetName().c_str());
+    }
+
+    /** All rows under \a parent, depth first. */
+    QModelIndexList rows(const QModelIndex &parent = QModelIndex()) const
+    {
+        QModelIndexList all;
+        for (int row = 0; row < model->rowCount(parent); ++row) {
+            all += model->index(row, nameColumn, parent);
+            all += rows(all.last());
+        }
+        return all;
+    }
+
+    QModelIndex cell(const char *name, int column = valueColumn) const
+    {
+        const QModelIndexList all = rows();
+        for (const QModelIndex &index : all) {
+            if (nodeName(index) == QLatin1String(name))
+                return index.sibling(index.row(), column);
+        }
+        return {};
+    }
+
+    QVariant value(const char *name, int role = Qt::DisplayRole) const { return cell(name).data(role); }
+
+    template <typename Editor>
+    std::unique_ptr<Editor> editor(const char *name, ControlData::Kind kind) const
+    {
+        const auto control = value(name, GenParamTreeModel::ControlDataRole).value<ControlData>();
+        std::unique_ptr<QWidget> widget(control.editor);
+        auto *const editor = qobject_cast<Editor *>(widget.get());
+        if (!editor || control.kind != kind || editor->parent())
+            return nullptr;
+        widget.release();
+        return std::unique_ptr<Editor>(editor);
+    }
+
+    std::unique_ptr<GenParamTreeModel> model;
+};
+
+QStringList itemsOf(const QComboBox &box)
+{
+    QStringList items;
+    for (int i = 0; i < box.count(); ++i)
+        items += box.itemText(i) + QLatin1Char('=') + box.itemData(i).toString();
+    return items;
+}
+
+const QBrush red(QColor(255, 0, 0));
+
+} // namespace
+
+class TestGenParamTreeModel : public OrvTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void showsTheTree();
+    void hasNoRowsWithoutFeatures();
+    void keepsTheFirstPlaceOfAFeature();
+    void takesDeeplyNestedCategories();
+    void texts_data();
+    void texts();
+    void declaredAddressesOverruleNames();
+    void names();
+    void colorsAndFlags();
+    void whatsThis_data();
+    void whatsThis();
+    void spinBoxes();
+    void comboBoxes();
+    void buttonAndLineEdits();
+    void readsOnlyWhatARoleNeeds();
+    void reportsAFailedReadOnce();
+    void survivesFailingGetters_data();
+    void survivesFailingGetters();
+    void writes_data();
+    void writes();
+    void reportsFailedWrites();
+    void slotsMayCallBack();
+    void reportsChangesAtOnce();
+    void queuesChangesOfOtherThreads();
+    void dropsChangesWhenItGoes();
+};
+
+void TestGenParamTreeModel::showsTheTree()
+{
+    const FeatureTree tree;
+    const QAbstractItemModelTester tester(tree.model.get(), QAbstractItemModelTester::FailureReportingMode::QtTest);
+    QStringList names;
+    const QModelIndexList rows = tree.rows();
+    for (const QModelIndex &index : rows)
+        names += FeatureTree::nodeName(index.parent().isValid() ? index.parent() : index);
+    QCOMPARE(names.join(QLatin1Char(' ')),
+             QStringLiteral("Numbers Numbers Numbers Numbers Numbers Numbers Numbers Numbers Numbers "
+                            "Others Others Others Others Others Others Access Access Access Access"));
+    QCOMPARE(tree.cell("Mask").row(), 3);
+    QCOMPARE(registeredCallbacks(*tree.map), size_t(rows.size()));
+    QCOMPARE(tree.model->headerData(0, Qt::Vertical).toString(), QStringLiteral("Name"));
+    QCOMPARE(tree.model->headerData(1, Qt::Horizontal).toString(), QStringLiteral("Value"));
+    QVERIFY(!tree.model->headerData(2, Qt::Horizontal).isValid());
+    QVERIFY(!tree.model->index(3, 0).isValid());
+    QVERIFY(!tree.model->index(0, 2).isValid());
+}
+
+void TestGenParamTreeModel::hasNoRowsWithoutFeatures()
+{
+    const GenParamTreeModel withoutMap(static_cast<GenApi::INodeMap *>(nullptr), nullptr);
+    const GenParamTreeModel withoutArray(static_cast<OrvGenParam::Array *>(nullptr), nullptr);
+    const FeatureTree withoutRoot("<Integer Name=\"Width\"><Value>1</Value></Integer>");
+    const FeatureTree rootIsNoCategory("<Integer Name=\"Root\"><Value>1</Value></Integer>");
+    const FeatureTree withEmptyRoot("<Category Name=\"Root\"/>");
+    const GenParamTreeModel *const models[] = {&withoutMap, &withoutArray, withoutRoot.model.get(),
+                                               rootIsNoCategory.model.get(), withEmptyRoot.model.get()};
+    for (const GenParamTreeModel *model : models) {
+        QCOMPARE(model->rowCount(), 0);
+        QVERIFY(!model->index(0, 0).isValid());
+        QCOMPARE(model->columnCount(), 2);
+        QVERIFY(!model->data(QModelIndex()).isValid());
+        QCOMPARE(model->flags(QModelIndex()), Qt::NoItemFlags);
+    }
+}
+
+void TestGenParamTreeModel::keepsTheFirstPlaceOfAFeature()
+{
+    FeatureTree tree(R"(
+<Category Name="Root"><pFeature>Left</pFeature><pFeature>Right</pFeature></Category>
+<Category Name="Left"><pFeature>Width</pFeature><pFeature>Height</pFeature></Category>
+<Category Name="Right"><pFeature>Gain</pFeature><pFeature>Red</pFeature><pFeature>Height</pFeature></Category>
+<Category Name="Red"><pFeature>Gamma</pFeature></Category>
+<Integer Name="Width"><Value>1</Value></Integer><Integer Name="Height"><Value>2</Value></Integer>
+<Integer Name="Gain"><Value>3</Value></Integer><Integer Name="Gamma"><Value>4</Value></Integer>)");
+    const QModelIndex left = tree.model->index(0, 0);
+    const QModelIndex right = tree.model->index(1, 0);
+    const QModelIndex again = tree.model->index(2, nameColumn, right);
+    QCOMPARE(FeatureTree::nodeName(again), QStringLiteral("Height"));
+    QCOMPARE(again.row(), 2);
+    QCOMPARE(again.parent(), left);
+    QCOMPARE(tree.rows().size(), 8);
+    // One callback an occurrence, all of them for the first cell.
+    QSignalSpy changed(tree.model.get(), &QAbstractItemModel::dataChanged);
+    tree.node<GenApi::CIntegerPtr>("Height")->SetValue(5);
+    QCOMPARE(changed.size(), 2);
+    QCOMPARE(changed.last().first().toModelIndex(), tree.model->index(1, valueColumn, left));
+}
+
+void TestGenParamTreeModel::takesDeeplyNestedCategories()
+{
+    constexpr int depth = 5000;
+    QByteArray nodes = "<Category Name=\"Root\"><pFeature>C0</pFeature></Category>";
+    for (int i = 0; i < depth; ++i) {
+        const QByteArray next = i + 1 < depth ? "C" + QByteArray::number(i + 1) : QByteArray("Leaf");
+        nodes += "<Category Name=\"C" + QByteArray::number(i) + "\"><pFeature>" + next + "</pFeature></Category>";
+    }
+    const FeatureTree tree(nodes + "<Integer Name=\"Leaf\"><Value>1</Value></Integer>");
+    int levels = 0;
+    for (QModelIndex index = tree.model->index(0, 0); index.isValid(); index = tree.model->index(0, 0, index))
+        ++levels;
+    QCOMPARE(levels, depth + 1);
+}
+
+void TestGenParamTreeModel::texts_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<qint64>("value");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QVariant>("edit");
+    QTest::newRow("unit") << QByteArray("Exposure") << qint64(1500) << "1500us" << QVariant(qint64(1500));
+    QTest::newRow("address by name") << QByteArray("GevSCDA") << qint64(0xEFC0010A) << "239.192.1.10"
+                                     << QVariant(QStringLiteral("239.192.1.10"));
+    QTest::newRow("only 32 bits") << QByteArray("GevSCDA") << qint64(-1) << "255.255.255.255"
+                                  << QVariant(QStringLiteral("255.255.255.255"));
+    QTest::newRow("mac") << QByteArray("GevMACAddress") << qint64(0x0001A2B3C4D5) << "00:01:A2:B3:C4:D5"
+                         << QVariant(QStringLiteral("00:01:A2:B3:C4:D5"));
+    QTest::newRow("hex") << QByteArray("Mask") << qint64(0xbeef) << "BEEF" << QVariant(qint64(0xbeef));
+    QTest::newRow("negative hex") << QByteArray("Mask") << qint64(-1) << "FFFFFFFFFFFFFFFF" << QVariant(qint64(-1));
+    QTest::newRow("list") << QByteArray("Binning") << qint64(4) << "4px" << QVariant(qint64(4));
+    QTest::newRow("float") << QByteArray("Gain") << qint64(2) << "2.000dB" << QVariant(2.0);
+    QTest::newRow("true") << QByteArray("Flag") << qint64(1) << "True" << QVariant(true);
+    QTest::newRow("command") << QByteArray("Start") << qint64(0) << "Execute" << QVariant();
+    QTest::newRow("entry") << QByteArray("Mode") << qint64(10) << "Continuous" << QVariant(quint64(10));
+    QTest::newRow("write only") << QByteArray("Key") << qint64(1) << "<Value not readable>"
+                                << QVariant(QStringLiteral("<Value not readable>"));
+    QTest::newRow("not available") << QByteArray("Gone") << qint64(0) << "<Value not available>"
+                                   << QVariant(QStringLiteral("<Value not available>"));
+    QTest::newRow("register") << QByteArray("Blob") << qint64(0) << QString() << QVariant();
+    QTest::newRow("category") << QByteArray("Others") << qint64(0) << QString() << QVariant();
+}
+
+void TestGenParamTreeModel::texts()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(qint64, value);
+    const FeatureTree tree;
+    const GenApi::CNodePtr node = tree.node(name.constData());
+    if (const GenApi::CIntegerPtr integer(node); integer.IsValid() && GenApi::CNodePtr(node)->GetName() != "Gone")
+        integer->SetValue(value, false);
+    if (const GenApi::CFloatPtr number(node); number.IsValid())
+        number->SetValue(double(value));
+    if (const GenApi::CBooleanPtr flag(node); flag.IsValid())
+        flag->SetValue(value != 0);
+    if (const GenApi::CEnumerationPtr mode(node); mode.IsValid())
+        mode->SetIntValue(value);
+    QTEST(tree.value(name.constData()).toString(), "text");
+    QVariant edit = tree.value(name.constData(), Qt::EditRole);
+    QCOMPARE(edit.userType() == qMetaTypeId<VariantData>(), name == "Binning");
+    if (edit.userType() == qMetaTypeId<VariantData>())
+        edit = edit.value<VariantData>().value;
+    QTEST(edit, "edit");
+}
+
+void TestGenParamTreeModel::declaredAddressesOverruleNames()
+{
+    const FeatureTree tree(R"(
+<Category Name="Root"><pFeature>GevSCDA</pFeature><pFeature>GevCurrentIPAddress</pFeature></Category>
+<Integer Name="GevSCDA"><Value>16909060</Value></Integer>
+<Integer Name="GevCurrentIPAddress"><Value>16909060</Value><Representation>IPV4Address</Representation></Integer>)");
+    QCOMPARE(tree.value("GevSCDA").toString(), QStringLiteral("16909060"));
+    QCOMPARE(tree.value("GevCurrentIPAddress").toString(), QStringLiteral("1.2.3.4"));
+}
+
+void TestGenParamTreeModel::names()
+{
+    const FeatureTree tree;
+    const QModelIndex exposure = tree.cell("Exposure", nameColumn);
+    QCOMPARE(exposure.data().toString(), QStringLiteral("Exposure Time"));
+    QCOMPARE(exposure.data(Qt::ToolTipRole).toString(), QStringLiteral("How long"));
+    QCOMPARE(tree.value("Exposure", Qt::ToolTipRole).toString(), QStringLiteral("How long"));
+    QCOMPARE(tree.cell("Mode", nameColumn).data(Qt::ToolTipRole).toString(), QStringLiteral("Mode"));
+    // What cannot be read is replaced by the name, and is nobody's error.
+    QSignalSpy appeared(tree.model.get(), &GenParamTreeModel::errorAppeared);
+    failGetter(*tree.map, "Exposure", "GetDisplayName");
+    failGetter(*tree.map, "Exposure", "GetName");
+    failGetter(*tree.map, "Exposure", "GetToolTip");
+    QCOMPARE(exposure.data().toString(), QStringLiteral("Exposure"));
+    QCOMPARE(exposure.data(Qt::ToolTipRole).toString(), QStringLiteral("Exposure"));
+    QCOMPARE(appeared.size(), 0);
+}
+
+void TestGenParamTreeModel::colorsAndFlags()
+{
+    const FeatureTree tree;
+    const QPalette palette = QGuiApplication::palette();
+    QCOMPARE(tree.cell("Numbers", nameColumn).data(Qt::BackgroundRole).value<QBrush>(),
+             QBrush(palette.color(QPalette::Active, QPalette::Midlight)));
+    QVERIFY(!tree.cell("Mode", nameColumn).data(Qt::BackgroundRole).isValid());
+    QVERIFY(!tree.value("Numbers", Qt::ForegroundRole).isValid());
+    const QBrush grey(palette.color(QPalette::Disabled, QPalette::Text));
+    for (const char *name : {"Key", "Serial", "Gone"})
+        QCOMPARE(tree.value(name, Qt::ForegroundRole).value<QBrush>(), grey);
+    for (const char *name : {"Start", "Mode", "Exposure"})
+        QVERIFY(!tree.value(name, Qt::ForegroundRole).isValid());
+
+    const Qt::ItemFlags plain = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+    for (const char *name : {"Key", "Start", "Mode"})
+        QCOMPARE(tree.model->flags(tree.cell(name)), plain | Qt::ItemIsEditable);
+    for (const char *name : {"Serial", "Gone", "Others"})
+        QCOMPARE(tree.model->flags(tree.cell(name)), plain);
+    QCOMPARE(tree.model->flags(tree.cell("Mode", nameColumn)), plain);
+    failGetter(*tree.map, "Mode", "GetAccessMode");
+    QCOMPARE(tree.model->flags(tree.cell("Mode")), plain);
+}
+
+void TestGenParamTreeModel::whatsThis_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("integer") << QByteArray("Exposure")
+                             << "<i>Name:</i> Exposure|<i>Selectors:</i> Mode|<i>Type:</i> Integer|"
+                                "<i>Limits</i>: Min: -4, Max: 4000|<i>Increment</i>: 4|"
+                                "<i>Description:</i> Time &lt; one frame &amp; more|<i>Streamable:</i> True|"
+                                "<i>Cachable:</i> WriteThrough";
+    QTest::newRow("list") << QByteArray("Binning")
+                          << "<i>Name:</i> Binning|<i>Type:</i> Integer|<i>Limits</i>: Min: 1, Max: 5|"
+                             "<i>Valid values</i>: 1,2,4|<i>Description:</i> |<i>Streamable:</i> False|"
+                             "<i>Cachable:</i> WriteThrough";
+    QTest::newRow("float") << QByteArray("Gain")
+                           << "<i>Name:</i> Gain|<i>Type:</i> Float|<i>Limits</i>: Min: 0.25, Max: 8.25|"
+                              "<i>Increment</i>: 0.25|<i>Description:</i> |<i>Streamable:</i> False|"
+                              "<i>Cachable:</i> WriteAround";
+    QTest::newRow("enumeration") << QByteArray("Mode")
+                                 << "<i>Name:</i> Mode|<i>Type:</i> Enumeration|<i>Enumeration entries</i>:|"
+                                    "\"Off\": 0 (0x00000000)|\"Continuous\": 10 (0x0000000a)|"
+                                    "\"Never\": 3 (0x00000003)|<i>Description:</i> |<i>Streamable:</i> False|"
+                                    "<i>Cachable:</i> WriteThrough";
+    // Its limits cannot be had.
+    QTest::newRow("not available") << QByteArray("Gone")
+                                   << "<i>Name:</i> Gone|<i>Type:</i> Integer|<i>Description:</i> |"
+                                      "<i>Streamable:</i> False|<i>Cachable:</i> WriteThrough";
+}
+
+void TestGenParamTreeModel::whatsThis()
+{
+    QFETCH(QByteArray, name);
+    const FeatureTree tree;
+    QTEST(
+        tree.value(name.constData(), Qt::WhatsThisRole).toString().replace(QLatin1String("<br />"), QLatin1String("|")),
+        "text");
+}
+
+void TestGenParamTreeModel::spinBoxes()
+{
+    const FeatureTree tree;
+    const auto exposure = tree.editor<QtOrvSpinBoxVal64>("Exposure", ControlData::SpinBox64);
+    QVERIFY(exposure);
+    QVERIFY(!exposure->hasFrame() && exposure->isAccelerated() && !exposure->keyboardTracking());
+    QVERIFY(exposure->ignoreFocusOut() && exposure->validateStepping());
+    QCOMPARE(exposure->minimum(), -4LL);
+    QCOMPARE(exposure->maximum(), 4000LL);
+    QCOMPARE(exposure->singleStep(), 4LL);
+    QCOMPARE(exposure->displayIntegerBase(), 10);
+    const auto mask = tree.editor<QtOrvSpinBoxVal64>("Mask", ControlData::SpinBox64);
+    QVERIFY(mask);
+    QCOMPARE(mask->displayIntegerBase(), 16);
+    QCOMPARE(mask->minimum(), std::numeric_limits<qint64>::min());
+    QVERIFY(!mask->validateStepping());
+    QVERIFY(tree.editor<QtOrvSpinBoxVal64>("GevMACAddress", ControlData::SpinBox64));
+
+    const auto gain = tree.editor<QDoubleSpinBox>("Gain", ControlData::DoubleSpinBox);
+    QVERIFY(gain);
+    QVERIFY(!gain->hasFrame() && gain->isAccelerated());
+    QCOMPARE(gain->decimals(), 3);
+    QCOMPARE(gain->minimum(), 0.25);
+    QCOMPARE(gain->maximum(), 8.25);
+    QCOMPARE(gain->singleStep(), 0.25);
+    QCOMPARE(gain->suffix(), QStringLiteral("dB"));
+    const auto ratio = tree.editor<QDoubleSpinBox>("Ratio", ControlData::DoubleSpinBox);
+    QVERIFY(ratio);
+    QCOMPARE(ratio->singleStep(), QDoubleSpinBox().singleStep());
+    QCOMPARE(ratio->maximum(), std::numeric_limits<double>::max());
+}
+
+void TestGenParamTreeModel::comboBoxes()
+{
+    const FeatureTree tree;
+    const struct
+    {
+        const char *name;
+        const char *items;
+    } boxes[] = {
+        {"Binning", "1px=1 2px=2 4px=4"},
+        {"Flag", "True=true False=false"},
+        {"Mode", "Off=0 Continuous=10"},
+    };
+    for (const auto &expected : boxes) {
+        const auto box = tree.editor<QComboBox>(expected.name, ControlData::ComboBox);
+        QVERIFY(box);
+        QVERIFY(!box->hasFrame());
+        QCOMPARE(itemsOf(*box).join(QLatin1Char(' ')), QLatin1String(expected.items));
+    }
+    // The edit value is found among the items, whatever the integer types of both.
+    tree.node<GenApi::CEnumerationPtr>("Mode")->SetIntValue(10);
+    const auto mode = tree.editor<QComboBox>("Mode", ControlData::ComboBox);
+    QCOMPARE(mode->findData(tree.value("Mode", Qt::EditRole)), 1);
+}
+
+void TestGenParamTreeModel::buttonAndLineEdits()
+{
+    const FeatureTree tree;
+    const auto button = tree.editor<QPushButton>("Start", ControlData::PushButton);
+    QVERIFY(button);
+    QCOMPARE(button->text(), QStringLiteral("Execute"));
+    QVERIFY(button->isFlat() && !button->autoDefault());
+    const auto address = tree.editor<QLineEdit>("GevSCDA", ControlData::LineEdit);
+    QVERIFY(address);
+    QCOMPARE(address->alignment(), Qt::AlignHCenter | Qt::AlignVCenter);
+    QVERIFY(qobject_cast<const IP4Validator *>(address->validator()));
+    const auto label = tree.editor<QLineEdit>("Label", ControlData::LineEdit);
+    QVERIFY(label);
+    QVERIFY(!label->hasFrame() && !label->validator());
+    for (const char *name : {"Blob", "Others"})
+        QVERIFY(!tree.value(name, GenParamTreeModel::ControlDataRole).isValid());
+}
+
+void TestGenParamTreeModel::readsOnlyWhatARoleNeeds()
+{
+    const FeatureTree tree;
+    QCOMPARE(tree.port.readCount(), quint64(0));
+    const QModelIndexList rows = tree.rows();
+    for (const QModelIndex &index : rows) {
+        for (int role = 0; role < Qt::UserRole + 3; ++role) {
+            if (role != GenParamTreeModel::ControlDataRole && role != Qt::WhatsThisRole)
+                index.data(role);
+            if (role != Qt::DisplayRole && role != Qt::EditRole && role != GenParamTreeModel::ControlDataRole)
+                index.sibling(index.row(), valueColumn).data(role);
+        }
+        tree.model->flags(index.sibling(index.row(), valueColumn));
+    }
+    QCOMPARE(tree.port.readCount(), quint64(0));
+    tree.value("Serial");
+    QCOMPARE(tree.port.readCount(), quint64(1));
+}
+
+void TestGenParamTreeModel::reportsAFailedReadOnce()
+{
+    const FeatureTree tree;
+    const QModelIndex cell = tree.cell("Exposure");
+    const QModelIndex name = tree.cell("Exposure", nameColumn);
+    QSignalSpy appeared(tree.model.get(), &GenParamTreeModel::errorAppeared);
+    QSignalSpy disappeared(tree.model.get(), &GenParamTreeModel::errorDisappeared);
+    failGetter(*tree.map, "Exposure", "GetValue", "cable pulled");
+    QCOMPARE(cell.data().toString(), QStringLiteral("ERROR"));
+    QCOMPARE(cell.data().toString(), QStringLiteral("ERROR"));
+    QCOMPARE(appeared.size(), 1);
+    QCOMPARE(appeared.takeFirst(), QVariantList({cell, QStringLiteral("Exposure"), QStringLiteral("cable pulled"), 0}));
+    QCOMPARE(name.data(Qt::ForegroundRole).value<QBrush>(), red);
+    QCOMPARE(cell.data(Qt::ForegroundRole).value<QBrush>(), red);
+    QCOMPARE(name.data(Qt::ToolTipRole).toString(), QStringLiteral("cable pulled"));
+    QCOMPARE(cell.data(Qt::ToolTipRole).toString(), QStringLiteral("cable pulled"));
+    QVERIFY(!cell.data(Qt::EditRole).isValid());
+    QCOMPARE(appeared.takeFirst().last().toInt(), int(Qt::EditRole));
+
+    clearFaults(*tree.map);
+    QCOMPARE(cell.data().toString(), QStringLiteral("0us"));
+    QCOMPARE(disappeared.takeFirst(), QVariantList({cell, QStringLiteral("Exposure"), 0}));
+    QCOMPARE(name.data(Qt::ForegroundRole).value<QBrush>(), red);
+    QVERIFY(cell.data(Qt::EditRole).isValid());
+    QVERIFY(!name.data(Qt::ForegroundRole).isValid());
+    QCOMPARE(disappeared.size(), 1);
+
+    failGetter(*tree.map, "Exposure", "GetValue");
+    cell.data();
+    QCOMPARE(appeared.takeFirst().at(2).toString(), QStringLiteral("Unknown Error"));
+}
+
+void TestGenParamTreeModel::survivesFailingGetters_data()
+{
+    QTest::addColumn<QByteArray>("getter");
+    for (const char *getter : {"GetAccessMode",
+                               "GetName",
+                               "GetDisplayName",
+                               "GetToolTip",
+                               "GetDescription",
+                               "GetPrincipalInterfaceType",
+                               "GetValue",
+                               "GetMin",
+                               "GetMax",
+                               "GetInc",
+                               "GetIncMode",
+                               "HasInc",
+                               "GetListOfValidValues",
+                               "GetRepresentation",
+                               "GetUnit",
+                               "GetDisplayPrecision",
+                               "ToString",
+                               "GetNode",
+                               "GetEntries",
+                               "GetCurrentEntry",
+                               "GetSymbolic",
+                               "GetCachingMode",
+                               "IsStreamable",
+                               "GetSelectingFeatures",
+                               "RegisterCallback",
+                               "GetFeatures"}) {
+        QTest::newRow(getter) << QByteArray(getter);
+    }
+}
+
+void TestGenParamTreeModel::survivesFailingGetters()
+{
+    QFETCH(QByteArray, getter);
+    FeatureTree tree;
+    const int rowCount = tree.rows().size();
+    tree.model.reset();
+    GenApi::NodeList_t nodes;
+    tree.map->GetNodes(nodes);
+    std::vector<std::string> names;
+    for (GenApi::INode *node : nodes)
+        names.emplace_back(node->GetName().c_str());
+    for (const std::string &name : names)
+        failGetter(*tree.map, name, getter.constData());
+
+    tree.model.reset(new GenParamTreeModel(tree.map.get(), nullptr));
+    const QModelIndexList rows = tree.rows();
+    QCOMPARE(rows.size(), getter == "GetFeatures" ? 0 : rowCount);
+    const int widgets = QApplication::allWidgets().size();
+    for (const QModelIndex &index : rows) {
+        for (const QModelIndex &each : {index, index.sibling(index.row(), valueColumn)}) {
+            for (int role = 0; role <= GenParamTreeModel::ControlDataRole; ++role)
+                delete each.data(role).value<ControlData>().editor;
+            tree.model->flags(each);
+            tree.model->setData(each, 1);
+        }
+    }
+    QCOMPARE(QApplication::allWidgets().size(), widgets);
+}
+
+void TestGenParamTreeModel::writes_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<bool>("accepted");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char *title, const char *name, const QVariant &value, const char *text) {
+        QTest::newRow(title) << QByteArray(name) << value << (text != nullptr) << QString::fromUtf8(text);
+    };
+    row("integer", "Exposure", qint64(400), "400us");
+    row("listed", "Binning", QVariant::fromValue(VariantData{qint64(4)}), "4px");
+    row("number as text", "Exposure", QStringLiteral("400"), "400us");
+    row("address for a number", "Mask", QStringLiteral("0.0.1.2"), "102");
+    row("no number", "Exposure", QStringLiteral("fast"), nullptr);
+    row("too large", "Mask", quint64(1) << 63, nullptr);
+    row("real out of range", "Mask", 1e300, nullptr);
+    row("no real", "Mask", qQNaN(), nullptr);
+    row("nothing", "Exposure", QVariant(), nullptr);
+    row("no value", "Exposure", QVariant::fromValue(QSize(1, 1)), nullptr);
+    row("address", "GevSCDA", QStringLiteral("239.192.1.10"), "239.192.1.10");
+    row("address as number", "GevSCDA", 258, "0.0.1.2");
+    row("number for an address", "GevSCDA", QStringLiteral("258"), nullptr);
+    row("short address", "GevSCDA", QStringLiteral("1.2.3"), nullptr);
+    row("large octet", "GevSCDA", QStringLiteral("1.2.3.256"), nullptr);
+    row("no address", "GevSCDA", QString(), nullptr);
+    row("mac", "GevMACAddress", QStringLiteral("00:01:A2:B3:C4:D5"), nullptr);
+    row("boolean", "Flag", true, "True");
+    row("boolean from size", "Flag", QVariant::fromValue(QSize(1, 1)), nullptr);
+    row("float", "Gain", 2.25, "2.250dB");
+    row("float from text", "Gain", QStringLiteral("2.5"), "2.500dB");
+    row("no float", "Gain", QStringLiteral("loud"), nullptr);
+    row("not a number", "Gain", qQNaN(), nullptr);
+    row("string", "Label", QStringLiteral("Größe"), "Größe");
+    row("entry", "Mode", quint64(10), "Continuous");
+    row("entry by name", "Mode", QStringLiteral("Continuous"), "Continuous");
+    row("no entry", "Mode", QVariant::fromValue(QSize(1, 1)), nullptr);
+    row("register", "Blob", 1, nullptr);
+    row("category", "Others", 1, nullptr);
+    row("command", "Start", QVariant(), "Execute");
+}
+
+void TestGenParamTreeModel::writes()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(QVariant, value);
+    QFETCH(bool, accepted);
+    const FeatureTree tree;
+    const QModelIndex cell = tree.cell(name.constData());
+    QSignalSpy changed(tree.model.get(), &QAbstractItemModel::dataChanged);
+    QSignalSpy appeared(tree.model.get(), &GenParamTreeModel::errorAppeared);
+    QSignalSpy disappeared(tree.model.get(), &GenParamTreeModel::errorDisappeared);
+    QVERIFY(!tree.model->setData(cell, value, Qt::DisplayRole));
+    QVERIFY(!tree.model->setData(cell.sibling(cell.row(), nameColumn), value));
+    QCOMPARE(tree.port.writeCount(), quint64(0));
+
+    QCOMPARE(tree.model->setData(cell, value), accepted);
+    QCOMPARE(appeared.size(), 0);
+    if (accepted) {
+        QTEST(cell.data().toString(), "text");
+        QCOMPARE(changed.last().mid(0, 2), QVariantList({cell, cell}));
+        QCOMPARE(disappeared.size(), 1);
+        QCOMPARE(disappeared.first(), QVariantList({cell, QString::fromUtf8(name), 256}));
+    } else {
+        QCOMPARE(tree.port.writeCount(), quint64(0));
+        QCOMPARE(changed.size(), 0);
+        QCOMPARE(disappeared.size(), 0);
+    }
+}
+
+void TestGenParamTreeModel::reportsFailedWrites()
+{
+    const FeatureTree tree;
+    const QModelIndex cell = tree.cell("Exposure");
+    const QModelIndex name = tree.cell("Exposure", nameColumn);
+    QSignalSpy appeared(tree.model.get(), &GenParamTreeModel::errorAppeared);
+    QVERIFY(!tree.model->setData(cell, 4001));
+    QVERIFY(!tree.model->setData(cell, -5));
+    QCOMPARE(appeared.size(), 1);
+    QCOMPARE(appeared.first().at(0).toModelIndex(), cell);
+    QCOMPARE(appeared.first().at(1).toString(), QStringLiteral("Exposure"));
+    QVERIFY(!appeared.first().at(2).toString().isEmpty());
+    QCOMPARE(appeared.first().at(3).toInt(), 256);
+    QCOMPARE(tree.port.writeCount(), quint64(0));
+    QCOMPARE(cell.data().toString(), QStringLiteral("0us"));
+    QCOMPARE(name.data(Qt::ForegroundRole).value<QBrush>(), red);
+    QVERIFY(tree.model->setData(cell, 8));
+    QVERIFY(!name.data(Qt::ForegroundRole).isValid());
+}
+
+void TestGenParamTreeModel::slotsMayCallBack()
+{
+    const FeatureTree tree;
+    const QModelIndex cell = tree.cell("Exposure");
+    QStringList seen;
+    const auto look = [&](const QModelIndex &index) { seen += index.data().toString(); };
+    connect(tree.model.get(), &GenParamTreeModel::errorAppeared, this, look);
+    connect(tree.model.get(), &GenParamTreeModel::errorDisappeared, this, look);
+    connect(tree.model.get(), &QAbstractItemModel::dataChanged, this, look);
+    failGetter(*tree.map, "Exposure", "GetValue");
+    cell.data();
+    clearFaults(*tree.map);
+    cell.data();
+    tree.model->setData(cell, 4);
+    QCOMPARE(seen.join(QLatin1Char(' ')), QStringLiteral("ERROR 0us 4us 4us 4us"));
+}
+
+void TestGenParamTreeModel::reportsChangesAtOnce()
+{
+    const FeatureTree tree;
+    QSignalSpy changed(tree.model.get(), &QAbstractItemModel::dataChanged);
+    tree.node<GenApi::CIntegerPtr>("Exposure")->SetValue(8);
+    QCOMPARE(changed.size(), 1);
+    const QModelIndex cell = tree.cell("Exposure");
+    QCOMPARE(changed.first().mid(0, 2), QVariantList({cell, cell}));
+    QVERIFY(changed.first().at(2).value<QVector<int>>().isEmpty());
+    tree.node<GenApi::CIntegerPtr>("Zero")->SetValue(0);
+    for (const QList<QVariant> &arguments : changed.mid(1))
+        QCOMPARE(FeatureTree::nodeName(arguments.first().toModelIndex()), QStringLiteral("Gone"));
+}
+
+void TestGenParamTreeModel::queuesChangesOfOtherThreads()
+{
+    const FeatureTree tree;
+    QSignalSpy changed(tree.model.get(), &QAbstractItemModel::dataChanged);
+    std::thread([&] {
+        for (int value : {4, 8, 12})
+            tree.node<GenApi::CIntegerPtr>("Exposure")->SetValue(value);
+        tree.node<GenApi::CIntegerPtr>("Mask")->SetValue(1);
+    }).join();
+    QCOMPARE(changed.size(), 0);
+    QTRY_COMPARE(changed.size(), 2);
+    QStringList names;
+    for (const QList<QVariant> &arguments : qAsConst(changed))
+        names += FeatureTree::nodeName(arguments.first().toModelIndex());
+    names.sort();
+    QCOMPARE(names, QStringList({QStringLiteral("Exposure"), QStringLiteral("Mask")}));
+}
+
+void TestGenParamTreeModel::dropsChangesWhenItGoes()
+{
+    FeatureTree tree;
+    std::atomic<bool> stop{false};
+    std::thread camera([&] {
+        for (int value = 0; !stop; value = (value + 4) % 4000)
+            tree.node<GenApi::CIntegerPtr>("Exposure")->SetValue(value);
+    });
+    const auto end = qScopeGuard([&] {
+        stop = true;
+        camera.join();
+    });
+    for (int i = 0; i < 50; ++i) {
+        tree.model.reset(new GenParamTreeModel(tree.map.get(), nullptr));
+        QSignalSpy changed(tree.model.get(), &QAbstractItemModel::dataChanged);
+        QTRY_VERIFY(changed.size() > 0);
+        tree.model.reset();
+        QCOMPARE(registeredCallbacks(*tree.map), size_t(0));
+        QCoreApplication::processEvents();
+    }
+}
+
+ORV_TEST_MAIN(TestGenParamTreeModel)
+
+#include "tst_genparamtreemodel.moc"
