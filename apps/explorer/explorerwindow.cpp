@@ -63,6 +63,7 @@ void ExplorerWindow::createStatusBar()
     std::set<const GenApi::IValue *> features;
     arrangeRows(QModelIndex(), features);
     m_errorLabel = new QLabel(this);
+    statusBar()->setContentsMargins(6, 0, 6, 0);
     statusBar()->addWidget(new QLabel(tr("Features: %1").arg(features.size()), this));
     statusBar()->addPermanentWidget(m_errorLabel);
     showErrorCount();

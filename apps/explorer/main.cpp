@@ -79,19 +79,12 @@ int runWindow(int argc, char **argv, const Options &options, std::unique_ptr<Cam
 int main(int argc, char **argv)
 {
     const Options options = readCommandLine(argc, argv);
-    switch (options.action) {
-    case Options::Action::PrintHelp:
-    case Options::Action::PrintVersion:
-        return print(options.text);
-    case Options::Action::Fail:
+    if (options.action == Options::Action::Fail)
         return fail(options.text);
-    case Options::Action::ShowWindow:
-        if (!hasDisplay())
-            return fail(Text::tr("There is no display; '--screenshot DIR' draws the window into a file."));
-        break;
-    case Options::Action::SaveScreenshot:
-        break;
-    }
+    if (options.action == Options::Action::PrintText)
+        return print(options.text);
+    if (options.action == Options::Action::ShowWindow && !hasDisplay())
+        return fail(Text::tr("There is no display; '--screenshot DIR' draws the window into a file."));
     try {
         return runWindow(argc, argv, options,
                          options.xmlFile.isEmpty() ? openCamera(options.cameraId) : openDescription(options.xmlFile));

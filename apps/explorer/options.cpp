@@ -10,15 +10,8 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(Options)
 };
 
-Options failure(const QString &why)
-{
-    Options options;
-    options.action = Options::Action::Fail;
-    options.text = why;
-    return options;
-}
-
-Options printing(Options::Action action, const QString &text)
+/** No window: only this text. */
+Options saying(Options::Action action, const QString &text)
 {
     Options options;
     options.action = action;
@@ -56,21 +49,19 @@ Options parseOptions(const QStringList &arguments)
         Text::tr("Open the camera with the identifier ID; without it, the first that can be opened."), Text::tr("ID"));
     const QCommandLineOption screenshot(
         QStringLiteral("screenshot"),
-        Text::tr("Draw the windows into PNG files in the directory DIR and end; needs no "
-                 "display."),
-        Text::tr("DIR"));
+        Text::tr("Draw the windows into PNG files in the directory DIR and end; needs no display."), Text::tr("DIR"));
     parser.addOptions({help, version, xml, camera, screenshot});
 
     const bool understood = parser.parse(arguments);
     if (understood && parser.isSet(help))
-        return printing(Options::Action::PrintHelp, parser.helpText());
+        return saying(Options::Action::PrintText, parser.helpText());
     if (understood && parser.isSet(version))
-        return printing(Options::Action::PrintVersion,
-                        QCoreApplication::applicationName() + QLatin1Char(' ') + QCoreApplication::applicationVersion()
-                            + QLatin1Char('\n'));
+        return saying(Options::Action::PrintText,
+                      QCoreApplication::applicationName() + QLatin1Char(' ') + QCoreApplication::applicationVersion()
+                          + QLatin1Char('\n'));
     const QString why = understood ? misuse(parser) : parser.errorText();
     if (!why.isEmpty())
-        return failure(why);
+        return saying(Options::Action::Fail, why);
 
     Options options;
     if (parser.isSet(screenshot))

@@ -9,8 +9,7 @@ struct Options
     enum class Action {
         ShowWindow,
         SaveScreenshot,
-        PrintHelp,
-        PrintVersion,
+        PrintText,
         Fail ///< the command line cannot be used
     };
 
@@ -18,7 +17,7 @@ struct Options
     QString xmlFile; ///< description to show instead of a camera; empty: a camera
     QString cameraId; ///< identifier of the camera to open; empty: the first that can be opened
     QString screenshotDir; ///< where SaveScreenshot writes
-    QString text; ///< what PrintHelp and PrintVersion print; for Fail one line that says why
+    QString text; ///< what PrintText prints; for Fail one line that says why
 };
 
 /** Reads \a arguments, whose first is the program's name. */

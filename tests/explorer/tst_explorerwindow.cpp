@@ -60,8 +60,8 @@ void ExplorerWindowTest::saysWhyThereIsNoCamera_data()
 {
     QTest::addColumn<std::function<void()>>("arrange");
     QTest::addColumn<QString>("message");
-    const auto row = [](const char *name, std::function<void()> arrange, const char *message) {
-        QTest::newRow(name) << std::move(arrange) << QString::fromLatin1(message);
+    const auto row = [](const char *name, const std::function<void()> &arrange, const char *message) {
+        QTest::newRow(name) << arrange << QString::fromLatin1(message);
     };
     row(
         "no system", [] { OrvSim::setSystemAvailable(false); }, "There is no camera system.");
