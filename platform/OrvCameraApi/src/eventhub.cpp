@@ -1,7 +1,6 @@
 #include "eventhub.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace OrvCameraApi {
 
@@ -9,16 +8,16 @@ void EventHub::add(std::uint32_t eventId, OrvCam::DeviceEventCallback callback, 
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     const Triple triple{eventId, callback, context};
-    const auto same = [&triple](const Entry &entry) { return entry.triple == triple; };
+    const auto same = [&triple](const Entry &entry) { return entry.registration.triple == triple; };
     if (std::none_of(m_entries.begin(), m_entries.end(), same))
-        m_entries.push_back({triple, ++m_registrations, std::make_shared<Counted>(liveCounts().eventCallbacks)});
+        m_entries.push_back({{triple, ++m_registrations}, std::make_unique<Counted>(liveCounts().eventCallbacks)});
 }
 
 void EventHub::remove(std::uint32_t eventId, OrvCam::DeviceEventCallback callback, void *context)
 {
     std::unique_lock<std::mutex> lock(m_mutex);
     const Triple triple{eventId, callback, context};
-    const auto same = [&triple](const Entry &entry) { return entry.triple == triple; };
+    const auto same = [&triple](const Entry &entry) { return entry.registration.triple == triple; };
     m_entries.erase(std::remove_if(m_entries.begin(), m_entries.end(), same), m_entries.end());
     // Also when it was not there: it may have removed itself in a call that has not ended yet.
     m_ended.wait(lock, [&] {
@@ -40,38 +39,40 @@ void EventHub::removeAll()
 
 void EventHub::fire(std::uint32_t eventId)
 {
-    for (const Entry &entry : entriesOf(eventId)) {
-        if (!begin(entry))
+    for (const Registration &registration : registrationsOf(eventId)) {
+        if (!begin(registration))
             continue;
-        entry.triple.callback(nullptr, 0, entry.triple.context);
-        end(entry);
+        registration.triple.callback(nullptr, 0, registration.triple.context);
+        end(registration);
     }
 }
 
-std::vector<EventHub::Entry> EventHub::entriesOf(std::uint32_t eventId) const
+std::vector<EventHub::Registration> EventHub::registrationsOf(std::uint32_t eventId) const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    std::vector<Entry> entries;
-    std::copy_if(m_entries.begin(), m_entries.end(), std::back_inserter(entries),
-                 [eventId](const Entry &entry) { return entry.triple.eventId == eventId; });
-    return entries;
+    std::vector<Registration> registrations;
+    for (const Entry &entry : m_entries) {
+        if (entry.registration.triple.eventId == eventId)
+            registrations.push_back(entry.registration);
+    }
+    return registrations;
 }
 
-bool EventHub::begin(const Entry &entry)
+bool EventHub::begin(const Registration &registration)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    const auto same = [&entry](const Entry &other) { return other.registration == entry.registration; };
+    const auto same = [&](const Entry &entry) { return entry.registration.number == registration.number; };
     if (std::none_of(m_entries.begin(), m_entries.end(), same))
         return false;
-    m_running.push_back({entry.triple, std::this_thread::get_id()});
+    m_running.push_back({registration.triple, std::this_thread::get_id()});
     return true;
 }
 
-void EventHub::end(const Entry &entry)
+void EventHub::end(const Registration &registration)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_running.erase(std::find_if(m_running.begin(), m_running.end(), [&entry](const Running &running) {
-        return running.triple == entry.triple && running.thread == std::this_thread::get_id();
+    m_running.erase(std::find_if(m_running.begin(), m_running.end(), [&](const Running &running) {
+        return running.triple == registration.triple && running.thread == std::this_thread::get_id();
     }));
     m_ended.notify_all();
 }

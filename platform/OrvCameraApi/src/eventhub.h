@@ -44,11 +44,15 @@ private:
             return eventId == other.eventId && callback == other.callback && context == other.context;
         }
     };
-    struct Entry
+    struct Registration
     {
         Triple triple;
-        std::uint64_t registration; ///< tells an entry from a later one of the same triple
-        std::shared_ptr<Counted> counted;
+        std::uint64_t number; ///< tells it from a later one of the same triple
+    };
+    struct Entry
+    {
+        Registration registration;
+        std::unique_ptr<Counted> counted;
     };
     struct Running
     {
@@ -56,9 +60,9 @@ private:
         std::thread::id thread;
     };
 
-    std::vector<Entry> entriesOf(std::uint32_t eventId) const;
-    bool begin(const Entry &entry);
-    void end(const Entry &entry);
+    std::vector<Registration> registrationsOf(std::uint32_t eventId) const;
+    bool begin(const Registration &registration);
+    void end(const Registration &registration);
 
     mutable std::mutex m_mutex;
     std::condition_variable m_ended;
