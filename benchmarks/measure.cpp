@@ -6,6 +6,11 @@
 #include <cstdlib>
 #include <malloc.h>
 
+void tidyHeap()
+{
+    malloc_trim(0);
+}
+
 qint64 heapInUse()
 {
     const struct mallinfo2 info = mallinfo2();

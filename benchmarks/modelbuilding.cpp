@@ -54,6 +54,7 @@ struct Cost
 template <typename Make, typename Check>
 void measure(Cost &cost, int rows, const Make &make, const Check &isComplete)
 {
+    tidyHeap();
     const qint64 before = heapInUse();
     std::unique_ptr<QAbstractItemModel> model;
     cost.milliseconds.add(millisecondsOf([&] { model = make(); }));
