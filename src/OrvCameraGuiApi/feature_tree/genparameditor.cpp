@@ -70,10 +70,10 @@ ControlData integerListEditor(GenApi::IInteger &number)
 ControlData integerEditor(const GenParamFeature &feature)
 {
     // An address in hexadecimal bytes has intentionally no editor of its own: it is edited as the number it is.
-    const GenApi::ERepresentation representation = feature.representation();
+    const GenApi::CIntegerPtr number(feature.value());
+    const GenApi::ERepresentation representation = feature.representation(*number);
     if (representation == GenApi::IPV4Address)
         return addressEditor();
-    const GenApi::CIntegerPtr number(feature.value());
     if (number->GetIncMode() == GenApi::listIncrement)
         return integerListEditor(*number);
 

@@ -125,7 +125,7 @@ void WhatsThis::addInteger()
         case GenApi::fixedIncrement:
             return {Text::tr("<i>Increment</i>: %1").arg(number->GetInc())};
         case GenApi::listIncrement: {
-            const int base = m_feature.representation() == GenApi::HexNumber ? 16 : 10;
+            const int base = m_feature.representation(*number) == GenApi::HexNumber ? 16 : 10;
             const auto format = [base](int64_t value) { return QString::number(value, base); };
             return {Text::tr("<i>Valid values</i>: %1").arg(joined(number->GetListOfValidValues(), format))};
         }

@@ -34,8 +34,9 @@ bool NodeChangeForwarder::queue(GenApi::IValue *value)
     const bool eventIsOnItsWay = !m_queued.empty();
     m_queued.insert(value);
     if (!eventIsOnItsWay) {
+        const QExplicitlySharedDataPointer<NodeChangeForwarder> self(this);
         QMetaObject::invokeMethod(
-            m_context, [self = shared_from_this()] { self->deliver(); }, Qt::QueuedConnection);
+            m_context, [self] { self->deliver(); }, Qt::QueuedConnection);
     }
     return true;
 }

@@ -2,11 +2,12 @@
 
 #include <GenApi/GenApi.h>
 
+#include <QExplicitlySharedDataPointer>
 #include <QMutex>
 #include <QObject>
+#include <QSharedData>
 
 #include <functional>
-#include <memory>
 #include <set>
 
 /**
@@ -18,7 +19,7 @@
  * runs next; a node that changes again before that is handed on once. The mutex is never held while the handler or
  * GenApi runs: a callback comes with the node map's lock held, and the order of the two locks is always that.
  */
-class NodeChangeForwarder : public std::enable_shared_from_this<NodeChangeForwarder>
+class NodeChangeForwarder : public QSharedData
 {
 public:
     using Handler = std::function<void(GenApi::IValue *)>;
@@ -42,17 +43,17 @@ private:
     std::set<GenApi::IValue *> m_queued;
 };
 
-/** What a node calls when it changes. */
+/** What a node calls when it changes; a pointer in size, as there is one a feature. */
 class NodeChangeCallback
 {
 public:
-    explicit NodeChangeCallback(std::shared_ptr<NodeChangeForwarder> forwarder)
-        : m_forwarder(std::move(forwarder))
+    explicit NodeChangeCallback(const QExplicitlySharedDataPointer<NodeChangeForwarder> &forwarder)
+        : m_forwarder(forwarder)
     {
     }
 
     void operator()(GenApi::INode *node) const { m_forwarder->nodeChanged(node); }
 
 private:
-    std::shared_ptr<NodeChangeForwarder> m_forwarder;
+    QExplicitlySharedDataPointer<NodeChangeForwarder> m_forwarder;
 };
