@@ -694,14 +694,16 @@ void TestGenParamTreeModel::dropsChangesWhenItGoes()
     FeatureTree tree;
     std::atomic<bool> stop{false};
     std::thread camera([&] {
-        for (int value = 0; !stop; value = (value + 4) % 4000)
+        for (int value = 0; !stop; value = (value + 4) % 4000) {
             tree.node<GenApi::CIntegerPtr>("Exposure")->SetValue(value);
+            std::this_thread::yield();
+        }
     });
     const auto end = qScopeGuard([&] {
         stop = true;
         camera.join();
     });
-    for (int i = 0; i < 50; ++i) {
+    for (int i = 0; i < 20; ++i) {
         tree.model.reset(new GenParamTreeModel(tree.map.get(), nullptr));
         QSignalSpy changed(tree.model.get(), &QAbstractItemModel::dataChanged);
         QTRY_VERIFY(changed.size() > 0);
