@@ -79,19 +79,6 @@ private Q_SLOTS:
         QCOMPARE(validator.validate(minus, pos), QValidator::Intermediate);
         QCOMPARE(validator.toInt64(minus + QLatin1Char('7')), -7);
     }
-
-    void announcesBounds()
-    {
-        Int64Validator validator(0, 99);
-        QStringList announced;
-        connect(&validator, &Int64Validator::bottomChanged, &validator,
-                [&](long long bottom) { announced.append(QStringLiteral("bottom %1").arg(bottom)); });
-        connect(&validator, &Int64Validator::topChanged, &validator,
-                [&](long long top) { announced.append(QStringLiteral("top %1").arg(top)); });
-        validator.setRange(-7, 5);
-        validator.setRange(-7, 6);
-        QCOMPARE(announced.join(QLatin1Char(',')), QStringLiteral("bottom -7,top 5,top 6"));
-    }
 };
 
 ORV_TEST_MAIN(tst_Int64Validator)

@@ -5,7 +5,6 @@
 #include <QAccessible>
 #include <QItemEditorFactory>
 #include <QLineEdit>
-#include <QMenu>
 #include <QProxyStyle>
 #include <QStandardItemModel>
 #include <QStyleOptionSpinBox>
@@ -105,8 +104,8 @@ private Q_SLOTS:
             {0, 99, 10, 15, 20},
             {0, 99, 3, 7, 9}, // half of an odd step is rounded down
             {0, 99, 10, 96, 99}, // capped
-            {5, 95, 10, 5, 5}, // the bounds stay, on the grid or off it
-            {0, 95, 10, 95, 95},
+            {5, 94, 10, 5, 5}, // the bounds stay, on the grid or off it
+            {0, 94, 10, 94, 94},
             {-7, 99, 10, 0, 3},
             {0, 99, 10, 100, 42}, // refused
             {0, 99, 10, -1, 42},
@@ -181,6 +180,7 @@ private Q_SLOTS:
     {
         Window window;
         QVERIFY(window.isReady());
+        window.type("42");
         window.box.setDisplayIntegerBase(16);
         window.box.setDisplayIntegerBase(1); // cannot be used
         QCOMPARE(window.box.text(), QStringLiteral("42"));
@@ -247,13 +247,6 @@ private Q_SLOTS:
                 window.box.setKeyboardTracking(false);
                 window.box.setIgnoreFocusOut(ignore);
                 window.type("57");
-                QMenu menu; // a context menu for instance: what was typed waits on
-                menu.addAction(QStringLiteral("Paste"));
-                expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard")); // offscreen
-                menu.popup(QPoint());
-                menu.close();
-                QCOMPARE(window.box.text(), QStringLiteral("57"));
-                QCOMPARE(window.takeEmitted(), QString());
                 row.end(window);
                 QCOMPARE(window.box.value(), ignore ? row.discarded : row.kept);
                 QCOMPARE(window.box.text(), QString::number(window.box.value()));
@@ -267,6 +260,7 @@ private Q_SLOTS:
         QVERIFY(window.isReady());
         window.box.setPrefix(QStringLiteral("N1 "));
         window.box.setSuffix(QStringLiteral("5s")); // digits, which a damaged text would lend to the number
+        window.box.setKeyboardTracking(false);
         window.edit->setCursorPosition(4);
         window.edit->setCursorPosition(1);
         QCOMPARE(window.edit->cursorPosition(), 4);
@@ -292,35 +286,44 @@ private Q_SLOTS:
             select();
             QCOMPARE(window.edit->selectedText(), QStringLiteral("42"));
         }
+        window.box.setKeyboardTracking(true);
         QTest::keyClicks(&window.box, QStringLiteral("7"));
         QCOMPARE(window.takeEmitted(), QStringLiteral("7 'N1 75s'"));
         window.box.clear();
         QCOMPARE(window.box.text(), QStringLiteral("N1 5s"));
         QCOMPARE(window.edit->cursorPosition(), 3);
         QCOMPARE(window.box.value(), 7);
+
+        window.box.setValue(42);
+        window.box.setMaximum(20); // the line edit lets everything pass once it shows a number that is too great
+        window.box.setPrefix(QStringLiteral("N2 "));
+        window.edit->setCursorPosition(3);
+        QTest::keyClick(&window.box, Qt::Key_Backspace);
+        QCOMPARE(window.box.text(), QStringLiteral("N2 425s"));
+        QCOMPARE(window.box.value(), 42);
     }
 
     void stepsWithinTheRange()
     {
         const struct
         {
-            long long maximum, start, step;
+            long long minimum, maximum, start, step;
             int steps;
             long long dropped, wrapped;
         } rows[] = {
-            {99, 42, 10, -5, -8, -8},
-            {99, 95, 10, 1, 95, -50},
-            {99, -45, 10, -1, -45, 99},
-            {99, 89, 10, 1, 99, 99},
-            {99, -45, -10, 1, -45, 99},
-            {Largest, Largest - 1, 2, 1, Largest - 1, -50}, // the sum overflows
-            {Largest, 0, Largest, 2, 0, -50}, // the product overflows
-            {Largest, 0, Largest, -2, 0, Largest},
+            {-50, 99, 42, 10, -5, -8, -8},
+            {-50, 99, 95, 10, 1, 95, -50},
+            {-50, 99, -45, 10, -1, -45, 99},
+            {-50, 99, 89, 10, 1, 99, 99},
+            {-50, 99, -45, -10, 1, -45, 99},
+            {-50, Largest, Largest - 1, 2, 1, Largest - 1, -50}, // the sum overflows
+            {Smallest, Largest, 0, Largest, 2, 0, Smallest}, // the product overflows
+            {Smallest, Largest, 0, Largest, -2, 0, Largest},
         };
         for (const auto &row : rows) {
             for (const bool wrapping : {false, true}) {
                 QtOrvSpinBoxVal64 box;
-                box.setRange(-50, row.maximum);
+                box.setRange(row.minimum, row.maximum);
                 box.setValue(row.start);
                 box.setSingleStep(row.step);
                 box.setWrapping(wrapping);
@@ -354,6 +357,7 @@ private Q_SLOTS:
     {
         Window window;
         QVERIFY(window.isReady());
+        window.box.setRange(Smallest, Largest); // room for as many steps as come
         const auto shown = [&window] { return window.box.text().toLongLong(); };
         window.press(Up);
         QTRY_VERIFY(window.box.value() >= 44); // tracked
@@ -445,23 +449,12 @@ private Q_SLOTS:
         view.edit(index);
         auto *editor = view.findChild<QtOrvSpinBoxVal64 *>();
         QVERIFY(editor);
-        QCOMPARE(editor->value(), 42);
+        QCOMPARE(QAccessible::queryAccessibleInterface(editor)->valueInterface()->currentValue().toLongLong(), 42);
         editor->setKeyboardTracking(false);
         editor->selectAll();
         QTest::keyClicks(editor, QStringLiteral("57"));
         QTest::keyClick(editor, Qt::Key_Return);
         QTRY_COMPARE(model.data(index).toLongLong(), 57);
-    }
-
-    void servesAssistiveTools()
-    {
-        QtOrvSpinBoxVal64 box;
-        box.setRange(Smallest, Largest);
-        QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(&box);
-        QVERIFY(interface && interface->valueInterface());
-        QCOMPARE(interface->valueInterface()->minimumValue().toLongLong(), Smallest);
-        interface->valueInterface()->setCurrentValue(Largest);
-        QCOMPARE(interface->valueInterface()->currentValue().toLongLong(), Largest);
     }
 };
 

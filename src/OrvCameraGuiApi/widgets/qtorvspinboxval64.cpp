@@ -103,7 +103,7 @@ public:
 
     void startHolding();
     void stopHolding();
-    void focusLost(Qt::FocusReason reason);
+    void focusLost();
     void stepPending(const Target &target);
     void stepValue(const Target &target);
 
@@ -298,10 +298,9 @@ void QtOrvSpinBoxVal64Private::stopHolding()
         commit(pendingValue); // refused outside the range; the shown number then stays, intentionally
 }
 
-void QtOrvSpinBoxVal64Private::focusLost(Qt::FocusReason reason)
+void QtOrvSpinBoxVal64Private::focusLost()
 {
-    // A pop-up, such as the context menu with Paste, leaves the box the focus widget: typing goes on behind it.
-    if (edited && !q->keyboardTracking() && reason != Qt::PopupFocusReason)
+    if (edited && !q->keyboardTracking())
         commitText(ignoreFocusOut);
     // The release goes to whoever has the focus then, so the matching one may never come.
     stopHolding();
@@ -360,6 +359,7 @@ QSize QtOrvSpinBoxVal64Private::measuredSize() const
 
     QStyleOptionSpinBox option;
     q->initStyleOption(&option);
+    // The application's global strut is left out: Qt has deprecated it, and it is empty unless someone sets it.
     const QSize contents(width + cursorWidth, edit()->sizeHint().height());
     return q->style()->sizeFromContents(QStyle::CT_SpinBox, &option, contents, q);
 }
@@ -426,7 +426,7 @@ bool QtOrvSpinBoxVal64Private::EventAnalyzer::eventFilter(QObject *watched, QEve
             m_d->q->selectAll();
         break;
     case QEvent::FocusOut:
-        m_d->focusLost(static_cast<QFocusEvent *>(event)->reason());
+        m_d->focusLost();
         break;
     default:
         break;

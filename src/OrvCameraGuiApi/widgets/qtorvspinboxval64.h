@@ -13,7 +13,8 @@ class QtOrvSpinBoxVal64Private;
  *
  * It shows prefix, number and suffix. The number is in displayIntegerBase(): in base 10 as the widget's locale writes
  * it, with group separators only if setGroupSeparatorShown(true); in any other base as a minus sign for a negative
- * number, then lower-case digits. Cursor and selection keep to the number, and no edit can damage prefix or suffix.
+ * number, then lower-case digits. What it shows it also reads; base 10 may be typed plainly as well. Cursor and
+ * selection keep to the number, and no edit can damage prefix or suffix.
  *
  * ## When a number is committed
  *
@@ -23,8 +24,7 @@ class QtOrvSpinBoxVal64Private;
  * - Typing commits every in-range number at once while keyboardTracking() is on, and puts the value's text back for
  *   anything else. With keyboardTracking() off the typed text waits: Return and Enter commit it; loss of focus, a mouse
  *   press on the box and the keys Up, Down, Page Up and Page Down discard it, or commit it if ignoreFocusOut() is off.
- *   A pop-up such as the context menu leaves it waiting. Text that is not an in-range number is replaced by the
- *   value's.
+ *   Text that is not an in-range number is replaced by the value's.
  * - Stepping commits every step. With buttonTracking() off, the steps of a held arrow button or step key are only
  *   shown, and the number they arrived at is committed on release, or when the focus is lost before. Like
  *   every commit this one is refused outside the range; the shown number then stays as it is.
@@ -117,7 +117,10 @@ public:
     bool buttonTracking() const;
     void setButtonTracking(bool track);
 
-    /** Both hints take in the longer bound, the special value text, prefix and suffix. */
+    /**
+     * Both hints, in pixels, have room for the wider bound (of its first 20 characters) or the special value text, each
+     * with prefix and suffix. They are measured anew after a change of range, prefix, suffix, font, style or locale.
+     */
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

@@ -14,8 +14,9 @@ namespace OrvGenApi {
  *
  * Both loaders throw one GenICam::GenericException with a message that names the place ("FILE:LINE: ...") when the
  * description cannot be used: it cannot be read, is no well-formed XML, has no RegisterDescription, a node twice, a
- * formula that cannot be parsed, links that go round in a circle. A link to a node that does not exist makes the node
- * that has it not implemented, and so does a port that is not connected make its registers not available.
+ * formula that cannot be parsed, links that go round in a circle or lead too deep. A link to a node that does not exist
+ * makes the node that has it not implemented; a category leaves out such a feature. Registers behind a port that is not
+ * connected are not implemented either.
  */
 class ORV_GENAPI_EXPORT NodeMap : public GenApi::INodeMap
 {

@@ -1,0 +1,347 @@
+#include "descriptionloader.h"
+
+#include <algorithm>
+#include <cstring>
+#include <unordered_map>
+
+namespace OrvGenApi {
+
+using namespace GenApi;
+
+namespace {
+
+enum class Kind {
+    Integer,
+    IntReg,
+    StructReg,
+    Float,
+    FloatReg,
+    Boolean,
+    Command,
+    Enumeration,
+    String,
+    StringReg,
+    Register,
+    SwissKnife,
+    IntSwissKnife,
+    Converter,
+    IntConverter,
+    Category,
+    Port,
+    Group
+};
+
+const std::unordered_map<std::string_view, Kind> &kinds()
+{
+    static const std::unordered_map<std::string_view, Kind> table = {
+        {"Integer", Kind::Integer},
+        {"IntReg", Kind::IntReg},
+        {"MaskedIntReg", Kind::IntReg},
+        {"StructReg", Kind::StructReg},
+        {"Float", Kind::Float},
+        {"FloatReg", Kind::FloatReg},
+        {"Boolean", Kind::Boolean},
+        {"Command", Kind::Command},
+        {"Enumeration", Kind::Enumeration},
+        {"String", Kind::String},
+        {"StringReg", Kind::StringReg},
+        {"Register", Kind::Register},
+        {"SwissKnife", Kind::SwissKnife},
+        {"IntSwissKnife", Kind::IntSwissKnife},
+        {"Converter", Kind::Converter},
+        {"IntConverter", Kind::IntConverter},
+        {"Category", Kind::Category},
+        {"Port", Kind::Port},
+        {"Group", Kind::Group},
+    };
+    return table;
+}
+
+} // namespace
+
+DescriptionLoader::DescriptionLoader(NodeMapImpl &map, std::string xml, std::string sourceName)
+    : m_map(map)
+    , m_xml(std::move(xml))
+    , m_sourceName(std::move(sourceName))
+{
+    // Parsing in place writes into the text; lines are counted before.
+    for (std::size_t end = m_xml.find('\n'); end != std::string::npos; end = m_xml.find('\n', end + 1))
+        m_lineStarts.push_back(end + 1);
+}
+
+DescriptionLoader::~DescriptionLoader() = default;
+
+void DescriptionLoader::load()
+{
+    const pugi::xml_parse_result result = m_document.load_buffer_inplace(m_xml.data(), m_xml.size());
+    if (!result)
+        failAt(result.offset, std::string("no well-formed XML: ") + result.description());
+    const Element root = m_document.document_element();
+    if (std::strcmp(root.name(), "RegisterDescription") != 0)
+        fail(root, std::string("no GenICam description: the root element is '") + root.name() + "'");
+    m_map.m_modelName = root.attribute("ModelName").value();
+    m_map.m_vendorName = root.attribute("VendorName").value();
+    createNodes(root, 0);
+    for (std::size_t i = 0; i < m_sources.size(); ++i)
+        read(Source(m_sources[i])); // a copy: reading may make further nodes
+    finish();
+}
+
+void DescriptionLoader::createNodes(const Element &parent, int depth)
+{
+    constexpr int deepestGroup = 100;
+    if (depth > deepestGroup)
+        fail(parent, "groups stand in groups too deeply");
+    for (const Element &element : parent.children()) {
+        if (element.type() != pugi::node_element)
+            continue;
+        if (std::strcmp(element.name(), "Group") == 0)
+            createNodes(element, depth + 1);
+        else
+            createNode(element);
+    }
+}
+
+std::string DescriptionLoader::nameOf(const Element &element) const
+{
+    const char *const name = element.attribute("Name").value();
+    if (!*name)
+        fail(element, std::string("a node of kind '") + element.name() + "' has no name");
+    return name;
+}
+
+template <typename T>
+T &DescriptionLoader::create(const Element &element, const std::string &name, const Element &common)
+{
+    auto owned = std::make_unique<T>(m_map, m_map.keep(name));
+    T &node = *owned;
+    node.m_index = static_cast<uint32_t>(m_map.m_nodes.size());
+    node.m_standardNameSpace = std::strcmp(element.attribute("NameSpace").value(), "Standard") == 0;
+    if (!m_map.add(std::move(owned)))
+        fail(element, "there are two nodes '" + name + "'");
+    m_sources.push_back({&node, element, common});
+    return node;
+}
+
+void DescriptionLoader::createNode(const Element &element)
+{
+    const auto found = kinds().find(element.name());
+    if (found == kinds().end())
+        return; // descriptions may hold elements of later schemas
+    if (found->second == Kind::StructReg) {
+        createStructEntries(element);
+        return;
+    }
+    const std::string name = nameOf(element);
+    switch (found->second) {
+    case Kind::Integer:
+        create<IntegerNode>(element, name);
+        break;
+    case Kind::IntReg:
+        create<IntRegisterNode>(element, name);
+        break;
+    case Kind::Float:
+        create<FloatNode>(element, name);
+        break;
+    case Kind::FloatReg:
+        create<FloatRegisterNode>(element, name);
+        break;
+    case Kind::Boolean:
+        create<BooleanNode>(element, name);
+        break;
+    case Kind::Command:
+        create<CommandNode>(element, name);
+        break;
+    case Kind::Enumeration:
+        createEntries(element, create<EnumerationNode>(element, name).name());
+        break;
+    case Kind::String:
+        create<StringNode>(element, name);
+        break;
+    case Kind::StringReg:
+        create<StringRegisterNode>(element, name);
+        break;
+    case Kind::Register:
+        create<RegisterNode>(element, name);
+        break;
+    case Kind::SwissKnife:
+        create<SwissKnifeNode<FloatFormulaBase>>(element, name);
+        break;
+    case Kind::IntSwissKnife:
+        create<SwissKnifeNode<IntegerFormulaBase>>(element, name);
+        break;
+    case Kind::Converter:
+        create<ConverterNode<FloatFormulaBase>>(element, name);
+        break;
+    case Kind::IntConverter:
+        create<ConverterNode<IntegerFormulaBase>>(element, name);
+        break;
+    case Kind::Category:
+        create<CategoryNode>(element, name);
+        break;
+    case Kind::Port:
+        create<PortNode>(element, name);
+        break;
+    case Kind::StructReg:
+    case Kind::Group:
+        break;
+    }
+}
+
+void DescriptionLoader::createEntries(const Element &enumeration, const char *enumerationName)
+{
+    const std::string prefix = std::string("EnumEntry_") + enumerationName + "_";
+    for (const Element &element : enumeration.children("EnumEntry")) {
+        const std::string symbolic = nameOf(element);
+        EnumEntryNode &entry = create<EnumEntryNode>(element, prefix + symbolic);
+        entry.m_symbolic = entry.name() + prefix.size();
+    }
+}
+
+void DescriptionLoader::createStructEntries(const Element &structure)
+{
+    for (const Element &element : structure.children("StructEntry"))
+        create<IntRegisterNode>(element, nameOf(element), structure);
+}
+
+SwissKnifeNode<IntegerFormulaBase> &DescriptionLoader::createKnife(const Element &element, const std::string &name)
+{
+    return create<SwissKnifeNode<IntegerFormulaBase>>(element, name);
+}
+
+void DescriptionLoader::finish()
+{
+    checkLinks();
+    deriveCategories();
+    markFeatures();
+    for (const std::unique_ptr<Node> &node : m_map.m_nodes) {
+        node->m_dependents.shrink_to_fit();
+        if (node->m_pollingTime > 0)
+            m_map.m_polled.push_back(node.get());
+    }
+    m_map.m_nodes.shrink_to_fit();
+}
+
+void DescriptionLoader::checkLinks()
+{
+    // Links are followed by recursion when values are read, so they must not be circular, nor too deep for a stack.
+    constexpr uint32_t deepest = 300;
+    const auto leadsOn = [](const Edge &edge) { return edge.use != Use::Notice; };
+    m_edges.erase(std::stable_partition(m_edges.begin(), m_edges.end(), leadsOn), m_edges.end());
+    std::stable_sort(m_edges.begin(), m_edges.end(), [](const Edge &a, const Edge &b) { return a.from < b.from; });
+    const std::size_t count = m_map.m_nodes.size();
+    std::vector<std::size_t> first(count + 1, 0);
+    for (const Edge &edge : m_edges)
+        ++first[edge.from + 1];
+    for (std::size_t i = 0; i < count; ++i)
+        first[i + 1] += first[i];
+
+    enum : uint8_t { New, Open, Done };
+    std::vector<uint8_t> state(count, New);
+    std::vector<uint32_t> depth(count, 1);
+    std::vector<std::size_t> next(first.begin(), first.end() - 1);
+    std::vector<uint32_t> path;
+    for (uint32_t start = 0; start < count; ++start) {
+        if (state[start] != New)
+            continue;
+        path.assign(1, start);
+        state[start] = Open;
+        while (!path.empty()) {
+            const uint32_t at = path.back();
+            Node &node = *m_map.m_nodes[at];
+            if (next[at] < first[at + 1]) {
+                const uint32_t to = m_edges[next[at]++].to;
+                if (state[to] == Open)
+                    failCircle(path, to);
+                if (state[to] == New) {
+                    state[to] = Open;
+                    path.push_back(to);
+                }
+                continue;
+            }
+            for (std::size_t i = first[at]; i < first[at + 1]; ++i) {
+                const Node &child = *m_map.m_nodes[m_edges[i].to];
+                depth[at] = std::max(depth[at], depth[child.m_index] + 1);
+                if (m_edges[i].use == Use::Value)
+                    node.setCachingMode(combined(node.cachingMode(), child.cachingMode()));
+            }
+            if (depth[at] > deepest)
+                fail(m_sources[at].element, std::string("the links of node '") + node.name() + "' lead too deep");
+            state[at] = Done;
+            path.pop_back();
+        }
+    }
+}
+
+void DescriptionLoader::failCircle(const std::vector<uint32_t> &path, uint32_t first) const
+{
+    std::string circle;
+    for (auto at = std::find(path.begin(), path.end(), first); at != path.end(); ++at)
+        circle += std::string(m_map.m_nodes[*at]->name()) + " -> ";
+    fail(m_sources[first].element, "the links go round in a circle: " + circle + m_map.m_nodes[first]->name());
+}
+
+void DescriptionLoader::markFeatures()
+{
+    Node *const root = m_map.find("Root");
+    std::vector<Node *> open;
+    if (root)
+        open.push_back(root);
+    while (!open.empty()) {
+        const auto category = dynamic_cast<CategoryNode *>(open.back());
+        open.pop_back();
+        if (!category)
+            continue;
+        for (Node *feature : category->m_features) {
+            if (!feature->m_isFeature) {
+                feature->m_isFeature = true;
+                open.push_back(feature);
+            }
+        }
+    }
+}
+
+void DescriptionLoader::deriveCategories()
+{
+    std::unordered_map<const Node *, std::vector<CategoryNode *>> parents;
+    std::vector<std::vector<CategoryNode *>> found(Invisible + 1);
+    const auto lower = [&found](CategoryNode *category, EVisibility visibility) {
+        if (visibility < category->m_derivedVisibility) {
+            category->m_derivedVisibility = visibility;
+            found[visibility].push_back(category);
+        }
+    };
+    for (const std::unique_ptr<Node> &node : m_map.m_nodes) {
+        const auto category = dynamic_cast<CategoryNode *>(node.get());
+        if (!category)
+            continue;
+        for (Node *feature : category->m_features) {
+            if (feature->interfaceType() == intfICategory)
+                parents[feature].push_back(category);
+            else
+                lower(category, feature->visibility());
+        }
+    }
+    // A category is as visible as the most visible feature anywhere below it.
+    for (int visibility = Beginner; visibility <= Invisible; ++visibility) {
+        for (std::size_t i = 0; i < found[static_cast<std::size_t>(visibility)].size(); ++i) {
+            CategoryNode *const category = found[static_cast<std::size_t>(visibility)][i];
+            for (CategoryNode *parent : parents[category])
+                lower(parent, static_cast<EVisibility>(visibility));
+        }
+    }
+}
+
+void DescriptionLoader::fail(const Element &element, const std::string &what) const
+{
+    failAt(element.offset_debug(), what);
+}
+
+void DescriptionLoader::failAt(std::ptrdiff_t offset, const std::string &what) const
+{
+    const auto position = static_cast<std::size_t>(std::max<std::ptrdiff_t>(offset, 0));
+    const auto line = std::upper_bound(m_lineStarts.begin(), m_lineStarts.end(), position) - m_lineStarts.begin() + 1;
+    ORV_THROW(RuntimeException, m_sourceName + ":" + std::to_string(line) + ": " + what);
+}
+
+} // namespace OrvGenApi

@@ -1,0 +1,114 @@
+#pragma once
+
+#include "formulanodes.h"
+#include "integernode.h"
+#include "othernodes.h"
+#include "registernodes.h"
+
+#include <pugixml.hpp>
+
+namespace OrvGenApi {
+
+/** Fills a map from a description. Used once; throws GenICam exceptions that name the line. */
+class DescriptionLoader
+{
+public:
+    /** \a xml is parsed in place and must stay as it is until load() has returned. */
+    DescriptionLoader(NodeMapImpl &map, std::string xml, std::string sourceName);
+    ~DescriptionLoader();
+
+    void load();
+
+private:
+    using Element = pugi::xml_node;
+
+    /** What a link means for the node that has it. */
+    enum class Use : uint8_t {
+        Value, ///< its value is made of the other node's
+        Condition, ///< it reads the other node
+        Notice ///< it changes with the other node
+    };
+
+    struct Edge
+    {
+        uint32_t from;
+        uint32_t to;
+        Use use;
+    };
+
+    struct Source
+    {
+        Node *node;
+        Element element;
+        Element common; ///< the StructReg that a StructEntry stands in
+    };
+
+    // Finding and making nodes
+    void createNodes(const Element &parent, int depth);
+    void createNode(const Element &element);
+    void createEntries(const Element &enumeration, const char *enumerationName);
+    void createStructEntries(const Element &structure);
+    template <typename T>
+    T &create(const Element &element, const std::string &name, const Element &common = {});
+    SwissKnifeNode<IntegerFormulaBase> &createKnife(const Element &element, const std::string &name);
+    std::string nameOf(const Element &element) const;
+
+    // Reading properties
+    void read(const Source &source);
+    bool readCommon(Node &node, const Element &property);
+    bool readPresentation(Presentation &presentation, const Element &property);
+    bool readRegister(Node &node, RegisterData &data, const Element &property);
+    void readInteger(IntegerNode &node, const Element &element);
+    void readIntegerProperty(IntegerNode &node, const Element &property);
+    void readFloat(FloatNode &node, const Element &element);
+    void readIntRegister(IntRegisterNode &node, const Source &source);
+    void readFloatRegister(FloatRegisterNode &node, const Element &element);
+    template <typename T>
+    void readPlainRegister(T &node, const Element &element);
+    template <typename Base>
+    void readSwissKnife(SwissKnifeNode<Base> &node, const Element &element);
+    template <typename Base>
+    void readConverter(ConverterNode<Base> &node, const Element &element);
+    void readString(StringNode &node, const Element &element);
+    void readBoolean(BooleanNode &node, const Element &element);
+    void readCommand(CommandNode &node, const Element &element);
+    void readEnumeration(EnumerationNode &node, const Element &element);
+    void readEntry(EnumEntryNode &node, const Element &element);
+    void readCategory(CategoryNode &node, const Element &element);
+    void readPort(PortNode &node, const Element &element);
+    void readAddressKnife(Node &node, RegisterData &data, const Element &element);
+
+    /** The names a formula may use; reads variables, constants and expressions of \a element. */
+    FormulaScope scopeOf(Node &node, std::vector<FormulaVariable> &variables, const Element &element);
+    void readVariable(Node &node, std::vector<FormulaVariable> &variables, const Element &property);
+    Formula formula(const Element &property, FormulaScope scope, const char *converted, Formula::Kind kind) const;
+
+    // Properties' values
+    Node *link(Node &owner, const Element &property, Use use);
+    template <typename Number>
+    void linkNumber(NumberRef<Number> &reference, Node &owner, const Element &property, Use use);
+    int64_t integer(const Element &property) const;
+    double number(const Element &property) const;
+    static bool isYes(const Element &property);
+    static std::string_view textOf(const Element &property);
+
+    // When all nodes are read
+    void finish();
+    void checkLinks();
+    void markFeatures();
+    void deriveCategories();
+
+    [[noreturn]] void fail(const Element &element, const std::string &what) const;
+    [[noreturn]] void failAt(std::ptrdiff_t offset, const std::string &what) const;
+    [[noreturn]] void failCircle(const std::vector<uint32_t> &path, uint32_t first) const;
+
+    NodeMapImpl &m_map;
+    std::string m_xml;
+    const std::string m_sourceName;
+    std::vector<std::size_t> m_lineStarts;
+    pugi::xml_document m_document;
+    std::vector<Source> m_sources;
+    std::vector<Edge> m_edges;
+};
+
+} // namespace OrvGenApi

@@ -1,0 +1,599 @@
+#include "descriptionloader.h"
+
+#include <cstring>
+#include <unordered_map>
+
+namespace OrvGenApi {
+
+using namespace GenApi;
+
+namespace {
+
+template <typename Value>
+using Names = std::unordered_map<std::string_view, Value>;
+
+/** The value a word stands for; nothing for a word that is not in the table. */
+template <typename Value>
+std::optional<Value> lookUp(const Names<Value> &names, std::string_view word)
+{
+    const auto found = names.find(trimmed(word));
+    if (found == names.end())
+        return std::nullopt;
+    return found->second;
+}
+
+const Names<EAccessMode> accessModes = {{"RO", RO}, {"WO", WO}, {"RW", RW}, {"NA", NA}, {"NI", NI}};
+const Names<EVisibility> visibilities = {
+    {"Beginner", Beginner}, {"Expert", Expert}, {"Guru", Guru}, {"Invisible", Invisible}};
+const Names<ECachingMode> cachingModes = {
+    {"NoCache", NoCache}, {"WriteThrough", WriteThrough}, {"WriteAround", WriteAround}};
+const Names<ERepresentation> representations = {
+    {"Linear", Linear},       {"Logarithmic", Logarithmic}, {"Boolean", GenApi::Boolean}, {"PureNumber", PureNumber},
+    {"HexNumber", HexNumber}, {"IPV4Address", IPV4Address}, {"MACAddress", MACAddress},
+};
+const Names<EDisplayNotation> notations = {
+    {"Automatic", fnAutomatic}, {"Fixed", fnFixed}, {"Scientific", fnScientific}};
+
+bool is(const pugi::xml_node &property, const char *name)
+{
+    return std::strcmp(property.name(), name) == 0;
+}
+
+} // namespace
+
+Node *DescriptionLoader::link(Node &owner, const Element &property, Use use)
+{
+    const std::string name(trimmed(textOf(property)));
+    Node *const node = m_map.find(name);
+    if (!node) {
+        owner.setBroken(m_map.keep(std::string(property.name()) + " refers to '" + name + "', which does not exist"));
+        return nullptr;
+    }
+    node->addDependent(owner);
+    m_edges.push_back({owner.m_index, node->m_index, use});
+    return node;
+}
+
+template <typename Number>
+void DescriptionLoader::linkNumber(NumberRef<Number> &reference, Node &owner, const Element &property, Use use)
+{
+    if (Node *const node = link(owner, property, use))
+        reference.setNode(node);
+}
+
+std::string_view DescriptionLoader::textOf(const Element &property)
+{
+    return property.child_value();
+}
+
+bool DescriptionLoader::isYes(const Element &property)
+{
+    const std::string_view text = trimmed(textOf(property));
+    return text == "Yes" || text == "true" || text == "1";
+}
+
+int64_t DescriptionLoader::integer(const Element &property) const
+{
+    const std::optional<int64_t> value = parseInteger(textOf(property));
+    if (!value)
+        fail(property, std::string(property.name()) + ": '" + std::string(textOf(property)) + "' is no integer");
+    return *value;
+}
+
+double DescriptionLoader::number(const Element &property) const
+{
+    const std::optional<double> value = parseFloat(textOf(property));
+    if (!value)
+        fail(property, std::string(property.name()) + ": '" + std::string(textOf(property)) + "' is no number");
+    return *value;
+}
+
+void DescriptionLoader::read(const Source &source)
+{
+    Node *const node = source.node;
+    const Element &element = source.element;
+    if (const auto integer = dynamic_cast<IntegerNode *>(node))
+        readInteger(*integer, element);
+    else if (const auto intRegister = dynamic_cast<IntRegisterNode *>(node))
+        readIntRegister(*intRegister, source);
+    else if (const auto enumEntry = dynamic_cast<EnumEntryNode *>(node))
+        readEntry(*enumEntry, element);
+    else if (const auto enumeration = dynamic_cast<EnumerationNode *>(node))
+        readEnumeration(*enumeration, element);
+    else if (const auto intKnife = dynamic_cast<SwissKnifeNode<IntegerFormulaBase> *>(node))
+        readSwissKnife(*intKnife, element);
+    else if (const auto boolean = dynamic_cast<BooleanNode *>(node))
+        readBoolean(*boolean, element);
+    else if (const auto category = dynamic_cast<CategoryNode *>(node))
+        readCategory(*category, element);
+    else if (const auto floating = dynamic_cast<FloatNode *>(node))
+        readFloat(*floating, element);
+    else if (const auto floatRegister = dynamic_cast<FloatRegisterNode *>(node))
+        readFloatRegister(*floatRegister, element);
+    else if (const auto command = dynamic_cast<CommandNode *>(node))
+        readCommand(*command, element);
+    else if (const auto string = dynamic_cast<StringNode *>(node))
+        readString(*string, element);
+    else if (const auto stringRegister = dynamic_cast<StringRegisterNode *>(node))
+        readPlainRegister(*stringRegister, element);
+    else if (const auto bytes = dynamic_cast<RegisterNode *>(node))
+        readPlainRegister(*bytes, element);
+    else if (const auto knife = dynamic_cast<SwissKnifeNode<FloatFormulaBase> *>(node))
+        readSwissKnife(*knife, element);
+    else if (const auto converter = dynamic_cast<ConverterNode<FloatFormulaBase> *>(node))
+        readConverter(*converter, element);
+    else if (const auto intConverter = dynamic_cast<ConverterNode<IntegerFormulaBase> *>(node))
+        readConverter(*intConverter, element);
+    else if (const auto port = dynamic_cast<PortNode *>(node))
+        readPort(*port, element);
+}
+
+bool DescriptionLoader::readCommon(Node &node, const Element &property)
+{
+    const std::string_view text = textOf(property);
+    if (is(property, "ToolTip"))
+        node.m_toolTip = m_map.keep(text);
+    else if (is(property, "Description"))
+        // Many descriptions say the same in both places.
+        node.m_description = text == node.m_toolTip ? node.m_toolTip : m_map.keep(text);
+    else if (is(property, "DisplayName"))
+        node.m_displayName = m_map.keep(text);
+    else if (is(property, "Visibility"))
+        node.m_visibility = lookUp(visibilities, text).value_or(Beginner);
+    else if (is(property, "Streamable"))
+        node.m_streamable = isYes(property);
+    else if (is(property, "ImposedAccessMode"))
+        node.m_imposedAccess = lookUp(accessModes, text).value_or(RW);
+    else if (is(property, "PollingTime"))
+        node.m_pollingTime = integer(property);
+    else if (is(property, "pIsImplemented"))
+        node.m_isImplemented = link(node, property, Use::Condition);
+    else if (is(property, "pIsAvailable"))
+        node.m_isAvailable = link(node, property, Use::Condition);
+    else if (is(property, "pIsLocked"))
+        node.m_isLocked = link(node, property, Use::Condition);
+    else if (is(property, "pInvalidator"))
+        link(node, property, Use::Notice);
+    else if (is(property, "pSelected")) {
+        if (Node *const selected = m_map.find(std::string(trimmed(text))))
+            node.addSelected(*selected);
+    } else
+        return false;
+    return true;
+}
+
+bool DescriptionLoader::readPresentation(Presentation &presentation, const Element &property)
+{
+    const std::string_view text = textOf(property);
+    if (is(property, "Unit"))
+        presentation.unit = m_map.keep(text);
+    else if (is(property, "Representation"))
+        presentation.representation = lookUp(representations, text).value_or(_UndefinedRepresentation);
+    else if (is(property, "DisplayNotation"))
+        presentation.notation = lookUp(notations, text).value_or(_UndefinedEDisplayNotation);
+    else if (is(property, "DisplayPrecision"))
+        presentation.precision = std::max<int64_t>(integer(property), 0);
+    else
+        return false;
+    return true;
+}
+
+bool DescriptionLoader::readRegister(Node &node, RegisterData &data, const Element &property)
+{
+    if (is(property, "Address")) {
+        data.m_addressTerms.emplace_back().value.setConstant(integer(property));
+    } else if (is(property, "pAddress")) {
+        linkNumber(data.m_addressTerms.emplace_back().value, node, property, Use::Condition);
+    } else if (is(property, "IntSwissKnife")) {
+        readAddressKnife(node, data, property);
+    } else if (is(property, "pIndex")) {
+        RegisterData::AddressTerm &term = data.m_addressTerms.emplace_back();
+        term.isIndex = true;
+        linkNumber(term.value, node, property, Use::Condition);
+        if (const pugi::xml_attribute offset = property.attribute("Offset")) {
+            const std::optional<int64_t> value = parseInteger(std::string_view(offset.value()));
+            if (!value)
+                fail(property, std::string("Offset: '") + offset.value() + "' is no integer");
+            term.offset.setConstant(*value);
+        } else if (const pugi::xml_attribute offsetNode = property.attribute("pOffset")) {
+            if (Node *const target = m_map.find(offsetNode.value())) {
+                target->addDependent(node);
+                m_edges.push_back({node.m_index, target->m_index, Use::Condition});
+                term.offset.setNode(target);
+            } else {
+                node.setBroken(
+                    m_map.keep(std::string("pOffset refers to '") + offsetNode.value() + "', which does not exist"));
+            }
+        }
+    } else if (is(property, "Length")) {
+        data.m_length.setConstant(integer(property));
+    } else if (is(property, "pLength")) {
+        linkNumber(data.m_length, node, property, Use::Condition);
+    } else if (is(property, "AccessMode")) {
+        data.m_accessMode = lookUp(accessModes, textOf(property)).value_or(RO);
+    } else if (is(property, "Cachable")) {
+        data.m_cachable = lookUp(cachingModes, textOf(property)).value_or(WriteThrough);
+    } else if (is(property, "Endianess")) {
+        data.m_bigEndian = trimmed(textOf(property)) == "BigEndian";
+    } else if (is(property, "pPort")) {
+        data.m_port = dynamic_cast<PortNode *>(link(node, property, Use::Condition));
+        if (!data.m_port && !node.isBroken())
+            node.setBroken("its pPort is no port");
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void DescriptionLoader::readAddressKnife(Node &node, RegisterData &data, const Element &element)
+{
+    // A formula that stands in the register itself is a node like others, under a name that nothing else has.
+    std::string name = element.attribute("Name").value();
+    for (int number = 1; name.empty() || m_map.find(name); ++number)
+        name = std::string(node.name()) + "_Address" + std::to_string(number);
+    SwissKnifeNode<IntegerFormulaBase> &knife = createKnife(element, name); // read in its turn
+    knife.addDependent(node);
+    m_edges.push_back({node.m_index, knife.m_index, Use::Condition});
+    data.m_addressTerms.emplace_back().value.setNode(&knife);
+}
+
+void DescriptionLoader::readInteger(IntegerNode &node, const Element &element)
+{
+    for (const Element &property : element.children()) {
+        if (!readCommon(node, property) && !readPresentation(node.m_presentation, property))
+            readIntegerProperty(node, property);
+    }
+    if (node.m_indexed ? !node.m_indexed->index : !node.m_value.isSet())
+        node.setBroken(node.isBroken() ? node.m_broken : "it has no value");
+}
+
+void DescriptionLoader::readIntegerProperty(IntegerNode &node, const Element &property)
+{
+    const auto indexed = [&node]() -> IndexedValues & {
+        if (!node.m_indexed)
+            node.m_indexed = std::make_unique<IndexedValues>();
+        return *node.m_indexed;
+    };
+    const auto item = [&](const Element &of) -> IntRef & {
+        const std::optional<int64_t> index = parseInteger(std::string_view(of.attribute("Index").value()));
+        if (!index)
+            fail(of, std::string("Index: '") + of.attribute("Index").value() + "' is no integer");
+        return indexed().items.emplace_back(IndexedValues::Item{*index, {}}).value;
+    };
+    if (is(property, "Value"))
+        node.m_value.setConstant(integer(property));
+    else if (is(property, "pValue"))
+        linkNumber(node.m_value, node, property, Use::Value);
+    else if (is(property, "pValueCopy")) {
+        if (Node *const copy = link(node, property, Use::Condition))
+            node.m_copies.push_back(copy);
+    } else if (is(property, "pIndex"))
+        indexed().index = link(node, property, Use::Value);
+    else if (is(property, "ValueIndexed"))
+        item(property).setConstant(integer(property));
+    else if (is(property, "pValueIndexed"))
+        linkNumber(item(property), node, property, Use::Value);
+    else if (is(property, "ValueDefault"))
+        indexed().fallback.setConstant(integer(property));
+    else if (is(property, "pValueDefault"))
+        linkNumber(indexed().fallback, node, property, Use::Value);
+    else if (is(property, "Min"))
+        node.m_minimum.setConstant(integer(property));
+    else if (is(property, "pMin"))
+        linkNumber(node.m_minimum, node, property, Use::Condition);
+    else if (is(property, "Max"))
+        node.m_maximum.setConstant(integer(property));
+    else if (is(property, "pMax"))
+        linkNumber(node.m_maximum, node, property, Use::Condition);
+    else if (is(property, "Inc"))
+        node.m_increment.setConstant(integer(property));
+    else if (is(property, "pInc"))
+        linkNumber(node.m_increment, node, property, Use::Condition);
+    else if (is(property, "ValidValueSet")) {
+        node.m_validValues = std::make_unique<std::vector<int64_t>>();
+        std::string_view rest = textOf(property);
+        while (!rest.empty()) {
+            const std::size_t end = std::min(rest.find(';'), rest.size());
+            const std::string_view word = trimmed(rest.substr(0, end));
+            rest.remove_prefix(std::min(end + 1, rest.size()));
+            if (word.empty())
+                continue;
+            const std::optional<int64_t> value = parseInteger(word);
+            if (!value)
+                fail(property, "ValidValueSet: '" + std::string(word) + "' is no integer");
+            node.m_validValues->push_back(*value);
+        }
+        std::sort(node.m_validValues->begin(), node.m_validValues->end());
+    }
+}
+
+void DescriptionLoader::readFloat(FloatNode &node, const Element &element)
+{
+    node.setCachingMode(WriteAround);
+    for (const Element &property : element.children()) {
+        if (readCommon(node, property) || readPresentation(node.m_presentation, property))
+            continue;
+        if (is(property, "Value"))
+            node.m_value.setConstant(number(property));
+        else if (is(property, "pValue"))
+            linkNumber(node.m_value, node, property, Use::Value);
+        else if (is(property, "pValueCopy")) {
+            if (Node *const copy = link(node, property, Use::Condition))
+                node.m_copies.push_back(copy);
+        } else if (is(property, "Min"))
+            node.m_minimum.setConstant(number(property));
+        else if (is(property, "pMin"))
+            linkNumber(node.m_minimum, node, property, Use::Condition);
+        else if (is(property, "Max"))
+            node.m_maximum.setConstant(number(property));
+        else if (is(property, "pMax"))
+            linkNumber(node.m_maximum, node, property, Use::Condition);
+        else if (is(property, "Inc"))
+            node.m_increment.setConstant(number(property));
+        else if (is(property, "pInc"))
+            linkNumber(node.m_increment, node, property, Use::Condition);
+    }
+    if (!node.m_value.isSet() && !node.isBroken())
+        node.setBroken("it has no value");
+}
+
+void DescriptionLoader::readIntRegister(IntRegisterNode &node, const Source &source)
+{
+    const auto readAll = [&](const Element &element) {
+        for (const Element &property : element.children()) {
+            if (readCommon(node, property) || readPresentation(node.m_presentation, property)
+                || readRegister(node, node.m_register, property))
+                continue;
+            if (is(property, "Sign")) {
+                node.m_signed = trimmed(textOf(property)) == "Signed";
+                continue;
+            }
+            const bool bit = is(property, "Bit");
+            if (!bit && !is(property, "LSB") && !is(property, "MSB"))
+                continue;
+            const int64_t position = integer(property);
+            if (position < 0 || position > 63)
+                fail(property, "there is no bit " + std::to_string(position));
+            if (bit || is(property, "LSB"))
+                node.m_lsb = static_cast<int16_t>(position);
+            if (bit || is(property, "MSB"))
+                node.m_msb = static_cast<int16_t>(position);
+        }
+    };
+    if (source.common)
+        readAll(source.common);
+    readAll(source.element);
+    if ((node.m_lsb < 0) != (node.m_msb < 0))
+        fail(source.element, std::string("node '") + node.name() + "' has only one of LSB and MSB");
+    node.setCachingMode(node.m_register.m_cachable);
+}
+
+void DescriptionLoader::readFloatRegister(FloatRegisterNode &node, const Element &element)
+{
+    for (const Element &property : element.children()) {
+        if (!readCommon(node, property) && !readPresentation(node.m_presentation, property))
+            readRegister(node, node.m_register, property);
+    }
+    node.setCachingMode(combined(WriteAround, node.m_register.m_cachable));
+}
+
+template <typename T>
+void DescriptionLoader::readPlainRegister(T &node, const Element &element)
+{
+    for (const Element &property : element.children()) {
+        if (!readCommon(node, property))
+            readRegister(node, node.m_register, property);
+    }
+    node.setCachingMode(node.m_register.m_cachable);
+}
+
+FormulaScope DescriptionLoader::scopeOf(Node &node, std::vector<FormulaVariable> &variables, const Element &element)
+{
+    FormulaScope scope;
+    for (const Element &property : element.children()) {
+        const std::string_view name = property.attribute("Name").value();
+        if (is(property, "pVariable")) {
+            readVariable(node, variables, property);
+            scope.variables.push_back(name);
+        } else if (is(property, "Constant")) {
+            scope.constants.emplace_back(name, textOf(property));
+        } else if (is(property, "Expression")) {
+            scope.expressions.emplace_back(name, textOf(property));
+        }
+    }
+    return scope;
+}
+
+void DescriptionLoader::readVariable(Node &node, std::vector<FormulaVariable> &variables, const Element &property)
+{
+    using Property = FormulaVariable::Property;
+    static const Names<Property> properties = {{"Value", Property::Value}, {"Min", Property::Minimum},
+                                               {"Max", Property::Maximum}, {"Inc", Property::Increment},
+                                               {"Enum", Property::Entry},  {"Entry", Property::Entry}};
+    FormulaVariable &variable = variables.emplace_back();
+    std::string_view suffix = property.attribute("Name").value();
+    suffix.remove_prefix(std::min(suffix.find('.'), suffix.size()));
+    if (!suffix.empty()) {
+        suffix.remove_prefix(1);
+        const std::size_t end = std::min(suffix.find('.'), suffix.size());
+        const std::optional<Property> meant = lookUp(properties, suffix.substr(0, end));
+        if (!meant)
+            fail(property, "no such property of a variable: '" + std::string(suffix) + "'");
+        variable.property = *meant;
+        if (variable.property == Property::Entry)
+            variable.entry = m_map.keep(suffix.substr(std::min(end + 1, suffix.size())));
+    }
+    variable.node = link(node, property, Use::Value);
+}
+
+Formula DescriptionLoader::formula(const Element &property, FormulaScope scope, const char *converted,
+                                   Formula::Kind kind) const
+{
+    if (converted)
+        scope.variables.push_back(converted);
+    try {
+        return Formula::parse(textOf(property), scope, kind);
+    } catch (const FormulaError &error) {
+        fail(property, std::string(property.name()) + ": " + error.message);
+    }
+}
+
+template <typename Base>
+void DescriptionLoader::readSwissKnife(SwissKnifeNode<Base> &node, const Element &element)
+{
+    if (Base::kind == Formula::Kind::Float)
+        node.setCachingMode(WriteAround);
+    for (const Element &property : element.children()) {
+        if (!readCommon(node, property))
+            readPresentation(node.m_presentation, property);
+    }
+    const FormulaScope scope = scopeOf(node, node.m_variables, element);
+    if (const Element property = element.child("Formula"))
+        node.m_formula = formula(property, scope, nullptr, Base::kind);
+    else
+        fail(element, std::string("node '") + node.name() + "' has no formula");
+}
+
+template <typename Base>
+void DescriptionLoader::readConverter(ConverterNode<Base> &node, const Element &element)
+{
+    using Slope = typename ConverterNode<Base>::Slope;
+    static const Names<Slope> slopes = {{"Increasing", Slope::Increasing},
+                                        {"Decreasing", Slope::Decreasing},
+                                        {"Varying", Slope::Varying},
+                                        {"Automatic", Slope::Automatic}};
+    node.setCachingMode(WriteAround);
+    for (const Element &property : element.children()) {
+        if (readCommon(node, property) || readPresentation(node.m_presentation, property))
+            continue;
+        if (is(property, "pValue"))
+            node.m_node = link(node, property, Use::Value);
+        else if (is(property, "Slope"))
+            node.m_slope = lookUp(slopes, textOf(property)).value_or(Slope::Automatic);
+    }
+    const FormulaScope scope = scopeOf(node, node.m_variables, element);
+    const Element to = element.child("FormulaTo");
+    const Element from = element.child("FormulaFrom");
+    if (!to || !from)
+        fail(element, std::string("node '") + node.name() + "' needs a FormulaTo and a FormulaFrom");
+    node.m_formulaTo = formula(to, scope, "FROM", Base::kind);
+    node.m_formulaFrom = formula(from, scope, "TO", Base::kind);
+    if (!node.m_node && !node.isBroken())
+        node.setBroken("it has no pValue");
+}
+
+void DescriptionLoader::readString(StringNode &node, const Element &element)
+{
+    for (const Element &property : element.children()) {
+        if (readCommon(node, property))
+            continue;
+        if (is(property, "Value"))
+            node.m_text = textOf(property);
+        else if (is(property, "pValue"))
+            node.m_node = link(node, property, Use::Value);
+    }
+}
+
+void DescriptionLoader::readBoolean(BooleanNode &node, const Element &element)
+{
+    for (const Element &property : element.children()) {
+        if (readCommon(node, property))
+            continue;
+        if (is(property, "Value")) {
+            const std::string_view word = trimmed(textOf(property));
+            node.m_value.setConstant(word == "true" ? 1 : word == "false" ? 0 : integer(property));
+        } else if (is(property, "pValue"))
+            linkNumber(node.m_value, node, property, Use::Value);
+        else if (is(property, "OnValue"))
+            node.m_onValue = integer(property);
+        else if (is(property, "OffValue"))
+            node.m_offValue = integer(property);
+    }
+    if (!node.m_value.isSet() && !node.isBroken())
+        node.setBroken("it has no value");
+}
+
+void DescriptionLoader::readCommand(CommandNode &node, const Element &element)
+{
+    for (const Element &property : element.children()) {
+        if (readCommon(node, property))
+            continue;
+        if (is(property, "Value"))
+            node.m_value.setConstant(integer(property));
+        else if (is(property, "pValue"))
+            linkNumber(node.m_value, node, property, Use::Value);
+        else if (is(property, "CommandValue"))
+            node.m_commandValue.setConstant(integer(property));
+        else if (is(property, "pCommandValue"))
+            linkNumber(node.m_commandValue, node, property, Use::Condition);
+    }
+    if ((!node.m_value.isSet() || !node.m_commandValue.isSet()) && !node.isBroken())
+        node.setBroken("it has no value or no command value");
+}
+
+void DescriptionLoader::readEnumeration(EnumerationNode &node, const Element &element)
+{
+    for (const Element &property : element.children()) {
+        if (readCommon(node, property))
+            continue;
+        if (is(property, "Value"))
+            node.m_value.setConstant(integer(property));
+        else if (is(property, "pValue"))
+            linkNumber(node.m_value, node, property, Use::Value);
+    }
+    // Its entries were created right behind it.
+    for (std::size_t i = node.m_index + 1; i < m_sources.size() && m_sources[i].element.parent() == element; ++i) {
+        const auto entry = static_cast<EnumEntryNode *>(m_sources[i].node);
+        node.m_entries.push_back(entry);
+        entry->addDependent(node);
+        m_edges.push_back({node.m_index, entry->m_index, Use::Condition});
+    }
+    node.m_entries.shrink_to_fit();
+    if (!node.m_value.isSet() && !node.isBroken())
+        node.setBroken("it has no value");
+}
+
+void DescriptionLoader::readEntry(EnumEntryNode &node, const Element &element)
+{
+    bool hasValue = false;
+    for (const Element &property : element.children()) {
+        if (readCommon(node, property))
+            continue;
+        if (is(property, "Value")) {
+            node.m_value = integer(property);
+            hasValue = true;
+        } else if (is(property, "NumericValue"))
+            node.m_numericValue = number(property);
+        else if (is(property, "Symbolic"))
+            node.m_symbolic = m_map.keep(trimmed(textOf(property)));
+        else if (is(property, "IsSelfClearing"))
+            node.m_selfClearing = isYes(property);
+    }
+    if (!hasValue)
+        fail(element, std::string("entry '") + node.m_symbolic + "' has no value");
+}
+
+void DescriptionLoader::readCategory(CategoryNode &node, const Element &element)
+{
+    for (const Element &property : element.children()) {
+        if (readCommon(node, property) || !is(property, "pFeature"))
+            continue;
+        // A feature that does not exist, or a port, is left out; the others stay.
+        Node *const feature = m_map.find(std::string(trimmed(textOf(property))));
+        if (!feature || !feature->asValue())
+            continue;
+        feature->addDependent(node);
+        node.m_features.push_back(feature);
+    }
+    node.m_features.shrink_to_fit();
+}
+
+void DescriptionLoader::readPort(PortNode &node, const Element &element)
+{
+    for (const Element &property : element.children()) {
+        if (!readCommon(node, property) && is(property, "SwapEndianess"))
+            node.m_swapEndianness = isYes(property);
+    }
+}
+
+} // namespace OrvGenApi

@@ -1,0 +1,410 @@
+#include "node.h"
+
+#include "nodemapimpl.h"
+
+namespace OrvGenApi {
+
+using namespace GenApi;
+using GenICam::gcstring;
+
+EAccessMode combined(EAccessMode left, EAccessMode right)
+{
+    if (left == NI || right == NI)
+        return NI;
+    if (left == NA || right == NA)
+        return NA;
+    if (left == RW)
+        return right;
+    if (right == RW || right == left)
+        return left;
+    return NA; // one may only be read, the other only written
+}
+
+ECachingMode combined(ECachingMode left, ECachingMode right)
+{
+    if (left == NoCache || right == NoCache)
+        return NoCache;
+    return left == WriteAround || right == WriteAround ? WriteAround : WriteThrough;
+}
+
+Changes::Changes(NodeMapImpl &map)
+    : m_map(map)
+    , m_list(++map.m_walk)
+{
+}
+
+void Changes::add(Node &node)
+{
+    // A fresh walk each time: an earlier part of the same write may have read, and so kept, what changes now.
+    const uint64_t mark = ++m_map.m_walk;
+    std::vector<Node *> open{&node};
+    node.m_changeMark = mark;
+    while (!open.empty()) {
+        Node *const next = open.back();
+        open.pop_back();
+        if (next != &node)
+            next->dropCache();
+        if (next->m_changeList != m_list) {
+            next->m_changeList = m_list;
+            m_nodes.push_back(next);
+        }
+        for (Node *dependent : next->m_dependents) {
+            if (dependent->m_changeMark != mark) {
+                dependent->m_changeMark = mark;
+                open.push_back(dependent);
+            }
+        }
+    }
+    m_map.startEvaluation();
+}
+
+Node::Node(NodeMapImpl &map, const char *name)
+    : m_map(map)
+    , m_name(name)
+{
+}
+
+Node::~Node() = default;
+
+EAccessMode Node::GetAccessMode() const
+{
+    const Entry entry(*this, "GetAccessMode");
+    return accessMode();
+}
+
+gcstring Node::GetName(bool FullQualified) const
+{
+    const Entry entry(*this, "GetName");
+    if (FullQualified)
+        return gcstring(m_standardNameSpace ? "Std::" : "Cust::") + m_name;
+    return m_name;
+}
+
+EVisibility Node::GetVisibility() const
+{
+    const Entry entry(*this, "GetVisibility");
+    return visibility();
+}
+
+void Node::InvalidateNode()
+{
+    change("InvalidateNode", [this](Changes &) { dropCache(); });
+}
+
+ECachingMode Node::GetCachingMode() const
+{
+    const Entry entry(*this, "GetCachingMode");
+    return cachingMode();
+}
+
+int64_t Node::GetPollingTime() const
+{
+    const Entry entry(*this, "GetPollingTime");
+    return m_pollingTime;
+}
+
+gcstring Node::GetToolTip() const
+{
+    const Entry entry(*this, "GetToolTip");
+    return m_toolTip;
+}
+
+gcstring Node::GetDescription() const
+{
+    const Entry entry(*this, "GetDescription");
+    return m_description;
+}
+
+gcstring Node::GetDisplayName() const
+{
+    const Entry entry(*this, "GetDisplayName");
+    return m_displayName ? m_displayName : m_name;
+}
+
+gcstring Node::GetDeviceName() const
+{
+    const Entry entry(*this, "GetDeviceName");
+    return gcstring(m_map.deviceName());
+}
+
+INodeMap *Node::GetNodeMap() const
+{
+    const Entry entry(*this, "GetNodeMap");
+    return &m_map;
+}
+
+EInterfaceType Node::GetPrincipalInterfaceType() const
+{
+    const Entry entry(*this, "GetPrincipalInterfaceType");
+    return interfaceType();
+}
+
+bool Node::IsStreamable() const
+{
+    const Entry entry(*this, "IsStreamable");
+    return m_streamable;
+}
+
+bool Node::IsFeature() const
+{
+    const Entry entry(*this, "IsFeature");
+    return m_isFeature;
+}
+
+CallbackHandleType Node::RegisterCallback(CNodeCallback *pCallback)
+{
+    if (!pCallback)
+        ORV_THROW(InvalidArgumentException, std::string("node '") + m_name + "': no callback to register");
+    try {
+        const Entry entry(*this, "RegisterCallback");
+        m_callbacks.append(pCallback);
+    } catch (...) {
+        pCallback->Destroy();
+        throw;
+    }
+    return reinterpret_cast<CallbackHandleType>(pCallback);
+}
+
+bool Node::DeregisterCallback(CallbackHandleType hCallback)
+{
+    const MapLock lock(m_map);
+    return m_map.removeCallback(*this, reinterpret_cast<CNodeCallback *>(hCallback));
+}
+
+bool Node::IsSelector() const
+{
+    const Entry entry(*this, "IsSelector");
+    return m_selectorLinks && !m_selectorLinks->selected.empty();
+}
+
+namespace {
+
+void appendValues(const std::vector<Node *> &nodes, FeatureList_t &features)
+{
+    for (Node *node : nodes) {
+        if (IValue *const value = node->asValue())
+            features.push_back(value);
+    }
+}
+
+} // namespace
+
+void Node::GetSelectedFeatures(FeatureList_t &Features) const
+{
+    const Entry entry(*this, "GetSelectedFeatures");
+    Features.clear();
+    if (m_selectorLinks)
+        appendValues(m_selectorLinks->selected, Features);
+}
+
+void Node::GetSelectingFeatures(FeatureList_t &Features) const
+{
+    const Entry entry(*this, "GetSelectingFeatures");
+    Features.clear();
+    if (m_selectorLinks)
+        appendValues(m_selectorLinks->selecting, Features);
+}
+
+EAccessMode Node::accessMode() const
+{
+    const EAccessMode mode = unlockedAccessMode();
+    if (mode != NI && mode != NA && m_isLocked && condition(m_isLocked))
+        return combined(mode, RO);
+    return mode;
+}
+
+EAccessMode Node::unlockedAccessMode() const
+{
+    if (m_accessEvaluation != m_map.evaluation()) {
+        m_access = computeAccessMode();
+        m_accessEvaluation = m_map.evaluation();
+    }
+    return m_access;
+}
+
+EAccessMode Node::computeAccessMode() const
+{
+    if (m_broken || (m_isImplemented && !condition(m_isImplemented)))
+        return NI;
+    const EAccessMode value = combined(m_imposedAccess, valueAccess());
+    if (value != NI && m_isAvailable && !condition(m_isAvailable))
+        return NA;
+    return value;
+}
+
+bool Node::condition(Node *node) const
+{
+    // A condition that cannot be read now is not fulfilled.
+    return isReadable(node->unlockedAccessMode()) && node->intValue(false) != 0;
+}
+
+void Node::requireReadable() const
+{
+    // A lock only keeps from writing, so reading does not ask for it.
+    if (!isReadable(unlockedAccessMode()))
+        throwNoAccess("readable");
+}
+
+void Node::requireWritable() const
+{
+    if (!isWritable(accessMode()))
+        throwNoAccess("writable");
+}
+
+void Node::requireAvailable() const
+{
+    const EAccessMode mode = unlockedAccessMode();
+    if (mode == NI || mode == NA)
+        throwNoAccess(mode == NI ? "implemented" : "available");
+}
+
+void Node::throwNoAccess(const char *what) const
+{
+    std::string text = std::string("node '") + m_name + "' is not " + what;
+    if (m_broken)
+        text += std::string(": ") + m_broken;
+    ORV_THROW(AccessException, text);
+}
+
+void Node::throwNoNumber() const
+{
+    ORV_THROW(DynamicCastException, std::string("node '") + m_name + "' has no number");
+}
+
+int64_t Node::intValue(bool ignoreCache)
+{
+    if (isFloat())
+        return roundedToInteger(floatValue(ignoreCache));
+    throwNoNumber();
+}
+
+void Node::setIntValue(int64_t value, bool verify, Changes &changes)
+{
+    if (!isFloat())
+        throwNoNumber();
+    setFloatValue(static_cast<double>(value), verify, changes);
+}
+
+int64_t Node::intMin()
+{
+    return isFloat() ? roundedToInteger(floatMin()) : int64Min;
+}
+
+int64_t Node::intMax()
+{
+    return isFloat() ? roundedToInteger(floatMax()) : int64Max;
+}
+
+double Node::floatValue(bool ignoreCache)
+{
+    return static_cast<double>(intValue(ignoreCache));
+}
+
+void Node::setFloatValue(double value, bool verify, Changes &changes)
+{
+    setIntValue(roundedToInteger(value), verify, changes);
+}
+
+double Node::floatMin()
+{
+    return static_cast<double>(intMin());
+}
+
+double Node::floatMax()
+{
+    return static_cast<double>(intMax());
+}
+
+std::pair<double, double> Node::floatRange()
+{
+    if (isFloat())
+        return {floatMin(), floatMax()};
+    const auto [minimum, maximum] = intRange();
+    return {static_cast<double>(minimum), static_cast<double>(maximum)};
+}
+
+double Node::floatIncrement()
+{
+    return static_cast<double>(intIncrement());
+}
+
+std::vector<int64_t> Node::validInts(bool)
+{
+    return {};
+}
+
+std::vector<double> Node::validFloats(bool bounded)
+{
+    std::vector<double> values;
+    for (const int64_t value : validInts(bounded))
+        values.push_back(static_cast<double>(value));
+    return values;
+}
+
+std::string Node::text(bool ignoreCache)
+{
+    if (isFloat())
+        return formatFloat(floatValue(ignoreCache), displayNotation(), displayPrecision());
+    return formatInteger(intValue(ignoreCache), representation());
+}
+
+void Node::setText(const std::string &text, bool verify, Changes &changes)
+{
+    const auto fail = [&] {
+        ORV_THROW(InvalidArgumentException, std::string("node '") + m_name + "': '" + text + "' is no number");
+    };
+    if (isFloat()) {
+        const std::optional<double> value = parseFloat(text);
+        if (!value)
+            fail();
+        setFloatValue(*value, verify, changes);
+        return;
+    }
+    const std::optional<int64_t> value = parseInteger(text, representation());
+    if (!value)
+        fail();
+    setIntValue(*value, verify, changes);
+}
+
+int64_t Node::maximumTextLength()
+{
+    return 0;
+}
+
+int64_t Node::entryValue(std::string_view symbolic)
+{
+    ORV_THROW(InvalidArgumentException,
+              std::string("node '") + m_name + "' has no entry '" + std::string(symbolic) + "'");
+}
+
+void Node::addDependent(Node &node)
+{
+    // The links of one node are made one after the other.
+    if (m_dependents.empty() || m_dependents.back() != &node)
+        m_dependents.push_back(&node);
+}
+
+void Node::addSelected(Node &feature)
+{
+    if (!m_selectorLinks)
+        m_selectorLinks = std::make_unique<SelectorLinks>();
+    if (!feature.m_selectorLinks)
+        feature.m_selectorLinks = std::make_unique<SelectorLinks>();
+    addDependent(feature); // what is selected changes with the selection
+    m_selectorLinks->selected.push_back(&feature);
+    feature.m_selectorLinks->selecting.push_back(this);
+}
+
+bool Node::advancePollClock(int64_t milliseconds)
+{
+    if (m_pollingTime <= 0)
+        return false;
+    if (__builtin_add_overflow(m_pollClock, milliseconds, &m_pollClock))
+        m_pollClock = int64Max;
+    if (m_pollClock < m_pollingTime)
+        return false;
+    m_pollClock = 0;
+    return true;
+}
+
+} // namespace OrvGenApi

@@ -1,0 +1,226 @@
+#pragma once
+
+#include "callbacklist.h"
+#include "numbers.h"
+
+#include <Base/GCException.h>
+#include <GenApi/INode.h>
+#include <GenApi/ISelector.h>
+#include <GenApi/IValue.h>
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace OrvGenApi {
+
+class Node;
+class NodeMapImpl;
+
+/** What may be done where both modes apply. */
+GenApi::EAccessMode combined(GenApi::EAccessMode left, GenApi::EAccessMode right);
+
+/** How a value may be cached that is made of parts cached so. */
+GenApi::ECachingMode combined(GenApi::ECachingMode left, GenApi::ECachingMode right);
+
+inline bool isReadable(GenApi::EAccessMode mode)
+{
+    return mode == GenApi::RO || mode == GenApi::RW;
+}
+
+inline bool isWritable(GenApi::EAccessMode mode)
+{
+    return mode == GenApi::WO || mode == GenApi::RW;
+}
+
+/** Nodes whose value may have changed; filled while a write goes down to the registers. */
+class Changes
+{
+public:
+    explicit Changes(NodeMapImpl &map);
+
+    /** \a node has a new value: drops what is kept of it and of all that depends on it. */
+    void add(Node &node);
+
+    const std::vector<Node *> &nodes() const { return m_nodes; }
+
+private:
+    NodeMapImpl &m_map;
+    const uint64_t m_list; ///< marks the nodes that are in m_nodes
+    std::vector<Node *> m_nodes;
+};
+
+/**
+ * Base of all nodes.
+ *
+ * The public operations are those of GenApi: each takes the map's lock and starts a new evaluation. Nodes call one
+ * another through the operations below "Inside", which expect the lock to be held. Within one evaluation a node works
+ * out its access mode and a computed or register value at most once, so that the cost is bounded by the number of
+ * nodes, however often formulas share them.
+ */
+class Node : public GenApi::INode, public GenApi::ISelector
+{
+public:
+    Node(NodeMapImpl &map, const char *name);
+    virtual ~Node();
+    Node(const Node &) = delete;
+    Node &operator=(const Node &) = delete;
+
+    // IBase
+    GenApi::EAccessMode GetAccessMode() const override;
+
+    // INode
+    GenICam::gcstring GetName(bool FullQualified = false) const override;
+    GenApi::EVisibility GetVisibility() const override;
+    void InvalidateNode() override;
+    GenApi::ECachingMode GetCachingMode() const override;
+    int64_t GetPollingTime() const override;
+    GenICam::gcstring GetToolTip() const override;
+    GenICam::gcstring GetDescription() const override;
+    GenICam::gcstring GetDisplayName() const override;
+    GenICam::gcstring GetDeviceName() const override;
+    GenApi::INodeMap *GetNodeMap() const override;
+    GenApi::EInterfaceType GetPrincipalInterfaceType() const override;
+    bool IsStreamable() const override;
+    bool IsFeature() const override;
+    GenApi::CallbackHandleType RegisterCallback(GenApi::CNodeCallback *pCallback) override;
+    bool DeregisterCallback(GenApi::CallbackHandleType hCallback) override;
+
+    // ISelector
+    bool IsSelector() const override;
+    void GetSelectedFeatures(GenApi::FeatureList_t &Features) const override;
+    void GetSelectingFeatures(GenApi::FeatureList_t &Features) const override;
+
+    // Inside ----------------------------------------------------------------------------------------------------------
+
+    const char *name() const { return m_name; }
+    NodeMapImpl &map() const { return m_map; }
+    virtual GenApi::IValue *asValue() { return nullptr; }
+    virtual GenApi::EInterfaceType interfaceType() const = 0;
+
+    /** What may be done now, with all that this node depends on. */
+    GenApi::EAccessMode accessMode() const;
+
+    /** The same without the lock, which only keeps from writing. */
+    GenApi::EAccessMode unlockedAccessMode() const;
+
+    /** Throw an access exception when that is not possible now. */
+    void requireReadable() const;
+    void requireWritable() const;
+    void requireAvailable() const;
+
+    virtual GenApi::EVisibility visibility() const { return m_visibility; }
+    GenApi::ECachingMode cachingMode() const { return m_cachingMode; }
+    void setCachingMode(GenApi::ECachingMode mode) { m_cachingMode = mode; }
+
+    /** Forgets what is kept of the device's state. */
+    virtual void dropCache() { }
+    virtual bool isCacheValid() const { return true; }
+
+    // A node as a number. The base answers as a node that is none: it throws. Reads and writes through these check the
+    // access of what lies below, not of the node itself. With verify a write checks the ranges on its way. Both ends of
+    // a range are asked for at once where a node needs both: asking twice on every level would double the work each
+    // time.
+    virtual bool isFloat() const { return false; }
+    virtual int64_t intValue(bool ignoreCache);
+    virtual void setIntValue(int64_t value, bool verify, Changes &changes);
+    virtual int64_t intMin();
+    virtual int64_t intMax();
+    virtual std::pair<int64_t, int64_t> intRange() { return {intMin(), intMax()}; }
+    virtual int64_t intIncrement() { return 1; }
+    virtual double floatValue(bool ignoreCache);
+    virtual void setFloatValue(double value, bool verify, Changes &changes);
+    virtual double floatMin();
+    virtual double floatMax();
+    virtual std::pair<double, double> floatRange();
+    virtual double floatIncrement();
+    virtual GenApi::EIncMode incrementMode() { return GenApi::fixedIncrement; }
+
+    /** The values of a list increment, ascending; those within the range when \a bounded. */
+    virtual std::vector<int64_t> validInts(bool bounded);
+    virtual std::vector<double> validFloats(bool bounded);
+    virtual GenApi::ERepresentation representation() const { return GenApi::PureNumber; }
+    virtual const char *unit() const { return ""; }
+    virtual GenApi::EDisplayNotation displayNotation() const { return GenApi::fnAutomatic; }
+    virtual int64_t displayPrecision() const { return 6; }
+
+    /** A node as text. */
+    virtual std::string text(bool ignoreCache);
+    virtual void setText(const std::string &text, bool verify, Changes &changes);
+    virtual int64_t maximumTextLength();
+
+    /** The integer value of an enumeration's entry; throws when there is no such. */
+    virtual int64_t entryValue(std::string_view symbolic);
+
+    /** Nodes that change when this one does. */
+    const std::vector<Node *> &dependents() const { return m_dependents; }
+    void addDependent(Node &node);
+
+    void addSelected(Node &feature);
+    void setBroken(const char *why) { m_broken = why; }
+    bool isBroken() const { return m_broken; }
+
+    const GenApi::CallbackList &callbacks() const { return m_callbacks; }
+
+    /** Adds to the poll clock; true when it has come to the polling time, and then starts again. */
+    bool advancePollClock(int64_t milliseconds);
+
+protected:
+    /** What this node's value allows, without the node's own conditions. */
+    virtual GenApi::EAccessMode valueAccess() const { return GenApi::RW; }
+
+    /** Runs \a write(changes) as one write by a user of the map: with lock, callbacks inside and outside of it. */
+    template <typename Write>
+    void change(const char *operation, const Write &write);
+
+    [[noreturn]] void throwNoNumber() const;
+
+    NodeMapImpl &m_map;
+
+private:
+    friend class DescriptionLoader;
+
+    struct SelectorLinks
+    {
+        std::vector<Node *> selected;
+        std::vector<Node *> selecting;
+    };
+
+    GenApi::EAccessMode computeAccessMode() const;
+    [[noreturn]] void throwNoAccess(const char *what) const;
+    bool condition(Node *node) const;
+
+    const char *m_name;
+    uint32_t m_index = 0; ///< place among the nodes of the map
+    const char *m_displayName = nullptr; ///< null: as the name
+    const char *m_toolTip = "";
+    const char *m_description = "";
+    const char *m_broken = nullptr; ///< why the description of this node cannot be used
+    Node *m_isImplemented = nullptr;
+    Node *m_isAvailable = nullptr;
+    Node *m_isLocked = nullptr;
+    std::vector<Node *> m_dependents;
+    std::unique_ptr<SelectorLinks> m_selectorLinks;
+    GenApi::CallbackList m_callbacks;
+    int64_t m_pollingTime = -1; ///< milliseconds
+    int64_t m_pollClock = 0; ///< milliseconds since the last poll
+    mutable uint64_t m_accessEvaluation = 0; ///< the evaluation that worked out m_access
+    uint64_t m_changeMark = 0; ///< the last walk over dependents that came here
+    uint64_t m_changeList = 0; ///< the last list of changes this node was put in
+    mutable GenApi::EAccessMode m_access = GenApi::NI; ///< without the lock
+    GenApi::EAccessMode m_imposedAccess = GenApi::RW;
+    GenApi::EVisibility m_visibility = GenApi::Beginner;
+    GenApi::ECachingMode m_cachingMode = GenApi::WriteThrough; ///< with what the value is made of
+    bool m_streamable = false;
+    bool m_isFeature = false;
+    bool m_standardNameSpace = false;
+
+    friend class Changes;
+    friend class NodeMapImpl;
+};
+
+/** Throws an exception whose text names the node and the place in this code. */
+#define ORV_THROW(Exception, text) throw GenICam::Exception(std::string(text).c_str(), __FILE__, __LINE__)
+
+} // namespace OrvGenApi

@@ -1,0 +1,44 @@
+#include <OrvGenApi/nodemap.h>
+
+#include "descriptionloader.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fstream>
+#include <new>
+
+namespace OrvGenApi {
+
+namespace {
+
+std::string contentOf(const std::string &path)
+{
+    std::ifstream file(path, std::ios::binary);
+    const std::string content((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+    if (!file.is_open() || file.bad()) {
+        const int error = errno;
+        ORV_THROW(RuntimeException, path + ": cannot be read: " + std::strerror(error));
+    }
+    return content;
+}
+
+} // namespace
+
+std::unique_ptr<NodeMap> NodeMap::fromFile(const std::string &path, const std::string &deviceName)
+{
+    return fromString(contentOf(path), path, deviceName);
+}
+
+std::unique_ptr<NodeMap> NodeMap::fromString(std::string_view xml, const std::string &sourceName,
+                                             const std::string &deviceName)
+{
+    auto map = std::make_unique<NodeMapImpl>(deviceName);
+    try {
+        DescriptionLoader(*map, std::string(xml), sourceName).load();
+    } catch (const std::bad_alloc &) {
+        throw GenICam::BadAllocException((sourceName + ": too large").c_str(), __FILE__, __LINE__);
+    }
+    return map;
+}
+
+} // namespace OrvGenApi

@@ -1,0 +1,176 @@
+#include "nodemapimpl.h"
+
+#include "portnode.h"
+
+#include <algorithm>
+#include <cstring>
+#include <exception>
+
+namespace OrvGenApi {
+
+using namespace GenApi;
+using GenICam::gcstring;
+
+NodeMapImpl::NodeMapImpl(std::string deviceName)
+    : m_deviceName(std::move(deviceName))
+{
+}
+
+NodeMapImpl::~NodeMapImpl() = default;
+
+void NodeMapImpl::GetNodes(NodeList_t &Nodes) const
+{
+    const MapLock lock(*this);
+    Nodes.clear();
+    Nodes.reserve(m_nodes.size());
+    for (const std::unique_ptr<Node> &node : m_nodes)
+        Nodes.push_back(node.get());
+}
+
+INode *NodeMapImpl::GetNode(const gcstring &Name) const
+{
+    const MapLock lock(*this);
+    std::string_view name = Name.c_str();
+    for (const std::string_view nameSpace : {std::string_view("Std::"), std::string_view("Cust::")}) {
+        if (name.substr(0, nameSpace.size()) == nameSpace)
+            name.remove_prefix(nameSpace.size());
+    }
+    return find(name);
+}
+
+void NodeMapImpl::InvalidateNodes() const
+{
+    const MapLock lock(*this);
+    for (const std::unique_ptr<Node> &node : m_nodes)
+        node->dropCache();
+}
+
+gcstring NodeMapImpl::GetDeviceName() const
+{
+    return gcstring(m_deviceName);
+}
+
+void NodeMapImpl::Poll(int64_t ElapsedTime)
+{
+    std::vector<Node *> changed;
+    {
+        const MapLock lock(*this);
+        Changes changes(*this);
+        for (Node *node : m_polled) {
+            if (node->advancePollClock(std::max<int64_t>(ElapsedTime, 0))) {
+                node->dropCache();
+                changes.add(*node);
+            }
+        }
+        changed = changes.nodes();
+        fire(changed, cbPostInsideLock);
+    }
+    fire(changed, cbPostOutsideLock);
+}
+
+uint64_t NodeMapImpl::GetNumNodes() const
+{
+    return m_nodes.size();
+}
+
+bool NodeMapImpl::connect(IPort *port, const std::string &portName)
+{
+    const MapLock lock(*this);
+    const auto node = dynamic_cast<PortNode *>(find(portName));
+    if (!node)
+        return false;
+    node->connect(port);
+    startEvaluation();
+    InvalidateNodes();
+    return true;
+}
+
+Node *NodeMapImpl::find(std::string_view name) const
+{
+    const auto found = m_byName.find(name);
+    return found == m_byName.end() ? nullptr : found->second;
+}
+
+const char *NodeMapImpl::keep(std::string_view text)
+{
+    if (text.empty())
+        return "";
+    constexpr std::size_t blockSize = 16 * 1024;
+    if (m_textUsed + text.size() + 1 > m_textSize) {
+        m_textSize = std::max(blockSize, text.size() + 1);
+        m_texts.push_back(std::make_unique<char[]>(m_textSize));
+        m_textUsed = 0;
+    }
+    char *const place = m_texts.back().get() + m_textUsed;
+    std::memcpy(place, text.data(), text.size());
+    place[text.size()] = '\0';
+    m_textUsed += text.size() + 1;
+    return place;
+}
+
+bool NodeMapImpl::add(std::unique_ptr<Node> node)
+{
+    if (!m_byName.emplace(node->name(), node.get()).second)
+        return false;
+    m_nodes.push_back(std::move(node));
+    return true;
+}
+
+void NodeMapImpl::fire(const std::vector<Node *> &nodes, ECallbackType moment)
+{
+    std::vector<std::pair<Node *, CNodeCallback *>> calls;
+    {
+        const MapLock lock(*this);
+        for (Node *node : nodes)
+            node->m_callbacks.forEach([&](CNodeCallback *callback) { calls.emplace_back(node, callback); });
+        if (calls.empty())
+            return;
+        ++m_firing;
+    }
+    std::exception_ptr failure;
+    for (const auto &[node, callback] : calls) {
+        {
+            const MapLock lock(*this);
+            if (!node->m_callbacks.contains(callback))
+                continue;
+        }
+        try {
+            (*callback)(moment);
+        } catch (...) {
+            if (!failure)
+                failure = std::current_exception();
+        }
+    }
+    std::vector<CNodeCallback *> removed;
+    {
+        const MapLock lock(*this);
+        if (--m_firing == 0)
+            removed.swap(m_removedCallbacks);
+    }
+    for (CNodeCallback *callback : removed)
+        callback->Destroy();
+    if (failure)
+        std::rethrow_exception(failure);
+}
+
+bool NodeMapImpl::removeCallback(Node &node, CNodeCallback *callback)
+{
+    if (!callback || !node.m_callbacks.remove(callback))
+        return false;
+    // The callback may be the one that is running: then it is destroyed when it has returned.
+    if (m_firing > 0)
+        m_removedCallbacks.push_back(callback);
+    else
+        callback->Destroy();
+    return true;
+}
+
+void NodeMapImpl::throwFault(const Node &node, const char *operation) const
+{
+    for (const Faults::Fault &fault : m_faults->faults) {
+        if (fault.node == node.name() && fault.operation == operation)
+            throw GenICam::RuntimeException(fault.description.c_str(), __FILE__, __LINE__);
+    }
+}
+
+} // namespace OrvGenApi

@@ -1,0 +1,152 @@
+#pragma once
+
+#include "node.h"
+
+#include <OrvGenApi/nodemap.h>
+
+#include <mutex>
+#include <optional>
+#include <unordered_map>
+
+namespace OrvGenApi {
+
+class PortNode;
+
+/** What tests make nodes do. */
+struct Faults
+{
+    struct Fault
+    {
+        std::string node;
+        std::string operation;
+        std::string description;
+    };
+    std::vector<Fault> faults;
+};
+
+class NodeMapImpl final : public NodeMap
+{
+public:
+    explicit NodeMapImpl(std::string deviceName);
+    ~NodeMapImpl() override;
+
+    // INodeMap
+    void GetNodes(GenApi::NodeList_t &Nodes) const override;
+    GenApi::INode *GetNode(const GenICam::gcstring &Name) const override;
+    void InvalidateNodes() const override;
+    GenICam::gcstring GetDeviceName() const override;
+    void Poll(int64_t ElapsedTime) override;
+    GenApi::CLock &GetLock() const override { return m_lock; }
+    uint64_t GetNumNodes() const override;
+
+    // NodeMap
+    bool connect(GenApi::IPort *port, const std::string &portName) override;
+    std::string modelName() const override { return m_modelName; }
+    std::string vendorName() const override { return m_vendorName; }
+
+    // Inside ----------------------------------------------------------------------------------------------------------
+
+    const std::string &deviceName() const { return m_deviceName; }
+    Node *find(std::string_view name) const;
+
+    /** Copies \a text into the map's memory; the same pointer as long as the map lives, never null. */
+    const char *keep(std::string_view text);
+
+    /** Takes ownership; false when there is a node of that name. */
+    bool add(std::unique_ptr<Node> node);
+
+    uint64_t evaluation() const { return m_evaluation; }
+    void startEvaluation() { ++m_evaluation; }
+
+    /**
+     * Calls the callbacks of \a nodes that were made for \a moment, in the order of the nodes; all of them, also when
+     * one throws: then the first exception is rethrown. One that is deregistered meanwhile is not called any more.
+     */
+    void fire(const std::vector<Node *> &nodes, GenApi::ECallbackType moment);
+
+    /** Takes out and destroys a callback, as soon as none is running. */
+    bool removeCallback(Node &node, GenApi::CNodeCallback *callback);
+
+    void throwFault(const Node &node, const char *operation) const;
+    bool hasFaults() const { return m_faults.has_value(); }
+
+    std::vector<std::unique_ptr<Node>> m_nodes;
+    std::string m_modelName;
+    std::string m_vendorName;
+    std::optional<Faults> m_faults;
+    std::vector<Node *> m_polled; ///< nodes with a polling time
+    uint64_t m_walk = 0; ///< counts the walks over dependents
+
+private:
+    const std::string m_deviceName;
+    mutable GenApi::CLock m_lock;
+    std::unordered_map<std::string_view, Node *> m_byName;
+    std::vector<std::unique_ptr<char[]>> m_texts;
+    std::size_t m_textUsed = 0;
+    std::size_t m_textSize = 0;
+    uint64_t m_evaluation = 0;
+    unsigned m_firing = 0; ///< runs of fire() that have not ended
+    std::vector<GenApi::CNodeCallback *> m_removedCallbacks; ///< to be destroyed when none is running
+};
+
+/** Holds a map's lock. */
+class MapLock
+{
+public:
+    explicit MapLock(const NodeMapImpl &map)
+        : m_lock(map.GetLock())
+    {
+        m_lock.Lock();
+    }
+    ~MapLock() { m_lock.Unlock(); }
+    MapLock(const MapLock &) = delete;
+    MapLock &operator=(const MapLock &) = delete;
+
+private:
+    GenApi::CLock &m_lock;
+};
+
+/** Held by every public operation of a node: the lock, a new evaluation, and the faults that tests ask for. */
+class Entry
+{
+public:
+    Entry(const Node &node, const char *operation)
+        : m_lock(node.map())
+    {
+        node.map().startEvaluation();
+        if (node.map().hasFaults())
+            node.map().throwFault(node, operation);
+    }
+
+private:
+    const MapLock m_lock;
+};
+
+template <typename Write>
+void Node::change(const char *operation, const Write &write)
+{
+    std::vector<Node *> changed;
+    {
+        const Entry entry(*this, operation);
+        Changes changes(m_map);
+        const auto tell = [&] {
+            if (changes.nodes().empty())
+                return;
+            m_map.startEvaluation();
+            m_map.fire(changes.nodes(), GenApi::cbPostInsideLock);
+            changed = changes.nodes();
+        };
+        try {
+            write(changes);
+        } catch (...) {
+            // Part of the write may have reached the device.
+            tell();
+            throw;
+        }
+        changes.add(*this);
+        tell();
+    }
+    m_map.fire(changed, GenApi::cbPostOutsideLock);
+}
+
+} // namespace OrvGenApi

@@ -1,0 +1,167 @@
+#pragma once
+
+#include "values.h"
+
+#include <GenApi/ICategory.h>
+#include <GenApi/ICommand.h>
+#include <GenApi/IEnumeration.h>
+
+namespace OrvGenApi {
+
+/** A group of features. Its visibility is that of its most visible feature, whatever its own description says. */
+class CategoryNode final : public ValueNode<GenApi::ICategory>
+{
+public:
+    using ValueNode::ValueNode;
+
+    void GetFeatures(GenApi::FeatureList_t &Features) const override;
+
+    GenApi::EInterfaceType interfaceType() const override { return GenApi::intfICategory; }
+    GenApi::EVisibility visibility() const override { return m_derivedVisibility; }
+    std::string text(bool ignoreCache) override;
+    void setText(const std::string &text, bool verify, Changes &changes) override;
+
+protected:
+    GenApi::EAccessMode valueAccess() const override;
+
+private:
+    friend class DescriptionLoader;
+
+    std::vector<Node *> m_features;
+    GenApi::EVisibility m_derivedVisibility = GenApi::Invisible;
+    mutable bool m_visiting = false; ///< a category may stand, however far down, in itself
+};
+
+/** A truth value kept as one of two integers. */
+class BooleanNode final : public ValueNode<GenApi::IBoolean>
+{
+public:
+    using ValueNode::ValueNode;
+
+    void SetValue(bool Value, bool Verify) override;
+    bool GetValue(bool Verify, bool IgnoreCache) const override;
+
+    GenApi::EInterfaceType interfaceType() const override { return GenApi::intfIBoolean; }
+    bool isCacheValid() const override { return !m_value.node() || m_value.node()->isCacheValid(); }
+
+    /** As a number: 1 or 0, whatever stands for it. */
+    int64_t intValue(bool ignoreCache) override { return isOn(ignoreCache); }
+    void setIntValue(int64_t value, bool verify, Changes &changes) override;
+    int64_t intMin() override { return 0; }
+    int64_t intMax() override { return 1; }
+    void setText(const std::string &text, bool verify, Changes &changes) override;
+
+protected:
+    GenApi::EAccessMode valueAccess() const override
+    {
+        return m_value.node() ? m_value.node()->accessMode() : GenApi::RW;
+    }
+
+private:
+    friend class DescriptionLoader;
+
+    bool isOn(bool ignoreCache) const;
+
+    IntRef m_value;
+    int64_t m_onValue = 1;
+    int64_t m_offValue = 0;
+};
+
+/** Writes a value to make the device do something. */
+class CommandNode final : public ValueNode<GenApi::ICommand>
+{
+public:
+    using ValueNode::ValueNode;
+
+    void Execute(bool Verify) override;
+    bool IsDone(bool Verify) override;
+
+    GenApi::EInterfaceType interfaceType() const override { return GenApi::intfICommand; }
+    bool isCacheValid() const override { return !m_value.node() || m_value.node()->isCacheValid(); }
+    int64_t intValue(bool ignoreCache) override { return m_value.value(ignoreCache); }
+    void setIntValue(int64_t value, bool verify, Changes &changes) override;
+    void setText(const std::string &text, bool verify, Changes &changes) override;
+
+protected:
+    GenApi::EAccessMode valueAccess() const override
+    {
+        return m_value.node() ? m_value.node()->accessMode() : GenApi::RW;
+    }
+
+private:
+    friend class DescriptionLoader;
+
+    bool isDone();
+
+    IntRef m_value;
+    IntRef m_commandValue;
+    bool m_running = false; ///< executed, and not seen to have ended
+};
+
+/** One choice of an enumeration. */
+class EnumEntryNode final : public ValueNode<GenApi::IEnumEntry>
+{
+public:
+    using ValueNode::ValueNode;
+
+    int64_t GetValue() override;
+    GenICam::gcstring GetSymbolic() const override;
+    double GetNumericValue() override;
+    bool IsSelfClearing() override;
+
+    GenApi::EInterfaceType interfaceType() const override { return GenApi::intfIEnumEntry; }
+    int64_t intValue(bool) override { return m_value; }
+    std::string text(bool) override { return m_symbolic; }
+    void setText(const std::string &text, bool verify, Changes &changes) override;
+
+protected:
+    GenApi::EAccessMode valueAccess() const override { return GenApi::RO; }
+
+private:
+    friend class DescriptionLoader;
+    friend class EnumerationNode;
+
+    const char *m_symbolic = "";
+    int64_t m_value = 0;
+    std::optional<double> m_numericValue;
+    bool m_selfClearing = false;
+};
+
+/** A choice of named integers. */
+class EnumerationNode final : public ValueNode<GenApi::IEnumeration>
+{
+public:
+    using ValueNode::ValueNode;
+
+    void GetEntries(GenApi::NodeList_t &Entries) override;
+    void GetSymbolics(GenApi::StringList_t &Symbolics) override;
+    void SetIntValue(int64_t Value, bool Verify) override;
+    int64_t GetIntValue(bool Verify, bool IgnoreCache) override;
+    GenApi::IEnumEntry *GetEntryByName(const GenICam::gcstring &Symbolic) override;
+    GenApi::IEnumEntry *GetEntry(int64_t IntValue) override;
+    GenApi::IEnumEntry *GetCurrentEntry(bool Verify, bool IgnoreCache) override;
+
+    GenApi::EInterfaceType interfaceType() const override { return GenApi::intfIEnumeration; }
+    bool isCacheValid() const override { return !m_value.node() || m_value.node()->isCacheValid(); }
+    int64_t intValue(bool ignoreCache) override { return m_value.value(ignoreCache); }
+    void setIntValue(int64_t value, bool verify, Changes &changes) override;
+    double floatValue(bool ignoreCache) override;
+    std::string text(bool ignoreCache) override;
+    void setText(const std::string &text, bool verify, Changes &changes) override;
+    int64_t entryValue(std::string_view symbolic) override;
+
+protected:
+    /** Nothing can be chosen where no entry is: then the enumeration is not available or not implemented itself. */
+    GenApi::EAccessMode valueAccess() const override;
+
+private:
+    friend class DescriptionLoader;
+
+    EnumEntryNode *find(int64_t value) const;
+    EnumEntryNode *find(std::string_view symbolic) const;
+
+    std::vector<EnumEntryNode *> m_entries;
+    IntRef m_value;
+};
+
+} // namespace OrvGenApi

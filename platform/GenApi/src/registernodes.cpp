@@ -1,0 +1,323 @@
+#include "registernodes.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace OrvGenApi {
+
+using namespace GenApi;
+using GenICam::gcstring;
+
+namespace {
+
+constexpr int64_t maximumLength = 16 * 1024 * 1024; ///< bytes; longer registers are taken for a fault
+
+[[noreturn]] void throwProperty(const Node &owner, const std::string &what)
+{
+    ORV_THROW(PropertyException, std::string("register '") + owner.name() + "': " + what);
+}
+
+} // namespace
+
+EAccessMode RegisterData::access() const
+{
+    return m_port ? combined(m_accessMode, m_port->accessMode()) : NI;
+}
+
+int64_t RegisterData::address(const Node &owner) const
+{
+    int64_t sum = 0;
+    bool overflow = false;
+    for (const AddressTerm &term : m_addressTerms) {
+        int64_t value = term.value.value();
+        if (term.isIndex) {
+            const int64_t offset = term.offset.isSet() ? term.offset.value() : length(owner);
+            overflow |= __builtin_mul_overflow(value, offset, &value);
+        }
+        overflow |= __builtin_add_overflow(sum, value, &sum);
+    }
+    int64_t last = 0;
+    if (overflow || __builtin_add_overflow(sum, length(owner) - 1, &last))
+        throwProperty(owner, "its address overflows");
+    return sum;
+}
+
+int64_t RegisterData::length(const Node &owner) const
+{
+    const int64_t length = m_length.value();
+    if (length < 1 || length > maximumLength)
+        throwProperty(owner, "a length of " + std::to_string(length) + " bytes is not possible");
+    return length;
+}
+
+const std::string &RegisterData::read(Node &owner, bool ignoreCache)
+{
+    const int64_t from = address(owner);
+    const auto count = static_cast<std::size_t>(length(owner));
+    if (((m_kept && !ignoreCache) || m_readEvaluation == owner.map().evaluation()) && from == m_keptAddress
+        && m_bytes.size() == count)
+        return m_bytes;
+    const bool hadKept = m_kept;
+    m_kept = false;
+    m_readEvaluation = 0;
+    std::string bytes(count, '\0');
+    m_port->read(bytes.data(), from, static_cast<int64_t>(count));
+    // What others have computed from the old bytes is not true any more.
+    if (hadKept && bytes != m_bytes)
+        Changes(owner.map()).add(owner);
+    m_bytes.swap(bytes);
+    m_keptAddress = from;
+    m_readEvaluation = owner.map().evaluation();
+    m_kept = owner.cachingMode() != NoCache;
+    return m_bytes;
+}
+
+void RegisterData::write(Node &owner, std::string bytes, Changes &changes)
+{
+    const int64_t to = address(owner);
+    m_kept = false;
+    m_readEvaluation = 0;
+    changes.add(owner); // before writing: when the port fails half-way, nothing that was kept can be trusted
+    if (!m_port)
+        throwProperty(owner, "it has no port");
+    m_port->write(bytes.data(), to, static_cast<int64_t>(bytes.size()));
+    m_kept = owner.cachingMode() == WriteThrough && isReadable(m_accessMode);
+    m_bytes = std::move(bytes);
+    m_keptAddress = to;
+}
+
+void RegisterData::get(Node &owner, uint8_t *buffer, int64_t length, bool ignoreCache)
+{
+    const std::string &bytes = read(owner, ignoreCache);
+    if (!buffer || length != static_cast<int64_t>(bytes.size()))
+        ORV_THROW(InvalidArgumentException, std::string("register '") + owner.name() + "' has another length");
+    std::memcpy(buffer, bytes.data(), bytes.size());
+}
+
+void RegisterData::set(Node &owner, const uint8_t *buffer, int64_t length, Changes &changes)
+{
+    if (!buffer || length != this->length(owner))
+        ORV_THROW(InvalidArgumentException, std::string("register '") + owner.name() + "' has another length");
+    write(owner, std::string(reinterpret_cast<const char *>(buffer), static_cast<std::size_t>(length)), changes);
+}
+
+IntRegisterNode::Bits IntRegisterNode::bits() const
+{
+    const int64_t length = m_register.length(*this);
+    if (length > 8)
+        throwProperty(*this, "an integer has at most 8 bytes, not " + std::to_string(length));
+    const auto width = static_cast<int>(length * 8);
+    if (m_lsb < 0)
+        return {0, static_cast<unsigned>(width)};
+    if (std::max(m_lsb, m_msb) >= width)
+        throwProperty(*this, "bit " + std::to_string(std::max(m_lsb, m_msb)) + " is outside the register");
+    // In a big-endian register bit 0 is the most significant one.
+    const int first = m_register.isBigEndian() ? width - 1 - m_lsb : m_lsb;
+    const int last = m_register.isBigEndian() ? width - 1 - m_msb : m_msb;
+    return {static_cast<unsigned>(std::min(first, last)), static_cast<unsigned>(std::abs(last - first) + 1)};
+}
+
+uint64_t IntRegisterNode::rawOf(const std::string &bytes) const
+{
+    uint64_t raw = 0;
+    for (std::size_t i = 0; i < bytes.size(); ++i)
+        raw = raw << 8 | static_cast<uint8_t>(bytes[m_register.isBigEndian() ? i : bytes.size() - 1 - i]);
+    return raw;
+}
+
+std::string IntRegisterNode::bytesOf(uint64_t raw, std::size_t length) const
+{
+    std::string bytes(length, '\0');
+    for (std::size_t i = 0; i < length; ++i, raw >>= 8)
+        bytes[m_register.isBigEndian() ? length - 1 - i : i] = static_cast<char>(raw & 255);
+    return bytes;
+}
+
+int64_t IntRegisterNode::intValue(bool ignoreCache)
+{
+    const Bits field = bits();
+    const uint64_t raw = rawOf(m_register.read(*this, ignoreCache)) >> field.lowest;
+    if (field.count == 64)
+        return static_cast<int64_t>(raw);
+    const uint64_t sign = m_signed ? uint64_t(1) << (field.count - 1) : 0;
+    const uint64_t value = raw & ((uint64_t(1) << field.count) - 1);
+    return static_cast<int64_t>((value ^ sign) - sign);
+}
+
+void IntRegisterNode::setIntValue(int64_t value, bool verify, Changes &changes)
+{
+    if (verify)
+        checkRange(value);
+    const Bits field = bits();
+    const auto length = static_cast<std::size_t>(m_register.length(*this));
+    uint64_t raw = static_cast<uint64_t>(value);
+    if (field.count < 8 * length) {
+        // The other bits belong to other nodes, so what is kept here of them may be old.
+        requireReadable();
+        const uint64_t mask = ((uint64_t(1) << field.count) - 1) << field.lowest;
+        raw = (raw << field.lowest & mask) | (rawOf(m_register.read(*this, true)) & ~mask);
+    }
+    m_register.write(*this, bytesOf(raw, length), changes);
+}
+
+int64_t IntRegisterNode::intMin()
+{
+    const unsigned count = bits().count;
+    return m_signed ? int64Min >> (64 - count) : 0;
+}
+
+int64_t IntRegisterNode::intMax()
+{
+    const unsigned count = bits().count;
+    // An unsigned 64-bit register has a signed 64-bit interface.
+    return m_signed || count == 64 ? int64Max >> (64 - count) : static_cast<int64_t>((uint64_t(1) << count) - 1);
+}
+
+double FloatRegisterNode::floatMax()
+{
+    return m_register.length(*this) == 4 ? std::numeric_limits<float>::max() : std::numeric_limits<double>::max();
+}
+
+double FloatRegisterNode::floatValue(bool ignoreCache)
+{
+    std::string bytes = m_register.read(*this, ignoreCache);
+    if (m_register.isBigEndian())
+        std::reverse(bytes.begin(), bytes.end());
+    if (bytes.size() == sizeof(float)) {
+        float value;
+        std::memcpy(&value, bytes.data(), sizeof value);
+        return value;
+    }
+    if (bytes.size() != sizeof(double))
+        throwProperty(*this, "a floating-point number has 4 or 8 bytes, not " + std::to_string(bytes.size()));
+    double value;
+    std::memcpy(&value, bytes.data(), sizeof value);
+    return value;
+}
+
+void FloatRegisterNode::setFloatValue(double value, bool verify, Changes &changes)
+{
+    if (verify)
+        checkRange(value);
+    const auto length = static_cast<std::size_t>(m_register.length(*this));
+    std::string bytes(length, '\0');
+    if (length == sizeof(float)) {
+        constexpr double limit = std::numeric_limits<float>::max();
+        const float narrow = static_cast<float>(std::isfinite(value) ? std::clamp(value, -limit, limit) : value);
+        std::memcpy(bytes.data(), &narrow, sizeof narrow);
+    } else if (length == sizeof(double)) {
+        std::memcpy(bytes.data(), &value, sizeof value);
+    } else {
+        throwProperty(*this, "a floating-point number has 4 or 8 bytes, not " + std::to_string(length));
+    }
+    if (m_register.isBigEndian())
+        std::reverse(bytes.begin(), bytes.end());
+    m_register.write(*this, std::move(bytes), changes);
+}
+
+void StringBase::SetValue(const gcstring &Value, bool Verify)
+{
+    change("SetValue", [&](Changes &changes) {
+        if (Verify)
+            requireWritable();
+        setText(Value.c_str(), Verify, changes);
+    });
+}
+
+gcstring StringBase::GetValue(bool Verify, bool IgnoreCache)
+{
+    (void)Verify;
+    const Entry entry(*this, "GetValue");
+    requireReadable();
+    return gcstring(text(IgnoreCache));
+}
+
+int64_t StringBase::GetMaxLength(bool Verify)
+{
+    (void)Verify;
+    const Entry entry(*this, "GetMaxLength");
+    requireAvailable();
+    return maximumTextLength();
+}
+
+std::string StringNode::text(bool ignoreCache)
+{
+    if (!m_node)
+        return m_text;
+    m_node->requireReadable();
+    return m_node->text(ignoreCache);
+}
+
+void StringNode::setText(const std::string &text, bool verify, Changes &changes)
+{
+    if (m_node) {
+        if (verify)
+            m_node->requireWritable();
+        m_node->setText(text, verify, changes);
+        return;
+    }
+    m_text = text;
+    changes.add(*this);
+}
+
+int64_t StringNode::maximumTextLength()
+{
+    constexpr int64_t unlimited = 0x3FFFFFFC; // what the reference implementation answers
+    return m_node ? m_node->maximumTextLength() : unlimited;
+}
+
+std::string StringRegisterNode::text(bool ignoreCache)
+{
+    const std::string &bytes = m_register.read(*this, ignoreCache);
+    return bytes.substr(0, bytes.find('\0'));
+}
+
+int64_t StringRegisterNode::maximumTextLength()
+{
+    // Nothing longer than what it holds can ever be in a text that only the device writes.
+    if (isReadable(unlockedAccessMode()) && !isWritable(unlockedAccessMode()))
+        return static_cast<int64_t>(text(false).size());
+    return m_register.length(*this);
+}
+
+void StringRegisterNode::setText(const std::string &text, bool, Changes &changes)
+{
+    const auto length = static_cast<std::size_t>(m_register.length(*this));
+    if (text.size() > length) {
+        ORV_THROW(OutOfRangeException,
+                  std::string("node '") + name() + "': the text has more than " + std::to_string(length) + " bytes");
+    }
+    std::string bytes = text;
+    bytes.resize(length, '\0');
+    m_register.write(*this, std::move(bytes), changes);
+}
+
+std::string RegisterNode::text(bool ignoreCache)
+{
+    constexpr char digits[] = "0123456789abcdef";
+    std::string text = "0x";
+    for (const char byte : m_register.read(*this, ignoreCache)) {
+        text += digits[static_cast<uint8_t>(byte) >> 4];
+        text += digits[static_cast<uint8_t>(byte) & 15];
+    }
+    return text;
+}
+
+void RegisterNode::setText(const std::string &text, bool, Changes &changes)
+{
+    std::string_view digits = trimmed(text);
+    if (digits.substr(0, 2) == "0x" || digits.substr(0, 2) == "0X")
+        digits.remove_prefix(2);
+    std::string bytes;
+    for (std::size_t i = 0; i + 1 < digits.size(); i += 2) {
+        const std::optional<int64_t> byte = parseInteger("0x" + std::string(digits.substr(i, 2)));
+        if (!byte)
+            break;
+        bytes += static_cast<char>(*byte);
+    }
+    if (bytes.size() * 2 != digits.size() || static_cast<int64_t>(bytes.size()) != m_register.length(*this))
+        ORV_THROW(InvalidArgumentException, std::string("node '") + name() + "': not the bytes of this register");
+    m_register.write(*this, std::move(bytes), changes);
+}
+
+} // namespace OrvGenApi

@@ -1,0 +1,215 @@
+#pragma once
+
+#include "portnode.h"
+#include "values.h"
+
+#include <GenApi/IRegister.h>
+#include <GenApi/IString.h>
+
+namespace OrvGenApi {
+
+/** Where a register lies, and what is kept of its bytes. */
+class RegisterData
+{
+public:
+    /** One summand of an address. */
+    struct AddressTerm
+    {
+        IntRef value;
+        bool isIndex = false; ///< multiplied by the offset; by the register's length where there is none
+        IntRef offset;
+    };
+
+    GenApi::EAccessMode access() const;
+
+    /** Both are checked: an address that overflows or a length that makes no sense throws. */
+    int64_t address(const Node &owner) const;
+    int64_t length(const Node &owner) const;
+
+    /** The bytes, in the device's order. Valid until the next call of any operation. */
+    const std::string &read(Node &owner, bool ignoreCache);
+    void write(Node &owner, std::string bytes, Changes &changes);
+
+    /** The same for a caller's buffer, whose length must be that of the register. */
+    void get(Node &owner, uint8_t *buffer, int64_t length, bool ignoreCache);
+    void set(Node &owner, const uint8_t *buffer, int64_t length, Changes &changes);
+
+    void dropCache() { m_kept = false; }
+    bool isCacheValid() const { return m_kept; }
+    bool isBigEndian() const { return m_bigEndian != m_port->swapsEndianness(); }
+
+private:
+    friend class DescriptionLoader;
+
+    PortNode *m_port = nullptr;
+    std::vector<AddressTerm> m_addressTerms;
+    IntRef m_length;
+    std::string m_bytes;
+    int64_t m_keptAddress = 0;
+    uint64_t m_readEvaluation = 0; ///< the evaluation that read m_bytes, whatever the caching mode
+    GenApi::EAccessMode m_accessMode = GenApi::RO;
+    GenApi::ECachingMode m_cachable = GenApi::WriteThrough;
+    bool m_kept = false; ///< m_bytes is what the register holds
+    bool m_bigEndian = false;
+};
+
+/** IRegister on the outside, over RegisterData. \a Base is a ValueNode of the value's own interface. */
+template <typename Base>
+class RegisterValue : public Base, virtual public GenApi::IRegister
+{
+public:
+    using Base::Base;
+
+    void Set(const uint8_t *pBuffer, int64_t Length, bool Verify) override
+    {
+        this->change("Set", [&](Changes &changes) {
+            if (Verify)
+                this->requireWritable();
+            m_register.set(*this, pBuffer, Length, changes);
+        });
+    }
+
+    void Get(uint8_t *pBuffer, int64_t Length, bool Verify, bool IgnoreCache) override
+    {
+        (void)Verify;
+        const Entry entry(*this, "Get");
+        this->requireReadable();
+        m_register.get(*this, pBuffer, Length, IgnoreCache);
+    }
+
+    int64_t GetLength(bool Verify) override
+    {
+        (void)Verify;
+        const Entry entry(*this, "GetLength");
+        return m_register.length(*this);
+    }
+
+    int64_t GetAddress(bool Verify) override
+    {
+        (void)Verify;
+        const Entry entry(*this, "GetAddress");
+        return m_register.address(*this);
+    }
+
+    void dropCache() override { m_register.dropCache(); }
+    bool isCacheValid() const override { return m_register.isCacheValid(); }
+
+protected:
+    friend class DescriptionLoader;
+
+    GenApi::EAccessMode valueAccess() const override { return m_register.access(); }
+
+    RegisterData m_register;
+};
+
+/** A whole register, or some of its bits, as an integer. */
+class IntRegisterNode final : public RegisterValue<IntegerBase>
+{
+public:
+    using RegisterValue::RegisterValue;
+
+    int64_t intValue(bool ignoreCache) override;
+    void setIntValue(int64_t value, bool verify, Changes &changes) override;
+    int64_t intMin() override;
+    int64_t intMax() override;
+    GenApi::ERepresentation representation() const override { return m_presentation.representationOf(nullptr); }
+    const char *unit() const override { return m_presentation.unitOf(nullptr); }
+
+private:
+    friend class DescriptionLoader;
+
+    /** The bits that belong to the value, counted from the least significant one. */
+    struct Bits
+    {
+        unsigned lowest;
+        unsigned count;
+    };
+
+    Bits bits() const;
+    uint64_t rawOf(const std::string &bytes) const;
+    std::string bytesOf(uint64_t raw, std::size_t length) const;
+
+    Presentation m_presentation;
+    int16_t m_lsb = -1; ///< as in the description; -1: the whole register
+    int16_t m_msb = -1;
+    bool m_signed = false;
+};
+
+/** A register as a floating-point number of 4 or 8 bytes. */
+class FloatRegisterNode final : public RegisterValue<FloatBase>
+{
+public:
+    using RegisterValue::RegisterValue;
+
+    double floatValue(bool ignoreCache) override;
+    void setFloatValue(double value, bool verify, Changes &changes) override;
+    double floatMin() override { return -floatMax(); }
+    double floatMax() override;
+    GenApi::ERepresentation representation() const override { return m_presentation.representationOf(nullptr); }
+    const char *unit() const override { return m_presentation.unitOf(nullptr); }
+    GenApi::EDisplayNotation displayNotation() const override { return m_presentation.notationOf(nullptr); }
+    int64_t displayPrecision() const override { return m_presentation.precisionOf(nullptr); }
+
+private:
+    friend class DescriptionLoader;
+
+    Presentation m_presentation;
+};
+
+/** Base of the nodes that are texts on the outside. */
+class StringBase : public ValueNode<GenApi::IString>
+{
+public:
+    using ValueNode::ValueNode;
+
+    void SetValue(const GenICam::gcstring &Value, bool Verify) override;
+    GenICam::gcstring GetValue(bool Verify, bool IgnoreCache) override;
+    int64_t GetMaxLength(bool Verify) override;
+
+    GenApi::EInterfaceType interfaceType() const override { return GenApi::intfIString; }
+};
+
+/** A text in the node itself or in another node. */
+class StringNode final : public StringBase
+{
+public:
+    using StringBase::StringBase;
+
+    bool isCacheValid() const override { return !m_node || m_node->isCacheValid(); }
+    std::string text(bool ignoreCache) override;
+    void setText(const std::string &text, bool verify, Changes &changes) override;
+    int64_t maximumTextLength() override;
+
+protected:
+    GenApi::EAccessMode valueAccess() const override { return m_node ? m_node->accessMode() : GenApi::RW; }
+
+private:
+    friend class DescriptionLoader;
+
+    Node *m_node = nullptr;
+    std::string m_text;
+};
+
+/** A register as text: up to the first zero byte, filled up with zeros. */
+class StringRegisterNode final : public RegisterValue<StringBase>
+{
+public:
+    using RegisterValue::RegisterValue;
+
+    std::string text(bool ignoreCache) override;
+    void setText(const std::string &text, bool verify, Changes &changes) override;
+    int64_t maximumTextLength() override;
+};
+
+/** A range of bytes. */
+class RegisterNode final : public RegisterValue<ValueNode<GenApi::IValue>>
+{
+public:
+    using RegisterValue::RegisterValue;
+
+    GenApi::EInterfaceType interfaceType() const override { return GenApi::intfIRegister; }
+    std::string text(bool ignoreCache) override;
+    void setText(const std::string &text, bool verify, Changes &changes) override;
+};
+
+} // namespace OrvGenApi
