@@ -69,6 +69,13 @@ bool mayBeCategory(GenApi::INode *node)
     return mayBe;
 }
 
+/** The nodes of a large camera do not fit into a cache: waiting for each is a quarter of the time that a tree takes. */
+void prefetch(const GenApi::FeatureList_t &features, size_t index)
+{
+    if (index < features.size())
+        __builtin_prefetch(features[index]);
+}
+
 /** Holds a node map's lock, which GenApi takes again, at less cost, in all that is asked meanwhile. */
 class NodeMapLock
 {
@@ -179,6 +186,7 @@ void GenParamTreeModelPrivate::build()
         // Adding a category begins a visit, which may move this one.
         FeatureEntry **const slot = visit.children + visit.next;
         const qint32 row = visit.next++;
+        prefetch(visit.features, size_t(row) + 4);
         *slot = addFeature(visit.features[size_t(row)], visit.category, row);
     }
 }
