@@ -6,6 +6,7 @@
 #include <OrvGenApi/testing/faults.h>
 
 #include "orvtest.h"
+#include "simtest.h"
 
 #include <QAbstractItemModelTester>
 #include <QComboBox>
@@ -95,6 +96,7 @@ class TestGenParamTreeModel : public OrvTest::TestCase
 
 private Q_SLOTS:
     void showsTheTree();
+    void showsAParameterArray();
     void hasNoRowsWithoutFeatures();
     void keepsTheFirstPlaceOfAFeature();
     void endsCategoriesInsideThemselves();
@@ -139,6 +141,17 @@ void TestGenParamTreeModel::showsTheTree()
     QVERIFY(!tree.model->headerData(2, Qt::Horizontal).isValid());
     QVERIFY(!tree.model->index(3, 0).isValid());
     QVERIFY(!tree.model->index(0, 2).isValid());
+}
+
+void TestGenParamTreeModel::showsAParameterArray()
+{
+    const auto device = SimTest::open(SimTest::monochrome);
+    OrvGenParam::Array *const params = device->GetCameraParameters(nullptr);
+    const GenParamTreeModel ofArray(params, nullptr);
+    const GenParamTreeModel ofMap(params->GetNodeMap(), nullptr);
+    QVERIFY(ofArray.rowCount() > 0);
+    QCOMPARE(ofArray.rowCount(), ofMap.rowCount());
+    QCOMPARE(ofArray.index(0, 0).data(), ofMap.index(0, 0).data());
 }
 
 void TestGenParamTreeModel::hasNoRowsWithoutFeatures()

@@ -137,7 +137,6 @@ public:
     std::vector<GenApi::CallbackHandleType> callbacks;
     BlockArena arena; ///< of the entries, the child arrays and the names
     std::pmr::map<GenApi::IValue *, IndexFeature> entries{&arena};
-    std::vector<FeatureEntry **> childArrays;
     FeatureEntry **rootChildren = nullptr;
     qint32 rootChildCount = 0;
 
@@ -199,7 +198,6 @@ void GenParamTreeModelPrivate::enter(GenApi::ICategory &category, FeatureEntry *
     const auto count = qint32(std::min<size_t>(features.size(), std::numeric_limits<qint32>::max()));
     auto **const children =
         static_cast<FeatureEntry **>(arena.allocate(size_t(count) * sizeof(FeatureEntry *), alignof(FeatureEntry *)));
-    childArrays.push_back(children);
     (entry ? entry->second.children : rootChildren) = children;
     (entry ? entry->second.childCount : rootChildCount) = count;
     visits.push_back({entry, children, std::move(features), count, 0});
