@@ -121,6 +121,7 @@ private Q_SLOTS:
     void reportsChangesAtOnce();
     void queuesChangesOfOtherThreads();
     void dropsChangesWhenItGoes();
+    void outlivesARefusedDeregistration();
 };
 
 void TestGenParamTreeModel::showsTheTree()
@@ -690,6 +691,15 @@ void TestGenParamTreeModel::dropsChangesWhenItGoes()
         QCOMPARE(registeredCallbacks(*tree.map), size_t(0));
         QCoreApplication::processEvents();
     }
+}
+
+void TestGenParamTreeModel::outlivesARefusedDeregistration()
+{
+    FeatureTree tree;
+    failGetter(*tree.map, "Exposure", "DeregisterCallback");
+    tree.model.reset();
+    QCOMPARE(registeredCallbacks(*tree.map), size_t(1));
+    tree.node<GenApi::CIntegerPtr>("Exposure")->SetValue(4);
 }
 
 ORV_TEST_MAIN(TestGenParamTreeModel)
