@@ -1,0 +1,119 @@
+#include <OrvCameraGuiApi/widgets/int64validator.h>
+
+#include <QLocale>
+
+#include <limits>
+
+namespace {
+
+constexpr long long Smallest = std::numeric_limits<long long>::min();
+constexpr long long Largest = std::numeric_limits<long long>::max();
+
+} // namespace
+
+Int64Validator::Int64Validator(QObject *parent)
+    : Int64Validator(Smallest, Largest, parent)
+{
+}
+
+Int64Validator::Int64Validator(long long bottom, long long top, QObject *parent)
+    : QValidator(parent)
+    , m_bottom(bottom)
+    , m_top(top)
+{
+}
+
+long long Int64Validator::bottom() const
+{
+    return m_bottom;
+}
+
+void Int64Validator::setBottom(long long bottom)
+{
+    if (bottom == m_bottom)
+        return;
+    m_bottom = bottom;
+    Q_EMIT bottomChanged(bottom);
+    Q_EMIT changed();
+}
+
+long long Int64Validator::top() const
+{
+    return m_top;
+}
+
+void Int64Validator::setTop(long long top)
+{
+    if (top == m_top)
+        return;
+    m_top = top;
+    Q_EMIT topChanged(top);
+    Q_EMIT changed();
+}
+
+void Int64Validator::setRange(long long bottom, long long top)
+{
+    setBottom(bottom);
+    setTop(top);
+}
+
+int Int64Validator::base() const
+{
+    return m_base;
+}
+
+void Int64Validator::setBase(int base)
+{
+    if (base >= 2 && base <= 36)
+        m_base = base;
+}
+
+QValidator::State Int64Validator::validate(QString &text, int &pos) const
+{
+    Q_UNUSED(pos)
+    if (text.isEmpty())
+        return Intermediate;
+    if (text == QLatin1String("-") || (m_base == 10 && text == locale().negativeSign()))
+        return m_bottom < 0 ? Intermediate : Invalid;
+
+    bool ok = false;
+    const long long number = toInt64(text, &ok);
+    return ok ? judge(number) : Invalid;
+}
+
+long long Int64Validator::toInt64(const QString &text, bool *ok) const
+{
+    bool isNumber = false;
+    long long number = text.toLongLong(&isNumber, m_base);
+    if (!isNumber && m_base == 10) {
+        // A spin box shows base 10 in the digits and groups of its locale, and has to read what it shows.
+        QString digits = text;
+        if (!(locale().numberOptions() & QLocale::OmitGroupSeparator))
+            digits.remove(locale().groupSeparator());
+        number = locale().toLongLong(digits, &isNumber);
+    }
+    if (ok)
+        *ok = isNumber;
+    return isNumber ? number : 0;
+}
+
+QValidator::State Int64Validator::judge(long long number) const
+{
+    if (m_bottom < 0 && m_top < 0)
+        return judgeInNegativeRange(number);
+    if (m_bottom < 0)
+        return m_bottom <= number && number <= m_top ? Acceptable : Invalid;
+    if (number < 0)
+        return Invalid;
+    if (number < m_bottom)
+        return Intermediate;
+    return number > m_top ? Invalid : Acceptable;
+}
+
+QValidator::State Int64Validator::judgeInNegativeRange(long long number) const
+{
+    if (number <= m_top)
+        return number < m_bottom ? Invalid : Acceptable;
+    // The smallest 64-bit integer has no positive counterpart; every number lies below the one it would have.
+    return m_bottom == Smallest || number <= -m_bottom ? Intermediate : Invalid;
+}

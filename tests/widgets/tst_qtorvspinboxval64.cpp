@@ -1,0 +1,463 @@
+#include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
+
+#include <orvtest.h>
+
+#include <QAccessible>
+#include <QItemEditorFactory>
+#include <QLineEdit>
+#include <QProxyStyle>
+#include <QStandardItemModel>
+#include <QStyleOptionSpinBox>
+#include <QStyledItemDelegate>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include <functional>
+#include <limits>
+
+namespace {
+
+constexpr long long Smallest = std::numeric_limits<long long>::min();
+constexpr long long Largest = std::numeric_limits<long long>::max();
+constexpr auto Up = QStyle::SC_SpinBoxUp;
+constexpr auto Down = QStyle::SC_SpinBoxDown;
+
+/** Repeats a held button after a millisecond, so that holding takes no time. */
+class FastRepeatStyle : public QProxyStyle
+{
+public:
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *returnData) const override
+    {
+        if (hint == SH_SpinBox_ClickAutoRepeatRate || hint == SH_SpinBox_ClickAutoRepeatThreshold)
+            return 1;
+        return QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+};
+
+/** A window with a focused spin box at 42 of 0 to 99, and another widget. Notes every signal, texts in quotes. */
+class Window : public QWidget
+{
+public:
+    Window()
+    {
+        auto *layout = new QVBoxLayout(this);
+        layout->addWidget(&box);
+        layout->addWidget(&other);
+        box.setStyle(&style);
+        box.setValue(42);
+        connect(&box, QOverload<long long>::of(&QtOrvSpinBoxVal64::valueChanged), this,
+                [this](long long value) { emitted += QStringLiteral("%1 ").arg(value); });
+        connect(&box, QOverload<const QString &>::of(&QtOrvSpinBoxVal64::valueChanged), this,
+                [this](const QString &text) { emitted += QStringLiteral("'%1' ").arg(text); });
+        show();
+        box.setFocus(Qt::OtherFocusReason);
+    }
+    bool isReady() { return QTest::qWaitForWindowActive(this) && box.hasFocus(); }
+
+    QPoint arrow(QStyle::SubControl control)
+    {
+        QStyleOptionSpinBox option;
+        option.initFrom(&box);
+        option.subControls = QStyle::SC_All;
+        return box.style()->subControlRect(QStyle::CC_SpinBox, &option, control, &box).center();
+    }
+    void press(QStyle::SubControl control) { QTest::mousePress(&box, Qt::LeftButton, {}, arrow(control)); }
+    void release(QStyle::SubControl control) { QTest::mouseRelease(&box, Qt::LeftButton, {}, arrow(control)); }
+    void click(QStyle::SubControl control) { press(control), release(control); }
+    void key(QEvent::Type type, int key, bool autoRepeat)
+    {
+        QKeyEvent event(type, key, Qt::NoModifier, QString(), autoRepeat);
+        QApplication::sendEvent(&box, &event);
+    }
+    void type(const char *keys) { box.selectAll(), QTest::keyClicks(&box, QString::fromLatin1(keys)); }
+    QString takeEmitted() { return std::exchange(emitted, QString()).trimmed(); }
+
+    FastRepeatStyle style;
+    QtOrvSpinBoxVal64 box;
+    QLineEdit other;
+    QLineEdit *const edit = box.findChild<QLineEdit *>();
+
+private:
+    QString emitted;
+};
+
+QString announced(long long value)
+{
+    return QStringLiteral("%1 '%1'").arg(value);
+}
+
+} // namespace
+
+class tst_QtOrvSpinBoxVal64 : public OrvTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void commitsInRangeAndOnGrid()
+    {
+        const struct
+        {
+            long long minimum, maximum, step, number, committed;
+        } rows[] = {
+            {0, 99, 10, 14, 10},
+            {0, 99, 10, 15, 20},
+            {0, 99, 3, 7, 9}, // half of an odd step is rounded down
+            {0, 99, 10, 96, 99}, // capped
+            {5, 94, 10, 5, 5}, // the bounds stay, on the grid or off it
+            {0, 94, 10, 94, 94},
+            {-7, 99, 10, 0, 3},
+            {0, 99, 10, 100, 42}, // refused
+            {0, 99, 10, -1, 42},
+            {0, 99, 0, 14, 14}, // no grid
+            {0, 99, -10, 14, 14},
+            {Smallest, Largest, Largest, 5, -1},
+            {Smallest, Largest, 1LL << 62, Largest - 1, Largest},
+        };
+        for (const auto &row : rows) {
+            Window window;
+            window.box.setRange(row.minimum, row.maximum);
+            window.box.setSingleStep(row.step);
+            window.box.setValidateStepping(true);
+            window.edit->setText(QStringLiteral("7"));
+            window.box.setValue(row.number);
+            QCOMPARE(window.box.value(), row.committed);
+            QCOMPARE(window.takeEmitted(), row.committed == 42 ? QString() : announced(row.committed));
+            window.box.setValue(row.committed);
+            QCOMPARE(window.box.text(), row.committed == 42 ? QStringLiteral("40") : QString::number(row.committed));
+        }
+    }
+
+    void showsAndReadsNumbers()
+    {
+        const struct
+        {
+            long long number;
+            int base;
+            QLocale::Language language;
+            bool groups;
+            QString text;
+        } rows[] = {
+            {-255, 16, QLocale::English, true, QStringLiteral("-ff")},
+            {Smallest, 16, QLocale::English, false, QStringLiteral("-8000000000000000")},
+            {Largest, 36, QLocale::English, false, QStringLiteral("1y2p0ij32e8e7")},
+            {1234567, 10, QLocale::English, false, QStringLiteral("1234567")},
+            {-1234567, 10, QLocale::German, true, QStringLiteral("-1.234.567")},
+            {Smallest, 10, QLocale::German, false, QStringLiteral("-9223372036854775808")},
+        };
+        QtOrvSpinBoxVal64 box;
+        box.setRange(Smallest, Largest);
+        box.setPrefix(QStringLiteral("0x"));
+        box.setSuffix(QStringLiteral(" ms"));
+        for (const auto &row : rows) {
+            box.setLocale(QLocale(row.language));
+            box.setGroupSeparatorShown(row.groups);
+            box.setDisplayIntegerBase(row.base);
+            box.setValue(row.number);
+            QCOMPARE(box.text(), QLatin1String("0x") + row.text + QLatin1String(" ms"));
+            QCOMPARE(box.cleanText(), QString::number(row.number));
+            QCOMPARE(box.valueFromText(box.text()), row.number);
+        }
+        QCOMPARE(box.valueFromText(QStringLiteral("0x")), Smallest); // too short for a number
+    }
+
+    void readsWhatItShowsInEveryLocale()
+    {
+        QtOrvSpinBoxVal64 box;
+        box.setRange(Smallest, Largest);
+        for (const auto &locale :
+             QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry)) {
+            box.setLocale(locale);
+            for (const bool groups : {false, true}) {
+                box.setGroupSeparatorShown(groups);
+                for (const long long number : {Smallest, -1234567LL, 890LL, Largest})
+                    QVERIFY2(box.valueFromText(box.textFromValue(number)) == number, qPrintable(locale.name()));
+            }
+        }
+    }
+
+    void keepsUntouchedTextApartFromTyped()
+    {
+        Window window;
+        QVERIFY(window.isReady());
+        window.type("42");
+        window.box.setDisplayIntegerBase(16);
+        window.box.setDisplayIntegerBase(1); // cannot be used
+        QCOMPARE(window.box.text(), QStringLiteral("42"));
+        QTest::keyClick(&window.box, Qt::Key_Return);
+        QCOMPARE(window.box.value(), 42); // shown in base 10, not typed in base 16
+        QCOMPARE(window.box.text(), QStringLiteral("2a"));
+        window.box.setRange(50, 60);
+        window.box.setPrefix(QStringLiteral("x")); // outside the range, and yet shown with the new prefix
+        QCOMPARE(window.box.text(), QStringLiteral("x2a"));
+    }
+
+    void typesTracked()
+    {
+        const struct
+        {
+            long long minimum;
+            const char *keys, *text, *emitted;
+        } rows[] = {
+            {0, "57", "57", "5 '5' 57 '57'"}, {10, "5", "42", ""}, {0, "500", "50", "5 '5' 50 '50'"},
+            {0, "4x", "4", "4 '4'"},          {-9, "-", "42", ""}, {0, "\b", "42", ""},
+        };
+        for (const auto &row : rows) {
+            Window window;
+            QVERIFY(window.isReady());
+            window.box.setMinimum(row.minimum);
+            window.type(row.keys);
+            QCOMPARE(window.box.text(), QLatin1String(row.text));
+            QCOMPARE(window.takeEmitted(), QLatin1String(row.emitted));
+        }
+    }
+
+    void keepsCursorWhileGroupsMove()
+    {
+        Window window;
+        QVERIFY(window.isReady());
+        window.box.setLocale(QLocale(QLocale::English));
+        window.box.setGroupSeparatorShown(true);
+        window.box.setMaximum(Largest);
+        window.box.setValue(1234);
+        window.edit->setCursorPosition(3); // 1,2|34
+        QTest::keyClicks(&window.box, QStringLiteral("99"));
+        QCOMPARE(window.box.text(), QStringLiteral("129,934"));
+        QCOMPARE(window.edit->cursorPosition(), 5); // 129,9|34
+    }
+
+    void endsTyping()
+    {
+        const struct
+        {
+            std::function<void(Window &)> end;
+            long long discarded, kept;
+        } rows[] = {
+            {[](Window &window) { QTest::keyClick(&window.box, Qt::Key_Return); }, 57, 57},
+            {[](Window &window) { QTest::keyClick(&window.box, Qt::Key_Enter); }, 57, 57},
+            {[](Window &window) { window.other.setFocus(Qt::TabFocusReason); }, 42, 57},
+            {[](Window &window) { window.click(Down); }, 41, 56},
+            {[](Window &window) { QTest::keyClick(&window.box, Qt::Key_Up); }, 43, 58},
+            {[](Window &window) { QTest::keyClick(&window.box, Qt::Key_PageDown); }, 32, 47},
+        };
+        for (const auto &row : rows) {
+            for (const bool ignore : {true, false}) {
+                Window window;
+                QVERIFY(window.isReady());
+                window.box.setKeyboardTracking(false);
+                window.box.setIgnoreFocusOut(ignore);
+                window.type("57");
+                row.end(window);
+                QCOMPARE(window.box.value(), ignore ? row.discarded : row.kept);
+                QCOMPARE(window.box.text(), QString::number(window.box.value()));
+            }
+        }
+    }
+
+    void guardsAffixes()
+    {
+        Window window;
+        QVERIFY(window.isReady());
+        window.box.setPrefix(QStringLiteral("N1 "));
+        window.box.setSuffix(QStringLiteral("5s")); // digits, which a damaged text would lend to the number
+        window.box.setKeyboardTracking(false);
+        window.edit->setCursorPosition(4);
+        window.edit->setCursorPosition(1);
+        QCOMPARE(window.edit->cursorPosition(), 4);
+        window.edit->setCursorPosition(7);
+        QCOMPARE(window.edit->cursorPosition(), 5);
+        QTest::keyClick(&window.box, Qt::Key_Delete);
+        window.edit->setCursorPosition(3);
+        QTest::keyClick(&window.box, Qt::Key_Backspace);
+        QTest::keyClick(&window.box, Qt::Key_Backspace, Qt::ControlModifier);
+        QCOMPARE(window.box.text(), QStringLiteral("N1 425s"));
+
+        const std::function<void()> selections[] = {
+            [&] { window.edit->selectAll(); },
+            [&] { QTest::keyClick(&window.box, Qt::Key_A, Qt::ControlModifier); },
+            [&] { QTest::keyClick(&window.box, Qt::Key_Return); },
+            [&] { window.edit->setCursorPosition(5), QTest::keyClick(&window.box, Qt::Key_Home, Qt::ShiftModifier); },
+            [&] { window.edit->setCursorPosition(3), QTest::keyClick(&window.box, Qt::Key_End, Qt::ShiftModifier); },
+            [&] { window.other.setFocus(), QTest::keyClick(&window.other, Qt::Key_Backtab); },
+            [&] { window.other.setFocus(), window.box.setFocus(Qt::MouseFocusReason); },
+        };
+        for (const auto &select : selections) {
+            window.edit->deselect();
+            select();
+            QCOMPARE(window.edit->selectedText(), QStringLiteral("42"));
+        }
+        window.box.setKeyboardTracking(true);
+        QTest::keyClicks(&window.box, QStringLiteral("7"));
+        QCOMPARE(window.takeEmitted(), QStringLiteral("7 'N1 75s'"));
+        window.box.clear();
+        QCOMPARE(window.box.text(), QStringLiteral("N1 5s"));
+        QCOMPARE(window.edit->cursorPosition(), 3);
+        QCOMPARE(window.box.value(), 7);
+
+        window.box.setValue(42);
+        window.box.setMaximum(20); // the line edit lets everything pass once it shows a number that is too great
+        window.box.setPrefix(QStringLiteral("N2 "));
+        window.edit->setCursorPosition(3);
+        QTest::keyClick(&window.box, Qt::Key_Backspace);
+        QCOMPARE(window.box.text(), QStringLiteral("N2 425s"));
+        QCOMPARE(window.box.value(), 42);
+    }
+
+    void stepsWithinTheRange()
+    {
+        const struct
+        {
+            long long minimum, maximum, start, step;
+            int steps;
+            long long dropped, wrapped;
+        } rows[] = {
+            {-50, 99, 42, 10, -5, -8, -8},
+            {-50, 99, 95, 10, 1, 95, -50},
+            {-50, 99, -45, 10, -1, -45, 99},
+            {-50, 99, 89, 10, 1, 99, 99},
+            {-50, 99, -45, -10, 1, -45, 99},
+            {-50, Largest, Largest - 1, 2, 1, Largest - 1, -50}, // the sum overflows
+            {Smallest, Largest, 0, Largest, 2, 0, Smallest}, // the product overflows
+            {Smallest, Largest, 0, Largest, -2, 0, Largest},
+        };
+        for (const auto &row : rows) {
+            for (const bool wrapping : {false, true}) {
+                QtOrvSpinBoxVal64 box;
+                box.setRange(row.minimum, row.maximum);
+                box.setValue(row.start);
+                box.setSingleStep(row.step);
+                box.setWrapping(wrapping);
+                box.stepBy(row.steps);
+                QCOMPARE(box.value(), wrapping ? row.wrapped : row.dropped);
+            }
+        }
+    }
+
+    void clicksArrows()
+    {
+        Window window;
+        QVERIFY(window.isReady());
+        window.box.setMaximum(43);
+        window.click(Up);
+        QCOMPARE(window.takeEmitted(), announced(43));
+        QCOMPARE(window.edit->selectedText(), QStringLiteral("43"));
+        window.click(Up);
+        QCOMPARE(window.box.value(), 43);
+        window.box.setWrapping(true);
+        window.box.setSelectWhenStepping(false);
+        window.click(Up);
+        QCOMPARE(window.box.value(), 0);
+        QVERIFY(!window.edit->hasSelectedText());
+        window.box.setReadOnly(true);
+        window.click(Up);
+        QCOMPARE(window.box.value(), 0);
+    }
+
+    void commitsHeldStepsOnRelease()
+    {
+        Window window;
+        QVERIFY(window.isReady());
+        window.box.setRange(Smallest, Largest); // room for as many steps as come
+        const auto shown = [&window] { return window.box.text().toLongLong(); };
+        window.press(Up);
+        QTRY_VERIFY(window.box.value() >= 44); // tracked
+        window.release(Up);
+        QVERIFY(window.takeEmitted().startsWith(announced(43) + QLatin1Char(' ') + announced(44)));
+
+        window.box.setButtonTracking(false);
+        window.box.setValue(42);
+        window.takeEmitted();
+        window.press(Down);
+        QTRY_VERIFY(shown() <= 39);
+        QCOMPARE(window.takeEmitted(), QString());
+        window.release(Down);
+        QCOMPARE(window.takeEmitted(), announced(shown()));
+
+        QTest::mouseDClick(&window.box, Qt::LeftButton, {}, window.arrow(Up)); // the second press of two quick ones
+        QCOMPARE(window.takeEmitted(), QString());
+        window.release(Up);
+        QCOMPARE(window.takeEmitted(), announced(shown()));
+
+        const long long from = shown();
+        window.key(QEvent::KeyPress, Qt::Key_Up, false);
+        window.key(QEvent::KeyRelease, Qt::Key_Up, true);
+        window.key(QEvent::KeyPress, Qt::Key_Up, true);
+        QTRY_VERIFY(shown() >= from + 3);
+        QCOMPARE(window.takeEmitted(), QString());
+        window.key(QEvent::KeyRelease, Qt::Key_Up, false);
+        QCOMPARE(window.takeEmitted(), announced(shown()));
+
+        window.key(QEvent::KeyPress, Qt::Key_Down, false);
+        window.other.setFocus(); // the key will be released elsewhere
+        QCOMPARE(window.takeEmitted(), announced(shown()));
+        window.box.stepUp();
+        QCOMPARE(window.takeEmitted(), announced(shown()));
+    }
+
+    void refusesHeldNumberOutsideTheRange()
+    {
+        Window window;
+        QVERIFY(window.isReady());
+        window.box.setButtonTracking(false);
+        window.box.setSingleStep(40);
+        QTest::keyClick(&window.box, Qt::Key_PageUp);
+        QCOMPARE(window.box.value(), 42);
+        QCOMPARE(window.box.text(), QStringLiteral("442"));
+        QTest::keyClick(&window.box, Qt::Key_Return);
+        QCOMPARE(window.box.text(), QStringLiteral("42"));
+        window.box.setWrapping(true);
+        window.box.setSingleStep(Largest);
+        QTest::keyClick(&window.box, Qt::Key_PageUp);
+        QCOMPARE(window.takeEmitted(), announced(0));
+    }
+
+    void sizesForItsTexts()
+    {
+        QtOrvSpinBoxVal64 box;
+        QFont font = box.font();
+        font.setPointSize(2 * font.pointSize());
+        const std::function<void()> changes[] = {
+            [&] { box.setMinimum(-1000); },
+            [&] { box.setMaximum(Largest); },
+            [&] { box.setPrefix(QStringLiteral("from ")); },
+            [&] { box.setSuffix(QStringLiteral(" us")); },
+            [&] { box.setFont(font); },
+        };
+        for (const auto &change : changes) {
+            const QSize hint = box.sizeHint();
+            const QSize minimumHint = box.minimumSizeHint();
+            change();
+            QVERIFY(box.sizeHint().width() > hint.width());
+            QVERIFY(box.minimumSizeHint().width() > minimumHint.width());
+        }
+    }
+
+    void editsItems()
+    {
+        QStandardItemModel model(1, 2);
+        const QModelIndex index = model.index(0, 0);
+        model.setData(index, 42LL);
+        QItemEditorFactory factory;
+        factory.registerEditor(QMetaType::LongLong, new QStandardItemEditorCreator<QtOrvSpinBoxVal64>);
+        QStyledItemDelegate delegate;
+        delegate.setItemEditorFactory(&factory);
+        QTableView view;
+        view.setItemDelegate(&delegate);
+        view.setModel(&model);
+        view.show();
+        QVERIFY(QTest::qWaitForWindowActive(&view));
+        view.edit(index);
+        auto *editor = view.findChild<QtOrvSpinBoxVal64 *>();
+        QVERIFY(editor);
+        QCOMPARE(QAccessible::queryAccessibleInterface(editor)->valueInterface()->currentValue().toLongLong(), 42);
+        editor->setKeyboardTracking(false);
+        editor->selectAll();
+        QTest::keyClicks(editor, QStringLiteral("57"));
+        QTest::keyClick(editor, Qt::Key_Return);
+        QTRY_COMPARE(model.data(index).toLongLong(), 57);
+    }
+};
+
+ORV_TEST_MAIN(tst_QtOrvSpinBoxVal64)
+
+#include "tst_qtorvspinboxval64.moc"
