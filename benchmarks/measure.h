@@ -6,6 +6,9 @@
 
 #include <vector>
 
+/** Gives back what was freed, so that nothing which is measured next pays for the clean-up of what was before. */
+void tidyHeap();
+
 /** Bytes of the heap that are in use, including large blocks of their own. */
 qint64 heapInUse();
 
@@ -30,10 +33,11 @@ double millisecondsOf(Action &&action)
     return double(timer.nsecsElapsed()) * 1e-6;
 }
 
-/** What was measured, a row each: ours, what it is compared with, their ratio and what that may be at most. */
+/** What was measured, a row each: ours, what it is compared with, their ratio and what that should be at most. */
 class Table
 {
 public:
+    /** \a bound 0: the ratio is only told. */
     void add(const QString &what, const QString &unit, double ours, double other, double bound);
     void print() const;
 

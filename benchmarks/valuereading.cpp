@@ -1,42 +1,7 @@
+#include "barefeature.h"
 #include "benchmarks.h"
 
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
-
-namespace {
-
-/** A feature with its interfaces looked up beforehand; all but that of its kind are null. */
-struct BareFeature
-{
-    explicit BareFeature(GenApi::IValue *feature)
-        : value(feature)
-        , integer(dynamic_cast<GenApi::IInteger *>(feature))
-        , number(dynamic_cast<GenApi::IFloat *>(feature))
-        , boolean(dynamic_cast<GenApi::IBoolean *>(feature))
-    {
-    }
-
-    QString text() const;
-
-    GenApi::IValue *value;
-    GenApi::IInteger *integer;
-    GenApi::IFloat *number;
-    GenApi::IBoolean *boolean;
-};
-
-QString BareFeature::text() const
-{
-    if (integer)
-        return QString::number(qint64(integer->GetValue())) + QString::fromUtf8(integer->GetUnit().c_str());
-    if (number) {
-        return QString::number(number->GetValue(), 'f', int(number->GetDisplayPrecision()))
-            + QString::fromUtf8(number->GetUnit().c_str());
-    }
-    if (boolean)
-        return boolean->GetValue() ? QStringLiteral("True") : QStringLiteral("False");
-    return QString::fromUtf8(value->ToString().c_str());
-}
-
-} // namespace
 
 void measureValueReading(Table &table, int features, int repetitions)
 {

@@ -29,7 +29,8 @@ QByteArray FeatureCamera::allKinds()
 <Category Name="Root"><pFeature>Numbers</pFeature><pFeature>Others</pFeature><pFeature>Access</pFeature></Category>
 <Category Name="Numbers"><ToolTip>All that counts</ToolTip><DisplayName>Plain Numbers</DisplayName>
   <pFeature>Exposure</pFeature><pFeature>GevSCDA</pFeature><pFeature>GevMACAddress</pFeature><pFeature>Mask</pFeature>
-  <pFeature>Binning</pFeature><pFeature>Gain</pFeature><pFeature>Ratio</pFeature><pFeature>Fraction</pFeature></Category>
+  <pFeature>Binning</pFeature><pFeature>Gain</pFeature><pFeature>Ratio</pFeature>
+  <pFeature>Fraction</pFeature></Category>
 <Category Name="Others"><pFeature>Flag</pFeature><pFeature>Start</pFeature><pFeature>Label</pFeature>
   <pFeature>Mode</pFeature><pFeature>Blob</pFeature></Category>
 <Category Name="Access"><pFeature>Key</pFeature><pFeature>Serial</pFeature><pFeature>Gone</pFeature></Category>
@@ -44,8 +45,8 @@ QByteArray FeatureCamera::allKinds()
 <Float Name="Gain"><Value>1.5</Value><Min>0.25</Min><Max>8.25</Max><Inc>0.25</Inc><Unit>dB</Unit>
   <DisplayPrecision>3</DisplayPrecision></Float>
 <Float Name="Ratio"><Value>0.5</Value><DisplayPrecision>99999999</DisplayPrecision></Float>
-<Float Name="Fraction"><pValue>Eighths</pValue></Float>
-<Converter Name="Eighths"><FormulaTo>FROM * 8</FormulaTo><FormulaFrom>TO / 8</FormulaFrom>
+<Float Name="Fraction"><pValue>Scaled</pValue><Unit>mm</Unit></Float>
+<Converter Name="Scaled"><FormulaTo>FROM / 1.375</FormulaTo><FormulaFrom>TO * 1.375</FormulaFrom>
   <pValue>Binning</pValue><Slope>Increasing</Slope></Converter>
 <Boolean Name="Flag"><pValue>FlagReg</pValue></Boolean>
 <Command Name="Start"><pValue>StartReg</pValue><CommandValue>7</CommandValue></Command>
@@ -55,7 +56,8 @@ QByteArray FeatureCamera::allKinds()
   <EnumEntry Name="Continuous"><Value>10</Value></EnumEntry>
   <EnumEntry Name="Never"><pIsAvailable>Zero</pIsAvailable><Value>3</Value></EnumEntry>
   <pValue>ModeReg</pValue><pSelected>Exposure</pSelected></Enumeration>
-<Register Name="Blob"><Address>0xA0</Address><Length>8</Length><AccessMode>RW</AccessMode><pPort>Device</pPort></Register>
+<Register Name="Blob"><Address>0xA0</Address><Length>8</Length><AccessMode>RW</AccessMode>
+  <pPort>Device</pPort></Register>
 <Integer Name="Key"><pValue>KeyReg</pValue></Integer>
 <Integer Name="Serial"><pValue>SerialReg</pValue></Integer>
 <Integer Name="Gone"><pIsAvailable>Zero</pIsAvailable><Value>5</Value></Integer>

@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr std::size_t largestBlock = 64 * 1024;
+constexpr std::size_t largestBlock = 8 * 1024;
 
 } // namespace
 

@@ -11,11 +11,6 @@
 
 namespace {
 
-struct Text
-{
-    Q_DECLARE_TR_FUNCTIONS(GenParamTreeModel)
-};
-
 /** GigE Vision features that are addresses, though many descriptions declare them as plain numbers. */
 std::optional<GenApi::ERepresentation> representationByName(std::string_view name)
 {
@@ -43,6 +38,21 @@ QString macText(qint64 value)
     for (int shift = 40; shift >= 0; shift -= 8)
         bytes += QStringLiteral("%1").arg((value >> shift) & 0xff, 2, 16, QLatin1Char('0'));
     return bytes.join(QLatin1Char(':')).toUpper();
+}
+
+QString integerText(GenApi::IInteger &number, GenApi::ERepresentation representation)
+{
+    const qint64 value = number.GetValue();
+    switch (representation) {
+    case GenApi::IPV4Address:
+        return IP4Validator::getIpStr(static_cast<unsigned int>(value & 0xffffffff));
+    case GenApi::MACAddress:
+        return macText(value);
+    case GenApi::HexNumber:
+        return QString::number(static_cast<quint64>(value), 16).toUpper();
+    default:
+        return QString::number(value) + fromGenICam(number.GetUnit());
+    }
 }
 
 /** The number in a dotted address with all four parts. */
@@ -91,9 +101,9 @@ int displayPrecision(const GenApi::IFloat &value)
     return int(std::clamp<int64_t>(value.GetDisplayPrecision(), 0, most));
 }
 
-GenApi::INode *GenParamFeature::node() const
+GenApi::INode *nodeOf(GenApi::IValue *value)
 {
-    GenApi::INode *const node = m_value ? m_value->GetNode() : nullptr;
+    GenApi::INode *const node = value ? value->GetNode() : nullptr;
     return node ? node : static_cast<GenApi::INode *>(GenApi::CNodePtr());
 }
 
@@ -102,24 +112,26 @@ GenApi::EInterfaceType GenParamFeature::type() const
     return m_value ? node()->GetPrincipalInterfaceType() : GenApi::intfIBase;
 }
 
-GenApi::ERepresentation GenParamFeature::representation() const
+GenApi::ERepresentation GenParamFeature::representation(GenApi::IInteger &number) const
 {
     if (m_namesDecide) {
         if (const auto representation = representationByName(m_name))
             return *representation;
     }
-    return GenApi::CIntegerPtr(m_value)->GetRepresentation();
+    return number.GetRepresentation();
 }
 
 QVariant GenParamFeature::displayText(GenApi::EInterfaceType type) const
 {
     switch (type) {
-    case GenApi::intfIInteger:
-        return integerText(GenApi::CIntegerPtr(m_value)->GetValue(), representation());
+    case GenApi::intfIInteger: {
+        const GenApi::CIntegerPtr number(m_value);
+        return integerText(*number, representation(*number));
+    }
     case GenApi::intfIBoolean:
-        return GenApi::CBooleanPtr(m_value)->GetValue() ? Text::tr("True") : Text::tr("False");
+        return GenApi::CBooleanPtr(m_value)->GetValue() ? GenParamText::tr("True") : GenParamText::tr("False");
     case GenApi::intfICommand:
-        return Text::tr("Execute");
+        return GenParamText::tr("Execute");
     case GenApi::intfIFloat: {
         const GenApi::CFloatPtr number(m_value);
         return QString(QString::number(number->GetValue(), 'f', displayPrecision(*number))
@@ -134,20 +146,6 @@ QVariant GenParamFeature::displayText(GenApi::EInterfaceType type) const
     }
 }
 
-QString GenParamFeature::integerText(qint64 value, GenApi::ERepresentation representation) const
-{
-    switch (representation) {
-    case GenApi::IPV4Address:
-        return IP4Validator::getIpStr(static_cast<unsigned int>(value & 0xffffffff));
-    case GenApi::MACAddress:
-        return macText(value);
-    case GenApi::HexNumber:
-        return QString::number(static_cast<quint64>(value), 16).toUpper();
-    default:
-        return QString::number(value) + fromGenICam(GenApi::CIntegerPtr(m_value)->GetUnit());
-    }
-}
-
 QVariant GenParamFeature::editValue(GenApi::EInterfaceType type) const
 {
     const auto listed = [](GenApi::EIncMode mode, const QVariant &value) {
@@ -156,9 +154,9 @@ QVariant GenParamFeature::editValue(GenApi::EInterfaceType type) const
     switch (type) {
     case GenApi::intfIInteger: {
         const GenApi::CIntegerPtr number(m_value);
-        const GenApi::ERepresentation shownAs = representation();
+        const GenApi::ERepresentation shownAs = representation(*number);
         if (shownAs == GenApi::IPV4Address || shownAs == GenApi::MACAddress)
-            return integerText(number->GetValue(), shownAs);
+            return integerText(*number, shownAs);
         return listed(number->GetIncMode(), qint64(number->GetValue()));
     }
     case GenApi::intfIBoolean:
@@ -215,15 +213,16 @@ bool GenParamFeature::write(const QVariant &value) const
 
 bool GenParamFeature::writeInteger(const QVariant &value) const
 {
+    const GenApi::CIntegerPtr feature(m_value);
     std::optional<qint64> number;
     // Text is an address, whatever the feature: only what cannot be one, and is not meant to, is read as a number.
     if (value.userType() == QMetaType::QString)
         number = addressFromText(value.toString());
-    if (!number && (value.userType() != QMetaType::QString || representation() != GenApi::IPV4Address))
+    if (!number && (value.userType() != QMetaType::QString || representation(*feature) != GenApi::IPV4Address))
         number = toInteger(value);
     if (!number)
         return false;
-    GenApi::CIntegerPtr(m_value)->SetValue(*number, true);
+    feature->SetValue(*number, true);
     return true;
 }
 

@@ -8,11 +8,20 @@
 
 #include <optional>
 
+/** What people read, in the translation context of the model. */
+struct GenParamText
+{
+    Q_DECLARE_TR_FUNCTIONS(GenParamTreeModel)
+};
+
 /** A text of a node map. */
 inline QString fromGenICam(const GenICam::gcstring &text)
 {
     return QString::fromUtf8(text.c_str());
 }
+
+/** The node of \a value, which may be null; throws when there is none. */
+GenApi::INode *nodeOf(GenApi::IValue *value);
 
 /** Runs \a action; the text for people about what it threw, never empty, or nothing when it went well. */
 template <typename Action>
@@ -27,7 +36,7 @@ std::optional<QString> failureOf(Action &&action)
     } catch (...) {
         // Whatever else a camera's library throws has no text for people.
     }
-    return description.isEmpty() ? QCoreApplication::translate("GenParamTreeModel", "Unknown Error") : description;
+    return description.isEmpty() ? GenParamText::tr("Unknown Error") : description;
 }
 
 /**
@@ -56,13 +65,13 @@ public:
     QString name() const { return QString::fromUtf8(m_name); }
 
     /** The node; throws when there is none. */
-    GenApi::INode *node() const;
+    GenApi::INode *node() const { return nodeOf(m_value); }
 
     GenApi::EAccessMode accessMode() const { return m_value ? m_value->GetAccessMode() : GenApi::NI; }
     GenApi::EInterfaceType type() const;
 
-    /** How the integer is shown; only for one of type intfIInteger. */
-    GenApi::ERepresentation representation() const;
+    /** How \a number, which is this feature, is shown. */
+    GenApi::ERepresentation representation(GenApi::IInteger &number) const;
 
     /** The value as people read it, in \a type, which is type(); invalid where there is none. */
     QVariant displayText(GenApi::EInterfaceType type) const;
@@ -79,7 +88,6 @@ public:
 private:
     bool writeInteger(const QVariant &value) const;
     bool writeEnumeration(const QVariant &value) const;
-    QString integerText(qint64 value, GenApi::ERepresentation representation) const;
 
     GenApi::IValue *m_value;
     const char *m_name;

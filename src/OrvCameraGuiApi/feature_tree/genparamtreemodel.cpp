@@ -61,6 +61,37 @@ void registerMetaTypes()
     qRegisterMetaType<VariantData>("VariantData");
 }
 
+/** Saves a cast that fails, which costs more than all else that is done for a feature. */
+bool mayBeCategory(GenApi::INode *node)
+{
+    bool mayBe = true;
+    failureOf([&] { mayBe = !node || node->GetPrincipalInterfaceType() == GenApi::intfICategory; });
+    return mayBe;
+}
+
+/** The nodes of a large camera do not fit into a cache: waiting for each is a quarter of the time that a tree takes. */
+void prefetch(const GenApi::FeatureList_t &features, size_t index)
+{
+    if (index < features.size())
+        __builtin_prefetch(features[index]);
+}
+
+/** Holds a node map's lock, which GenApi takes again, at less cost, in all that is asked meanwhile. */
+class NodeMapLock
+{
+public:
+    explicit NodeMapLock(const GenApi::INodeMap &map)
+        : m_lock(map.GetLock())
+    {
+        m_lock.Lock();
+    }
+    ~NodeMapLock() { m_lock.Unlock(); }
+    Q_DISABLE_COPY(NodeMapLock)
+
+private:
+    GenApi::CLock &m_lock;
+};
+
 GenApi::INodeMap *nodeMapOf(OrvGenParam::Array *params)
 {
     GenApi::INodeMap *nodeMap = nullptr;
@@ -82,7 +113,7 @@ public:
     void enter(GenApi::ICategory &category, FeatureEntry *entry);
     FeatureEntry *addFeature(GenApi::IValue *value, FeatureEntry *parent, qint32 row);
     FeatureEntry *furtherOccurrence(FeatureEntry *first, FeatureEntry *parent, qint32 row);
-    void describe(FeatureEntry &entry);
+    void describe(FeatureEntry &entry, const GenApi::INode &node);
     const char *keepText(const GenICam::gcstring &text);
     void nodeChanged(GenApi::IValue *value);
 
@@ -106,19 +137,19 @@ public:
     std::vector<GenApi::CallbackHandleType> callbacks;
     BlockArena arena; ///< of the entries, the child arrays and the names
     std::pmr::map<GenApi::IValue *, IndexFeature> entries{&arena};
-    std::vector<FeatureEntry **> childArrays;
     FeatureEntry **rootChildren = nullptr;
     qint32 rootChildCount = 0;
 
     GenApi::IValue *root = nullptr;
     std::vector<Visit> visits; ///< while the tree is built: the way from the root to the category being visited
-    const std::shared_ptr<NodeChangeForwarder> forwarder;
+    const QExplicitlySharedDataPointer<NodeChangeForwarder> forwarder;
+    const NodeChangeCallback onChange{forwarder};
 };
 
 GenParamTreeModelPrivate::GenParamTreeModelPrivate(GenParamTreeModel *model, GenApi::INodeMap *map)
     : q(model)
     , nodeMap(map)
-    , forwarder(std::make_shared<NodeChangeForwarder>(model, [this](GenApi::IValue *value) { nodeChanged(value); }))
+    , forwarder(new NodeChangeForwarder(model, [this](GenApi::IValue *value) { nodeChanged(value); }))
 {
     registerMetaTypes();
     if (failureOf([this] { build(); }))
@@ -137,7 +168,10 @@ GenParamTreeModelPrivate::~GenParamTreeModelPrivate()
 /** Adds all features, depth first. Not recursive: a description decides how deep its categories are nested. */
 void GenParamTreeModelPrivate::build()
 {
-    const GenApi::CCategoryPtr category(nodeMap ? nodeMap->GetNode("Root") : nullptr);
+    if (!nodeMap)
+        return;
+    const NodeMapLock lock(*nodeMap);
+    const GenApi::CCategoryPtr category(nodeMap->GetNode("Root"));
     if (!category.IsValid())
         return;
     root = category;
@@ -151,6 +185,7 @@ void GenParamTreeModelPrivate::build()
         // Adding a category begins a visit, which may move this one.
         FeatureEntry **const slot = visit.children + visit.next;
         const qint32 row = visit.next++;
+        prefetch(visit.features, size_t(row) + 4);
         *slot = addFeature(visit.features[size_t(row)], visit.category, row);
     }
 }
@@ -163,7 +198,6 @@ void GenParamTreeModelPrivate::enter(GenApi::ICategory &category, FeatureEntry *
     const auto count = qint32(std::min<size_t>(features.size(), std::numeric_limits<qint32>::max()));
     auto **const children =
         static_cast<FeatureEntry **>(arena.allocate(size_t(count) * sizeof(FeatureEntry *), alignof(FeatureEntry *)));
-    childArrays.push_back(children);
     (entry ? entry->second.children : rootChildren) = children;
     (entry ? entry->second.childCount : rootChildCount) = count;
     visits.push_back({entry, children, std::move(features), count, 0});
@@ -175,14 +209,20 @@ FeatureEntry *GenParamTreeModelPrivate::addFeature(GenApi::IValue *value, Featur
     // Nodes come mostly in the order in which they were made, which the hint makes cheap.
     FeatureEntry &entry = *entries.try_emplace(entries.end(), value, IndexFeature{parent, nullptr, row, 0, ""});
     const bool isNew = entries.size() > known;
-    failureOf([&] { callbacks.push_back(GenApi::Register(GenApi::CNodePtr(value), NodeChangeCallback(forwarder))); });
+    GenApi::INode *node = nullptr;
+    failureOf([&] {
+        node = nodeOf(value);
+        callbacks.push_back(GenApi::Register(node, onChange));
+    });
     if (!isNew)
         return furtherOccurrence(&entry, parent, row);
-    failureOf([&] { describe(entry); });
+    if (node)
+        failureOf([&] { describe(entry, *node); });
     // A category is entered only where it stands first: no description can make this endless.
-    const GenApi::CCategoryPtr category(value);
-    if (category.IsValid() && value != root)
-        enter(*category, &entry);
+    if (value != root && mayBeCategory(node)) {
+        if (auto *const category = dynamic_cast<GenApi::ICategory *>(value))
+            enter(*category, &entry);
+    }
     return &entry;
 }
 
@@ -202,9 +242,9 @@ FeatureEntry *GenParamTreeModelPrivate::furtherOccurrence(FeatureEntry *first, F
 }
 
 /** Keeps the name, and learns from it whether this node map declares addresses. */
-void GenParamTreeModelPrivate::describe(FeatureEntry &entry)
+void GenParamTreeModelPrivate::describe(FeatureEntry &entry, const GenApi::INode &node)
 {
-    const GenICam::gcstring name = GenApi::CNodePtr(entry.first)->GetName();
+    const GenICam::gcstring name = node.GetName();
     entry.second.name = keepText(name);
     if (name == currentAddressName) {
         const GenApi::CIntegerPtr address(entry.first);

@@ -1,0 +1,60 @@
+# Sourced by ./run, ./test and .ci/run, which set $top to the project's root directory first.
+# shellcheck shell=bash disable=SC2034
+
+: "${top:?set by the script that sources this}"
+
+packages_build=(
+    g++ cmake ninja-build pkg-config
+    qtbase5-dev qttools5-dev libpugixml-dev libbenchmark-dev
+)
+# What programs with windows need on a machine that has no desktop: a font, a display for the tests that want one.
+packages_run=(fonts-dejavu-core xvfb xauth)
+
+say() { printf '%s\n' "$*"; }
+
+heading() { printf '\n=== %s ===\n' "$*"; }
+
+fail() {
+    printf '%s: %s\n' "$(basename "$0")" "$*" >&2
+    exit 1
+}
+
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then
+        "$@"
+    else
+        sudo "$@"
+    fi
+}
+
+# Installs those of the packages "$@" that this machine does not have. Does nothing, quickly, when it has them all.
+install_packages() {
+    command -v dpkg-query >/dev/null || fail "this is no Debian; install yourself what $* stand for"
+    local package missing=()
+    for package in "$@"; do
+        [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" = installed ] || missing+=("$package")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+
+    say "Installing Debian packages: ${missing[*]}"
+    if [ "$(id -u)" -ne 0 ] && ! command -v sudo >/dev/null; then
+        fail "neither root nor sudo; install these yourself: apt-get install ${missing[*]}"
+    fi
+    as_root apt-get update -qq </dev/null
+    as_root env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -qq -y --no-install-recommends "${missing[@]}" </dev/null
+}
+
+# Configures the preset $1 and builds the targets after it, everything when there are none.
+build_preset() {
+    local preset=$1
+    shift
+    cmake --preset "$preset" >"$top/build/$preset.configure.log" 2>&1 || {
+        cat "$top/build/$preset.configure.log" >&2
+        fail "cannot configure preset $preset"
+    }
+    cmake --build --preset "$preset" ${1:+--target "$@"}
+}
+
+cd "$top" || exit 1
+mkdir -p "$top/build"

@@ -1,0 +1,153 @@
+#include "camerasource.h"
+
+#include <OrvCameraGuiApi/camera_api/orvcam.h>
+#include <OrvCameraGuiApi/camera_api/orvgenparam.h>
+
+#include <Base/GCException.h>
+#include <OrvGenApi/memoryport.h>
+#include <OrvGenApi/nodemap.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QStringList>
+
+#include <algorithm>
+#include <exception>
+#include <vector>
+
+namespace {
+
+/** What the camera access library hands out is given back by Release(). */
+struct Releaser
+{
+    template <typename T>
+    void operator()(T *object) const
+    {
+        object->Release();
+    }
+};
+
+template <typename T>
+using Released = std::unique_ptr<T, Releaser>;
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(CameraSource)
+};
+
+[[noreturn]] void fail(const QString &message)
+{
+    throw CameraSourceError{message.simplified()};
+}
+
+class Description : public CameraSource
+{
+public:
+    explicit Description(const QString &path)
+        : m_nodeMap(OrvGenApi::NodeMap::fromFile(QFile::encodeName(path).toStdString()))
+    {
+        m_nodeMap->connect(&m_memory);
+    }
+
+    GenApi::INodeMap *nodeMap() const override { return m_nodeMap.get(); }
+
+    QString name() const override
+    {
+        const QString vendor = QString::fromStdString(m_nodeMap->vendorName());
+        return (vendor + QLatin1Char(' ') + QString::fromStdString(m_nodeMap->modelName())).simplified();
+    }
+
+private:
+    OrvGenApi::MemoryPort m_memory;
+    const std::unique_ptr<OrvGenApi::NodeMap> m_nodeMap;
+};
+
+class Camera : public CameraSource
+{
+public:
+    Camera(Released<OrvCam::System> system, OrvCam::DeviceInfo *info)
+        : m_system(std::move(system))
+        , m_name(QString::fromUtf8(info->GetDisplayName()))
+    {
+        OrvCamErr error = OrvCamErr_Ok;
+        m_device.reset(OrvCam_CreateDevice(info, OrvCam::DeviceAccessControl, &error));
+        OrvGenParam::Array *parameters = m_device ? m_device->GetCameraParameters(&error) : nullptr;
+        m_nodeMap = parameters ? parameters->GetNodeMap() : nullptr;
+        if (!m_nodeMap) {
+            fail(Text::tr("Cannot open the camera '%1': %2.")
+                     .arg(QString::fromLatin1(info->GetID()), QLatin1String(orvCamErrDescription(error))));
+        }
+    }
+
+    GenApi::INodeMap *nodeMap() const override { return m_nodeMap; }
+    QString name() const override { return m_name; }
+
+private:
+    const Released<OrvCam::System> m_system;
+    const QString m_name;
+    Released<OrvCam::Device> m_device;
+    GenApi::INodeMap *m_nodeMap = nullptr;
+};
+
+/** Appends the devices that are found on \a interface now. */
+void collectDevices(OrvCam::Interface &interface, std::vector<OrvCam::DeviceInfo *> &devices)
+{
+    constexpr std::uint32_t timeout = 200;
+    bool changed = false;
+    interface.ReEnumerateDevices(&changed, timeout);
+    const Released<OrvCam::DeviceInfoList> list(interface.GetDeviceInfoList());
+    if (!list)
+        return;
+    for (OrvCam::DeviceInfo *info = list->GetFirst(); info; info = list->GetNext())
+        devices.push_back(info);
+}
+
+std::vector<OrvCam::DeviceInfo *> allDevices(OrvCam::System &system)
+{
+    std::vector<OrvCam::DeviceInfo *> devices;
+    const Released<OrvCam::InterfaceList> list(system.GetInterfaceList(OrvCam::AllInterfaceTypes));
+    if (!list)
+        return devices;
+    for (OrvCam::Interface *interface = list->GetFirst(); interface; interface = list->GetNext())
+        collectDevices(*interface, devices);
+    return devices;
+}
+
+bool isSelectable(OrvCam::DeviceInfo *info)
+{
+    const std::int32_t status = info->GetAccessStatus();
+    return status != OrvCam::AccessStatusNoAccess && status != OrvCam::AccessStatusIpSubnetMismatch;
+}
+
+} // namespace
+
+std::unique_ptr<CameraSource> openDescription(const QString &path)
+{
+    try {
+        return std::make_unique<Description>(path);
+    } catch (const GenICam::GenericException &e) {
+        fail(QString::fromUtf8(e.GetDescription()));
+    } catch (const std::exception &e) { // a file too large for the memory
+        fail(Text::tr("%1: %2").arg(path, QString::fromLocal8Bit(e.what())));
+    }
+}
+
+std::unique_ptr<CameraSource> openCamera(const QString &id)
+{
+    Released<OrvCam::System> system(OrvCam_GetSystem());
+    if (!system)
+        fail(Text::tr("There is no camera system."));
+    const std::vector<OrvCam::DeviceInfo *> devices = allDevices(*system);
+    const auto found = std::find_if(devices.begin(), devices.end(), [&id](OrvCam::DeviceInfo *info) {
+        return id.isEmpty() ? isSelectable(info) : QString::fromLatin1(info->GetID()) == id;
+    });
+    if (found != devices.end())
+        return std::make_unique<Camera>(std::move(system), *found);
+    if (id.isEmpty())
+        fail(Text::tr("There is no camera that can be opened."));
+
+    QStringList known;
+    for (OrvCam::DeviceInfo *info : devices)
+        known.append(QString::fromLatin1(info->GetID()));
+    fail(Text::tr("There is no camera '%1'; there are: %2.").arg(id, known.join(QLatin1String(", "))));
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <GenApi/INodeMap.h>
+
+#include <QString>
+
+#include <memory>
+
+/** Something that has features to show. Its node map lives as long as it does. */
+class CameraSource
+{
+public:
+    CameraSource() = default;
+    virtual ~CameraSource() = default;
+    CameraSource(const CameraSource &) = delete;
+    CameraSource &operator=(const CameraSource &) = delete;
+
+    /** Never null. */
+    virtual GenApi::INodeMap *nodeMap() const = 0;
+
+    /** What to call it in a title. */
+    virtual QString name() const = 0;
+};
+
+/** Thrown when there is nothing to show; the message is one line for people. */
+struct CameraSourceError
+{
+    QString message;
+};
+
+/** The GenICam description in the file \a path over a memory that reads as zeros. Throws a CameraSourceError. */
+std::unique_ptr<CameraSource> openDescription(const QString &path);
+
+/**
+ * The camera of the process's camera system with the identifier \a id, opened; for an empty one the first camera whose
+ * access status allows it. Throws a CameraSourceError.
+ */
+std::unique_ptr<CameraSource> openCamera(const QString &id);

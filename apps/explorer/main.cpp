@@ -1,0 +1,94 @@
+#include "camerasource.h"
+#include "explorerwindow.h"
+#include "options.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QIcon>
+
+#include <cstdio>
+
+namespace {
+
+constexpr int usageError = 2;
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(Explorer)
+};
+
+int fail(const QString &message)
+{
+    std::fprintf(stderr, "%s: %s\n", qPrintable(QCoreApplication::applicationName()), qPrintable(message));
+    return usageError;
+}
+
+int print(const QString &text)
+{
+    const bool written = std::fputs(qPrintable(text), stdout) >= 0 && std::fflush(stdout) == 0;
+    return written ? 0 : fail(Text::tr("Cannot write to standard output."));
+}
+
+/** Reads the command line, which needs neither a display nor the window system. */
+Options readCommandLine(int argc, char **argv)
+{
+    const QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("orv-camera-explorer"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(ORV_VERSION));
+    return parseOptions(QCoreApplication::arguments());
+}
+
+/** Whether a window can be opened where this process was started. */
+bool hasDisplay()
+{
+    for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+        if (!qEnvironmentVariableIsEmpty(variable))
+            return true;
+    }
+    return false;
+}
+
+int saveScreenshot(QWidget &window, const QString &directory)
+{
+    const QString path = QDir(directory).filePath(QStringLiteral("explorer.png"));
+    window.grab(); // drawing reads the values, and reading finds the errors that the status bar counts
+    if (!QDir().mkpath(directory) || !window.grab().save(path))
+        return fail(Text::tr("Cannot write '%1'.").arg(path));
+    return print(path + QLatin1Char('\n'));
+}
+
+int runWindow(int argc, char **argv, const Options &options, std::unique_ptr<CameraSource> source)
+{
+    const bool screenshot = options.action == Options::Action::SaveScreenshot;
+    if (screenshot && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    const QApplication app(argc, argv);
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/explorer/explorer.png")));
+
+    ExplorerWindow window(std::move(source));
+    if (screenshot)
+        return saveScreenshot(window, options.screenshotDir);
+    window.show();
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const Options options = readCommandLine(argc, argv);
+    if (options.action == Options::Action::Fail)
+        return fail(options.text);
+    if (options.action == Options::Action::PrintText)
+        return print(options.text);
+    if (options.action == Options::Action::ShowWindow && !hasDisplay())
+        return fail(Text::tr("There is no display; '--screenshot DIR' draws the window into a file."));
+    try {
+        return runWindow(argc, argv, options,
+                         options.xmlFile.isEmpty() ? openCamera(options.cameraId) : openDescription(options.xmlFile));
+    } catch (const CameraSourceError &e) {
+        return fail(e.message);
+    }
+}

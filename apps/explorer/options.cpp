@@ -1,0 +1,73 @@
+#include "options.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(Options)
+};
+
+/** No window: only this text. */
+Options saying(Options::Action action, const QString &text)
+{
+    Options options;
+    options.action = action;
+    options.text = text;
+    return options;
+}
+
+/** Why options that are right by themselves cannot be used; empty when they can. */
+QString misuse(const QCommandLineParser &parser)
+{
+    if (!parser.positionalArguments().isEmpty())
+        return Text::tr("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst());
+    for (const char *name : {"xml", "camera", "screenshot"}) {
+        const QString option = QLatin1String(name);
+        if (parser.isSet(option) && parser.value(option).isEmpty())
+            return Text::tr("Empty value after '--%1'.").arg(option);
+    }
+    if (parser.isSet(QStringLiteral("xml")) && parser.isSet(QStringLiteral("camera")))
+        return Text::tr("'--xml' and '--camera' exclude each other.");
+    return {};
+}
+
+} // namespace
+
+Options parseOptions(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(Text::tr("Shows the features of a GenICam camera."));
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, Text::tr("Print this text."));
+    const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")}, Text::tr("Print the version."));
+    const QCommandLineOption xml(QStringLiteral("xml"),
+                                 Text::tr("Show the GenICam description FILE over an empty memory."), Text::tr("FILE"));
+    const QCommandLineOption camera(
+        QStringLiteral("camera"),
+        Text::tr("Open the camera with the identifier ID; without it, the first that can be opened."), Text::tr("ID"));
+    const QCommandLineOption screenshot(
+        QStringLiteral("screenshot"),
+        Text::tr("Draw the windows into PNG files in the directory DIR and end; needs no display."), Text::tr("DIR"));
+    parser.addOptions({help, version, xml, camera, screenshot});
+
+    const bool understood = parser.parse(arguments);
+    if (understood && parser.isSet(help))
+        return saying(Options::Action::PrintText, parser.helpText());
+    if (understood && parser.isSet(version))
+        return saying(Options::Action::PrintText,
+                      QCoreApplication::applicationName() + QLatin1Char(' ') + QCoreApplication::applicationVersion()
+                          + QLatin1Char('\n'));
+    const QString why = understood ? misuse(parser) : parser.errorText();
+    if (!why.isEmpty())
+        return saying(Options::Action::Fail, why);
+
+    Options options;
+    if (parser.isSet(screenshot))
+        options.action = Options::Action::SaveScreenshot;
+    options.xmlFile = parser.value(xml);
+    options.cameraId = parser.value(camera);
+    options.screenshotDir = parser.value(screenshot);
+    return options;
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/** What the command line asks for. */
+struct Options
+{
+    enum class Action {
+        ShowWindow,
+        SaveScreenshot,
+        PrintText,
+        Fail ///< the command line cannot be used
+    };
+
+    Action action = Action::ShowWindow;
+    QString xmlFile; ///< description to show instead of a camera; empty: a camera
+    QString cameraId; ///< identifier of the camera to open; empty: the first that can be opened
+    QString screenshotDir; ///< where SaveScreenshot writes
+    QString text; ///< what PrintText prints; for Fail one line that says why
+};
+
+/** Reads \a arguments, whose first is the program's name. */
+Options parseOptions(const QStringList &arguments);

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <GenApi/GenApi.h>
+
+#include <QString>
+
+/** A feature as one would show it without a model: GenApi's getters, and formatting what they answer. */
+class BareFeature
+{
+public:
+    /** Looks up the one interface that the feature's kind needs. */
+    explicit BareFeature(GenApi::IValue *value);
+
+    bool isCategory() const { return m_type == GenApi::intfICategory; }
+    QString name() const { return QString::fromUtf8(m_node->GetDisplayName().c_str()); }
+    QString text() const;
+
+private:
+    GenApi::IValue *m_value;
+    GenApi::INode *m_node;
+    GenApi::EInterfaceType m_type;
+    GenApi::IInteger *m_integer = nullptr;
+    GenApi::IFloat *m_float = nullptr;
+    GenApi::IBoolean *m_boolean = nullptr;
+};

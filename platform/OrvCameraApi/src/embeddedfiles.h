@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace OrvCameraApi {
+
+struct EmbeddedFile
+{
+    std::string_view name;
+    std::string_view text;
+};
+
+extern const EmbeddedFile embeddedFiles[];
+extern const std::size_t embeddedFileCount;
+
+} // namespace OrvCameraApi

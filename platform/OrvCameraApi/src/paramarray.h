@@ -1,0 +1,41 @@
+#pragma once
+
+#include "paramobject.h"
+
+#include <OrvGenApi/nodemap.h>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+
+namespace OrvCameraApi {
+
+/** All parameters of a node map. They are made when they are first asked for. */
+class ParamArray final : public OrvGenParam::Array
+{
+public:
+    /** The port that \a map is connected to outlives this object. \a isConnected: see ParamContext. */
+    ParamArray(std::unique_ptr<OrvGenApi::NodeMap> map, std::function<bool()> isConnected);
+    ~ParamArray() override;
+
+    OrvGenParam::Boolean *GetBoolean(const char *name, OrvCamErr *err) override;
+    OrvGenParam::Command *GetCommand(const char *name, OrvCamErr *err) override;
+    OrvGenParam::Enum *GetEnum(const char *name, OrvCamErr *err) override;
+    OrvGenParam::Int *GetInt(const char *name, OrvCamErr *err) override;
+    OrvGenParam::String *GetString(const char *name, OrvCamErr *err) override;
+    GenApi::INodeMap *GetNodeMap() override { return m_map.get(); }
+    OrvCamErr SetIntegerValue(const char *name, std::int64_t value) override;
+    std::int64_t GetIntegerValue(const char *name, OrvCamErr *err) override;
+
+private:
+    template <typename Kind>
+    Kind *find(const char *name, OrvCamErr *err);
+    OrvCamErr lookUp(const char *name, ParamObject *&param);
+
+    const std::unique_ptr<OrvGenApi::NodeMap> m_map;
+    const ParamContext m_context;
+    std::map<std::string, std::unique_ptr<ParamObject>> m_params; ///< null for a feature that is of no kind
+};
+
+} // namespace OrvCameraApi

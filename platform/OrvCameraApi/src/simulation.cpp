@@ -1,0 +1,241 @@
+#include <OrvCameraApi/simulation.h>
+
+#include "camera.h"
+#include "defaultsystem.h"
+#include "hostinterface.h"
+#include "livecounts.h"
+#include "world.h"
+
+#include <GenApi/GenApi.h>
+
+namespace OrvSim {
+
+using OrvCameraApi::AddressRange;
+using OrvCameraApi::Camera;
+using OrvCameraApi::HostInterface;
+using OrvCameraApi::PortMonitor;
+using OrvCameraApi::World;
+
+namespace {
+
+World &world()
+{
+    return World::instance();
+}
+
+/** Runs \a action on the camera of that name, if there is one. */
+template <typename Action>
+bool onCamera(const std::string &name, Action &&action)
+{
+    const std::shared_ptr<Camera> camera = world().findDevice(name).camera;
+    if (camera)
+        action(*camera);
+    return camera != nullptr;
+}
+
+template <typename Action>
+bool onInterface(const std::string &name, Action &&action)
+{
+    const std::shared_ptr<HostInterface> host = world().findInterface(name);
+    if (host)
+        action(*host);
+    return host != nullptr;
+}
+
+/** Runs \a action on whatever has that name. */
+template <typename Action>
+bool onEither(const std::string &name, Action &&action)
+{
+    return onCamera(name, action) || onInterface(name, action);
+}
+
+} // namespace
+
+void reset()
+{
+    world().clear();
+    OrvCameraApi::buildDefaultSystem(world());
+}
+
+void clear()
+{
+    world().clear();
+}
+
+bool addInterface(const InterfaceSpec &spec)
+{
+    return world().add(spec);
+}
+
+bool addDevice(const std::string &interfaceName, const DeviceSpec &spec, std::string *error)
+{
+    try {
+        return world().add(interfaceName, spec);
+    } catch (const GenICam::GenericException &failure) {
+        if (error)
+            *error = failure.GetDescription();
+        return false;
+    }
+}
+
+bool remove(const std::string &name)
+{
+    return world().remove(name);
+}
+
+bool unplug(const std::string &name)
+{
+    return world().setPluggedIn(name, false);
+}
+
+bool replug(const std::string &name)
+{
+    return world().setPluggedIn(name, true);
+}
+
+bool swapDevices(const std::string &first, const std::string &second)
+{
+    const World::Place one = world().findDevice(first);
+    const World::Place other = world().findDevice(second);
+    if (!one.camera || !other.camera || one.host != other.host)
+        return false;
+    one.host->swap(one.camera, other.camera);
+    return true;
+}
+
+void setSystemAvailable(bool available)
+{
+    world().setSystemAvailable(available);
+}
+
+void setInterfaceLists(Lists lists)
+{
+    world().setInterfaceLists(lists);
+}
+
+bool setDeviceLists(const std::string &interfaceName, Lists lists)
+{
+    return onInterface(interfaceName, [lists](HostInterface &host) { host.setDeviceLists(lists); });
+}
+
+bool setParameters(const std::string &name, Parameters parameters)
+{
+    return onEither(name, [parameters](auto &thing) { thing.setParameters(parameters); });
+}
+
+bool setAccessStatus(const std::string &deviceName, std::int32_t status)
+{
+    return onCamera(deviceName, [status](Camera &camera) { camera.setAccessStatus(status); });
+}
+
+bool refuseToOpen(const std::string &deviceName, OrvCamErr err)
+{
+    return onCamera(deviceName, [err](Camera &camera) { camera.refuseToOpen(err); });
+}
+
+bool refuseForceIp(const std::string &deviceName, OrvCamErr err)
+{
+    return onCamera(deviceName, [err](Camera &camera) { camera.refuseForceIp(err); });
+}
+
+void setEventsFromOtherThread(bool other)
+{
+    world().events().setEnabled(other);
+}
+
+void waitForEvents()
+{
+    world().events().wait();
+}
+
+void stall(Call call)
+{
+    world().gate(call).setClosed(true);
+}
+
+void release(Call call)
+{
+    world().gate(call).setClosed(false);
+}
+
+bool waitUntilStalled(Call call, std::chrono::milliseconds timeout)
+{
+    return world().gate(call).waitForVisitor(timeout);
+}
+
+bool setFault(const std::string &name, const std::string &node, Fault fault)
+{
+    bool found = false;
+    onEither(name, [&](auto &thing) {
+        if (const std::optional<AddressRange> range = thing.service().find(node)) {
+            thing.monitor().add(*range, fault);
+            found = true;
+        }
+    });
+    return found;
+}
+
+bool setFault(const std::string &name, std::int64_t address, std::int64_t length, Fault fault)
+{
+    return onEither(name, [&](auto &thing) { thing.monitor().add({address, length}, fault); });
+}
+
+bool clearFaults(const std::string &name)
+{
+    return onEither(name, [](auto &thing) { thing.monitor().clear(); });
+}
+
+bool waitUntilStalled(const std::string &name, std::chrono::milliseconds timeout)
+{
+    bool stalled = false;
+    onEither(name, [&](auto &thing) { stalled = thing.monitor().waitUntilStalled(timeout); });
+    return stalled;
+}
+
+bool setRegister(const std::string &deviceName, const std::string &node, const std::string &value)
+{
+    bool written = false;
+    onCamera(deviceName, [&](Camera &camera) {
+        try {
+            camera.service().set(node, value);
+            written = true;
+        } catch (const GenICam::GenericException &) {
+            written = false;
+        }
+    });
+    return written;
+}
+
+std::uint64_t readCount(const std::string &name)
+{
+    std::uint64_t count = 0;
+    onEither(name, [&count](auto &thing) { count = thing.monitor().readCount(); });
+    return count;
+}
+
+std::uint64_t writeCount(const std::string &name)
+{
+    std::uint64_t count = 0;
+    onEither(name, [&count](auto &thing) { count = thing.monitor().writeCount(); });
+    return count;
+}
+
+bool resetCounts(const std::string &name)
+{
+    return onEither(name, [](auto &thing) { thing.monitor().resetCounts(); });
+}
+
+LiveObjects liveObjects()
+{
+    const OrvCameraApi::LiveCounts &counts = OrvCameraApi::liveCounts();
+    LiveObjects live;
+    live.systemReferences = counts.systemReferences;
+    live.lists = counts.lists;
+    live.devices = counts.devices;
+    live.eventCallbacks = counts.eventCallbacks;
+    live.sinks = counts.sinks;
+    live.nodeCallbacks = counts.nodeCallbacks;
+    return live;
+}
+
+} // namespace OrvSim

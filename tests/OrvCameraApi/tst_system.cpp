@@ -1,0 +1,450 @@
+#include "simtest.h"
+
+#include <orvtest.h>
+
+#include <GenApi/GenApi.h>
+
+#include <QTemporaryFile>
+
+#include <atomic>
+#include <thread>
+
+using namespace SimTest;
+
+/** The system, its lists, interfaces and descriptions, and what the simulation can do to them. */
+class TestSystem : public OrvTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        TestCase::init();
+        OrvSim::reset();
+    }
+    void cleanup();
+
+    void defaultSystem();
+    void referencesAreCounted();
+    void listsAreWalkedForward();
+    void listsThatAreNotThere();
+    void masksChooseTypes();
+    void objectsOutliveWhatTheyDescribe();
+    void addedAndRemoved();
+    void oddTextsAndTypes();
+    void enumerationTellsChanges();
+    void stalledEnumerationHoldsNoLock();
+    void enumerationBesideReading();
+    void forcedAddresses_data();
+    void forcedAddresses();
+    void forceIpThatFails();
+    void interfaceParameters();
+    void anyDescription();
+    void unusableCameras_data();
+    void unusableCameras();
+};
+
+void TestSystem::cleanup()
+{
+    const OrvSim::LiveObjects live = OrvSim::liveObjects();
+    QCOMPARE(live.lists, std::size_t(0));
+    QCOMPARE(live.systemReferences, std::size_t(0));
+    TestCase::cleanup();
+}
+
+void TestSystem::defaultSystem()
+{
+    const Held<OrvCam::System> system = getSystem();
+    const std::vector<OrvCam::Interface *> interfaces = interfacesOf(*system);
+    QCOMPARE(interfaces.size(), std::size_t(3));
+    QCOMPARE(interfaces[0]->GetType(), std::int32_t(OrvCam::InterfaceTypeGigEVision));
+    QCOMPARE(interfaces[1]->GetType(), std::int32_t(OrvCam::InterfaceTypeUsb3Vision));
+    QCOMPARE(interfaces[2]->GetType(), std::int32_t(OrvCam::InterfaceTypeCameraLink));
+    QCOMPARE(devicesOf(*interfaces[0]).size(), std::size_t(2));
+    QCOMPARE(devicesOf(*interfaces[2]).size(), std::size_t(0));
+
+    OrvCam::DeviceInfo *const camera = findDevice(*system, twoFrame);
+    QCOMPARE(camera->GetInterface(), interfaces[0]);
+    QCOMPARE(camera->GetAccessStatus(), std::int32_t(OrvCam::AccessStatusReadWrite));
+    QCOMPARE(camera->GetModel(), "TF-2000C");
+    QCOMPARE(camera->GetDisplayName(), "TF-2000C (SN0001)");
+    OrvCamErr err = OrvCamErr_UnknownError;
+    QCOMPARE(camera->GetIPAddress(&err), "192.168.10.11");
+    QCOMPARE(err, OrvCamErr_Ok);
+    QCOMPARE(camera->GetSubnetMask(nullptr), "255.255.255.0");
+    QCOMPARE(camera->GetGateway(nullptr), "192.168.10.254");
+    QCOMPARE(findDevice(*system, stray)->GetAccessStatus(), std::int32_t(OrvCam::AccessStatusIpSubnetMismatch));
+    QVERIFY(!findDevice(*system, monochrome)->GetIPAddress(&err));
+    QCOMPARE(err, OrvCamErr_InvalidState);
+    OrvGenParam::Array *const controller = interfaces[1]->GetParameters(nullptr);
+    QCOMPARE(controller->GetIntegerValue("DeviceUSBVersionDetected", nullptr), std::int64_t(0x0210));
+}
+
+void TestSystem::referencesAreCounted()
+{
+    OrvCam::System *const first = OrvCam_GetSystem();
+    OrvCam::System *const second = OrvCam_GetSystem();
+    QCOMPARE(first, second);
+    QCOMPARE(OrvSim::liveObjects().systemReferences, std::size_t(2));
+    first->Release();
+    QVERIFY(findDevice(*second, twoFrame));
+    second->Release();
+
+    OrvSim::setSystemAvailable(false);
+    QVERIFY(!OrvCam_GetSystem());
+    QCOMPARE(OrvSim::liveObjects().systemReferences, std::size_t(0));
+}
+
+void TestSystem::listsAreWalkedForward()
+{
+    const Held<OrvCam::System> system = getSystem();
+    OrvCam::InterfaceList *const list = system->GetInterfaceList(OrvCam::AllInterfaceTypes);
+    QCOMPARE(OrvSim::liveObjects().lists, std::size_t(1));
+    QCOMPARE(list->GetSize(), std::size_t(3));
+    OrvCam::Interface *const first = list->GetNext();
+    QVERIFY(list->GetNext());
+    QCOMPARE(list->GetFirst(), first);
+    QVERIFY(list->GetNext());
+    QVERIFY(list->GetNext());
+    QVERIFY(!list->GetNext());
+    QVERIFY(!list->GetNext());
+    list->Release();
+}
+
+void TestSystem::listsThatAreNotThere()
+{
+    const Held<OrvCam::System> system = getSystem();
+    OrvCam::Interface *const adapter = interfacesOf(*system).front();
+    for (const OrvSim::Lists lists : {OrvSim::Lists::Null, OrvSim::Lists::Empty}) {
+        OrvSim::setInterfaceLists(lists);
+        QVERIFY(OrvSim::setDeviceLists("ORV-ETH-0", lists));
+        OrvCam::InterfaceList *const interfaces = system->GetInterfaceList(OrvCam::AllInterfaceTypes);
+        const Held<OrvCam::DeviceInfoList> devices(adapter->GetDeviceInfoList());
+        QCOMPARE(interfaces == nullptr, lists == OrvSim::Lists::Null);
+        QCOMPARE(devices == nullptr, lists == OrvSim::Lists::Null);
+        if (interfaces) {
+            QCOMPARE(interfaces->GetSize(), std::size_t(0));
+            QVERIFY(!interfaces->GetFirst());
+            interfaces->Release();
+        }
+    }
+    OrvSim::setInterfaceLists(OrvSim::Lists::Normal);
+    OrvSim::clear();
+    QVERIFY(!system->GetInterfaceList(OrvCam::AllInterfaceTypes));
+    QVERIFY(!OrvSim::setDeviceLists("ORV-ETH-0", OrvSim::Lists::Empty));
+}
+
+void TestSystem::masksChooseTypes()
+{
+    const Held<OrvCam::System> system = getSystem();
+    const auto count = [&](std::uint32_t mask) {
+        return entriesOf<OrvCam::Interface>(system->GetInterfaceList(mask)).size();
+    };
+    QCOMPARE(count(0), std::size_t(0));
+    QCOMPARE(count(1U << (OrvCam::InterfaceTypeGigEVision - 1)), std::size_t(1));
+    QCOMPARE(count(3), std::size_t(2));
+    OrvSim::InterfaceSpec custom;
+    custom.name = "custom";
+    custom.type = -7;
+    QVERIFY(OrvSim::addInterface(custom));
+    QCOMPARE(count(OrvCam::AllInterfaceTypes), std::size_t(4));
+    QCOMPARE(count(127), std::size_t(3));
+}
+
+void TestSystem::objectsOutliveWhatTheyDescribe()
+{
+    const Held<OrvCam::System> system = getSystem();
+    OrvCam::Interface *const adapter = interfacesOf(*system).front();
+    OrvCam::DeviceInfo *const camera = findDevice(*system, twoFrame);
+    const char *const address = camera->GetIPAddress(nullptr);
+    OrvGenParam::Array *const array = adapter->GetParameters(nullptr);
+    QVERIFY(OrvSim::unplug("ORV-ETH-0"));
+    QVERIFY(!OrvSim::replug(twoFrame)); // there is nothing to plug it into
+
+    QCOMPARE(interfacesOf(*system).size(), std::size_t(2));
+    QCOMPARE(adapter->GetID(), "ORV-ETH-0");
+    QCOMPARE(camera->GetID(), twoFrame);
+    QCOMPARE(address, "192.168.10.11");
+    OrvCamErr err = OrvCamErr_Ok;
+    QVERIFY(!camera->GetIPAddress(&err));
+    QCOMPARE(err, OrvCamErr_NoDevice);
+    QCOMPARE(camera->ForceIP(1, 2, 3), OrvCamErr_NoDevice);
+    QVERIFY(!adapter->GetParameters(&err));
+    QCOMPARE(err, OrvCamErr_NoDevice);
+    QCOMPARE(array->SetIntegerValue("DeviceSelector", 0), OrvCamErr_NoDevice);
+    QVERIFY(!adapter->GetDeviceInfoList());
+    QCOMPARE(adapter->ReEnumerateDevices(nullptr, 200), OrvCamErr_NoDevice);
+    QVERIFY(!OrvCam_CreateDevice(camera, OrvCam::DeviceAccessControl, &err));
+    QCOMPARE(err, OrvCamErr_NoDevice);
+
+    QVERIFY(OrvSim::replug("ORV-ETH-0"));
+    QCOMPARE(interfacesOf(*system).front(), adapter);
+    QCOMPARE(findDevice(*system, twoFrame), camera);
+    OrvSim::reset();
+    QVERIFY(findDevice(*system, twoFrame) != camera);
+    QCOMPARE(camera->GetID(), twoFrame);
+}
+
+void TestSystem::addedAndRemoved()
+{
+    const Held<OrvCam::System> system = getSystem();
+    OrvSim::DeviceSpec spec = OrvSim::monochromeCamera();
+    QVERIFY(!OrvSim::addDevice("ORV-CL-0", spec)); // has no name
+    spec.name = twoFrame;
+    QVERIFY(!OrvSim::addDevice("ORV-CL-0", spec)); // is taken
+    spec.name = "third";
+    spec.id = twoFrame; // the same identifier is a matter of the camera
+    QVERIFY(!OrvSim::addDevice("ORV-CL-9", spec));
+    QVERIFY(OrvSim::addDevice("ORV-ETH-0", spec));
+
+    OrvCam::Interface *const adapter = interfacesOf(*system).front();
+    std::vector<OrvCam::DeviceInfo *> before = devicesOf(*adapter);
+    QCOMPARE(before.size(), std::size_t(3));
+    QVERIFY(OrvSim::swapDevices(stray, "third"));
+    QVERIFY(!OrvSim::swapDevices(stray, monochrome));
+    std::swap(before[1], before[2]);
+    QCOMPARE(devicesOf(*adapter), before);
+    QVERIFY(OrvSim::remove(twoFrame));
+    QVERIFY(!OrvSim::replug(twoFrame));
+    QCOMPARE(findDevice(*system, twoFrame), before[1]);
+    QVERIFY(OrvSim::remove("ORV-ETH-0"));
+    QVERIFY(!OrvSim::remove(stray));
+    QCOMPARE(interfacesOf(*system).size(), std::size_t(2));
+}
+
+void TestSystem::oddTextsAndTypes()
+{
+    const Held<OrvCam::System> system = getSystem();
+    OrvSim::clear();
+    OrvSim::InterfaceSpec host;
+    host.name = "host";
+    host.type = 6;
+    QVERIFY(OrvSim::addInterface(host));
+    OrvSim::DeviceSpec spec;
+    spec.name = "camera";
+    spec.accessStatus = 77;
+    spec.description = OrvSim::monochromeCamera().description;
+    QVERIFY(OrvSim::addDevice("host", spec));
+
+    OrvCam::Interface *const interface = interfacesOf(*system).front();
+    QCOMPARE(interface->GetType(), 6);
+    OrvCam::DeviceInfo *const camera = devicesOf(*interface).front();
+    QCOMPARE(camera->GetAccessStatus(), 77);
+    for (const char *text : {interface->GetID(), interface->GetDescription(), interface->GetVersion(), camera->GetID(),
+                             camera->GetVendor(), camera->GetModel(), camera->GetDisplayName(),
+                             camera->GetUserDefinedName(), camera->GetSerialNumber(), camera->GetVersion()})
+        QVERIFY(!text);
+    QVERIFY(Held<OrvCam::Device>(OrvCam_CreateDevice(camera, OrvCam::DeviceAccessControl, nullptr)));
+}
+
+void TestSystem::enumerationTellsChanges()
+{
+    const Held<OrvCam::System> system = getSystem();
+    OrvCam::Interface *const adapter = interfacesOf(*system).front();
+    const auto changed = [adapter] {
+        bool flag = false;
+        return adapter->ReEnumerateDevices(&flag, 200) == OrvCamErr_Ok && flag;
+    };
+    QVERIFY(changed());
+    QVERIFY(!changed());
+    OrvSim::unplug(stray);
+    QVERIFY(changed());
+    QVERIFY(!changed());
+    OrvSim::replug(stray);
+    OrvSim::swapDevices(stray, twoFrame);
+    QVERIFY(changed());
+}
+
+void TestSystem::stalledEnumerationHoldsNoLock()
+{
+    const Held<OrvCam::System> system = getSystem();
+    OrvCam::Interface *const adapter = interfacesOf(*system).front();
+    OrvSim::stall(OrvSim::Call::ReEnumerateDevices);
+    QVERIFY(!OrvSim::waitUntilStalled(OrvSim::Call::ReEnumerateDevices, 0ms));
+    std::thread poller([adapter] { adapter->ReEnumerateDevices(nullptr, 200); });
+    QVERIFY(OrvSim::waitUntilStalled(OrvSim::Call::ReEnumerateDevices, 10s));
+    QVERIFY(findDevice(*system, twoFrame));
+    QVERIFY(OrvSim::unplug(twoFrame));
+    QVERIFY(!findDevice(*system, twoFrame));
+    QCOMPARE(adapter->GetParameters(nullptr)->SetIntegerValue("DeviceSelector", 0), OrvCamErr_Ok);
+    OrvSim::release(OrvSim::Call::ReEnumerateDevices);
+    poller.join();
+}
+
+void TestSystem::enumerationBesideReading()
+{
+    const Held<OrvCam::System> system = getSystem();
+    std::atomic<bool> stop{false};
+    std::thread poller([&] {
+        while (!stop) {
+            for (OrvCam::Interface *interface : interfacesOf(*system)) {
+                interface->ReEnumerateDevices(nullptr, 200);
+                for (OrvCam::DeviceInfo *device : devicesOf(*interface))
+                    device->GetID();
+            }
+        }
+    });
+    OrvCam::DeviceInfo *const camera = findDevice(*system, twoFrame);
+    OrvGenParam::Array *const array = camera->GetInterface()->GetParameters(nullptr);
+    for (int i = 0; i < 50; ++i) {
+        OrvSim::unplug(stray);
+        array->SetIntegerValue("DeviceSelector", 0);
+        array->GetIntegerValue("GevDeviceMACAddress", nullptr);
+        camera->GetIPAddress(nullptr);
+        camera->ForceIP(0xC0A80A00U + static_cast<std::uint32_t>(i), 0xFFFFFF00, 0);
+        OrvSim::replug(stray);
+    }
+    stop = true;
+    poller.join();
+    QCOMPARE(camera->GetIPAddress(nullptr), "192.168.10.49");
+}
+
+void TestSystem::forcedAddresses_data()
+{
+    QTest::addColumn<uint>("address");
+    QTest::addColumn<uint>("mask");
+    QTest::addColumn<int>("status");
+
+    QTest::newRow("in the subnet") << 0xC0A80A0CU << 0xFFFFFF00U << int(OrvCam::AccessStatusReadWrite);
+    QTest::newRow("other subnet") << 0xC0A80B0CU << 0xFFFFFF00U << int(OrvCam::AccessStatusIpSubnetMismatch);
+    QTest::newRow("other mask") << 0xC0A80A0CU << 0xFFFF0000U << int(OrvCam::AccessStatusIpSubnetMismatch);
+    QTest::newRow("the adapter's") << 0xC0A80A01U << 0xFFFFFF00U << int(OrvCam::AccessStatusIpSubnetMismatch);
+}
+
+void TestSystem::forcedAddresses()
+{
+    QFETCH(const uint, address);
+    QFETCH(const uint, mask);
+    QFETCH(const int, status);
+    const Held<OrvCam::System> system = getSystem();
+    for (const char *id : {stray, twoFrame}) {
+        OrvCam::DeviceInfo *const camera = findDevice(*system, id);
+        const QByteArray before = camera->GetIPAddress(nullptr);
+        const char *const kept = camera->GetIPAddress(nullptr);
+        QCOMPARE(camera->ForceIP(address, mask, 0), OrvCamErr_Ok);
+        QCOMPARE(camera->GetAccessStatus(), status);
+        QCOMPARE(camera->GetGateway(nullptr), "0.0.0.0");
+        QCOMPARE(QByteArray(kept), before);
+        const Held<OrvCam::Device> device = open(id);
+        QCOMPARE(device != nullptr, status == OrvCam::AccessStatusReadWrite);
+        if (device) {
+            OrvGenParam::Array *const array = device->GetCameraParameters(nullptr);
+            QCOMPARE(array->GetIntegerValue("GevCurrentIPAddress", nullptr), std::int64_t(address));
+        }
+    }
+}
+
+void TestSystem::forceIpThatFails()
+{
+    const Held<OrvCam::System> system = getSystem();
+    OrvCam::DeviceInfo *const camera = findDevice(*system, stray);
+    QCOMPARE(findDevice(*system, monochrome)->ForceIP(1, 2, 3), OrvCamErr_InvalidState);
+    QVERIFY(OrvSim::refuseForceIp(stray, OrvCamErr_UnknownError));
+    QCOMPARE(camera->ForceIP(0xC0A80A0C, 0xFFFFFF00, 0), OrvCamErr_UnknownError);
+    QCOMPARE(camera->GetIPAddress(nullptr), "10.0.0.12");
+    QVERIFY(OrvSim::refuseForceIp(stray, OrvCamErr_Ok));
+
+    OrvSim::stall(OrvSim::Call::ForceIp);
+    std::atomic<bool> done{false};
+    std::thread caller([&] { done = camera->ForceIP(0xC0A80A0C, 0xFFFFFF00, 0) == OrvCamErr_Ok; });
+    QVERIFY(OrvSim::waitUntilStalled(OrvSim::Call::ForceIp, 10s));
+    QCOMPARE(camera->GetIPAddress(nullptr), "10.0.0.12");
+    QVERIFY(!done);
+    OrvSim::release(OrvSim::Call::ForceIp);
+    caller.join();
+    QVERIFY(done);
+}
+
+void TestSystem::interfaceParameters()
+{
+    const Held<OrvCam::System> system = getSystem();
+    OrvCam::Interface *const adapter = interfacesOf(*system).front();
+    const auto answer = [adapter](OrvSim::Parameters parameters) {
+        OrvSim::setParameters("ORV-ETH-0", parameters);
+        OrvCamErr err = OrvCamErr_UnknownError;
+        const bool given = adapter->GetParameters(&err) != nullptr;
+        return std::make_pair(given, err);
+    };
+    QCOMPARE(answer(OrvSim::Parameters::Null), std::make_pair(false, OrvCamErr_Ok));
+    QCOMPARE(answer(OrvSim::Parameters::Error), std::make_pair(false, OrvCamErr_GenICamTreeError));
+    QCOMPARE(answer(OrvSim::Parameters::ArrayWithError), std::make_pair(true, OrvCamErr_GenICamTreeError));
+    QCOMPARE(answer(OrvSim::Parameters::Normal), std::make_pair(true, OrvCamErr_Ok));
+
+    OrvGenParam::Array *const array = adapter->GetParameters(nullptr);
+    QVERIFY(OrvSim::setFault("ORV-ETH-0", "DeviceSelector", OrvSim::Fault::FailWrite));
+    QCOMPARE(array->SetIntegerValue("DeviceSelector", 0), OrvCamErr_GenICamGenericError);
+    QVERIFY(OrvSim::clearFaults("ORV-ETH-0"));
+    QVERIFY(OrvSim::setFault("ORV-ETH-0", "GevDeviceMACAddress", OrvSim::Fault::FailRead));
+    OrvCamErr err = OrvCamErr_Ok;
+    QCOMPARE(array->SetIntegerValue("DeviceSelector", 0), OrvCamErr_Ok);
+    QCOMPARE(array->GetIntegerValue("GevDeviceMACAddress", &err), std::int64_t(0));
+    QCOMPARE(err, OrvCamErr_GenICamGenericError);
+}
+
+namespace {
+
+const char smallDescription[] = R"(<RegisterDescription ModelName="Small" VendorName="Somebody" SchemaMajorVersion="1"
+    SchemaMinorVersion="1" SchemaSubMinorVersion="0">
+  <Category Name="Root"><pFeature>Level</pFeature></Category>
+  <IntReg Name="Level"><Address>0x10</Address><Length>4</Length><AccessMode>RW</AccessMode><pPort>Device</pPort>
+    <Sign>Unsigned</Sign><Endianess>BigEndian</Endianess></IntReg>
+  <Port Name="Device"/>
+</RegisterDescription>)";
+
+} // namespace
+
+void TestSystem::anyDescription()
+{
+    QTemporaryFile file;
+    QVERIFY(file.open());
+    file.write(smallDescription);
+    file.close();
+    OrvSim::DeviceSpec spec = OrvSim::cameraFromFile(file.fileName().toStdString());
+    QCOMPARE(spec.vendor.value(), std::string("Somebody"));
+    QCOMPARE(spec.model.value(), std::string("Small"));
+    spec.name = "small";
+    spec.id = "small";
+    spec.powerUp = "# starts with\n\nset Level 12\n";
+    QVERIFY(OrvSim::addDevice("ORV-CL-0", spec));
+    const Held<OrvCam::Device> device = open("small");
+    OrvGenParam::Int *const level = device->GetCameraParameters(nullptr)->GetInt("Level", nullptr);
+    QCOMPARE(level->GetValue(nullptr), std::int64_t(12));
+    QCOMPARE(level->SetValue(13), OrvCamErr_Ok);
+    QCOMPARE(level->GetValue(nullptr), std::int64_t(13));
+    QVERIFY_EXCEPTION_THROWN(OrvSim::cameraFromFile("/nowhere/at/all.xml"), GenICam::RuntimeException);
+}
+
+void TestSystem::unusableCameras_data()
+{
+    QTest::addColumn<QByteArray>("description");
+    QTest::addColumn<QByteArray>("powerUp");
+    QTest::addColumn<QByteArray>("reason");
+
+    QTest::newRow("no description") << QByteArray() << QByteArray() << QByteArray();
+    QTest::newRow("no XML") << QByteArray("<half") << QByteArray() << QByteArray();
+    const QByteArray good(smallDescription);
+    QTest::newRow("verb") << good << QByteArray("\nsot Level 1") << QByteArray("power-up:2: unknown statement");
+    QTest::newRow("register") << good << QByteArray("set Depth 1") << QByteArray("power-up:1: no such register");
+    QTest::newRow("number") << good << QByteArray("drift Level 1 2") << QByteArray("power-up:1: a number is missing");
+    QTest::newRow("ends") << good << QByteArray("drift Level 2 1 1")
+                          << QByteArray("power-up:1: the ends are exchanged");
+    QTest::newRow("value") << good << QByteArray("set Level much") << QByteArray("power-up:1: ");
+}
+
+void TestSystem::unusableCameras()
+{
+    QFETCH(const QByteArray, description);
+    QFETCH(const QByteArray, powerUp);
+    QFETCH(const QByteArray, reason);
+    OrvSim::DeviceSpec spec = OrvSim::cameraFromText(description.toStdString());
+    spec.name = "unusable";
+    spec.powerUp = powerUp.toStdString();
+    std::string error;
+    QVERIFY(!OrvSim::addDevice("ORV-CL-0", spec, &error));
+    QVERIFY2(!error.empty() && error.find(reason.toStdString()) == 0, error.c_str());
+    QVERIFY(!OrvSim::addDevice("ORV-CL-0", spec));
+    QVERIFY(!OrvSim::unplug("unusable"));
+}
+
+ORV_TEST_MAIN(TestSystem)
+#include "tst_system.moc"

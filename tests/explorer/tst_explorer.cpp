@@ -1,0 +1,133 @@
+#include "orvtest.h"
+
+#include <QImage>
+#include <QProcess>
+#include <QSet>
+#include <QTemporaryDir>
+
+namespace {
+
+struct Result
+{
+    int status = -1;
+    QString out;
+    QString err;
+};
+
+/** Runs the explorer to its end, in an environment without a display. */
+Result explore(const QStringList &arguments)
+{
+    const QTemporaryDir runtimeDir; // Qt complains when there is none
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        environment.remove(QLatin1String(variable));
+    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtimeDir.path());
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(EXPLORER), arguments);
+    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+        return {};
+    return {process.exitCode(), QString::fromLocal8Bit(process.readAllStandardOutput()),
+            QString::fromLocal8Bit(process.readAllStandardError())};
+}
+
+QString dataFile(const char *name)
+{
+    return QStringLiteral(TEST_DATA "/") + QLatin1String(name);
+}
+
+} // namespace
+
+class ExplorerTest : public OrvTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void printsWhatIsAskedFor();
+    void rejectsInOneLine_data();
+    void rejectsInOneLine();
+    void drawsItsWindow_data();
+    void drawsItsWindow();
+};
+
+void ExplorerTest::printsWhatIsAskedFor()
+{
+    const Result help = explore({QStringLiteral("--help")});
+    QCOMPARE(help.status, 0);
+    QCOMPARE(help.err, QString());
+    for (const char *option : {"--xml <FILE>", "--camera <ID>", "--screenshot <DIR>", "--help", "--version"})
+        QVERIFY2(help.out.contains(QLatin1String(option)), option);
+
+    const Result version = explore({QStringLiteral("--version")});
+    QCOMPARE(version.status, 0);
+    QCOMPARE(version.out, QStringLiteral("orv-camera-explorer " ORV_VERSION "\n"));
+}
+
+void ExplorerTest::rejectsInOneLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("told");
+    const auto row = [](const char *name, const QStringList &arguments, const QString &told) {
+        QTest::newRow(name) << arguments << told;
+    };
+    const QString missing = dataFile("missing.xml");
+    const QString malformed = dataFile("malformed.xml");
+    const QString directory = dataFile("");
+    const QString target = QDir::tempPath();
+    const QString shot = QStringLiteral("--screenshot");
+    const QString xml = QStringLiteral("--xml");
+
+    row("unknown option", {QStringLiteral("--frobnicate")}, QStringLiteral("frobnicate"));
+    row("option without value", {xml}, QStringLiteral("xml"));
+    row("empty value", {QStringLiteral("--camera=")}, QStringLiteral("--camera"));
+    row("stray argument", {QStringLiteral("camera.xml")}, QStringLiteral("camera.xml"));
+    row("two sources", {xml, malformed, QStringLiteral("--camera"), QStringLiteral("X")}, QStringLiteral("--camera"));
+    row("no display", {}, shot);
+    row("unknown camera", {shot, target, QStringLiteral("--camera"), QStringLiteral("nobody")},
+        QStringLiteral("'nobody'"));
+    row("missing file", {shot, target, xml, missing}, missing);
+    row("directory", {shot, target, xml, directory}, directory);
+    row("malformed file", {shot, target, xml, malformed}, malformed + QStringLiteral(":7"));
+    row("no place to write", {shot, malformed, xml, dataFile("probe.xml")}, malformed);
+}
+
+void ExplorerTest::rejectsInOneLine()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, told);
+    const Result result = explore(arguments);
+    QCOMPARE(result.status, 2);
+    QCOMPARE(result.out, QString());
+    QVERIFY2(result.err.startsWith(QLatin1String("orv-camera-explorer: ")), qPrintable(result.err));
+    QVERIFY2(result.err.contains(told), qPrintable(result.err));
+    QCOMPARE(result.err.count(QLatin1Char('\n')), 1);
+}
+
+void ExplorerTest::drawsItsWindow_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("simulated camera") << QStringList();
+    QTest::newRow("description") << QStringList{QStringLiteral("--xml"), dataFile("probe.xml")};
+}
+
+void ExplorerTest::drawsItsWindow()
+{
+    QFETCH(QStringList, arguments);
+    const QTemporaryDir target;
+    const QString dir = target.filePath(QStringLiteral("made/on/demand"));
+    const Result result = explore(arguments + QStringList{QStringLiteral("--screenshot"), dir});
+    QCOMPARE(result.err, QString());
+    QCOMPARE(result.status, 0);
+
+    const QImage image(dir + QStringLiteral("/explorer.png"));
+    QVERIFY(!image.isNull());
+    QSet<QRgb> colors;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            colors.insert(image.pixel(x, y));
+    }
+    QVERIFY2(colors.size() > 10, "the picture shows no text");
+}
+
+ORV_TEST_MAIN(ExplorerTest)
+#include "tst_explorer.moc"
