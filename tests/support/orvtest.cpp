@@ -11,6 +11,7 @@ namespace {
 const char *const platformNoise[] = {
     "This plugin does not support propagateSizeHints()",
     "This plugin does not support raise()",
+    "This plugin does not support grabbing the keyboard",
 };
 
 struct Watch
