@@ -325,23 +325,27 @@ void TestParameters::noNotificationAfterUnregistering()
         for (std::int64_t value = 0; !stop; value = (value + 1) % 1000)
             level->SetValue(value);
     });
-    bool toldTooLate = false;
-    std::atomic<int> told{0};
-    for (int i = 0; i < 200; ++i) {
+    std::atomic<bool> toldTooLate{false};
+    Sink stays;
+    level->RegisterEvent(&stays);
+    for (int i = 0; i < 50; ++i) {
+        std::atomic<bool> told{false};
         std::atomic<bool> registered{true};
         Sink sink([&](OrvGenParam::Param *) {
-            ++told;
-            if (!registered)
-                toldTooLate = true;
+            told = true;
+            // Long enough for the other thread to come back from unregistering if nothing holds it.
+            for (int turn = 0; turn < 200; ++turn) {
+                std::this_thread::yield();
+                toldTooLate = toldTooLate || !registered;
+            }
         });
         level->RegisterEvent(&sink);
+        while (!told)
+            std::this_thread::yield();
         level->UnregisterEvent(&sink);
         registered = false;
     }
-    Sink patient([&](OrvGenParam::Param *) { ++told; });
-    level->RegisterEvent(&patient);
-    QTRY_VERIFY(told > 0);
-    level->UnregisterEvent(&patient);
+    level->UnregisterEvent(&stays);
     stop = true;
     writer.join();
     QVERIFY(!toldTooLate);

@@ -44,8 +44,8 @@ QByteArray FeatureCamera::allKinds()
 <Float Name="Gain"><Value>1.5</Value><Min>0.25</Min><Max>8.25</Max><Inc>0.25</Inc><Unit>dB</Unit>
   <DisplayPrecision>3</DisplayPrecision></Float>
 <Float Name="Ratio"><Value>0.5</Value><DisplayPrecision>99999999</DisplayPrecision></Float>
-<Float Name="Fraction"><pValue>Eighths</pValue></Float>
-<Converter Name="Eighths"><FormulaTo>FROM * 8</FormulaTo><FormulaFrom>TO / 8</FormulaFrom>
+<Float Name="Fraction"><pValue>Scaled</pValue><Unit>mm</Unit></Float>
+<Converter Name="Scaled"><FormulaTo>FROM / 1.375</FormulaTo><FormulaFrom>TO * 1.375</FormulaFrom>
   <pValue>Binning</pValue><Slope>Increasing</Slope></Converter>
 <Boolean Name="Flag"><pValue>FlagReg</pValue></Boolean>
 <Command Name="Start"><pValue>StartReg</pValue><CommandValue>7</CommandValue></Command>

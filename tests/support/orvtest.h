@@ -37,3 +37,11 @@ int runTests(QObject *test, int argc, char **argv);
         TestClass test;                                                                                                \
         return OrvTest::runTests(&test, argc, argv);                                                                   \
     }
+
+/** The same without an application object, for code that needs no event loop. */
+#define ORV_PLAIN_TEST_MAIN(TestClass)                                                                                 \
+    int main(int argc, char **argv)                                                                                    \
+    {                                                                                                                  \
+        TestClass test;                                                                                                \
+        return OrvTest::runTests(&test, argc, argv);                                                                   \
+    }

@@ -28,6 +28,7 @@ enum class Kind {
     IntConverter,
     Category,
     Port,
+    Node,
     Group
 };
 
@@ -52,6 +53,7 @@ const std::unordered_map<std::string_view, Kind> &kinds()
         {"IntConverter", Kind::IntConverter},
         {"Category", Kind::Category},
         {"Port", Kind::Port},
+        {"Node", Kind::Node},
         {"Group", Kind::Group},
     };
     return table;
@@ -182,6 +184,9 @@ void DescriptionLoader::createNode(const Element &element)
     case Kind::Port:
         create<PortNode>(element, name);
         break;
+    case Kind::Node:
+        create<PlainNode>(element, name);
+        break;
     case Kind::StructReg:
     case Kind::Group:
         break;
@@ -216,8 +221,10 @@ void DescriptionLoader::finish()
     markFeatures();
     for (const std::unique_ptr<Node> &node : m_map.m_nodes) {
         node->m_dependents.shrink_to_fit();
-        if (node->m_pollingTime > 0)
-            m_map.m_polled.push_back(node.get());
+        if (node->m_pollingTime <= 0)
+            continue;
+        const auto blocker = m_pollBlockers.find(node.get());
+        m_map.m_polled.push_back({node.get(), blocker != m_pollBlockers.end() ? blocker->second : nullptr});
     }
     m_map.m_nodes.shrink_to_fit();
 }

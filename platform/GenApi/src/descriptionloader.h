@@ -7,6 +7,8 @@
 
 #include <pugixml.hpp>
 
+#include <deque>
+
 namespace OrvGenApi {
 
 /** Fills a map from a description. Used once; throws GenICam exceptions that name the line. */
@@ -60,6 +62,11 @@ private:
     bool readRegister(Node &node, RegisterData &data, const Element &property);
     void readInteger(IntegerNode &node, const Element &element);
     void readIntegerProperty(IntegerNode &node, const Element &property);
+    void readValidValues(IntegerNode &node, const Element &property);
+    template <typename Number>
+    bool readSource(NumberSource<Number> &source, Node &node, const Element &property);
+    template <typename Number>
+    NumberRef<Number> &itemOf(NumberSource<Number> &source, const Element &property);
     void readFloat(FloatNode &node, const Element &element);
     void readIntRegister(IntRegisterNode &node, const Source &source);
     void readFloatRegister(FloatRegisterNode &node, const Element &element);
@@ -75,22 +82,27 @@ private:
     void readEnumeration(EnumerationNode &node, const Element &element);
     void readEntry(EnumEntryNode &node, const Element &element);
     void readCategory(CategoryNode &node, const Element &element);
+    void readPlain(PlainNode &node, const Element &element);
     void readPort(PortNode &node, const Element &element);
     void readAddressKnife(Node &node, RegisterData &data, const Element &element);
 
     /** The names a formula may use; reads variables, constants and expressions of \a element. */
     FormulaScope scopeOf(Node &node, std::vector<FormulaVariable> &variables, const Element &element);
     void readVariable(Node &node, std::vector<FormulaVariable> &variables, const Element &property);
-    Formula formula(const Element &property, FormulaScope scope, const char *converted, Formula::Kind kind) const;
+    Formula formula(const Element &property, FormulaScope scope, const char *converted, Formula::Kind kind);
 
     // Properties' values
     Node *link(Node &owner, const Element &property, Use use);
+    Node *linkTo(Node &owner, const Element &property, std::string_view name, Use use);
+    Node *linkNumber(Node &owner, const Element &property, Use use);
     template <typename Number>
     void linkNumber(NumberRef<Number> &reference, Node &owner, const Element &property, Use use);
-    int64_t integer(const Element &property) const;
-    double number(const Element &property) const;
-    static bool isYes(const Element &property);
-    static std::string_view textOf(const Element &property);
+    void readNumber(int64_t &value, const Element &property);
+    void readNumber(double &value, const Element &property);
+    int64_t integer(const Element &property);
+    double number(const Element &property);
+    bool isYes(const Element &property);
+    std::string_view textOf(const Element &property);
 
     // When all nodes are read
     void finish();
@@ -109,6 +121,8 @@ private:
     pugi::xml_document m_document;
     std::vector<Source> m_sources;
     std::vector<Edge> m_edges;
+    std::unordered_map<const Node *, Node *> m_pollBlockers;
+    std::deque<std::string> m_joinedTexts; ///< texts that a comment divides in the description
 };
 
 } // namespace OrvGenApi

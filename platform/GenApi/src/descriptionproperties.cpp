@@ -43,10 +43,15 @@ bool is(const pugi::xml_node &property, const char *name)
 
 Node *DescriptionLoader::link(Node &owner, const Element &property, Use use)
 {
-    const std::string name(trimmed(textOf(property)));
-    Node *const node = m_map.find(name);
+    return linkTo(owner, property, textOf(property), use);
+}
+
+Node *DescriptionLoader::linkTo(Node &owner, const Element &property, std::string_view name, Use use)
+{
+    Node *const node = m_map.find(trimmed(name));
     if (!node) {
-        owner.setBroken(m_map.keep(std::string(property.name()) + " refers to '" + name + "', which does not exist"));
+        owner.setBroken(m_map.keep(std::string(property.name()) + " refers to '" + std::string(trimmed(name))
+                                   + "', which does not exist"));
         return nullptr;
     }
     node->addDependent(owner);
@@ -54,38 +59,73 @@ Node *DescriptionLoader::link(Node &owner, const Element &property, Use use)
     return node;
 }
 
+Node *DescriptionLoader::linkNumber(Node &owner, const Element &property, Use use)
+{
+    Node *const node = link(owner, property, use);
+    if (!node || node->isNumber())
+        return node;
+    owner.setBroken(m_map.keep(std::string(property.name()) + " refers to '" + node->name() + "', which is no number"));
+    return nullptr;
+}
+
 template <typename Number>
 void DescriptionLoader::linkNumber(NumberRef<Number> &reference, Node &owner, const Element &property, Use use)
 {
-    if (Node *const node = link(owner, property, use))
+    if (Node *const node = linkNumber(owner, property, use))
         reference.setNode(node);
 }
 
 std::string_view DescriptionLoader::textOf(const Element &property)
 {
-    return property.child_value();
+    const char *first = nullptr;
+    std::string *joined = nullptr;
+    for (const Element &part : property.children()) {
+        if (part.type() != pugi::node_pcdata && part.type() != pugi::node_cdata)
+            continue;
+        if (first && !joined)
+            joined = &m_joinedTexts.emplace_back(first);
+        if (joined)
+            *joined += part.value();
+        else
+            first = part.value();
+    }
+    return joined ? std::string_view(*joined) : first ? std::string_view(first) : std::string_view();
+}
+
+void DescriptionLoader::readNumber(int64_t &value, const Element &property)
+{
+    const std::optional<int64_t> number = parseInteger(textOf(property));
+    if (!number)
+        fail(property, std::string(property.name()) + ": '" + std::string(textOf(property)) + "' is no integer");
+    value = *number;
+}
+
+void DescriptionLoader::readNumber(double &value, const Element &property)
+{
+    const std::optional<double> number = parseFloat(textOf(property));
+    if (!number)
+        fail(property, std::string(property.name()) + ": '" + std::string(textOf(property)) + "' is no number");
+    value = *number;
+}
+
+int64_t DescriptionLoader::integer(const Element &property)
+{
+    int64_t value = 0;
+    readNumber(value, property);
+    return value;
+}
+
+double DescriptionLoader::number(const Element &property)
+{
+    double value = 0;
+    readNumber(value, property);
+    return value;
 }
 
 bool DescriptionLoader::isYes(const Element &property)
 {
     const std::string_view text = trimmed(textOf(property));
     return text == "Yes" || text == "true" || text == "1";
-}
-
-int64_t DescriptionLoader::integer(const Element &property) const
-{
-    const std::optional<int64_t> value = parseInteger(textOf(property));
-    if (!value)
-        fail(property, std::string(property.name()) + ": '" + std::string(textOf(property)) + "' is no integer");
-    return *value;
-}
-
-double DescriptionLoader::number(const Element &property) const
-{
-    const std::optional<double> value = parseFloat(textOf(property));
-    if (!value)
-        fail(property, std::string(property.name()) + ": '" + std::string(textOf(property)) + "' is no number");
-    return *value;
 }
 
 void DescriptionLoader::read(const Source &source)
@@ -126,6 +166,8 @@ void DescriptionLoader::read(const Source &source)
         readConverter(*intConverter, element);
     else if (const auto port = dynamic_cast<PortNode *>(node))
         readPort(*port, element);
+    else if (const auto plain = dynamic_cast<PlainNode *>(node))
+        readPlain(*plain, element);
 }
 
 bool DescriptionLoader::readCommon(Node &node, const Element &property)
@@ -147,15 +189,20 @@ bool DescriptionLoader::readCommon(Node &node, const Element &property)
     else if (is(property, "PollingTime"))
         node.m_pollingTime = integer(property);
     else if (is(property, "pIsImplemented"))
-        node.m_isImplemented = link(node, property, Use::Condition);
+        node.m_isImplemented = linkNumber(node, property, Use::Condition);
     else if (is(property, "pIsAvailable"))
-        node.m_isAvailable = link(node, property, Use::Condition);
+        node.m_isAvailable = linkNumber(node, property, Use::Condition);
     else if (is(property, "pIsLocked"))
-        node.m_isLocked = link(node, property, Use::Condition);
-    else if (is(property, "pInvalidator"))
+        node.m_isLocked = linkNumber(node, property, Use::Condition);
+    else if (is(property, "pBlockPolling")) {
+        // No dependency: whether a value is polled says nothing about the value.
+        Node *const blocker = m_map.find(trimmed(text));
+        if (blocker && blocker->isNumber())
+            m_pollBlockers[&node] = blocker;
+    } else if (is(property, "pInvalidator"))
         link(node, property, Use::Notice);
     else if (is(property, "pSelected")) {
-        if (Node *const selected = m_map.find(std::string(trimmed(text))))
+        if (Node *const selected = m_map.find(trimmed(text)))
             node.addSelected(*selected);
     } else
         return false;
@@ -196,14 +243,11 @@ bool DescriptionLoader::readRegister(Node &node, RegisterData &data, const Eleme
                 fail(property, std::string("Offset: '") + offset.value() + "' is no integer");
             term.offset.setConstant(*value);
         } else if (const pugi::xml_attribute offsetNode = property.attribute("pOffset")) {
-            if (Node *const target = m_map.find(offsetNode.value())) {
-                target->addDependent(node);
-                m_edges.push_back({node.m_index, target->m_index, Use::Condition});
+            Node *const target = linkTo(node, property, offsetNode.value(), Use::Condition);
+            if (target && target->isNumber())
                 term.offset.setNode(target);
-            } else {
-                node.setBroken(
-                    m_map.keep(std::string("pOffset refers to '") + offsetNode.value() + "', which does not exist"));
-            }
+            else if (target)
+                node.setBroken("its pOffset is no number");
         }
     } else if (is(property, "Length")) {
         data.m_length.setConstant(integer(property));
@@ -237,47 +281,61 @@ void DescriptionLoader::readAddressKnife(Node &node, RegisterData &data, const E
     data.m_addressTerms.emplace_back().value.setNode(&knife);
 }
 
+template <typename Number>
+NumberRef<Number> &DescriptionLoader::itemOf(NumberSource<Number> &source, const Element &property)
+{
+    const char *const text = property.attribute("Index").value();
+    const std::optional<int64_t> index = parseInteger(std::string_view(text));
+    if (!index)
+        fail(property, std::string("Index: '") + text + "' is no integer");
+    return source.indexed().items.emplace_back(typename NumberSource<Number>::Item{*index, {}}).value;
+}
+
+/** False when \a property has nothing to do with where the number has its value. */
+template <typename Number>
+bool DescriptionLoader::readSource(NumberSource<Number> &source, Node &node, const Element &property)
+{
+    const auto setConstant = [&](NumberRef<Number> &reference) {
+        Number value = 0;
+        readNumber(value, property);
+        reference.setConstant(value);
+    };
+    if (is(property, "Value"))
+        setConstant(source.m_value);
+    else if (is(property, "pValue"))
+        linkNumber(source.m_value, node, property, Use::Value);
+    else if (is(property, "pValueCopy")) {
+        if (Node *const copy = linkNumber(node, property, Use::Condition))
+            source.m_copies.push_back(copy);
+    } else if (is(property, "pIndex"))
+        source.indexed().index = linkNumber(node, property, Use::Value);
+    else if (is(property, "ValueIndexed"))
+        setConstant(itemOf(source, property));
+    else if (is(property, "pValueIndexed"))
+        linkNumber(itemOf(source, property), node, property, Use::Value);
+    else if (is(property, "ValueDefault"))
+        setConstant(source.indexed().fallback);
+    else if (is(property, "pValueDefault"))
+        linkNumber(source.indexed().fallback, node, property, Use::Value);
+    else
+        return false;
+    return true;
+}
+
 void DescriptionLoader::readInteger(IntegerNode &node, const Element &element)
 {
     for (const Element &property : element.children()) {
-        if (!readCommon(node, property) && !readPresentation(node.m_presentation, property))
+        if (!readCommon(node, property) && !readPresentation(node.m_presentation, property)
+            && !readSource(node.m_source, node, property))
             readIntegerProperty(node, property);
     }
-    if (node.m_indexed ? !node.m_indexed->index : !node.m_value.isSet())
-        node.setBroken(node.isBroken() ? node.m_broken : "it has no value");
+    if (!node.m_source.isComplete() && !node.isBroken())
+        node.setBroken("it has no value");
 }
 
 void DescriptionLoader::readIntegerProperty(IntegerNode &node, const Element &property)
 {
-    const auto indexed = [&node]() -> IndexedValues & {
-        if (!node.m_indexed)
-            node.m_indexed = std::make_unique<IndexedValues>();
-        return *node.m_indexed;
-    };
-    const auto item = [&](const Element &of) -> IntRef & {
-        const std::optional<int64_t> index = parseInteger(std::string_view(of.attribute("Index").value()));
-        if (!index)
-            fail(of, std::string("Index: '") + of.attribute("Index").value() + "' is no integer");
-        return indexed().items.emplace_back(IndexedValues::Item{*index, {}}).value;
-    };
-    if (is(property, "Value"))
-        node.m_value.setConstant(integer(property));
-    else if (is(property, "pValue"))
-        linkNumber(node.m_value, node, property, Use::Value);
-    else if (is(property, "pValueCopy")) {
-        if (Node *const copy = link(node, property, Use::Condition))
-            node.m_copies.push_back(copy);
-    } else if (is(property, "pIndex"))
-        indexed().index = link(node, property, Use::Value);
-    else if (is(property, "ValueIndexed"))
-        item(property).setConstant(integer(property));
-    else if (is(property, "pValueIndexed"))
-        linkNumber(item(property), node, property, Use::Value);
-    else if (is(property, "ValueDefault"))
-        indexed().fallback.setConstant(integer(property));
-    else if (is(property, "pValueDefault"))
-        linkNumber(indexed().fallback, node, property, Use::Value);
-    else if (is(property, "Min"))
+    if (is(property, "Min"))
         node.m_minimum.setConstant(integer(property));
     else if (is(property, "pMin"))
         linkNumber(node.m_minimum, node, property, Use::Condition);
@@ -289,38 +347,36 @@ void DescriptionLoader::readIntegerProperty(IntegerNode &node, const Element &pr
         node.m_increment.setConstant(integer(property));
     else if (is(property, "pInc"))
         linkNumber(node.m_increment, node, property, Use::Condition);
-    else if (is(property, "ValidValueSet")) {
-        node.m_validValues = std::make_unique<std::vector<int64_t>>();
-        std::string_view rest = textOf(property);
-        while (!rest.empty()) {
-            const std::size_t end = std::min(rest.find(';'), rest.size());
-            const std::string_view word = trimmed(rest.substr(0, end));
-            rest.remove_prefix(std::min(end + 1, rest.size()));
-            if (word.empty())
-                continue;
-            const std::optional<int64_t> value = parseInteger(word);
-            if (!value)
-                fail(property, "ValidValueSet: '" + std::string(word) + "' is no integer");
-            node.m_validValues->push_back(*value);
-        }
-        std::sort(node.m_validValues->begin(), node.m_validValues->end());
+    else if (is(property, "ValidValueSet"))
+        readValidValues(node, property);
+}
+
+void DescriptionLoader::readValidValues(IntegerNode &node, const Element &property)
+{
+    node.m_validValues = std::make_unique<std::vector<int64_t>>();
+    std::string_view rest = textOf(property);
+    while (!rest.empty()) {
+        const std::size_t end = std::min(rest.find(';'), rest.size());
+        const std::string_view word = trimmed(rest.substr(0, end));
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+        if (word.empty())
+            continue;
+        const std::optional<int64_t> value = parseInteger(word);
+        if (!value)
+            fail(property, "ValidValueSet: '" + std::string(word) + "' is no integer");
+        node.m_validValues->push_back(*value);
     }
+    std::sort(node.m_validValues->begin(), node.m_validValues->end());
 }
 
 void DescriptionLoader::readFloat(FloatNode &node, const Element &element)
 {
     node.setCachingMode(WriteAround);
     for (const Element &property : element.children()) {
-        if (readCommon(node, property) || readPresentation(node.m_presentation, property))
+        if (readCommon(node, property) || readPresentation(node.m_presentation, property)
+            || readSource(node.m_source, node, property))
             continue;
-        if (is(property, "Value"))
-            node.m_value.setConstant(number(property));
-        else if (is(property, "pValue"))
-            linkNumber(node.m_value, node, property, Use::Value);
-        else if (is(property, "pValueCopy")) {
-            if (Node *const copy = link(node, property, Use::Condition))
-                node.m_copies.push_back(copy);
-        } else if (is(property, "Min"))
+        if (is(property, "Min"))
             node.m_minimum.setConstant(number(property));
         else if (is(property, "pMin"))
             linkNumber(node.m_minimum, node, property, Use::Condition);
@@ -333,7 +389,7 @@ void DescriptionLoader::readFloat(FloatNode &node, const Element &element)
         else if (is(property, "pInc"))
             linkNumber(node.m_increment, node, property, Use::Condition);
     }
-    if (!node.m_value.isSet() && !node.isBroken())
+    if (!node.m_source.isComplete() && !node.isBroken())
         node.setBroken("it has no value");
 }
 
@@ -423,11 +479,11 @@ void DescriptionLoader::readVariable(Node &node, std::vector<FormulaVariable> &v
         if (variable.property == Property::Entry)
             variable.entry = m_map.keep(suffix.substr(std::min(end + 1, suffix.size())));
     }
-    variable.node = link(node, property, Use::Value);
+    variable.node = linkNumber(node, property, Use::Value);
 }
 
 Formula DescriptionLoader::formula(const Element &property, FormulaScope scope, const char *converted,
-                                   Formula::Kind kind) const
+                                   Formula::Kind kind)
 {
     if (converted)
         scope.variables.push_back(converted);
@@ -467,7 +523,7 @@ void DescriptionLoader::readConverter(ConverterNode<Base> &node, const Element &
         if (readCommon(node, property) || readPresentation(node.m_presentation, property))
             continue;
         if (is(property, "pValue"))
-            node.m_node = link(node, property, Use::Value);
+            node.m_node = linkNumber(node, property, Use::Value);
         else if (is(property, "Slope"))
             node.m_slope = lookUp(slopes, textOf(property)).value_or(Slope::Automatic);
     }
@@ -489,8 +545,13 @@ void DescriptionLoader::readString(StringNode &node, const Element &element)
             continue;
         if (is(property, "Value"))
             node.m_text = textOf(property);
-        else if (is(property, "pValue"))
+        else if (is(property, "pValue")) {
             node.m_node = link(node, property, Use::Value);
+            if (node.m_node && (!node.m_node->asValue() || node.m_node->interfaceType() == intfICategory)) {
+                node.m_node = nullptr;
+                node.setBroken("its pValue has no text");
+            }
+        }
     }
 }
 
@@ -579,13 +640,19 @@ void DescriptionLoader::readCategory(CategoryNode &node, const Element &element)
         if (readCommon(node, property) || !is(property, "pFeature"))
             continue;
         // A feature that does not exist, or a port, is left out; the others stay.
-        Node *const feature = m_map.find(std::string(trimmed(textOf(property))));
+        Node *const feature = m_map.find(trimmed(textOf(property)));
         if (!feature || !feature->asValue())
             continue;
         feature->addDependent(node);
         node.m_features.push_back(feature);
     }
     node.m_features.shrink_to_fit();
+}
+
+void DescriptionLoader::readPlain(PlainNode &node, const Element &element)
+{
+    for (const Element &property : element.children())
+        readCommon(node, property);
 }
 
 void DescriptionLoader::readPort(PortNode &node, const Element &element)

@@ -8,6 +8,7 @@ using namespace GenApi;
 
 int64_t FormulaVariable::intValue(bool ignoreCache) const
 {
+    node->requireUsable();
     switch (property) {
     case Property::Value:
         node->requireReadable();
@@ -26,6 +27,7 @@ int64_t FormulaVariable::intValue(bool ignoreCache) const
 
 double FormulaVariable::floatValue(bool ignoreCache) const
 {
+    node->requireUsable();
     switch (property) {
     case Property::Value:
         node->requireReadable();
@@ -75,8 +77,9 @@ EAccessMode FormulaNode<Base>::variablesAccess() const
 }
 
 template <typename Base>
-typename Base::Number FormulaNode<Base>::run(const Formula &formula, Number converted, bool ignoreCache) const
+auto FormulaNode<Base>::run(const Formula &formula, Number converted, bool ignoreCache) const -> Number
 {
+    this->requireUsable();
     VariableSource source(m_variables, ignoreCache);
     source.setConverted(converted);
     try {
@@ -88,7 +91,7 @@ typename Base::Number FormulaNode<Base>::run(const Formula &formula, Number conv
 
 template <typename Base>
 template <typename Compute>
-typename Base::Number FormulaNode<Base>::keptOr(bool ignoreCache, const Compute &compute)
+auto FormulaNode<Base>::keptOr(bool ignoreCache, const Compute &compute) -> Number
 {
     if ((m_kept && !ignoreCache) || m_computedIn == this->map().evaluation())
         return m_value;
@@ -101,7 +104,7 @@ typename Base::Number FormulaNode<Base>::keptOr(bool ignoreCache, const Compute 
 }
 
 template <typename Base>
-typename Base::Number SwissKnifeNode<Base>::value(bool ignoreCache)
+auto SwissKnifeNode<Base>::value(bool ignoreCache) -> Number
 {
     return this->keptOr(ignoreCache, [&] { return this->run(m_formula, 0, ignoreCache); });
 }
@@ -121,13 +124,14 @@ EAccessMode ConverterNode<Base>::valueAccess() const
 template <typename Base>
 EIncMode ConverterNode<Base>::incrementMode()
 {
-    return m_node->incrementMode() == listIncrement ? listIncrement : Base::ownIncrementMode();
+    return m_node && m_node->incrementMode() == listIncrement ? listIncrement : Base::ownIncrementMode();
 }
 
 template <typename Base>
-typename Base::Number ConverterNode<Base>::value(bool ignoreCache)
+auto ConverterNode<Base>::value(bool ignoreCache) -> Number
 {
     return this->keptOr(ignoreCache, [&] {
+        this->requireUsable();
         m_node->requireReadable();
         return this->run(m_formulaFrom, Base::valueOf(*m_node, ignoreCache), ignoreCache);
     });
@@ -138,14 +142,26 @@ void ConverterNode<Base>::setValue(Number value, bool verify, Changes &changes)
 {
     if (verify)
         this->checkRange(value);
-    writeLinked(*m_node, this->run(m_formulaTo, value, false), verify, changes);
+    const Number converted = this->run(m_formulaTo, value, false);
+    writeLinked(*m_node, converted, verify, changes);
 }
 
 template <typename Base>
-std::pair<typename Base::Number, typename Base::Number> ConverterNode<Base>::range()
+auto ConverterNode<Base>::range() -> std::pair<Number, Number>
 {
     if (m_slope == Slope::Varying)
         return Base::fullRange();
+    if (m_rangeIn != this->map().evaluation()) {
+        m_range = computeRange();
+        m_rangeIn = this->map().evaluation();
+    }
+    return m_range;
+}
+
+template <typename Base>
+auto ConverterNode<Base>::computeRange() -> std::pair<Number, Number>
+{
+    this->requireUsable();
     const auto [low, high] = Base::rangeOf(*m_node);
     const Number first = this->run(m_formulaFrom, low, false);
     const Number second = this->run(m_formulaFrom, high, false);
@@ -154,8 +170,9 @@ std::pair<typename Base::Number, typename Base::Number> ConverterNode<Base>::ran
 }
 
 template <typename Base>
-std::vector<typename Base::Number> ConverterNode<Base>::validValues()
+auto ConverterNode<Base>::validValues() -> std::vector<Number>
 {
+    this->requireUsable();
     std::vector<Number> values = Base::validValuesOf(*m_node);
     for (Number &value : values)
         value = this->run(m_formulaFrom, value, false);

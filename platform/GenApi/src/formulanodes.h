@@ -176,6 +176,7 @@ protected:
     Number value(bool ignoreCache) override;
     void setValue(Number value, bool verify, Changes &changes) override;
     std::pair<Number, Number> range() override;
+    std::pair<Number, Number> computeRange();
     std::vector<Number> validValues() override;
 
 private:
@@ -187,6 +188,8 @@ private:
     Formula m_formulaTo; ///< from this node's value to the other one's
     Formula m_formulaFrom; ///< from the other node's value to this one's
     Slope m_slope = Slope::Automatic;
+    std::pair<Number, Number> m_range{};
+    uint64_t m_rangeIn = 0; ///< the evaluation that computed m_range
 };
 
 extern template class SwissKnifeNode<IntegerFormulaBase>;

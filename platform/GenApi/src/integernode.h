@@ -4,31 +4,67 @@
 
 namespace OrvGenApi {
 
-/** Values picked by an index: constants or other nodes, and one for all other indices. */
-struct IndexedValues
+/** Where a number has its value: in the node itself, in another node, or in one of several picked by an index. */
+template <typename Number>
+class NumberSource
 {
+public:
+    using Ref = NumberRef<Number>;
+
+    bool isComplete() const { return m_indexed ? m_indexed->index != nullptr : m_value.isSet(); }
+
+    /** The node that always has the value; null where there is none. */
+    Node *node() const { return m_indexed ? nullptr : m_value.node(); }
+
+    /** The node that has the value now; null where it is a constant. Throws when the index picks nothing. */
+    Node *currentNode(const Node &owner) { return current(owner).node(); }
+
+    GenApi::EAccessMode access() const;
+    bool isCacheValid() const;
+    Number value(const Node &owner, bool ignoreCache) { return current(owner).value(ignoreCache); }
+    void write(Node &owner, Number value, bool verify, Changes &changes);
+
+private:
+    friend class DescriptionLoader;
+
     struct Item
     {
         int64_t index;
-        IntRef value;
+        Ref value;
     };
 
-    Node *index = nullptr;
-    std::vector<Item> items;
-    IntRef fallback;
+    struct Indexed
+    {
+        Node *index = nullptr;
+        std::vector<Item> items;
+        Ref fallback;
+        Ref *picked = nullptr; ///< what the last evaluation found
+        uint64_t pickedIn = 0; ///< that evaluation
+        uint64_t askedIn = 0; ///< the evaluation that found out isValid
+        bool isValid = false;
+    };
 
-    /** The value for the current index. */
-    IntRef &current(const Node &owner);
+    Indexed &indexed();
+    Ref &current(const Node &owner);
+    Ref *picked() const;
+    bool isIndexedCacheValid() const;
+
+    Ref m_value;
+    std::unique_ptr<Indexed> m_indexed;
+    std::vector<Node *> m_copies; ///< written with the value
 };
 
-/** An integer whose value stands in the node itself, in another node, or in one of several picked by an index. */
+extern template class NumberSource<int64_t>;
+extern template class NumberSource<double>;
+
+/** An integer with a value of its own or elsewhere. */
 class IntegerNode final : public IntegerBase
 {
 public:
     using IntegerBase::IntegerBase;
 
-    bool isCacheValid() const override;
-    int64_t intValue(bool ignoreCache) override;
+    bool isCacheValid() const override { return m_source.isCacheValid(); }
+    int64_t intValue(bool ignoreCache) override { return m_source.value(*this, ignoreCache); }
     void setIntValue(int64_t value, bool verify, Changes &changes) override;
     int64_t intMin() override;
     int64_t intMax() override;
@@ -36,21 +72,16 @@ public:
     int64_t intIncrement() override;
     GenApi::EIncMode incrementMode() override;
     std::vector<int64_t> validInts(bool bounded) override;
-    GenApi::ERepresentation representation() const override { return m_presentation.representationOf(m_value.node()); }
-    const char *unit() const override { return m_presentation.unitOf(m_value.node()); }
+    GenApi::ERepresentation representation() const override { return m_presentation.representationOf(m_source.node()); }
+    const char *unit() const override { return m_presentation.unitOf(m_source.node()); }
 
 protected:
-    GenApi::EAccessMode valueAccess() const override;
+    GenApi::EAccessMode valueAccess() const override { return m_source.access(); }
 
 private:
     friend class DescriptionLoader;
 
-    IntRef &current();
-    Node *currentNode();
-
-    IntRef m_value;
-    std::vector<Node *> m_copies; ///< written with the value
-    std::unique_ptr<IndexedValues> m_indexed;
+    NumberSource<int64_t> m_source;
     IntRef m_minimum;
     IntRef m_maximum;
     IntRef m_increment;
@@ -58,14 +89,14 @@ private:
     Presentation m_presentation;
 };
 
-/** A floating-point number whose value stands in the node itself or in another node. */
+/** A floating-point number with a value of its own or elsewhere. */
 class FloatNode final : public FloatBase
 {
 public:
     using FloatBase::FloatBase;
 
-    bool isCacheValid() const override { return !m_value.node() || m_value.node()->isCacheValid(); }
-    double floatValue(bool ignoreCache) override { return m_value.value(ignoreCache); }
+    bool isCacheValid() const override { return m_source.isCacheValid(); }
+    double floatValue(bool ignoreCache) override { return m_source.value(*this, ignoreCache); }
     void setFloatValue(double value, bool verify, Changes &changes) override;
     double floatMin() override;
     double floatMax() override;
@@ -73,19 +104,18 @@ public:
     double floatIncrement() override;
     GenApi::EIncMode incrementMode() override;
     std::vector<double> validFloats(bool bounded) override;
-    GenApi::ERepresentation representation() const override { return m_presentation.representationOf(m_value.node()); }
-    const char *unit() const override { return m_presentation.unitOf(m_value.node()); }
-    GenApi::EDisplayNotation displayNotation() const override { return m_presentation.notationOf(m_value.node()); }
-    int64_t displayPrecision() const override { return m_presentation.precisionOf(m_value.node()); }
+    GenApi::ERepresentation representation() const override { return m_presentation.representationOf(m_source.node()); }
+    const char *unit() const override { return m_presentation.unitOf(m_source.node()); }
+    GenApi::EDisplayNotation displayNotation() const override { return m_presentation.notationOf(m_source.node()); }
+    int64_t displayPrecision() const override { return m_presentation.precisionOf(m_source.node()); }
 
 protected:
-    GenApi::EAccessMode valueAccess() const override;
+    GenApi::EAccessMode valueAccess() const override { return m_source.access(); }
 
 private:
     friend class DescriptionLoader;
 
-    FloatRef m_value;
-    std::vector<Node *> m_copies; ///< written with the value
+    NumberSource<double> m_source;
     FloatRef m_minimum;
     FloatRef m_maximum;
     FloatRef m_increment;

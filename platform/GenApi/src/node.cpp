@@ -35,6 +35,12 @@ Changes::Changes(NodeMapImpl &map)
 
 void Changes::add(Node &node)
 {
+    addRead(node);
+    m_map.startEvaluation();
+}
+
+void Changes::addRead(Node &node)
+{
     // A fresh walk each time: an earlier part of the same write may have read, and so kept, what changes now.
     const uint64_t mark = ++m_map.m_walk;
     std::vector<Node *> open{&node};
@@ -55,7 +61,13 @@ void Changes::add(Node &node)
             }
         }
     }
-    m_map.startEvaluation();
+}
+
+void Changes::countWrite(const Node &node)
+{
+    constexpr unsigned most = 1000; // copies that are copied in turn multiply
+    if (++m_writes > most)
+        ORV_THROW(RuntimeException, std::string("node '") + node.name() + "': one write leads to too many others");
 }
 
 Node::Node(NodeMapImpl &map, const char *name)
@@ -208,7 +220,7 @@ void Node::GetSelectingFeatures(FeatureList_t &Features) const
 EAccessMode Node::accessMode() const
 {
     const EAccessMode mode = unlockedAccessMode();
-    if (mode != NI && mode != NA && m_isLocked && condition(m_isLocked))
+    if (mode != NI && mode != NA && m_isLocked && isFulfilled(*m_isLocked))
         return combined(mode, RO);
     return mode;
 }
@@ -224,18 +236,22 @@ EAccessMode Node::unlockedAccessMode() const
 
 EAccessMode Node::computeAccessMode() const
 {
-    if (m_broken || (m_isImplemented && !condition(m_isImplemented)))
+    if (!isImplementedItself())
         return NI;
     const EAccessMode value = combined(m_imposedAccess, valueAccess());
-    if (value != NI && m_isAvailable && !condition(m_isAvailable))
+    if (value != NI && m_isAvailable && !isFulfilled(*m_isAvailable))
         return NA;
     return value;
 }
 
-bool Node::condition(Node *node) const
+bool Node::isImplementedItself() const
 {
-    // A condition that cannot be read now is not fulfilled.
-    return isReadable(node->unlockedAccessMode()) && node->intValue(false) != 0;
+    return !m_broken && m_imposedAccess != NI && (!m_isImplemented || isFulfilled(*m_isImplemented));
+}
+
+bool Node::isFulfilled(Node &node)
+{
+    return isReadable(node.unlockedAccessMode()) && node.intValue(false) != 0;
 }
 
 void Node::requireReadable() const
@@ -245,9 +261,11 @@ void Node::requireReadable() const
         throwNoAccess("readable");
 }
 
-void Node::requireWritable() const
+void Node::requireWritable(bool verify) const
 {
-    if (!isWritable(accessMode()))
+    if (!verify)
+        requireUsable();
+    else if (!isWritable(accessMode()))
         throwNoAccess("writable");
 }
 
@@ -256,6 +274,12 @@ void Node::requireAvailable() const
     const EAccessMode mode = unlockedAccessMode();
     if (mode == NI || mode == NA)
         throwNoAccess(mode == NI ? "implemented" : "available");
+}
+
+void Node::requireUsable() const
+{
+    if (m_broken)
+        throwNoAccess("implemented");
 }
 
 void Node::throwNoAccess(const char *what) const
@@ -295,6 +319,14 @@ int64_t Node::intMax()
     return isFloat() ? roundedToInteger(floatMax()) : int64Max;
 }
 
+std::pair<int64_t, int64_t> Node::intRange()
+{
+    if (!isFloat())
+        return {intMin(), intMax()};
+    const auto [minimum, maximum] = floatRange();
+    return {roundedToInteger(minimum), roundedToInteger(maximum)};
+}
+
 double Node::floatValue(bool ignoreCache)
 {
     return static_cast<double>(intValue(ignoreCache));
@@ -328,9 +360,14 @@ double Node::floatIncrement()
     return static_cast<double>(intIncrement());
 }
 
-std::vector<int64_t> Node::validInts(bool)
+std::vector<int64_t> Node::validInts(bool bounded)
 {
-    return {};
+    std::vector<int64_t> values;
+    if (isFloat()) {
+        for (const double value : validFloats(bounded))
+            values.push_back(roundedToInteger(value));
+    }
+    return values;
 }
 
 std::vector<double> Node::validFloats(bool bounded)
@@ -401,10 +438,7 @@ bool Node::advancePollClock(int64_t milliseconds)
         return false;
     if (__builtin_add_overflow(m_pollClock, milliseconds, &m_pollClock))
         m_pollClock = int64Max;
-    if (m_pollClock < m_pollingTime)
-        return false;
-    m_pollClock = 0;
-    return true;
+    return m_pollClock >= m_pollingTime;
 }
 
 } // namespace OrvGenApi

@@ -40,14 +40,21 @@ class Changes
 public:
     explicit Changes(NodeMapImpl &map);
 
-    /** \a node has a new value: drops what is kept of it and of all that depends on it. */
+    /** \a node has a new value: drops what is kept of all that depends on it. */
     void add(Node &node);
+
+    /** The same where nothing is written, but a read has met a new value: what this evaluation knows stays. */
+    void addRead(Node &node);
+
+    /** Counts a write to \a node; throws when one write by a user leads to more than any device can mean. */
+    void countWrite(const Node &node);
 
     const std::vector<Node *> &nodes() const { return m_nodes; }
 
 private:
     NodeMapImpl &m_map;
     const uint64_t m_list; ///< marks the nodes that are in m_nodes
+    unsigned m_writes = 0;
     std::vector<Node *> m_nodes;
 };
 
@@ -105,10 +112,19 @@ public:
     /** The same without the lock, which only keeps from writing. */
     GenApi::EAccessMode unlockedAccessMode() const;
 
-    /** Throw an access exception when that is not possible now. */
+    /** Whether the conditions of the node itself allow that it is implemented, whatever its value says. */
+    bool isImplementedItself() const;
+
+    /** Throw an access exception when that is not possible now; without \a verify only where it never is. */
     void requireReadable() const;
-    void requireWritable() const;
+    void requireWritable(bool verify = true) const;
     void requireAvailable() const;
+
+    /** Throws an access exception when the node lacks what its description refers to, and cannot even be computed. */
+    void requireUsable() const;
+
+    /** Whether \a node can be read now and is not 0. What cannot be read is not fulfilled. */
+    static bool isFulfilled(Node &node);
 
     virtual GenApi::EVisibility visibility() const { return m_visibility; }
     GenApi::ECachingMode cachingMode() const { return m_cachingMode; }
@@ -122,12 +138,13 @@ public:
     // access of what lies below, not of the node itself. With verify a write checks the ranges on its way. Both ends of
     // a range are asked for at once where a node needs both: asking twice on every level would double the work each
     // time.
+    virtual bool isNumber() const { return false; }
     virtual bool isFloat() const { return false; }
     virtual int64_t intValue(bool ignoreCache);
     virtual void setIntValue(int64_t value, bool verify, Changes &changes);
     virtual int64_t intMin();
     virtual int64_t intMax();
-    virtual std::pair<int64_t, int64_t> intRange() { return {intMin(), intMax()}; }
+    virtual std::pair<int64_t, int64_t> intRange();
     virtual int64_t intIncrement() { return 1; }
     virtual double floatValue(bool ignoreCache);
     virtual void setFloatValue(double value, bool verify, Changes &changes);
@@ -163,8 +180,9 @@ public:
 
     const GenApi::CallbackList &callbacks() const { return m_callbacks; }
 
-    /** Adds to the poll clock; true when it has come to the polling time, and then starts again. */
+    /** Adds to the poll clock; true when it has come to the polling time. */
     bool advancePollClock(int64_t milliseconds);
+    void restartPollClock() { m_pollClock = 0; }
 
 protected:
     /** What this node's value allows, without the node's own conditions. */
@@ -189,7 +207,6 @@ private:
 
     GenApi::EAccessMode computeAccessMode() const;
     [[noreturn]] void throwNoAccess(const char *what) const;
-    bool condition(Node *node) const;
 
     const char *m_name;
     uint32_t m_index = 0; ///< place among the nodes of the map

@@ -13,13 +13,15 @@ namespace {
 
 std::string contentOf(const std::string &path)
 {
-    std::ifstream file(path, std::ios::binary);
-    const std::string content((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
-    if (!file.is_open() || file.bad()) {
-        const int error = errno;
-        ORV_THROW(RuntimeException, path + ": cannot be read: " + std::strerror(error));
+    errno = 0;
+    try {
+        std::ifstream file(path, std::ios::binary);
+        if (file.is_open())
+            return std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+    } catch (const std::ios_base::failure &) {
+        // told below, as what cannot be opened: the buffer itself throws for a directory or a bad disk
     }
-    return content;
+    ORV_THROW(RuntimeException, path + ": cannot be read: " + std::strerror(errno));
 }
 
 } // namespace

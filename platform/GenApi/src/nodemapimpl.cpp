@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <exception>
 
 namespace OrvGenApi {
 
@@ -50,22 +49,41 @@ gcstring NodeMapImpl::GetDeviceName() const
     return gcstring(m_deviceName);
 }
 
+namespace {
+
+/** What cannot be asked now is not polled either, so that one broken register does not end all polling. */
+bool isBlocked(Node *blocker)
+{
+    try {
+        return blocker && Node::isFulfilled(*blocker);
+    } catch (const GenICam::GenericException &) {
+        return true;
+    }
+}
+
+} // namespace
+
 void NodeMapImpl::Poll(int64_t ElapsedTime)
 {
     std::vector<Node *> changed;
+    std::exception_ptr failure;
     {
         const MapLock lock(*this);
+        startEvaluation();
         Changes changes(*this);
-        for (Node *node : m_polled) {
-            if (node->advancePollClock(std::max<int64_t>(ElapsedTime, 0))) {
-                node->dropCache();
-                changes.add(*node);
-            }
+        for (const Polled &each : m_polled) {
+            if (!each.node->advancePollClock(std::max<int64_t>(ElapsedTime, 0)) || isBlocked(each.blocker))
+                continue;
+            each.node->restartPollClock();
+            each.node->dropCache();
+            changes.add(*each.node);
         }
         changed = changes.nodes();
-        fire(changed, cbPostInsideLock);
+        fire(changed, cbPostInsideLock, failure);
     }
-    fire(changed, cbPostOutsideLock);
+    fire(changed, cbPostOutsideLock, failure);
+    if (failure)
+        std::rethrow_exception(failure);
 }
 
 uint64_t NodeMapImpl::GetNumNodes() const
@@ -116,7 +134,7 @@ bool NodeMapImpl::add(std::unique_ptr<Node> node)
     return true;
 }
 
-void NodeMapImpl::fire(const std::vector<Node *> &nodes, ECallbackType moment)
+void NodeMapImpl::fire(const std::vector<Node *> &nodes, ECallbackType moment, std::exception_ptr &failure)
 {
     std::vector<std::pair<Node *, CNodeCallback *>> calls;
     {
@@ -127,7 +145,6 @@ void NodeMapImpl::fire(const std::vector<Node *> &nodes, ECallbackType moment)
             return;
         ++m_firing;
     }
-    std::exception_ptr failure;
     for (const auto &[node, callback] : calls) {
         {
             const MapLock lock(*this);
@@ -149,8 +166,6 @@ void NodeMapImpl::fire(const std::vector<Node *> &nodes, ECallbackType moment)
     }
     for (CNodeCallback *callback : removed)
         callback->Destroy();
-    if (failure)
-        std::rethrow_exception(failure);
 }
 
 bool NodeMapImpl::removeCallback(Node &node, CNodeCallback *callback)

@@ -4,6 +4,7 @@
 
 #include <OrvGenApi/nodemap.h>
 
+#include <exception>
 #include <mutex>
 #include <optional>
 #include <unordered_map>
@@ -60,9 +61,9 @@ public:
 
     /**
      * Calls the callbacks of \a nodes that were made for \a moment, in the order of the nodes; all of them, also when
-     * one throws: then the first exception is rethrown. One that is deregistered meanwhile is not called any more.
+     * one throws: then \a failure holds the first exception. One that is deregistered meanwhile is not called any more.
      */
-    void fire(const std::vector<Node *> &nodes, GenApi::ECallbackType moment);
+    void fire(const std::vector<Node *> &nodes, GenApi::ECallbackType moment, std::exception_ptr &failure);
 
     /** Takes out and destroys a callback, as soon as none is running. */
     bool removeCallback(Node &node, GenApi::CNodeCallback *callback);
@@ -70,11 +71,18 @@ public:
     void throwFault(const Node &node, const char *operation) const;
     bool hasFaults() const { return m_faults.has_value(); }
 
+    /** A node with a polling time. */
+    struct Polled
+    {
+        Node *node;
+        Node *blocker; ///< as long as it is not 0 there is no polling; may be null
+    };
+
     std::vector<std::unique_ptr<Node>> m_nodes;
     std::string m_modelName;
     std::string m_vendorName;
     std::optional<Faults> m_faults;
-    std::vector<Node *> m_polled; ///< nodes with a polling time
+    std::vector<Polled> m_polled;
     uint64_t m_walk = 0; ///< counts the walks over dependents
 
 private:
@@ -126,27 +134,23 @@ template <typename Write>
 void Node::change(const char *operation, const Write &write)
 {
     std::vector<Node *> changed;
+    std::exception_ptr failure;
     {
         const Entry entry(*this, operation);
         Changes changes(m_map);
-        const auto tell = [&] {
-            if (changes.nodes().empty())
-                return;
-            m_map.startEvaluation();
-            m_map.fire(changes.nodes(), GenApi::cbPostInsideLock);
-            changed = changes.nodes();
-        };
         try {
             write(changes);
+            changes.add(*this);
         } catch (...) {
-            // Part of the write may have reached the device.
-            tell();
-            throw;
+            failure = std::current_exception(); // told below: part of the write may have reached the device
         }
-        changes.add(*this);
-        tell();
+        m_map.startEvaluation();
+        changed = changes.nodes();
+        m_map.fire(changed, GenApi::cbPostInsideLock, failure);
     }
-    m_map.fire(changed, GenApi::cbPostOutsideLock);
+    m_map.fire(changed, GenApi::cbPostOutsideLock, failure);
+    if (failure)
+        std::rethrow_exception(failure);
 }
 
 } // namespace OrvGenApi

@@ -28,30 +28,31 @@ void CategoryNode::setText(const std::string &, bool, Changes &)
 
 EAccessMode CategoryNode::valueAccess() const
 {
-    if (m_visiting)
-        return NI;
-    m_visiting = true;
-    EAccessMode mode = NI;
-    try {
-        for (const Node *feature : m_features) {
-            if (feature->accessMode() != NI) {
-                mode = RO;
-                break;
-            }
+    // Categories may be nested to any depth, and may even stand in themselves.
+    const uint64_t mark = ++m_map.m_walk;
+    std::vector<const CategoryNode *> open{this};
+    m_searchMark = mark;
+    while (!open.empty()) {
+        const CategoryNode *const category = open.back();
+        open.pop_back();
+        for (const Node *feature : category->m_features) {
+            const auto inner = dynamic_cast<const CategoryNode *>(feature);
+            if (!inner && feature->accessMode() != NI)
+                return RO;
+            if (!inner || inner->m_searchMark == mark)
+                continue;
+            inner->m_searchMark = mark;
+            if (inner->isImplementedItself())
+                open.push_back(inner);
         }
-    } catch (...) {
-        m_visiting = false;
-        throw;
     }
-    m_visiting = false;
-    return mode;
+    return NI;
 }
 
 void BooleanNode::SetValue(bool Value, bool Verify)
 {
     change("SetValue", [&](Changes &changes) {
-        if (Verify)
-            requireWritable();
+        requireWritable(Verify);
         setIntValue(Value, Verify, changes);
     });
 }
@@ -100,8 +101,7 @@ void BooleanNode::setText(const std::string &text, bool verify, Changes &changes
 void CommandNode::Execute(bool Verify)
 {
     change("Execute", [&](Changes &changes) {
-        if (Verify)
-            requireWritable();
+        requireWritable(Verify);
         setIntValue(m_commandValue.value(), Verify, changes);
         m_running = true;
     });
@@ -194,8 +194,7 @@ void EnumerationNode::GetSymbolics(StringList_t &Symbolics)
 void EnumerationNode::SetIntValue(int64_t Value, bool Verify)
 {
     change("SetIntValue", [&](Changes &changes) {
-        if (Verify)
-            requireWritable();
+        requireWritable(Verify);
         setIntValue(Value, Verify, changes);
     });
 }
@@ -270,6 +269,13 @@ double EnumerationNode::floatValue(bool ignoreCache)
     const int64_t value = intValue(ignoreCache);
     const EnumEntryNode *const entry = find(value);
     return entry && entry->m_numericValue ? *entry->m_numericValue : static_cast<double>(value);
+}
+
+void EnumerationNode::setFloatValue(double value, bool verify, Changes &changes)
+{
+    const auto found = std::find_if(m_entries.begin(), m_entries.end(),
+                                    [value](const EnumEntryNode *entry) { return entry->m_numericValue == value; });
+    setIntValue(found != m_entries.end() ? (*found)->m_value : roundedToInteger(value), verify, changes);
 }
 
 std::string EnumerationNode::text(bool ignoreCache)

@@ -8,6 +8,15 @@
 
 namespace OrvGenApi {
 
+/** A node without a value, to which others are linked. */
+class PlainNode final : public Node
+{
+public:
+    using Node::Node;
+
+    GenApi::EInterfaceType interfaceType() const override { return GenApi::intfIBase; }
+};
+
 /** A group of features. Its visibility is that of its most visible feature, whatever its own description says. */
 class CategoryNode final : public ValueNode<GenApi::ICategory>
 {
@@ -29,7 +38,7 @@ private:
 
     std::vector<Node *> m_features;
     GenApi::EVisibility m_derivedVisibility = GenApi::Invisible;
-    mutable bool m_visiting = false; ///< a category may stand, however far down, in itself
+    mutable uint64_t m_searchMark = 0; ///< the last search for an implemented feature that came here
 };
 
 /** A truth value kept as one of two integers. */
@@ -42,6 +51,7 @@ public:
     bool GetValue(bool Verify, bool IgnoreCache) const override;
 
     GenApi::EInterfaceType interfaceType() const override { return GenApi::intfIBoolean; }
+    bool isNumber() const override { return true; }
     bool isCacheValid() const override { return !m_value.node() || m_value.node()->isCacheValid(); }
 
     /** As a number: 1 or 0, whatever stands for it. */
@@ -77,6 +87,7 @@ public:
     bool IsDone(bool Verify) override;
 
     GenApi::EInterfaceType interfaceType() const override { return GenApi::intfICommand; }
+    bool isNumber() const override { return true; }
     bool isCacheValid() const override { return !m_value.node() || m_value.node()->isCacheValid(); }
     int64_t intValue(bool ignoreCache) override { return m_value.value(ignoreCache); }
     void setIntValue(int64_t value, bool verify, Changes &changes) override;
@@ -110,6 +121,7 @@ public:
     bool IsSelfClearing() override;
 
     GenApi::EInterfaceType interfaceType() const override { return GenApi::intfIEnumEntry; }
+    bool isNumber() const override { return true; }
     int64_t intValue(bool) override { return m_value; }
     std::string text(bool) override { return m_symbolic; }
     void setText(const std::string &text, bool verify, Changes &changes) override;
@@ -142,10 +154,15 @@ public:
     GenApi::IEnumEntry *GetCurrentEntry(bool Verify, bool IgnoreCache) override;
 
     GenApi::EInterfaceType interfaceType() const override { return GenApi::intfIEnumeration; }
+    bool isNumber() const override { return true; }
     bool isCacheValid() const override { return !m_value.node() || m_value.node()->isCacheValid(); }
     int64_t intValue(bool ignoreCache) override { return m_value.value(ignoreCache); }
     void setIntValue(int64_t value, bool verify, Changes &changes) override;
+
+    /** As a floating-point number: the numeric value of the current entry, where it has one of its own. */
     double floatValue(bool ignoreCache) override;
+    void setFloatValue(double value, bool verify, Changes &changes) override;
+    GenApi::EIncMode incrementMode() override { return GenApi::noIncrement; }
     std::string text(bool ignoreCache) override;
     void setText(const std::string &text, bool verify, Changes &changes) override;
     int64_t entryValue(std::string_view symbolic) override;

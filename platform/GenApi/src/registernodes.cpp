@@ -24,7 +24,29 @@ EAccessMode RegisterData::access() const
     return m_port ? combined(m_accessMode, m_port->accessMode()) : NI;
 }
 
-int64_t RegisterData::address(const Node &owner) const
+int64_t RegisterData::length(const Node &owner)
+{
+    if (m_place.lengthIn != owner.map().evaluation()) {
+        const int64_t length = m_length.value();
+        if (length < 1 || length > maximumLength)
+            throwProperty(owner, "a length of " + std::to_string(length) + " bytes is not possible");
+        m_place.length = length;
+        m_place.lengthIn = owner.map().evaluation();
+    }
+    return m_place.length;
+}
+
+const RegisterData::Place &RegisterData::place(const Node &owner)
+{
+    length(owner);
+    if (m_place.addressIn != owner.map().evaluation()) {
+        m_place.address = computeAddress(owner);
+        m_place.addressIn = owner.map().evaluation();
+    }
+    return m_place;
+}
+
+int64_t RegisterData::computeAddress(const Node &owner)
 {
     int64_t sum = 0;
     bool overflow = false;
@@ -42,31 +64,30 @@ int64_t RegisterData::address(const Node &owner) const
     return sum;
 }
 
-int64_t RegisterData::length(const Node &owner) const
+void RegisterData::requirePort(const Node &owner) const
 {
-    const int64_t length = m_length.value();
-    if (length < 1 || length > maximumLength)
-        throwProperty(owner, "a length of " + std::to_string(length) + " bytes is not possible");
-    return length;
+    if (!m_port)
+        throwProperty(owner, "it has no port");
 }
 
 const std::string &RegisterData::read(Node &owner, bool ignoreCache)
 {
-    const int64_t from = address(owner);
-    const auto count = static_cast<std::size_t>(length(owner));
-    if (((m_kept && !ignoreCache) || m_readEvaluation == owner.map().evaluation()) && from == m_keptAddress
+    requirePort(owner);
+    const Place at = place(owner);
+    const auto count = static_cast<std::size_t>(at.length);
+    if (((m_kept && !ignoreCache) || m_readEvaluation == owner.map().evaluation()) && at.address == m_keptAddress
         && m_bytes.size() == count)
         return m_bytes;
     const bool hadKept = m_kept;
     m_kept = false;
     m_readEvaluation = 0;
     std::string bytes(count, '\0');
-    m_port->read(bytes.data(), from, static_cast<int64_t>(count));
+    m_port->read(bytes.data(), at.address, at.length);
     // What others have computed from the old bytes is not true any more.
     if (hadKept && bytes != m_bytes)
-        Changes(owner.map()).add(owner);
+        Changes(owner.map()).addRead(owner);
     m_bytes.swap(bytes);
-    m_keptAddress = from;
+    m_keptAddress = at.address;
     m_readEvaluation = owner.map().evaluation();
     m_kept = owner.cachingMode() != NoCache;
     return m_bytes;
@@ -74,12 +95,11 @@ const std::string &RegisterData::read(Node &owner, bool ignoreCache)
 
 void RegisterData::write(Node &owner, std::string bytes, Changes &changes)
 {
+    requirePort(owner);
     const int64_t to = address(owner);
     m_kept = false;
     m_readEvaluation = 0;
     changes.add(owner); // before writing: when the port fails half-way, nothing that was kept can be trusted
-    if (!m_port)
-        throwProperty(owner, "it has no port");
     m_port->write(bytes.data(), to, static_cast<int64_t>(bytes.size()));
     m_kept = owner.cachingMode() == WriteThrough && isReadable(m_accessMode);
     m_bytes = std::move(bytes);
@@ -101,7 +121,7 @@ void RegisterData::set(Node &owner, const uint8_t *buffer, int64_t length, Chang
     write(owner, std::string(reinterpret_cast<const char *>(buffer), static_cast<std::size_t>(length)), changes);
 }
 
-IntRegisterNode::Bits IntRegisterNode::bits() const
+IntRegisterNode::Bits IntRegisterNode::bits()
 {
     const int64_t length = m_register.length(*this);
     if (length > 8)
@@ -218,8 +238,7 @@ void FloatRegisterNode::setFloatValue(double value, bool verify, Changes &change
 void StringBase::SetValue(const gcstring &Value, bool Verify)
 {
     change("SetValue", [&](Changes &changes) {
-        if (Verify)
-            requireWritable();
+        requireWritable(Verify);
         setText(Value.c_str(), Verify, changes);
     });
 }
@@ -251,8 +270,7 @@ std::string StringNode::text(bool ignoreCache)
 void StringNode::setText(const std::string &text, bool verify, Changes &changes)
 {
     if (m_node) {
-        if (verify)
-            m_node->requireWritable();
+        m_node->requireWritable(verify);
         m_node->setText(text, verify, changes);
         return;
     }

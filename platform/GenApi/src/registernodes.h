@@ -23,8 +23,8 @@ public:
     GenApi::EAccessMode access() const;
 
     /** Both are checked: an address that overflows or a length that makes no sense throws. */
-    int64_t address(const Node &owner) const;
-    int64_t length(const Node &owner) const;
+    int64_t address(const Node &owner) { return place(owner).address; }
+    int64_t length(const Node &owner);
 
     /** The bytes, in the device's order. Valid until the next call of any operation. */
     const std::string &read(Node &owner, bool ignoreCache);
@@ -36,15 +36,29 @@ public:
 
     void dropCache() { m_kept = false; }
     bool isCacheValid() const { return m_kept; }
-    bool isBigEndian() const { return m_bigEndian != m_port->swapsEndianness(); }
+    bool isBigEndian() const { return m_bigEndian != (m_port && m_port->swapsEndianness()); }
 
 private:
     friend class DescriptionLoader;
+
+    /** Where the register lies, worked out once an evaluation: other registers may have to be read for it. */
+    struct Place
+    {
+        int64_t address = 0;
+        int64_t length = 0;
+        uint64_t addressIn = 0; ///< the evaluation that worked out the address
+        uint64_t lengthIn = 0;
+    };
+
+    const Place &place(const Node &owner);
+    int64_t computeAddress(const Node &owner);
+    void requirePort(const Node &owner) const;
 
     PortNode *m_port = nullptr;
     std::vector<AddressTerm> m_addressTerms;
     IntRef m_length;
     std::string m_bytes;
+    Place m_place;
     int64_t m_keptAddress = 0;
     uint64_t m_readEvaluation = 0; ///< the evaluation that read m_bytes, whatever the caching mode
     GenApi::EAccessMode m_accessMode = GenApi::RO;
@@ -63,8 +77,7 @@ public:
     void Set(const uint8_t *pBuffer, int64_t Length, bool Verify) override
     {
         this->change("Set", [&](Changes &changes) {
-            if (Verify)
-                this->requireWritable();
+            this->requireWritable(Verify);
             m_register.set(*this, pBuffer, Length, changes);
         });
     }
@@ -125,7 +138,7 @@ private:
         unsigned count;
     };
 
-    Bits bits() const;
+    Bits bits();
     uint64_t rawOf(const std::string &bytes) const;
     std::string bytesOf(uint64_t raw, std::size_t length) const;
 

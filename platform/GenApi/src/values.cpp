@@ -10,8 +10,7 @@ using GenICam::gcstring;
 void IntegerBase::SetValue(int64_t Value, bool Verify)
 {
     change("SetValue", [&](Changes &changes) {
-        if (Verify)
-            requireWritable();
+        requireWritable(Verify);
         setIntValue(Value, Verify, changes);
     });
 }
@@ -94,8 +93,7 @@ void IntegerBase::checkRange(int64_t value)
 void FloatBase::SetValue(double Value, bool Verify)
 {
     change("SetValue", [&](Changes &changes) {
-        if (Verify)
-            requireWritable();
+        requireWritable(Verify);
         setFloatValue(Value, Verify, changes);
     });
 }
@@ -223,15 +221,15 @@ void FloatBase::checkRange(double value)
 
 void writeLinked(Node &node, int64_t value, bool verify, Changes &changes)
 {
-    if (verify)
-        node.requireWritable();
+    node.requireWritable(verify);
+    changes.countWrite(node);
     node.setIntValue(value, verify, changes);
 }
 
 void writeLinked(Node &node, double value, bool verify, Changes &changes)
 {
-    if (verify)
-        node.requireWritable();
+    node.requireWritable(verify);
+    changes.countWrite(node);
     node.setFloatValue(value, verify, changes);
 }
 

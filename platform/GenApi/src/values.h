@@ -84,8 +84,7 @@ public:
     void FromString(const GenICam::gcstring &ValueStr, bool Verify) override
     {
         change("FromString", [&](Changes &changes) {
-            if (Verify)
-                requireWritable();
+            requireWritable(Verify);
             setText(ValueStr.c_str(), Verify, changes);
         });
     }
@@ -116,6 +115,7 @@ public:
     GenICam::gcstring GetUnit() override;
 
     GenApi::EInterfaceType interfaceType() const override { return GenApi::intfIInteger; }
+    bool isNumber() const override { return true; }
 
 protected:
     /** Throws when \a value is outside the range or off a fixed increment; a list is not enforced. */
@@ -142,11 +142,13 @@ public:
     int64_t GetDisplayPrecision() const override;
 
     GenApi::EInterfaceType interfaceType() const override { return GenApi::intfIFloat; }
+    bool isNumber() const override { return true; }
     bool isFloat() const override { return true; }
     double floatMin() override;
     double floatMax() override;
     GenApi::EIncMode incrementMode() override { return GenApi::noIncrement; }
     double floatIncrement() override;
+    std::vector<double> validFloats(bool) override { return {}; }
     double floatValue(bool ignoreCache) override = 0;
     void setFloatValue(double value, bool verify, Changes &changes) override = 0;
     int64_t intValue(bool ignoreCache) final { return Node::intValue(ignoreCache); }

@@ -113,14 +113,17 @@ void World::setPluggedIn(HostInterface &host, bool pluggedIn)
 
 void World::setPluggedIn(Camera &camera, bool pluggedIn)
 {
+    const std::vector<std::shared_ptr<DeviceSession>> sessions = camera.sessions();
+    if (pluggedIn && !camera.isPluggedIn()) {
+        // Before anyone can read again: what the node maps kept is from before the loss.
+        for (const std::shared_ptr<DeviceSession> &session : sessions)
+            session->invalidate();
+    }
     if (!camera.setPluggedIn(pluggedIn))
         return;
-    for (const std::shared_ptr<DeviceSession> &session : camera.sessions()) {
-        if (pluggedIn)
-            session->invalidate();
-        const std::uint32_t eventId = pluggedIn ? OrvCam::EventDeviceConnected : OrvCam::EventDeviceDisconnected;
+    const std::uint32_t eventId = pluggedIn ? OrvCam::EventDeviceConnected : OrvCam::EventDeviceDisconnected;
+    for (const std::shared_ptr<DeviceSession> &session : sessions)
         m_events.post([session, eventId] { session->events().fire(eventId); });
-    }
 }
 
 void World::clear()

@@ -48,7 +48,8 @@ public:
 
     /**
      * The camera's features, or null; \a err may be null. The array and its parameters live as long as the device
-     * object, through loss and return of the camera: while it is gone their operations fail.
+     * object, through loss and return of the camera: while it is gone their operations fail. Events tell of loss and
+     * return, not notifications.
      */
     virtual OrvGenParam::Array *GetCameraParameters(OrvCamErr *err) = 0;
 };

@@ -25,9 +25,9 @@ enum InterfaceType : std::int32_t {
 /**
  * A transport interface of the host: a network adapter, a USB host controller, a frame grabber.
  *
- * Belongs to the system and lives as long as it does: there is one object for every identifier, whatever is listed
- * meanwhile. One that was unplugged keeps its texts; its operations then fail. Every operation may be called from any
- * thread. Texts live as long as the object and may be null.
+ * Belongs to the system and lives as long as it does: there is one object for every interface, whatever is listed
+ * meanwhile, and nothing of it changes in place. One that was unplugged keeps its texts; its operations then fail.
+ * Every operation may be called from any thread. Texts live as long as the object and may be null.
  */
 class ORV_CAMERA_API Interface
 {

@@ -1,0 +1,186 @@
+#include "session.h"
+
+#include <orvtest.h>
+
+using namespace GenApi;
+
+/** What may be done with a node, and who sees it. */
+class tst_Access : public OrvTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void access_data();
+    void access() { checkRow(Session::Memory::Zeros); }
+    void combinesRegisterAndImposedModes();
+    void categories_data();
+    void categories();
+    void selectors();
+    void names();
+};
+
+void tst_Access::access_data()
+{
+    addColumns();
+    const QByteArray on = node("Boolean", "On", "<Value>1</Value>");
+    const QByteArray writeOnly = reg("IntReg", "W", "0", "<AccessMode>WO</AccessMode>");
+    const auto plain = [](const char *conditions) {
+        return node("Integer", "N", QByteArray("<Value>7</Value><Min>0</Min>") + conditions);
+    };
+    addRow("locked: still to be read", on + plain("<pIsLocked>On</pIsLocked>"), "N? N=1 N:=2 N On=0 N? N=1",
+           "RO !Access ok 2 ok RW ok");
+    addRow("a locked write-only node",
+           on + writeOnly
+               + node("Command", "C", "<pIsLocked>On</pIsLocked><pValue>W</pValue><CommandValue>1</CommandValue>"),
+           "C? C! On=0 C? C! C", "NA !Access ok WO ok !Access");
+    addRow("not available", on + plain("<pIsAvailable>On</pIsAvailable>"), "N? On=0 N? N N: N=1 On=1 N",
+           "RW ok NA !Access !Access !Access ok 7");
+    addRow("not implemented wins",
+           on + plain("<pIsAvailable>Z</pIsAvailable><pIsImplemented>Z</pIsImplemented>")
+               + node("Integer", "Z", "<Value>0</Value>"),
+           "N? Z=1 N?", "NI ok RW");
+    addRow("conditions that cannot be read are not fulfilled",
+           writeOnly + plain("<pIsAvailable>W</pIsAvailable>")
+               + node("Integer", "M", "<Value>1</Value><pIsLocked>W</pIsLocked>"),
+           "W=1 N? M?", "ok NA RW");
+    addRow("a lock below",
+           on + reg("IntReg", "R", "0", "<pIsLocked>On</pIsLocked>") + node("Float", "N", "<pValue>R</pValue>"),
+           "N? N=1 N", "RO !Access 0");
+    addRow("a converter needs its variables",
+           on + reg("IntReg", "R", "0") + node("Integer", "V", "<Value>2</Value><pIsAvailable>On</pIsAvailable>")
+               + node("IntConverter", "N",
+                      "<pVariable Name='V'>V</pVariable><FormulaTo>FROM / V</FormulaTo>"
+                      "<FormulaFrom>TO * V</FormulaFrom><pValue>R</pValue>"),
+           "N=6 R N? On=0 N? N=8", "ok 3 RW ok NA !Access");
+    addRow(
+        "an enumeration is as available as its entries",
+        on
+            + node("Enumeration", "E",
+                   "<EnumEntry Name='A'><Value>0</Value><pIsAvailable>On</pIsAvailable></EnumEntry>"
+                   "<EnumEntry Name='B'><Value>1</Value><pIsImplemented>Z</pIsImplemented></EnumEntry><Value>0</Value>")
+            + node("Integer", "Z", "<Value>0</Value>"),
+        "E? EnumEntry_E_A? EnumEntry_E_B? E=B On=0 E? Z=1 E? E=A E=B E", "RW RO NI !Access ok NA ok RW !Access ok B");
+    addRow("limits of a node that cannot be written", writeOnly, "W? W W=5 W=-1", "WO !Access ok !OutOfRange");
+    addRow("a limit that cannot be read", writeOnly + node("Integer", "N", "<Value>1</Value><pMax>W</pMax>"),
+           "N N: N=1 N:=2 N", "1 !Access !Access ok 2");
+    addRow("links to nothing",
+           plain("<pMax>Nobody</pMax>") + node("Integer", "M", "<pValue>N</pValue>")
+               + node("SwissKnife", "K", "<pVariable Name='X'>Nobody</pVariable><Formula>X</Formula>")
+               + node("Converter", "C", "<FormulaTo>FROM</FormulaTo><FormulaFrom>TO</FormulaFrom><pValue>K</pValue>"),
+           "N? N M? K? K C? C: C=1 C:=1", "NI !Access NI NI !Access NI !Access !Access !Access");
+    addRow("links to what is no number",
+           node("Category", "Cat", "<pFeature>N</pFeature>") + plain("<pIsAvailable>Cat</pIsAvailable>")
+               + node("String", "S", "<pValue>Device</pValue>") + reg("IntReg", "R", "0", "<pPort>N</pPort>")
+               + node("Boolean", "B", "<pValue>S</pValue>"),
+           "Cat? N? S? S:=x R? R:=1 B? B:=1", "NI NI NI !Access NI !Access NI !Access");
+    addRow("nothing to be the value",
+           node("Integer", "I", "") + node("Float", "F", "") + node("Boolean", "B", "")
+               + node("Command", "C", "<Value>1</Value>") + node("Enumeration", "E", ""),
+           "I? F? B? C? E?", "NI NI NI NI NI");
+}
+
+void tst_Access::combinesRegisterAndImposedModes()
+{
+    // Rows: AccessMode of the register; columns: ImposedAccessMode of the integer over it.
+    static const char *const modes[] = {"RO", "WO", "RW", "NA", "NI"};
+    static const char *const expected[][5] = {
+        {"RO", "NA", "RO", "NA", "NI"}, {"NA", "WO", "WO", "NA", "NI"}, {"RO", "WO", "RW", "NA", "NI"}};
+    for (int i = 0; i < 3; ++i) {
+        for (int j = 0; j < 5; ++j) {
+            Session session(
+                reg("IntReg", "R", "0", QByteArray("<AccessMode>") + modes[i] + "</AccessMode>")
+                + node("Integer", "N",
+                       QByteArray("<pValue>R</pValue><ImposedAccessMode>") + modes[j] + "</ImposedAccessMode>"));
+            QCOMPARE(session.run("N?"), QByteArray(expected[i][j]));
+            session.map->connect(nullptr);
+            QCOMPARE(session.run("N? R? N"), QByteArray("NI NI !Access"));
+        }
+    }
+}
+
+void tst_Access::categories_data()
+{
+    QTest::addColumn<QByteArray>("nodes");
+    QTest::addColumn<QByteArray>("access");
+    QTest::addColumn<int>("visibility");
+    const auto row = [](const char *what, const QByteArray &nodes, const char *access, EVisibility visibility) {
+        QTest::newRow(what) << nodes << QByteArray(access) << int(visibility);
+    };
+    const QByteArray guru = node("Integer", "G", "<Value>1</Value><Visibility>Guru</Visibility>");
+    const QByteArray expert = node("Integer", "X", "<Value>1</Value><Visibility>Expert</Visibility>");
+    const QByteArray absent = node("Integer", "A", "<Value>1</Value><pIsImplemented>Z</pIsImplemented>")
+        + node("Integer", "Z", "<Value>0</Value>");
+    row("empty", node("Category", "C", "<Visibility>Beginner</Visibility><pFeature>Nobody</pFeature>"), "NI",
+        Invisible);
+    row("the most visible feature counts",
+        guru + expert + node("Category", "C", "<pFeature>G</pFeature><pFeature>X</pFeature>"), "RO", Expert);
+    row("however deep",
+        guru + expert + node("Category", "C", "<pFeature>G</pFeature><pFeature>D</pFeature>")
+            + node("Category", "D", "<pFeature>E</pFeature>") + node("Category", "E", "<pFeature>X</pFeature>"),
+        "RO", Expert);
+    row("nothing implemented",
+        absent + node("Category", "C", "<pFeature>A</pFeature><pFeature>D</pFeature>")
+            + node("Category", "D", "<pFeature>C</pFeature>"),
+        "NI", Beginner);
+    row("in itself",
+        guru + absent + node("Category", "C", "<pFeature>D</pFeature>")
+            + node("Category", "D", "<pFeature>C</pFeature><pFeature>A</pFeature><pFeature>G</pFeature>"),
+        "RO", Beginner);
+    row("an inner one that is not implemented",
+        expert + absent + node("Category", "C", "<pFeature>D</pFeature>")
+            + node("Category", "D", "<pIsImplemented>Z</pIsImplemented><pFeature>X</pFeature>"),
+        "NI", Expert);
+}
+
+void tst_Access::categories()
+{
+    QFETCH(QByteArray, nodes);
+    QFETCH(QByteArray, access);
+    QFETCH(int, visibility);
+    Session session(nodes);
+    QCOMPARE(session.run("C?"), access);
+    QCOMPARE(int(session.map->GetNode("C")->GetVisibility()), visibility);
+}
+
+void tst_Access::selectors()
+{
+    const Session session(
+        node("Integer", "S", "<Value>0</Value><pSelected>T</pSelected><pSelected>N</pSelected>")
+        + node("Integer", "T", "<Value>0</Value><pSelected>N</pSelected><pSelected>Nobody</pSelected>")
+        + node("Integer", "N", "<Value>0</Value>"));
+    const auto names = [&](const char *name, void (ISelector::*list)(FeatureList_t &) const) {
+        FeatureList_t features;
+        (session.get<ISelector>(name)->*list)(features);
+        QByteArray result;
+        for (IValue *feature : features)
+            result += feature->GetNode()->GetName().c_str();
+        return result;
+    };
+    QCOMPARE(names("S", &ISelector::GetSelectedFeatures), QByteArray("TN"));
+    QCOMPARE(names("N", &ISelector::GetSelectingFeatures), QByteArray("ST"));
+    QCOMPARE(names("T", &ISelector::GetSelectingFeatures), QByteArray("S"));
+    QVERIFY(session.get<ISelector>("T")->IsSelector());
+    QVERIFY(!session.get<ISelector>("N")->IsSelector());
+}
+
+void tst_Access::names()
+{
+    const Session session(
+        "<Group Comment='x'><Group>"
+        "<Integer Name='N' NameSpace='Standard'><Value>0</Value><ToolTip>a &amp; b</ToolTip></Integer>"
+        "</Group></Group><Later><Integer Name='Inner'><Value>0</Value></Integer></Later>"
+        "<Node Name='Plain'/><Category Name='Root'><pFeature>N</pFeature></Category>");
+    INode *const found = session.map->GetNode("Std::N");
+    QVERIFY(found);
+    QCOMPARE(found, session.map->GetNode("N"));
+    QCOMPARE(found->GetName(true).c_str(), "Std::N");
+    QCOMPARE(found->GetDisplayName().c_str(), "N");
+    QCOMPARE(found->GetToolTip().c_str(), "a & b");
+    QVERIFY(found->IsFeature());
+    QVERIFY(!session.map->GetNode("Plain")->IsFeature());
+    QVERIFY(!session.map->GetNode("Inner"));
+    QVERIFY(!session.map->GetNode(nullptr));
+}
+
+ORV_PLAIN_TEST_MAIN(tst_Access)
+#include "tst_access.moc"

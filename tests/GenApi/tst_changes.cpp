@@ -1,0 +1,130 @@
+#include "session.h"
+
+#include <orvtest.h>
+
+/** What a write or the passing of time leads to: reads at the port, kept values, callbacks. */
+class tst_Changes : public OrvTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void caching_data();
+    void caching() { checkRow(Session::Memory::Zeros); }
+    void callbacks_data();
+    void callbacks() { checkRow(Session::Memory::Zeros); }
+    void polling_data();
+    void polling() { checkRow(Session::Memory::Zeros); }
+    void commands_data();
+    void commands() { checkRow(Session::Memory::Zeros); }
+    void noticesWhatTheDeviceChanged();
+};
+
+void tst_Changes::caching_data()
+{
+    addColumns();
+    const auto cached = [](const char *mode) {
+        return reg("IntReg", "R", "0", QByteArray("<Cachable>") + mode + "</Cachable>")
+            + node("Integer", "N", "<pValue>R</pValue>")
+            + node("IntSwissKnife", "K",
+                   "<pVariable Name='A'>N</pVariable><pVariable Name='B'>R</pVariable><Formula>A + B</Formula>");
+    };
+    addRow("kept", cached("WriteThrough"), "R& R R& N N K K K& # N* # K* #",
+           "unknown 0 kept 0 0 0 0 kept r1w0 0 r1w0 0 r1w0");
+    addRow("a write is kept", cached("WriteThrough"), "N=5 R& N K K& #", "ok kept 5 10 kept r0w1");
+    addRow("a write is not kept", cached("WriteAround"), "R # N=5 R& N K N #", "0 r1w0 ok unknown 5 10 5 r1w1");
+    addRow("nothing is kept", cached("NoCache"), "R # R N K # N=5 # N K K& #",
+           "0 r1w0 0 0 0 r3w0 ok r0w1 5 10 unknown r2w0");
+    addRow("a computed value is dropped with what it is made of", cached("WriteThrough"), "K # N=2 K& K # R- K& K #",
+           "0 r1w0 ok unknown 4 r0w1 ok unknown 4 r1w0");
+    addRow("a write-only register keeps nothing", reg("IntReg", "R", "0", "<AccessMode>WO</AccessMode>"), "R=1 R& #",
+           "ok unknown r0w1");
+    addRow("a field is written into what the device holds now",
+           reg("MaskedIntReg", "A", "0", "<LSB>7</LSB><MSB>0</MSB>")
+               + reg("MaskedIntReg", "B", "0", "<LSB>31</LSB><MSB>24</MSB>"),
+           "A B # A=1 B=2 # A* B*", "0 0 r2w0 ok ok r2w2 1 2");
+    addRow("an invalidator", reg("IntReg", "R", "0") + reg("IntReg", "S", "4", "<pInvalidator>R</pInvalidator>"),
+           "S # S R=1 S& S #", "0 r1w0 0 ok unknown 0 r1w1");
+    addRow("what is selected",
+           reg("IntReg", "S", "0", "<pSelected>N</pSelected>")
+               + reg("IntReg", "R", "0x10", "<pIndex Offset='4'>S</pIndex>")
+               + node("Integer", "N", "<pValue>R</pValue>"),
+           "N=7 S=1 # N N # S=0 N", "ok ok r1w2 0 0 r1w0 ok 7");
+    addRow("conditions are cached as well",
+           reg("IntReg", "R", "0") + node("Integer", "N", "<Value>1</Value><pIsLocked>R</pIsLocked>"),
+           "N? N? # R=1 N? N=1 #", "RW RW r1w0 ok RO !Access r0w1");
+}
+
+void tst_Changes::callbacks_data()
+{
+    addColumns();
+    const QByteArray chain = reg("IntReg", "R", "0") + node("Integer", "N", "<pValue>R</pValue><Max>9</Max>")
+        + node("Integer", "Copy", "<pValue>R</pValue>")
+        + node("SwissKnife", "K", "<pVariable Name='A'>Copy</pVariable><Formula>A</Formula>")
+        + node("Integer", "Limited", "<Value>1</Value><pMax>K</pMax>")
+        + node("Category", "Root", "<pFeature>Limited</pFeature>") + node("Integer", "Other", "<Value>1</Value>");
+    addRow("everything that depends, each once", chain, "N=1 ^ Limited=1 ^ Other=1 ^",
+           "ok Copy,K,Limited,N,R,Root ok Limited,Root ok Other");
+    addRow("nothing after a refusal", chain, "N=10 ^ K=1 ^ N=x ^", "!OutOfRange  !Access  !InvalidArgument ");
+    addRow("nothing after reading", chain, "N N* K ^", "0 0 0 ");
+    addRow("invalidating", chain, "Copy- ^", "ok Copy,K,Limited,Root");
+    addRow("copies and the values an index may pick",
+           reg("IntReg", "A", "0") + reg("IntReg", "B", "4") + node("Integer", "I", "<Value>0</Value>")
+               + node("Integer", "N",
+                      "<pIndex>I</pIndex><pValueIndexed Index='0'>A</pValueIndexed><pValueIndexed "
+                      "Index='1'>B</pValueIndexed>")
+               + node("Integer", "M", "<pValue>A</pValue><pValueCopy>B</pValueCopy>"),
+           "N=1 ^ M=2 ^ I=1 N ^", "ok A,B,M,N ok A,B,M,N ok 2 I,N");
+    addRow("half a write is told",
+           reg("IntReg", "A", "0") + reg("IntReg", "B", "0", "<AccessMode>RO</AccessMode>")
+               + node("Integer", "N", "<pValue>A</pValue><pValueCopy>B</pValueCopy>"),
+           "N=3 A ^", "!Access 3 A,N");
+}
+
+void tst_Changes::polling_data()
+{
+    addColumns();
+    const QByteArray polled = reg("IntReg", "R", "0", "<PollingTime>100</PollingTime><pBlockPolling>B</pBlockPolling>")
+        + node("Integer", "N", "<pValue>R</pValue>") + node("Integer", "B", "<Value>0</Value>")
+        + reg("IntReg", "Slow", "4", "<PollingTime>1000</PollingTime>");
+    addRow("when the time has come", polled, "N # @99 ^ @1 ^ N # @50 @50 ^ @99 ^",
+           "0 r1w0 ok  ok N,R 0 r1w0 ok ok N,R ok ");
+    addRow("each at its own pace", polled, "@950 ^ @50 ^", "ok N,R ok Slow");
+    addRow("time does not run backwards, nor over", polled, "@-500 @9223372036854775807 ^ @99 @9223372036854775807 ^",
+           "ok ok N,R,Slow ok ok N,R,Slow");
+    addRow("blocked, and due as soon as it is not", polled, "B=1 ^ @100 ^ @100 ^ B=0 ^ @1 ^ @99 ^",
+           "ok B ok  ok  ok B ok N,R ok ");
+    addRow("a register not to be read does not end polling",
+           reg("IntReg", "A", "0", "<PollingTime>1</PollingTime><pBlockPolling>Bad</pBlockPolling>")
+               + reg("IntReg", "Bad", "0", "<Length>0</Length>")
+               + reg("IntReg", "C", "0", "<PollingTime>1</PollingTime>"),
+           "@1 ^", "ok C");
+}
+
+void tst_Changes::commands_data()
+{
+    addColumns();
+    const QByteArray command = reg("IntReg", "R", "0", "<Cachable>NoCache</Cachable>")
+        + node("Command", "C", "<pValue>R</pValue><pCommandValue>V</pCommandValue>")
+        + node("Integer", "V", "<Value>3</Value>");
+    addRow("done when the device has taken the value back", command, "C! ^ R C. ^ R=0 ^ C. ^ C. ^",
+           "ok C,R 3 running  ok C,R done C done ");
+    addRow("written as text", command, "C=anything R C.", "ok 3 running");
+    addRow("nothing to read back",
+           reg("IntReg", "R", "0", "<AccessMode>WO</AccessMode>")
+               + node("Command", "C", "<pValue>R</pValue><CommandValue>3</CommandValue>"),
+           "C! # C. #", "ok r0w1 done r0w0");
+}
+
+void tst_Changes::noticesWhatTheDeviceChanged()
+{
+    Session session(reg("IntReg", "R", "0")
+                    + node("IntSwissKnife", "K", "<pVariable Name='A'>R</pVariable><Formula>A * 2</Formula>"));
+    QCOMPARE(session.run("K"), QByteArray("0"));
+    const uint8_t four[] = {0, 0, 0, 4};
+    session.port.Write(four, 0, 4);
+    // What was computed from the old bytes goes with them, whoever reads the new ones.
+    QCOMPARE(session.run("K R* K"), QByteArray("0 4 8"));
+}
+
+ORV_PLAIN_TEST_MAIN(tst_Changes)
+#include "tst_changes.moc"

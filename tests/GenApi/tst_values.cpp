@@ -1,0 +1,264 @@
+#include "session.h"
+
+#include <orvtest.h>
+
+/** What nodes are worth: registers, ranges, numbers computed from others, texts. Memory holds its own addresses. */
+class tst_Values : public OrvTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void registers_data();
+    void registers() { checkRow(Session::Memory::Addresses); }
+    void addresses_data();
+    void addresses() { checkRow(Session::Memory::Addresses); }
+    void numbers_data();
+    void numbers() { checkRow(Session::Memory::Zeros); }
+    void lists_data();
+    void lists() { checkRow(Session::Memory::Zeros); }
+    void formulas_data();
+    void formulas() { checkRow(Session::Memory::Zeros); }
+    void texts_data();
+    void texts() { checkRow(Session::Memory::Zeros); }
+};
+
+void tst_Values::registers_data()
+{
+    addColumns();
+    const QByteArray little = "<Endianess>LittleEndian</Endianess>";
+    const QByteArray isSigned = "<Sign>Signed</Sign>";
+    const auto bits = [](int lsb, int msb) {
+        return "<LSB>" + QByteArray::number(lsb) + "</LSB><MSB>" + QByteArray::number(msb) + "</MSB>";
+    };
+    addRow("big endian", reg("IntReg", "N", "0x10"), "N:", "269554195 0..4294967295/1"); // 0x10111213
+    addRow("little endian", reg("IntReg", "N", "0x10", little), "N:", "319951120 0..4294967295/1"); // 0x13121110
+    addRow("one byte, signed", reg("IntReg", "N", "128", isSigned + "<Length>1</Length>"), "N:", "-128 -128..127/1");
+    addRow("three bytes, signed", reg("IntReg", "N", "128", isSigned + "<Length>3</Length>"), "N:",
+           "-8355454 -8388608..8388607/1"); // 0x808182
+    addRow("five bytes, little endian", reg("IntReg", "N", "1", little + "<Length>5</Length>"), "N:",
+           "21542142465 0..1099511627775/1"); // 0x0504030201
+    addRow("eight bytes have a signed interface", reg("IntReg", "N", "0xF0", "<Length>8</Length>"), "N:",
+           "-1084818905618843913 0..9223372036854775807/1"); // 0xF0F1F2F3F4F5F6F7
+    addRow("eight bytes, signed", reg("IntReg", "N", "0xF0", isSigned + "<Length>8</Length>"),
+           "N:", "-1084818905618843913 -9223372036854775808..9223372036854775807/1");
+    addRow("bits count from the top in big endian", reg("MaskedIntReg", "N", "0x10", bits(15, 8)), "N:", "17 0..255/1");
+    addRow("and from the bottom in little endian", reg("MaskedIntReg", "N", "0x10", little + bits(0, 11)), "N:",
+           "272 0..4095/1"); // 0x...110
+    addRow("signed field", reg("MaskedIntReg", "N", "0xF0", little + isSigned + bits(28, 31)), "N:", "-1 -8..7/1");
+    addRow("a whole register as field", reg("MaskedIntReg", "N", "0xF0", "<Length>8</Length>" + bits(63, 0)),
+           "N:", "-1084818905618843913 0..9223372036854775807/1");
+    addRow("one bit", reg("MaskedIntReg", "N", "0x10", "<Bit>31</Bit>"), "N:", "1 0..1/1");
+    addRow("a bit that is not there", reg("MaskedIntReg", "N", "0x10", "<Bit>32</Bit>"), "N N:", "!Property !Property");
+    addRow("writing a field leaves the others",
+           reg("MaskedIntReg", "N", "0x10", bits(15, 8)) + reg("IntReg", "W", "0x10"), "N=255 N W N=256 N:=256 W*",
+           "ok 255 285151763 !OutOfRange ok 268440083"); // 0x10FF1213, 0x10001213
+    addRow("writing a signed field",
+           reg("MaskedIntReg", "N", "0x10", isSigned + bits(31, 28)) + reg("IntReg", "W", "0x10"), "N=-8 N W",
+           "ok -8 269554200"); // 0x10111218
+    addRow("entries of a structure have an access of their own",
+           "<StructReg><Address>0x10</Address><Length>2</Length><AccessMode>RW</AccessMode><pPort>Device</pPort>"
+           "<Endianess>BigEndian</Endianess><StructEntry Name='A'><LSB>7</LSB><MSB>0</MSB></StructEntry><StructEntry "
+           "Name='B'><Bit>15</Bit><AccessMode>RO</AccessMode></StructEntry></StructReg>",
+           "A? A: B? B:", "RW 16 0..255/1 RO 1 0..1/1");
+    const QByteArray overlay = reg("IntReg", "W", "0x10");
+    addRow("float, big endian", reg("FloatReg", "F", "0x10") + overlay, "F=1.5 W F", "ok 1069547520 1.5"); // 3FC00000
+    addRow("float, little endian", reg("FloatReg", "F", "0x10", little) + overlay, "F=1.5 W F", "ok 49215 1.5");
+    addRow("double", reg("FloatReg", "F", "0x10", "<Length>8</Length>") + overlay, "F=-0.1 W F",
+           "ok 3216611737 -0.1"); // 0xBFB99999
+    addRow("too large for a float", reg("FloatReg", "F", "0x10"), "F=4e38 F:=4e38 F", "!OutOfRange ok 3.40282e+38");
+    addRow("neither float nor double", reg("FloatReg", "F", "0x10", "<Length>3</Length>"), "F F=1",
+           "!Property !Property");
+}
+
+void tst_Values::addresses_data()
+{
+    addColumns();
+    const auto byteAt = [](const QByteArray &address) {
+        return node("IntReg", "N", address + "<Length>1</Length><AccessMode>RW</AccessMode><pPort>Device</pPort>");
+    };
+    const QByteArray five = node("Integer", "Five", "<Value>5</Value>");
+    const QByteArray two = node("Integer", "Two", "<Value>2</Value>");
+    const QByteArray knife = "<IntSwissKnife Name='K'><pVariable Name='F'>Five</pVariable><Formula>F * 2</Formula>"
+                             "</IntSwissKnife>";
+    addRow("addresses add up", five + byteAt("<Address>3</Address><Address>0x10</Address><pAddress>Five</pAddress>"),
+           "N", "24");
+    addRow("index", five + byteAt("<Address>1</Address><pIndex Offset='4'>Five</pIndex>"), "N Five=6 N", "21 ok 25");
+    addRow("index in units of the length", five + reg("IntReg", "N", "1", "<pIndex>Five</pIndex><Length>2</Length>"),
+           "N", "2828"); // 0x0B0C
+    addRow("index with a node as offset", five + two + byteAt("<pIndex pOffset='Two'>Five</pIndex>"), "N Two=3 N",
+           "10 ok 15");
+    addRow("formula in the register", five + byteAt(knife + "<Address>1</Address>"), "N Five=7 N K", "11 ok 15 14");
+    addRow("formulas of the same name", five + byteAt(knife) + reg("IntReg", "M", "1", knife + "<Length>1</Length>"),
+           "N M", "10 11");
+    addRow("dynamic length", two + reg("IntReg", "N", "1", "<pLength>Two</pLength>"), "N Two=1 N: Two=9 N",
+           "258 ok 1 0..255/1 ok !Property");
+    addRow("an address that overflows",
+           five + reg("IntReg", "N", "0x7FFFFFFFFFFFFFFF") + reg("IntReg", "M", "0x7FFFFFFFFFFFFFFC")
+               + reg("IntReg", "O", "0x4000000000000000", "<pIndex Offset='0x4000000000000000'>Five</pIndex>"),
+           "N? N N=1 M O", "RW !Property !Property 4244504319 !Property"); // M: 0xFCFDFEFF
+    addRow("no length",
+           reg("Register", "N", "0", "<Length>0</Length>") + reg("StringReg", "S", "0", "<Length>-1</Length>"),
+           "N N=0x S S=x", "!Property !Property !Property !Property");
+}
+
+void tst_Values::numbers_data()
+{
+    addColumns();
+    const QByteArray source =
+        node("Integer", "S", "<Value>7</Value><Min>-8</Min><Max>100</Max><Inc>3</Inc><Unit>mm</Unit>");
+    const QByteArray half = node("Float", "H", "<Value>2.5</Value><Min>-3.5</Min><Max>9.4</Max>");
+    addRow("limits of its own", node("Integer", "N", "<Value>4</Value><Min>-4</Min><Max>0x10</Max><Inc>2</Inc>"),
+           "N: N=6 N=7 N=18 N=-6 N:=7 N", "4 -4..16/2 ok !OutOfRange !OutOfRange !OutOfRange ok 7");
+    addRow("limits of what it links", source + node("Integer", "N", "<pValue>S</pValue>"), "N: N=10 S",
+           "7 -8..100/3 ok 10");
+    addRow("limits by links",
+           source + node("Integer", "N", "<Value>5</Value><pMin>S</pMin><pMax>M</pMax><pInc>I</pInc>")
+               + node("Integer", "M", "<Value>27</Value>") + node("Integer", "I", "<Value>10</Value>"),
+           "N: S=1 N: N=11 N=12", "5 7..27/10 ok 5 1..27/10 ok !OutOfRange");
+    addRow("the widest increment",
+           node("Integer", "N", "<Value>0</Value><Min>-9223372036854775808</Min><Inc>0x7FFFFFFFFFFFFFFF</Inc>"),
+           "N=-1 N=9223372036854775806 N=0", "ok ok !OutOfRange");
+    addRow("index",
+           source + node("Integer", "I", "<Value>0</Value>")
+               + node("Integer", "N",
+                      "<pIndex>I</pIndex><ValueIndexed Index='0'>10</ValueIndexed><pValueIndexed "
+                      "Index='0x1'>S</pValueIndexed><ValueDefault>-1</ValueDefault>"),
+           "N N=11 N I=1 N: N=13 S I=2 N N=0 I=3 N I=0 N", "10 ok 11 ok 7 -8..100/3 ok 13 ok -1 ok ok 0 ok 11");
+    addRow("index of a float",
+           half + node("Integer", "I", "<Value>0</Value>")
+               + node("Float", "N",
+                      "<pIndex>I</pIndex><ValueIndexed Index='0'>0.5</ValueIndexed><pValueDefault>H</pValueDefault>"),
+           "N I=1 N: N=3.25 H N=9.5", "0.5 ok 2.5 -3.5..9.4 ok 3.25 !OutOfRange");
+    addRow("index that picks nothing",
+           node("Integer", "I", "<Value>0</Value>")
+               + node("Integer", "N", "<pIndex>I</pIndex><ValueIndexed Index='0'>10</ValueIndexed>"),
+           "N? I=1 N? N N=1 N:=1 N: N&", "RW ok NA !Access !Access !Access !Access unknown");
+    addRow("copies",
+           source + reg("IntReg", "R", "0") + node("Integer", "N", "<pValue>S</pValue><pValueCopy>R</pValueCopy>"),
+           "N=10 S R N=11 R", "ok 10 10 !OutOfRange 10");
+    addRow("integer over float", half + node("Integer", "N", "<pValue>H</pValue>"), "N: N=-3 H N=9 N=10",
+           "3 -4..9/1 ok -3 ok !OutOfRange");
+    addRow("float over integer", source + node("Float", "N", "<pValue>S</pValue><Max>50.5</Max>"), "N: N=10 S N=11",
+           "7 -8..50.5/3 ok 10 !OutOfRange");
+    addRow("float grid", node("Float", "N", "<Value>0</Value><Min>-1</Min><Max>1</Max><Inc>0.1</Inc>"),
+           "N: N=0.3 N=0.35 N=nan N=inf", "0 -1..1/0.1 ok !OutOfRange !OutOfRange !OutOfRange");
+    const QByteArray mode = node("Enumeration", "E",
+                                 "<EnumEntry Name='Low'><Value>1</Value><NumericValue>0.5</NumericValue></EnumEntry>"
+                                 "<EnumEntry Name='High'><Value>4</Value></EnumEntry><pValue>R</pValue>")
+        + reg("IntReg", "R", "0");
+    addRow("float over enumeration", mode + node("Float", "N", "<pValue>E</pValue><Min>0</Min><Max>9</Max>"),
+           "R=1 N: R=4 N N=0.5 E R N=4 E N=2", "ok 0.5 0..9 ok 4 ok Low 1 ok High !InvalidArgument");
+    addRow("boolean over enumeration",
+           mode + node("Boolean", "B", "<pValue>E</pValue><OnValue>4</OnValue><OffValue>1</OffValue>")
+               + node("Integer", "N", "<pValue>B</pValue>"),
+           "B R=1 B B=true R B=0 E N: N=1 E N=2", "!LogicalError ok 0 ok 4 ok Low 0 0..1/1 ok High !OutOfRange");
+}
+
+void tst_Values::lists_data()
+{
+    addColumns();
+    const QByteArray list = node("Integer", "L",
+                                 "<Value>8</Value><Min>1</Min><Max>64</Max>"
+                                 "<ValidValueSet>64; 0x10;1;2;8;128;-4</ValidValueSet>");
+    const auto converter = [](const char *kind, const char *to, const char *from) {
+        return node(kind, "C",
+                    QByteArray("<FormulaTo>") + to + "</FormulaTo><FormulaFrom>" + from
+                        + "</FormulaFrom><pValue>L</pValue>");
+    };
+    addRow("integer", list, "L: L=3 L=128", "8 1..64{1,2,8,16,64} ok !OutOfRange");
+    addRow("linked", list + node("Integer", "N", "<pValue>L</pValue><Max>10</Max>"), "N:", "8 1..10{1,2,8}");
+    addRow("an increment hides the list", list + node("Integer", "N", "<pValue>L</pValue><Inc>2</Inc>"),
+           "N:", "8 1..64/2");
+    addRow("float", list + node("Float", "N", "<pValue>L</pValue><Min>1.5</Min>"), "N:", "8 1.5..64{2,8,16,64}");
+    addRow("converter", list + converter("Converter", "FROM * 2", "TO / 2"), "C: C=1 L",
+           "4 0.5..32{0.5,1,4,8,32} ok 2");
+    addRow("converter that turns the order", list + converter("IntConverter", "-FROM", "-TO"),
+           "C:", "-8 -64..-1{-64,-16,-8,-2,-1}");
+    addRow("integer over converter",
+           list + converter("Converter", "FROM * 2", "TO / 2") + node("Integer", "N", "<pValue>C</pValue>"),
+           "N:", "4 1..32{1,1,4,8,32}");
+    addRow("empty", node("Integer", "L", "<Value>8</Value><ValidValueSet> ; </ValidValueSet>"),
+           "L:", "8 -9223372036854775808..9223372036854775807{}");
+}
+
+void tst_Values::formulas_data()
+{
+    addColumns();
+    const QByteArray a = node("Integer", "A", "<Value>8</Value><Min>2</Min><Max>20</Max><Inc>3</Inc>");
+    const auto converter = [](const char *slope) {
+        return node("Converter", "C",
+                    QByteArray("<FormulaTo>40 / FROM</FormulaTo><FormulaFrom>40 / TO</FormulaFrom><pValue>A</pValue>")
+                        + slope);
+    };
+    addRow("properties of a variable",
+           a + node("Enumeration", "E", "<EnumEntry Name='On'><Value>1000</Value></EnumEntry><Value>1000</Value>")
+               + node("IntSwissKnife", "K",
+                      "<pVariable Name='V'>A</pVariable><pVariable Name='V.Min'>A</pVariable><pVariable "
+                      "Name='V.Max'>A</pVariable><pVariable Name='V.Inc'>A</pVariable><pVariable "
+                      "Name='M.Enum.On'>E</pVariable><Formula>M.Enum.On + V.Max*100 + V.Min*10 + V.Inc - V</Formula>"),
+           "K A=2 K K? K=1", "3015 ok 3021 RO !Access");
+    addRow("slope found out", a + converter(""), "C: C=20 A C=1.9", "5 2..20 ok 2 !OutOfRange");
+    addRow("slope given wrong is believed", a + converter("<Slope>Increasing</Slope>"), "C:", "5 20..2");
+    addRow("varying slope has no limits",
+           a + converter("<Slope>Varying</Slope>") + node("Integer", "N", "<pValue>C</pValue>"), "N: C=1",
+           "5 -9223372036854775808..9223372036854775807/1 !OutOfRange");
+    addRow("exact beyond 53 bits",
+           node("Integer", "B", "<Value>0x7FFFFFFFFFFFFFFE</Value>")
+               + node("IntConverter", "C",
+                      "<FormulaTo>FROM - 1</FormulaTo><FormulaFrom>TO + 1</FormulaFrom><pValue>B</pValue>"
+                      "<Slope>Increasing</Slope>"),
+           "C C:=-9223372036854775807 B", "9223372036854775807 ok -9223372036854775808");
+    addRow("constants and expressions",
+           a
+               + node("SwissKnife", "K",
+                      "<pVariable Name='A'>A</pVariable><Constant Name='C'>0.5</Constant>"
+                      "<Expression Name='X'>A * C</Expression><Formula>X <!-- half --> + X</Formula>"),
+           "K", "8");
+    addRow("division by zero",
+           node("Integer", "Z", "<Value>0</Value>")
+               + node("IntSwissKnife", "K", "<pVariable Name='Z'>Z</pVariable><Formula>1 / Z</Formula>")
+               + node("Integer", "N", "<Value>1</Value><pMax>K</pMax>"),
+           "K? K N: N=1 Z=1 N=1", "RO !LogicalError !LogicalError !LogicalError ok ok");
+}
+
+void tst_Values::texts_data()
+{
+    addColumns();
+    const auto integer = [](const char *representation) {
+        return node("Integer", "N",
+                    QByteArray("<Value>10</Value><Representation>") + representation + "</Representation>");
+    };
+    addRow("decimal", integer("PureNumber"), "N=0x1F N N=-7 N N=1.5 N= N=9223372036854775808",
+           "ok 31 ok -7 !InvalidArgument !InvalidArgument !InvalidArgument");
+    addRow("hexadecimal", integer("HexNumber"), "N N=255 N N=-1 N", "0xa ok 0xff ok 0xffffffffffffffff");
+    addRow("IPv4", integer("IPV4Address"), "N N=192.168.0.254 N N=256.0.0.1 N=1.2.3 N=7 N",
+           "0.0.0.10 ok 192.168.0.254 !InvalidArgument !InvalidArgument ok 0.0.0.7");
+    addRow("MAC", integer("MACAddress"), "N N=00:11:1c:FF:01:02 N N=0:1 N",
+           "00:00:00:00:00:0a ok 00:11:1c:ff:01:02 !InvalidArgument 00:11:1c:ff:01:02");
+    addRow(
+        "notations",
+        node("Float", "A", "<Value>1234.5678</Value>")
+            + node("Float", "F",
+                   "<pValue>A</pValue><DisplayNotation>Fixed</DisplayNotation><DisplayPrecision>2</DisplayPrecision>")
+            + node("Float", "S",
+                   "<pValue>A</pValue><DisplayNotation>Scientific</DisplayNotation><DisplayPrecision>1</"
+                   "DisplayPrecision>"),
+        "A F S F=1e-3 F A=x A=1,5", "1234.57 1234.57 1.2e+03 ok 0.00 !InvalidArgument !InvalidArgument");
+    addRow("boolean", node("Boolean", "B", "<Value>true</Value>"), "B B=false B B=1 B B=yes",
+           "1 ok 0 ok 1 !InvalidArgument");
+    addRow("enumeration",
+           node("Enumeration", "E",
+                "<EnumEntry Name='Old'><Value>1</Value></EnumEntry><EnumEntry Name='New'>"
+                "<Value>1</Value></EnumEntry><pValue>R</pValue>")
+               + reg("IntReg", "R", "0"),
+           "E E=Old R E E=Absent", "!InvalidArgument ok 1 New !InvalidArgument");
+    const QByteArray text =
+        reg("StringReg", "S", "0") + reg("Register", "R", "0") + node("String", "T", "<pValue>S</pValue>");
+    addRow("string register", text, "S=ab S R T=wxyz R* S=vwxyz T", "ok ab 0x61620000 ok 0x7778797a !OutOfRange wxyz");
+    addRow("register", text, "R=0x41004243 R S R=41 R=0x4100424g R=0x4100424344",
+           "ok 0x41004243 A !InvalidArgument !InvalidArgument !InvalidArgument");
+    addRow("string", node("String", "S", "<Value>Gr&#xFC;n</Value>"), "S S= S", "Gr\xC3\xBCn ok ");
+}
+
+ORV_PLAIN_TEST_MAIN(tst_Values)
+#include "tst_values.moc"
