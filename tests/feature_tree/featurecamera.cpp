@@ -29,7 +29,8 @@ QByteArray FeatureCamera::allKinds()
 <Category Name="Root"><pFeature>Numbers</pFeature><pFeature>Others</pFeature><pFeature>Access</pFeature></Category>
 <Category Name="Numbers"><ToolTip>All that counts</ToolTip><DisplayName>Plain Numbers</DisplayName>
   <pFeature>Exposure</pFeature><pFeature>GevSCDA</pFeature><pFeature>GevMACAddress</pFeature><pFeature>Mask</pFeature>
-  <pFeature>Binning</pFeature><pFeature>Gain</pFeature><pFeature>Ratio</pFeature><pFeature>Fraction</pFeature></Category>
+  <pFeature>Binning</pFeature><pFeature>Gain</pFeature><pFeature>Ratio</pFeature>
+  <pFeature>Fraction</pFeature></Category>
 <Category Name="Others"><pFeature>Flag</pFeature><pFeature>Start</pFeature><pFeature>Label</pFeature>
   <pFeature>Mode</pFeature><pFeature>Blob</pFeature></Category>
 <Category Name="Access"><pFeature>Key</pFeature><pFeature>Serial</pFeature><pFeature>Gone</pFeature></Category>
@@ -55,7 +56,8 @@ QByteArray FeatureCamera::allKinds()
   <EnumEntry Name="Continuous"><Value>10</Value></EnumEntry>
   <EnumEntry Name="Never"><pIsAvailable>Zero</pIsAvailable><Value>3</Value></EnumEntry>
   <pValue>ModeReg</pValue><pSelected>Exposure</pSelected></Enumeration>
-<Register Name="Blob"><Address>0xA0</Address><Length>8</Length><AccessMode>RW</AccessMode><pPort>Device</pPort></Register>
+<Register Name="Blob"><Address>0xA0</Address><Length>8</Length><AccessMode>RW</AccessMode>
+  <pPort>Device</pPort></Register>
 <Integer Name="Key"><pValue>KeyReg</pValue></Integer>
 <Integer Name="Serial"><pValue>SerialReg</pValue></Integer>
 <Integer Name="Gone"><pIsAvailable>Zero</pIsAvailable><Value>5</Value></Integer>

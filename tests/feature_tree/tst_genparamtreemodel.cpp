@@ -6,12 +6,11 @@
 #include <OrvGenApi/testing/faults.h>
 
 #include "orvtest.h"
+#include "simtest.h"
 
 #include <QAbstractItemModelTester>
 #include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QLineEdit>
-#include <QPushButton>
 
 #include <atomic>
 #include <thread>
@@ -63,18 +62,6 @@ struct FeatureTree : FeatureCamera
 
     QVariant value(const char *name, int role = Qt::DisplayRole) const { return cell(name).data(role); }
 
-    template <typename Editor>
-    std::unique_ptr<Editor> editor(const char *name, ControlData::Kind kind) const
-    {
-        const auto control = value(name, GenParamTreeModel::ControlDataRole).value<ControlData>();
-        std::unique_ptr<QWidget> widget(control.editor);
-        auto *const editor = qobject_cast<Editor *>(widget.get());
-        if (!editor || control.kind != kind || editor->parent())
-            return nullptr;
-        widget.release();
-        return std::unique_ptr<Editor>(editor);
-    }
-
     std::unique_ptr<GenParamTreeModel> model;
 };
 
@@ -82,7 +69,7 @@ QStringList itemsOf(const QComboBox &box)
 {
     QStringList items;
     for (int i = 0; i < box.count(); ++i)
-        items += box.itemText(i) + QLatin1Char('=') + box.itemData(i).toString();
+        items += box.itemText(i) + QLatin1Char(':') + box.itemData(i).toString();
     return items;
 }
 
@@ -109,6 +96,7 @@ class TestGenParamTreeModel : public OrvTest::TestCase
 
 private Q_SLOTS:
     void showsTheTree();
+    void showsAParameterArray();
     void hasNoRowsWithoutFeatures();
     void keepsTheFirstPlaceOfAFeature();
     void endsCategoriesInsideThemselves();
@@ -120,12 +108,11 @@ private Q_SLOTS:
     void colorsAndFlags();
     void whatsThis_data();
     void whatsThis();
-    void spinBoxes();
-    void comboBoxes();
-    void buttonAndLineEdits();
+    void editors_data();
+    void editors();
+    void editorsFollowTheFeature();
     void readsOnlyWhatARoleNeeds();
     void reportsAFailedReadOnce();
-    void survivesFailingGetters_data();
     void survivesFailingGetters();
     void writes_data();
     void writes();
@@ -134,6 +121,7 @@ private Q_SLOTS:
     void reportsChangesAtOnce();
     void queuesChangesOfOtherThreads();
     void dropsChangesWhenItGoes();
+    void outlivesARefusedDeregistration();
 };
 
 void TestGenParamTreeModel::showsTheTree()
@@ -154,6 +142,17 @@ void TestGenParamTreeModel::showsTheTree()
     QVERIFY(!tree.model->headerData(2, Qt::Horizontal).isValid());
     QVERIFY(!tree.model->index(3, 0).isValid());
     QVERIFY(!tree.model->index(0, 2).isValid());
+}
+
+void TestGenParamTreeModel::showsAParameterArray()
+{
+    const auto device = SimTest::open(SimTest::monochrome);
+    OrvGenParam::Array *const params = device->GetCameraParameters(nullptr);
+    const GenParamTreeModel ofArray(params, nullptr);
+    const GenParamTreeModel ofMap(params->GetNodeMap(), nullptr);
+    QVERIFY(ofArray.rowCount() > 0);
+    QCOMPARE(ofArray.rowCount(), ofMap.rowCount());
+    QCOMPARE(ofArray.index(0, 0).data(), ofMap.index(0, 0).data());
 }
 
 void TestGenParamTreeModel::hasNoRowsWithoutFeatures()
@@ -230,52 +229,50 @@ void TestGenParamTreeModel::takesDeeplyNestedCategories()
 void TestGenParamTreeModel::texts_data()
 {
     QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<qint64>("value");
+    QTest::addColumn<QByteArray>("value");
     QTest::addColumn<QString>("text");
     QTest::addColumn<QVariant>("edit");
-    QTest::newRow("unit") << QByteArray("Exposure") << qint64(1500) << "1500us" << QVariant(qint64(1500));
-    QTest::newRow("address by name") << QByteArray("GevSCDA") << qint64(0xEFC0010A) << "239.192.1.10"
-                                     << QVariant(QStringLiteral("239.192.1.10"));
-    QTest::newRow("only 32 bits") << QByteArray("GevSCDA") << qint64(-1) << "255.255.255.255"
-                                  << QVariant(QStringLiteral("255.255.255.255"));
-    QTest::newRow("mac") << QByteArray("GevMACAddress") << qint64(0x0001A2B3C4D5) << "00:01:A2:B3:C4:D5"
-                         << QVariant(QStringLiteral("00:01:A2:B3:C4:D5"));
-    QTest::newRow("hex") << QByteArray("Mask") << qint64(0xbeef) << "BEEF" << QVariant(qint64(0xbeef));
-    QTest::newRow("negative hex") << QByteArray("Mask") << qint64(-1) << "FFFFFFFFFFFFFFFF" << QVariant(qint64(-1));
-    QTest::newRow("list") << QByteArray("Binning") << qint64(4) << "4px" << QVariant(qint64(4));
-    QTest::newRow("float") << QByteArray("Gain") << qint64(2) << "2.000dB" << QVariant(2.0);
-    QTest::newRow("float list") << QByteArray("Fraction") << qint64(5) << "5.500000mm" << QVariant(5.5);
-    QTest::newRow("true") << QByteArray("Flag") << qint64(1) << "True" << QVariant(true);
-    QTest::newRow("command") << QByteArray("Start") << qint64(0) << "Execute" << QVariant();
-    QTest::newRow("entry") << QByteArray("Mode") << qint64(10) << "Continuous" << QVariant(quint64(10));
-    QTest::newRow("write only") << QByteArray("Key") << qint64(1) << "<Value not readable>"
-                                << QVariant(QStringLiteral("<Value not readable>"));
-    QTest::newRow("not available") << QByteArray("Gone") << qint64(0) << "<Value not available>"
-                                   << QVariant(QStringLiteral("<Value not available>"));
-    QTest::newRow("register") << QByteArray("Blob") << qint64(0) << QString() << QVariant();
-    QTest::newRow("category") << QByteArray("Others") << qint64(0) << QString() << QVariant();
+    const auto row = [](const char *title, const char *name, const char *value, const char *text,
+                        const QVariant &edit) {
+        QTest::newRow(title) << QByteArray(name) << QByteArray(value) << QString::fromUtf8(text) << edit;
+    };
+    const auto same = [&](const char *title, const char *name, const char *value, const char *text) {
+        row(title, name, value, text, QString::fromUtf8(text));
+    };
+    row("unit", "Exposure", "1500", "1500us", qint64(1500));
+    same("address by name", "GevSCDA", "4022337802", "239.192.1.10");
+    same("only 32 bits", "GevSCDA", "-1", "255.255.255.255");
+    same("mac", "GevMACAddress", "0x0001A2B3C4D5", "00:01:A2:B3:C4:D5");
+    row("hex", "Mask", "0xbeef", "BEEF", qint64(0xbeef));
+    row("negative hex", "Mask", "-1", "FFFFFFFFFFFFFFFF", qint64(-1));
+    row("list", "Binning", "4", "4px", QVariant::fromValue(VariantData{qint64(4)}));
+    row("float", "Gain", "2", "2.000dB", 2.0);
+    row("float list", "Fraction", "5.5", "5.500000mm", QVariant::fromValue(VariantData{5.5}));
+    row("true", "Flag", "1", "True", true);
+    row("command", "Start", nullptr, "Execute", QVariant());
+    same("string", "Label", "Größe", "Größe");
+    row("entry", "Mode", "Continuous", "Continuous", quint64(10));
+    same("write only", "Key", nullptr, "<Value not readable>");
+    same("not available", "Gone", nullptr, "<Value not available>");
+    row("register", "Blob", nullptr, "", QVariant());
+    row("category", "Others", nullptr, "", QVariant());
 }
 
 void TestGenParamTreeModel::texts()
 {
     QFETCH(QByteArray, name);
-    QFETCH(qint64, value);
+    QFETCH(QByteArray, value);
+    QFETCH(QVariant, edit);
     const FeatureTree tree;
-    const GenApi::CNodePtr node = tree.node(name.constData());
-    if (const GenApi::CIntegerPtr integer(node); integer.IsValid() && GenApi::CNodePtr(node)->GetName() != "Gone")
-        integer->SetValue(value, false);
-    if (const GenApi::CFloatPtr number(node); number.IsValid())
-        number->SetValue(double(value));
-    if (const GenApi::CBooleanPtr flag(node); flag.IsValid())
-        flag->SetValue(value != 0);
-    if (const GenApi::CEnumerationPtr mode(node); mode.IsValid())
-        mode->SetIntValue(value);
+    if (!value.isEmpty())
+        tree.node<GenApi::CValuePtr>(name.constData())->FromString(value.constData());
     QTEST(tree.value(name.constData()).toString(), "text");
-    QVariant edit = tree.value(name.constData(), Qt::EditRole);
-    QCOMPARE(edit.userType() == qMetaTypeId<VariantData>(), name == "Binning" || name == "Fraction");
-    if (edit.userType() == qMetaTypeId<VariantData>())
-        edit = edit.value<VariantData>().value;
-    QTEST(edit, "edit");
+    const QVariant actual = tree.value(name.constData(), Qt::EditRole);
+    QCOMPARE(actual.userType(), edit.userType());
+    if (actual.userType() == qMetaTypeId<VariantData>())
+        QCOMPARE(actual.value<VariantData>().value, edit.value<VariantData>().value);
+    else
+        QCOMPARE(actual, edit);
 }
 
 void TestGenParamTreeModel::declaredAddressesOverruleNames()
@@ -367,79 +364,73 @@ void TestGenParamTreeModel::whatsThis()
         "text");
 }
 
-void TestGenParamTreeModel::spinBoxes()
+void TestGenParamTreeModel::editors_data()
 {
-    const FeatureTree tree;
-    const auto exposure = tree.editor<QtOrvSpinBoxVal64>("Exposure", ControlData::SpinBox64);
-    QVERIFY(exposure);
-    QVERIFY(!exposure->hasFrame() && exposure->isAccelerated() && !exposure->keyboardTracking());
-    QVERIFY(exposure->ignoreFocusOut() && exposure->validateStepping());
-    QCOMPARE(exposure->minimum(), -4LL);
-    QCOMPARE(exposure->maximum(), 4000LL);
-    QCOMPARE(exposure->singleStep(), 4LL);
-    QCOMPARE(exposure->displayIntegerBase(), 10);
-    const auto mask = tree.editor<QtOrvSpinBoxVal64>("Mask", ControlData::SpinBox64);
-    QVERIFY(mask);
-    QCOMPARE(mask->displayIntegerBase(), 16);
-    QCOMPARE(mask->minimum(), std::numeric_limits<qint64>::min());
-    QVERIFY(!mask->validateStepping());
-    QVERIFY(tree.editor<QtOrvSpinBoxVal64>("GevMACAddress", ControlData::SpinBox64));
-
-    const auto gain = tree.editor<QDoubleSpinBox>("Gain", ControlData::DoubleSpinBox);
-    QVERIFY(gain);
-    QVERIFY(!gain->hasFrame() && gain->isAccelerated());
-    QCOMPARE(gain->decimals(), 3);
-    QCOMPARE(gain->minimum(), 0.25);
-    QCOMPARE(gain->maximum(), 8.25);
-    QCOMPARE(gain->singleStep(), 0.25);
-    QCOMPARE(gain->suffix(), QStringLiteral("dB"));
-    const auto ratio = tree.editor<QDoubleSpinBox>("Ratio", ControlData::DoubleSpinBox);
-    QVERIFY(ratio);
-    QCOMPARE(ratio->singleStep(), QDoubleSpinBox().singleStep());
-    QCOMPARE(ratio->maximum(), std::numeric_limits<double>::max());
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("properties");
+    const auto row = [](const char *name, int kind, const char *properties) {
+        QTest::newRow(name) << kind << QString::fromUtf8(properties);
+    };
+    row("Exposure", ControlData::SpinBox64,
+        "minimum=-4 maximum=4000 singleStep=4 displayIntegerBase=10 frame=false accelerated=true "
+        "keyboardTracking=false");
+    row("Mask", ControlData::SpinBox64,
+        "minimum=-9223372036854775808 maximum=9223372036854775807 singleStep=1 displayIntegerBase=16");
+    row("GevMACAddress", ControlData::SpinBox64, "displayIntegerBase=10");
+    row("Gain", ControlData::DoubleSpinBox,
+        "minimum=0.25 maximum=8.25 singleStep=0.25 decimals=3 suffix=dB frame=false accelerated=true");
+    row("Ratio", ControlData::DoubleSpinBox, "minimum=-1.7976931348623157e+308 singleStep=1 decimals=323");
+    row("Binning", ControlData::ComboBox, "frame=false items=1px:1,2px:2,4px:4");
+    row("Fraction", ControlData::ComboBox, "frame=false items=1.375mm:1,2.75mm:2,5.5mm:5");
+    row("Flag", ControlData::ComboBox, "frame=false items=True:true,False:false");
+    row("Mode", ControlData::ComboBox, "frame=false items=Off:0,Continuous:10");
+    row("Start", ControlData::PushButton, "text=Execute flat=true autoDefault=false");
+    row("GevSCDA", ControlData::LineEdit, "frame=false alignment=132");
+    row("Label", ControlData::LineEdit, "frame=false alignment=129");
+    row("Blob", -1, "");
+    row("Others", -1, "");
 }
 
-void TestGenParamTreeModel::comboBoxes()
+void TestGenParamTreeModel::editors()
+{
+    QFETCH(int, kind);
+    QFETCH(QString, properties);
+    const FeatureTree tree;
+    const QVariant data = tree.value(QTest::currentDataTag(), GenParamTreeModel::ControlDataRole);
+    QCOMPARE(data.isValid(), kind >= 0);
+    if (!data.isValid())
+        return;
+    QCOMPARE(int(data.value<ControlData>().kind), kind);
+    const std::unique_ptr<QWidget> editor(data.value<ControlData>().editor);
+    QVERIFY(!editor->parent());
+    if (const auto *box = qobject_cast<QComboBox *>(editor.get()))
+        editor->setProperty("items", itemsOf(*box).join(QLatin1Char(',')));
+    const QStringList expected = properties.split(QLatin1Char(' '));
+    for (const QString &property : expected) {
+        const QByteArray name = property.section(QLatin1Char('='), 0, 0).toLatin1();
+        QCOMPARE(QString::fromLatin1(name) + QLatin1Char('=') + editor->property(name.constData()).toString(),
+                 property);
+    }
+}
+
+void TestGenParamTreeModel::editorsFollowTheFeature()
 {
     const FeatureTree tree;
-    const struct
-    {
-        const char *name;
-        const char *items;
-    } boxes[] = {
-        {"Binning", "1px=1 2px=2 4px=4"},
-        {"Fraction", "1.375mm=1 2.75mm=2 5.5mm=5"},
-        {"Flag", "True=true False=false"},
-        {"Mode", "Off=0 Continuous=10"},
+    const auto editor = [&](const char *name) {
+        return std::unique_ptr<QWidget>(
+            tree.value(name, GenParamTreeModel::ControlDataRole).value<ControlData>().editor);
     };
-    for (const auto &expected : boxes) {
-        const auto box = tree.editor<QComboBox>(expected.name, ControlData::ComboBox);
-        QVERIFY(box);
-        QVERIFY(!box->hasFrame());
-        QCOMPARE(itemsOf(*box).join(QLatin1Char(' ')), QLatin1String(expected.items));
-    }
+    const auto exposure = editor("Exposure");
+    QVERIFY(qobject_cast<QtOrvSpinBoxVal64 *>(exposure.get())->validateStepping());
+    QVERIFY(qobject_cast<QtOrvSpinBoxVal64 *>(exposure.get())->ignoreFocusOut());
+    const auto mask = editor("Mask");
+    QVERIFY(!qobject_cast<QtOrvSpinBoxVal64 *>(mask.get())->validateStepping());
+    const auto address = editor("GevSCDA");
+    QVERIFY(qobject_cast<const IP4Validator *>(qobject_cast<QLineEdit *>(address.get())->validator()));
     // The edit value is found among the items, whatever the integer types of both.
     tree.node<GenApi::CEnumerationPtr>("Mode")->SetIntValue(10);
-    const auto mode = tree.editor<QComboBox>("Mode", ControlData::ComboBox);
-    QCOMPARE(mode->findData(tree.value("Mode", Qt::EditRole)), 1);
-}
-
-void TestGenParamTreeModel::buttonAndLineEdits()
-{
-    const FeatureTree tree;
-    const auto button = tree.editor<QPushButton>("Start", ControlData::PushButton);
-    QVERIFY(button);
-    QCOMPARE(button->text(), QStringLiteral("Execute"));
-    QVERIFY(button->isFlat() && !button->autoDefault());
-    const auto address = tree.editor<QLineEdit>("GevSCDA", ControlData::LineEdit);
-    QVERIFY(address);
-    QCOMPARE(address->alignment(), Qt::AlignHCenter | Qt::AlignVCenter);
-    QVERIFY(qobject_cast<const IP4Validator *>(address->validator()));
-    const auto label = tree.editor<QLineEdit>("Label", ControlData::LineEdit);
-    QVERIFY(label);
-    QVERIFY(!label->hasFrame() && !label->validator());
-    for (const char *name : {"Blob", "Others"})
-        QVERIFY(!tree.value(name, GenParamTreeModel::ControlDataRole).isValid());
+    const auto mode = editor("Mode");
+    QCOMPARE(qobject_cast<QComboBox *>(mode.get())->findData(tree.value("Mode", Qt::EditRole)), 1);
 }
 
 void TestGenParamTreeModel::readsOnlyWhatARoleNeeds()
@@ -493,9 +484,16 @@ void TestGenParamTreeModel::reportsAFailedReadOnce()
     QCOMPARE(appeared.takeFirst().at(2).toString(), QStringLiteral("Unknown Error"));
 }
 
-void TestGenParamTreeModel::survivesFailingGetters_data()
+void TestGenParamTreeModel::survivesFailingGetters()
 {
-    QTest::addColumn<QByteArray>("getter");
+    FeatureTree tree;
+    const int rowCount = tree.rows().size();
+    GenApi::NodeList_t nodes;
+    tree.map->GetNodes(nodes);
+    std::vector<std::string> names;
+    for (GenApi::INode *node : nodes)
+        names.emplace_back(node->GetName().c_str());
+    const int widgets = QApplication::allWidgets().size();
     for (const char *getter : {"GetAccessMode",
                                "GetName",
                                "GetDisplayName",
@@ -509,8 +507,8 @@ void TestGenParamTreeModel::survivesFailingGetters_data()
                                "GetIncMode",
                                "HasInc",
                                "GetListOfValidValues",
-                               "GetRepresentation",
                                "GetUnit",
+                               "GetRepresentation",
                                "GetDisplayPrecision",
                                "ToString",
                                "GetNode",
@@ -522,37 +520,23 @@ void TestGenParamTreeModel::survivesFailingGetters_data()
                                "GetSelectingFeatures",
                                "RegisterCallback",
                                "GetFeatures"}) {
-        QTest::newRow(getter) << QByteArray(getter);
-    }
-}
-
-void TestGenParamTreeModel::survivesFailingGetters()
-{
-    QFETCH(QByteArray, getter);
-    FeatureTree tree;
-    const int rowCount = tree.rows().size();
-    tree.model.reset();
-    GenApi::NodeList_t nodes;
-    tree.map->GetNodes(nodes);
-    std::vector<std::string> names;
-    for (GenApi::INode *node : nodes)
-        names.emplace_back(node->GetName().c_str());
-    for (const std::string &name : names)
-        failGetter(*tree.map, name, getter.constData());
-
-    tree.model.reset(new GenParamTreeModel(tree.map.get(), nullptr));
-    const QModelIndexList rows = tree.rows();
-    QCOMPARE(rows.size(), getter == "GetFeatures" ? 0 : rowCount);
-    const int widgets = QApplication::allWidgets().size();
-    for (const QModelIndex &index : rows) {
-        for (const QModelIndex &each : {index, index.sibling(index.row(), valueColumn)}) {
-            for (int role = 0; role <= GenParamTreeModel::ControlDataRole; ++role)
-                delete each.data(role).value<ControlData>().editor;
-            tree.model->flags(each);
-            tree.model->setData(each, 1);
+        tree.model.reset();
+        for (const std::string &name : names)
+            failGetter(*tree.map, name, getter);
+        tree.model.reset(new GenParamTreeModel(tree.map.get(), nullptr));
+        const QModelIndexList rows = tree.rows();
+        QCOMPARE(rows.size(), QByteArray(getter) == "GetFeatures" ? 0 : rowCount);
+        for (const QModelIndex &index : rows) {
+            for (const QModelIndex &each : {index, index.sibling(index.row(), valueColumn)}) {
+                for (int role = 0; role <= GenParamTreeModel::ControlDataRole; ++role)
+                    delete each.data(role).value<ControlData>().editor;
+                tree.model->flags(each);
+                tree.model->setData(each, 1);
+            }
         }
+        clearFaults(*tree.map);
+        QCOMPARE(QApplication::allWidgets().size(), widgets);
     }
-    QCOMPARE(QApplication::allWidgets().size(), widgets);
 }
 
 void TestGenParamTreeModel::writes_data()
@@ -571,9 +555,7 @@ void TestGenParamTreeModel::writes_data()
     row("no number", "Exposure", QStringLiteral("fast"), nullptr);
     row("too large", "Mask", quint64(1) << 63, nullptr);
     row("real out of range", "Mask", 1e300, nullptr);
-    row("no real", "Mask", qQNaN(), nullptr);
     row("nothing", "Exposure", QVariant(), nullptr);
-    row("no value", "Exposure", QVariant::fromValue(QSize(1, 1)), nullptr);
     row("address", "GevSCDA", QStringLiteral("239.192.1.10"), "239.192.1.10");
     row("address as number", "GevSCDA", 258, "0.0.1.2");
     row("number for an address", "GevSCDA", QStringLiteral("258"), nullptr);
@@ -582,9 +564,7 @@ void TestGenParamTreeModel::writes_data()
     row("no address", "GevSCDA", QString(), nullptr);
     row("mac", "GevMACAddress", QStringLiteral("00:01:A2:B3:C4:D5"), nullptr);
     row("boolean", "Flag", true, "True");
-    row("boolean from size", "Flag", QVariant::fromValue(QSize(1, 1)), nullptr);
     row("float", "Gain", 2.25, "2.250dB");
-    row("float from text", "Gain", QStringLiteral("2.5"), "2.500dB");
     row("no float", "Gain", QStringLiteral("loud"), nullptr);
     row("not a number", "Gain", qQNaN(), nullptr);
     row("string", "Label", QStringLiteral("Größe"), "Größe");
@@ -694,14 +674,16 @@ void TestGenParamTreeModel::dropsChangesWhenItGoes()
     FeatureTree tree;
     std::atomic<bool> stop{false};
     std::thread camera([&] {
-        for (int value = 0; !stop; value = (value + 4) % 4000)
+        for (int value = 0; !stop; value = (value + 4) % 4000) {
             tree.node<GenApi::CIntegerPtr>("Exposure")->SetValue(value);
+            std::this_thread::yield();
+        }
     });
     const auto end = qScopeGuard([&] {
         stop = true;
         camera.join();
     });
-    for (int i = 0; i < 50; ++i) {
+    for (int i = 0; i < 20; ++i) {
         tree.model.reset(new GenParamTreeModel(tree.map.get(), nullptr));
         QSignalSpy changed(tree.model.get(), &QAbstractItemModel::dataChanged);
         QTRY_VERIFY(changed.size() > 0);
@@ -709,6 +691,15 @@ void TestGenParamTreeModel::dropsChangesWhenItGoes()
         QCOMPARE(registeredCallbacks(*tree.map), size_t(0));
         QCoreApplication::processEvents();
     }
+}
+
+void TestGenParamTreeModel::outlivesARefusedDeregistration()
+{
+    FeatureTree tree;
+    failGetter(*tree.map, "Exposure", "DeregisterCallback");
+    tree.model.reset();
+    QCOMPARE(registeredCallbacks(*tree.map), size_t(1));
+    tree.node<GenApi::CIntegerPtr>("Exposure")->SetValue(4);
 }
 
 ORV_TEST_MAIN(TestGenParamTreeModel)

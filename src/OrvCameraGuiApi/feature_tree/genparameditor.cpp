@@ -15,11 +15,6 @@
 
 namespace {
 
-struct Text
-{
-    Q_DECLARE_TR_FUNCTIONS(GenParamTreeModel)
-};
-
 /** Held here until it is complete: a getter that throws in between leaves nothing behind. */
 template <typename Editor>
 std::unique_ptr<Editor> makeFrameless()
@@ -94,14 +89,14 @@ ControlData integerEditor(const GenParamFeature &feature)
 ControlData booleanEditor()
 {
     auto box = makeFrameless<QComboBox>();
-    box->addItem(Text::tr("True"), true);
-    box->addItem(Text::tr("False"), false);
+    box->addItem(GenParamText::tr("True"), true);
+    box->addItem(GenParamText::tr("False"), false);
     return {box.release(), ControlData::ComboBox};
 }
 
 ControlData commandEditor()
 {
-    auto button = std::make_unique<QPushButton>(Text::tr("Execute"));
+    auto button = std::make_unique<QPushButton>(GenParamText::tr("Execute"));
     button->setFlat(true);
     // A flat button paints no ground of its own, and the cell's text is the same as the button's.
     button->setAutoFillBackground(true);

@@ -11,11 +11,6 @@
 
 namespace {
 
-struct Text
-{
-    Q_DECLARE_TR_FUNCTIONS(GenParamTreeModel)
-};
-
 /** GigE Vision features that are addresses, though many descriptions declare them as plain numbers. */
 std::optional<GenApi::ERepresentation> representationByName(std::string_view name)
 {
@@ -134,9 +129,9 @@ QVariant GenParamFeature::displayText(GenApi::EInterfaceType type) const
         return integerText(*number, representation(*number));
     }
     case GenApi::intfIBoolean:
-        return GenApi::CBooleanPtr(m_value)->GetValue() ? Text::tr("True") : Text::tr("False");
+        return GenApi::CBooleanPtr(m_value)->GetValue() ? GenParamText::tr("True") : GenParamText::tr("False");
     case GenApi::intfICommand:
-        return Text::tr("Execute");
+        return GenParamText::tr("Execute");
     case GenApi::intfIFloat: {
         const GenApi::CFloatPtr number(m_value);
         return QString(QString::number(number->GetValue(), 'f', displayPrecision(*number))

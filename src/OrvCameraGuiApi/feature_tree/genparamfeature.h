@@ -8,6 +8,12 @@
 
 #include <optional>
 
+/** What people read, in the translation context of the model. */
+struct GenParamText
+{
+    Q_DECLARE_TR_FUNCTIONS(GenParamTreeModel)
+};
+
 /** A text of a node map. */
 inline QString fromGenICam(const GenICam::gcstring &text)
 {
@@ -30,7 +36,7 @@ std::optional<QString> failureOf(Action &&action)
     } catch (...) {
         // Whatever else a camera's library throws has no text for people.
     }
-    return description.isEmpty() ? QCoreApplication::translate("GenParamTreeModel", "Unknown Error") : description;
+    return description.isEmpty() ? GenParamText::tr("Unknown Error") : description;
 }
 
 /**

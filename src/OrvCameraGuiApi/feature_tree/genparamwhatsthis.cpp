@@ -4,14 +4,9 @@
 
 namespace {
 
-struct Text
-{
-    Q_DECLARE_TR_FUNCTIONS(GenParamTreeModel)
-};
-
 QString yesOrNo(bool value)
 {
-    return value ? Text::tr("True") : Text::tr("False");
+    return value ? GenParamText::tr("True") : GenParamText::tr("False");
 }
 
 /** The values of a list, each as \a format makes it. */
@@ -26,7 +21,7 @@ QString joined(const List &values, Format format)
 
 QString limits(const QString &minimum, const QString &maximum)
 {
-    return Text::tr("<i>Limits</i>: Min: %1, Max: %2").arg(minimum, maximum);
+    return GenParamText::tr("<i>Limits</i>: Min: %1, Max: %2").arg(minimum, maximum);
 }
 
 /** The text put together line by line. */
@@ -60,14 +55,15 @@ private:
 
 QString WhatsThis::text()
 {
-    m_lines += Text::tr("<i>Name:</i> %1").arg(m_feature.name().toHtmlEscaped());
+    m_lines += GenParamText::tr("<i>Name:</i> %1").arg(m_feature.name().toHtmlEscaped());
     add([this] { return selectors(); });
     failureOf([this] { addTypeAndValues(); });
     add([this] {
-        return Text::tr("<i>Description:</i> %1").arg(fromGenICam(m_feature.node()->GetDescription()).toHtmlEscaped());
+        return GenParamText::tr("<i>Description:</i> %1")
+            .arg(fromGenICam(m_feature.node()->GetDescription()).toHtmlEscaped());
     });
-    add([this] { return Text::tr("<i>Streamable:</i> %1").arg(yesOrNo(m_feature.node()->IsStreamable())); });
-    add([this] { return Text::tr("<i>Cachable:</i> %1").arg(cachingMode()); });
+    add([this] { return GenParamText::tr("<i>Streamable:</i> %1").arg(yesOrNo(m_feature.node()->IsStreamable())); });
+    add([this] { return GenParamText::tr("<i>Cachable:</i> %1").arg(cachingMode()); });
     return m_lines.join(QLatin1String("<br />"));
 }
 
@@ -83,32 +79,32 @@ QStringList WhatsThis::selectors() const
     const QString names = joined(selecting, [](GenApi::IValue *selector) {
         return fromGenICam(GenApi::CValuePtr(selector)->GetNode()->GetName()).toHtmlEscaped();
     });
-    return {Text::tr("<i>Selectors:</i> %1").arg(names)};
+    return {GenParamText::tr("<i>Selectors:</i> %1").arg(names)};
 }
 
 void WhatsThis::addTypeAndValues()
 {
-    const auto addType = [this](const QString &type) { m_lines += Text::tr("<i>Type:</i> %1").arg(type); };
+    const auto addType = [this](const QString &type) { m_lines += GenParamText::tr("<i>Type:</i> %1").arg(type); };
     switch (m_feature.type()) {
     case GenApi::intfIInteger:
-        addType(Text::tr("Integer"));
+        addType(GenParamText::tr("Integer"));
         addInteger();
         break;
     case GenApi::intfIBoolean:
-        addType(Text::tr("Boolean"));
+        addType(GenParamText::tr("Boolean"));
         break;
     case GenApi::intfICommand:
-        addType(Text::tr("Command"));
+        addType(GenParamText::tr("Command"));
         break;
     case GenApi::intfIFloat:
-        addType(Text::tr("Float"));
+        addType(GenParamText::tr("Float"));
         addFloat();
         break;
     case GenApi::intfIString:
-        addType(Text::tr("String"));
+        addType(GenParamText::tr("String"));
         break;
     case GenApi::intfIEnumeration:
-        addType(Text::tr("Enumeration"));
+        addType(GenParamText::tr("Enumeration"));
         add([this] { return enumerationEntries(); });
         break;
     default:
@@ -123,11 +119,11 @@ void WhatsThis::addInteger()
     add([&]() -> QStringList {
         switch (number->GetIncMode()) {
         case GenApi::fixedIncrement:
-            return {Text::tr("<i>Increment</i>: %1").arg(number->GetInc())};
+            return {GenParamText::tr("<i>Increment</i>: %1").arg(number->GetInc())};
         case GenApi::listIncrement: {
             const int base = m_feature.representation(*number) == GenApi::HexNumber ? 16 : 10;
             const auto format = [base](int64_t value) { return QString::number(value, base); };
-            return {Text::tr("<i>Valid values</i>: %1").arg(joined(number->GetListOfValidValues(), format))};
+            return {GenParamText::tr("<i>Valid values</i>: %1").arg(joined(number->GetListOfValidValues(), format))};
         }
         default:
             return {};
@@ -143,10 +139,10 @@ void WhatsThis::addFloat()
     add([&]() -> QStringList {
         switch (number->GetIncMode()) {
         case GenApi::fixedIncrement:
-            return {Text::tr("<i>Increment</i>: %1").arg(general(number->GetInc()))};
+            return {GenParamText::tr("<i>Increment</i>: %1").arg(general(number->GetInc()))};
         case GenApi::listIncrement: {
             const auto format = [](double value) { return QString::number(value, 'g', 6); };
-            return {Text::tr("<i>Valid values</i>: %1").arg(joined(number->GetListOfValidValues(), format))};
+            return {GenParamText::tr("<i>Valid values</i>: %1").arg(joined(number->GetListOfValidValues(), format))};
         }
         default:
             return {};
@@ -158,7 +154,7 @@ QStringList WhatsThis::enumerationEntries() const
 {
     GenApi::NodeList_t entries;
     GenApi::CEnumerationPtr(m_feature.value())->GetEntries(entries);
-    QStringList lines = {Text::tr("<i>Enumeration entries</i>:")};
+    QStringList lines = {GenParamText::tr("<i>Enumeration entries</i>:")};
     for (size_t i = 0; i < entries.size(); ++i) {
         const GenApi::CEnumEntryPtr entry(entries[i]);
         if (!entry.IsValid())
@@ -175,13 +171,13 @@ QString WhatsThis::cachingMode() const
 {
     switch (m_feature.node()->GetCachingMode()) {
     case GenApi::NoCache:
-        return Text::tr("NoCache");
+        return GenParamText::tr("NoCache");
     case GenApi::WriteThrough:
-        return Text::tr("WriteThrough");
+        return GenParamText::tr("WriteThrough");
     case GenApi::WriteAround:
-        return Text::tr("WriteAround");
+        return GenParamText::tr("WriteAround");
     default:
-        return Text::tr("Undefined");
+        return GenParamText::tr("Undefined");
     }
 }
 

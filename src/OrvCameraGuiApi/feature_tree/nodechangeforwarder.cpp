@@ -1,18 +1,44 @@
 #include <OrvCameraGuiApi/feature_tree/nodechangeforwarder.h>
 
-#include <QMetaObject>
+#include <QCoreApplication>
+#include <QEvent>
 #include <QThread>
 
+/** Wakes the context's thread. An event tells no more than that there may be something in the queue. */
+class NodeChangeForwarder::Mailbox : public QObject
+{
+public:
+    Mailbox(NodeChangeForwarder *forwarder, QObject *parent)
+        : QObject(parent)
+        , m_forwarder(forwarder)
+    {
+    }
+
+protected:
+    bool event(QEvent *event) override
+    {
+        const bool isHandled = QObject::event(event);
+        // The handler may end in the destruction of the context, and of this object with it.
+        const QExplicitlySharedDataPointer<NodeChangeForwarder> forwarder = m_forwarder;
+        forwarder->deliver();
+        return isHandled;
+    }
+
+private:
+    const QExplicitlySharedDataPointer<NodeChangeForwarder> m_forwarder;
+};
+
 NodeChangeForwarder::NodeChangeForwarder(QObject *context, Handler handler)
-    : m_context(context)
+    : m_mailbox(nullptr)
     , m_handler(std::move(handler))
 {
+    m_mailbox = new Mailbox(this, context);
 }
 
 void NodeChangeForwarder::detach()
 {
-    const QMutexLocker lock(&m_mutex);
-    m_context = nullptr;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_mailbox = nullptr;
     m_queued.clear();
 }
 
@@ -26,18 +52,15 @@ void NodeChangeForwarder::nodeChanged(GenApi::INode *node)
 /** False when the caller is on the context's thread and the value is to be handled now. */
 bool NodeChangeForwarder::queue(GenApi::IValue *value)
 {
-    const QMutexLocker lock(&m_mutex);
-    if (!m_context)
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (!m_mailbox)
         return true;
-    if (m_context->thread() == QThread::currentThread())
+    if (m_mailbox->thread() == QThread::currentThread())
         return false;
     const bool eventIsOnItsWay = !m_queued.empty();
     m_queued.insert(value);
-    if (!eventIsOnItsWay) {
-        const QExplicitlySharedDataPointer<NodeChangeForwarder> self(this);
-        QMetaObject::invokeMethod(
-            m_context, [self] { self->deliver(); }, Qt::QueuedConnection);
-    }
+    if (!eventIsOnItsWay)
+        QCoreApplication::postEvent(m_mailbox, new QEvent(QEvent::User));
     return true;
 }
 
@@ -45,12 +68,12 @@ void NodeChangeForwarder::deliver()
 {
     std::set<GenApi::IValue *> changed;
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::lock_guard<std::mutex> lock(m_mutex);
         changed.swap(m_queued);
     }
     for (GenApi::IValue *value : changed) {
         // Only this thread detaches, be it from within the handler.
-        if (!m_context)
+        if (!m_mailbox)
             return;
         m_handler(value);
     }
