@@ -2,6 +2,7 @@
 #include "orvtest.h"
 #include "windowmouse.h"
 
+#include <OrvCameraGuiApi/device_selection/ip4validator.h>
 #include <OrvCameraGuiApi/feature_tree/genparamdelegate.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
@@ -41,7 +42,7 @@ struct EditedTree : FeatureCamera
     void clickOutside() { WindowMouse::click(&label, label.rect().center()); }
     /** Into what has the focus; "^" and "_" are the keys Up and Down, "|" is a click outside. */
     void type(const QString &keys);
-    /** Seen by the model with the next poll, or at once. */
+    /** The model reports it at once. */
     void setRegister(const char *name, qint64 value) { node<GenApi::CIntegerPtr>(name)->SetValue(value); }
 
     QWidget window;
@@ -155,6 +156,7 @@ void TestGenParamDelegate::edits_data()
     row("Exposure", "^^|", "8us", 1);
     row("Exposure", "^_|", "0us", 0);
     row("Exposure", "4\b-\r", "0us", 0);
+    row("Exposure", "\r", "0us", 0);
     row("Mask", "beef\r", "BEEF", 1);
     row("Mask", "xyz\r", "0", 0);
     row("GevSCDA", "192.168.1.7\r", "192.168.1.7", 1);
@@ -216,17 +218,18 @@ void TestGenParamDelegate::executesOnceAClick()
 void TestGenParamDelegate::choosesFromAPopUp()
 {
     EditedTree tree;
-    tree.setRegister("ModeReg", 3);
+    tree.setRegister("ModeReg", 3); // an entry that is not available
+    QCOMPARE(tree.open<QComboBox>("Mode")->currentIndex(), -1);
+    tree.view.setCurrentIndex(QModelIndex());
+    failGetter(*tree.map, "Mode", "GetCurrentEntry");
     auto *const box = tree.open<QComboBox>("Mode");
-    QVERIFY(box);
     QCOMPARE(box->count(), 2);
-    QCOMPARE(box->currentIndex(), -1); // what is set cannot be chosen
+    QCOMPARE(box->currentIndex(), -1);
     expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
     box->showPopup();
-    QTest::keyClick(box->view(), Qt::Key_Down);
     QTest::keyClick(box->view(), Qt::Key_Return);
     QVERIFY(!tree.editor());
-    QCOMPARE(tree.text("Mode"), QStringLiteral("Continuous"));
+    QCOMPARE(tree.text("Mode"), QStringLiteral("Off"));
     QCOMPARE(tree.writes, 1);
 }
 
@@ -282,7 +285,7 @@ void TestGenParamDelegate::walkingWritesNothing()
     tree.click(tree.model->index(0, valueColumn));
     for (QModelIndex previous; tree.view.currentIndex() != previous;) {
         previous = tree.view.currentIndex();
-        tree.type(linger() ? QStringLiteral("\r\t") : QStringLiteral("_"));
+        tree.type(linger() ? QStringLiteral("\t") : QStringLiteral("_"));
     }
     QCOMPARE(tree.view.currentIndex(), tree.cell("Gone"));
     QCOMPARE(tree.writes + tree.failures, 0);
@@ -294,12 +297,12 @@ void TestGenParamDelegate::followsTheValueUntilTouched()
     EditedTree tree;
     auto *const box = tree.open<QtOrvSpinBoxVal64>("Exposure");
     QVERIFY(box);
-    tree.setRegister("ExposureReg", 12);
-    tree.map->Poll(10);
-    QCOMPARE(box->value(), 12);
+    for (const int value : {8, 12}) {
+        tree.setRegister("ExposureReg", value);
+        QCOMPARE(box->value(), value);
+    }
     tree.type(QStringLiteral("1")); // in place of the whole number
     tree.setRegister("ExposureReg", 16);
-    tree.map->Poll(10);
     tree.type(QStringLiteral("2"));
     QCOMPARE(box->text(), QStringLiteral("12"));
     QCOMPARE(tree.text("Exposure"), QStringLiteral("16us"));
@@ -307,6 +310,20 @@ void TestGenParamDelegate::followsTheValueUntilTouched()
     tree.type(QStringLiteral("\r"));
     QTRY_VERIFY(!tree.editor());
     QCOMPARE(tree.text("Exposure"), QStringLiteral("12us"));
+    QCOMPARE(tree.writes, 1);
+
+    auto *const mode = tree.open<QComboBox>("Mode");
+    QVERIFY(mode);
+    tree.setRegister("ModeReg", 10);
+    QCOMPARE(mode->currentText(), QStringLiteral("Continuous"));
+    QCOMPARE(tree.editor(), mode);
+    tree.node<GenApi::CStringPtr>("Label")->SetValue("bc");
+    auto *const edit = tree.open<QLineEdit>("Label");
+    QVERIFY(edit);
+    QTest::keyClick(edit, Qt::Key_Home);
+    tree.map->Poll(10); // reports the value, which is the same
+    tree.type(QStringLiteral("a"));
+    QCOMPARE(edit->text(), QStringLiteral("abc"));
     QCOMPARE(tree.writes, 1);
 }
 
@@ -366,17 +383,30 @@ void TestGenParamDelegate::writesForeignEditors()
 {
     EditedTree tree;
     const QModelIndex label = tree.cell("Label");
+    FeatureCamera other(FeatureCamera::allKinds());
+    GenParamTreeModel otherModel(other.map.get(), nullptr);
     QLineEdit edit(QStringLiteral("abc"));
-    tree.delegate.setModelData(&edit, tree.model.get(), label); // nothing was loaded: all of it is an entry
+    const auto write = [&](QAbstractItemModel *model) { tree.delegate.setModelData(&edit, model, label); };
+    write(&otherModel);
+    write(nullptr);
+    QCOMPARE(tree.text("Label"), QString());
+    write(tree.model.get()); // nothing was loaded: all of it is an entry
     QCOMPARE(tree.text("Label"), QStringLiteral("abc"));
     tree.delegate.setEditorData(&edit, label);
-    tree.delegate.setModelData(&edit, tree.model.get(), label);
-    tree.delegate.setModelData(&edit, nullptr, label);
+    write(tree.model.get());
+    QCOMPARE(tree.writes, 1);
+    edit.setText(QStringLiteral("1.2"));
+    write(tree.model.get());
+    write(tree.model.get());
+    QCOMPARE(tree.writes, 2);
+    edit.setValidator(new IP4Validator(&edit));
+    edit.setText(QStringLiteral("1.2."));
+    write(tree.model.get());
     tree.delegate.setModelData(nullptr, tree.model.get(), label);
     tree.delegate.setEditorData(nullptr, label);
     tree.delegate.captureMouseForEditor(nullptr);
     QVERIFY(!tree.delegate.createEditor(&tree.view, {}, QModelIndex()));
-    QCOMPARE(tree.writes, 1);
+    QCOMPARE(tree.writes, 2);
 }
 
 ORV_TEST_MAIN(TestGenParamDelegate)
