@@ -208,7 +208,9 @@ private:
     GenApi::EAccessMode computeAccessMode() const;
     [[noreturn]] void throwNoAccess(const char *what) const;
 
+    // Names and callbacks are what every row of a feature tree asks for first: they share a cache line with m_map.
     const char *m_name;
+    GenApi::CallbackList m_callbacks;
     uint32_t m_index = 0; ///< place among the nodes of the map
     const char *m_displayName = nullptr; ///< null: as the name
     const char *m_toolTip = "";
@@ -219,7 +221,6 @@ private:
     Node *m_isLocked = nullptr;
     std::vector<Node *> m_dependents;
     std::unique_ptr<SelectorLinks> m_selectorLinks;
-    GenApi::CallbackList m_callbacks;
     int64_t m_pollingTime = -1; ///< milliseconds
     int64_t m_pollClock = 0; ///< milliseconds since the last poll
     mutable uint64_t m_accessEvaluation = 0; ///< the evaluation that worked out m_access
