@@ -10,7 +10,6 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMetaProperty>
-#include <QMouseEvent>
 #include <QPointer>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -53,25 +52,11 @@ bool hasBadEntry(const QWidget *editor)
     return edit && !edit->hasAcceptableInput();
 }
 
-/** Whether \a editor is of a class that the model hands out; others are the base class's to read. */
-bool isOwnKind(const QWidget *editor)
-{
-    return qobject_cast<const QComboBox *>(editor) || qobject_cast<const QtOrvSpinBoxVal64 *>(editor)
-        || qobject_cast<const QDoubleSpinBox *>(editor) || qobject_cast<const QLineEdit *>(editor);
-}
-
-/** What the model would be given. */
+/** What the model would be given: a combo box's item data, else the property that views go by. */
 QVariant valueOf(const QWidget *editor)
 {
-    if (const auto *const box = qobject_cast<const QComboBox *>(editor))
-        return box->currentData(Qt::UserRole);
-    if (const auto *const box = qobject_cast<const QtOrvSpinBoxVal64 *>(editor))
-        return qint64(box->value());
-    if (const auto *const box = qobject_cast<const QDoubleSpinBox *>(editor))
-        return box->value();
-    if (const auto *const edit = qobject_cast<const QLineEdit *>(editor))
-        return edit->text();
-    return editor->metaObject()->userProperty().read(editor);
+    const auto *const box = qobject_cast<const QComboBox *>(editor);
+    return box ? box->currentData(Qt::UserRole) : editor->metaObject()->userProperty().read(editor);
 }
 
 /** What tells whether an editor was changed: of a combo box the item, as several may have the same data. */
@@ -233,7 +218,7 @@ bool load(QWidget *editor, const QVariant &value)
         return false;
     if (auto *const box = qobject_cast<QComboBox *>(editor)) {
         box->setCurrentIndex(box->findData(withoutWrapper(value)));
-        box->update();
+        box->update(); // not left to the signals, which are held
     }
     return true;
 }
@@ -254,8 +239,6 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    bool isOnEditor(const QWidget *receiver, const QMouseEvent &press) const;
-
     const QPointer<const GenParamDelegate> m_delegate;
     QWidget *const m_editor;
 };
@@ -265,23 +248,14 @@ bool GenParamDelegate::MouseTracker::eventFilter(QObject *watched, QEvent *event
 {
     if (event->type() != QEvent::MouseButtonPress || !watched->isWidgetType())
         return false;
-    if (isOnEditor(static_cast<QWidget *>(watched), *static_cast<QMouseEvent *>(event)))
+    // Who gets the press tells where the mouse is: an editor that has just appeared under it does not know yet.
+    if (belongsTo(static_cast<QWidget *>(watched), m_editor))
         return false;
     const QPointer<QObject> receiver(watched);
     QCoreApplication::instance()->removeEventFilter(this);
     if (m_delegate)
         m_delegate->releaseFocus(m_editor);
     return !receiver;
-}
-
-/** Goes by who gets the press: an editor that has just appeared under a resting mouse does not know of it yet. */
-bool GenParamDelegate::MouseTracker::isOnEditor(const QWidget *receiver, const QMouseEvent &press) const
-{
-    if (belongsTo(receiver, m_editor))
-        return true;
-    // What the editor does not take is offered to its parents.
-    return receiver->isAncestorOf(m_editor) && m_editor->isVisible()
-        && m_editor->rect().contains(m_editor->mapFromGlobal(press.globalPos()));
 }
 
 GenParamDelegate::GenParamDelegate(QObject *parent)
@@ -375,7 +349,7 @@ void GenParamDelegate::setEditorData(QWidget *editor, const QModelIndex &index) 
 
 void GenParamDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
 {
-    // When a view gets another model, editors of the old one lose the focus while they go.
+    // Some view may have got another model meanwhile, which would take the index for its own.
     if (!editor || !model || index.model() != model)
         return;
     EditorSession &session = EditorSession::of(editor);
@@ -392,7 +366,7 @@ void GenParamDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, 
     if (hasBadEntry(editor) || !session.hasEntry(index))
         return;
     const EditorSession::Commit commit(session);
-    if (isOwnKind(editor))
+    if (qobject_cast<QComboBox *>(editor))
         model->setData(index, valueOf(editor), Qt::EditRole);
     else
         QStyledItemDelegate::setModelData(editor, model, index);

@@ -12,6 +12,9 @@ TreeViewResizer::TreeViewResizer(QTreeView *view)
     m_view->installEventFilter(this);
     m_viewport->installEventFilter(this);
     m_viewport->setMouseTracking(true);
+    // A header asks for room for its titles, which are not shown here.
+    QHeaderView *const header = m_view->header();
+    header->setMinimumSectionSize(qMin(m_minimumWidth, header->minimumSectionSize()));
 }
 
 QModelIndex TreeViewResizer::ifResizable(const QPoint &pos) const
@@ -59,7 +62,7 @@ bool TreeViewResizer::filterMove(const QMouseEvent &event)
     const int delta = x - m_lastX;
     m_lastX = x;
     QHeaderView *const header = m_view->header();
-    header->resizeSection(m_column, qMax(2 * m_hitHalfWidth, header->sectionSize(m_column) + delta));
+    header->resizeSection(m_column, qMax(m_minimumWidth, header->sectionSize(m_column) + delta));
     return true;
 }
 

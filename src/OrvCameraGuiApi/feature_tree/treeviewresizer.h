@@ -8,7 +8,8 @@ class QTreeView;
 
 /**
  * Lets the user resize the columns of a tree view whose header is hidden, by dragging the right edge of any cell. The
- * last column has none, and only columns whose header section is interactive can be resized.
+ * last column has none, and only columns whose header section is interactive can be resized. A column can be made as
+ * narrow as 10 pixels, also where its header would ask for more.
  */
 class TreeViewResizer : public QObject
 {
@@ -34,6 +35,7 @@ private:
 
     QTreeView *const m_view;
     const int m_hitHalfWidth = 5; ///< of the zone in which an edge is hit, in pixels
+    const int m_minimumWidth = 2 * m_hitHalfWidth; ///< of a column, in pixels
     bool m_resizing = false;
     int m_column = 0; ///< that is being resized
     int m_lastX = 0; ///< of the mouse while resizing, in screen coordinates
