@@ -215,6 +215,7 @@ void TestOrvGenParamTreeView::filters()
 
     QToolButton *const options = filterButton(shown, "Filter options");
     QVERIFY(showsIcon(options->icon(), "://images//options.png"));
+    expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
     QTest::mouseClick(options, Qt::LeftButton);
     QWidget *const popup = QApplication::activePopupWidget();
     QCOMPARE(popup->objectName(), QStringLiteral("FilterOptions"));

@@ -11,7 +11,6 @@ namespace {
 const char *const platformNoise[] = {
     "This plugin does not support propagateSizeHints()",
     "This plugin does not support raise()",
-    "This plugin does not support grabbing the keyboard",
 };
 
 struct Watch
