@@ -1,0 +1,417 @@
+#include <OrvCameraGuiApi/feature_tree/genparamdelegate.h>
+
+#include <OrvCameraGuiApi/feature_tree/controldata.h>
+#include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
+#include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMetaProperty>
+#include <QPointer>
+#include <QPushButton>
+#include <QSignalBlocker>
+
+#include <cmath>
+
+namespace {
+
+/** Whether \a widget is \a owner, a part of it or a window that it has opened, such as a pop-up. */
+bool belongsTo(const QWidget *widget, const QWidget *owner)
+{
+    while (widget && widget != owner)
+        widget = widget->parentWidget();
+    return widget;
+}
+
+/** Where text is typed; null in an editor without. */
+QLineEdit *textFieldOf(QWidget *editor)
+{
+    auto *const field = qobject_cast<QLineEdit *>(editor);
+    return field || !qobject_cast<QAbstractSpinBox *>(editor) ? field : editor->findChild<QLineEdit *>();
+}
+
+bool hasAcceptableText(const QWidget *editor)
+{
+    if (const auto *const edit = qobject_cast<const QLineEdit *>(editor))
+        return edit->hasAcceptableInput();
+    const auto *const box = qobject_cast<const QAbstractSpinBox *>(editor);
+    QString text = box ? box->text() : QString();
+    int position = 0;
+    return !box || box->validate(text, position) == QValidator::Acceptable;
+}
+
+/** Of which nothing may be written, whoever asks: a view that changes its current item does not ask a validator. */
+bool hasBadEntry(const QWidget *editor)
+{
+    if (const auto *const box = qobject_cast<const QComboBox *>(editor))
+        return box->currentIndex() < 0;
+    const auto *const edit = qobject_cast<const QLineEdit *>(editor);
+    return edit && !edit->hasAcceptableInput();
+}
+
+/** What the model would be given: a combo box's item data, else the property that views go by. */
+QVariant valueOf(const QWidget *editor)
+{
+    const auto *const box = qobject_cast<const QComboBox *>(editor);
+    return box ? box->currentData(Qt::UserRole) : editor->metaObject()->userProperty().read(editor);
+}
+
+/** What tells whether an editor was changed: of a combo box the item, as several may have the same data. */
+QVariant contentOf(const QWidget *editor)
+{
+    const auto *const box = qobject_cast<const QComboBox *>(editor);
+    return box ? box->currentIndex() : valueOf(editor);
+}
+
+/** Exact, unlike the comparison of variants: numbers differ however near they are, and nothing is converted. */
+bool isSame(const QVariant &a, const QVariant &b)
+{
+    if (a.userType() != b.userType())
+        return false;
+    if (a.userType() != QMetaType::Double)
+        return a == b;
+    const double first = a.toDouble();
+    const double second = b.toDouble();
+    return !(first < second || first > second) && std::isnan(first) == std::isnan(second);
+}
+
+QVariant withoutWrapper(const QVariant &value)
+{
+    return value.userType() == qMetaTypeId<VariantData>() ? value.value<VariantData>().value : value;
+}
+
+bool isEnter(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_Enter || event.key() == Qt::Key_Return;
+}
+
+/** What an editor was loaded with and what the user has done to it since; a child of the editor. */
+class EditorSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** Marks the time in which a value is being written. The editor lives at least as long. */
+    class Commit
+    {
+    public:
+        explicit Commit(EditorSession &session);
+        ~Commit();
+        Q_DISABLE_COPY(Commit)
+
+    private:
+        const QPointer<EditorSession> m_session;
+    };
+
+    static EditorSession *find(const QWidget *editor);
+    static EditorSession &of(QWidget *editor);
+
+    bool isTouched() const { return m_isTouched; }
+    bool isLoadedWith(const QVariant &value) const { return m_isLoaded && isSame(m_loadedValue, value); }
+    void setLoaded(const QVariant &value);
+
+    /** \a confirmed: the user has ended the entry with Enter. */
+    void setConfirmed(bool confirmed) { m_isConfirmed = confirmed && m_isTouched; }
+    bool hasEntry(const QModelIndex &index) const;
+
+    bool isCommitting() const { return m_commits > 0; }
+    void deleteEditorAfterCommit() { m_isEditorDoomed = true; }
+
+private:
+    explicit EditorSession(QWidget *editor);
+
+    QWidget *const m_editor;
+    QVariant m_loadedValue; ///< the feature's
+    QVariant m_loadedContent; ///< what the editor made of it
+    int m_commits = 0; ///< that are going on, one inside the other
+    bool m_isLoaded = false;
+    bool m_isTouched = false;
+    bool m_isConfirmed = false;
+    bool m_isEditorDoomed = false;
+};
+
+EditorSession::EditorSession(QWidget *editor)
+    : QObject(editor)
+    , m_editor(editor)
+{
+    const auto touch = [this] { m_isTouched = true; };
+    if (const QLineEdit *const field = textFieldOf(editor))
+        connect(field, &QLineEdit::textEdited, this, touch);
+    // Loading keeps the editor quiet: what it emits is the user's doing.
+    if (const auto *const box = qobject_cast<QtOrvSpinBoxVal64 *>(editor))
+        connect(box, qOverload<long long>(&QtOrvSpinBoxVal64::valueChanged), this, touch);
+    else if (const auto *const doubleBox = qobject_cast<QDoubleSpinBox *>(editor))
+        connect(doubleBox, qOverload<double>(&QDoubleSpinBox::valueChanged), this, touch);
+}
+
+EditorSession *EditorSession::find(const QWidget *editor)
+{
+    return editor ? editor->findChild<EditorSession *>(QString(), Qt::FindDirectChildrenOnly) : nullptr;
+}
+
+EditorSession &EditorSession::of(QWidget *editor)
+{
+    EditorSession *const session = find(editor);
+    return session ? *session : *new EditorSession(editor);
+}
+
+void EditorSession::setLoaded(const QVariant &value)
+{
+    m_loadedValue = value;
+    m_loadedContent = contentOf(m_editor);
+    m_isLoaded = true;
+}
+
+/** An editor that nothing was ever loaded into always has one. */
+bool EditorSession::hasEntry(const QModelIndex &index) const
+{
+    if (!m_isLoaded || !isSame(contentOf(m_editor), m_loadedContent))
+        return true;
+    return m_isConfirmed && !isSame(valueOf(m_editor), withoutWrapper(index.data(Qt::EditRole)));
+}
+
+EditorSession::Commit::Commit(EditorSession &session)
+    : m_session(&session)
+{
+    // Whatever comes of it, this entry is written once; the live value may then take its place.
+    session.m_loadedValue.clear();
+    session.m_loadedContent = contentOf(session.m_editor);
+    session.m_isTouched = false;
+    session.m_isConfirmed = false;
+    ++session.m_commits;
+}
+
+EditorSession::Commit::~Commit()
+{
+    if (m_session && --m_session->m_commits == 0 && m_session->m_isEditorDoomed)
+        m_session->m_editor->deleteLater();
+}
+
+template <typename Editor, typename Value>
+void setValueOf(QWidget *editor, void (Editor::*setter)(Value), const QVariant &value)
+{
+    if (auto *const expected = qobject_cast<Editor *>(editor))
+        (expected->*setter)(value.value<std::decay_t<Value>>());
+}
+
+/** False when \a value is of a type that none of the model's editors shows. */
+bool load(QWidget *editor, const QVariant &value)
+{
+    switch (value.userType()) {
+    case QMetaType::LongLong:
+        setValueOf(editor, &QtOrvSpinBoxVal64::setValue, value);
+        return true;
+    case QMetaType::Double:
+        setValueOf(editor, &QDoubleSpinBox::setValue, value);
+        return true;
+    case QMetaType::QString:
+        setValueOf(editor, &QLineEdit::setText, value);
+        return true;
+    default:
+        break;
+    }
+    if (value.userType() != QMetaType::Bool && value.userType() != QMetaType::ULongLong
+        && value.userType() < QMetaType::User)
+        return false;
+    if (auto *const box = qobject_cast<QComboBox *>(editor)) {
+        box->setCurrentIndex(box->findData(withoutWrapper(value)));
+        box->update(); // not left to the signals, which are held
+    }
+    return true;
+}
+
+} // namespace
+
+/** Ends the editing of an editor at a press of a mouse button outside it; a child of the editor. */
+class GenParamDelegate::MouseTracker : public QObject
+{
+public:
+    MouseTracker(const GenParamDelegate *delegate, QWidget *editor)
+        : QObject(editor)
+        , m_delegate(delegate)
+        , m_editor(editor)
+    {
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    const QPointer<const GenParamDelegate> m_delegate;
+    QWidget *const m_editor;
+};
+
+/** The press goes on to \a watched, unless that is gone by then. */
+bool GenParamDelegate::MouseTracker::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::MouseButtonPress || !watched->isWidgetType())
+        return false;
+    // Who gets the press tells where the mouse is: an editor that has just appeared under it does not know yet.
+    if (belongsTo(static_cast<QWidget *>(watched), m_editor))
+        return false;
+    const QPointer<QObject> receiver(watched);
+    QCoreApplication::instance()->removeEventFilter(this);
+    if (m_delegate)
+        m_delegate->releaseFocus(m_editor);
+    return !receiver;
+}
+
+GenParamDelegate::GenParamDelegate(QObject *parent)
+    : QStyledItemDelegate(parent)
+{
+}
+
+GenParamDelegate::~GenParamDelegate() = default;
+
+QWidget *GenParamDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                                        const QModelIndex &index) const
+{
+    const auto control = index.data(GenParamTreeModel::ControlDataRole).value<ControlData>();
+    if (!control.editor) {
+        QWidget *const editor = QStyledItemDelegate::createEditor(parent, option, index);
+        captureMouseForEditor(editor);
+        return editor;
+    }
+    control.editor->setParent(parent);
+    // Else one without a cursor of its own takes over the viewport's, which may be that of a column's edge.
+    if (!control.editor->testAttribute(Qt::WA_SetCursor))
+        control.editor->setCursor(Qt::ArrowCursor);
+    connectEditor(control.editor, control.kind);
+    return control.editor;
+}
+
+void GenParamDelegate::connectEditor(QWidget *editor, int kind) const
+{
+    // Editors are made by a const operation, but what they have to say later comes from the delegate itself.
+    auto *const self = const_cast<GenParamDelegate *>(this);
+    if (auto *const button = qobject_cast<QPushButton *>(editor); button && kind == ControlData::PushButton) {
+        connect(button, &QPushButton::clicked, this, [self, button] {
+            button->setWindowModified(true);
+            Q_EMIT self->commitData(button);
+        });
+    } else if (auto *const box = qobject_cast<QComboBox *>(editor); box && kind == ControlData::ComboBox) {
+        // A new combo box shows its first item, which is not the value of a feature that cannot be read.
+        box->setCurrentIndex(-1);
+        connect(box, qOverload<int>(&QComboBox::currentIndexChanged), this, [self, box] {
+            const QPointer<QComboBox> alive(box);
+            Q_EMIT self->commitData(box);
+            if (alive)
+                Q_EMIT self->closeEditor(box, NoHint);
+        });
+    } else {
+        // Typing alone changes no value: a text that is no number would leave behind what its beginning stood for.
+        if (auto *const number = qobject_cast<QDoubleSpinBox *>(editor))
+            number->setKeyboardTracking(false);
+        captureMouseForEditor(editor);
+    }
+}
+
+void GenParamDelegate::captureMouseForEditor(QWidget *editor) const
+{
+    if (editor)
+        QCoreApplication::instance()->installEventFilter(new MouseTracker(this, editor));
+}
+
+void GenParamDelegate::releaseFocus(QWidget *editor) const
+{
+    QWidget *const focus = QApplication::focusWidget();
+    if (belongsTo(focus, editor))
+        focus->clearFocus();
+    else
+        editor->clearFocus();
+}
+
+void GenParamDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
+{
+    if (!editor)
+        return;
+    EditorSession &session = EditorSession::of(editor);
+    if (session.isTouched())
+        return;
+    const QVariant value = index.data(Qt::EditRole);
+    // Polling reports many a value that is still the same: cursor and selection then stay as they are.
+    if (session.isLoadedWith(withoutWrapper(value)))
+        return;
+    QLineEdit *const field = textFieldOf(editor);
+    const bool isSelected = field && field->hasSelectedText();
+    {
+        const QSignalBlocker quiet(editor);
+        if (!load(editor, value))
+            QStyledItemDelegate::setEditorData(editor, index);
+    }
+    // What is typed next is to replace the new value as it would have replaced the old one.
+    if (isSelected)
+        field->selectAll();
+    session.setLoaded(withoutWrapper(value));
+}
+
+void GenParamDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
+{
+    // Some view may have got another model meanwhile, which would take the index for its own.
+    if (!editor || !model || index.model() != model)
+        return;
+    EditorSession &session = EditorSession::of(editor);
+    if (auto *const button = qobject_cast<QPushButton *>(editor)) {
+        if (!button->isWindowModified())
+            return;
+        button->setWindowModified(false);
+        const EditorSession::Commit commit(session);
+        model->setData(index, true, Qt::EditRole);
+        return;
+    }
+    if (auto *const number = qobject_cast<QDoubleSpinBox *>(editor); number && session.isTouched())
+        number->interpretText();
+    if (hasBadEntry(editor) || !session.hasEntry(index))
+        return;
+    const EditorSession::Commit commit(session);
+    if (qobject_cast<QComboBox *>(editor))
+        model->setData(index, valueOf(editor), Qt::EditRole);
+    else
+        QStyledItemDelegate::setModelData(editor, model, index);
+}
+
+void GenParamDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
+                                            const QModelIndex &) const
+{
+    if (editor)
+        editor->setGeometry(option.rect);
+}
+
+void GenParamDelegate::destroyEditor(QWidget *editor, const QModelIndex &index) const
+{
+    // A slot that runs an event loop of its own, such as a message about the failed write, can get here in the middle
+    // of a commit, and the view goes on using the editor after it.
+    EditorSession *const session = EditorSession::find(editor);
+    if (session && session->isCommitting())
+        session->deleteEditorAfterCommit();
+    else
+        QStyledItemDelegate::destroyEditor(editor, index);
+}
+
+bool GenParamDelegate::eventFilter(QObject *watched, QEvent *event)
+{
+    auto *const editor = qobject_cast<QWidget *>(watched);
+    if (editor && event->type() == QEvent::Wheel) {
+        // An editor may lie under the mouse only because its row is current: the wheel is meant for the view.
+        event->ignore();
+        return true;
+    }
+    if (editor && event->type() == QEvent::KeyPress && isEnter(*static_cast<QKeyEvent *>(event)))
+        return filterEnter(editor, static_cast<QKeyEvent *>(event));
+    return QStyledItemDelegate::eventFilter(watched, event);
+}
+
+bool GenParamDelegate::filterEnter(QWidget *editor, QKeyEvent *event)
+{
+    if (auto *const button = qobject_cast<QPushButton *>(editor)) {
+        if (!event->isAutoRepeat()) // a key held too long executes once
+            button->click();
+        return true;
+    }
+    EditorSession::of(editor).setConfirmed(hasAcceptableText(editor));
+    return QStyledItemDelegate::eventFilter(editor, event);
+}
+
+#include "genparamdelegate.moc"

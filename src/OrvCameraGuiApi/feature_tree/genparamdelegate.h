@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+class QKeyEvent;
+
+/**
+ * Edits the values of a GenParamTreeModel, directly or behind proxies, with the editors that the model makes.
+ *
+ * Nothing is written that the user did not enter, so a view may open editors wherever the current item goes. An editor
+ * that still shows what was loaded closes without writing, and so does a combo box without current item, a text that
+ * its validator does not accept and a button that was not clicked. While an editor is untouched it follows the value of
+ * its feature; what the user has begun to enter is neither replaced nor written when the value changes meanwhile.
+ *
+ * When an entry is written:
+ * - a combo box: as soon as another item becomes current; it closes then;
+ * - a command's button: executes at every click, and at Enter; it stays open;
+ * - everything else: at Enter, and when the editor loses the focus, for which a click anywhere outside is enough. An
+ *   integer that was typed counts only with Enter; one that was stepped to counts always.
+ *
+ * An entry equal to what was loaded is written too if it was confirmed with Enter and the feature has another value by
+ * then, or one that the editor could not show. The mouse wheel changes no value: it scrolls the view.
+ *
+ * A write that fails is the model's to report; the editor closes all the same and the view shows the value as it is.
+ */
+class GenParamDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    explicit GenParamDelegate(QObject *parent = nullptr);
+    ~GenParamDelegate() override;
+
+    /** The editor that the model hands out for \a index, now owned by \a parent; the base class's where it has none. */
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+
+    /**
+     * Shows the value of \a index in \a editor, which emits nothing meanwhile. Does nothing once the user has touched
+     * the editor. An editor of another class than the value asks for is left as it is.
+     */
+    void setEditorData(QWidget *editor, const QModelIndex &index) const override;
+
+    /** Writes the entry in \a editor, if there is one; see the class. \a index has to be of \a model. */
+    void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override;
+
+    /** The editor fills the cell, whatever its size hint. */
+    void updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
+                              const QModelIndex &index) const override;
+
+    /** Deletes \a editor later; when its entry is being written, not before that has ended. */
+    void destroyEditor(QWidget *editor, const QModelIndex &index) const override;
+
+    /**
+     * From now on \a editor loses the focus, which ends editing, at the next press of a mouse button anywhere in the
+     * application but on the editor, its pop-ups and its context menu. Null is ignored.
+     */
+    void captureMouseForEditor(QWidget *editor) const;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    class MouseTracker;
+
+    void connectEditor(QWidget *editor, int kind) const;
+    bool filterEnter(QWidget *editor, QKeyEvent *event);
+    void releaseFocus(QWidget *editor) const;
+};

@@ -1,0 +1,414 @@
+#include "featurecamera.h"
+#include "orvtest.h"
+#include "windowmouse.h"
+
+#include <OrvCameraGuiApi/device_selection/ip4validator.h>
+#include <OrvCameraGuiApi/feature_tree/genparamdelegate.h>
+#include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
+#include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
+#include <OrvGenApi/testing/faults.h>
+
+#include <QComboBox>
+#include <QDialog>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
+#include <QTreeView>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+using OrvGenApi::testing::failGetter;
+
+namespace {
+
+constexpr int valueColumn = GenParamTreeModel::ValueColumn;
+
+/** A tree view over a camera that opens an editor for the current item, and a label beside it; registers are polled. */
+struct EditedTree : FeatureCamera
+{
+    EditedTree();
+
+    /** The value cell of a feature. */
+    QModelIndex cell(const char *name) const;
+    QString text(const char *name) const { return cell(name).data().toString(); }
+    /** The editor that is open, or null. */
+    QWidget *editor() const;
+    /** Clicks the value cell; null when another editor opens. */
+    template <typename Editor>
+    Editor *open(const char *name);
+    void click(const QModelIndex &index);
+    void clickOutside() { WindowMouse::click(&label, label.rect().center()); }
+    /** Into what has the focus; "^" and "_" are the keys Up and Down, "|" is a click outside. */
+    void type(const QString &keys);
+    /** The model reports it at once. */
+    void setRegister(const char *name, qint64 value) { node<GenApi::CIntegerPtr>(name)->SetValue(value); }
+
+    QWidget window;
+    QTreeView view;
+    QLabel label{QStringLiteral("outside")};
+    std::unique_ptr<GenParamTreeModel> model;
+    GenParamDelegate delegate;
+    int writes = 0;
+    int failures = 0; ///< of writes
+};
+
+EditedTree::EditedTree()
+    : FeatureCamera(allKinds().replace("<pPort>", "<PollingTime>10</PollingTime><pPort>"))
+    , model(new GenParamTreeModel(map.get(), nullptr))
+{
+    const auto isWrite = [](int role) { return role == GenParamTreeModel::ValueInterfaceRole ? 1 : 0; };
+    QObject::connect(model.get(), &GenParamTreeModel::errorDisappeared, &window,
+                     [=](const QModelIndex &, const QString &, int role) { writes += isWrite(role); });
+    QObject::connect(model.get(), &GenParamTreeModel::errorAppeared, &window,
+                     [=](const QModelIndex &, const QString &, const QString &, int r) { failures += isWrite(r); });
+    view.setEditTriggers(QAbstractItemView::CurrentChanged | QAbstractItemView::DoubleClicked
+                         | QAbstractItemView::SelectedClicked | QAbstractItemView::EditKeyPressed);
+    view.setItemDelegateForColumn(valueColumn, &delegate);
+    view.setModel(model.get());
+    view.expandAll();
+    auto *const layout = new QVBoxLayout(&window);
+    layout->addWidget(&view);
+    layout->addWidget(&label);
+    window.resize(500, 700);
+    window.show();
+    window.activateWindow();
+    if (!QTest::qWaitForWindowActive(&window))
+        qFatal("The window does not become active");
+}
+
+QModelIndex EditedTree::cell(const char *name) const
+{
+    for (QModelIndex index = model->index(0, valueColumn); index.isValid(); index = view.indexBelow(index)) {
+        auto *const value = index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
+        if (GenApi::CNodePtr(value)->GetName() == name)
+            return index.siblingAtColumn(valueColumn);
+    }
+    return {};
+}
+
+QWidget *EditedTree::editor() const
+{
+    const auto children = view.viewport()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    const auto open = std::find_if(children.begin(), children.end(), [](QWidget *child) { return child->isVisible(); });
+    return open == children.end() ? nullptr : *open;
+}
+
+template <typename Editor>
+Editor *EditedTree::open(const char *name)
+{
+    click(cell(name));
+    return qobject_cast<Editor *>(editor());
+}
+
+void EditedTree::click(const QModelIndex &index)
+{
+    WindowMouse::click(view.viewport(), view.visualRect(index).center());
+}
+
+void EditedTree::type(const QString &keys)
+{
+    for (const QChar key : keys) {
+        if (key == QLatin1Char('|'))
+            clickOutside();
+        else if (key == QLatin1Char('^') || key == QLatin1Char('_'))
+            QTest::keyClick(QApplication::focusWidget(), key == QLatin1Char('^') ? Qt::Key_Up : Qt::Key_Down);
+        else
+            QTest::keyClick(QApplication::focusWidget(), key.toLatin1());
+    }
+}
+
+} // namespace
+
+class TestGenParamDelegate : public OrvTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void edits_data();
+    void edits();
+    void executesOnceAClick();
+    void choosesFromAPopUp();
+    void clicksInsideKeepTheEditor();
+    void walkingWritesNothing_data();
+    void walkingWritesNothing();
+    void followsTheValueUntilTouched();
+    void survivesAnotherModel();
+    void survivesItsEditorGoingWhileItWrites_data();
+    void survivesItsEditorGoingWhileItWrites();
+    void writesForeignEditors();
+};
+
+void TestGenParamDelegate::edits_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("writes");
+    const auto row = [](const char *name, const char *keys, const char *text, int writes) {
+        QTest::addRow("%s %s", name, QByteArray(keys).replace('\r', "Enter").replace('\t', "Tab").constData())
+            << QByteArray(name) << QString::fromLatin1(keys) << QString::fromLatin1(text) << writes;
+    };
+    row("Exposure", "40\r", "40us", 1);
+    row("Exposure", "42\r", "44us", 1); // in steps of 4
+    row("Exposure", "40|", "0us", 0);
+    row("Exposure", "^^|", "8us", 1);
+    row("Exposure", "^_|", "0us", 0);
+    row("Exposure", "4\b-\r", "0us", 0);
+    row("Exposure", "\r", "0us", 0);
+    row("Mask", "beef\r", "BEEF", 1);
+    row("Mask", "xyz\r", "0", 0);
+    row("GevSCDA", "192.168.1.7\r", "192.168.1.7", 1);
+    row("GevSCDA", "192.168.1.7|", "192.168.1.7", 1);
+    row("GevSCDA", "192.168.\r", "0.0.0.0", 0);
+    row("GevSCDA", "192.168.|", "0.0.0.0", 0);
+    row("GevSCDA", "\b\r", "0.0.0.0", 0);
+    row("GevMACAddress", "258\r", "00:00:00:00:01:02", 1);
+    row("GevMACAddress", "0\r", "00:00:00:00:00:00", 1); // what the box shows is not the value
+    row("GevMACAddress", "-\r", "00:01:A2:B3:C4:D5", 0);
+    row("Key", "0\r", "<Value not readable>", 1);
+    row("Binning", "_", "4px", 1);
+    row("Binning", "8\r", "2px", 0);
+    row("Flag", "^", "True", 1);
+    row("Mode", "_", "Continuous", 1);
+    row("Gain", "2.5\r", "2.500dB", 1);
+    row("Gain", "2.5|", "2.500dB", 1);
+    row("Gain", "2.25\t", "2.250dB", 1);
+    row("Gain", "2^|", "2.250dB", 1);
+    row("Gain", "9\r", "1.500dB", 0);
+    row("Gain", "2\b\r", "1.500dB", 0); // though it was a number for a moment
+    row("Gain", "2\b|", "1.500dB", 0);
+    row("Label", "abc\r", "abc", 1);
+    row("Label", "abc|", "abc", 1);
+    row("Label", "abc\x1b", "", 0);
+    row("Start", " \r ", "Execute", 3);
+}
+
+void TestGenParamDelegate::edits()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(QString, keys);
+    EditedTree tree;
+    tree.setRegister("MacReg", 0x0001A2B3C4D5);
+    QVERIFY(tree.open<QWidget>(name));
+    tree.type(keys);
+    QCoreApplication::processEvents();
+    tree.view.setCurrentIndex(QModelIndex());
+    QTRY_VERIFY(!tree.editor());
+    QTEST(tree.text(name), "text");
+    QTEST(tree.writes, "writes");
+    QCOMPARE(tree.failures, 0);
+}
+
+void TestGenParamDelegate::executesOnceAClick()
+{
+    EditedTree tree;
+    auto *const button = tree.open<QPushButton>("Start");
+    QVERIFY(button);
+    WindowMouse::click(button, button->rect().center());
+    QCOMPARE(tree.writes, 1);
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
+    QCoreApplication::sendEvent(button, &held);
+    QCOMPARE(tree.editor(), button);
+    tree.view.setCurrentIndex(QModelIndex());
+    QCOMPARE(tree.writes, 1);
+}
+
+void TestGenParamDelegate::choosesFromAPopUp()
+{
+    EditedTree tree;
+    tree.setRegister("ModeReg", 3); // an entry that is not available
+    QCOMPARE(tree.open<QComboBox>("Mode")->currentIndex(), -1);
+    tree.view.setCurrentIndex(QModelIndex());
+    failGetter(*tree.map, "Mode", "GetCurrentEntry");
+    auto *const box = tree.open<QComboBox>("Mode");
+    QCOMPARE(box->count(), 2);
+    QCOMPARE(box->currentIndex(), -1);
+    expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
+    box->showPopup();
+    QTest::keyClick(box->view(), Qt::Key_Return);
+    QVERIFY(!tree.editor());
+    QCOMPARE(tree.text("Mode"), QStringLiteral("Off"));
+    QCOMPARE(tree.writes, 1);
+}
+
+void TestGenParamDelegate::clicksInsideKeepTheEditor()
+{
+    EditedTree tree;
+    auto *const box = tree.open<QtOrvSpinBoxVal64>("Exposure");
+    QVERIFY(box);
+    tree.click(tree.cell("Exposure")); // into its text
+    WindowMouse::click(box, box->rect().topRight() + QPoint(-4, 3));
+    QTest::mouseClick(box->findChild<QLineEdit *>(), Qt::RightButton);
+    QCOMPARE(tree.editor(), box);
+    QCOMPARE(box->value(), 4);
+    QCOMPARE(tree.writes, 0);
+    tree.clickOutside();
+    QVERIFY(!tree.editor());
+    QCOMPARE(tree.writes, 1);
+}
+
+void TestGenParamDelegate::walkingWritesNothing_data()
+{
+    // Within all ranges; beyond them and no entries of lists; the end of 64 bits.
+    QTest::addColumn<qint64>("content");
+    for (const qint64 content : {qint64(0), qint64(-1), std::numeric_limits<qint64>::min()})
+        QTest::addRow("%lld", static_cast<long long>(content)) << content;
+}
+
+void TestGenParamDelegate::walkingWritesNothing()
+{
+    QFETCH(qint64, content);
+    EditedTree tree;
+    for (const char *name : {"ExposureReg", "AddressReg", "MacReg", "MaskReg", "FlagReg", "ModeReg"})
+        tree.setRegister(name, content);
+    tree.node<GenApi::CFloatPtr>("Gain")->SetValue(1.2345678, false); // more digits than are shown
+    const quint64 writes = tree.port.writeCount();
+    int editors = 0;
+    const auto linger = [&] {
+        tree.map->Poll(10);
+        QCoreApplication::processEvents();
+        editors += tree.editor() ? 1 : 0;
+        return tree.editor();
+    };
+    for (QModelIndex row = tree.model->index(0, 0); row.isValid(); row = tree.view.indexBelow(row)) {
+        tree.click(row.siblingAtColumn(valueColumn));
+        if (QWidget *const editor = linger()) {
+            const QPoint pos = editor->rect().center();
+            QWheelEvent wheel(pos, editor->mapToGlobal(pos), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(editor, &wheel);
+        }
+        tree.click(row);
+    }
+    QCOMPARE(editors, 14);
+    tree.click(tree.model->index(0, valueColumn));
+    for (QModelIndex previous; tree.view.currentIndex() != previous;) {
+        previous = tree.view.currentIndex();
+        tree.type(linger() ? QStringLiteral("\t") : QStringLiteral("_"));
+    }
+    QCOMPARE(tree.view.currentIndex(), tree.cell("Gone"));
+    QCOMPARE(tree.writes + tree.failures, 0);
+    QCOMPARE(tree.port.writeCount(), writes);
+}
+
+void TestGenParamDelegate::followsTheValueUntilTouched()
+{
+    EditedTree tree;
+    auto *const box = tree.open<QtOrvSpinBoxVal64>("Exposure");
+    QVERIFY(box);
+    for (const int value : {8, 12}) {
+        tree.setRegister("ExposureReg", value);
+        QCOMPARE(box->value(), value);
+    }
+    tree.type(QStringLiteral("1")); // in place of the whole number
+    tree.setRegister("ExposureReg", 16);
+    tree.type(QStringLiteral("2"));
+    QCOMPARE(box->text(), QStringLiteral("12"));
+    QCOMPARE(tree.text("Exposure"), QStringLiteral("16us"));
+    // The number that was loaded, but not the feature's any more.
+    tree.type(QStringLiteral("\r"));
+    QTRY_VERIFY(!tree.editor());
+    QCOMPARE(tree.text("Exposure"), QStringLiteral("12us"));
+    QCOMPARE(tree.writes, 1);
+
+    auto *const mode = tree.open<QComboBox>("Mode");
+    QVERIFY(mode);
+    tree.setRegister("ModeReg", 10);
+    QCOMPARE(mode->currentText(), QStringLiteral("Continuous"));
+    QCOMPARE(tree.editor(), mode);
+    tree.node<GenApi::CStringPtr>("Label")->SetValue("bc");
+    auto *const edit = tree.open<QLineEdit>("Label");
+    QVERIFY(edit);
+    QTest::keyClick(edit, Qt::Key_Home);
+    tree.map->Poll(10); // reports the value, which is the same
+    tree.type(QStringLiteral("a"));
+    QCOMPARE(edit->text(), QStringLiteral("abc"));
+    QCOMPARE(tree.writes, 1);
+}
+
+void TestGenParamDelegate::survivesAnotherModel()
+{
+    EditedTree tree;
+    FeatureCamera other(FeatureCamera::allKinds());
+    GenParamTreeModel otherModel(other.map.get(), nullptr);
+    QVERIFY(tree.open<QLineEdit>("Label"));
+    tree.type(QStringLiteral("abc"));
+    tree.view.setModel(&otherModel);
+    tree.model.reset();
+    tree.clickOutside();
+    QTRY_VERIFY(!tree.editor());
+    QCOMPARE(tree.writes + tree.failures, 0);
+    QCOMPARE(other.port.writeCount(), quint64(0));
+}
+
+void TestGenParamDelegate::survivesItsEditorGoingWhileItWrites_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QString>("keys");
+    QTest::newRow("combo box") << QByteArray("Flag") << QStringLiteral("^");
+    QTest::newRow("button") << QByteArray("Start") << QStringLiteral(" ");
+    QTest::newRow("line edit") << QByteArray("Label") << QStringLiteral("abc|");
+    QTest::newRow("spin box") << QByteArray("Exposure") << QStringLiteral("40\r");
+}
+
+/** An application that tells of the error in a dialog, and drops the features while that is open. */
+void TestGenParamDelegate::survivesItsEditorGoingWhileItWrites()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(QString, keys);
+    EditedTree tree;
+    failGetter(*tree.map, name.toStdString(), name == "Start" ? "Execute" : "SetValue");
+    const QString text = tree.text(name);
+    const QPointer<QWidget> editor = tree.open<QWidget>(name);
+    QVERIFY(editor);
+    QObject::connect(tree.model.get(), &GenParamTreeModel::errorAppeared, &tree.window, [&] {
+        QDialog dialog;
+        QTimer::singleShot(0, &dialog, [&] {
+            tree.view.setModel(nullptr);
+            QTimer::singleShot(0, &dialog, &QDialog::accept);
+        });
+        dialog.exec();
+        QVERIFY(editor);
+    });
+    tree.type(keys);
+    QTRY_VERIFY(!editor);
+    QCOMPARE(tree.failures, 1);
+    tree.view.setModel(tree.model.get());
+    tree.view.expandAll();
+    QCOMPARE(tree.text(name), text);
+}
+
+void TestGenParamDelegate::writesForeignEditors()
+{
+    EditedTree tree;
+    const QModelIndex label = tree.cell("Label");
+    FeatureCamera other(FeatureCamera::allKinds());
+    GenParamTreeModel otherModel(other.map.get(), nullptr);
+    QLineEdit edit(QStringLiteral("abc"));
+    const auto write = [&](QAbstractItemModel *model) { tree.delegate.setModelData(&edit, model, label); };
+    write(&otherModel);
+    write(nullptr);
+    QCOMPARE(tree.text("Label"), QString());
+    write(tree.model.get()); // nothing was loaded: all of it is an entry
+    QCOMPARE(tree.text("Label"), QStringLiteral("abc"));
+    tree.delegate.setEditorData(&edit, label);
+    write(tree.model.get());
+    QCOMPARE(tree.writes, 1);
+    edit.setText(QStringLiteral("1.2"));
+    write(tree.model.get());
+    write(tree.model.get());
+    QCOMPARE(tree.writes, 2);
+    edit.setValidator(new IP4Validator(&edit));
+    edit.setText(QStringLiteral("1.2."));
+    write(tree.model.get());
+    tree.delegate.setModelData(nullptr, tree.model.get(), label);
+    tree.delegate.setEditorData(nullptr, label);
+    tree.delegate.captureMouseForEditor(nullptr);
+    QVERIFY(!tree.delegate.createEditor(&tree.view, {}, QModelIndex()));
+    QCOMPARE(tree.writes, 2);
+}
+
+ORV_TEST_MAIN(TestGenParamDelegate)
+
+#include "tst_genparamdelegate.moc"
