@@ -1,0 +1,317 @@
+#include "featurecamera.h"
+#include "orvtest.h"
+
+#include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
+#include <OrvCameraGuiApi/feature_tree/genparamtreevisibilityfilterproxymodel.h>
+#include <OrvCameraGuiApi/feature_tree/wildcardmatcher.h>
+#include <OrvGenApi/testing/faults.h>
+
+#include <QAbstractItemModelTester>
+#include <QRandomGenerator>
+#include <QTreeView>
+
+namespace {
+
+/** The rules at their plainest, over Qt's own proxy. */
+class PlainFilter : public QSortFilterProxyModel
+{
+public:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+
+    int level = 0;
+    QRegExp pattern{QStringLiteral("*"), Qt::CaseInsensitive, QRegExp::Wildcard};
+    bool wholeWords = false;
+
+    bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override
+    {
+        const QModelIndex index = sourceModel()->index(sourceRow, 0, sourceParent);
+        GenApi::INode *const node = index.data(Qt::UserRole).value<GenApi::IValue *>()->GetNode();
+        if (node->GetVisibility() > level || node->GetAccessMode() == GenApi::NI)
+            return false;
+        if (node->GetPrincipalInterfaceType() == GenApi::intfICategory || pattern.isEmpty())
+            return true;
+        const QString name = QString::fromUtf8(node->GetDisplayName());
+        return wholeWords ? pattern.exactMatch(name) : pattern.indexIn(name) >= 0;
+    }
+};
+
+QByteArray feature(const char *name, const char *displayName, const char *rest = "")
+{
+    return QByteArray("<Integer Name=\"") + name + "\"><DisplayName>" + displayName + "</DisplayName><Value>1</Value>"
+        + rest + "</Integer>";
+}
+
+/** Three levels of categories, features of every visibility, one that a switch makes not implemented. */
+QByteArray description()
+{
+    return QByteArray("<Category Name=\"Root\"><pFeature>Image</pFeature><pFeature>Empty</pFeature>"
+                      "<pFeature>Deep</pFeature><pFeature>Loose</pFeature></Category>"
+                      "<Category Name=\"Image\"><pFeature>Exposure</pFeature><pFeature>Auto</pFeature>"
+                      "<pFeature>Gain</pFeature><pFeature>GainAuto</pFeature><pFeature>Odd</pFeature></Category>"
+                      "<Category Name=\"Empty\"><pFeature>Gamma</pFeature></Category>"
+                      "<Category Name=\"Deep\"><pFeature>Inner</pFeature><pFeature>Top</pFeature></Category>"
+                      "<Category Name=\"Inner\"><pFeature>Expert</pFeature><pFeature>Guru</pFeature></Category>")
+        + feature("Exposure", "Exposure Time") + feature("Auto", "Auto Exposure") + feature("Gain", "Gain")
+        + feature("GainAuto", "Gain Auto", "<pIsImplemented>Switch</pIsImplemented>")
+        + feature("Odd", "a[b]c", "<Visibility>Expert</Visibility>") + feature("Gamma", "Gamma")
+        + feature("Expert", "Expert Gain", "<Visibility>Expert</Visibility>")
+        + feature("Guru", "Guru Gain", "<Visibility>Guru</Visibility>") + feature("Top", "Top")
+        + feature("Loose", "Loose Exposure", "<Visibility>Invisible</Visibility>")
+        + "<Integer Name=\"Switch\"><Value>1</Value></Integer>";
+}
+
+/** All rows with the names of those below in brackets. */
+QString shape(const QAbstractItemModel &model, const QModelIndex &parent = QModelIndex())
+{
+    QStringList rows;
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        const QModelIndex index = model.index(row, 0, parent);
+        const QString below = shape(model, index);
+        rows += index.data().toString() + (below.isEmpty() ? QString() : QLatin1Char('(') + below + QLatin1Char(')'));
+    }
+    return rows.join(QLatin1Char(','));
+}
+
+QModelIndexList allRows(const QAbstractItemModel &model, const QModelIndex &parent = QModelIndex())
+{
+    QModelIndexList rows;
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        rows += model.index(row, row % 2, parent);
+        rows += allRows(model, model.index(row, 0, parent));
+    }
+    return rows;
+}
+
+QString randomText(QRandomGenerator &random, const QString &letters, int longest)
+{
+    QString text;
+    for (int length = random.bounded(longest + 1); length > 0; --length)
+        text += letters[random.bounded(letters.size())];
+    return text;
+}
+
+} // namespace
+
+class TestGenParamTreeFilter : public OrvTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void showsByRule()
+    {
+        const struct
+        {
+            int level;
+            const char *text;
+            bool caseSensitive, wholeWords;
+            const char *shape;
+        } rows[] = {
+            {0, "*", false, false, "Image(Exposure Time,Auto Exposure,Gain,Gain Auto),Empty(Gamma),Deep(Top)"},
+            {1, "", false, false,
+             "Image(Exposure Time,Auto Exposure,Gain,Gain Auto,a[b]c),Empty(Gamma),Deep(Inner(Expert Gain),Top)"},
+            {2, "GAIN", false, false, "Image(Gain,Gain Auto),Empty,Deep(Inner(Expert Gain,Guru Gain))"},
+            {0, "exp*", false, false, "Image(Exposure Time,Auto Exposure),Empty,Deep"},
+            {0, "exp*", true, false, "Image,Empty,Deep"},
+            {0, "Gain", false, true, "Image(Gain),Empty,Deep"},
+            {0, "g?m*", false, true, "Image,Empty(Gamma),Deep"},
+            {1, "[[]", false, false, "Image(a[b]c),Empty,Deep(Inner)"},
+            {1, "Top", false, true, "Image,Empty,Deep(Inner,Top)"},
+        };
+        const FeatureCamera camera(description());
+        GenParamTreeModel model(camera.map.get(), nullptr);
+        GenParamTreeVisibilityFilterProxyModel proxy(nullptr);
+        proxy.setSourceModel(&model);
+        const QAbstractItemModelTester tester(&proxy, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QCOMPARE(shape(proxy), QString::fromLatin1(rows[0].shape));
+        for (const auto &row : rows) {
+            proxy.setFilterVisibility(row.level);
+            proxy.setFilterText(QString::fromLatin1(row.text));
+            proxy.setCaseSensitive(row.caseSensitive);
+            proxy.setWholeWords(row.wholeWords);
+            QCOMPARE(shape(proxy), QString::fromLatin1(row.shape));
+        }
+    }
+
+    void answersAsTheRegularExpression()
+    {
+        QRandomGenerator random(1);
+        const QString letters =
+            QStringLiteral("aAbB*?[]^-\\.$(){}|+ s\u017fkK\u212a\u00df\u1e9e\u0130i\u0131\u03a3\u03c2\u03c3");
+        for (int i = 0; i < 60000; ++i) {
+            const QString pattern = randomText(random, letters, i % 2 ? 3 : 7);
+            const QString text = randomText(random, letters, 8);
+            const Qt::CaseSensitivity sensitivity = i % 3 ? Qt::CaseInsensitive : Qt::CaseSensitive;
+            QRegExp expected(pattern, sensitivity, QRegExp::Wildcard);
+            WildcardMatcher matcher;
+            matcher.setPattern(pattern);
+            matcher.setCaseSensitivity(sensitivity);
+            const QByteArray what = (pattern + QLatin1String(" in ") + text).toUtf8();
+            QVERIFY2(matcher.isIn(text) == (expected.indexIn(text) >= 0), what);
+            QVERIFY2(matcher.isAll(text) == expected.exactMatch(text), what);
+            if (matcher.matchesAll())
+                QVERIFY(matcher.isIn(text));
+        }
+    }
+
+    /** Random filters and changes beside Qt's own proxy: the same rows, and the same persistent indexes live on. */
+    void followsThePlainProxy()
+    {
+        const FeatureCamera camera(description());
+        GenParamTreeModel model(camera.map.get(), nullptr);
+        GenParamTreeVisibilityFilterProxyModel proxy(nullptr);
+        PlainFilter plain;
+        proxy.setSourceModel(&model);
+        plain.setSourceModel(&model);
+        const QAbstractItemModelTester tester(&proxy, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QRandomGenerator random(2);
+        const char *const texts[] = {"*", "", "gain", "G?in*", "expo", "nothing", "[", "Gamma"};
+        for (int round = 0; round < 400; ++round) {
+            const QModelIndexList rows = allRows(proxy);
+            QCOMPARE(allRows(plain).size(), rows.size());
+            QVector<QPersistentModelIndex> ours, theirs;
+            for (const QModelIndex &index : rows) {
+                ours.append(index);
+                theirs.append(plain.mapFromSource(proxy.mapToSource(index)));
+                QVERIFY(theirs.last().isValid());
+            }
+            switch (random.bounded(5)) {
+            case 0:
+                plain.level = random.bounded(3);
+                proxy.setFilterVisibility(plain.level);
+                break;
+            case 1:
+                plain.wholeWords = random.bounded(2);
+                proxy.setWholeWords(plain.wholeWords);
+                break;
+            case 2:
+                plain.pattern.setCaseSensitivity(random.bounded(2) ? Qt::CaseSensitive : Qt::CaseInsensitive);
+                proxy.setCaseSensitive(plain.pattern.caseSensitivity() == Qt::CaseSensitive);
+                break;
+            case 3:
+                camera.node<GenApi::CIntegerPtr>("Switch")->SetValue(random.bounded(2));
+                break;
+            default:
+                plain.pattern.setPattern(QString::fromLatin1(texts[random.bounded(8)]));
+                proxy.setFilterText(plain.pattern.pattern());
+            }
+            plain.setDynamicSortFilter(true); // filters again
+            plain.setFilterKeyColumn(round % 2);
+            QCOMPARE(shape(proxy), shape(plain));
+            for (int i = 0; i < ours.size(); ++i) {
+                QCOMPARE(proxy.mapToSource(ours[i]), plain.mapToSource(theirs[i]));
+                QCOMPARE(QModelIndex(ours[i]), proxy.mapFromSource(proxy.mapToSource(ours[i])));
+            }
+        }
+    }
+
+    void announcesOnlyWhatChanges()
+    {
+        const FeatureCamera camera(description());
+        GenParamTreeModel model(camera.map.get(), nullptr);
+        GenParamTreeVisibilityFilterProxyModel proxy(nullptr);
+        proxy.setSourceModel(&model);
+        allRows(proxy);
+        int layouts = 0;
+        connect(&proxy, &QAbstractItemModel::layoutChanged, this, [&layouts] { ++layouts; });
+        QSignalSpy data(&proxy, &QAbstractItemModel::dataChanged);
+        QSignalSpy removed(&proxy, &QAbstractItemModel::rowsRemoved);
+        proxy.setFilterText(QStringLiteral("*a*"));
+        const int narrowed = layouts;
+        proxy.setFilterText(QStringLiteral("*A*"));
+        QCOMPARE(narrowed, 1);
+        QCOMPARE(layouts, 1);
+        camera.node<GenApi::CIntegerPtr>("Gain")->SetValue(5);
+        QCOMPARE(data.first().first().toModelIndex().data().toString(), QStringLiteral("5"));
+        camera.node<GenApi::CIntegerPtr>("Switch")->SetValue(0);
+        QCOMPARE(removed.size(), 1);
+        QVERIFY(!shape(proxy).contains(QStringLiteral("Gain Auto")));
+    }
+
+    void showsWhatCannotBeRead()
+    {
+        const FeatureCamera camera(description());
+        GenParamTreeModel model(camera.map.get(), nullptr);
+        for (const char *getter : {"GetVisibility", "GetAccessMode", "GetDisplayName", "GetPrincipalInterfaceType"}) {
+            OrvGenApi::testing::failGetter(*camera.map, "Gain", getter);
+            GenParamTreeVisibilityFilterProxyModel proxy(nullptr);
+            proxy.setSourceModel(&model);
+            proxy.setFilterText(QStringLiteral("Ga*n"));
+            QVERIFY2(shape(proxy).startsWith(QLatin1String("Image(Gain,Gain Auto)")), qPrintable(shape(proxy)));
+            OrvGenApi::testing::clearFaults(*camera.map);
+        }
+    }
+
+    /** A feature that two categories list: an index never comes to stand for another one. */
+    void keepsTwofoldFeaturesApart()
+    {
+        QByteArray twofold = description();
+        twofold.replace("<Category Name=\"Empty\">",
+                        "<Category Name=\"Empty\"><pFeature>Exposure</pFeature>"
+                        "<pFeature>Gain</pFeature><pFeature>Image</pFeature>");
+        const FeatureCamera camera(twofold);
+        GenParamTreeModel model(camera.map.get(), nullptr);
+        GenParamTreeVisibilityFilterProxyModel proxy(nullptr);
+        proxy.setSourceModel(&model);
+        QVector<QPair<QPersistentModelIndex, QString>> kept;
+        for (const QModelIndex &index : allRows(proxy))
+            kept.append({index, index.sibling(index.row(), 0).data().toString()});
+        QVERIFY2(kept.size() > 12, qPrintable(shape(proxy)));
+        for (const char *text : {"gain", "*", "top", "", "expo"}) {
+            proxy.setFilterText(QString::fromLatin1(text));
+            proxy.invalidate();
+            for (const auto &[index, name] : kept) {
+                if (index.isValid())
+                    QCOMPARE(index.sibling(index.row(), 0).data().toString(), name);
+            }
+        }
+    }
+
+    void findsTheNearestRow()
+    {
+        const FeatureCamera camera(description());
+        GenParamTreeModel model(camera.map.get(), nullptr);
+        GenParamTreeVisibilityFilterProxyModel proxy(nullptr);
+        PlainFilter plain;
+        proxy.setSourceModel(&model);
+        plain.setSourceModel(&model);
+        QTreeView view;
+        view.setModel(&plain);
+        for (const char *text : {"exposure", "gain", "auto", "nothing", "top"}) {
+            plain.pattern.setPattern(QStringLiteral("*"));
+            plain.setFilterKeyColumn(0);
+            view.expandAll();
+            for (const QModelIndex &start : allRows(plain)) {
+                plain.pattern.setPattern(QStringLiteral("*"));
+                plain.setFilterKeyColumn(0);
+                const QModelIndex source = plain.mapToSource(start);
+                view.setCurrentIndex(plain.mapFromSource(source));
+                plain.pattern.setPattern(QString::fromLatin1(text));
+                plain.setFilterKeyColumn(1);
+                proxy.setFilterText(QString::fromLatin1(text));
+                if (!plain.mapFromSource(source).isValid())
+                    QCOMPARE(proxy.nearestTo(source).sibling(proxy.nearestTo(source).row(), 0).data().toString(),
+                             view.currentIndex().sibling(view.currentIndex().row(), 0).data().toString());
+            }
+        }
+    }
+
+    void goesWithItsSource()
+    {
+        const FeatureCamera camera(description());
+        GenParamTreeVisibilityFilterProxyModel proxy(nullptr);
+        QCOMPARE(proxy.rowCount(), 0);
+        proxy.setFilterText(QStringLiteral("a"));
+        {
+            GenParamTreeModel model(camera.map.get(), nullptr);
+            proxy.setSourceModel(&model);
+            QCOMPARE(proxy.rowCount(), 3);
+        }
+        QCOMPARE(proxy.rowCount(), 0);
+        proxy.setFilterText(QStringLiteral("b"));
+        proxy.setSourceModel(nullptr);
+        QCOMPARE(proxy.rowCount(), 0);
+    }
+};
+
+ORV_TEST_MAIN(TestGenParamTreeFilter)
+#include "tst_genparamtreefilter.moc"
