@@ -74,6 +74,10 @@ void tst_Changes::callbacks_data()
                       "Index='1'>B</pValueIndexed>")
                + node("Integer", "M", "<pValue>A</pValue><pValueCopy>B</pValueCopy>"),
            "N=1 ^ M=2 ^ I=1 N ^", "ok A,B,M,N ok A,B,M,N ok 2 I,N");
+    addRow("what is selected, and what links the same constant",
+           node("Integer", "S", "<Value>0</Value><pSelected>T</pSelected>") + node("Integer", "T", "<Value>0</Value>")
+               + node("Integer", "A", "<pValue>S</pValue>") + node("Integer", "B", "<pValue>S</pValue>"),
+           "A=1 ^ B", "ok A,B,S,T 1");
     addRow("half a write is told",
            reg("IntReg", "A", "0") + reg("IntReg", "B", "0", "<AccessMode>RO</AccessMode>")
                + node("Integer", "N", "<pValue>A</pValue><pValueCopy>B</pValueCopy>"),
@@ -118,12 +122,18 @@ void tst_Changes::commands_data()
 void tst_Changes::noticesWhatTheDeviceChanged()
 {
     Session session(reg("IntReg", "R", "0")
-                    + node("IntSwissKnife", "K", "<pVariable Name='A'>R</pVariable><Formula>A * 2</Formula>"));
+                    + node("IntSwissKnife", "K", "<pVariable Name='A'>R</pVariable><Formula>A * 2</Formula>")
+                    + node("Command", "C", "<pValue>R</pValue><CommandValue>4</CommandValue>"));
+    const auto set = [&session](uint8_t value) {
+        const uint8_t bytes[] = {0, 0, 0, value};
+        session.port.Write(bytes, 0, 4);
+    };
     QCOMPARE(session.run("K"), QByteArray("0"));
-    const uint8_t four[] = {0, 0, 0, 4};
-    session.port.Write(four, 0, 4);
+    set(4);
     // What was computed from the old bytes goes with them, whoever reads the new ones.
-    QCOMPARE(session.run("K R* K"), QByteArray("0 4 8"));
+    QCOMPARE(session.run("K R* K C."), QByteArray("0 4 8 running"));
+    set(0);
+    QCOMPARE(session.run("R C."), QByteArray("4 done")); // whether a command is done only the device can tell
 }
 
 ORV_PLAIN_TEST_MAIN(tst_Changes)

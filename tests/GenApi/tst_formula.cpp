@@ -295,5 +295,5 @@ void tst_Formula::survivesMutations()
     QVERIFY2(evaluated > 100, "mutations that leave nothing to evaluate test the parser only");
 }
 
-ORV_TEST_MAIN(tst_Formula)
+ORV_PLAIN_TEST_MAIN(tst_Formula)
 #include "tst_formula.moc"

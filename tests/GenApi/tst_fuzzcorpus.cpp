@@ -16,7 +16,8 @@ private Q_SLOTS:
 void tst_FuzzCorpus::replays_data()
 {
     QTest::addColumn<QString>("path");
-    const QFileInfoList files = QDir(QStringLiteral(ORV_FUZZ_CORPUS)).entryInfoList(QDir::Files, QDir::Name);
+    const QFileInfoList files =
+        QDir(QStringLiteral(ORV_FUZZ_CORPUS)).entryInfoList({QStringLiteral("*.xml")}, QDir::Files, QDir::Name);
     QVERIFY(!files.isEmpty());
     for (const QFileInfo &file : files)
         QTest::newRow(qPrintable(file.fileName())) << file.filePath();

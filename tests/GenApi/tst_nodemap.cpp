@@ -43,7 +43,12 @@ private:
 class FailingPort final : public IPort
 {
 public:
-    EAccessMode GetAccessMode() const override { return RW; }
+    EAccessMode GetAccessMode() const override
+    {
+        if (isMute)
+            throw std::runtime_error("cable");
+        return RW;
+    }
     void Read(void *buffer, int64_t, int64_t length) override
     {
         fail();
@@ -53,6 +58,7 @@ public:
 
     bool isBroken = false;
     bool isForeign = false;
+    bool isMute = false;
 
 private:
     void fail() const
@@ -185,7 +191,9 @@ void tst_NodeMap::portsMayFail()
     QCOMPARE(session.run("R R=2 ^ R& R N? N"), QByteArray("1 !Timeout R unknown !Timeout !Timeout !Timeout"));
     port.isForeign = true;
     QCOMPARE(session.run("R R=2"), QByteArray("!Runtime !Runtime"));
-    port.isForeign = port.isBroken = false;
+    port.isMute = true;
+    QCOMPARE(session.run("R? R"), QByteArray("!Runtime !Runtime"));
+    port.isForeign = port.isBroken = port.isMute = false;
     QCOMPARE(session.run("R N?"), QByteArray("0 NA"));
 }
 

@@ -14,6 +14,19 @@ void PortNode::Write(const void *pBuffer, int64_t Address, int64_t Length)
     write(pBuffer, Address, Length);
 }
 
+/** Does \a deed; what a port throws that is no GenICam exception becomes one. */
+template <typename Deed>
+void PortNode::guarded(const char *what, const Deed &deed) const
+{
+    try {
+        deed();
+    } catch (const GenICam::GenericException &) {
+        throw;
+    } catch (const std::exception &error) {
+        ORV_THROW(RuntimeException, std::string(what) + " through port '" + name() + "' failed: " + error.what());
+    }
+}
+
 GenApi::IPort *PortNode::connected() const
 {
     if (!m_port)
@@ -23,24 +36,20 @@ GenApi::IPort *PortNode::connected() const
 
 void PortNode::read(void *buffer, int64_t address, int64_t length)
 {
-    try {
-        connected()->Read(buffer, address, length);
-    } catch (const GenICam::GenericException &) {
-        throw;
-    } catch (const std::exception &error) {
-        ORV_THROW(RuntimeException, std::string("reading through port '") + name() + "' failed: " + error.what());
-    }
+    guarded("reading", [&] { connected()->Read(buffer, address, length); });
 }
 
 void PortNode::write(const void *buffer, int64_t address, int64_t length)
 {
-    try {
-        connected()->Write(buffer, address, length);
-    } catch (const GenICam::GenericException &) {
-        throw;
-    } catch (const std::exception &error) {
-        ORV_THROW(RuntimeException, std::string("writing through port '") + name() + "' failed: " + error.what());
-    }
+    guarded("writing", [&] { connected()->Write(buffer, address, length); });
+}
+
+GenApi::EAccessMode PortNode::valueAccess() const
+{
+    GenApi::EAccessMode mode = GenApi::NI;
+    if (m_port)
+        guarded("asking for access", [&] { mode = m_port->GetAccessMode(); });
+    return mode;
 }
 
 } // namespace OrvGenApi

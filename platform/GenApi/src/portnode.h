@@ -26,11 +26,13 @@ public:
     void write(const void *buffer, int64_t address, int64_t length);
 
 protected:
-    GenApi::EAccessMode valueAccess() const override { return m_port ? m_port->GetAccessMode() : GenApi::NI; }
+    GenApi::EAccessMode valueAccess() const override;
 
 private:
     friend class DescriptionLoader;
 
+    template <typename Deed>
+    void guarded(const char *what, const Deed &deed) const;
     GenApi::IPort *connected() const;
 
     GenApi::IPort *m_port = nullptr;

@@ -15,7 +15,8 @@ namespace OrvGenApi {
  * Both loaders throw one GenICam::GenericException with a message that names the place ("FILE:LINE: ...") when the
  * description cannot be used: it cannot be read, is no well-formed XML, has no RegisterDescription, a node twice, a
  * formula that cannot be parsed, links that go round in a circle or lead too deep. A link to a node that does not exist
- * makes the node that has it not implemented; a category leaves out such a feature. Registers behind a port that is not
+ * or has no value of the kind that is needed makes the node that has it not implemented; a category leaves out such a
+ * feature. Registers behind a port that is not
  * connected are not implemented either.
  */
 class ORV_GENAPI_EXPORT NodeMap : public GenApi::INodeMap
