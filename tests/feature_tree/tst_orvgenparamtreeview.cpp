@@ -62,6 +62,7 @@ private Q_SLOTS:
     void dividesTheColumnsOnce_data();
     void dividesTheColumnsOnce();
     void filters();
+    void followsTheFilter();
     void keepsItsSettingsForANewNodeMap();
     void walkingWritesNothing();
     void keysDoNoHarm();
@@ -239,6 +240,27 @@ void TestOrvGenParamTreeView::filters()
     QVERIFY(!shown.cell("Gain").isValid());
     QTest::mouseClick(filterButton(shown, "Clear filter"), Qt::LeftButton);
     QVERIFY(shown.cell("Gain").isValid() && shown.cell("Ratio").isValid());
+}
+
+void TestOrvGenParamTreeView::followsTheFilter()
+{
+    ShownView shown(polledNodes());
+    QVERIFY(shown.show());
+    auto *const pane = shown.part<QTextBrowser>("whatsThisLabel");
+    shown.click(shown.cell("Slow", GenParamTreeModel::NameColumn));
+    QTest::keyClicks(shown.part<QLineEdit>("filterLineEdit"), QStringLiteral("ever"));
+    QCOMPARE(shown.tree->currentIndex().data().toString(), QStringLiteral("Never"));
+    QVERIFY(pane->toPlainText().startsWith(QLatin1String("Name: Never")));
+    shown.part<QLineEdit>("filterLineEdit")->clear();
+
+    shown.click(shown.cell("Hidden", GenParamTreeModel::NameColumn));
+    shown.view.setVisibility(OrvGui::Basic);
+    QCOMPARE(shown.tree->currentIndex().data().toString(), QStringLiteral("Device Control"));
+    shown.view.setVisibility(OrvGui::Guru);
+    const QModelIndexList rows = shown.rows();
+    for (const QModelIndex &index : rows)
+        QCOMPARE(shown.tree->isFirstColumnSpanned(index.row(), index.parent()),
+                 shown.tree->model()->hasChildren(index));
 }
 
 void TestOrvGenParamTreeView::keepsItsSettingsForANewNodeMap()

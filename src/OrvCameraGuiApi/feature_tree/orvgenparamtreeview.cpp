@@ -74,6 +74,8 @@ public:
     void connectModel();
     void splitColumns();
     void spanCategories(const QModelIndex &parent, int first, int last);
+    void currentChanged(const QModelIndex &index);
+    void filterChanged();
 
     void errorAppeared(const QModelIndex &index, const QString &name, const QString &message, int role);
     void errorDisappeared(const QModelIndex &index, const QString &name, int role);
@@ -96,6 +98,7 @@ public:
 
     GenParamTreeModel *model = nullptr;
     GenParamTreeVisibilityFilterProxyModel *proxy = nullptr; ///< null exactly when the model is
+    QModelIndex currentSource; ///< of the model, whose rows stay; where the current item was before the filter took it
     bool statusShowsErrors = false;
     QSet<GenApi::IValue *> featuresToRepaint;
 };
@@ -144,8 +147,10 @@ void OrvGenParamTreeViewPrivate::initFilter()
             proxy->setFilterText(text);
     });
     QObject::connect(ui.cbVisibility, QOverload<int>::of(&QComboBox::currentIndexChanged), q, [this](int level) {
-        if (proxy)
-            proxy->setFilterVisibility(level);
+        if (!proxy)
+            return;
+        proxy->setFilterVisibility(level);
+        spanCategories(QModelIndex(), 0, proxy->rowCount() - 1);
     });
     QObject::connect(filterOptions, &FilterOptions::caseSensitivityChanged, q, [this](bool isSensitive) {
         filterOptionsAction->setIcon(iconOf(filterOptions->iconPath()));
@@ -207,6 +212,7 @@ void OrvGenParamTreeViewPrivate::remove()
     proxy = nullptr;
     model = nullptr;
     nodeMap = nullptr;
+    currentSource = QModelIndex();
     featuresToRepaint.clear();
     errors = GenParamErrorController();
     showStatus();
@@ -223,13 +229,13 @@ void OrvGenParamTreeViewPrivate::showModel(QAbstractItemModel *shown)
     QItemSelectionModel *const current = ui.treeView->selectionModel();
     if (former && former != current)
         former->deleteLater();
-    QObject::connect(current, &QItemSelectionModel::currentChanged, q, [this](const QModelIndex &index) {
-        ui.whatsThisLabel->setHtml(index.data(Qt::WhatsThisRole).toString());
-    });
+    QObject::connect(current, &QItemSelectionModel::currentChanged, q,
+                     [this](const QModelIndex &index) { currentChanged(index); });
 }
 
 void OrvGenParamTreeViewPrivate::connectModel()
 {
+    QObject::connect(proxy, &QAbstractItemModel::layoutChanged, q, [this] { filterChanged(); });
     QObject::connect(proxy, &QAbstractItemModel::rowsInserted, q,
                      [this](const QModelIndex &parent, int first, int last) { spanCategories(parent, first, last); });
     QObject::connect(model, &GenParamTreeModel::errorAppeared, q,
@@ -248,25 +254,49 @@ void OrvGenParamTreeViewPrivate::splitColumns()
     ui.treeView->setColumnWidth(GenParamTreeModel::NameColumn, width / 2);
 }
 
-/** Of those rows and all that is in them. */
+/** Of those rows and all that is in them, from top to bottom: the tree looks for each row near the one before. */
 void OrvGenParamTreeViewPrivate::spanCategories(const QModelIndex &parent, int first, int last)
 {
-    std::vector<QModelIndex> parents;
-    const auto spanRows = [&](const QModelIndex &category, int from, int to) {
-        for (int row = from; row <= to; ++row) {
-            const QModelIndex index = proxy->index(row, GenParamTreeModel::NameColumn, category);
-            if (isCategory(featureOf(index))) {
-                ui.treeView->setFirstColumnSpanned(row, category, true);
-                parents.push_back(index);
-            }
-        }
+    struct Level
+    {
+        QModelIndex parent;
+        int next;
+        int last;
     };
-    spanRows(parent, first, last);
-    while (!parents.empty()) {
-        const QModelIndex category = parents.back();
-        parents.pop_back();
-        spanRows(category, 0, proxy->rowCount(category) - 1);
+    std::vector<Level> levels{{parent, first, last}};
+    while (!levels.empty()) {
+        Level &level = levels.back();
+        if (level.next > level.last) {
+            levels.pop_back();
+            continue;
+        }
+        const int row = level.next++;
+        const QModelIndex index = proxy->index(row, GenParamTreeModel::NameColumn, level.parent);
+        if (isCategory(featureOf(index))) {
+            ui.treeView->setFirstColumnSpanned(row, level.parent, true);
+            levels.push_back({index, 0, proxy->rowCount(index) - 1});
+        }
     }
+}
+
+void OrvGenParamTreeViewPrivate::currentChanged(const QModelIndex &index)
+{
+    currentSource = proxy ? proxy->mapToSource(index) : QModelIndex();
+    ui.whatsThisLabel->setHtml(index.data(Qt::WhatsThisRole).toString());
+}
+
+/** A current item that went moves on to what is next to it, or to that beside its category, as with removed rows. */
+void OrvGenParamTreeViewPrivate::filterChanged()
+{
+    if (!currentSource.isValid() || ui.treeView->currentIndex().isValid())
+        return;
+    QModelIndex nearest;
+    for (QModelIndex source = currentSource; source.isValid() && !nearest.isValid(); source = source.parent())
+        nearest = proxy->nearestTo(source);
+    if (nearest.isValid())
+        ui.treeView->setCurrentIndex(nearest);
+    else
+        currentChanged(QModelIndex());
 }
 
 void OrvGenParamTreeViewPrivate::errorAppeared(const QModelIndex &index, const QString &name, const QString &message,
