@@ -6,8 +6,34 @@
 #include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
 
 #include <QApplication>
+#include <QPaintEvent>
 #include <QTreeView>
 #include <QtTest>
+
+/** What is painted of a widget. */
+class PaintLog : public QObject
+{
+public:
+    explicit PaintLog(QWidget *widget) { widget->installEventFilter(this); }
+
+    void clear()
+    {
+        count = 0;
+        region = QRegion();
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint) {
+            ++count;
+            region += static_cast<QPaintEvent *>(event)->region();
+        }
+        return false;
+    }
+
+    uint64_t count = 0;
+    QRegion region;
+};
 
 /** A camera and a view that shows it, all of it. */
 struct ShownView : FeatureCamera

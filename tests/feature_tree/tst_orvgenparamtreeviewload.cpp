@@ -62,41 +62,35 @@ QByteArray manyRegisters(int count)
 }
 
 /** Counts what painting costs. */
-class PaintMeter : public QObject
+class PaintMeter
 {
 public:
     explicit PaintMeter(const ShownView &shown)
         : m_shown(shown)
+        , m_log(shown.tree->viewport())
     {
-        shown.tree->viewport()->installEventFilter(this);
         start();
     }
 
     void start()
     {
-        m_paints = 0;
+        m_log.clear();
         m_reads = m_shown.port.readCount();
     }
 
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        m_paints += event->type() == QEvent::Paint;
-        return false;
-    }
-
-    uint64_t paints() const { return m_paints; }
+    uint64_t paints() const { return m_log.count; }
     uint64_t reads() const { return m_shown.port.readCount() - m_reads; }
 
     /** Each row that fits into the viewport, twice at each paint. */
     uint64_t allowedReads() const
     {
         const QRect row = m_shown.tree->visualRect(m_shown.tree->indexAt(QPoint(0, 0)));
-        return m_paints * 2 * uint64_t(m_shown.tree->viewport()->height() / row.height() + 2);
+        return paints() * 2 * uint64_t(m_shown.tree->viewport()->height() / row.height() + 2);
     }
 
 private:
     const ShownView &m_shown;
-    uint64_t m_paints = 0;
+    PaintLog m_log;
     uint64_t m_reads = 0;
 };
 
