@@ -9,6 +9,7 @@
 #include <QScrollBar>
 #include <QToolButton>
 
+#include <array>
 #include <functional>
 #include <malloc.h>
 
@@ -26,40 +27,36 @@ constexpr bool isSanitized = true; // the heap is the sanitizer's, and everythin
 constexpr bool isSanitized = false;
 #endif
 
-/** Registers that are read whenever they are asked for, 20 a category, with categories on three levels. */
-QByteArray manyRegisters(int count)
+/** 10,000 registers that are read whenever they are asked for, 20 a category, with categories on three levels. */
+struct ManyRegisters
 {
-    QByteArray root;
-    QByteArray categories;
-    QByteArray registers;
-    const auto add = [&](QByteArray &list, const QByteArray &name) { list += "<pFeature>" + name + "</pFeature>"; };
-    for (int top = 0, number = 0; number < count; ++top) {
-        const QByteArray topName = "Top" + QByteArray::number(top);
-        QByteArray middles;
-        for (int middle = 0; middle < 10; ++middle) {
-            const QByteArray middleName = topName + "Middle" + QByteArray::number(middle);
-            QByteArray leaves;
-            for (int leaf = 0; leaf < 5; ++leaf) {
-                QByteArray features;
-                for (int i = 0; i < 20; ++i, ++number) {
-                    const QByteArray name = "Register" + QByteArray::number(number);
-                    add(features, name);
-                    registers += "<IntReg Name=\"" + name + "\"><Address>" + QByteArray::number(4 * number)
-                        + "</Address><Length>4</Length><AccessMode>RW</AccessMode><pPort>Device</pPort>"
-                          "<Cachable>NoCache</Cachable><PollingTime>1000</PollingTime></IntReg>";
-                }
-                const QByteArray leafName = middleName + "Leaf" + QByteArray::number(leaf);
-                add(leaves, leafName);
-                categories += "<Category Name=\"" + leafName + "\">" + features + "</Category>";
-            }
-            add(middles, middleName);
-            categories += "<Category Name=\"" + middleName + "\">" + leaves + "</Category>";
+    ManyRegisters() { addCategory("Root", 0); }
+
+    void addCategory(const QByteArray &name, size_t level)
+    {
+        constexpr std::array children{10, 10, 5, 20};
+        QByteArray features;
+        for (int i = 0; i < children[level]; ++i) {
+            const QByteArray child = (level ? name : "Feature") + '_' + QByteArray::number(i);
+            features += "<pFeature>" + child + "</pFeature>";
+            if (level + 1 < children.size())
+                addCategory(child, level + 1);
+            else
+                addRegister(child);
         }
-        add(root, topName);
-        categories += "<Category Name=\"" + topName + "\">" + middles + "</Category>";
+        nodes += "<Category Name=\"" + name + "\">" + features + "</Category>";
     }
-    return "<Category Name=\"Root\">" + root + "</Category>" + categories + registers;
-}
+
+    void addRegister(const QByteArray &name)
+    {
+        nodes += "<IntReg Name=\"" + name + "\"><Address>" + QByteArray::number(4 * count++)
+            + "</Address><Length>4</Length><AccessMode>RW</AccessMode><pPort>Device</pPort><Cachable>NoCache</Cachable>"
+              "<PollingTime>1000</PollingTime></IntReg>";
+    }
+
+    QByteArray nodes;
+    int count = 0;
+};
 
 /** Counts what painting costs. */
 class PaintMeter
@@ -154,42 +151,14 @@ private Q_SLOTS:
 void TestOrvGenParamTreeViewLoad::survivesFailingGetters_data()
 {
     QTest::addColumn<QByteArray>("getter");
-    for (const char *getter : {"GetAccessMode",
-                               "GetNode",
-                               "ToString",
-                               "GetName",
-                               "GetVisibility",
-                               "GetToolTip",
-                               "GetDescription",
-                               "GetDisplayName",
-                               "GetCachingMode",
-                               "IsStreamable",
-                               "GetPrincipalInterfaceType",
-                               "RegisterCallback",
-                               "DeregisterCallback",
-                               "GetSelectingFeatures",
-                               "GetFeatures",
-                               "GetValue",
-                               "SetValue",
-                               "GetMin",
-                               "GetMax",
-                               "GetInc",
-                               "GetIncMode",
-                               "GetListOfValidValues",
-                               "GetRepresentation",
-                               "GetUnit",
-                               "HasInc",
-                               "GetDisplayPrecision",
-                               "GetDisplayNotation",
-                               "GetMaxLength",
-                               "GetEntries",
-                               "GetIntValue",
-                               "GetCurrentEntry",
-                               "GetSymbolic",
-                               "GetEntry",
-                               "Execute",
-                               "IsDone"})
-        QTest::newRow(getter) << QByteArray(getter);
+    const QByteArray getters =
+        "GetAccessMode GetNode ToString GetName GetVisibility GetToolTip GetDescription GetDisplayName GetCachingMode "
+        "IsStreamable GetPrincipalInterfaceType RegisterCallback DeregisterCallback GetSelectingFeatures GetFeatures "
+        "GetValue SetValue GetMin GetMax GetInc GetIncMode GetListOfValidValues GetRepresentation GetUnit HasInc "
+        "GetDisplayPrecision GetDisplayNotation GetMaxLength GetEntries GetIntValue GetCurrentEntry GetSymbolic "
+        "GetEntry Execute IsDone";
+    for (const QByteArray &getter : getters.split(' '))
+        QTest::newRow(getter.constData()) << getter;
 }
 
 void TestOrvGenParamTreeViewLoad::survivesFailingGetters()
@@ -305,7 +274,7 @@ void TestOrvGenParamTreeViewLoad::doesNotGrow()
 
 void TestOrvGenParamTreeViewLoad::readsOnlyWhatItPaints()
 {
-    ShownView shown(manyRegisters(10000));
+    ShownView shown(ManyRegisters().nodes);
     QCOMPARE(shown.port.readCount(), uint64_t(0));
     PaintMeter meter(shown);
     QVERIFY(shown.show());

@@ -72,7 +72,9 @@ public:
     void remove();
     void showModel(QAbstractItemModel *shown);
     void connectModel();
+    void connectProxy();
     void splitColumns();
+    void spanAllCategories();
     void spanCategories(const QModelIndex &parent, int first, int last);
     void currentChanged(const QModelIndex &index);
     void filterChanged();
@@ -147,10 +149,9 @@ void OrvGenParamTreeViewPrivate::initFilter()
             proxy->setFilterText(text);
     });
     QObject::connect(ui.cbVisibility, QOverload<int>::of(&QComboBox::currentIndexChanged), q, [this](int level) {
-        if (!proxy)
-            return;
-        proxy->setFilterVisibility(level);
-        spanCategories(QModelIndex(), 0, proxy->rowCount() - 1);
+        if (proxy)
+            proxy->setFilterVisibility(level);
+        spanAllCategories();
     });
     QObject::connect(filterOptions, &FilterOptions::caseSensitivityChanged, q, [this](bool isSensitive) {
         filterOptionsAction->setIcon(iconOf(filterOptions->iconPath()));
@@ -194,8 +195,9 @@ void OrvGenParamTreeViewPrivate::install(GenApi::INodeMap *map)
     proxy->setSourceModel(model);
     connectModel();
     showModel(proxy);
+    connectProxy();
     splitColumns();
-    spanCategories(QModelIndex(), 0, proxy->rowCount() - 1);
+    spanAllCategories();
 }
 
 /** Nothing refers to the node map afterwards; only the objects that did are freed later, for they may be in use. */
@@ -235,9 +237,6 @@ void OrvGenParamTreeViewPrivate::showModel(QAbstractItemModel *shown)
 
 void OrvGenParamTreeViewPrivate::connectModel()
 {
-    QObject::connect(proxy, &QAbstractItemModel::layoutChanged, q, [this] { filterChanged(); });
-    QObject::connect(proxy, &QAbstractItemModel::rowsInserted, q,
-                     [this](const QModelIndex &parent, int first, int last) { spanCategories(parent, first, last); });
     QObject::connect(model, &GenParamTreeModel::errorAppeared, q,
                      [this](const QModelIndex &index, const QString &name, const QString &message, int role) {
                          errorAppeared(index, name, message, role);
@@ -247,11 +246,26 @@ void OrvGenParamTreeViewPrivate::connectModel()
         [this](const QModelIndex &index, const QString &name, int role) { errorDisappeared(index, name, role); });
 }
 
+/** After the tree, which has to know of a change before its current item is moved or its rows are spanned. */
+void OrvGenParamTreeViewPrivate::connectProxy()
+{
+    QObject::connect(proxy, &QAbstractItemModel::layoutChanged, q, [this] { filterChanged(); });
+    QObject::connect(proxy, &QAbstractItemModel::rowsInserted, q,
+                     [this](const QModelIndex &parent, int first, int last) { spanCategories(parent, first, last); });
+}
+
 void OrvGenParamTreeViewPrivate::splitColumns()
 {
     const int width = ui.treeView->columnWidth(GenParamTreeModel::NameColumn)
         + ui.treeView->columnWidth(GenParamTreeModel::ValueColumn);
     ui.treeView->setColumnWidth(GenParamTreeModel::NameColumn, width / 2);
+}
+
+/** Does nothing when somebody's slot has just had the model taken away. */
+void OrvGenParamTreeViewPrivate::spanAllCategories()
+{
+    if (proxy)
+        spanCategories(QModelIndex(), 0, proxy->rowCount() - 1);
 }
 
 /** Of those rows and all that is in them, from top to bottom: the tree looks for each row near the one before. */
