@@ -84,6 +84,7 @@ public:
     std::vector<Branch *> findChanging();
     void announceGoing(const std::vector<Branch *> &changing);
     void changeLayout(const std::vector<Branch *> &changing);
+    bool hasNewCategory(const Branch &branch) const;
     void movePersistentIndexes();
     void sourceDataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight, const QVector<int> &roles);
     void rowChanged(Place place, const QModelIndex &topLeft, const QModelIndex &bottomRight, const QVector<int> &roles);
@@ -352,9 +353,20 @@ void GenParamTreeVisibilityFilterProxyModelPrivate::changeLayout(const std::vect
     }
     rowsHaveChanged();
     movePersistentIndexes();
+    const bool categoriesCome =
+        std::any_of(changing.begin(), changing.end(), [this](const Branch *branch) { return hasNewCategory(*branch); });
     for (Branch *branch : changing)
         branch->formerRows = Rows();
     Q_EMIT q->layoutChanged();
+    if (categoriesCome)
+        Q_EMIT q->categoriesHaveCome();
+}
+
+bool GenParamTreeVisibilityFilterProxyModelPrivate::hasNewCategory(const Branch &branch) const
+{
+    return std::any_of(branch.rows.begin(), branch.rows.end(), [&](int row) {
+        return source()->hasChildren(source()->index(row, 0, branch.source)) && position(branch.formerRows, row) < 0;
+    });
 }
 
 void GenParamTreeVisibilityFilterProxyModelPrivate::movePersistentIndexes()

@@ -83,6 +83,9 @@ Q_SIGNALS:
      */
     void rowsAboutToGo();
 
+    /** After a change of layout in which categories have appeared, for what a view keeps of each of them. */
+    void categoriesHaveCome();
+
 private:
     friend class GenParamTreeVisibilityFilterProxyModelPrivate;
 

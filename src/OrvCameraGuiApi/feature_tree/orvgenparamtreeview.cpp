@@ -150,7 +150,6 @@ void OrvGenParamTreeViewPrivate::initFilter()
     QObject::connect(ui.cbVisibility, QOverload<int>::of(&QComboBox::currentIndexChanged), q, [this](int level) {
         if (proxy)
             proxy->setFilterVisibility(level);
-        spanAllCategories();
     });
     QObject::connect(filterOptions, &FilterOptions::caseSensitivityChanged, q, [this](bool isSensitive) {
         filterOptionsAction->setIcon(iconOf(filterOptions->iconPath()));
@@ -249,6 +248,8 @@ void OrvGenParamTreeViewPrivate::connectProxy()
 {
     QObject::connect(proxy, &GenParamTreeVisibilityFilterProxyModel::rowsAboutToGo, q,
                      [this] { moveCurrentFromGoing(); });
+    QObject::connect(proxy, &GenParamTreeVisibilityFilterProxyModel::categoriesHaveCome, q,
+                     [this] { spanAllCategories(); });
     QObject::connect(proxy, &QAbstractItemModel::rowsInserted, q,
                      [this](const QModelIndex &parent, int first, int last) { spanCategories(parent, first, last); });
 }
