@@ -18,6 +18,7 @@ option(ORV_BUILD_DESIGNER "Build the Qt Designer plug-in" "${PROJECT_IS_TOP_LEVE
 include(CMakeDependentOption)
 cmake_dependent_option(ORV_BUILD_TESTS "Build the test suite" "${PROJECT_IS_TOP_LEVEL}" "ORV_STAND_INS" OFF)
 cmake_dependent_option(ORV_BUILD_APPS "Build the explorer" ON "ORV_STAND_INS" OFF)
+cmake_dependent_option(ORV_BUILD_EXAMPLES "Build the examples" "${PROJECT_IS_TOP_LEVEL}" "ORV_STAND_INS" OFF)
 cmake_dependent_option(ORV_BUILD_BENCHMARKS "Build the benchmarks" OFF "ORV_STAND_INS" OFF)
 cmake_dependent_option(ORV_BUILD_FUZZERS "Build the fuzzers (clang only)" OFF "ORV_STAND_INS" OFF)
 

@@ -68,23 +68,25 @@ public:
     Camera(Released<OrvCam::System> system, OrvCam::DeviceInfo *info)
         : m_system(std::move(system))
         , m_name(QString::fromUtf8(info->GetDisplayName()))
+        , m_id(QString::fromLatin1(info->GetID()))
     {
         OrvCamErr error = OrvCamErr_Ok;
         m_device.reset(OrvCam_CreateDevice(info, OrvCam::DeviceAccessControl, &error));
         OrvGenParam::Array *parameters = m_device ? m_device->GetCameraParameters(&error) : nullptr;
         m_nodeMap = parameters ? parameters->GetNodeMap() : nullptr;
         if (!m_nodeMap) {
-            fail(Text::tr("Cannot open the camera '%1': %2.")
-                     .arg(QString::fromLatin1(info->GetID()), QLatin1String(orvCamErrDescription(error))));
+            fail(Text::tr("Cannot open the camera '%1': %2.").arg(m_id, QLatin1String(orvCamErrDescription(error))));
         }
     }
 
     GenApi::INodeMap *nodeMap() const override { return m_nodeMap; }
     QString name() const override { return m_name; }
+    QString id() const override { return m_id; }
 
 private:
     const Released<OrvCam::System> m_system;
     const QString m_name;
+    const QString m_id;
     Released<OrvCam::Device> m_device;
     GenApi::INodeMap *m_nodeMap = nullptr;
 };
@@ -111,6 +113,14 @@ std::vector<OrvCam::DeviceInfo *> allDevices(OrvCam::System &system)
     for (OrvCam::Interface *interface = list->GetFirst(); interface; interface = list->GetNext())
         collectDevices(*interface, devices);
     return devices;
+}
+
+QStringList idsOf(const std::vector<OrvCam::DeviceInfo *> &devices)
+{
+    QStringList ids;
+    for (OrvCam::DeviceInfo *info : devices)
+        ids.append(QString::fromLatin1(info->GetID()));
+    return ids;
 }
 
 bool isSelectable(OrvCam::DeviceInfo *info)
@@ -145,9 +155,11 @@ std::unique_ptr<CameraSource> openCamera(const QString &id)
         return std::make_unique<Camera>(std::move(system), *found);
     if (id.isEmpty())
         fail(Text::tr("There is no camera that can be opened."));
+    fail(Text::tr("There is no camera '%1'; there are: %2.").arg(id, idsOf(devices).join(QLatin1String(", "))));
+}
 
-    QStringList known;
-    for (OrvCam::DeviceInfo *info : devices)
-        known.append(QString::fromLatin1(info->GetID()));
-    fail(Text::tr("There is no camera '%1'; there are: %2.").arg(id, known.join(QLatin1String(", "))));
+QStringList cameraIds()
+{
+    const Released<OrvCam::System> system(OrvCam_GetSystem());
+    return system ? idsOf(allDevices(*system)) : QStringList();
 }

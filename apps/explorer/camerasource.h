@@ -3,6 +3,7 @@
 #include <GenApi/INodeMap.h>
 
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -20,6 +21,9 @@ public:
 
     /** What to call it in a title. */
     virtual QString name() const = 0;
+
+    /** The identifier of the camera; empty where there is none. */
+    virtual QString id() const { return {}; }
 };
 
 /** Thrown when there is nothing to show; the message is one line for people. */
@@ -36,3 +40,6 @@ std::unique_ptr<CameraSource> openDescription(const QString &path);
  * access status allows it. Throws a CameraSourceError.
  */
 std::unique_ptr<CameraSource> openCamera(const QString &id);
+
+/** The identifiers of all cameras that the process's camera system finds now. */
+QStringList cameraIds();

@@ -1,137 +1,196 @@
 #include "explorerwindow.h"
 
 #include "camerasource.h"
+#include "simulationmenu.h"
 
-#include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
+#include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
 
 #include <GenApi/GenApi.h>
 
 #include <QApplication>
-#include <QHeaderView>
+#include <QFile>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QItemSelectionModel>
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QSaveFile>
 #include <QStatusBar>
-#include <QStringList>
 #include <QTreeView>
-#include <QWhatsThis>
+
+// The type of what the view's model answers to Qt::UserRole.
+Q_DECLARE_METATYPE(GenApi::IValue *)
 
 namespace {
 
-constexpr int pollInterval = 200; // milliseconds
+constexpr int defaultPollingTime = 200; // milliseconds
+constexpr int longestPollingTime = 60000; // milliseconds
 constexpr int messageTime = 5000; // milliseconds
 
 } // namespace
 
 ExplorerWindow::ExplorerWindow(std::unique_ptr<CameraSource> source, QWidget *parent)
     : QMainWindow(parent)
-    , m_source(std::move(source))
-    , m_model(new GenParamTreeModel(m_source->nodeMap(), nullptr))
+    , m_view(new OrvGui::OrvGenParamTreeView(this))
+    , m_pollingLabel(new QLabel(this))
 {
-    setWindowTitle(tr("%1 - Camera Explorer").arg(m_source->name()));
     resize(780, 760);
-    watchErrors();
-    createTree();
-    createStatusBar();
-    createActions();
-    connect(&m_pollTimer, &QTimer::timeout, this, &ExplorerWindow::poll);
-    m_sincePoll.start();
-    m_pollTimer.start(pollInterval);
+    m_view->setWindowFlags(Qt::Widget);
+    m_view->setPollingTime(defaultPollingTime);
+    setCentralWidget(m_view);
+    statusBar()->setContentsMargins(6, 0, 6, 0);
+    statusBar()->addPermanentWidget(m_pollingLabel);
+    createFileMenu();
+    createViewMenu();
+    createSimulationMenu();
+    createHelpMenu();
+    setSource(std::move(source));
+    m_view->treeView()->setColumnWidth(0, width() / 2); // for a picture of a window that is never shown
+    setPolling(true);
 }
 
 ExplorerWindow::~ExplorerWindow()
 {
-    delete takeCentralWidget(); // the view must not outlive the model, a member that goes before the child widgets
+    m_view->clearParams(); // the view goes after the node map
 }
 
-void ExplorerWindow::createTree()
+void ExplorerWindow::createFileMenu()
 {
-    m_tree = new QTreeView(this);
-    m_tree->setModel(m_model.data());
-    m_tree->setUniformRowHeights(true);
-    m_tree->setAlternatingRowColors(true);
-    m_tree->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_tree->expandToDepth(0);
-    setCentralWidget(m_tree);
-
-    m_tree->header()->setSectionsMovable(false);
-    m_tree->header()->resizeSection(GenParamTreeModel::NameColumn, width() / 2);
-}
-
-void ExplorerWindow::createStatusBar()
-{
-    std::set<const GenApi::IValue *> features;
-    arrangeRows(QModelIndex(), features);
-    m_errorLabel = new QLabel(this);
-    statusBar()->setContentsMargins(6, 0, 6, 0);
-    statusBar()->addWidget(new QLabel(tr("Features: %1").arg(features.size()), this));
-    statusBar()->addPermanentWidget(m_errorLabel);
-    showErrorCount();
-}
-
-void ExplorerWindow::arrangeRows(const QModelIndex &parent, std::set<const GenApi::IValue *> &features)
-{
-    for (int row = 0; row < m_model->rowCount(parent); ++row) {
-        const QModelIndex index = m_model->index(row, GenParamTreeModel::NameColumn, parent);
-        auto *value = index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
-        if (!dynamic_cast<GenApi::ICategory *>(value)) {
-            features.insert(value);
-            continue;
-        }
-        m_tree->setFirstColumnSpanned(row, parent, true);
-        arrangeRows(index, features);
-    }
-}
-
-void ExplorerWindow::createActions()
-{
-    QMenu *file = menuBar()->addMenu(tr("&File"));
+    QMenu *const file = menuBar()->addMenu(tr("&File"));
+    file->addAction(tr("&Open Description..."), this, &ExplorerWindow::chooseDescription, QKeySequence::Open);
+    QMenu *const cameras = file->addMenu(tr("Open &Camera"));
+    connect(cameras, &QMenu::aboutToShow, this, [this, cameras] { listCameras(*cameras); });
+    file->addSeparator();
+    file->addAction(tr("&Save View State..."), this, &ExplorerWindow::chooseStateToSave, QKeySequence::Save);
+    file->addAction(tr("&Load View State..."), this, &ExplorerWindow::chooseStateToLoad);
+    file->addSeparator();
     file->addAction(tr("&Quit"), qApp, &QApplication::quit, QKeySequence::Quit);
+}
 
-    QMenu *view = menuBar()->addMenu(tr("&View"));
+void ExplorerWindow::createViewMenu()
+{
+    QMenu *const view = menuBar()->addMenu(tr("&View"));
     view->addAction(tr("&Refresh Values"), this, &ExplorerWindow::refresh, QKeySequence::Refresh);
     view->addSeparator();
-    view->addAction(tr("&Expand All"), m_tree, &QTreeView::expandAll);
-    view->addAction(tr("&Collapse All"), m_tree, &QTreeView::collapseAll);
-
-    QMenu *help = menuBar()->addMenu(tr("&Help"));
-    help->addAction(QWhatsThis::createAction(help));
-    help->addAction(tr("&About"), this, &ExplorerWindow::showAbout);
+    QAction *const polling = view->addAction(tr("&Poll"));
+    polling->setObjectName(QStringLiteral("poll"));
+    polling->setCheckable(true);
+    polling->setChecked(true);
+    connect(polling, &QAction::toggled, this, &ExplorerWindow::setPolling);
+    view->addAction(tr("Polling &Interval..."), this, &ExplorerWindow::choosePollingTime);
 }
 
-void ExplorerWindow::watchErrors()
+void ExplorerWindow::createSimulationMenu()
 {
-    connect(m_model.data(), &GenParamTreeModel::errorAppeared, this,
-            [this](const QModelIndex &, const QString &name, const QString &message, int role) {
-                m_errors[{name, role}] = message;
-                showErrorCount();
-            });
-    connect(m_model.data(), &GenParamTreeModel::errorDisappeared, this,
-            [this](const QModelIndex &, const QString &name, int role) {
-                if (m_errors.erase({name, role}) > 0)
-                    showErrorCount();
-            });
+    m_simulation = new SimulationMenu(this);
+    menuBar()->addMenu(m_simulation);
+    connect(m_simulation, &SimulationMenu::changed, this, &ExplorerWindow::refresh);
+    connect(m_simulation, &SimulationMenu::refused, this,
+            [this](const QString &reason) { statusBar()->showMessage(reason, messageTime); });
 }
 
-void ExplorerWindow::showErrorCount()
+void ExplorerWindow::createHelpMenu()
 {
-    std::set<QString> features;
-    QStringList lines;
-    for (const auto &[place, message] : m_errors) {
-        if (features.insert(place.first).second)
-            lines.append(tr("%1: %2").arg(place.first, message));
+    menuBar()->addMenu(tr("&Help"))->addAction(tr("&About"), this, &ExplorerWindow::showAbout);
+}
+
+void ExplorerWindow::setSource(std::unique_ptr<CameraSource> source)
+{
+    m_view->setParams(source->nodeMap());
+    m_source = std::move(source);
+    setWindowTitle(tr("%1 - Camera Explorer").arg(m_source->name()));
+    m_view->treeView()->expandToDepth(0);
+    m_simulation->setCamera(m_source->id());
+    m_simulation->setFeature(QString());
+    connect(m_view->treeView()->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &ExplorerWindow::followCurrent);
+}
+
+void ExplorerWindow::showCamera(const QString &id)
+{
+    if (id == m_source->id())
+        return;
+    try {
+        setSource(openCamera(id));
+    } catch (const CameraSourceError &e) {
+        report(e.message);
     }
-    m_errorLabel->setText(tr("Features with errors: %1").arg(features.size()));
-    m_errorLabel->setToolTip(lines.join(QLatin1Char('\n')));
 }
 
-void ExplorerWindow::poll()
+void ExplorerWindow::showDescription(const QString &path)
 {
     try {
-        m_source->nodeMap()->Poll(m_sincePoll.restart());
-    } catch (const GenICam::GenericException &e) {
-        statusBar()->showMessage(tr("Polling failed: %1").arg(QString::fromUtf8(e.GetDescription())), messageTime);
+        setSource(openDescription(path));
+    } catch (const CameraSourceError &e) {
+        report(e.message);
     }
+}
+
+void ExplorerWindow::listCameras(QMenu &menu)
+{
+    menu.clear();
+    const QStringList ids = cameraIds();
+    for (const QString &id : ids) {
+        QAction *const action = menu.addAction(id, this, [this, id] { showCamera(id); });
+        action->setCheckable(true);
+        action->setChecked(id == m_source->id());
+    }
+}
+
+void ExplorerWindow::chooseDescription()
+{
+    const QString path = QFileDialog::getOpenFileName(this, tr("Open Description"), QString(),
+                                                      tr("GenICam descriptions (*.xml);;All files (*)"));
+    if (!path.isEmpty())
+        showDescription(path);
+}
+
+void ExplorerWindow::chooseStateToSave()
+{
+    const QString path = QFileDialog::getSaveFileName(this, tr("Save View State"));
+    if (!path.isEmpty())
+        saveStateTo(path);
+}
+
+void ExplorerWindow::chooseStateToLoad()
+{
+    const QString path = QFileDialog::getOpenFileName(this, tr("Load View State"));
+    if (!path.isEmpty())
+        loadStateFrom(path);
+}
+
+void ExplorerWindow::saveStateTo(const QString &path)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(m_view->saveState()) < 0 || !file.commit())
+        report(tr("Cannot write '%1': %2.").arg(path, file.errorString()));
+}
+
+void ExplorerWindow::loadStateFrom(const QString &path)
+{
+    QFile file(path);
+    if (file.open(QIODevice::ReadOnly))
+        m_view->loadState(file.readAll().constData());
+    else
+        report(tr("Cannot read '%1': %2.").arg(path, file.errorString()));
+}
+
+void ExplorerWindow::choosePollingTime()
+{
+    bool accepted = false;
+    const int time = QInputDialog::getInt(this, tr("Polling Interval"), tr("Milliseconds:"),
+                                          int(m_view->getPollingTime()), 0, longestPollingTime, 1, &accepted);
+    if (!accepted)
+        return;
+    m_view->setPollingTime(static_cast<unsigned long>(time));
+    setPolling(m_view->isPollingEnabled());
+}
+
+void ExplorerWindow::setPolling(bool on)
+{
+    m_view->enablePolling(on);
+    m_pollingLabel->setText(on ? tr("Polling every %1 ms").arg(m_view->getPollingTime()) : tr("Not polling"));
 }
 
 void ExplorerWindow::refresh()
@@ -141,7 +200,26 @@ void ExplorerWindow::refresh()
     } catch (const GenICam::GenericException &e) {
         statusBar()->showMessage(tr("Refreshing failed: %1").arg(QString::fromUtf8(e.GetDescription())), messageTime);
     }
-    m_tree->viewport()->update();
+    m_view->treeView()->viewport()->update();
+}
+
+void ExplorerWindow::followCurrent(const QModelIndex &current)
+{
+    QString name;
+    try {
+        if (auto *const value = current.data(Qt::UserRole).value<GenApi::IValue *>())
+            name = QString::fromUtf8(value->GetNode()->GetName().c_str());
+    } catch (const GenICam::GenericException &) {
+        // A feature that cannot tell its name cannot be made to fail either.
+    }
+    m_simulation->setFeature(name);
+}
+
+void ExplorerWindow::report(const QString &message)
+{
+    auto *const box = new QMessageBox(QMessageBox::Warning, windowTitle(), message, QMessageBox::Ok, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
 }
 
 void ExplorerWindow::showAbout()

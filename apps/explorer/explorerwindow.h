@@ -1,23 +1,20 @@
 #pragma once
 
-#include <GenApi/IValue.h>
-
-#include <QElapsedTimer>
 #include <QMainWindow>
-#include <QScopedPointer>
-#include <QTimer>
 
-#include <map>
 #include <memory>
-#include <set>
-#include <utility>
 
 class CameraSource;
-class GenParamTreeModel;
 class QLabel;
-class QTreeView;
+class QMenu;
+class QModelIndex;
+class SimulationMenu;
 
-/** Shows the features of one camera, their values following the camera. */
+namespace OrvGui {
+class OrvGenParamTreeView;
+}
+
+/** Shows the features of a camera, one at a time. */
 class ExplorerWindow : public QMainWindow
 {
     Q_OBJECT
@@ -26,28 +23,36 @@ public:
     explicit ExplorerWindow(std::unique_ptr<CameraSource> source, QWidget *parent = nullptr);
     ~ExplorerWindow() override;
 
+    /** Shows the camera with that identifier instead; what keeps it from that, a message tells, and nothing changes. */
+    void showCamera(const QString &id);
+
+    /** Shows that GenICam description instead; the same holds. */
+    void showDescription(const QString &path);
+
+    /** Writes what saveState() of the view gives into the file, or arranges the view by what is in it. */
+    void saveStateTo(const QString &path);
+    void loadStateFrom(const QString &path);
+
 private:
-    /** By feature name and item role: what went wrong there last. */
-    using Errors = std::map<std::pair<QString, int>, QString>;
+    void createFileMenu();
+    void createViewMenu();
+    void createSimulationMenu();
+    void createHelpMenu();
 
-    void createActions();
-    void createTree();
-    void createStatusBar();
-    void watchErrors();
-
-    /** Lets the categories below \a parent take whole rows and adds what is no category to \a features. */
-    void arrangeRows(const QModelIndex &parent, std::set<const GenApi::IValue *> &features);
-
-    void poll();
+    void setSource(std::unique_ptr<CameraSource> source);
+    void listCameras(QMenu &menu);
+    void chooseDescription();
+    void chooseStateToSave();
+    void chooseStateToLoad();
+    void choosePollingTime();
+    void setPolling(bool on);
     void refresh();
-    void showErrorCount();
+    void followCurrent(const QModelIndex &current);
+    void report(const QString &message);
     void showAbout();
 
-    const std::unique_ptr<CameraSource> m_source;
-    const QScopedPointer<GenParamTreeModel> m_model; ///< goes before the node map that it shows
-    QTreeView *m_tree = nullptr;
-    QLabel *m_errorLabel = nullptr;
-    Errors m_errors;
-    QTimer m_pollTimer;
-    QElapsedTimer m_sincePoll;
+    std::unique_ptr<CameraSource> m_source;
+    OrvGui::OrvGenParamTreeView *const m_view;
+    SimulationMenu *m_simulation = nullptr;
+    QLabel *const m_pollingLabel;
 };

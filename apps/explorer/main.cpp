@@ -51,7 +51,8 @@ bool hasDisplay()
 int saveScreenshot(QWidget &window, const QString &directory)
 {
     const QString path = QDir(directory).filePath(QStringLiteral("explorer.png"));
-    window.grab(); // drawing reads the values, and reading finds the errors that the status bar counts
+    window.grab(); // drawing reads the values, and reading finds the errors that turn red then
+    QCoreApplication::processEvents();
     if (!QDir().mkpath(directory) || !window.grab().save(path))
         return fail(Text::tr("Cannot write '%1'.").arg(path));
     return print(path + QLatin1Char('\n'));

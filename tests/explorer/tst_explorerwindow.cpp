@@ -3,9 +3,12 @@
 #include "orvtest.h"
 
 #include <OrvCameraApi/simulation.h>
+#include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
 
-#include <QLabel>
-#include <QStatusBar>
+#include <QAction>
+#include <QMessageBox>
+#include <QPointer>
+#include <QTemporaryDir>
 #include <QTreeView>
 
 #include <functional>
@@ -16,13 +19,24 @@ namespace {
 
 const char *const firstCamera = "ORV-GIGE-0001";
 
-/** What the status bar says, from left to right. */
-QString statusText(const ExplorerWindow &window)
+QTreeView *treeOf(const ExplorerWindow &window)
 {
-    QStringList texts;
-    for (const QLabel *label : window.statusBar()->findChildren<QLabel *>())
-        texts.append(label->text());
-    return texts.join(QLatin1Char('|'));
+    return window.findChild<QTreeView *>(QStringLiteral("treeView"));
+}
+
+/** The value that is shown beside the name, below the first category. */
+QModelIndex firstValue(const ExplorerWindow &window, const char *name)
+{
+    const QAbstractItemModel *const model = treeOf(window)->model();
+    const QModelIndex category = model->index(0, 0);
+    return model->match(model->index(0, 0, category), Qt::DisplayRole, QLatin1String(name), 1, Qt::MatchExactly)
+        .value(0)
+        .siblingAtColumn(1);
+}
+
+void trigger(const ExplorerWindow &window, const char *action)
+{
+    window.findChild<QAction *>(QLatin1String(action))->trigger();
 }
 
 } // namespace
@@ -37,7 +51,9 @@ private Q_SLOTS:
     void saysWhyThereIsNoCamera_data();
     void saysWhyThereIsNoCamera();
     void pollsTheCamera();
-    void countsErrors();
+    void makesFeaturesFailAndRecover();
+    void showsOneCameraAfterTheOther();
+    void savesAndLoadsTheState();
 };
 
 void ExplorerWindowTest::init()
@@ -103,30 +119,70 @@ void ExplorerWindowTest::pollsTheCamera()
 {
     {
         const ExplorerWindow window(openCamera(QString()));
-        const auto *tree = qobject_cast<QTreeView *>(window.centralWidget());
         QStringList changed;
-        connect(tree->model(), &QAbstractItemModel::dataChanged, &window,
+        connect(treeOf(window)->model(), &QAbstractItemModel::dataChanged, &window,
                 [&changed](const QModelIndex &index) { changed.append(index.siblingAtColumn(0).data().toString()); });
         QTRY_VERIFY(changed.contains(QStringLiteral("Current Temperature")));
+        trigger(window, "poll");
+        QVERIFY(!window.findChild<OrvGui::OrvGenParamTreeView *>()->isPollingEnabled());
     }
     QCOMPARE(OrvSim::liveObjects().devices, std::size_t(0));
     QCOMPARE(OrvSim::liveObjects().systemReferences, std::size_t(0));
 }
 
-void ExplorerWindowTest::countsErrors()
+void ExplorerWindowTest::makesFeaturesFailAndRecover()
 {
     ExplorerWindow window(openCamera(QString()));
     window.show();
     QVERIFY(QTest::qWaitForWindowActive(&window));
-    QTRY_VERIFY(statusText(window).endsWith(QStringLiteral("errors: 0")));
+    QVERIFY(!window.findChild<QAction *>(QStringLiteral("failReading"))->isEnabled());
+    const QPersistentModelIndex value = firstValue(window, "Current Temperature");
+    QTest::mouseClick(treeOf(window)->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      treeOf(window)->visualRect(value).center());
+    trigger(window, "failReading");
+    QTRY_COMPARE(value.data().toString(), QStringLiteral("ERROR"));
+    trigger(window, "recover");
+    QTRY_VERIFY(value.data().toString() != QLatin1String("ERROR"));
+}
 
-    QVERIFY(OrvSim::setFault(firstCamera, "CurrentTemperature", OrvSim::Fault::FailRead));
-    QTest::keyClick(&window, Qt::Key_F5);
-    QTRY_VERIFY(statusText(window).endsWith(QStringLiteral("errors: 1")));
+void ExplorerWindowTest::showsOneCameraAfterTheOther()
+{
+    {
+        ExplorerWindow window(openCamera(QString()));
+        window.show();
+        const QString title = window.windowTitle();
+        window.showCamera(cameraIds().last());
+        QVERIFY(window.windowTitle() != title);
+        QCOMPARE(OrvSim::liveObjects().devices, std::size_t(1));
 
-    QVERIFY(OrvSim::clearFaults(firstCamera));
-    QTest::keyClick(&window, Qt::Key_F5);
-    QTRY_VERIFY(statusText(window).endsWith(QStringLiteral("errors: 0")));
+        window.showCamera(QStringLiteral("nobody"));
+        auto *const box = window.findChild<QMessageBox *>();
+        QVERIFY(box && box->text().contains(QLatin1String("'nobody'")));
+        QTest::keyClick(box, Qt::Key_Escape);
+        window.showDescription(QStringLiteral(TEST_DATA "/probe.xml"));
+        QVERIFY(!window.findChild<QAction *>(QStringLiteral("recover"))->isEnabled());
+        QCOMPARE(OrvSim::liveObjects().devices, std::size_t(0));
+    }
+    QCOMPARE(OrvSim::liveObjects().systemReferences, std::size_t(0));
+}
+
+void ExplorerWindowTest::savesAndLoadsTheState()
+{
+    const QTemporaryDir directory;
+    const QString path = directory.filePath(QStringLiteral("state"));
+    ExplorerWindow window(openCamera(QString()));
+    QVERIFY(treeOf(window)->isExpanded(treeOf(window)->model()->index(0, 0)));
+    window.saveStateTo(path);
+    treeOf(window)->collapseAll();
+    window.loadStateFrom(path);
+    QVERIFY(treeOf(window)->isExpanded(treeOf(window)->model()->index(0, 0)));
+    for (const auto &operation : {&ExplorerWindow::saveStateTo, &ExplorerWindow::loadStateFrom}) {
+        (window.*operation)(directory.filePath(QStringLiteral("no/such/place")));
+        QPointer<QMessageBox> box = window.findChild<QMessageBox *>();
+        QVERIFY(box && box->text().contains(QLatin1String("no/such/place")));
+        QTest::keyClick(box, Qt::Key_Return);
+        QTRY_VERIFY(!box);
+    }
 }
 
 ORV_TEST_MAIN(ExplorerWindowTest)

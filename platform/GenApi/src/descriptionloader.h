@@ -60,8 +60,9 @@ private:
     bool readCommon(Node &node, const Element &property);
     bool readPresentation(Presentation &presentation, const Element &property);
     bool readRegister(Node &node, RegisterData &data, const Element &property);
+    template <typename NumberNode>
+    bool readNumberProperty(NumberNode &node, const Element &property);
     void readInteger(IntegerNode &node, const Element &element);
-    void readIntegerProperty(IntegerNode &node, const Element &property);
     void readValidValues(IntegerNode &node, const Element &property);
     template <typename Number>
     bool readSource(NumberSource<Number> &source, Node &node, const Element &property);

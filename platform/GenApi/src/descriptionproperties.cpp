@@ -322,33 +322,38 @@ bool DescriptionLoader::readSource(NumberSource<Number> &source, Node &node, con
     return true;
 }
 
+template <typename NumberNode>
+bool DescriptionLoader::readNumberProperty(NumberNode &node, const Element &property)
+{
+    if (readCommon(node, property) || readPresentation(node.m_presentation, property)
+        || readSource(node.m_source, node, property))
+        return true;
+    const bool isLink = *property.name() == 'p';
+    const std::string_view name = property.name() + (isLink ? 1 : 0);
+    auto *const limit = name == "Min" ? &node.m_minimum
+        : name == "Max"               ? &node.m_maximum
+        : name == "Inc"               ? &node.m_increment
+                                      : nullptr;
+    if (!limit)
+        return false;
+    if (isLink) {
+        linkNumber(*limit, node, property, Use::Condition);
+    } else {
+        auto value = limit->constant();
+        readNumber(value, property);
+        limit->setConstant(value);
+    }
+    return true;
+}
+
 void DescriptionLoader::readInteger(IntegerNode &node, const Element &element)
 {
     for (const Element &property : element.children()) {
-        if (!readCommon(node, property) && !readPresentation(node.m_presentation, property)
-            && !readSource(node.m_source, node, property))
-            readIntegerProperty(node, property);
+        if (!readNumberProperty(node, property) && is(property, "ValidValueSet"))
+            readValidValues(node, property);
     }
     if (!node.m_source.isComplete() && !node.isBroken())
         node.setBroken("it has no value");
-}
-
-void DescriptionLoader::readIntegerProperty(IntegerNode &node, const Element &property)
-{
-    if (is(property, "Min"))
-        node.m_minimum.setConstant(integer(property));
-    else if (is(property, "pMin"))
-        linkNumber(node.m_minimum, node, property, Use::Condition);
-    else if (is(property, "Max"))
-        node.m_maximum.setConstant(integer(property));
-    else if (is(property, "pMax"))
-        linkNumber(node.m_maximum, node, property, Use::Condition);
-    else if (is(property, "Inc"))
-        node.m_increment.setConstant(integer(property));
-    else if (is(property, "pInc"))
-        linkNumber(node.m_increment, node, property, Use::Condition);
-    else if (is(property, "ValidValueSet"))
-        readValidValues(node, property);
 }
 
 void DescriptionLoader::readValidValues(IntegerNode &node, const Element &property)
@@ -372,23 +377,8 @@ void DescriptionLoader::readValidValues(IntegerNode &node, const Element &proper
 void DescriptionLoader::readFloat(FloatNode &node, const Element &element)
 {
     node.setCachingMode(WriteAround);
-    for (const Element &property : element.children()) {
-        if (readCommon(node, property) || readPresentation(node.m_presentation, property)
-            || readSource(node.m_source, node, property))
-            continue;
-        if (is(property, "Min"))
-            node.m_minimum.setConstant(number(property));
-        else if (is(property, "pMin"))
-            linkNumber(node.m_minimum, node, property, Use::Condition);
-        else if (is(property, "Max"))
-            node.m_maximum.setConstant(number(property));
-        else if (is(property, "pMax"))
-            linkNumber(node.m_maximum, node, property, Use::Condition);
-        else if (is(property, "Inc"))
-            node.m_increment.setConstant(number(property));
-        else if (is(property, "pInc"))
-            linkNumber(node.m_increment, node, property, Use::Condition);
-    }
+    for (const Element &property : element.children())
+        readNumberProperty(node, property);
     if (!node.m_source.isComplete() && !node.isBroken())
         node.setBroken("it has no value");
 }

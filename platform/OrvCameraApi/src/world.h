@@ -36,8 +36,8 @@ public:
     /** False when the control name is empty or in use. */
     bool add(const OrvSim::InterfaceSpec &spec);
 
-    /** False when the control name is empty or in use, or there is no such interface; throws when the spec cannot be
-     * used. */
+    /** False when the control name is empty or in use, or there is no such interface; throws when what it describes
+     * cannot be used. */
     bool add(const std::string &interfaceName, const OrvSim::DeviceSpec &spec);
 
     bool remove(const std::string &name);

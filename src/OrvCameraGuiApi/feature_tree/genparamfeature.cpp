@@ -107,6 +107,15 @@ GenApi::INode *nodeOf(GenApi::IValue *value)
     return node ? node : static_cast<GenApi::INode *>(GenApi::CNodePtr());
 }
 
+/** The cast is for nodes that cannot tell their type: one that fails costs much more than asking. */
+bool isCategory(GenApi::IValue *value)
+{
+    bool is = false;
+    if (failureOf([&] { is = value && nodeOf(value)->GetPrincipalInterfaceType() == GenApi::intfICategory; }))
+        is = dynamic_cast<GenApi::ICategory *>(value);
+    return is;
+}
+
 GenApi::EInterfaceType GenParamFeature::type() const
 {
     return m_value ? node()->GetPrincipalInterfaceType() : GenApi::intfIBase;

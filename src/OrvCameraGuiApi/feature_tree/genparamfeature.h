@@ -23,6 +23,9 @@ inline QString fromGenICam(const GenICam::gcstring &text)
 /** The node of \a value, which may be null; throws when there is none. */
 GenApi::INode *nodeOf(GenApi::IValue *value);
 
+/** Whether \a value, which may be null, is a category; throws nothing. */
+bool isCategory(GenApi::IValue *value);
+
 /** Runs \a action; the text for people about what it threw, never empty, or nothing when it went well. */
 template <typename Action>
 std::optional<QString> failureOf(Action &&action)

@@ -110,6 +110,7 @@ public:
     Q_DISABLE_COPY(GenParamTreeModelPrivate)
 
     void build();
+    void release();
     void enter(GenApi::ICategory &category, FeatureEntry *entry);
     FeatureEntry *addFeature(GenApi::IValue *value, FeatureEntry *parent, qint32 row);
     FeatureEntry *furtherOccurrence(FeatureEntry *first, FeatureEntry *parent, qint32 row);
@@ -134,6 +135,7 @@ public:
     GenApi::INodeMap *const nodeMap;
     bool addressesAreDeclared = false; ///< the node map tells which integers are addresses: names tell nothing
     const GenICam::gcstring currentAddressName = "GevCurrentIPAddress";
+    bool isReleased = false; ///< nothing may ask a node any more
     std::vector<GenApi::CallbackHandleType> callbacks;
     BlockArena arena; ///< of the entries, the child arrays and the names
     std::pmr::map<GenApi::IValue *, IndexFeature> entries{&arena};
@@ -160,9 +162,17 @@ GenParamTreeModelPrivate::GenParamTreeModelPrivate(GenParamTreeModel *model, Gen
 
 GenParamTreeModelPrivate::~GenParamTreeModelPrivate()
 {
+    release();
+}
+
+/** The entries stay: slots further up the stack may be using them. */
+void GenParamTreeModelPrivate::release()
+{
     forwarder->detach();
-    for (const GenApi::CallbackHandleType callback : callbacks)
+    for (const GenApi::CallbackHandleType callback : std::exchange(callbacks, {}))
         failureOf([&] { GenApi::Deregister(callback); });
+    rootChildCount = 0;
+    isReleased = true;
 }
 
 /** Adds all features, depth first. Not recursive: a description decides how deep its categories are nested. */
@@ -276,7 +286,7 @@ FeatureEntry &GenParamTreeModelPrivate::entryOf(const QModelIndex &index)
 GenParamFeature GenParamTreeModelPrivate::featureOf(const QModelIndex &index) const
 {
     const FeatureEntry &entry = entryOf(index);
-    return GenParamFeature(entry.first, entry.second.name, !addressesAreDeclared);
+    return GenParamFeature(isReleased ? nullptr : entry.first, entry.second.name, !addressesAreDeclared);
 }
 
 bool GenParamTreeModelPrivate::hasError(const GenParamFeature &feature) const
@@ -397,6 +407,13 @@ GenParamTreeModel::GenParamTreeModel(OrvGenParam::Array *params, QObject *parent
 }
 
 GenParamTreeModel::~GenParamTreeModel() = default;
+
+void GenParamTreeModel::release()
+{
+    beginResetModel();
+    d->release();
+    endResetModel();
+}
 
 QModelIndex GenParamTreeModel::index(int row, int column, const QModelIndex &parent) const
 {

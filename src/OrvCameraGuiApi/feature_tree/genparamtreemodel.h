@@ -44,6 +44,12 @@ public:
     /** Deregisters from all nodes; changes that are still on their way from other threads are dropped. */
     ~GenParamTreeModel() override;
 
+    /**
+     * Lets go of the node map, for good: from now on there are no rows and no callbacks, and an index that somebody
+     * still holds asks no node. The node map may go before the model does.
+     */
+    void release();
+
     QModelIndex index(int row, int column, const QModelIndex &parent = QModelIndex()) const override;
     QModelIndex parent(const QModelIndex &index) const override;
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <OrvCameraGuiApi/feature_tree/iorvgenparamtreeview.h>
+
+/**
+ * \file
+ * Functions with C linkage that create and destroy feature tree views; this header needs no Qt.
+ *
+ * A view is a modeless window of its own and shown when it is returned. It is the caller's, whatever becomes of its
+ * parent, and ends by DestroyGenParamTreeView(). \a nodeMap and \a params stay the caller's and outlive it, see
+ * OrvGui::IOrvGenParamTreeView; they may be null.
+ *
+ * \a title is UTF-8, or a wide string of 32-bit characters; null is an empty title.
+ *
+ * \a parentWindowId is a native window that the new one stays in front of; 0 for none, and a number that is no window
+ * does no harm. If it is a Qt window of this process, that becomes the parent widget. Any other window is left as it
+ * is; the view outlives it.
+ *
+ * Where there is no Qt application object yet, one is made, with Qt::AA_UseHighDpiPixmaps, and never destroyed; its
+ * events have to be processed by whoever calls. An application that makes its own should set that attribute for icons
+ * that are sharp on every screen. Where there is one without widgets (QGuiApplication, QCoreApplication) the functions
+ * answer null. All calls come from the GUI thread; none of them throws.
+ */
+extern "C" {
+
+ORV_CAMERAGUIAPI_EXPORT OrvGui::IOrvGenParamTreeView *
+CreateGenParamTreeViewForNodemapA(GenApi::INodeMap *nodeMap, const char *title, unsigned long parentWindowId);
+
+ORV_CAMERAGUIAPI_EXPORT OrvGui::IOrvGenParamTreeView *
+CreateGenParamTreeViewForNodemapW(GenApi::INodeMap *nodeMap, const wchar_t *title, unsigned long parentWindowId);
+
+ORV_CAMERAGUIAPI_EXPORT OrvGui::IOrvGenParamTreeView *
+CreateGenParamTreeViewForArrayA(OrvGenParam::Array *params, const char *title, unsigned long parentWindowId);
+
+ORV_CAMERAGUIAPI_EXPORT OrvGui::IOrvGenParamTreeView *
+CreateGenParamTreeViewForArrayW(OrvGenParam::Array *params, const wchar_t *title, unsigned long parentWindowId);
+
+/** Closes and destroys the view; null does nothing. */
+ORV_CAMERAGUIAPI_EXPORT void DestroyGenParamTreeView(OrvGui::IOrvGenParamTreeView *view);
+}

@@ -1,0 +1,25 @@
+#include <OrvCameraGuiApi/feature_tree/generrorsdlg.h>
+
+#include <QDialogButtonBox>
+#include <QTextBrowser>
+#include <QVBoxLayout>
+
+GenErrorsDlg::GenErrorsDlg(const QString &errors, QWidget *parent)
+    : QDialog(parent)
+{
+    setObjectName(QStringLiteral("GenErrorsDlg"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    setModal(true);
+    resize(400, 171);
+    setWindowTitle(tr("Gen<i>Cam errors"));
+
+    auto *const text = new QTextBrowser(this);
+    // Not rich text: a message of a camera may look like a tag.
+    text->setPlainText(errors.isEmpty() ? tr("No Errors") : errors);
+    auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Close, Qt::Horizontal, this);
+    connect(buttons, &QDialogButtonBox::accepted, this, &GenErrorsDlg::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &GenErrorsDlg::reject);
+    auto *const layout = new QVBoxLayout(this);
+    layout->addWidget(text);
+    layout->addWidget(buttons);
+}

@@ -1,0 +1,485 @@
+#include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
+
+#include <OrvCameraGuiApi/camera_api/orvgenparam.h>
+#include <OrvCameraGuiApi/feature_tree/filteroptions.h>
+#include <OrvCameraGuiApi/feature_tree/generrorsdlg.h>
+#include <OrvCameraGuiApi/feature_tree/genparamdelegate.h>
+#include <OrvCameraGuiApi/feature_tree/genparamerrorcontroller.h>
+#include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
+#include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
+#include <OrvCameraGuiApi/feature_tree/genparamtreevisibilityfilterproxymodel.h>
+#include <OrvCameraGuiApi/feature_tree/treestate.h>
+#include <OrvCameraGuiApi/feature_tree/treeviewresizer.h>
+
+#include "ui_genparamtreeview.h"
+
+#include <QAction>
+#include <QKeyEvent>
+#include <QSet>
+#include <QSplitter>
+#include <QTimer>
+
+#include <limits>
+#include <utility>
+#include <vector>
+
+namespace {
+
+GenApi::INodeMap *nodeMapOf(OrvGenParam::Array *params)
+{
+    GenApi::INodeMap *nodeMap = nullptr;
+    if (params)
+        failureOf([&] { nodeMap = params->GetNodeMap(); });
+    return nodeMap;
+}
+
+GenApi::IValue *featureOf(const QModelIndex &index)
+{
+    return index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
+}
+
+/**
+ * Like QIcon(path), but of pixmaps that Qt keeps by their names. With an icon of its own, which is what the form gives
+ * it, each view would leave further pictures in Qt's cache.
+ */
+QIcon iconOf(const QString &path)
+{
+    QIcon icon{QPixmap(path)};
+    icon.addPixmap(QPixmap(QString(path).replace(QLatin1String(".png"), QLatin1String("@2x.png"))));
+    return icon;
+}
+
+} // namespace
+
+namespace OrvGui {
+
+class OrvGenParamTreeViewPrivate
+{
+public:
+    explicit OrvGenParamTreeViewPrivate(OrvGenParamTreeView *view)
+        : q(view)
+    {
+    }
+    Q_DISABLE_COPY(OrvGenParamTreeViewPrivate)
+
+    void init(GenApi::INodeMap *map);
+    void initSplitter();
+    void initFilter();
+    void initButtons();
+    void initPolling();
+
+    void install(GenApi::INodeMap *map);
+    void remove();
+    void showModel(QAbstractItemModel *shown);
+    void connectModel();
+    void connectProxy();
+    void splitColumns();
+    void spanAllCategories();
+    void spanCategories(const QModelIndex &parent, int first, int last);
+    void currentChanged(const QModelIndex &index);
+    void filterChanged();
+
+    void errorAppeared(const QModelIndex &index, const QString &name, const QString &message, int role);
+    void errorDisappeared(const QModelIndex &index, const QString &name, int role);
+    void showStatus();
+    void repaintSoon(GenApi::IValue *feature);
+    void repaintRows();
+    void poll();
+
+    OrvGenParamTreeView *const q;
+    QSplitter *splitter = nullptr;
+    Ui_GenParamTreeView ui;
+    QByteArray state; ///< the text that was saved or loaded last
+    QMetaObject::Connection firstShow;
+    bool isStateLoaded = false; ///< for good: the columns are not divided when the tree is shown first
+    GenParamErrorController errors;
+    FilterOptions *filterOptions = nullptr;
+    QAction *filterOptionsAction = nullptr;
+    QTimer *pollTimer = nullptr;
+    GenApi::INodeMap *nodeMap = nullptr;
+
+    GenParamTreeModel *model = nullptr;
+    GenParamTreeVisibilityFilterProxyModel *proxy = nullptr; ///< null exactly when the model is
+    QModelIndex currentSource; ///< of the model, whose rows stay; where the current item was before the filter took it
+    bool statusShowsErrors = false;
+    QSet<GenApi::IValue *> featuresToRepaint;
+};
+
+void OrvGenParamTreeViewPrivate::init(GenApi::INodeMap *map)
+{
+    ui.setupUi(q);
+    initSplitter();
+    initButtons();
+    filterOptions = new FilterOptions(q);
+    install(map);
+    ui.treeView->setItemDelegateForColumn(GenParamTreeModel::ValueColumn, new GenParamDelegate(q));
+    auto *const resizer = new TreeViewResizer(ui.treeView);
+    firstShow = QObject::connect(resizer, &TreeViewResizer::showed, q, [this] {
+        QObject::disconnect(firstShow);
+        if (!isStateLoaded)
+            splitColumns();
+    });
+    initFilter();
+    initPolling();
+}
+
+void OrvGenParamTreeViewPrivate::initSplitter()
+{
+    splitter = new QSplitter(Qt::Vertical, q);
+    splitter->addWidget(ui.treeView);
+    splitter->addWidget(ui.whatsThisLabel);
+    splitter->setChildrenCollapsible(false);
+    splitter->setSizes({1000, 10});
+    ui.verticalLayout->addWidget(splitter);
+}
+
+/** The form is connected once; what it is set to goes to the proxy that there is then. */
+void OrvGenParamTreeViewPrivate::initFilter()
+{
+    QAction *const clear =
+        ui.filterLineEdit->addAction(iconOf(QStringLiteral("://images//clear_left.png")), QLineEdit::TrailingPosition);
+    clear->setToolTip(OrvGenParamTreeView::tr("Clear filter"));
+    QObject::connect(clear, &QAction::triggered, ui.filterLineEdit, &QLineEdit::clear);
+    filterOptionsAction = ui.filterLineEdit->addAction(iconOf(filterOptions->iconPath()), QLineEdit::TrailingPosition);
+    filterOptionsAction->setToolTip(OrvGenParamTreeView::tr("Filter options"));
+    QObject::connect(filterOptionsAction, &QAction::triggered, q, [this] { filterOptions->popUp(*ui.filterLineEdit); });
+
+    QObject::connect(ui.filterLineEdit, &QLineEdit::textChanged, q, [this](const QString &text) {
+        if (proxy)
+            proxy->setFilterText(text);
+    });
+    QObject::connect(ui.cbVisibility, QOverload<int>::of(&QComboBox::currentIndexChanged), q, [this](int level) {
+        if (proxy)
+            proxy->setFilterVisibility(level);
+        spanAllCategories();
+    });
+    QObject::connect(filterOptions, &FilterOptions::caseSensitivityChanged, q, [this](bool isSensitive) {
+        filterOptionsAction->setIcon(iconOf(filterOptions->iconPath()));
+        if (proxy)
+            proxy->setCaseSensitive(isSensitive);
+    });
+    QObject::connect(filterOptions, &FilterOptions::wholeWordsChanged, q, [this](bool wholeWords) {
+        filterOptionsAction->setIcon(iconOf(filterOptions->iconPath()));
+        if (proxy)
+            proxy->setWholeWords(wholeWords);
+    });
+}
+
+void OrvGenParamTreeViewPrivate::initButtons()
+{
+    ui.pbCollapseAll->setIcon(iconOf(QStringLiteral(":/images/collapse_all.png")));
+    ui.pbExpandAll->setIcon(iconOf(QStringLiteral(":/images/expand_all.png")));
+    ui.pbStatus->setIcon(iconOf(QStringLiteral(":/images/ok.png")));
+    QObject::connect(ui.pbCollapseAll, &QToolButton::clicked, ui.treeView, &QTreeView::collapseAll);
+    QObject::connect(ui.pbExpandAll, &QToolButton::clicked, ui.treeView, &QTreeView::expandAll);
+    QObject::connect(ui.pbStatus, &QToolButton::clicked, q,
+                     [this] { (new GenErrorsDlg(errors.GetErrorInfo(), q))->show(); });
+}
+
+void OrvGenParamTreeViewPrivate::initPolling()
+{
+    pollTimer = new QTimer(q);
+    QObject::connect(pollTimer, &QTimer::timeout, q, [this] { poll(); });
+}
+
+void OrvGenParamTreeViewPrivate::install(GenApi::INodeMap *map)
+{
+    remove();
+    nodeMap = map;
+    model = new GenParamTreeModel(map, q);
+    proxy = new GenParamTreeVisibilityFilterProxyModel(q);
+    proxy->setFilterVisibility(ui.cbVisibility->currentIndex());
+    proxy->setFilterText(ui.filterLineEdit->text());
+    proxy->setCaseSensitive(filterOptions->isCaseSensitive());
+    proxy->setWholeWords(filterOptions->wholeWordsOnly());
+    proxy->setSourceModel(model);
+    connectModel();
+    showModel(proxy);
+    connectProxy();
+    splitColumns();
+    spanAllCategories();
+}
+
+/** Nothing refers to the node map afterwards; only the objects that did are freed later, for they may be in use. */
+void OrvGenParamTreeViewPrivate::remove()
+{
+    if (!model)
+        return;
+    model->disconnect(q);
+    proxy->disconnect(q);
+    showModel(nullptr);
+    model->release();
+    proxy->deleteLater();
+    model->deleteLater();
+    proxy = nullptr;
+    model = nullptr;
+    nodeMap = nullptr;
+    currentSource = QModelIndex();
+    featuresToRepaint.clear();
+    errors = GenParamErrorController();
+    showStatus();
+    ui.whatsThisLabel->clear();
+}
+
+/** Closes the open editors; nothing that was typed in them is written. */
+void OrvGenParamTreeViewPrivate::showModel(QAbstractItemModel *shown)
+{
+    QItemSelectionModel *const former = ui.treeView->selectionModel();
+    if (former)
+        former->disconnect(q);
+    ui.treeView->setModel(shown);
+    QItemSelectionModel *const current = ui.treeView->selectionModel();
+    if (former && former != current)
+        former->deleteLater();
+    QObject::connect(current, &QItemSelectionModel::currentChanged, q,
+                     [this](const QModelIndex &index) { currentChanged(index); });
+}
+
+void OrvGenParamTreeViewPrivate::connectModel()
+{
+    QObject::connect(model, &GenParamTreeModel::errorAppeared, q,
+                     [this](const QModelIndex &index, const QString &name, const QString &message, int role) {
+                         errorAppeared(index, name, message, role);
+                     });
+    QObject::connect(
+        model, &GenParamTreeModel::errorDisappeared, q,
+        [this](const QModelIndex &index, const QString &name, int role) { errorDisappeared(index, name, role); });
+}
+
+/** After the tree, which has to know of a change before its current item is moved or its rows are spanned. */
+void OrvGenParamTreeViewPrivate::connectProxy()
+{
+    QObject::connect(proxy, &QAbstractItemModel::layoutChanged, q, [this] { filterChanged(); });
+    QObject::connect(proxy, &QAbstractItemModel::rowsInserted, q,
+                     [this](const QModelIndex &parent, int first, int last) { spanCategories(parent, first, last); });
+}
+
+void OrvGenParamTreeViewPrivate::splitColumns()
+{
+    const int width = ui.treeView->columnWidth(GenParamTreeModel::NameColumn)
+        + ui.treeView->columnWidth(GenParamTreeModel::ValueColumn);
+    ui.treeView->setColumnWidth(GenParamTreeModel::NameColumn, width / 2);
+}
+
+/** Does nothing when somebody's slot has just had the model taken away. */
+void OrvGenParamTreeViewPrivate::spanAllCategories()
+{
+    if (proxy)
+        spanCategories(QModelIndex(), 0, proxy->rowCount() - 1);
+}
+
+/** Of those rows and all that is in them, from top to bottom: the tree looks for each row near the one before. */
+void OrvGenParamTreeViewPrivate::spanCategories(const QModelIndex &parent, int first, int last)
+{
+    struct Level
+    {
+        QModelIndex parent;
+        int next;
+        int last;
+    };
+    std::vector<Level> levels{{parent, first, last}};
+    while (!levels.empty()) {
+        Level &level = levels.back();
+        if (level.next > level.last) {
+            levels.pop_back();
+            continue;
+        }
+        const int row = level.next++;
+        const QModelIndex index = proxy->index(row, GenParamTreeModel::NameColumn, level.parent);
+        if (isCategory(featureOf(index))) {
+            ui.treeView->setFirstColumnSpanned(row, level.parent, true);
+            levels.push_back({index, 0, proxy->rowCount(index) - 1});
+        }
+    }
+}
+
+void OrvGenParamTreeViewPrivate::currentChanged(const QModelIndex &index)
+{
+    currentSource = proxy ? proxy->mapToSource(index) : QModelIndex();
+    ui.whatsThisLabel->setHtml(index.data(Qt::WhatsThisRole).toString());
+}
+
+/** A current item that went moves on to what is next to it, or to that beside its category, as with removed rows. */
+void OrvGenParamTreeViewPrivate::filterChanged()
+{
+    if (!currentSource.isValid() || ui.treeView->currentIndex().isValid())
+        return;
+    QModelIndex nearest;
+    for (QModelIndex source = currentSource; source.isValid() && !nearest.isValid(); source = source.parent())
+        nearest = proxy->nearestTo(source);
+    if (nearest.isValid())
+        ui.treeView->setCurrentIndex(nearest);
+    else
+        currentChanged(QModelIndex());
+}
+
+void OrvGenParamTreeViewPrivate::errorAppeared(const QModelIndex &index, const QString &name, const QString &message,
+                                               int role)
+{
+    errors.SetError(name, message, role);
+    showStatus();
+    repaintSoon(featureOf(index));
+}
+
+void OrvGenParamTreeViewPrivate::errorDisappeared(const QModelIndex &index, const QString &name, int role)
+{
+    if (!errors.ClearError(name, role))
+        return;
+    showStatus();
+    repaintSoon(featureOf(index));
+}
+
+void OrvGenParamTreeViewPrivate::showStatus()
+{
+    if (std::exchange(statusShowsErrors, errors.hasErrors()) == errors.hasErrors())
+        return;
+    ui.pbStatus->setIcon(
+        iconOf(statusShowsErrors ? QStringLiteral("://images//err.png") : QStringLiteral("://images//ok.png")));
+}
+
+/** Not at once: errors are found while rows are laid out and painted. */
+void OrvGenParamTreeViewPrivate::repaintSoon(GenApi::IValue *feature)
+{
+    if (featuresToRepaint.isEmpty()) {
+        QMetaObject::invokeMethod(
+            q, [this] { repaintRows(); }, Qt::QueuedConnection);
+    }
+    featuresToRepaint.insert(feature);
+}
+
+/** All rows that show the feature, in which category they may stand; only an index of the first could be mapped. */
+void OrvGenParamTreeViewPrivate::repaintRows()
+{
+    const QSet<GenApi::IValue *> features = std::exchange(featuresToRepaint, {});
+    QWidget *const viewport = ui.treeView->viewport();
+    for (QModelIndex index = ui.treeView->indexAt(QPoint(0, 0)); index.isValid();
+         index = ui.treeView->indexBelow(index)) {
+        const QRect rect = ui.treeView->visualRect(index);
+        if (rect.top() >= viewport->height())
+            break;
+        if (features.contains(featureOf(index)))
+            viewport->update(0, rect.top(), viewport->width(), rect.height());
+    }
+}
+
+void OrvGenParamTreeViewPrivate::poll()
+{
+    if (nodeMap)
+        failureOf([this] { nodeMap->Poll(pollTimer->interval()); });
+}
+
+IOrvGenParamTreeView::~IOrvGenParamTreeView() = default;
+
+OrvGenParamTreeView::OrvGenParamTreeView(QWidget *parent)
+    : OrvGenParamTreeView(static_cast<GenApi::INodeMap *>(nullptr), parent)
+{
+}
+
+OrvGenParamTreeView::OrvGenParamTreeView(GenApi::INodeMap *nodeMap, QWidget *parent)
+    : QDialog(parent)
+    , d(new OrvGenParamTreeViewPrivate(this))
+{
+    d->init(nodeMap);
+}
+
+OrvGenParamTreeView::OrvGenParamTreeView(OrvGenParam::Array *params, QWidget *parent)
+    : OrvGenParamTreeView(nodeMapOf(params), parent)
+{
+}
+
+OrvGenParamTreeView::~OrvGenParamTreeView()
+{
+    d->remove();
+}
+
+void OrvGenParamTreeView::setParams(OrvGenParam::Array *params)
+{
+    setParams(nodeMapOf(params));
+}
+
+void OrvGenParamTreeView::setParams(GenApi::INodeMap *nodeMap)
+{
+    d->install(nodeMap);
+}
+
+void OrvGenParamTreeView::clearParams()
+{
+    d->remove();
+}
+
+Visibility OrvGenParamTreeView::visibility() const
+{
+    return Visibility(d->ui.cbVisibility->currentIndex());
+}
+
+void OrvGenParamTreeView::setVisibility(Visibility level)
+{
+    if (level >= Basic && level <= Guru)
+        d->ui.cbVisibility->setCurrentIndex(level);
+}
+
+const char *OrvGenParamTreeView::saveState() const
+{
+    d->state = d->nodeMap ? TreeState::save(*d->ui.treeView, visibility(), *d->splitter) : QByteArray();
+    return d->state.constData();
+}
+
+void OrvGenParamTreeView::loadState(const char *state)
+{
+    if (!state || !*state || !d->nodeMap)
+        return;
+    // A copy: the text may be the one that saveState() gave, and whoever listens to the tree may save meanwhile.
+    const QByteArray text(state);
+    d->state = text;
+    TreeState::loadExpansion(*d->ui.treeView, text);
+    if (const auto width = TreeState::columnWidth(text)) {
+        d->ui.treeView->setColumnWidth(GenParamTreeModel::NameColumn, *width);
+        d->isStateLoaded = true;
+    }
+    if (const auto level = TreeState::visibility(text))
+        d->ui.cbVisibility->setCurrentIndex(*level);
+    TreeState::loadSplitter(*d->splitter, text);
+}
+
+void OrvGenParamTreeView::setPollingTime(unsigned long milliseconds)
+{
+    constexpr unsigned long longest = std::numeric_limits<int>::max();
+    d->pollTimer->setInterval(int(qMin(milliseconds, longest)));
+}
+
+unsigned long OrvGenParamTreeView::getPollingTime()
+{
+    return static_cast<unsigned long>(d->pollTimer->interval());
+}
+
+void OrvGenParamTreeView::enablePolling(bool on)
+{
+    if (on)
+        d->pollTimer->start();
+    else
+        d->pollTimer->stop();
+}
+
+bool OrvGenParamTreeView::isPollingEnabled()
+{
+    return d->pollTimer->isActive();
+}
+
+QTreeView *OrvGenParamTreeView::treeView() const
+{
+    return d->ui.treeView;
+}
+
+/**
+ * A dialog would click the button of a command that is open in the tree when Enter is pressed elsewhere, and one that
+ * is a part of another window would hide at Escape.
+ */
+void OrvGenParamTreeView::keyPressEvent(QKeyEvent *event)
+{
+    if (isWindow() && event->matches(QKeySequence::Cancel))
+        QDialog::keyPressEvent(event);
+    else
+        QWidget::keyPressEvent(event);
+}
+
+} // namespace OrvGui

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <OrvCameraGuiApi/feature_tree/iorvgenparamtreeview.h>
+
+#include <QDialog>
+#include <QScopedPointer>
+
+class QTreeView;
+
+namespace OrvGui {
+
+class OrvGenParamTreeViewPrivate;
+
+/**
+ * Shows the features of a camera as a tree and lets people edit them.
+ *
+ * Above the tree: buttons that collapse and expand it, a filter for the features' names, the level of visibility and a
+ * button that tells whether reading or writing any feature failed and opens the list of what did. Below it: what there
+ * is to know about the current feature.
+ *
+ * A window of its own by default. To put it into another one, take its window flags away:
+ * \code
+ * auto *view = new OrvGui::OrvGenParamTreeView(nodeMap, this);
+ * view->setWindowFlags(Qt::Widget);
+ * layout->addWidget(view);
+ * \endcode
+ * Its icons have a second form for screens of high density, which Qt uses when Qt::AA_UseHighDpiPixmaps is set.
+ */
+class ORV_CAMERAGUIAPI_EXPORT OrvGenParamTreeView : public QDialog, public IOrvGenParamTreeView
+{
+    Q_OBJECT
+
+public:
+    /** Without features. */
+    explicit OrvGenParamTreeView(QWidget *parent = nullptr);
+
+    /** \a nodeMap as in setParams(). */
+    explicit OrvGenParamTreeView(GenApi::INodeMap *nodeMap, QWidget *parent = nullptr);
+
+    /** \a params as in setParams(). */
+    explicit OrvGenParamTreeView(OrvGenParam::Array *params, QWidget *parent = nullptr);
+
+    ~OrvGenParamTreeView() override;
+
+    void setParams(OrvGenParam::Array *params) override;
+    void setParams(GenApi::INodeMap *nodeMap) override;
+    void clearParams() override;
+
+    Visibility visibility() const override;
+    void setVisibility(Visibility level) override;
+
+    const char *saveState() const override;
+    void loadState(const char *state) override;
+
+    void setPollingTime(unsigned long milliseconds) override;
+    unsigned long getPollingTime() override;
+    void enablePolling(bool on) override;
+    bool isPollingEnabled() override;
+
+    /** The tree; null never. Its model is the view's own and null while there is no node map. */
+    QTreeView *treeView() const;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    friend class OrvGenParamTreeViewPrivate;
+
+    const QScopedPointer<OrvGenParamTreeViewPrivate> d;
+};
+
+} // namespace OrvGui

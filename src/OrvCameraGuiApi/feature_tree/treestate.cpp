@@ -1,0 +1,143 @@
+#include <OrvCameraGuiApi/feature_tree/treestate.h>
+
+#include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
+#include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
+
+#include <QSplitter>
+#include <QTreeView>
+#include <QtEndian>
+
+#include <cerrno>
+#include <cstdlib>
+#include <limits>
+#include <vector>
+
+namespace {
+
+const char categoryMarker[] = "&lt;";
+const char widthMarker[] = "&amp;W";
+const char visibilityMarker[] = "&amp;V";
+const char splitterMarker[] = "&amp;S";
+
+constexpr int maximumColumnWidth = 1048575; ///< more QHeaderView does not take
+constexpr int maximumVisibility = 2;
+
+// What QSplitter::saveState() begins with: a mark, a version and the number of sizes, then the sizes.
+constexpr int splitterHeaderSize = 3 * int(sizeof(qint32));
+
+/** Calls \a visit with every category and its path, depth first, a category before those in it. */
+template <typename Visit>
+void forEachCategory(const QAbstractItemModel &model, Visit visit)
+{
+    struct Level
+    {
+        QModelIndex parent;
+        int row;
+        int rowCount;
+        int pathSize;
+    };
+    // Not recursive: a description decides how deep its categories are nested.
+    std::vector<Level> levels{{QModelIndex(), 0, model.rowCount(), 0}};
+    QByteArray path;
+    while (!levels.empty()) {
+        Level &level = levels.back();
+        if (level.row == level.rowCount) {
+            levels.pop_back();
+            continue;
+        }
+        const QModelIndex index = model.index(level.row++, GenParamTreeModel::NameColumn, level.parent);
+        if (!isCategory(index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>()))
+            continue;
+        path.truncate(level.pathSize);
+        if (levels.size() > 1)
+            path += '/';
+        path += index.data().toString().toUtf8();
+        visit(index, path);
+        levels.push_back({index, 0, model.rowCount(index), path.size()});
+    }
+}
+
+/** What stands behind the first \a marker, to the end of the text. */
+QByteArray after(const QByteArray &state, const char *marker)
+{
+    const int found = state.indexOf(marker);
+    return found < 0 ? QByteArray() : state.mid(found + int(qstrlen(marker)));
+}
+
+/** The decimal number behind \a marker; what comes after the number does not matter. */
+std::optional<int> numberAfter(const QByteArray &state, const char *marker, int minimum, int maximum)
+{
+    const QByteArray text = after(state, marker);
+    char *end = nullptr;
+    errno = 0;
+    const long number = std::strtol(text.constData(), &end, 10);
+    if (end == text.constData() || errno != 0 || number < minimum || number > maximum)
+        return std::nullopt;
+    return int(number);
+}
+
+/** Whether \a bytes holds nothing but sizes that a widget can have, in the form of QDataStream. */
+bool areSizes(const QByteArray &bytes)
+{
+    for (int i = 0; i < bytes.size(); i += int(sizeof(qint32))) {
+        const auto size = qFromBigEndian<qint32>(bytes.constData() + i);
+        if (size < 0 || size > QWIDGETSIZE_MAX)
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+QByteArray TreeState::save(const QTreeView &tree, int visibility, const QSplitter &splitter)
+{
+    QByteArray state;
+    forEachCategory(*tree.model(), [&](const QModelIndex &index, const QByteArray &path) {
+        if (tree.isExpanded(index)) {
+            state += path;
+            state += categoryMarker;
+        }
+    });
+    state += widthMarker + QByteArray::number(tree.columnWidth(GenParamTreeModel::NameColumn));
+    state += visibilityMarker + QByteArray::number(visibility);
+    state += splitterMarker + splitter.saveState().toHex();
+    return state;
+}
+
+void TreeState::loadExpansion(QTreeView &tree, const QByteArray &state)
+{
+    // Whoever listens to the tree may change its rows or its model meanwhile.
+    std::vector<QPersistentModelIndex> toToggle;
+    forEachCategory(*tree.model(), [&](const QModelIndex &index, const QByteArray &path) {
+        if (tree.isExpanded(index) != state.contains(path))
+            toToggle.emplace_back(index);
+    });
+    for (const QPersistentModelIndex &index : toToggle) {
+        if (index.isValid() && index.model() == tree.model())
+            tree.setExpanded(index, !tree.isExpanded(index));
+    }
+}
+
+std::optional<int> TreeState::columnWidth(const QByteArray &state)
+{
+    return numberAfter(state, widthMarker, 1, maximumColumnWidth);
+}
+
+std::optional<int> TreeState::visibility(const QByteArray &state)
+{
+    return numberAfter(state, visibilityMarker, 0, maximumVisibility);
+}
+
+void TreeState::loadSplitter(QSplitter &splitter, const QByteArray &state)
+{
+    const QByteArray own = splitter.saveState();
+    const QByteArray bytes = QByteArray::fromHex(after(state, splitterMarker));
+    const int sizesLength = splitter.count() * int(sizeof(qint32));
+    const QByteArray sizes = bytes.mid(splitterHeaderSize, sizesLength);
+    if (bytes.size() != own.size() || bytes.left(splitterHeaderSize) != own.left(splitterHeaderSize)
+        || !areSizes(sizes)) {
+        return;
+    }
+    // Orientation and the like stay this splitter's: the text may be anybody's.
+    splitter.restoreState(own.left(splitterHeaderSize) + sizes + own.mid(splitterHeaderSize + sizesLength));
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QByteArray>
+
+#include <optional>
+
+class QSplitter;
+class QTreeView;
+
+/**
+ * The text that describes how a feature tree view is arranged: for every expanded category its path and "&lt;", then
+ * "&amp;W" and the width of the name column, "&amp;V" and the level of visibility, "&amp;S" and the splitter's state in
+ * hexadecimal. A path is the names that are shown, in UTF-8, joined with "/". These markers are meant literally, and
+ * nothing is escaped: a name that looks like a marker is written as it is.
+ *
+ * Only rows that pass the filter take part. The tree has a model.
+ */
+namespace TreeState {
+
+QByteArray save(const QTreeView &tree, int visibility, const QSplitter &splitter);
+
+/**
+ * Expands the categories whose path occurs in \a state and collapses all others. Intentionally any place will do, be it
+ * inside the path of another category.
+ */
+void loadExpansion(QTreeView &tree, const QByteArray &state);
+
+/** In pixels; nothing where there is none in \a state that a column can have. */
+std::optional<int> columnWidth(const QByteArray &state);
+
+/** From 0 to 2; nothing where there is none of these in \a state. */
+std::optional<int> visibility(const QByteArray &state);
+
+/** Nothing changes unless \a state has the bytes that this splitter itself would save, but for the sizes. */
+void loadSplitter(QSplitter &splitter, const QByteArray &state);
+
+} // namespace TreeState

@@ -1,0 +1,153 @@
+#!/usr/bin/env python3
+"""Draws the icons of the library into images/, at 16 and, as @2x, at 32 pixels. Run by hand; the files are committed.
+
+Each icon is a list of shapes on a canvas of 16 by 16 units, painted one over the other. A shape is a function that
+tells the distance of a point from its border, in units, negative inside; from that the edges are smoothed. Colors are
+of medium lightness, so that they stand out on light and on dark palettes alike.
+"""
+
+import math
+import struct
+import zlib
+from pathlib import Path
+
+GREY = (122, 135, 148)
+BLUE = (58, 132, 212)
+GREEN = (46, 157, 84)
+RED = (217, 57, 50)
+ORANGE = (224, 122, 24)
+WHITE = (255, 255, 255)
+
+
+def circle(x, y, radius):
+    return lambda px, py: math.hypot(px - x, py - y) - radius
+
+
+def line(*points, width):
+    """A line through all points, with round ends and corners."""
+
+    def segment(px, py, start, end):
+        (ax, ay), (bx, by) = start, end
+        dx, dy = bx - ax, by - ay
+        along = max(0.0, min(1.0, ((px - ax) * dx + (py - ay) * dy) / (dx * dx + dy * dy)))
+        return math.hypot(px - ax - along * dx, py - ay - along * dy)
+
+    return lambda px, py: min(segment(px, py, *ends) for ends in zip(points, points[1:])) - width / 2
+
+
+def arc(x, y, radius, opening, width):
+    """A circle that is open to the right, by that angle to each side of the horizontal."""
+
+    def distance(px, py):
+        angle = abs(math.atan2(py - y, px - x))
+        if angle >= opening:
+            return abs(math.hypot(px - x, py - y) - radius) - width / 2
+        ends = (math.cos(opening) * radius, math.sin(opening) * radius)
+        return math.hypot(px - x - ends[0], abs(py - y) - ends[1]) - width / 2
+
+    return distance
+
+
+def polygon(*points):
+    """A convex shape; the points go clockwise as seen on the screen."""
+    edges = list(zip(points, points[1:] + points[:1]))
+
+    def distance(px, py):
+        return max(((px - ax) * (by - ay) - (py - ay) * (bx - ax)) / math.hypot(bx - ax, by - ay)
+                   for (ax, ay), (bx, by) in edges)
+
+    return distance
+
+
+def rectangle(left, top, right, bottom):
+    return polygon((left, top), (right, top), (right, bottom), (left, bottom))
+
+
+def frame(left, top, right, bottom, width):
+    outside = rectangle(left, top, right, bottom)
+    inside = rectangle(left + width, top + width, right - width, bottom - width)
+    return lambda px, py: max(outside(px, py), -inside(px, py))
+
+
+def without(shape, *holes):
+    return lambda px, py: max(shape(px, py), *(-hole(px, py) for hole in holes))
+
+
+def node_boxes(sign):
+    """Two tree nodes, one behind the other; the sign tells what becomes of them."""
+    behind = without(frame(4, 1, 15, 12, 1), rectangle(0, 3, 13, 16))
+    return [(behind, GREY), (frame(1, 4, 12, 15, 1), BLUE)] + [(shape, BLUE) for shape in sign]
+
+
+def slider(y, knob):
+    """A line with a knob on it, with a gap around the knob."""
+    bar = without(rectangle(1, y, 15, y + 1), circle(knob, y + 0.5, 2.7))
+    return [(bar, GREY), (circle(knob, y + 0.5, 1.8), GREY)]
+
+
+LETTER_C = (arc(4, 12, 2.6, 0.75, 1.5), ORANGE)
+LETTER_W = (line((8.2, 9.4), (9.7, 14.4), (11.3, 10.2), (12.9, 14.4), (14.4, 9.4), width=1.4), BLUE)
+
+MINUS = [rectangle(4, 9, 9, 10)]
+PLUS = MINUS + [rectangle(6, 7, 7, 12)]
+
+BACKSPACE = without(polygon((5.5, 3), (15, 3), (15, 13), (5.5, 13), (0.8, 8)),
+                    line((7.2, 5.7), (11.8, 10.3), width=1.5), line((7.2, 10.3), (11.8, 5.7), width=1.5))
+
+ICONS = {
+    'collapse_all': node_boxes(MINUS),
+    'expand_all': node_boxes(PLUS),
+    'ok': [(circle(8, 8, 7.2), GREEN), (line((4.6, 8.3), (7.1, 10.8), (11.4, 5.6), width=1.9), WHITE)],
+    'err': [(circle(8, 8, 7.2), RED), (line((8, 4), (8, 8.6), width=2), WHITE), (circle(8, 11.7, 1.2), WHITE)],
+    'clear_left': [(BACKSPACE, GREY)],
+    'options': slider(3, 10) + slider(8, 5) + slider(13, 11),
+    'options-c': slider(3, 10) + [LETTER_C],
+    'options-w': slider(3, 10) + [LETTER_W],
+    'options-cw': slider(3, 10) + [LETTER_C, LETTER_W],
+}
+
+
+def blend(below, color, coverage):
+    """Paints over a pixel (red, green, blue, opacity), all from 0 to 1."""
+    opacity = coverage + below[3] * (1 - coverage)
+    if opacity == 0:
+        return below
+    rgb = [(c / 255 * coverage + b * below[3] * (1 - coverage)) / opacity for c, b in zip(color, below)]
+    return (*rgb, opacity)
+
+
+def draw(shapes, scale):
+    """The rows of pixels of an icon, as PNG wants them."""
+    size = 16 * scale
+    rows = bytearray()
+    for y in range(size):
+        rows.append(0)  # no filter
+        for x in range(size):
+            pixel = (0.0, 0.0, 0.0, 0.0)
+            for shape, color in shapes:
+                distance = shape((x + 0.5) / scale, (y + 0.5) / scale) * scale
+                pixel = blend(pixel, color, max(0.0, min(1.0, 0.5 - distance)))
+            rows += bytes(round(255 * part) for part in pixel)
+    return size, bytes(rows)
+
+
+def chunk(kind, data):
+    return struct.pack('>I', len(data)) + kind + data + struct.pack('>I', zlib.crc32(kind + data))
+
+
+def png(size, rows):
+    header = struct.pack('>IIBBBBB', size, size, 8, 6, 0, 0, 0)
+    return (b'\x89PNG\r\n\x1a\n' + chunk(b'IHDR', header) + chunk(b'IDAT', zlib.compress(rows, 9))
+            + chunk(b'IEND', b''))
+
+
+def main():
+    directory = Path(__file__).parent / 'images'
+    directory.mkdir(exist_ok=True)
+    for name, shapes in ICONS.items():
+        for suffix, scale in (('', 1), ('@2x', 2)):
+            (directory / f'{name}{suffix}.png').write_bytes(png(*draw(shapes, scale)))
+
+
+if __name__ == '__main__':
+    main()

@@ -1,0 +1,131 @@
+#pragma once
+
+#include "featurecamera.h"
+
+#include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
+#include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
+
+#include <QApplication>
+#include <QPaintEvent>
+#include <QTreeView>
+#include <QtTest>
+
+/** What is painted of a widget. */
+class PaintLog : public QObject
+{
+public:
+    explicit PaintLog(QWidget *widget) { widget->installEventFilter(this); }
+
+    void clear()
+    {
+        count = 0;
+        region = QRegion();
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint) {
+            ++count;
+            region += static_cast<QPaintEvent *>(event)->region();
+        }
+        return false;
+    }
+
+    uint64_t count = 0;
+    QRegion region;
+};
+
+/** A camera and a view that shows it, all of it. */
+struct ShownView : FeatureCamera
+{
+    explicit ShownView(const QByteArray &nodes = allKinds())
+        : FeatureCamera(nodes)
+        , view(map.get())
+        , tree(view.treeView())
+    {
+        view.setVisibility(OrvGui::Guru);
+        tree->expandAll();
+    }
+
+    bool show()
+    {
+        view.resize(500, 800);
+        view.show();
+        return QTest::qWaitForWindowActive(&view) && tree->viewport()->grab().width() > 0;
+    }
+
+    template <typename Widget>
+    Widget *part(const char *name) const
+    {
+        return view.findChild<Widget *>(QLatin1String(name));
+    }
+
+    /** All rows under \a parent, depth first. */
+    QModelIndexList rows(const QModelIndex &parent = QModelIndex()) const
+    {
+        QModelIndexList all;
+        for (int row = 0; row < tree->model()->rowCount(parent); ++row) {
+            all += tree->model()->index(row, GenParamTreeModel::NameColumn, parent);
+            all += rows(all.last());
+        }
+        return all;
+    }
+
+    /** The cell of the row that shows \a name in its first column; invalid when there is none. */
+    QModelIndex cell(const char *name, int column = GenParamTreeModel::ValueColumn) const
+    {
+        const QModelIndexList all = rows();
+        for (const QModelIndex &index : all) {
+            if (index.data().toString() == QLatin1String(name))
+                return index.sibling(index.row(), column);
+        }
+        return {};
+    }
+
+    void click(const QModelIndex &index) const
+    {
+        tree->scrollTo(index);
+        QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier, tree->visualRect(index).center());
+    }
+
+    /** Opens the editor of the cell with the mouse and types; null when no editor opens. */
+    QWidget *type(const char *name, const char *text) const
+    {
+        click(cell(name));
+        if (QApplication::focusWidget() == tree) // the cell was the current one before
+            QTest::keyClick(tree, Qt::Key_F2);
+        QWidget *const editor = QApplication::focusWidget();
+        if (!editor || !tree->viewport()->isAncestorOf(editor))
+            return nullptr;
+        QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(editor, QLatin1String(text));
+        return editor;
+    }
+
+    /** The same, and Enter; false when no editor opened, or it stayed open. */
+    bool enter(const char *name, const char *text) const
+    {
+        const QPointer<QWidget> editor = type(name, text);
+        if (!editor)
+            return false;
+        QTest::keyClick(editor, Qt::Key_Return);
+        return QTest::qWaitFor([&] { return !editor || !editor->isVisible(); });
+    }
+
+    /** Whether something in the row is drawn in pure red. */
+    bool isRed(const QModelIndex &index) const
+    {
+        const QRect cell = tree->visualRect(index);
+        const QImage row = tree->viewport()->grab(cell).toImage();
+        for (int y = 0; y < row.height(); ++y) {
+            for (int x = 0; x < row.width(); ++x) {
+                if (row.pixelColor(x, y) == QColor(255, 0, 0))
+                    return true;
+            }
+        }
+        return false;
+    }
+
+    OrvGui::OrvGenParamTreeView view;
+    QTreeView *const tree;
+};

@@ -1,0 +1,318 @@
+#include "orvtest.h"
+#include "shownview.h"
+
+#include <OrvGenApi/testing/faults.h>
+
+#include <QAbstractSpinBox>
+#include <QLineEdit>
+#include <QPixmapCache>
+#include <QScrollBar>
+#include <QToolButton>
+
+#include <array>
+#include <functional>
+#include <malloc.h>
+
+using OrvGenApi::testing::clearFaults;
+using OrvGenApi::testing::failGetter;
+using OrvGenApi::testing::registeredCallbacks;
+
+Q_DECLARE_METATYPE(std::function<void(ShownView &)>)
+
+namespace {
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr bool isSanitized = true; // the heap is the sanitizer's, and everything takes its time
+#else
+constexpr bool isSanitized = false;
+#endif
+
+/** 10,000 registers that are read whenever they are asked for, 20 a category, with categories on three levels. */
+struct ManyRegisters
+{
+    ManyRegisters() { addCategory("Root", 0); }
+
+    void addCategory(const QByteArray &name, size_t level)
+    {
+        constexpr std::array children{10, 10, 5, 20};
+        QByteArray features;
+        for (int i = 0; i < children[level]; ++i) {
+            const QByteArray child = (level ? name : "Feature") + '_' + QByteArray::number(i);
+            features += "<pFeature>" + child + "</pFeature>";
+            if (level + 1 < children.size())
+                addCategory(child, level + 1);
+            else
+                addRegister(child);
+        }
+        nodes += "<Category Name=\"" + name + "\">" + features + "</Category>";
+    }
+
+    void addRegister(const QByteArray &name)
+    {
+        nodes += "<IntReg Name=\"" + name + "\"><Address>" + QByteArray::number(4 * count++)
+            + "</Address><Length>4</Length><AccessMode>RW</AccessMode><pPort>Device</pPort><Cachable>NoCache</Cachable>"
+              "<PollingTime>1000</PollingTime></IntReg>";
+    }
+
+    QByteArray nodes;
+    int count = 0;
+};
+
+/** Counts what painting costs. */
+class PaintMeter
+{
+public:
+    explicit PaintMeter(const ShownView &shown)
+        : m_shown(shown)
+        , m_log(shown.tree->viewport())
+    {
+        start();
+    }
+
+    void start()
+    {
+        m_log.clear();
+        m_reads = m_shown.port.readCount();
+    }
+
+    uint64_t paints() const { return m_log.count; }
+    uint64_t reads() const { return m_shown.port.readCount() - m_reads; }
+
+    /** Each row that fits into the viewport, twice at each paint. */
+    uint64_t allowedReads() const
+    {
+        const QRect row = m_shown.tree->visualRect(m_shown.tree->indexAt(QPoint(0, 0)));
+        return paints() * 2 * uint64_t(m_shown.tree->viewport()->height() / row.height() + 2);
+    }
+
+private:
+    const ShownView &m_shown;
+    PaintLog m_log;
+    uint64_t m_reads = 0;
+};
+
+/** What is shown, a line a feature, in order, but for \a skipped and what is in it. */
+QStringList shownTexts(const ShownView &shown, const GenApi::INode *skipped = nullptr)
+{
+    const auto isSkipped = [&](QModelIndex index) {
+        for (; index.isValid(); index = index.parent()) {
+            const GenApi::CNodePtr node(index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>());
+            if (skipped && static_cast<GenApi::INode *>(node) == skipped)
+                return true;
+        }
+        return false;
+    };
+    QStringList texts;
+    const QModelIndexList rows = shown.rows();
+    for (const QModelIndex &index : rows) {
+        if (!isSkipped(index))
+            texts += index.data().toString() + QLatin1Char('=') + index.siblingAtColumn(1).data().toString();
+    }
+    return texts;
+}
+
+/** Walks over the row as a user would, changes nothing that is right. */
+void exercise(const ShownView &shown, const QModelIndex &row)
+{
+    shown.click(row.siblingAtColumn(1));
+    if (QWidget *const editor = QApplication::focusWidget()) {
+        QTest::keyClick(editor, Qt::Key_1);
+        QTest::keyClick(editor, Qt::Key_Return);
+    }
+}
+
+/** The row that shows the node, if there is one. */
+QModelIndex rowOf(const ShownView &shown, GenApi::INode *node)
+{
+    const QModelIndexList rows = shown.rows();
+    for (const QModelIndex &index : rows) {
+        auto *const value = index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
+        if (dynamic_cast<GenApi::INode *>(value) == node)
+            return index;
+    }
+    return {};
+}
+
+} // namespace
+
+class TestOrvGenParamTreeViewLoad : public OrvTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void survivesFailingGetters_data();
+    void survivesFailingGetters();
+    void letsGoOfTheNodeMapAtOnce_data();
+    void letsGoOfTheNodeMapAtOnce();
+    void doesNotGrow();
+    void readsOnlyWhatItPaints();
+};
+
+void TestOrvGenParamTreeViewLoad::survivesFailingGetters_data()
+{
+    QTest::addColumn<QByteArray>("getter");
+    const QByteArray getters =
+        "GetAccessMode GetNode ToString GetName GetVisibility GetToolTip GetDescription GetDisplayName GetCachingMode "
+        "IsStreamable GetPrincipalInterfaceType RegisterCallback DeregisterCallback GetSelectingFeatures GetFeatures "
+        "GetValue SetValue GetMin GetMax GetInc GetIncMode GetListOfValidValues GetRepresentation GetUnit HasInc "
+        "GetDisplayPrecision GetDisplayNotation GetMaxLength GetEntries GetIntValue GetCurrentEntry GetSymbolic "
+        "GetEntry Execute IsDone";
+    for (const QByteArray &getter : getters.split(' '))
+        QTest::newRow(getter.constData()) << getter;
+}
+
+void TestOrvGenParamTreeViewLoad::survivesFailingGetters()
+{
+    QFETCH(QByteArray, getter);
+    ShownView shown;
+    QVERIFY(shown.show());
+    GenApi::NodeList_t nodes;
+    shown.map->GetNodes(nodes);
+    for (size_t i = 0; i < nodes.size(); ++i) {
+        GenApi::INode *const node = nodes[i];
+        const std::string name = node->GetName().c_str();
+        if (name == "Root")
+            continue;
+        const QStringList others = shownTexts(shown, node);
+        failGetter(*shown.map, name, getter.toStdString());
+        shown.view.setParams(shown.map.get());
+        shown.tree->expandAll();
+        shown.tree->grab();
+        QCOMPARE(shownTexts(shown, node), others);
+        if (const QModelIndex row = rowOf(shown, node); row.isValid())
+            exercise(shown, row);
+        shown.view.loadState(shown.view.saveState());
+        QTest::mouseClick(shown.part<QToolButton>("pbExpandAll"), Qt::LeftButton);
+        QTest::keyClick(shown.part<QLineEdit>("filterLineEdit"), Qt::Key_L);
+        QTest::keyClick(shown.part<QLineEdit>("filterLineEdit"), Qt::Key_Backspace);
+        clearFaults(*shown.map);
+        shown.view.setParams(shown.map.get());
+        shown.tree->expandAll();
+    }
+    QVERIFY(shown.enter("Label", "done"));
+    QCOMPARE(shown.cell("Label").data().toString(), QStringLiteral("done"));
+}
+
+void TestOrvGenParamTreeViewLoad::letsGoOfTheNodeMapAtOnce_data()
+{
+    using Change = std::function<void(ShownView &)>;
+    QTest::addColumn<Change>("letGo");
+    const auto row = [](const char *name, const Change &letGo) { QTest::newRow(name) << letGo; };
+    row("clear", [](ShownView &shown) { shown.view.clearParams(); });
+    row("no node map", [](ShownView &shown) { shown.view.setParams(static_cast<GenApi::INodeMap *>(nullptr)); });
+    row("no array", [](ShownView &shown) { shown.view.setParams(static_cast<OrvGenParam::Array *>(nullptr)); });
+    row("clear while a change is announced", [](ShownView &shown) {
+        QObject::connect(shown.tree->model(), &QAbstractItemModel::dataChanged, &shown.view,
+                         [&shown] { shown.view.clearParams(); });
+        shown.node("Label")->InvalidateNode();
+    });
+    row("clear while a row is expanded", [](ShownView &shown) {
+        QObject::connect(shown.tree, &QTreeView::collapsed, &shown.view, [&shown] { shown.view.clearParams(); });
+        shown.view.loadState("nothing is expanded");
+    });
+}
+
+void TestOrvGenParamTreeViewLoad::letsGoOfTheNodeMapAtOnce()
+{
+    QFETCH(std::function<void(ShownView &)>, letGo);
+    ShownView shown;
+    QVERIFY(shown.show());
+    shown.view.enablePolling(true);
+    QVERIFY(shown.type("Label", "unfinished"));
+    const QPersistentModelIndex held = shown.cell("Label");
+    letGo(shown);
+    QCOMPARE(registeredCallbacks(*shown.map), size_t(0));
+    const uint64_t writes = shown.port.writeCount();
+    QCOMPARE(writes, uint64_t(0));
+    shown.map.reset();
+
+    QVERIFY(!held.isValid());
+    QVERIFY(!shown.tree->model() || shown.tree->model()->rowCount() == 0);
+    shown.view.loadState("&amp;V1");
+    for (int i = 0; i < 5; ++i)
+        QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(shown.tree->viewport()->findChildren<QLineEdit *>().size(), 0);
+    QVERIFY(shown.tree->grab().width() > 0);
+}
+
+void TestOrvGenParamTreeViewLoad::doesNotGrow()
+{
+    QPixmapCache::clear(); // other tests' pictures would go in the middle of this one
+    const FeatureCamera camera(FeatureCamera::allKinds());
+    const auto useOnce = [&camera](const QString &typed) {
+        OrvGui::OrvGenParamTreeView view(camera.map.get());
+        view.setVisibility(OrvGui::Guru);
+        view.treeView()->expandAll();
+        view.show();
+        view.enablePolling(true);
+        QCoreApplication::processEvents();
+        const QModelIndex category = view.treeView()->model()->index(0, 0);
+        view.treeView()->setCurrentIndex(view.treeView()->model()->index(0, 1, category));
+        auto *const editor = view.treeView()->viewport()->findChild<QAbstractSpinBox *>();
+        QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(editor, typed);
+        QTest::keyClick(editor, Qt::Key_Return);
+        QCoreApplication::processEvents();
+        view.close();
+        view.setParams(camera.map.get());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    };
+    const int rounds = isSanitized ? 40 : 1000;
+    size_t half = 0;
+    for (int round = 1; round <= rounds; ++round) {
+        useOnce(round % 2 ? QStringLiteral("8") : QStringLiteral("4"));
+        if (round == rounds / 2)
+            half = mallinfo2().uordblks;
+    }
+    const qint64 grown = qint64(mallinfo2().uordblks) - qint64(half);
+    QCOMPARE(camera.port.writeCount(), uint64_t(rounds));
+    QCOMPARE(registeredCallbacks(*camera.map), size_t(0));
+    if (!isSanitized)
+        QVERIFY2(qAbs(grown) < 64 * 1024, qPrintable(QString::number(grown)));
+}
+
+void TestOrvGenParamTreeViewLoad::readsOnlyWhatItPaints()
+{
+    ShownView shown(ManyRegisters().nodes);
+    QCOMPARE(shown.port.readCount(), uint64_t(0));
+    PaintMeter meter(shown);
+    QVERIFY(shown.show());
+    QVERIFY(meter.reads() > 0);
+    QVERIFY2(meter.reads() <= meter.allowedReads(), qPrintable(QString::number(meter.reads())));
+
+    auto *const edit = shown.part<QLineEdit>("filterLineEdit");
+    QByteArray saved;
+    const std::pair<const char *, std::function<void()>> actions[] = {
+        {"scroll", [&] { shown.tree->verticalScrollBar()->triggerAction(QAbstractSlider::SliderSingleStepAdd); }},
+        {"scroll far", [&] { shown.tree->verticalScrollBar()->setValue(5000); }},
+        {"filter", [&] { QTest::keyClicks(edit, QStringLiteral("9*")); }},
+        {"clear the filter", [&] { edit->clear(); }},
+        {"collapse all", [&] { shown.part<QToolButton>("pbCollapseAll")->click(); }},
+        {"expand all", [&] { shown.part<QToolButton>("pbExpandAll")->click(); }},
+        {"save", [&] { saved = shown.view.saveState(); }},
+        {"load", [&] { shown.view.loadState(saved); }},
+        {"load nothing expanded", [&] { shown.view.loadState("&amp;W200"); }},
+        {"load all expanded", [&] { shown.view.loadState(saved); }},
+    };
+    for (const auto &[name, action] : actions) {
+        meter.start();
+        action();
+        if (!meter.paints())
+            QVERIFY2(meter.reads() == 0, name);
+        for (int i = 0; i < 5; ++i)
+            QCoreApplication::processEvents();
+        QVERIFY2(meter.reads() <= meter.allowedReads(), name);
+    }
+
+    meter.start();
+    QSignalSpy changes(shown.tree->model(), &QAbstractItemModel::dataChanged);
+    shown.map->Poll(10);
+    QCoreApplication::processEvents();
+    QCOMPARE(changes.count(), 0);
+    QCOMPARE(meter.paints(), uint64_t(0));
+    QCOMPARE(meter.reads(), uint64_t(0));
+}
+
+ORV_TEST_MAIN(TestOrvGenParamTreeViewLoad)
+#include "tst_orvgenparamtreeviewload.moc"

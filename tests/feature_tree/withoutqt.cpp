@@ -1,0 +1,2 @@
+// Compiled without Qt's headers in reach: what applications without Qt include must not need them.
+#include <OrvCameraGuiApi/feature_tree/creategenparamtreeview.h>
