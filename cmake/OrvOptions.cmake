@@ -13,6 +13,8 @@ else()
     set(ORV_STAND_INS ON)
 endif()
 
+option(ORV_BUILD_DESIGNER "Build the Qt Designer plug-in" "${PROJECT_IS_TOP_LEVEL}")
+
 include(CMakeDependentOption)
 cmake_dependent_option(ORV_BUILD_TESTS "Build the test suite" "${PROJECT_IS_TOP_LEVEL}" "ORV_STAND_INS" OFF)
 cmake_dependent_option(ORV_BUILD_APPS "Build the explorer" ON "ORV_STAND_INS" OFF)
