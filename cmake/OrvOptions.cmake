@@ -1,7 +1,7 @@
 # What a build can be told. Everything else follows from these.
 
 set(ORV_GENICAM_ROOT "" CACHE PATH
-    "Installed GenICam reference implementation (3.0 to 3.4) to build the GUI library against; empty: the stand-ins here")
+    "Installed GenICam reference implementation (3.0 to 3.4) to build against; empty: the stand-ins here")
 set(ORV_CAMERA_API_LIBRARY "" CACHE FILEPATH
     "Camera access library to link when ORV_GENICAM_ROOT is set; empty: the application provides it")
 set(ORV_SANITIZE "" CACHE STRING "Sanitizers for everything that is built here, e.g. address,undefined or thread")
@@ -12,6 +12,8 @@ if(ORV_GENICAM_ROOT)
 else()
     set(ORV_STAND_INS ON)
 endif()
+
+option(ORV_BUILD_DESIGNER "Build the Qt Designer plug-in" "${PROJECT_IS_TOP_LEVEL}")
 
 include(CMakeDependentOption)
 cmake_dependent_option(ORV_BUILD_TESTS "Build the test suite" "${PROJECT_IS_TOP_LEVEL}" "ORV_STAND_INS" OFF)

@@ -8,59 +8,6 @@ namespace OrvGenApi {
 
 using namespace GenApi;
 
-namespace {
-
-enum class Kind {
-    Integer,
-    IntReg,
-    StructReg,
-    Float,
-    FloatReg,
-    Boolean,
-    Command,
-    Enumeration,
-    String,
-    StringReg,
-    Register,
-    SwissKnife,
-    IntSwissKnife,
-    Converter,
-    IntConverter,
-    Category,
-    Port,
-    Node,
-    Group
-};
-
-const std::unordered_map<std::string_view, Kind> &kinds()
-{
-    static const std::unordered_map<std::string_view, Kind> table = {
-        {"Integer", Kind::Integer},
-        {"IntReg", Kind::IntReg},
-        {"MaskedIntReg", Kind::IntReg},
-        {"StructReg", Kind::StructReg},
-        {"Float", Kind::Float},
-        {"FloatReg", Kind::FloatReg},
-        {"Boolean", Kind::Boolean},
-        {"Command", Kind::Command},
-        {"Enumeration", Kind::Enumeration},
-        {"String", Kind::String},
-        {"StringReg", Kind::StringReg},
-        {"Register", Kind::Register},
-        {"SwissKnife", Kind::SwissKnife},
-        {"IntSwissKnife", Kind::IntSwissKnife},
-        {"Converter", Kind::Converter},
-        {"IntConverter", Kind::IntConverter},
-        {"Category", Kind::Category},
-        {"Port", Kind::Port},
-        {"Node", Kind::Node},
-        {"Group", Kind::Group},
-    };
-    return table;
-}
-
-} // namespace
-
 DescriptionLoader::DescriptionLoader(NodeMapImpl &map, std::string xml, std::string sourceName)
     : m_map(map)
     , m_xml(std::move(xml))
@@ -125,80 +72,48 @@ T &DescriptionLoader::create(const Element &element, const std::string &name, co
     return node;
 }
 
-void DescriptionLoader::createNode(const Element &element)
+template <typename T>
+void DescriptionLoader::createNamed(const Element &element)
 {
-    const auto found = kinds().find(element.name());
-    if (found == kinds().end())
-        return; // descriptions may hold elements of later schemas
-    if (found->second == Kind::StructReg) {
-        createStructEntries(element);
-        return;
-    }
-    const std::string name = nameOf(element);
-    switch (found->second) {
-    case Kind::Integer:
-        create<IntegerNode>(element, name);
-        break;
-    case Kind::IntReg:
-        create<IntRegisterNode>(element, name);
-        break;
-    case Kind::Float:
-        create<FloatNode>(element, name);
-        break;
-    case Kind::FloatReg:
-        create<FloatRegisterNode>(element, name);
-        break;
-    case Kind::Boolean:
-        create<BooleanNode>(element, name);
-        break;
-    case Kind::Command:
-        create<CommandNode>(element, name);
-        break;
-    case Kind::Enumeration:
-        createEntries(element, create<EnumerationNode>(element, name).name());
-        break;
-    case Kind::String:
-        create<StringNode>(element, name);
-        break;
-    case Kind::StringReg:
-        create<StringRegisterNode>(element, name);
-        break;
-    case Kind::Register:
-        create<RegisterNode>(element, name);
-        break;
-    case Kind::SwissKnife:
-        create<SwissKnifeNode<FloatFormulaBase>>(element, name);
-        break;
-    case Kind::IntSwissKnife:
-        create<SwissKnifeNode<IntegerFormulaBase>>(element, name);
-        break;
-    case Kind::Converter:
-        create<ConverterNode<FloatFormulaBase>>(element, name);
-        break;
-    case Kind::IntConverter:
-        create<ConverterNode<IntegerFormulaBase>>(element, name);
-        break;
-    case Kind::Category:
-        create<CategoryNode>(element, name);
-        break;
-    case Kind::Port:
-        create<PortNode>(element, name);
-        break;
-    case Kind::Node:
-        create<PlainNode>(element, name);
-        break;
-    case Kind::StructReg:
-    case Kind::Group:
-        break;
-    }
+    create<T>(element, nameOf(element));
 }
 
-void DescriptionLoader::createEntries(const Element &enumeration, const char *enumerationName)
+void DescriptionLoader::createNode(const Element &element)
 {
-    const std::string prefix = std::string("EnumEntry_") + enumerationName + "_";
-    for (const Element &element : enumeration.children("EnumEntry")) {
-        const std::string symbolic = nameOf(element);
-        EnumEntryNode &entry = create<EnumEntryNode>(element, prefix + symbolic);
+    using Creator = void (DescriptionLoader::*)(const Element &);
+    static const std::unordered_map<std::string_view, Creator> creators = {
+        {"Integer", &DescriptionLoader::createNamed<IntegerNode>},
+        {"IntReg", &DescriptionLoader::createNamed<IntRegisterNode>},
+        {"MaskedIntReg", &DescriptionLoader::createNamed<IntRegisterNode>},
+        {"StructReg", &DescriptionLoader::createStructEntries},
+        {"Float", &DescriptionLoader::createNamed<FloatNode>},
+        {"FloatReg", &DescriptionLoader::createNamed<FloatRegisterNode>},
+        {"Boolean", &DescriptionLoader::createNamed<BooleanNode>},
+        {"Command", &DescriptionLoader::createNamed<CommandNode>},
+        {"Enumeration", &DescriptionLoader::createEnumeration},
+        {"String", &DescriptionLoader::createNamed<StringNode>},
+        {"StringReg", &DescriptionLoader::createNamed<StringRegisterNode>},
+        {"Register", &DescriptionLoader::createNamed<RegisterNode>},
+        {"SwissKnife", &DescriptionLoader::createNamed<SwissKnifeNode<FloatFormulaBase>>},
+        {"IntSwissKnife", &DescriptionLoader::createNamed<SwissKnifeNode<IntegerFormulaBase>>},
+        {"Converter", &DescriptionLoader::createNamed<ConverterNode<FloatFormulaBase>>},
+        {"IntConverter", &DescriptionLoader::createNamed<ConverterNode<IntegerFormulaBase>>},
+        {"Category", &DescriptionLoader::createNamed<CategoryNode>},
+        {"Port", &DescriptionLoader::createNamed<PortNode>},
+        {"Node", &DescriptionLoader::createNamed<PlainNode>},
+    };
+    const auto found = creators.find(element.name());
+    if (found != creators.end()) // descriptions may hold elements of later schemas
+        (this->*found->second)(element);
+}
+
+void DescriptionLoader::createEnumeration(const Element &element)
+{
+    const std::string prefix =
+        std::string("EnumEntry_") + create<EnumerationNode>(element, nameOf(element)).name() + "_";
+    for (const Element &child : element.children("EnumEntry")) {
+        const std::string symbolic = nameOf(child);
+        EnumEntryNode &entry = create<EnumEntryNode>(child, prefix + symbolic);
         entry.m_symbolic = entry.name() + prefix.size();
     }
 }

@@ -48,7 +48,9 @@ private:
     // Finding and making nodes
     void createNodes(const Element &parent, int depth);
     void createNode(const Element &element);
-    void createEntries(const Element &enumeration, const char *enumerationName);
+    template <typename T>
+    void createNamed(const Element &element);
+    void createEnumeration(const Element &element);
     void createStructEntries(const Element &structure);
     template <typename T>
     T &create(const Element &element, const std::string &name, const Element &common = {});

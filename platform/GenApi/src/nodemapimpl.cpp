@@ -44,7 +44,7 @@ void NodeMapImpl::InvalidateNodes() const
         node->dropCache();
 }
 
-gcstring NodeMapImpl::GetDeviceName() const
+gcstring NodeMapImpl::GetDeviceName()
 {
     return gcstring(m_deviceName);
 }

@@ -35,7 +35,7 @@ public:
     void GetNodes(GenApi::NodeList_t &Nodes) const override;
     GenApi::INode *GetNode(const GenICam::gcstring &Name) const override;
     void InvalidateNodes() const override;
-    GenICam::gcstring GetDeviceName() const override;
+    GenICam::gcstring GetDeviceName() override;
     void Poll(int64_t ElapsedTime) override;
     GenApi::CLock &GetLock() const override { return m_lock; }
     uint64_t GetNumNodes() const override;

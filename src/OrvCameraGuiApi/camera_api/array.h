@@ -20,6 +20,7 @@ class String;
  * and so do the parameters.
  *
  * A lookup is null when there is no such feature or when it has another kind; \a err, which may be null, tells which.
+ * A null name is an invalid argument. Every operation may be called from any thread.
  */
 class ORV_CAMERA_API Array
 {

@@ -22,7 +22,7 @@ using DeviceEventCallback = void (*)(const void *eventData, unsigned long eventD
 
 /**
  * A device that has been opened with OrvCam_CreateDevice(). Belongs to the camera access library; whoever opened it
- * releases it.
+ * releases it. Until then every operation may be called from any thread.
  */
 class ORV_CAMERA_API Device
 {
@@ -36,7 +36,10 @@ public:
      */
     virtual void Release() = 0;
 
-    /** Calls \a callback with \a context on every \a eventId from now on, on any thread of the library's choice. */
+    /**
+     * Calls \a callback with \a context on every \a eventId from now on, on any thread of the library's choice. The
+     * context, which may be null, stays the caller's; a callback that is null is an invalid argument.
+     */
     virtual OrvCamErr RegisterEvent(std::uint32_t eventId, DeviceEventCallback callback, void *context) = 0;
 
     /**

@@ -28,7 +28,7 @@ public:
     /** Chooses the entry with that integer value. */
     virtual OrvCamErr SetValue(std::int64_t value) = 0;
 
-    /** Chooses the entry with that symbolic name; UTF-8. */
+    /** Chooses the entry with that symbolic name; UTF-8, null is an invalid argument. */
     virtual OrvCamErr SetValueStr(const char *symbolic) = 0;
 };
 

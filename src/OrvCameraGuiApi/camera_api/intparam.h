@@ -4,7 +4,7 @@
 
 namespace OrvGenParam {
 
-/** A signed 64-bit number. */
+/** A signed 64-bit number, in whatever unit the feature has. */
 class ORV_CAMERA_API Int : public virtual Param
 {
 protected:

@@ -31,7 +31,8 @@ ORV_CAMERA_API OrvCam::System *OrvCam_GetSystem();
 
 /**
  * Opens the described device. Whoever calls this releases the device. Null when the device cannot be opened; \a err,
- * which may be null, gets the outcome. \a accessMode is the library's own code, see OrvCam::DeviceAccessControl.
+ * which may be null, gets the outcome; a null description is an invalid argument. \a accessMode is the library's own
+ * code, see OrvCam::DeviceAccessControl.
  */
 ORV_CAMERA_API OrvCam::Device *OrvCam_CreateDevice(OrvCam::DeviceInfo *deviceInfo, std::int32_t accessMode,
                                                    OrvCamErr *err);

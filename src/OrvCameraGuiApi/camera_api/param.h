@@ -25,7 +25,7 @@ enum ParamType : std::int32_t {
  *
  * Belongs to its Array and lives as long. Nothing throws: a getter that fails answers 0, false or null and stores the
  * reason in its last argument, which may be null; success stores 0 there. A setter that fails leaves the value as it
- * was.
+ * was. Every operation may be called from any thread; a call may wait for one on another thread, and for the device.
  */
 class ORV_CAMERA_API Param
 {
@@ -48,7 +48,10 @@ public:
     /** Whether the value may be read now. */
     virtual bool IsReadable() = 0;
 
-    /** Tells \a sink about changes from now on. A sink is registered once and told once, however often it asks. */
+    /**
+     * Tells \a sink about changes from now on. A sink is registered once and told once, however often it asks. It
+     * stays its owner's, who unregisters it before it goes; null is an invalid argument.
+     */
     virtual OrvCamErr RegisterEvent(ParamEventSink *sink) = 0;
 
     /**

@@ -11,7 +11,7 @@ protected:
     ~String() override = default;
 
 public:
-    /** UTF-8; valid until the next call of this function on this object. */
+    /** UTF-8; valid until the next call of this function on this object. Null only when reading failed. */
     virtual const char *GetValue(OrvCamErr *err) = 0;
 };
 

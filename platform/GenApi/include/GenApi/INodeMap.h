@@ -21,7 +21,7 @@ struct ORV_GENAPI_EXPORT INodeMap
 
     /** Drops all kept values; the next reads go to the device. */
     virtual void InvalidateNodes() const = 0;
-    virtual GENICAM_NAMESPACE::gcstring GetDeviceName() const = 0;
+    virtual GENICAM_NAMESPACE::gcstring GetDeviceName() = 0;
 
     /**
      * Adds \a ElapsedTime milliseconds to every polled node's clock. A node whose clock reaches its polling time is

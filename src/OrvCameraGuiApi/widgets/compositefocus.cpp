@@ -1,0 +1,27 @@
+#include <OrvCameraGuiApi/widgets/compositefocus.h>
+
+#include <QApplication>
+#include <QFocusEvent>
+#include <QWidget>
+
+namespace {
+
+/** A pop-up is a part of the composite, too, which QWidget::isAncestorOf() denies. */
+bool isPart(const QWidget *composite, const QWidget *widget)
+{
+    while (widget && widget != composite)
+        widget = widget->parentWidget();
+    return widget;
+}
+
+} // namespace
+
+CompositeFocus::CompositeFocus(QWidget *composite)
+{
+    connect(qApp, &QApplication::focusChanged, this, [composite](QWidget *before, QWidget *now) {
+        if (!isPart(composite, before) || isPart(composite, now))
+            return;
+        QFocusEvent focusOut(QEvent::FocusOut);
+        QCoreApplication::sendEvent(composite, &focusOut);
+    });
+}

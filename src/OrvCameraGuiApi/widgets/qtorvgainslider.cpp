@@ -1,0 +1,172 @@
+#include <OrvCameraGuiApi/widgets/qtorvgainslider.h>
+
+#include <OrvCameraGuiApi/widgets/captions.h>
+#include <OrvCameraGuiApi/widgets/compositefocus.h>
+#include <OrvCameraGuiApi/widgets/qtorvdoubleslider.h>
+#include <OrvCameraGuiApi/widgets/spinsliderlink.h>
+#include <OrvCameraGuiApi/widgets/valueaccessible.h>
+
+#include <QBoxLayout>
+
+class QtOrvGainSliderPrivate
+{
+public:
+    explicit QtOrvGainSliderPrivate(QtOrvGainSlider *owner);
+    void init();
+
+    QtOrvGainSlider *const q;
+    QtOrvDoubleSlider *const slider; // made first: Tab goes from the slider to the spin box
+    QtOrvDoubleSpinBoxVal *const spinBox;
+    Captions captions;
+    SpinSliderLink<QtOrvGainSlider, QtOrvDoubleSpinBoxVal, QtOrvDoubleSlider> link;
+    CompositeFocus focus;
+};
+
+QtOrvGainSliderPrivate::QtOrvGainSliderPrivate(QtOrvGainSlider *owner)
+    : q(owner)
+    , slider(new QtOrvDoubleSlider(Qt::Horizontal, owner))
+    , spinBox(new QtOrvDoubleSpinBoxVal(owner))
+    , captions(owner)
+    , link(owner, spinBox, slider, WhileDragged::MovesSlider)
+    , focus(owner)
+{
+}
+
+void QtOrvGainSliderPrivate::init()
+{
+    installValueAccessibility();
+    slider->setObjectName(QStringLiteral("slider"));
+    spinBox->setObjectName(QStringLiteral("spinbox"));
+    spinBox->setDecimals(slider->decimals());
+    captions.setSpinBox(spinBox);
+    captions.row()->addWidget(slider, 1);
+    captions.row()->addWidget(spinBox);
+    q->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    q->setFocusProxy(spinBox);
+}
+
+QtOrvGainSlider::QtOrvGainSlider(QWidget *parent)
+    : QWidget(parent)
+    , d(new QtOrvGainSliderPrivate(this))
+{
+    d->init();
+}
+
+QtOrvGainSlider::~QtOrvGainSlider() = default;
+
+double QtOrvGainSlider::value() const
+{
+    return d->link.value();
+}
+
+void QtOrvGainSlider::setValue(double value)
+{
+    d->link.setValue(value);
+}
+
+double QtOrvGainSlider::minimum() const
+{
+    return d->slider->minimum();
+}
+
+void QtOrvGainSlider::setMinimum(double minimum)
+{
+    d->slider->setMinimum(minimum);
+}
+
+double QtOrvGainSlider::maximum() const
+{
+    return d->slider->maximum();
+}
+
+void QtOrvGainSlider::setMaximum(double maximum)
+{
+    d->slider->setMaximum(maximum);
+}
+
+void QtOrvGainSlider::setRange(double minimum, double maximum)
+{
+    d->slider->setRange(minimum, maximum);
+}
+
+double QtOrvGainSlider::singleStep() const
+{
+    return d->link.singleStep();
+}
+
+void QtOrvGainSlider::setSingleStep(double step)
+{
+    d->link.setSingleStep(step);
+}
+
+bool QtOrvGainSlider::validate() const
+{
+    return d->slider->validate();
+}
+
+void QtOrvGainSlider::setValidate(bool validate)
+{
+    d->slider->setValidate(validate);
+    d->spinBox->setValidate(validate);
+}
+
+bool QtOrvGainSlider::validateTyping() const
+{
+    return d->spinBox->validateTyping();
+}
+
+void QtOrvGainSlider::setValidateTyping(bool validate)
+{
+    d->spinBox->setValidateTyping(validate);
+}
+
+QString QtOrvGainSlider::leftLabelText() const
+{
+    return d->captions.leftText();
+}
+
+void QtOrvGainSlider::setLeftLabelText(const QString &text)
+{
+    d->captions.setLeftText(text);
+}
+
+QString QtOrvGainSlider::topLabelText() const
+{
+    return d->captions.topText();
+}
+
+void QtOrvGainSlider::setTopLabelText(const QString &text)
+{
+    d->captions.setTopText(text);
+}
+
+QLabel *QtOrvGainSlider::leftLabel() const
+{
+    return d->captions.left();
+}
+
+QLabel *QtOrvGainSlider::topLabel() const
+{
+    return d->captions.top();
+}
+
+int QtOrvGainSlider::decimals() const
+{
+    return d->slider->decimals();
+}
+
+void QtOrvGainSlider::setDecimals(int decimals)
+{
+    d->slider->setDecimals(decimals);
+    d->spinBox->setDecimals(d->slider->decimals());
+}
+
+QtOrvDoubleSpinBoxVal *QtOrvGainSlider::spinBox() const
+{
+    return d->spinBox;
+}
+
+QtOrvDoubleSlider *QtOrvGainSlider::slider() const
+{
+    return d->slider;
+}

@@ -1,0 +1,93 @@
+#pragma once
+
+#include <OrvCameraGuiApi/export.h>
+
+#include <QScopedPointer>
+#include <QString>
+#include <QWidget>
+
+class QLabel;
+class QtOrvSlider;
+class QtOrvSpinBoxVal;
+class QtOrvSliderSpinBoxPrivate;
+
+/**
+ * A slider and a spin box side by side for one integer, with an optional caption to the left and above.
+ *
+ * setValue() and the range act on the slider, whose positions the value comes from; what is typed may lie between them.
+ * value() is what the spin box shows.
+ *
+ * While the slider is dragged the spin box follows it, but valueChanged() waits for the release and is emitted once
+ * then, also where nothing has changed. Keys, wheel and clicks beside the handle are announced at once.
+ *
+ * A caption names the spin box, for assistive tools too; "&" before a letter makes a mnemonic that leads there.
+ *
+ * GUI thread only. A slot on a signal may change this widget but not delete it (QObject::deleteLater() does).
+ */
+class ORV_CAMERAGUIAPI_EXPORT QtOrvSliderSpinBox : public QWidget
+{
+    Q_OBJECT
+    // Forms set the properties in this order: the value last.
+    Q_PROPERTY(int minimum READ minimum WRITE setMinimum)
+    Q_PROPERTY(int maximum READ maximum WRITE setMaximum)
+    Q_PROPERTY(int singleStep READ singleStep WRITE setSingleStep)
+    Q_PROPERTY(bool validate READ validate WRITE setValidate)
+    Q_PROPERTY(bool validateTyping READ validateTyping WRITE setValidateTyping)
+    Q_PROPERTY(QString leftLabelText READ leftLabelText WRITE setLeftLabelText)
+    Q_PROPERTY(QString topLabelText READ topLabelText WRITE setTopLabelText)
+    Q_PROPERTY(int value READ value WRITE setValue NOTIFY valueChanged USER true)
+
+public:
+    /** Range 0 to 100, step 1, value 0; \a parent owns the widget and may be null. */
+    explicit QtOrvSliderSpinBox(QWidget *parent = nullptr);
+    ~QtOrvSliderSpinBox() override;
+
+    int value() const;
+
+    int minimum() const;
+    int maximum() const;
+    /** Acts on the slider; see QtOrvSlider::setMinimum(). */
+    void setMinimum(int minimum);
+    void setMaximum(int maximum);
+
+    /** What a step adds; 1 by default. A step of 0 or less is ignored. */
+    int singleStep() const;
+    void setSingleStep(int step);
+
+    /** Whether values are snapped to minimum() + k * singleStep() by both parts; off by default. */
+    bool validate() const;
+    void setValidate(bool validate);
+
+    /** Whether typed text may become the value before Return or Enter is pressed; on by default. */
+    bool validateTyping() const;
+    void setValidateTyping(bool validate);
+
+    /** Caption before the parts; empty, and then not shown, by default. */
+    QString leftLabelText() const;
+    void setLeftLabelText(const QString &text);
+    /** Caption above the parts; empty, and then not shown, by default. */
+    QString topLabelText() const;
+    void setTopLabelText(const QString &text);
+
+    /** The parts, which stay this widget's. A label is null until its text is first set. */
+    QLabel *leftLabel() const;
+    QLabel *topLabel() const;
+    QtOrvSpinBoxVal *spinBox() const;
+    QtOrvSlider *slider() const;
+
+public Q_SLOTS:
+    void setValue(int value);
+    /** With \a maximum below \a minimum the minimum is the only value. */
+    void setRange(int minimum, int maximum);
+
+Q_SIGNALS:
+    void valueChanged(int value);
+    /** Comes with, and before, the number's signal; \a text is all that the spin box shows, with prefix and suffix. */
+    void valueChanged(const QString &text);
+    void rangeChanged(int minimum, int maximum);
+
+private:
+    friend class QtOrvSliderSpinBoxPrivate;
+
+    const QScopedPointer<QtOrvSliderSpinBoxPrivate> d;
+};

@@ -1,0 +1,424 @@
+#include <OrvCameraGuiApi/widgets/qtorvdoubleslider.h>
+#include <OrvCameraGuiApi/widgets/qtorvdoublespinboxval.h>
+#include <OrvCameraGuiApi/widgets/qtorvgainslider.h>
+#include <OrvCameraGuiApi/widgets/qtorvslider.h>
+#include <OrvCameraGuiApi/widgets/qtorvsliderspinbox.h>
+#include <OrvCameraGuiApi/widgets/qtorvspinbox.h>
+#include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
+#include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
+
+#include <orvtest.h>
+
+#include <QAccessible>
+#include <QBoxLayout>
+#include <QDataWidgetMapper>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSlider>
+#include <QStandardItemModel>
+#include <QStyleOptionSlider>
+#include <QToolButton>
+
+#include <limits>
+
+namespace {
+
+QPoint handle(const QSlider &slider)
+{
+    QStyleOptionSlider option;
+    option.initFrom(&slider);
+    option.orientation = slider.orientation();
+    option.minimum = slider.minimum();
+    option.maximum = slider.maximum();
+    option.sliderPosition = slider.sliderPosition();
+    option.upsideDown = slider.orientation() == Qt::Vertical;
+    return slider.style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, &slider).center();
+}
+
+/** A window with a composite of range 0 to 100 at 10, whose signals are noted, texts in quotes, and another widget. */
+template <typename Composite>
+class Window : public QWidget
+{
+public:
+    using Number = decltype(std::declval<Composite>().value());
+
+    Window()
+    {
+        auto *const layout = new QVBoxLayout(this);
+        layout->addWidget(&composite);
+        layout->addWidget(&other);
+        composite.setValue(10);
+        connect(&composite, QOverload<Number>::of(&Composite::valueChanged), this,
+                [this](Number value) { emitted += QStringLiteral("%1 ").arg(value); });
+        connect(&composite, QOverload<const QString &>::of(&Composite::valueChanged), this,
+                [this](const QString &text) { emitted += QStringLiteral("'%1' ").arg(text); });
+        connect(&composite, &Composite::rangeChanged, this,
+                [this](Number from, Number to) { emitted += QStringLiteral("%1..%2 ").arg(from).arg(to); });
+        resize(400, 100);
+        show();
+        composite.setFocus();
+    }
+
+    bool isReady() { return QTest::qWaitForWindowActive(this) && composite.spinBox()->hasFocus(); }
+
+    QSlider *inner() { return composite.slider()->slider(); }
+    QString takeEmitted() { return std::exchange(emitted, QString()).trimmed(); }
+    QString announced(int value) const { return announced(value, text(value)); }
+    /** Each of them in the order of its own spin box. */
+    QString announced(int value, const QString &text) const
+    {
+        const bool numberFirst = std::is_same_v<Composite, QtOrvSpinBox>;
+        return QString::fromLatin1(numberFirst ? "%1 '%2'" : "'%2' %1").arg(value).arg(text);
+    }
+
+    void mouse(void (*act)(QWindow *, Qt::MouseButton, Qt::KeyboardModifiers, QPoint, int), QPoint place)
+    {
+        act(inner()->window()->windowHandle(), Qt::LeftButton, {}, inner()->mapTo(inner()->window(), place), -1);
+    }
+    void press() { mouse(QTest::mousePress, handle(*inner())); }
+    void release() { mouse(QTest::mouseRelease, handle(*inner())); }
+    /** Drags the handle far enough for another value, a real way. */
+    void drag(int pixels)
+    {
+        const QPoint way = inner()->orientation() == Qt::Vertical ? QPoint(0, -pixels) : QPoint(pixels, 0);
+        const QPoint place = inner()->mapTo(inner()->window(), handle(*inner()) + way);
+        const int before = inner()->sliderPosition();
+        QTest::mouseMove(inner()->window()->windowHandle(), place);
+        QTRY_VERIFY(inner()->sliderPosition() != before);
+    }
+
+    Composite composite;
+    QLineEdit other;
+
+private:
+    QString text(int value) const
+    {
+        return std::is_same_v<Number, double> ? QString::number(value, 'f', 3) : QString::number(value);
+    }
+
+    QString emitted;
+};
+
+void openSlider(Window<QtOrvSpinBox> &window)
+{
+    OrvTest::TestCase::expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
+    window.composite.resizeSlider(30, 300);
+    QTest::mouseClick(window.composite.toolButton(), Qt::LeftButton);
+    QVERIFY(QTest::qWaitForWindowExposed(window.composite.slider()));
+    QVERIFY(window.inner()->hasFocus());
+}
+
+template <typename AnyWindow>
+void openSlider(AnyWindow &)
+{
+}
+
+/** Calls \a check with a window for each of the three. */
+template <typename Check>
+void forEachComposite(const Check &check)
+{
+    const auto run = [&check](auto &&window) {
+        if (QTest::currentTestFailed())
+            return;
+        QVERIFY(window.isReady());
+        check(window);
+    };
+    run(Window<QtOrvSpinBox>());
+    run(Window<QtOrvSliderSpinBox>());
+    run(Window<QtOrvGainSlider>());
+}
+
+} // namespace
+
+class tst_Composites : public OrvTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void draggingIsToldOnRelease()
+    {
+        forEachComposite([](auto &window) {
+            openSlider(window);
+            window.press();
+            for (int i = 0; i < 3; ++i) {
+                window.drag(40);
+                QCOMPARE(int(window.composite.spinBox()->value()), window.inner()->value());
+                QCOMPARE(window.takeEmitted(), QString());
+            }
+            window.release();
+            const int reached = window.inner()->value();
+            QVERIFY(reached > 20);
+            QCOMPARE(window.takeEmitted(), window.announced(reached));
+            window.press();
+            window.release();
+            QCOMPARE(window.takeEmitted(), window.announced(reached)); // where it was pressed
+            window.composite.slider()->setTracking(false);
+            window.press();
+            window.drag(-40);
+            window.release();
+            QVERIFY(window.inner()->value() < reached);
+            QCOMPARE(window.takeEmitted(), window.announced(window.inner()->value()));
+            QTest::keyClick(window.inner(), Qt::Key_Home); // it speaks again
+            QCOMPARE(window.takeEmitted(), window.announced(0));
+        });
+    }
+
+    void aDragThatNobodyReleasesEndsWithTheSlider()
+    {
+        forEachComposite([](auto &window) {
+            openSlider(window);
+            window.press();
+            window.drag(40);
+            window.composite.slider()->hide();
+            QCOMPARE(window.takeEmitted(), window.announced(window.inner()->value()));
+            window.composite.setValue(7);
+            QCOMPARE(window.takeEmitted(), window.announced(7));
+        });
+    }
+
+    void keysWheelAndPagesAreToldAtOnce()
+    {
+        forEachComposite([](auto &window) {
+            openSlider(window);
+            QTest::keyClick(window.inner(), Qt::Key_Up);
+            QCOMPARE(window.takeEmitted(), window.announced(11));
+            QTest::keyClick(window.inner(), Qt::Key_PageUp);
+            QCOMPARE(window.takeEmitted(), window.announced(21));
+            const bool vertical = window.inner()->orientation() == Qt::Vertical;
+            const QPoint far = vertical ? QPoint(window.inner()->width() / 2, 3)
+                                        : QPoint(window.inner()->width() - 3, window.inner()->height() / 2);
+            window.mouse(QTest::mousePress, far);
+            QCOMPARE(window.takeEmitted(), window.announced(31));
+            window.mouse(QTest::mouseRelease, far);
+            QCOMPARE(window.takeEmitted(), QString());
+            QWheelEvent wheel(far, window.inner()->mapToGlobal(far), {}, {0, 120}, Qt::NoButton, {}, Qt::NoScrollPhase,
+                              false);
+            QApplication::sendEvent(window.inner(), &wheel);
+            QCOMPARE(window.takeEmitted(), window.announced(window.inner()->value()));
+            QVERIFY(window.inner()->value() > 31);
+        });
+    }
+
+    void theSpinBoxMovesTheSlider()
+    {
+        forEachComposite([](auto &window) {
+            QTest::keyClick(window.composite.spinBox(), Qt::Key_Up);
+            QCOMPARE(window.inner()->value(), 11);
+            QCOMPARE(window.takeEmitted(), window.announced(11));
+            window.composite.spinBox()->selectAll();
+            QTest::keyClick(window.composite.spinBox(), Qt::Key_9);
+            QCOMPARE(window.inner()->value(), 9);
+            QCOMPARE(window.takeEmitted(), window.announced(9, QStringLiteral("9")));
+            window.composite.setValidateTyping(false);
+            window.composite.spinBox()->selectAll();
+            QTest::keyClicks(window.composite.spinBox(), QStringLiteral("42"));
+            QCOMPARE(window.takeEmitted(), QString());
+            QTest::keyClick(window.composite.spinBox(), Qt::Key_Return);
+            QCOMPARE(window.inner()->value(), 42);
+            QCOMPARE(window.takeEmitted(), window.announced(42));
+            QVERIFY(!window.composite.validateTyping());
+        });
+    }
+
+    void rangeAndValueActOnTheSlider()
+    {
+        forEachComposite([](auto &window) {
+            auto &composite = window.composite;
+            composite.setRange(0, 100);
+            composite.setValue(10);
+            QCOMPARE(window.takeEmitted(), QString());
+            composite.setRange(20, 60);
+            QString emitted = window.takeEmitted();
+            QCOMPARE(emitted.count(QStringLiteral("20..60")), 1);
+            QCOMPARE(emitted.remove(QStringLiteral("20..60")).simplified(), window.announced(20));
+            QCOMPARE(composite.spinBox()->minimum(), composite.minimum());
+            QCOMPARE(composite.spinBox()->maximum(), composite.maximum());
+            composite.setValue(1000);
+            QCOMPARE(window.takeEmitted(), window.announced(60));
+            composite.setMinimum(40);
+            composite.setMaximum(80);
+            QCOMPARE(window.takeEmitted(), QStringLiteral("40..60 40..80"));
+            composite.setSingleStep(15);
+            composite.setSingleStep(0);
+            composite.setSingleStep(-3);
+            QVERIFY(composite.slider()->singleStep() == 15 && composite.spinBox()->singleStep() == 15);
+            composite.setValidate(true);
+            window.takeEmitted();
+            composite.setValue(65);
+            QCOMPARE(window.takeEmitted(), window.announced(70));
+            QVERIFY(composite.validate() && composite.slider()->validate());
+        });
+    }
+
+    /** Scales and steps leave gaps that can be typed, and nothing pushes the number out of them. */
+    void whatLiesBetweenPositionsCanBeTyped()
+    {
+        Window<QtOrvSliderSpinBox> window;
+        QVERIFY(window.isReady());
+        window.composite.setRange(0, 1000);
+        window.composite.slider()->setScaleType(QtOrvSlider::Log10);
+        window.takeEmitted();
+        window.composite.spinBox()->selectAll();
+        QTest::keyClicks(window.composite.spinBox(), QStringLiteral("999"));
+        QVERIFY(window.takeEmitted().endsWith(QStringLiteral("'999' 999")));
+        QCOMPARE(window.composite.slider()->value(), 1000);
+        QCOMPARE(window.composite.value(), 999);
+        window.composite.setValue(1000);
+        QCOMPARE(window.takeEmitted(), QStringLiteral("'1000' 1000"));
+
+        Window<QtOrvGainSlider> gain;
+        QVERIFY(gain.isReady());
+        gain.composite.spinBox()->selectAll();
+        QTest::keyClicks(gain.composite.spinBox(), QStringLiteral("9.6"));
+        QCOMPARE(gain.composite.value(), 9.6);
+        QCOMPARE(gain.composite.slider()->value(), 10.0);
+        gain.composite.setRange(0, 0.12345); // more decimals than the spin box shows
+        gain.composite.setSingleStep(0.01);
+        QTest::keyClick(gain.inner(), Qt::Key_End);
+        QCOMPARE(gain.composite.slider()->value(), 0.12345);
+        QCOMPARE(gain.composite.value(), 0.123);
+    }
+
+    void decimalsReachBothParts()
+    {
+        QtOrvGainSlider gain;
+        QCOMPARE(gain.decimals(), gain.spinBox()->decimals());
+        gain.setDecimals(1);
+        QCOMPARE(gain.spinBox()->decimals(), 1);
+        gain.setRange(0, 2);
+        QCOMPARE(gain.slider()->maxLabel()->text(), QStringLiteral("2.0"));
+        gain.setSingleStep(qQNaN());
+        gain.setSingleStep(qInf());
+        gain.setValue(qQNaN());
+        QVERIFY(gain.singleStep() == 1 && gain.value() == 0);
+    }
+
+    void extremesDoNoHarm()
+    {
+        constexpr int smallest = std::numeric_limits<int>::min();
+        constexpr int largest = std::numeric_limits<int>::max();
+        QtOrvSpinBox box;
+        box.setRange(smallest, largest);
+        box.setValue(smallest);
+        box.spinBox()->setRange(std::numeric_limits<long long>::min(), std::numeric_limits<long long>::max());
+        box.spinBox()->setSingleStep(std::numeric_limits<long long>::max());
+        box.spinBox()->setValue(std::numeric_limits<long long>::max());
+        QCOMPARE(box.value(), largest);
+        QCOMPARE(box.singleStep(), largest);
+        QCOMPARE(box.slider()->value(), largest);
+    }
+
+    void captionsShowWhatIsNotEmpty()
+    {
+        forEachComposite([](auto &window) {
+            auto &composite = window.composite;
+            QVERIFY(!composite.leftLabel() && !composite.topLabel());
+            const int width = composite.minimumSizeHint().width();
+            composite.setLeftLabelText(QStringLiteral("A rather long &caption"));
+            composite.setTopLabelText(QStringLiteral("Top"));
+            QTRY_VERIFY(composite.topLabel()->geometry().bottom() < composite.spinBox()->y());
+            QTRY_VERIFY(composite.leftLabel()->geometry().right() < composite.spinBox()->x());
+            QVERIFY(composite.minimumSizeHint().width() >= width + composite.leftLabel()->sizeHint().width());
+            window.other.setFocus();
+            QTest::keyClick(&window, Qt::Key_C, Qt::AltModifier);
+            QVERIFY(composite.spinBox()->hasFocus());
+            composite.setLeftLabelText(QString());
+            composite.setTopLabelText(QString());
+            QVERIFY(composite.leftLabel()->isHidden() && composite.topLabel()->isHidden());
+            QTRY_COMPARE(composite.minimumSizeHint().width(), width);
+        });
+    }
+
+    void assistiveToolsMeetNamesAndValues()
+    {
+        forEachComposite([](auto &window) {
+            auto &composite = window.composite;
+            composite.setTopLabelText(QStringLiteral("&Gain"));
+            const QWidget *const parts[] = {&composite, window.inner(), composite.spinBox()};
+            for (const QWidget *part : parts) {
+                QAccessibleInterface *const accessible =
+                    QAccessible::queryAccessibleInterface(const_cast<QWidget *>(part));
+                QCOMPARE(accessible->text(QAccessible::Name), QStringLiteral("Gain"));
+                QCOMPARE(accessible->valueInterface()->currentValue().toInt(), 10);
+                QCOMPARE(accessible->valueInterface()->maximumValue().toInt(), 100);
+            }
+        });
+    }
+
+    void thePopUpOpensBesideTheButton()
+    {
+        const struct
+        {
+            Qt::Orientation orientation;
+            Qt::LayoutDirection direction;
+        } rows[] = {
+            {Qt::Vertical, Qt::LeftToRight}, {Qt::Horizontal, Qt::LeftToRight}, {Qt::Horizontal, Qt::RightToLeft}};
+        for (const auto &row : rows) {
+            Window<QtOrvSpinBox> window;
+            QVERIFY(window.isReady());
+            window.move(200, 200);
+            window.setLayoutDirection(row.direction);
+            window.composite.setSliderOrientation(row.orientation);
+            QToolButton *const button = window.composite.toolButton();
+            QtOrvSlider *const slider = window.composite.slider();
+            const bool vertical = row.orientation == Qt::Vertical;
+            QCOMPARE(button->text(), vertical ? QStringLiteral("^") : QStringLiteral(">"));
+            QVERIFY(!slider->isVisible());
+            QVERIFY(QTest::qWaitForWindowExposed(&window));
+            expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
+            QTest::mouseClick(button, Qt::LeftButton);
+            QVERIFY(slider->isVisible() && slider->windowFlags().testFlag(Qt::Popup));
+            QVERIFY(window.inner()->hasFocus());
+            QCOMPARE(slider->size(), vertical ? QSize(20, 100) : QSize(100, 20));
+            const int sideways = row.direction == Qt::RightToLeft ? -slider->width() : button->width();
+            QCOMPARE(slider->mapToGlobal(QPoint()) - button->mapToGlobal(QPoint()),
+                     vertical ? QPoint(0, -slider->height()) : QPoint(sideways, 0));
+            QTest::keyClick(window.inner(), Qt::Key_Escape);
+            QVERIFY(!slider->isVisible());
+            expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
+            QTest::mouseClick(button, Qt::LeftButton);
+            window.other.setFocus();
+            QVERIFY(!slider->isVisible());
+        }
+    }
+
+    void readOnlyHidesTheButton()
+    {
+        QtOrvSpinBox box(Qt::Horizontal);
+        QCOMPARE(box.sliderOrientation(), Qt::Horizontal);
+        box.setReadOnly(true);
+        QVERIFY(box.toolButton()->isHidden() && box.spinBox()->isReadOnly());
+        box.setSliderButtonVisible(true);
+        QVERIFY(!box.isSliderButtonVisible());
+        box.setReadOnly(false);
+        QVERIFY(box.isSliderButtonVisible());
+        box.setSliderButtonVisible(false);
+        box.setReadOnly(true);
+        box.setReadOnly(false);
+        QVERIFY(!box.isSliderButtonVisible());
+    }
+
+    /** By Tab through the parts, which is no end of editing, and out of them, which is. */
+    void aMapperSubmitsWhenTheFocusLeaves()
+    {
+        forEachComposite([](auto &window) {
+            QStandardItemModel model(1, 1);
+            QDataWidgetMapper mapper;
+            mapper.setModel(&model);
+            mapper.addMapping(&window.composite, 0);
+            mapper.toFirst();
+            QTest::keyClick(window.composite.spinBox(), Qt::Key_Up);
+            const bool spinBoxFirst = window.composite.slider()->isWindow();
+            QTest::keyClick(&window, spinBoxFirst ? Qt::Key_Tab : Qt::Key_Backtab);
+            QVERIFY(!window.composite.spinBox()->hasFocus() && !window.other.hasFocus());
+            QTest::keyClick(&window, spinBoxFirst ? Qt::Key_Backtab : Qt::Key_Tab);
+            QVERIFY(window.composite.spinBox()->hasFocus());
+            QVERIFY(!model.index(0, 0).data().isValid() || model.index(0, 0).data().toInt() == 0);
+            window.other.setFocus();
+            QCOMPARE(model.index(0, 0).data().toInt(), 1);
+        });
+    }
+};
+
+ORV_TEST_MAIN(tst_Composites)
+#include "tst_composites.moc"
