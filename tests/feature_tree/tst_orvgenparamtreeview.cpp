@@ -254,10 +254,8 @@ void TestOrvGenParamTreeView::followsTheFilter()
 
     shown.click(shown.cell("Hidden", GenParamTreeModel::NameColumn));
     shown.view.setVisibility(OrvGui::Basic);
-    QVERIFY(!shown.tree->currentIndex().isValid()); // its category went too
-    QVERIFY(pane->toPlainText().isEmpty());
+    QCOMPARE(shown.tree->currentIndex().data().toString(), QStringLiteral("Device Control"));
     shown.view.setVisibility(OrvGui::Guru);
-    QVERIFY(!shown.tree->currentIndex().isValid());
     const QModelIndexList rows = shown.rows();
     for (const QModelIndex &index : rows)
         QCOMPARE(shown.tree->isFirstColumnSpanned(index.row(), index.parent()),

@@ -11,39 +11,21 @@
 
 #include <algorithm>
 #include <memory>
-#include <optional>
-#include <utility>
 #include <vector>
 
 namespace {
 
-/** Rows of the source model, ascending. */
 using Rows = std::vector<int>;
-
-/** What a category is taken to be when it is asked whether it can be seen. */
-enum class Time { Now, Ahead };
 
 /** The rows below one source index that pass the filter; the internal pointer of their proxy indexes. */
 struct Branch
 {
-    const Rows &rowsAt(Time time) const { return time == Time::Ahead && isChanging ? comingRows : rows; }
-
     QModelIndex source; ///< invalid for the root; of a category in several places the first one
-    Branch *parent = nullptr; ///< null for the root
-    bool isListedAgain = false; ///< the category stands in other places too
-    Rows rows;
-    bool isChanging = false; ///< there are rows to come that are others than those there are
-    Rows comingRows;
-    Rows formerRows; ///< while indexes are brought from them to the rows that have come
-    quint64 walk = 0; ///< the one that found out isShown
+    Branch *parent; ///< null for the root
+    Rows rows; ///< source rows, ascending
+    Rows formerRows; ///< while the filter changes: those before
+    quint32 walk = 0; ///< the walk that found out isShown
     bool isShown = true;
-};
-
-/** A row among those of a branch, shown or not. */
-struct Place
-{
-    Branch *branch;
-    int sourceRow;
 };
 
 /** Where \a sourceRow is among \a rows, or -1. */
@@ -64,48 +46,30 @@ public:
     }
 
     const QAbstractItemModel *source() const { return q->sourceModel(); }
-    QModelIndex firstOccurrence(const QModelIndex &index) const;
+    QModelIndex firstOccurrence(const QModelIndex &source) const;
     Branch *branchOf(const QModelIndex &sourceParent);
     Branch *branchOfProxy(const QModelIndex &proxyParent);
-    Branch *addBranch(const QModelIndex &sourceParent, Branch *parent);
-    void findListedAgain(Branch &branch);
-    QModelIndex proxyOf(Branch *branch);
-    std::optional<Place> shownPlace(const QModelIndex &first);
-    bool isShown(const Place &place, Time time);
-    bool isShown(Branch *branch, Time time = Time::Now);
-    bool isShownElsewhere(const Branch &branch, Time time);
-    QModelIndex survivorOf(const QModelIndex &proxyIndex);
+    QModelIndex proxyOf(const Branch *branch) const;
+    bool isShown(Branch *branch);
+    void evaluate(Branch &branch, Rows &rows) const;
 
-    void evaluate(const Branch &branch, Rows &rows) const;
     bool accepts(GenApi::IValue *value) const;
     bool acceptsName(GenApi::INode *node) const;
 
     void refilter();
-    std::vector<Branch *> findChanging();
-    void announceGoing(const std::vector<Branch *> &changing);
-    void changeLayout(const std::vector<Branch *> &changing);
-    bool hasNewCategory(const Branch &branch) const;
     void movePersistentIndexes();
     void sourceDataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight, const QVector<int> &roles);
-    void rowChanged(Place place, const QModelIndex &topLeft, const QModelIndex &bottomRight, const QVector<int> &roles);
     void updateRow(Branch &branch, int sourceRow);
-    void insertRow(Branch &branch, int sourceRow);
-    void removeRow(Branch &branch, int sourceRow);
-    void rowsHaveChanged();
     void forget();
 
     GenParamTreeVisibilityFilterProxyModel *const q;
     qint32 level = 0;
     WildcardMatcher pattern;
     bool wholeWords = false;
-
-    std::vector<std::unique_ptr<Branch>> owned; ///< each after its parent
     QHash<quintptr, Branch *> branches; ///< by the internal identifier of the source index
+    std::vector<std::unique_ptr<Branch>> owned;
     Branch *lastBranch = nullptr; ///< views ask for many children of one parent in turn
-    QHash<quintptr, QVector<Place>> furtherPlaces; ///< of features in several places all but the first one, if known
-    quint64 walk = 1; ///< what is known of branches being shown was found out in this one, or counts no more
-    quint64 revision = 0; ///< of the rows, also of those to come
-    quint64 generation = 0; ///< of the branches: a new one has none of the former
+    quint32 walk = 0;
     std::vector<QMetaObject::Connection> connections;
 };
 
@@ -134,18 +98,14 @@ Branch *GenParamTreeVisibilityFilterProxyModelPrivate::branchOf(const QModelInde
         return lastBranch;
     if (!source() || source()->rowCount(sourceParent) == 0)
         return nullptr;
-    // Not recursive: a description decides how deep its categories are nested.
-    std::vector<QModelIndex> missing;
-    QModelIndex known = sourceParent;
-    while (known.isValid() && !branches.contains(known.internalId())) {
-        missing.push_back(known);
-        known = source()->parent(known);
-    }
-    Branch *branch = branches.value(known.internalId());
-    if (!branch)
-        branch = addBranch(QModelIndex(), nullptr);
-    for (auto index = missing.rbegin(); index != missing.rend(); ++index)
-        branch = addBranch(firstOccurrence(index->siblingAtColumn(0)), branch);
+    if (Branch *const known = branches.value(sourceParent.internalId()))
+        return lastBranch = known;
+    owned.push_back(std::make_unique<Branch>());
+    Branch *const branch = owned.back().get();
+    branches.insert(sourceParent.internalId(), branch);
+    branch->source = sourceParent.isValid() ? firstOccurrence(sourceParent.siblingAtColumn(0)) : QModelIndex();
+    branch->parent = sourceParent.isValid() ? branchOf(source()->parent(sourceParent)) : nullptr;
+    evaluate(*branch, branch->rows);
     return lastBranch = branch;
 }
 
@@ -154,111 +114,27 @@ Branch *GenParamTreeVisibilityFilterProxyModelPrivate::branchOfProxy(const QMode
     return proxyParent.column() > 0 ? nullptr : branchOf(q->mapToSource(proxyParent));
 }
 
-Branch *GenParamTreeVisibilityFilterProxyModelPrivate::addBranch(const QModelIndex &sourceParent, Branch *parent)
-{
-    owned.push_back(std::make_unique<Branch>());
-    Branch *const branch = owned.back().get();
-    branch->source = sourceParent;
-    branch->parent = parent;
-    branch->isListedAgain = furtherPlaces.contains(sourceParent.internalId());
-    branches.insert(sourceParent.internalId(), branch);
-    findListedAgain(*branch);
-    evaluate(*branch, branch->rows);
-    branch->rows.shrink_to_fit();
-    return branch;
-}
-
-void GenParamTreeVisibilityFilterProxyModelPrivate::findListedAgain(Branch &branch)
-{
-    const int count = source()->rowCount(branch.source);
-    for (int row = 0; row < count; ++row) {
-        const QModelIndex index = source()->index(row, 0, branch.source);
-        if (source()->parent(index) == branch.source)
-            continue;
-        furtherPlaces[index.internalId()].append({&branch, row});
-        if (Branch *const listed = branches.value(index.internalId()))
-            listed->isListedAgain = true;
-    }
-}
-
-/** Of the category that the rows of \a branch belong to; where it is shown, if it stands in several places. */
-QModelIndex GenParamTreeVisibilityFilterProxyModelPrivate::proxyOf(Branch *branch)
+QModelIndex GenParamTreeVisibilityFilterProxyModelPrivate::proxyOf(const Branch *branch) const
 {
     if (!branch->parent)
         return {};
-    Place place{branch->parent, branch->source.row()};
-    if (branch->isListedAgain)
-        place = shownPlace(branch->source).value_or(place);
-    const int row = position(place.branch->rows, place.sourceRow);
-    return row < 0 ? QModelIndex() : q->createIndex(row, 0, place.branch);
-}
-
-/** Where the feature, of which \a first is the first occurrence, can be seen. */
-std::optional<Place> GenParamTreeVisibilityFilterProxyModelPrivate::shownPlace(const QModelIndex &first)
-{
-    const Place firstPlace{branchOf(first.parent()), first.row()};
-    if (firstPlace.branch && isShown(firstPlace, Time::Now))
-        return firstPlace;
-    const QVector<Place> further = furtherPlaces.value(first.internalId());
-    for (const Place &place : further) {
-        if (isShown(place, Time::Now))
-            return place;
-    }
-    return std::nullopt;
-}
-
-bool GenParamTreeVisibilityFilterProxyModelPrivate::isShown(const Place &place, Time time)
-{
-    return position(place.branch->rowsAt(time), place.sourceRow) >= 0 && isShown(place.branch, time);
+    const int row = position(branch->parent->rows, branch->source.row());
+    return row < 0 ? QModelIndex() : q->createIndex(row, 0, branch->parent);
 }
 
 /** Whether the category that the rows of \a branch belong to can be seen, with all that it stands in. */
-bool GenParamTreeVisibilityFilterProxyModelPrivate::isShown(Branch *branch, Time time)
+bool GenParamTreeVisibilityFilterProxyModelPrivate::isShown(Branch *branch)
 {
-    std::vector<Branch *> unknown;
-    for (; branch->parent && branch->walk != walk; branch = branch->parent)
-        unknown.push_back(branch);
-    bool shown = branch->isShown;
-    for (auto next = unknown.rbegin(); next != unknown.rend(); ++next) {
-        Branch &below = **next;
-        shown =
-            (shown && position(below.parent->rowsAt(time), below.source.row()) >= 0) || isShownElsewhere(below, time);
-        below.isShown = shown;
-        below.walk = walk;
+    if (!branch->parent)
+        return true;
+    if (branch->walk != walk) {
+        branch->isShown = isShown(branch->parent) && position(branch->parent->rows, branch->source.row()) >= 0;
+        branch->walk = walk;
     }
-    return shown;
+    return branch->isShown;
 }
 
-bool GenParamTreeVisibilityFilterProxyModelPrivate::isShownElsewhere(const Branch &branch, Time time)
-{
-    if (!branch.isListedAgain)
-        return false;
-    const QVector<Place> further = furtherPlaces.value(branch.source.internalId());
-    return std::any_of(further.begin(), further.end(), [&](const Place &place) { return isShown(place, time); });
-}
-
-QModelIndex GenParamTreeVisibilityFilterProxyModelPrivate::survivorOf(const QModelIndex &proxyIndex)
-{
-    const auto branch = static_cast<Branch *>(proxyIndex.internalPointer());
-    ++walk;
-    const bool stays = isShown(branch, Time::Ahead);
-    ++walk;
-    if (!stays)
-        return {};
-    const auto staysAt = [&](int row) { return position(branch->rowsAt(Time::Ahead), branch->rows[size_t(row)]) >= 0; };
-    const int count = int(branch->rows.size());
-    for (int row = proxyIndex.row(); row < count; ++row) {
-        if (staysAt(row))
-            return q->createIndex(row, proxyIndex.column(), branch);
-    }
-    for (int row = std::min(proxyIndex.row(), count) - 1; row >= 0; --row) {
-        if (staysAt(row))
-            return q->createIndex(row, proxyIndex.column(), branch);
-    }
-    return proxyOf(branch);
-}
-
-void GenParamTreeVisibilityFilterProxyModelPrivate::evaluate(const Branch &branch, Rows &rows) const
+void GenParamTreeVisibilityFilterProxyModelPrivate::evaluate(Branch &branch, Rows &rows) const
 {
     const int count = source()->rowCount(branch.source);
     rows.clear();
@@ -266,21 +142,20 @@ void GenParamTreeVisibilityFilterProxyModelPrivate::evaluate(const Branch &branc
         if (q->filterAcceptsRow(row, branch.source))
             rows.push_back(row);
     }
+    rows.shrink_to_fit();
 }
 
 bool GenParamTreeVisibilityFilterProxyModelPrivate::accepts(GenApi::IValue *value) const
 {
-    GenApi::INode *node = nullptr;
+    GenApi::INode *const node = value ? nodeOf(value) : nullptr;
+    if (!node)
+        return true;
     bool isTooHigh = false;
-    failureOf([&] {
-        node = nodeOf(value);
-        isTooHigh = int(node->GetVisibility()) > level;
-    });
-    if (isTooHigh || (node && !acceptsName(node)))
+    failureOf([&] { isTooHigh = int(node->GetVisibility()) > level; });
+    if (isTooHigh || !acceptsName(node))
         return false;
     bool isImplemented = true;
-    if (node)
-        failureOf([&] { isImplemented = node->GetAccessMode() != GenApi::NI; });
+    failureOf([&] { isImplemented = node->GetAccessMode() != GenApi::NI; });
     return isImplemented;
 }
 
@@ -290,10 +165,12 @@ bool GenParamTreeVisibilityFilterProxyModelPrivate::acceptsName(GenApi::INode *n
         return true;
     bool accepted = true;
     failureOf([&] {
-        if (node->GetPrincipalInterfaceType() == GenApi::intfICategory)
-            return;
-        const QString name = fromGenICam(node->GetDisplayName());
-        accepted = wholeWords ? pattern.isAll(name) : pattern.isIn(name);
+        accepted = node->GetPrincipalInterfaceType() == GenApi::intfICategory;
+        if (!accepted) {
+            accepted = true;
+            const QString name = fromGenICam(node->GetDisplayName());
+            accepted = wholeWords ? pattern.isAll(name) : pattern.isIn(name);
+        }
     });
     return accepted;
 }
@@ -301,76 +178,29 @@ bool GenParamTreeVisibilityFilterProxyModelPrivate::acceptsName(GenApi::INode *n
 /** One change of layout, or nothing where no row comes or goes. */
 void GenParamTreeVisibilityFilterProxyModelPrivate::refilter()
 {
-    quint64 evaluated = 0;
-    std::vector<Branch *> changing;
-    do {
-        evaluated = ++revision;
-        changing = findChanging();
-        if (revision == evaluated)
-            announceGoing(changing);
-        // Whoever has heard of it may have changed anything: what was found out counts no more then.
-    } while (revision != evaluated);
-    if (!changing.empty())
-        changeLayout(changing);
-}
-
-std::vector<Branch *> GenParamTreeVisibilityFilterProxyModelPrivate::findChanging()
-{
-    std::vector<Branch *> changing;
-    const quint64 found = generation;
+    std::vector<Branch *> changed;
     Rows rows;
-    // Not by iterators: a node that is asked may report a change, upon which somebody asks for a branch.
-    for (size_t i = 0; i < owned.size(); ++i) {
-        Branch &branch = *owned[i];
-        evaluate(branch, rows);
-        if (generation != found)
-            return {};
-        branch.isChanging = rows != branch.rows;
-        if (!branch.isChanging)
-            continue;
-        branch.comingRows = rows;
-        changing.push_back(&branch);
+    for (const std::unique_ptr<Branch> &branch : owned) {
+        evaluate(*branch, rows);
+        if (rows != branch->rows) {
+            branch->formerRows = std::move(rows);
+            changed.push_back(branch.get());
+        }
     }
-    return changing;
-}
-
-void GenParamTreeVisibilityFilterProxyModelPrivate::announceGoing(const std::vector<Branch *> &changing)
-{
-    const auto loses = [](const Branch *branch) {
-        return !std::includes(branch->comingRows.begin(), branch->comingRows.end(), branch->rows.begin(),
-                              branch->rows.end());
-    };
-    if (std::any_of(changing.begin(), changing.end(), loses))
-        Q_EMIT q->rowsAboutToGo();
-}
-
-void GenParamTreeVisibilityFilterProxyModelPrivate::changeLayout(const std::vector<Branch *> &changing)
-{
+    if (changed.empty())
+        return;
     Q_EMIT q->layoutAboutToBeChanged();
-    for (Branch *branch : changing) {
-        branch->formerRows = std::exchange(branch->rows, std::exchange(branch->comingRows, {}));
-        branch->isChanging = false;
-    }
-    rowsHaveChanged();
+    for (Branch *branch : changed)
+        branch->rows.swap(branch->formerRows);
     movePersistentIndexes();
-    const bool categoriesCome =
-        std::any_of(changing.begin(), changing.end(), [this](const Branch *branch) { return hasNewCategory(*branch); });
-    for (Branch *branch : changing)
+    for (Branch *branch : changed)
         branch->formerRows = Rows();
     Q_EMIT q->layoutChanged();
-    if (categoriesCome)
-        Q_EMIT q->categoriesHaveCome();
-}
-
-bool GenParamTreeVisibilityFilterProxyModelPrivate::hasNewCategory(const Branch &branch) const
-{
-    return std::any_of(branch.rows.begin(), branch.rows.end(), [&](int row) {
-        return source()->hasChildren(source()->index(row, 0, branch.source)) && position(branch.formerRows, row) < 0;
-    });
 }
 
 void GenParamTreeVisibilityFilterProxyModelPrivate::movePersistentIndexes()
 {
+    ++walk;
     const QModelIndexList from = q->persistentIndexList();
     QModelIndexList to;
     to.reserve(from.size());
@@ -389,102 +219,54 @@ void GenParamTreeVisibilityFilterProxyModelPrivate::sourceDataChanged(const QMod
                                                                       const QModelIndex &bottomRight,
                                                                       const QVector<int> &roles)
 {
-    const QModelIndex first = topLeft.isValid() ? firstOccurrence(topLeft) : QModelIndex();
-    if (!first.isValid() || !bottomRight.isValid())
+    const auto found = branches.constFind(topLeft.parent().internalId());
+    if (!topLeft.isValid() || found == branches.constEnd())
         return;
-    const quint64 found = generation;
-    const QModelIndex parent = first.parent();
-    const int last = first.row() + bottomRight.row() - topLeft.row();
-    for (int row = first.row(); row <= last && generation == found; ++row) {
-        if (Branch *const branch = branches.value(parent.internalId()))
-            rowChanged({branch, row}, topLeft, bottomRight, roles);
-        if (furtherPlaces.isEmpty() || generation != found)
-            continue;
-        const QVector<Place> further = furtherPlaces.value(source()->index(row, 0, parent).internalId());
-        for (auto place = further.begin(); place != further.end() && generation == found; ++place)
-            rowChanged(*place, topLeft, bottomRight, roles);
+    Branch &branch = **found;
+    for (int row = topLeft.row(); row <= bottomRight.row(); ++row)
+        updateRow(branch, row);
+    ++walk;
+    if (!isShown(&branch))
+        return;
+    for (int row = topLeft.row(); row <= bottomRight.row(); ++row) {
+        const int shown = position(branch.rows, row);
+        if (shown >= 0)
+            Q_EMIT q->dataChanged(q->createIndex(shown, topLeft.column(), &branch),
+                                  q->createIndex(shown, bottomRight.column(), &branch), roles);
     }
-}
-
-void GenParamTreeVisibilityFilterProxyModelPrivate::rowChanged(Place place, const QModelIndex &topLeft,
-                                                               const QModelIndex &bottomRight,
-                                                               const QVector<int> &roles)
-{
-    const quint64 found = generation;
-    updateRow(*place.branch, place.sourceRow);
-    if (generation != found || !isShown(place, Time::Now))
-        return;
-    const int row = position(place.branch->rows, place.sourceRow);
-    Q_EMIT q->dataChanged(q->createIndex(row, topLeft.column(), place.branch),
-                          q->createIndex(row, bottomRight.column(), place.branch), roles);
 }
 
 /** With a change a feature may have come to be implemented, or have ceased to be. */
 void GenParamTreeVisibilityFilterProxyModelPrivate::updateRow(Branch &branch, int sourceRow)
 {
-    const quint64 found = generation;
-    const bool isAccepted = q->filterAcceptsRow(sourceRow, branch.source);
-    if (generation != found || isAccepted == (position(branch.rows, sourceRow) >= 0))
-        return;
-    if (isAccepted)
-        insertRow(branch, sourceRow);
-    else
-        removeRow(branch, sourceRow);
-}
-
-void GenParamTreeVisibilityFilterProxyModelPrivate::insertRow(Branch &branch, int sourceRow)
-{
+    const bool accepted = q->filterAcceptsRow(sourceRow, branch.source);
     const auto place = std::lower_bound(branch.rows.begin(), branch.rows.end(), sourceRow);
+    const bool present = place != branch.rows.end() && *place == sourceRow;
+    if (accepted == present)
+        return;
     const int row = int(place - branch.rows.begin());
-    const bool isAnnounced = isShown(&branch);
-    if (isAnnounced)
-        q->beginInsertRows(proxyOf(&branch), row, row);
-    branch.rows.insert(place, sourceRow);
-    rowsHaveChanged();
-    if (isAnnounced)
-        q->endInsertRows();
-}
-
-void GenParamTreeVisibilityFilterProxyModelPrivate::removeRow(Branch &branch, int sourceRow)
-{
-    const int row = position(branch.rows, sourceRow);
-    const bool isAnnounced = isShown(&branch);
-    if (isAnnounced) {
-        branch.comingRows = branch.rows;
-        branch.comingRows.erase(branch.comingRows.begin() + row);
-        branch.isChanging = true;
-        const quint64 evaluated = ++revision;
-        const quint64 found = generation;
-        Q_EMIT q->rowsAboutToGo();
-        if (generation != found)
-            return;
-        branch.isChanging = false;
-        branch.comingRows = Rows();
-        // Whoever has heard of it may have changed anything: all is looked at again then.
-        if (revision != evaluated)
-            return updateRow(branch, sourceRow);
-        q->beginRemoveRows(proxyOf(&branch), row, row);
-    }
-    branch.rows.erase(branch.rows.begin() + row);
-    rowsHaveChanged();
-    if (isAnnounced)
-        q->endRemoveRows();
-}
-
-void GenParamTreeVisibilityFilterProxyModelPrivate::rowsHaveChanged()
-{
-    ++revision;
     ++walk;
+    const bool announced = isShown(&branch);
+    if (accepted) {
+        if (announced)
+            q->beginInsertRows(proxyOf(&branch), row, row);
+        branch.rows.insert(place, sourceRow);
+        if (announced)
+            q->endInsertRows();
+    } else {
+        if (announced)
+            q->beginRemoveRows(proxyOf(&branch), row, row);
+        branch.rows.erase(place);
+        if (announced)
+            q->endRemoveRows();
+    }
 }
 
 void GenParamTreeVisibilityFilterProxyModelPrivate::forget()
 {
-    ++generation;
-    rowsHaveChanged();
-    lastBranch = nullptr;
     branches.clear();
-    furtherPlaces.clear();
     owned.clear();
+    lastBranch = nullptr;
 }
 
 GenParamTreeVisibilityFilterProxyModel::GenParamTreeVisibilityFilterProxyModel(QObject *parent)
@@ -516,12 +298,7 @@ void GenParamTreeVisibilityFilterProxyModel::setSourceModel(QAbstractItemModel *
                         d->forget();
                         endResetModel();
                     }),
-            connect(sourceModel, &QObject::destroyed, this,
-                    [this] {
-                        beginResetModel();
-                        d->forget();
-                        endResetModel();
-                    }),
+            connect(sourceModel, &QObject::destroyed, this, [this] { d->forget(); }),
         };
     }
     endResetModel();
@@ -529,20 +306,27 @@ void GenParamTreeVisibilityFilterProxyModel::setSourceModel(QAbstractItemModel *
 
 bool GenParamTreeVisibilityFilterProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const
 {
-    if (!sourceModel())
-        return false;
     const QModelIndex index = sourceModel()->index(sourceRow, GenParamTreeModel::NameColumn, sourceParent);
     return d->accepts(sourceModel()->data(index, GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>());
 }
 
-QModelIndex GenParamTreeVisibilityFilterProxyModel::survivorOf(const QModelIndex &index) const
+QModelIndex GenParamTreeVisibilityFilterProxyModel::nearestTo(const QModelIndex &sourceIndex) const
 {
-    return index.isValid() && index.model() == this ? d->survivorOf(index) : QModelIndex();
+    const QModelIndex source = sourceIndex.isValid() ? d->firstOccurrence(sourceIndex) : QModelIndex();
+    Branch *const branch = source.isValid() ? d->branchOf(source.parent()) : nullptr;
+    ++d->walk;
+    if (!branch || !d->isShown(branch))
+        return {};
+    if (branch->rows.empty())
+        return d->proxyOf(branch);
+    const auto next = std::lower_bound(branch->rows.begin(), branch->rows.end(), source.row());
+    const int row = int(next - branch->rows.begin()) - (next == branch->rows.end() ? 1 : 0);
+    return createIndex(row, sourceIndex.column(), branch);
 }
 
 QModelIndex GenParamTreeVisibilityFilterProxyModel::mapToSource(const QModelIndex &proxyIndex) const
 {
-    if (!proxyIndex.isValid() || proxyIndex.model() != this || !sourceModel())
+    if (!proxyIndex.isValid() || proxyIndex.model() != this)
         return {};
     const auto branch = static_cast<const Branch *>(proxyIndex.internalPointer());
     if (size_t(proxyIndex.row()) >= branch->rows.size())
@@ -552,13 +336,13 @@ QModelIndex GenParamTreeVisibilityFilterProxyModel::mapToSource(const QModelInde
 
 QModelIndex GenParamTreeVisibilityFilterProxyModel::mapFromSource(const QModelIndex &sourceIndex) const
 {
-    if (!sourceIndex.isValid() || sourceIndex.model() != sourceModel())
+    const QModelIndex source = sourceIndex.isValid() ? d->firstOccurrence(sourceIndex) : QModelIndex();
+    Branch *const branch = source.isValid() ? d->branchOf(source.parent()) : nullptr;
+    ++d->walk;
+    if (!branch || !d->isShown(branch))
         return {};
-    const QModelIndex first = d->firstOccurrence(sourceIndex);
-    const std::optional<Place> place = first.isValid() ? d->shownPlace(first) : std::nullopt;
-    if (!place)
-        return {};
-    return createIndex(position(place->branch->rows, place->sourceRow), sourceIndex.column(), place->branch);
+    const int row = position(branch->rows, source.row());
+    return row < 0 ? QModelIndex() : createIndex(row, sourceIndex.column(), branch);
 }
 
 QModelIndex GenParamTreeVisibilityFilterProxyModel::index(int row, int column, const QModelIndex &parent) const
@@ -573,7 +357,7 @@ QModelIndex GenParamTreeVisibilityFilterProxyModel::parent(const QModelIndex &in
 {
     if (!index.isValid() || index.model() != this)
         return {};
-    return d->proxyOf(static_cast<Branch *>(index.internalPointer()));
+    return d->proxyOf(static_cast<const Branch *>(index.internalPointer()));
 }
 
 QModelIndex GenParamTreeVisibilityFilterProxyModel::sibling(int row, int column, const QModelIndex &index) const

@@ -4,13 +4,9 @@
 
 namespace {
 
-/** Beyond ASCII QRegExp folds case in one way or another, as it chooses to search; not where there is no case. */
-bool foldsInOneWay(const QString &text)
+bool isAscii(const QString &text)
 {
-    return std::all_of(text.begin(), text.end(), [](QChar c) {
-        return c.unicode() < 0x80
-            || (!c.isSurrogate() && c.toLower() == c && c.toUpper() == c && c.toCaseFolded() == c);
-    });
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
 }
 
 } // namespace
@@ -42,7 +38,8 @@ void WildcardMatcher::prepare()
     if (pattern.contains(QLatin1Char('[')) || pattern.contains(QLatin1Char(']')) || pattern.contains(QLatin1Char('\\')))
         return;
     const bool foldsCase = m_regExp.caseSensitivity() == Qt::CaseInsensitive;
-    if (foldsCase && !foldsInOneWay(pattern))
+    // Beyond ASCII QRegExp folds case in one way or another, as it chooses to search.
+    if (foldsCase && !isAscii(pattern))
         return;
     m_glob = foldsCase ? pattern.toLower() : pattern;
     if (m_glob.isNull())
@@ -73,7 +70,7 @@ bool WildcardMatcher::isAll(const QString &text) const
 
 bool WildcardMatcher::canMatch(const QString &text) const
 {
-    return !m_glob.isNull() && (m_regExp.caseSensitivity() == Qt::CaseSensitive || foldsInOneWay(text));
+    return !m_glob.isNull() && (m_regExp.caseSensitivity() == Qt::CaseSensitive || isAscii(text));
 }
 
 /** Walks text and pattern at once; after a mismatch the last "*" takes one character more. */
