@@ -120,8 +120,9 @@ private Q_SLOTS:
         const struct
         {
             double minimum, maximum, step;
-        } rows[] = {{0, 1e12, 1e-3},  {-Huge, Huge, Tiny}, {-Huge, Huge, Huge},
-                    {-Huge, Huge, 1}, {0, Tiny, Huge},     {1e15, 1e15 + 1, 1e-3}};
+            bool crowded;
+        } rows[] = {{0, 1e12, 1e-3, true},      {-Huge, Huge, Tiny, true}, {-Huge, Huge, 1, true},
+                    {-Huge, Huge, Huge, false}, {0, Tiny, Huge, false},    {1e15, 1e15 + 1, 1e-3, false}};
         for (const auto &row : rows) {
             for (const bool validate : {false, true}) {
                 QtOrvDoubleSlider slider;
@@ -136,6 +137,7 @@ private Q_SLOTS:
                     previous = slider.value();
                 }
                 QCOMPARE(previous, row.maximum);
+                QCOMPARE(last == std::numeric_limits<int>::max(), row.crowded);
                 slider.setValue(row.minimum / 2 + row.maximum / 2);
                 if (last > 1)
                     QVERIFY(qAbs(slider.slider()->value() - last / 2) <= 1);

@@ -219,6 +219,7 @@ private Q_SLOTS:
                     QTest::keyClick(slider.slider(), Qt::Key(up ? upKey : downKey));
                     QCOMPARE(recorder.values.size(), 1);
                     const qint64 after = recorder.values.first();
+                    QCOMPARE(qint64(slider.value()), after);
                     QVERIFY(up ? after > before : after < before);
                     QVERIFY(isOnGrid(setting, int(after)));
                     const int reached = slider.slider()->value();

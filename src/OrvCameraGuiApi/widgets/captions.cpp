@@ -8,9 +8,11 @@ namespace {
 
 constexpr int spacing = 6; // pixels
 
-void show(QLabel *label, const QString &text)
+/** A label without a text names nothing. */
+void show(QLabel *label, const QString &text, QAbstractSpinBox *buddy)
 {
     label->setText(text);
+    label->setBuddy(text.isEmpty() ? nullptr : buddy);
     label->setVisible(!text.isEmpty());
 }
 
@@ -34,7 +36,6 @@ QLabel *Captions::makeLabel(const QString &name) const
 {
     auto *const label = new QLabel(m_composite);
     label->setObjectName(name);
-    label->setBuddy(m_spinBox);
     return label;
 }
 
@@ -44,7 +45,7 @@ void Captions::setLeftText(const QString &text)
         m_left = makeLabel(QStringLiteral("labelLeft"));
         m_row->insertWidget(0, m_left);
     }
-    show(m_left, text);
+    show(m_left, text, m_spinBox);
 }
 
 void Captions::setTopText(const QString &text)
@@ -58,7 +59,7 @@ void Captions::setTopText(const QString &text)
         line->addStretch();
         m_column->insertLayout(0, line);
     }
-    show(m_top, text);
+    show(m_top, text, m_spinBox);
 }
 
 QString Captions::leftText() const

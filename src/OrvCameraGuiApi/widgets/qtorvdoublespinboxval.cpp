@@ -46,7 +46,7 @@ void QtOrvDoubleSpinBoxVal::keyPressEvent(QKeyEvent *event)
     if (commits && !m_validateTyping && !isReadOnly() && singleStep() != 0) {
         bool isNumber = false;
         const double number = lineEdit()->text().toDouble(&isNumber);
-        if (isNumber && std::isfinite(number)) {
+        if (isNumber && !std::isnan(number)) {
             setValue(number);
             event->accept();
             return;

@@ -18,12 +18,14 @@ public:
     void move(int value);
     void positionChanged(int position);
     void announce(int value);
+    int value() const;
 
     QtOrvSlider *const q;
     SliderParts parts;
     IntegerScale scale;
     int sliderValue = 0; ///< the inner slider's position when it was last looked at
     int lastValue = 0; ///< as last announced
+    bool stepped = false; ///< a key has led to lastValue, which is what the position stands for until it changes
     bool settling = false; ///< the inner slider moves on the way to a value that is announced later, if at all
 };
 
@@ -45,7 +47,7 @@ void QtOrvSliderPrivate::init()
 /** Takes \a changed and puts the value back, so that nobody is told of values that are only passed through. */
 void QtOrvSliderPrivate::rescale(const IntegerScale &changed)
 {
-    const int kept = q->value();
+    const int kept = value();
     const bool otherRange = changed.minimum() != scale.minimum() || changed.maximum() != scale.maximum();
     scale = changed;
     {
@@ -58,7 +60,12 @@ void QtOrvSliderPrivate::rescale(const IntegerScale &changed)
         parts.setBounds(QString::number(scale.minimum()), QString::number(scale.maximum()));
         Q_EMIT q->rangeChanged(scale.minimum(), scale.maximum());
     }
-    announce(q->value());
+    announce(value());
+}
+
+int QtOrvSliderPrivate::value() const
+{
+    return stepped ? lastValue : scale.valueAt(parts.slider->value());
 }
 
 void QtOrvSliderPrivate::move(int value)
@@ -66,6 +73,7 @@ void QtOrvSliderPrivate::move(int value)
     const QScopedValueRollback<bool> guard(settling, true);
     parts.slider->setValue(scale.positionOf(value));
     sliderValue = parts.slider->value();
+    stepped = false;
 }
 
 void QtOrvSliderPrivate::positionChanged(int position)
@@ -75,13 +83,15 @@ void QtOrvSliderPrivate::positionChanged(int position)
     // Which way the slider went tells more than the key: layout direction and inversion turn some of them round.
     const bool up = position > sliderValue;
     sliderValue = position;
+    stepped = false;
     int value = scale.valueAt(position);
     if (value == lastValue && parts.slider->isSteppedByKey()) {
         value = scale.stepped(value, up);
         move(value);
-        const bool atEnd = sliderValue == scale.firstPosition() || sliderValue == scale.lastPosition();
-        if (atEnd)
-            value = scale.valueAt(sliderValue);
+        if (sliderValue == scale.firstPosition() || sliderValue == scale.lastPosition())
+            value = scale.valueAt(sliderValue); // no key leads on from an end, so it has to be the bound
+        else
+            stepped = true;
     }
     announce(value);
 }
@@ -130,12 +140,15 @@ void QtOrvSlider::setMaximum(int maximum)
 
 int QtOrvSlider::value() const
 {
-    return d->scale.valueAt(d->parts.slider->value());
+    return d->value();
 }
 
 void QtOrvSlider::setValue(int value)
 {
-    d->parts.slider->setValue(d->scale.positionOf(value));
+    if (d->stepped && value == d->lastValue)
+        return; // the position alone would stand for another value
+    d->move(value);
+    d->announce(d->value());
 }
 
 void QtOrvSlider::setRange(int minimum, int maximum)

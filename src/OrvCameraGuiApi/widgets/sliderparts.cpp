@@ -99,8 +99,9 @@ void SliderParts::arrange()
         horizontally->setSpacing(6);
         minLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
         maxLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        horizontally->addWidget(minLabel);
-        horizontally->addWidget(maxLabel);
+        // By the layout, which turns round from right to left; a label itself goes by what its text is.
+        horizontally->addWidget(minLabel, 0, Qt::AlignLeft);
+        horizontally->addWidget(maxLabel, 0, Qt::AlignRight);
         vertically->addWidget(slider);
         vertically->addLayout(horizontally);
         frame->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);

@@ -135,8 +135,8 @@ void DoubleScale::update()
 {
     const double steps = quotient(m_minimum, m_maximum, m_singleStep);
     if (!(steps <= mostPositions)) {
-        m_last = int(mostPositions);
-        m_positionWidth = m_maximum / mostPositions - m_minimum / mostPositions;
+        m_last = std::numeric_limits<int>::max();
+        m_positionWidth = m_maximum / m_last - m_minimum / m_last;
         return;
     }
     m_last = int(rounded(steps));

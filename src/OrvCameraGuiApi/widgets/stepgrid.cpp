@@ -23,9 +23,7 @@ double snappedToGrid(double value, double minimum, double maximum, double step)
     const double offset = value - minimum;
     const double steps = offset / step;
     const double excess = (steps - std::trunc(steps)) * step;
-    if (!std::isfinite(excess))
-        return value;
-    if (excess == 0)
+    if (!std::isfinite(excess) || excess == 0)
         return std::min(value, maximum);
     // The offset is corrected, not the value: near a grid point that keeps more digits.
     const double snapped = excess < step * 0.5 ? offset - excess : offset + (step - excess);

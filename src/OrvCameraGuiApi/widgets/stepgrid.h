@@ -9,5 +9,6 @@
  */
 int snappedToGrid(int value, int minimum, int maximum, int step);
 
-/** The same for numbers that are not whole. Where the grid cannot be computed (NaN, infinite width) the value stays. */
+/** The same for numbers that are not whole. Where the grid cannot be computed (NaN, infinite
+ * width) the value stays, at most the maximum. */
 double snappedToGrid(double value, double minimum, double maximum, double step);
