@@ -2,6 +2,7 @@
 
 #include "camerasource.h"
 #include "simulationmenu.h"
+#include "widgetspage.h"
 
 #include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
 
@@ -17,6 +18,7 @@
 #include <QMessageBox>
 #include <QSaveFile>
 #include <QStatusBar>
+#include <QTabWidget>
 #include <QTreeView>
 
 // The type of what the view's model answers to Qt::UserRole.
@@ -32,13 +34,13 @@ constexpr int messageTime = 5000; // milliseconds
 
 ExplorerWindow::ExplorerWindow(std::unique_ptr<CameraSource> source, QWidget *parent)
     : QMainWindow(parent)
+    , m_pages(new QTabWidget(this))
     , m_view(new OrvGui::OrvGenParamTreeView(this))
     , m_pollingLabel(new QLabel(this))
 {
     resize(780, 760);
-    m_view->setWindowFlags(Qt::Widget);
     m_view->setPollingTime(defaultPollingTime);
-    setCentralWidget(m_view);
+    createPages();
     statusBar()->setContentsMargins(6, 0, 6, 0);
     statusBar()->addPermanentWidget(m_pollingLabel);
     createFileMenu();
@@ -53,6 +55,31 @@ ExplorerWindow::ExplorerWindow(std::unique_ptr<CameraSource> source, QWidget *pa
 ExplorerWindow::~ExplorerWindow()
 {
     m_view->clearParams(); // the view goes after the node map
+}
+
+void ExplorerWindow::createPages()
+{
+    m_view->setWindowFlags(Qt::Widget);
+    m_view->setObjectName(QStringLiteral("explorer"));
+    auto *const widgets = new WidgetsPage;
+    widgets->setObjectName(QStringLiteral("widgets"));
+    m_pages->setDocumentMode(true);
+    m_pages->addTab(m_view, tr("Features"));
+    m_pages->addTab(widgets, tr("Widgets"));
+    setCentralWidget(m_pages);
+}
+
+QStringList ExplorerWindow::pageNames() const
+{
+    QStringList names;
+    for (int i = 0; i < m_pages->count(); ++i)
+        names.append(m_pages->widget(i)->objectName());
+    return names;
+}
+
+void ExplorerWindow::showPage(const QString &name)
+{
+    m_pages->setCurrentIndex(pageNames().indexOf(name));
 }
 
 void ExplorerWindow::createFileMenu()

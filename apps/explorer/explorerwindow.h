@@ -8,13 +8,14 @@ class CameraSource;
 class QLabel;
 class QMenu;
 class QModelIndex;
+class QTabWidget;
 class SimulationMenu;
 
 namespace OrvGui {
 class OrvGenParamTreeView;
 }
 
-/** Shows the features of a camera, one at a time. */
+/** Shows the features of a camera, one at a time, and on another page the widgets for values. */
 class ExplorerWindow : public QMainWindow
 {
     Q_OBJECT
@@ -33,7 +34,12 @@ public:
     void saveStateTo(const QString &path);
     void loadStateFrom(const QString &path);
 
+    /** The names of the pages, not translated, in their order; the first is shown at first. */
+    QStringList pageNames() const;
+    void showPage(const QString &name);
+
 private:
+    void createPages();
     void createFileMenu();
     void createViewMenu();
     void createSimulationMenu();
@@ -52,6 +58,7 @@ private:
     void showAbout();
 
     std::unique_ptr<CameraSource> m_source;
+    QTabWidget *const m_pages;
     OrvGui::OrvGenParamTreeView *const m_view;
     SimulationMenu *m_simulation = nullptr;
     QLabel *const m_pollingLabel;

@@ -48,14 +48,26 @@ bool hasDisplay()
     return false;
 }
 
-int saveScreenshot(QWidget &window, const QString &directory)
+int saveScreenshot(QWidget &window, const QString &path)
 {
-    const QString path = QDir(directory).filePath(QStringLiteral("explorer.png"));
     window.grab(); // drawing reads the values, and reading finds the errors that turn red then
     QCoreApplication::processEvents();
-    if (!QDir().mkpath(directory) || !window.grab().save(path))
+    if (!window.grab().save(path))
         return fail(Text::tr("Cannot write '%1'.").arg(path));
     return print(path + QLatin1Char('\n'));
+}
+
+/** Every page into a file with its name. */
+int saveScreenshots(ExplorerWindow &window, const QString &directory)
+{
+    const QStringList pages = window.pageNames();
+    int status = 0;
+    QDir().mkpath(directory);
+    for (auto page = pages.begin(); status == 0 && page != pages.end(); ++page) {
+        window.showPage(*page);
+        status = saveScreenshot(window, QDir(directory).filePath(*page + QStringLiteral(".png")));
+    }
+    return status;
 }
 
 int runWindow(int argc, char **argv, const Options &options, std::unique_ptr<CameraSource> source)
@@ -70,7 +82,7 @@ int runWindow(int argc, char **argv, const Options &options, std::unique_ptr<Cam
 
     ExplorerWindow window(std::move(source));
     if (screenshot)
-        return saveScreenshot(window, options.screenshotDir);
+        return saveScreenshots(window, options.screenshotDir);
     window.show();
     return QApplication::exec();
 }

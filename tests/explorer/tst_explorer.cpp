@@ -119,14 +119,16 @@ void ExplorerTest::drawsItsWindow()
     QCOMPARE(result.err, QString());
     QCOMPARE(result.status, 0);
 
-    const QImage image(dir + QStringLiteral("/explorer.png"));
-    QVERIFY(!image.isNull());
-    QSet<QRgb> colors;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
-            colors.insert(image.pixel(x, y));
+    for (const char *page : {"explorer", "widgets"}) {
+        const QImage image(QStringLiteral("%1/%2.png").arg(dir, QLatin1String(page)));
+        QVERIFY(!image.isNull());
+        QSet<QRgb> colors;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                colors.insert(image.pixel(x, y));
+        }
+        QVERIFY2(colors.size() > 10, "the picture shows no text");
     }
-    QVERIFY2(colors.size() > 10, "the picture shows no text");
 }
 
 ORV_TEST_MAIN(ExplorerTest)

@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPointer>
 #include <QTemporaryDir>
 #include <QTreeView>
@@ -54,6 +55,7 @@ private Q_SLOTS:
     void makesFeaturesFailAndRecover();
     void showsOneCameraAfterTheOther();
     void savesAndLoadsTheState();
+    void listsTheSignalsOfTheWidgets();
 };
 
 void ExplorerWindowTest::init()
@@ -183,6 +185,25 @@ void ExplorerWindowTest::savesAndLoadsTheState()
         QTest::keyClick(box, Qt::Key_Return);
         QTRY_VERIFY(!box);
     }
+}
+
+void ExplorerWindowTest::listsTheSignalsOfTheWidgets()
+{
+    ExplorerWindow window(openCamera(QString()));
+    window.show();
+    window.showPage(QStringLiteral("widgets"));
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    auto *const list = window.findChild<QPlainTextEdit *>(QStringLiteral("signals"));
+    QVERIFY(list && list->isVisible());
+    list->clear();
+    for (const char *widget : {"Integer", "Linear", "Gain"}) {
+        auto *const field = window.findChild<QWidget *>(QLatin1String(widget));
+        QVERIFY(field);
+        QTest::keyClick(field->focusProxy() ? field->focusProxy() : field, Qt::Key_Up);
+    }
+    QCOMPARE(list->toPlainText(),
+             QStringLiteral("Integer: valueChanged(1)\nLinear: valueChanged(1001)\n"
+                            "Gain: valueChanged(\"3.50\")\nGain: valueChanged(3.5)"));
 }
 
 ORV_TEST_MAIN(ExplorerWindowTest)
