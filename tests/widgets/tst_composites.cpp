@@ -308,6 +308,23 @@ private Q_SLOTS:
         QCOMPARE(box.slider()->value(), largest);
     }
 
+    /** Typed text that waits would become the value when the focus is lost, of which the end is one case. */
+    void endsWithTextThatWaits()
+    {
+        QtOrvGainSlider *const gain = new QtOrvGainSlider;
+        QWidget window;
+        (new QVBoxLayout(&window))->addWidget(gain);
+        window.show();
+        gain->setFocus();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        gain->spinBox()->setKeyboardTracking(false);
+        gain->spinBox()->selectAll();
+        QTest::keyClicks(gain->spinBox(), QStringLiteral("42"));
+        QSignalSpy told(gain->spinBox(), QOverload<double>::of(&QDoubleSpinBox::valueChanged));
+        delete gain;
+        QCOMPARE(told.size(), 1);
+    }
+
     void captionsShowWhatIsNotEmpty()
     {
         forEachComposite([](auto &window) {
@@ -380,6 +397,23 @@ private Q_SLOTS:
             window.other.setFocus();
             QVERIFY(!slider->isVisible());
         }
+    }
+
+    /** Whose press is an outside one for the pop-up. */
+    void theButtonClosesThePopUpAgain()
+    {
+        Window<QtOrvSpinBox> window;
+        QVERIFY(window.isReady());
+        openSlider(window);
+        QtOrvSlider *const slider = window.composite.slider();
+        const QPoint place = window.composite.toolButton()->mapToGlobal(window.composite.toolButton()->rect().center());
+        QTest::mousePress(slider->windowHandle(), Qt::LeftButton, {}, slider->mapFromGlobal(place));
+        QVERIFY(!slider->isVisible());
+        QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, window.mapFromGlobal(place));
+        QVERIFY(!slider->isVisible());
+        expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, window.mapFromGlobal(place));
+        QVERIFY(slider->isVisible());
     }
 
     void readOnlyHidesTheButton()

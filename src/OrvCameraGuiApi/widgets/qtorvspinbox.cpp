@@ -7,7 +7,6 @@
 #include <OrvCameraGuiApi/widgets/valueaccessible.h>
 
 #include <QBoxLayout>
-#include <QMouseEvent>
 #include <QToolButton>
 
 class QtOrvSpinBoxPrivate
@@ -78,7 +77,6 @@ void QtOrvSpinBoxPrivate::initSlider()
     slider->setFrameShape(QFrame::StyledPanel);
     slider->setMaxLabelVisiable(false); // there is no room for them
     slider->setMinLabelVisiable(false);
-    slider->installEventFilter(q);
     QObject::connect(slider, &QtOrvSlider::focusOut, slider, &QWidget::hide);
     fitOrientation();
 }
@@ -280,16 +278,6 @@ QtOrvSlider *QtOrvSpinBox::slider() const
 QToolButton *QtOrvSpinBox::toolButton() const
 {
     return d->button;
-}
-
-/** A click on the button while the slider is open closes it; it is not to open it again. */
-bool QtOrvSpinBox::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched == d->slider && event->type() == QEvent::MouseButtonPress) {
-        const QPoint place = d->button->mapFromGlobal(static_cast<QMouseEvent *>(event)->globalPos());
-        d->slider->setAttribute(Qt::WA_NoMouseReplay, d->button->rect().contains(place));
-    }
-    return QWidget::eventFilter(watched, event);
 }
 
 void QtOrvSpinBox::hideEvent(QHideEvent *event)

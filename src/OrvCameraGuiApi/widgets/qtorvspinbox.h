@@ -103,7 +103,6 @@ public:
     QtOrvSpinBoxVal64 *spinBox() const;
     QtOrvSlider *slider() const;
     QToolButton *toolButton() const;
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
 public Q_SLOTS:
     void setValue(int value);
