@@ -39,25 +39,16 @@ void apply(QtOrvSlider &slider, const Setting &setting)
 }
 
 const Setting settings[] = {
-    {Linear, 100, 0, 100, 1, false},
-    {Linear, 100, -50, 47, 10, true},
-    {Linear, 100, 3, 9, 100, true},
-    {Linear, 100, Smallest, Largest, Largest, true},
-    {Log10, 100, 0, 1000, 1, false},
-    {Log10, 100, -1000, 1003, 10, true},
-    {Log10, 1, 0, 50000, 7, false},
-    {Log10, 0.01, 0, 50000, 7, false},
-    {Log10, 1e12, 0, 50000, 7, true},
-    {Log10, 37.7, Smallest, Largest, 1 << 20, true},
-    {Log10, 100, 5, 5, 1, true},
-    {Log10, 1, 5, 6, 1, false},
-    {Log10, 1000, 0, 99, 10, true},
-    {Log10, 100, 0, 1000, 997, true},
-    {Sqrt, 100, 0, 10, 1, false},
-    {Sqrt, 100, -7, 1000, 30, true},
-    {Sqrt, 100, Smallest, Largest, 1, false},
-    {Sqrt, 100, 5, 6, 1, true},
-    {Sqrt, 100, 0, 2, 5, true},
+    {Linear, 100, 0, 100, 1, false},  {Linear, 100, -50, 47, 10, true},
+    {Linear, 100, 3, 9, 100, true},   {Linear, 100, Smallest, Largest, Largest, true},
+    {Log10, 100, 0, 1000, 1, false},  {Log10, 100, -1000, 1003, 10, true},
+    {Log10, 1, 0, 50000, 7, false},   {Log10, 0.01, 0, 50000, 7, false},
+    {Log10, 1e12, 0, 50000, 7, true}, {Log10, 37.7, Smallest, Largest, 1 << 20, true},
+    {Log10, 100, 5, 5, 1, true},      {Log10, 1, 5, 6, 1, false},
+    {Log10, 1000, 0, 99, 10, true},   {Log10, 100, 0, 1000, 997, true},
+    {Log10, 100, 0, 1000, 51, false}, {Sqrt, 100, 0, 10, 1, false},
+    {Sqrt, 100, -7, 1000, 30, true},  {Sqrt, 100, Smallest, Largest, 1, false},
+    {Sqrt, 100, 5, 6, 1, true},       {Sqrt, 100, 0, 2, 5, true},
     {Sqrt, 100, -3, -3, 5, false},
 };
 
@@ -246,6 +237,20 @@ private Q_SLOTS:
         QCOMPARE(recorder.values.mid(2), (QVector<int>{1000, 0}));
         slider.slider()->setValue(101); // a position that means nothing else; the last key has nothing to do with it
         QCOMPARE(recorder.values.size(), 4);
+    }
+
+    /** 51 has the position 179, which by itself stands for 52: 10^1.79 = 61.66. */
+    void aSteppedValueStaysUntilAnotherIsSet()
+    {
+        QtOrvSlider slider;
+        apply(slider, {Log10, 100, 0, 1000, 51, false});
+        QTest::keyClick(slider.slider(), Qt::Key_Up);
+        Recorder recorder(slider);
+        slider.setValue(51);
+        QCOMPARE(slider.value(), 51);
+        slider.setValue(52);
+        slider.setScaleType(Linear);
+        QCOMPARE(recorder.takeLog(), QStringLiteral("52"));
     }
 
     void settersTellOnceAndKeepTheValue()
