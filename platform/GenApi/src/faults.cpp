@@ -11,7 +11,7 @@ void failGetter(GenApi::INodeMap &map, const std::string &node, const std::strin
     const MapLock lock(impl);
     if (!impl.m_faults)
         impl.m_faults.emplace();
-    impl.m_faults->faults.push_back({node, getter, description.value_or(std::string())});
+    impl.m_faults->faults.push_back({node, getter, std::move(description).value_or(std::string())});
 }
 
 void clearFaults(GenApi::INodeMap &map)

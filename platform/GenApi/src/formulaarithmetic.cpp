@@ -165,7 +165,9 @@ int64_t IntArithmetic::roundTo(Value a, Value digits)
         return a;
     if (digits < -18)
         return 0;
-    const Value scale = power(10, -digits);
+    Value scale = 1;
+    for (; digits < 0; ++digits)
+        scale *= 10;
     const Value rest = a % scale;
     const Value away = rest * 2 >= scale ? 1 : rest * 2 <= -scale ? -1 : 0;
     return wrapped(bits(a / scale + away) * bits(scale));

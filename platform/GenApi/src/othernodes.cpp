@@ -36,10 +36,13 @@ EAccessMode CategoryNode::valueAccess() const
         const CategoryNode *const category = open.back();
         open.pop_back();
         for (const Node *feature : category->m_features) {
-            const auto inner = dynamic_cast<const CategoryNode *>(feature);
-            if (!inner && feature->accessMode() != NI)
-                return RO;
-            if (!inner || inner->m_searchMark == mark)
+            if (feature->interfaceType() != intfICategory) {
+                if (feature->accessMode() != NI)
+                    return RO;
+                continue;
+            }
+            const auto inner = static_cast<const CategoryNode *>(feature);
+            if (inner->m_searchMark == mark)
                 continue;
             inner->m_searchMark = mark;
             if (inner->isImplementedItself())

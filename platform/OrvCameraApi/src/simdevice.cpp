@@ -31,7 +31,7 @@ SimDevice::~SimDevice() = default;
 
 SimDevice *SimDevice::open(const SimDeviceInfo &info, OrvCamErr *err)
 {
-    const std::shared_ptr<Camera> camera = info.camera();
+    const std::shared_ptr<Camera> &camera = info.camera();
     const OrvCamErr reason = obstacle(*camera);
     tell(err, reason);
     if (reason != OrvCamErr_Ok)

@@ -13,7 +13,6 @@ namespace OrvSim {
 using OrvCameraApi::AddressRange;
 using OrvCameraApi::Camera;
 using OrvCameraApi::HostInterface;
-using OrvCameraApi::PortMonitor;
 using OrvCameraApi::World;
 
 namespace {
