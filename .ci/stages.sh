@@ -1,0 +1,53 @@
+# The stages of .ci/run, which sources this after common.sh. One build with debug information serves tests, consumers,
+# packages and documentation.
+# shellcheck shell=bash disable=SC2034,SC2154
+
+stages=(format tidy sanitizers threads genicam consumers packages test)
+declare -A about=(
+    [format]="sources are formatted, scripts are sound"
+    [tidy]="clang-tidy on src/ and platform/"
+    [sanitizers]="whole suite with address and undefined-behaviour sanitizers"
+    [threads]="tests labelled threads, with the thread sanitizer"
+    [genicam]="library against installed GenICam headers and libraries"
+    [consumers]="installed headers, examples by CMake and by pkg-config"
+    [packages]="Debian packages and archive"
+    [test]="release build and whole suite"
+)
+
+stage_format() {
+    install_packages clang-format shellcheck
+    git ls-files -z '*.cpp' '*.h' | xargs -0 -n 40 clang-format --dry-run --Werror
+    shellcheck -x run test .ci/run .ci/stages.sh .ci/common.sh .ci/consumers .ci/genicam-build .ci/genicam-prefix \
+        .ci/packages .ci/tidy benchmarks/run
+}
+
+stage_tidy() {
+    install_packages clang-tidy
+    build_preset release
+    .ci/tidy
+}
+
+stage_sanitizers() {
+    build_preset asan
+    ctest --preset asan
+}
+
+stage_threads() {
+    build_preset tsan orv-tests-threads
+    ctest --preset tsan -L threads
+}
+
+stage_genicam() { .ci/genicam-build; }
+
+stage_consumers() {
+    build_preset release
+    .ci/consumers
+}
+
+stage_packages() {
+    install_packages dpkg-dev file
+    build_preset release
+    .ci/packages
+}
+
+stage_test() { ./test; }
