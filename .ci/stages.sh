@@ -2,12 +2,13 @@
 # packages and documentation.
 # shellcheck shell=bash disable=SC2034,SC2154
 
-stages=(format tidy sanitizers threads genicam consumers packages test)
+stages=(format tidy sanitizers threads fuzz genicam consumers packages test)
 declare -A about=(
     [format]="sources are formatted, scripts are sound"
     [tidy]="clang-tidy on src/ and platform/"
     [sanitizers]="whole suite with address and undefined-behaviour sanitizers"
     [threads]="tests labelled threads, with the thread sanitizer"
+    [fuzz]="each fuzzer 30 s, the planted faults, what the corpora reach"
     [genicam]="library against installed GenICam headers and libraries"
     [consumers]="installed headers, examples by CMake and by pkg-config"
     [packages]="Debian packages and archive"
@@ -18,7 +19,7 @@ stage_format() {
     install_packages clang-format shellcheck
     git ls-files -z '*.cpp' '*.h' | xargs -0 -n 40 clang-format --dry-run --Werror
     shellcheck -x run test .ci/run .ci/stages.sh .ci/common.sh .ci/consumers .ci/genicam-build .ci/genicam-prefix \
-        .ci/packages .ci/tidy benchmarks/run
+        .ci/packages .ci/tidy .ci/fuzz benchmarks/run
 }
 
 stage_tidy() {
@@ -35,6 +36,13 @@ stage_sanitizers() {
 stage_threads() {
     build_preset tsan orv-tests-threads
     ctest --preset tsan -L threads
+}
+
+stage_fuzz() {
+    install_packages clang libclang-rt-14-dev llvm
+    .ci/fuzz 30
+    .ci/fuzz planted
+    .ci/fuzz coverage
 }
 
 stage_genicam() { .ci/genicam-build; }
