@@ -2,7 +2,7 @@
 # packages and documentation.
 # shellcheck shell=bash disable=SC2034,SC2154
 
-stages=(format tidy sanitizers threads fuzz genicam consumers packages test)
+stages=(format tidy sanitizers threads fuzz genicam consumers docs packages test)
 declare -A about=(
     [format]="sources are formatted, scripts are sound"
     [tidy]="clang-tidy on src/ and platform/"
@@ -11,6 +11,7 @@ declare -A about=(
     [fuzz]="each fuzzer 30 s, the planted faults, what the corpora reach"
     [genicam]="library against installed GenICam headers and libraries"
     [consumers]="installed headers, examples by CMake and by pkg-config"
+    [docs]="Doxygen, links, examples in the pages"
     [packages]="Debian packages and archive"
     [test]="release build and whole suite"
 )
@@ -19,7 +20,7 @@ stage_format() {
     install_packages clang-format shellcheck
     git ls-files -z '*.cpp' '*.h' | xargs -0 -n 40 clang-format --dry-run --Werror
     shellcheck -x run test .ci/run .ci/stages.sh .ci/common.sh .ci/consumers .ci/genicam-build .ci/genicam-prefix \
-        .ci/packages .ci/tidy .ci/fuzz benchmarks/run
+        .ci/packages .ci/docs .ci/tidy .ci/fuzz benchmarks/run
 }
 
 stage_tidy() {
@@ -50,6 +51,12 @@ stage_genicam() { .ci/genicam-build; }
 stage_consumers() {
     build_preset release
     .ci/consumers
+}
+
+stage_docs() {
+    install_packages doxygen graphviz
+    [ -d build/stage ] || stage_consumers
+    .ci/docs
 }
 
 stage_packages() {
