@@ -20,7 +20,7 @@ stage_format() {
     install_packages clang-format shellcheck
     git ls-files -z '*.cpp' '*.h' | xargs -0 -n 40 clang-format --dry-run --Werror
     shellcheck -x run test .ci/run .ci/stages.sh .ci/common.sh .ci/consumers .ci/genicam-build .ci/genicam-prefix \
-        .ci/packages .ci/docs .ci/tidy .ci/fuzz benchmarks/run
+        .ci/packages .ci/docs .ci/tidy .ci/fuzz .ci/bare-debian benchmarks/run
 }
 
 stage_tidy() {
