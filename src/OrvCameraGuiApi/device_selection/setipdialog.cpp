@@ -9,6 +9,7 @@ class SetIpDialogPrivate
 {
 public:
     void showAsInactive(const QPalette &palette);
+    void makeRoom();
     void showStatus(bool sameSubnet);
 
     Ui_SetIpDialog ui;
@@ -51,6 +52,15 @@ void SetIpDialogPrivate::showAsInactive(const QPalette &palette)
         edit->setPalette(inactive);
 }
 
+/** Lets the fields show every MAC address whole, which is the longest text that they get. */
+void SetIpDialogPrivate::makeRoom()
+{
+    for (QLineEdit *edit : {ui.nicMacEdit, ui.macEdit}) {
+        const int text = edit->fontMetrics().horizontalAdvance(QStringLiteral("DD:DD:DD:DD:DD:DD"));
+        edit->setMinimumWidth(text + edit->sizeHint().height());
+    }
+}
+
 void SetIpDialogPrivate::showStatus(bool sameSubnet)
 {
     QString text;
@@ -70,6 +80,7 @@ SetIpDialog::SetIpDialog(QWidget *parent)
 {
     d->ui.setupUi(this);
     d->showAsInactive(palette());
+    d->makeRoom();
     for (QLineEdit *edit : {d->ui.ipEdit, d->ui.netmaskEdit, d->ui.gatewayEdit})
         edit->setValidator(new IP4Validator(edit));
     for (QLineEdit *edit : {d->ui.ipEdit, d->ui.netmaskEdit})
