@@ -407,7 +407,7 @@ void OrvCamConfigMapper::unmapParam(OrvGenParam::Param *param, QWidget *widget)
 
 void OrvCamConfigMapper::unmapControl(const OrvCamConfigMapData &record)
 {
-    // A spin box that loses the focus commits what is being typed.
+    // A spin box may commit what is being typed when it loses the focus.
     const RefreshGuard guard(this);
     if (QButtonGroup *const group = groupOf(record)) {
         disconnectOwnSignals(group);
