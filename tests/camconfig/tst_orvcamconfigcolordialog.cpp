@@ -178,6 +178,7 @@ void OrvCamConfigColorDialogTest::isDisabledWhereTheCameraLacksFeatures()
     const Camera monochrome(SimTest::monochrome);
     QVERIFY(d.dialog.SetDevice(monochrome.device()));
     QVERIFY(controls().isEmpty());
+    QVERIFY(!part<QLabel>(d.dialog, "lblRedCoef")->isEnabled());
     QVERIFY(d.dialog.SetDevice(d.camera.device()));
     QCOMPARE(controls().size(), 7);
     QVERIFY(!d.dialog.SetDevice(nullptr));
