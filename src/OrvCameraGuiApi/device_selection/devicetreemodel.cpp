@@ -136,16 +136,15 @@ void DeviceTreeModel::getDevices(Interfaces &interfaces, Devices &devices) const
     interfaces.clear();
     devices.clear();
     OrvCam::System *const system = m_root->system();
-    forEachEntry(system ? system->GetInterfaceList(OrvCam::AllInterfaceTypes) : nullptr,
-                 [&](OrvCam::Interface *transport) {
-                     const QString id = QString::fromLatin1(transport->GetID());
-                     interfaces.push_back(transport);
-                     bool changed = false;
-                     transport->ReEnumerateDevices(&changed, searchTimeout);
-                     std::vector<OrvCam::DeviceInfo *> &found = devices[id];
-                     forEachEntry(transport->GetDeviceInfoList(),
-                                  [&](OrvCam::DeviceInfo *device) { found.push_back(device); });
-                 });
+    forEachEntry(
+        system ? system->GetInterfaceList(OrvCam::AllInterfaceTypes) : nullptr, [&](OrvCam::Interface *transport) {
+            const QString id = QString::fromLatin1(transport->GetID());
+            interfaces.push_back(transport);
+            bool changed = false;
+            transport->ReEnumerateDevices(&changed, searchTimeout);
+            std::vector<OrvCam::DeviceInfo *> &found = devices[id];
+            forEachEntry(transport->GetDeviceInfoList(), [&](OrvCam::DeviceInfo *device) { found.push_back(device); });
+        });
 }
 
 DeviceTreeModel::State DeviceTreeModel::enumerate() const

@@ -90,7 +90,10 @@ public:
 
     /** What the model shows now. */
     const Interfaces &interfaces() const { return m_current.interfaces; }
-    const std::vector<OrvCam::DeviceInfo *> &devicesOn(const QString &interfaceId) { return m_current.devices[interfaceId]; }
+    const std::vector<OrvCam::DeviceInfo *> &devicesOn(const QString &interfaceId)
+    {
+        return m_current.devices[interfaceId];
+    }
 
 private:
     friend class DeviceTreeNode;
