@@ -2,6 +2,9 @@
 
 #include <OrvCameraGuiApi/device_selection/devicetreenode.h>
 
+#include <algorithm>
+#include <utility>
+
 namespace {
 
 constexpr std::uint32_t searchTimeout = 200;
@@ -23,6 +26,14 @@ void forEachEntry(List *list, Visit visit)
             visit(entry);
     }
     list->Release();
+}
+
+/** Whether a text in UTF-8 is that one. */
+bool isText(const char *utf8, const QString &text)
+{
+    const QLatin1String bytes(utf8);
+    const auto isAscii = [](char byte) { return static_cast<signed char>(byte) >= 0; };
+    return std::all_of(bytes.begin(), bytes.end(), isAscii) ? bytes == text : QString::fromUtf8(utf8) == text;
 }
 
 } // namespace
@@ -111,16 +122,17 @@ QString DeviceTreeModel::getItemID(const QModelIndex &index) const
     return {};
 }
 
+/** Past the indexes and values of getItemID(): after every change all items may have to be looked at. */
 QModelIndex DeviceTreeModel::getItemIdx(const QString &id) const
 {
-    for (int row = 0; row < rowCount(); ++row) {
-        const QModelIndex transport = index(row, 0);
-        if (getItemID(transport) == id)
-            return transport;
-        for (int below = 0; below < rowCount(transport); ++below) {
-            const QModelIndex device = index(below, 0, transport);
-            if (getItemID(device) == id)
-                return device;
+    for (int row = 0; row < m_root->childCount(); ++row) {
+        auto *const transport = static_cast<InterfaceNode *>(m_root->child(row));
+        if (isText(transport->object()->GetID(), id))
+            return index(transport);
+        for (int below = 0; below < transport->childCount(); ++below) {
+            auto *const device = static_cast<DeviceInfoNode *>(transport->child(below));
+            if (isText(device->object()->GetID(), id))
+                return index(device);
         }
     }
     return {};
@@ -188,15 +200,15 @@ void DeviceTreeModel::updateModel()
         const std::lock_guard<std::mutex> lock(m_mutex);
         found = m_found;
     }
-    show(found);
+    show(std::move(found));
 }
 
-void DeviceTreeModel::show(const State &state)
+void DeviceTreeModel::show(State &&state)
 {
     beginResetModel();
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        m_current = state;
+        m_current = std::move(state);
     }
     m_root = std::make_unique<RootNode>(*this, m_root->system());
     endResetModel();

@@ -108,7 +108,7 @@ private:
     };
 
     State enumerate() const;
-    void show(const State &state);
+    void show(State &&state);
     DeviceTreeNode *nodeOf(const QModelIndex &index) const;
 
     std::unique_ptr<RootNode> m_root;

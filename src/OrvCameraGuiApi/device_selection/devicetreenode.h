@@ -77,6 +77,8 @@ public:
     bool canFetchMore() const override { return childCount() == 0; }
     void fetchMore() override;
 
+    OrvCam::Interface *object() const { return m_interface; }
+
 private:
     OrvCam::Interface *const m_interface;
 };
@@ -90,6 +92,8 @@ public:
     bool hasChildren() const override { return false; }
     bool canFetchMore() const override { return false; }
     void fetchMore() override { }
+
+    OrvCam::DeviceInfo *object() const { return m_device; }
 
 private:
     OrvCam::DeviceInfo *const m_device;
