@@ -59,21 +59,25 @@ int saveScreenshot(QWidget &window, const QString &path)
     return print(path + QLatin1Char('\n'));
 }
 
-/** The dialogs into files with their names: the one that asks for a camera, and the one for a camera's IP address. */
+/**
+ * The dialogs into files with their names: the one for a camera's IP address, and then the one that asks for a camera,
+ * in which that camera is current.
+ */
 int saveDialogs(const QDir &directory)
 {
     const std::shared_ptr<OrvCam::System> system = cameraSystem();
     CameraDialog dialog(system.get());
-    int status = saveScreenshot(dialog, directory.filePath(QStringLiteral("selectcamera.png")));
+    dialog.show(); // the panes divide the width that they have
+    QCoreApplication::processEvents();
+    int status = 0;
     QTimer::singleShot(0, &dialog, [&] {
-        QWidget *const opened = QApplication::activeModalWidget();
-        if (opened && status == 0)
+        if (QWidget *const opened = QApplication::activeModalWidget()) {
             status = saveScreenshot(*opened, directory.filePath(QStringLiteral("setip.png")));
-        if (opened)
             opened->close();
+        }
     });
     dialog.setFirstAddress();
-    return status;
+    return status ? status : saveScreenshot(dialog, directory.filePath(QStringLiteral("selectcamera.png")));
 }
 
 /** Every page and dialog into a file with its name. */

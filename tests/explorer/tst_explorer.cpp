@@ -116,7 +116,7 @@ void ExplorerTest::drawsItsWindow()
     const QTemporaryDir target;
     const QString dir = target.filePath(QStringLiteral("made/on/demand"));
     Result result = explore(arguments + QStringList{QStringLiteral("--screenshot"), dir});
-    result.err.remove(QStringLiteral("This plugin does not support propagateSizeHints()\n")); // Qt, of a shown dialog
+    result.err.remove(QStringLiteral("This plugin does not support propagateSizeHints()\n")); // of shown dialogs
     QCOMPARE(result.err, QString());
     QCOMPARE(result.status, 0);
 
