@@ -1,14 +1,14 @@
 #include "foreignwindow.h"
 #include "orvtest.h"
+#include "simtest.h"
+#include "whenopen.h"
 
-#include <OrvCameraApi/simulation.h>
 #include <OrvCameraGuiApi/device_selection/orvcameraselectordialog.h>
 #include <OrvCameraGuiApi/device_selection/selectcamera.h>
 
 #include <QDialogButtonBox>
 #include <QPushButton>
 #include <QTreeView>
-#include <QWindow>
 
 #include <functional>
 #include <memory>
@@ -17,24 +17,9 @@ using OrvGui::OrvCameraSelectorDialog;
 
 namespace {
 
-struct Releaser
-{
-    void operator()(OrvCam::System *system) const { system->Release(); }
-};
-
-/** Does something with the next selector that is open, as soon as it is. Works before there is an application object.
- */
 void whenOpen(const std::function<void(OrvCameraSelectorDialog &)> &action)
 {
-    static QObject context;
-    const auto attempt = [action] {
-        auto *const dialog = qobject_cast<OrvCameraSelectorDialog *>(QApplication::activeModalWidget());
-        if (dialog && dialog->windowHandle()->isExposed())
-            action(*dialog);
-        else
-            whenOpen(action);
-    };
-    QMetaObject::invokeMethod(&context, attempt, Qt::QueuedConnection);
+    OrvTest::whenOpen(action);
 }
 
 void cancel(OrvCameraSelectorDialog &dialog)
@@ -75,14 +60,14 @@ private Q_SLOTS:
     void goesWithItsParent();
 
 private:
-    std::unique_ptr<OrvCam::System, Releaser> m_system;
+    SimTest::Held<OrvCam::System> m_system;
 };
 
 void TestSelectCamera::init()
 {
     TestCase::init();
     OrvSim::reset();
-    m_system.reset(OrvCam_GetSystem());
+    m_system = SimTest::getSystem();
 }
 
 void TestSelectCamera::cleanup()

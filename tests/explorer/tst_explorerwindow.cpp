@@ -2,6 +2,7 @@
 #include "camerasource.h"
 #include "explorerwindow.h"
 #include "orvtest.h"
+#include "whenopen.h"
 
 #include <OrvCameraApi/simulation.h>
 #include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
@@ -13,10 +14,11 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <QTreeView>
 
 #include <functional>
+
+using OrvTest::whenOpen;
 
 Q_DECLARE_METATYPE(std::function<void()>)
 
@@ -32,19 +34,6 @@ QTreeView *treeOf(const ExplorerWindow &window)
 QTreeView *treeOf(const CameraDialog &dialog)
 {
     return dialog.findChild<QTreeView *>(QStringLiteral("deviceTreeView"));
-}
-
-/** Does something with the next modal window of that class, in the event loop that it runs. */
-template <typename Window>
-void whenOpen(const std::function<void(Window &)> &action)
-{
-    const auto attempt = [action] {
-        if (auto *const window = qobject_cast<Window *>(QApplication::activeModalWidget()))
-            action(*window);
-        else
-            whenOpen<Window>(action);
-    };
-    QTimer::singleShot(0, qApp, attempt);
 }
 
 void doubleClick(const CameraDialog &dialog, const char *device)

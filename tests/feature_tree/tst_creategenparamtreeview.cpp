@@ -1,6 +1,7 @@
 #include "featurecamera.h"
 #include "foreignwindow.h"
 #include "orvtest.h"
+#include "simtest.h"
 
 #include <OrvCameraGuiApi/camera_api/orvcam.h>
 #include <OrvCameraGuiApi/camera_api/orvgenparam.h>
@@ -13,18 +14,6 @@
 #include <utility>
 
 namespace {
-
-struct Releaser
-{
-    template <typename T>
-    void operator()(T *object) const
-    {
-        object->Release();
-    }
-};
-
-template <typename T>
-using Released = std::unique_ptr<T, Releaser>;
 
 struct Destroyer
 {
@@ -64,8 +53,8 @@ void TestCreateGenParamTreeView::makesTheApplicationItNeeds()
 
 void TestCreateGenParamTreeView::createsWindows()
 {
-    const Released<OrvCam::System> system(OrvCam_GetSystem());
-    const Released<OrvCam::InterfaceList> interfaces(system->GetInterfaceList(OrvCam::AllInterfaceTypes));
+    const SimTest::Held<OrvCam::System> system = SimTest::getSystem();
+    const SimTest::Held<OrvCam::InterfaceList> interfaces(system->GetInterfaceList(OrvCam::AllInterfaceTypes));
     OrvGenParam::Array *const params = interfaces->GetFirst()->GetParameters(nullptr);
     QVERIFY(params);
     const std::pair<View, QString> views[] = {
