@@ -29,6 +29,7 @@ void forEachEntry(List *list, Visit visit)
 
 DeviceTreeModel::DeviceTreeModel(OrvCam::System *system, QObject *parent)
     : QAbstractItemModel(parent)
+    , m_system(system)
     , m_root(std::make_unique<RootNode>(*this, system))
 {
     registerMetaTypes();
@@ -135,9 +136,8 @@ void DeviceTreeModel::getDevices(Interfaces &interfaces, Devices &devices) const
 {
     interfaces.clear();
     devices.clear();
-    OrvCam::System *const system = m_root->system();
     forEachEntry(
-        system ? system->GetInterfaceList(OrvCam::AllInterfaceTypes) : nullptr, [&](OrvCam::Interface *transport) {
+        m_system ? m_system->GetInterfaceList(OrvCam::AllInterfaceTypes) : nullptr, [&](OrvCam::Interface *transport) {
             const QString id = QString::fromLatin1(transport->GetID());
             interfaces.push_back(transport);
             bool changed = false;
@@ -198,6 +198,6 @@ void DeviceTreeModel::show(const State &state)
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_current = state;
     }
-    m_root = std::make_unique<RootNode>(*this, m_root->system());
+    m_root = std::make_unique<RootNode>(*this, m_system);
     endResetModel();
 }
