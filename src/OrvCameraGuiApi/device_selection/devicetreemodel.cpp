@@ -40,6 +40,7 @@ bool isText(const char *utf8, const QString &text)
 
 DeviceTreeModel::DeviceTreeModel(OrvCam::System *system, QObject *parent)
     : QAbstractItemModel(parent)
+    , m_system(system)
     , m_root(std::make_unique<RootNode>(*this, system))
 {
     registerMetaTypes();
@@ -147,9 +148,8 @@ void DeviceTreeModel::getDevices(Interfaces &interfaces, Devices &devices) const
 {
     interfaces.clear();
     devices.clear();
-    OrvCam::System *const system = m_root->system();
     forEachEntry(
-        system ? system->GetInterfaceList(OrvCam::AllInterfaceTypes) : nullptr, [&](OrvCam::Interface *transport) {
+        m_system ? m_system->GetInterfaceList(OrvCam::AllInterfaceTypes) : nullptr, [&](OrvCam::Interface *transport) {
             const QString id = QString::fromLatin1(transport->GetID());
             interfaces.push_back(transport);
             bool changed = false;
@@ -210,6 +210,6 @@ void DeviceTreeModel::show(State &&state)
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_current = std::move(state);
     }
-    m_root = std::make_unique<RootNode>(*this, m_root->system());
+    m_root = std::make_unique<RootNode>(*this, m_system);
     endResetModel();
 }

@@ -111,6 +111,7 @@ private:
     void show(State &&state);
     DeviceTreeNode *nodeOf(const QModelIndex &index) const;
 
+    OrvCam::System *const m_system; ///< for the other thread, which must not ask the root: that is replaced
     std::unique_ptr<RootNode> m_root;
     State m_current; ///< written by the GUI thread with the lock, so that it may read without
     State m_found; ///< by the last checkNew(); with the lock
