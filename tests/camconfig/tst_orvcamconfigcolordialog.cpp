@@ -178,6 +178,7 @@ void OrvCamConfigColorDialogTest::isDisabledWhereTheCameraLacksFeatures()
     const Camera monochrome(SimTest::monochrome);
     QVERIFY(d.dialog.SetDevice(monochrome.device()));
     QVERIFY(controls().isEmpty());
+    QVERIFY(!part<QLabel>(d.dialog, "lblRedCoef")->isEnabled());
     QVERIFY(d.dialog.SetDevice(d.camera.device()));
     QCOMPARE(controls().size(), 7);
     QVERIFY(!d.dialog.SetDevice(nullptr));
@@ -204,18 +205,24 @@ void OrvCamConfigColorDialogTest::tellsRefusedWrites()
 
 void OrvCamConfigColorDialogTest::outlivesItsCamera()
 {
-    ColorDialog d;
-    QVERIFY(show(d.dialog));
+    auto d = std::make_unique<ColorDialog>();
+    QVERIFY(show(d->dialog));
+    type(d->red->spinBox(), "700");
     OrvSim::unplug(SimTest::twoFrame);
-    enter(d.red->spinBox(), "700");
-    const QPointer<QMessageBox> message = shownMessage();
-    d.dialog.SetDevice(nullptr); // while the message is on the screen
-    QVERIFY(!d.red->isEnabled());
-    if (message)
-        QVERIFY(takeMessage().contains(QLatin1String("'RedCoefficient'")));
+    QTest::keyClick(d->red->spinBox(), Qt::Key_Return); // too late
     OrvSim::replug(SimTest::twoFrame);
-    QVERIFY(d.dialog.SetDevice(d.camera.device()));
-    QVERIFY(d.red->isEnabled());
+    QCOMPARE(d->camera.value("RedCoefficient"), QStringLiteral("380"));
+
+    QVERIFY(d->camera.refuse("GreenCoefficient"));
+    enter(d->green->spinBox(), "700");
+    QVERIFY(!d->dialog.SetDevice(nullptr) && !d->green->isEnabled());
+    QCOMPARE(takeMessage(), refusal("GreenCoefficient", "GenICam: Generic error"));
+    QVERIFY(d->dialog.SetDevice(d->camera.device()) && d->green->isEnabled());
+    enter(d->green->spinBox(), "700");
+    const QPointer<QMessageBox> message = shownMessage();
+    QVERIFY(message);
+    d.reset();
+    QVERIFY(!message);
 }
 
 void OrvCamConfigColorDialogTest::hearsOtherThreads()

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void formatsFollowTheDepth();
     void tellsRefusedWrites();
     void hidesTheCameraLinkGroup();
+    void controlsAreDisabledWhereTheCameraLacksFeatures();
     void isDisabledWithoutADevice();
     void keepsTheRulesOfFeatureDialogs();
     void cutsNothing();
@@ -183,6 +184,23 @@ void OrvCamConfigOutputDialogTest::hidesTheCameraLinkGroup()
     QVERIFY(!group->isVisible());
     QVERIFY(dialog.SetDevice(camera.device()));
     QVERIFY(!group->isVisible());
+}
+
+void OrvCamConfigOutputDialogTest::controlsAreDisabledWhereTheCameraLacksFeatures()
+{
+    const char *const name = plugInBareCamera();
+    QVERIFY(name);
+    const Camera camera(name);
+    OrvCamConfigOutputDialog dialog(nullptr);
+    QVERIFY(dialog.SetDevice(camera.device()));
+    QVERIFY(dialog.isEnabled());
+    const auto widgets = dialog.findChildren<QWidget *>();
+    for (const QWidget *const widget : widgets) {
+        if (widget->inherits("QComboBox") || widget->inherits("QtOrvSpinBox") || widget->inherits("QCheckBox"))
+            QVERIFY2(!widget->isEnabled(), qPrintable(widget->objectName()));
+    }
+    checkNothingIsCut(dialog);
+    QCOMPARE(OrvSim::liveObjects().sinks, std::size_t(0));
 }
 
 void OrvCamConfigOutputDialogTest::isDisabledWithoutADevice()
