@@ -15,6 +15,17 @@
 #include <limits>
 #include <utility>
 
+namespace {
+
+const double pulseClock = 1'000'000; ///< Hz: the period counts microseconds
+
+QString frequencyText(double hertz)
+{
+    return QString::number(hertz, 'f', 6);
+}
+
+} // namespace
+
 namespace OrvGui {
 
 class OrvCamConfigPulseDialogPrivate
@@ -68,6 +79,9 @@ void OrvCamConfigPulseDialogPrivate::build()
         spinBox->slider()->setScaleType(QtOrvSlider::Log10);
     modes.addButton(ui.radioBtnContinious);
     modes.addButton(ui.radioBtnSend);
+    const QFontMetrics metrics = ui.lineEditFreq->fontMetrics();
+    ui.lineEditFreq->setMinimumWidth(metrics.horizontalAdvance(frequencyText(pulseClock))
+                                     + 3 * metrics.averageCharWidth());
     enableShortcut = ui.pushBtnPulseEnable->shortcut();
     setButtonState(false);
     isBuilt = true;
@@ -82,7 +96,7 @@ void OrvCamConfigPulseDialogPrivate::bind()
         {"PulseGenPeriod", ui.spBoxPeriod}, {"PulseGenWidth", ui.spBoxWidth}, {"PulseGenNumPulses", ui.spBoxNumPulses}};
     for (const auto &[feature, spinBox] : numbers) {
         if (!mapper.mapIntParam(camera.integer(feature), spinBox))
-            spinBox->setRange(0, 0);
+            spinBox->setValue(spinBox->minimum());
     }
     mapper.mapEnumParam(camera.enumeration("PulseGenMode"), &modes);
     if (!mapper.mapBooleanParam(camera.boolean("PulseGenEnable"), ui.pushBtnPulseEnable))
@@ -100,15 +114,16 @@ void OrvCamConfigPulseDialogPrivate::connectControls()
     QObject::connect(ui.pushBtnPulseEnable, &QPushButton::toggled, q, [this](bool on) { setButtonState(on); });
 }
 
-/** The times count as microseconds, intentionally whatever the granularity. */
+/** Intentionally in microseconds whatever the granularity. */
 void OrvCamConfigPulseDialogPrivate::updateDelayAndFrequency()
 {
     using Limits = std::numeric_limits<std::int32_t>;
     const std::int64_t period = ui.spBoxPeriod->value();
     const std::int64_t delay = period - ui.spBoxWidth->value();
     ui.lineEditDelay->setText(QString::number(std::clamp<std::int64_t>(delay, Limits::min(), Limits::max())));
-    const double frequency = period == 0 ? 0 : 1'000'000 / double(period);
-    ui.lineEditFreq->setText(QString::number(frequency, 'f', 6));
+    const double frequency = period == 0 ? 0 : pulseClock / double(period);
+    ui.lineEditFreq->setText(frequencyText(frequency));
+    ui.lineEditFreq->home(false);
 }
 
 void OrvCamConfigPulseDialogPrivate::setButtonState(bool on)

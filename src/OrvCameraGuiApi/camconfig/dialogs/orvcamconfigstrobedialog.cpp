@@ -3,6 +3,7 @@
 #include <OrvCameraGuiApi/camconfig/dialogs/dialogparts.h>
 #include <OrvCameraGuiApi/camconfig/dialogs/featuredialogcamera.h>
 #include <OrvCameraGuiApi/widgets/qtorvslider.h>
+#include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
 
 #include "ui_orvcamconfigstrobedialog.h"
 
@@ -52,6 +53,7 @@ public:
     void initComboBoxes();
     void initReference(const char *feature, QComboBox *comboBox);
     void initSliders();
+    void alignSliders();
     void setImageState();
     void show(const Picture &picture);
     void OnParameterUpdate(OrvGenParam::Param *param) override;
@@ -72,6 +74,7 @@ bool OrvCamConfigStrobeDialogPrivate::init(OrvCam::Device *device)
         return false;
     initComboBoxes();
     initSliders();
+    alignSliders();
     return true;
 }
 
@@ -80,6 +83,7 @@ void OrvCamConfigStrobeDialogPrivate::build()
     ui.setupUi(q);
     FeatureDialogCamera::setUpDialog(q);
     initCaptions();
+    alignSliders();
     show(pictures[true][true]);
     isBuilt = true;
 }
@@ -90,12 +94,6 @@ void OrvCamConfigStrobeDialogPrivate::initCaptions()
         delay->setLeftLabelText(OrvCamConfigStrobeDialog::tr("Delay [%1s]:").arg(microSign));
     for (QtOrvSliderSpinBox *const width : {ui.spBoxStrobe1Width, ui.spBoxStrobe2Width})
         width->setLeftLabelText(OrvCamConfigStrobeDialog::tr("Width [%1s]:").arg(microSign));
-    // The sliders begin in line.
-    const int widest = std::max(ui.spBoxStrobe1Delay->leftLabel()->sizeHint().width(),
-                                ui.spBoxStrobe1Width->leftLabel()->sizeHint().width());
-    for (QtOrvSliderSpinBox *const spinBox :
-         {ui.spBoxStrobe1Delay, ui.spBoxStrobe1Width, ui.spBoxStrobe2Delay, ui.spBoxStrobe2Width})
-        spinBox->leftLabel()->setMinimumWidth(widest);
 }
 
 void OrvCamConfigStrobeDialogPrivate::initComboBoxes()
@@ -130,7 +128,24 @@ void OrvCamConfigStrobeDialogPrivate::initSliders()
     for (const auto &[feature, spinBox] : bindings) {
         spinBox->slider()->setScaleType(QtOrvSlider::Log10);
         if (!camera.mapper.mapIntParam(camera.integer(feature), spinBox, nullptr))
-            spinBox->setRange(0, 0);
+            spinBox->setValue(spinBox->minimum());
+    }
+}
+
+/** One above the other they begin and end alike, whatever the caption and however large the numbers. */
+void OrvCamConfigStrobeDialogPrivate::alignSliders()
+{
+    QtOrvSliderSpinBox *const all[] = {ui.spBoxStrobe1Delay, ui.spBoxStrobe1Width, ui.spBoxStrobe2Delay,
+                                       ui.spBoxStrobe2Width};
+    int label = 0;
+    int number = 0;
+    for (const QtOrvSliderSpinBox *const spinBox : all) {
+        label = std::max(label, spinBox->leftLabel()->sizeHint().width());
+        number = std::max(number, spinBox->spinBox()->sizeHint().width());
+    }
+    for (QtOrvSliderSpinBox *const spinBox : all) {
+        spinBox->leftLabel()->setMinimumWidth(label);
+        spinBox->spinBox()->setMinimumWidth(number);
     }
 }
 
