@@ -49,6 +49,7 @@ public:
     QButtonGroup modes;
     QKeySequence enableShortcut; ///< which a new text takes from the button
     bool isBuilt = false;
+    QScopedPointer<QObject> context; ///< of what is connected while a device is shown, also to what is not bound
     FeatureDialogCamera camera; ///< the last member: lets go before the others are gone
 };
 
@@ -57,6 +58,7 @@ bool OrvCamConfigPulseDialogPrivate::init(OrvCam::Device *device)
     if (!isBuilt)
         build();
     const bool hasParameters = camera.setDevice(device);
+    context.reset(new QObject);
     q->setEnabled(hasParameters);
     if (!hasParameters)
         return false;
@@ -106,12 +108,11 @@ void OrvCamConfigPulseDialogPrivate::bind()
 void OrvCamConfigPulseDialogPrivate::connectControls()
 {
     for (QtOrvSpinBox *const spinBox : {ui.spBoxPeriod, ui.spBoxWidth}) {
-        QObject::disconnect(spinBox, nullptr, q, nullptr); // where nothing is bound the former connection stays
-        QObject::connect(spinBox, QOverload<int>::of(&QtOrvSpinBox::valueChanged), q,
+        QObject::connect(spinBox, QOverload<int>::of(&QtOrvSpinBox::valueChanged), context.data(),
                          [this] { updateDelayAndFrequency(); });
     }
-    QObject::disconnect(ui.pushBtnPulseEnable, nullptr, q, nullptr);
-    QObject::connect(ui.pushBtnPulseEnable, &QPushButton::toggled, q, [this](bool on) { setButtonState(on); });
+    QObject::connect(ui.pushBtnPulseEnable, &QPushButton::toggled, context.data(),
+                     [this](bool on) { setButtonState(on); });
 }
 
 /** Intentionally in microseconds whatever the granularity. */

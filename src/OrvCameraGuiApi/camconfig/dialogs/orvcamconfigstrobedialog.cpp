@@ -61,6 +61,7 @@ public:
     OrvCamConfigStrobeDialog *const q;
     Ui_OrvCamConfigStrobeDialog ui;
     bool isBuilt = false;
+    QScopedPointer<QObject> context; ///< of what is connected while a device is shown, also to what is not bound
     FeatureDialogCamera camera; ///< the last member: lets go before the others are gone
 };
 
@@ -69,6 +70,7 @@ bool OrvCamConfigStrobeDialogPrivate::init(OrvCam::Device *device)
     if (!isBuilt)
         build();
     const bool hasParameters = camera.setDevice(device);
+    context.reset(new QObject);
     q->setEnabled(hasParameters);
     if (!hasParameters)
         return false;
@@ -115,8 +117,7 @@ void OrvCamConfigStrobeDialogPrivate::initComboBoxes()
 void OrvCamConfigStrobeDialogPrivate::initReference(const char *feature, QComboBox *comboBox)
 {
     camera.listenBeforeMapper(camera.enumeration(feature), this);
-    QObject::disconnect(comboBox, nullptr, q, nullptr); // where nothing is bound the former connection stays
-    QObject::connect(comboBox, &QComboBox::currentTextChanged, q, [this] { setImageState(); });
+    QObject::connect(comboBox, &QComboBox::currentTextChanged, context.data(), [this] { setImageState(); });
 }
 
 void OrvCamConfigStrobeDialogPrivate::initSliders()

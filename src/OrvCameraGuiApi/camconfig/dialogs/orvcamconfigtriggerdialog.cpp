@@ -30,6 +30,7 @@ public:
     OrvCamConfigTriggerDialog *const q;
     Ui_OrvCamConfigTriggerDialog ui;
     bool isBuilt = false;
+    QScopedPointer<QObject> context; ///< of what is connected while a device is shown, also to what is not bound
     FeatureDialogCamera camera; ///< the last member: lets go before the others are gone
 };
 
@@ -38,6 +39,7 @@ bool OrvCamConfigTriggerDialogPrivate::init(OrvCam::Device *device)
     if (!isBuilt)
         build();
     const bool hasParameters = camera.setDevice(device);
+    context.reset(new QObject);
     q->setEnabled(hasParameters);
     if (!hasParameters)
         return false;
@@ -61,8 +63,7 @@ void OrvCamConfigTriggerDialogPrivate::initCheckBox()
     if (!camera.mapper.mapEnumParam(param, ui.chBoxEnable))
         ui.chBoxEnable->setChecked(false);
     camera.listenBeforeMapper(param, this);
-    QObject::disconnect(ui.chBoxEnable, nullptr, q, nullptr); // where nothing is bound the former connection stays
-    QObject::connect(ui.chBoxEnable, &QCheckBox::stateChanged, q, [this] { applyEnableRule(); });
+    QObject::connect(ui.chBoxEnable, &QCheckBox::stateChanged, context.data(), [this] { applyEnableRule(); });
 }
 
 void OrvCamConfigTriggerDialogPrivate::initComboBoxes()
@@ -76,8 +77,7 @@ void OrvCamConfigTriggerDialogPrivate::initComboBoxes()
             comboBox->clear();
         camera.listenBeforeMapper(param, this);
     }
-    QObject::disconnect(ui.cmBoxSource, nullptr, q, nullptr);
-    QObject::connect(ui.cmBoxSource, QOverload<int>::of(&QComboBox::currentIndexChanged), q,
+    QObject::connect(ui.cmBoxSource, QOverload<int>::of(&QComboBox::currentIndexChanged), context.data(),
                      [this] { applySoftwareRule(); });
 }
 
