@@ -49,7 +49,6 @@ public:
     QButtonGroup modes;
     QKeySequence enableShortcut; ///< which a new text takes from the button
     bool isBuilt = false;
-    QScopedPointer<QObject> context; ///< of what is connected while a device is shown, also to what is not bound
     FeatureDialogCamera camera; ///< the last member: lets go before the others are gone
 };
 
@@ -58,7 +57,6 @@ bool OrvCamConfigPulseDialogPrivate::init(OrvCam::Device *device)
     if (!isBuilt)
         build();
     const bool hasParameters = camera.setDevice(device);
-    context.reset(new QObject);
     q->setEnabled(hasParameters);
     if (!hasParameters)
         return false;
@@ -108,10 +106,10 @@ void OrvCamConfigPulseDialogPrivate::bind()
 void OrvCamConfigPulseDialogPrivate::connectControls()
 {
     for (QtOrvSpinBox *const spinBox : {ui.spBoxPeriod, ui.spBoxWidth}) {
-        QObject::connect(spinBox, QOverload<int>::of(&QtOrvSpinBox::valueChanged), context.data(),
+        QObject::connect(spinBox, QOverload<int>::of(&QtOrvSpinBox::valueChanged), camera.context(),
                          [this] { updateDelayAndFrequency(); });
     }
-    QObject::connect(ui.pushBtnPulseEnable, &QPushButton::toggled, context.data(),
+    QObject::connect(ui.pushBtnPulseEnable, &QPushButton::toggled, camera.context(),
                      [this](bool on) { setButtonState(on); });
 }
 

@@ -61,7 +61,6 @@ public:
     OrvCamConfigStrobeDialog *const q;
     Ui_OrvCamConfigStrobeDialog ui;
     bool isBuilt = false;
-    QScopedPointer<QObject> context; ///< of what is connected while a device is shown, also to what is not bound
     FeatureDialogCamera camera; ///< the last member: lets go before the others are gone
 };
 
@@ -70,7 +69,6 @@ bool OrvCamConfigStrobeDialogPrivate::init(OrvCam::Device *device)
     if (!isBuilt)
         build();
     const bool hasParameters = camera.setDevice(device);
-    context.reset(new QObject);
     q->setEnabled(hasParameters);
     if (!hasParameters)
         return false;
@@ -117,7 +115,7 @@ void OrvCamConfigStrobeDialogPrivate::initComboBoxes()
 void OrvCamConfigStrobeDialogPrivate::initReference(const char *feature, QComboBox *comboBox)
 {
     camera.listenBeforeMapper(camera.enumeration(feature), this);
-    QObject::connect(comboBox, &QComboBox::currentTextChanged, context.data(), [this] { setImageState(); });
+    QObject::connect(comboBox, &QComboBox::currentTextChanged, camera.context(), [this] { setImageState(); });
 }
 
 void OrvCamConfigStrobeDialogPrivate::initSliders()

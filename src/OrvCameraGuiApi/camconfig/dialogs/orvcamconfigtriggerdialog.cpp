@@ -30,7 +30,6 @@ public:
     OrvCamConfigTriggerDialog *const q;
     Ui_OrvCamConfigTriggerDialog ui;
     bool isBuilt = false;
-    QScopedPointer<QObject> context; ///< of what is connected while a device is shown, also to what is not bound
     FeatureDialogCamera camera; ///< the last member: lets go before the others are gone
 };
 
@@ -39,7 +38,6 @@ bool OrvCamConfigTriggerDialogPrivate::init(OrvCam::Device *device)
     if (!isBuilt)
         build();
     const bool hasParameters = camera.setDevice(device);
-    context.reset(new QObject);
     q->setEnabled(hasParameters);
     if (!hasParameters)
         return false;
@@ -63,7 +61,7 @@ void OrvCamConfigTriggerDialogPrivate::initCheckBox()
     if (!camera.mapper.mapEnumParam(param, ui.chBoxEnable))
         ui.chBoxEnable->setChecked(false);
     camera.listenBeforeMapper(param, this);
-    QObject::connect(ui.chBoxEnable, &QCheckBox::stateChanged, context.data(), [this] { applyEnableRule(); });
+    QObject::connect(ui.chBoxEnable, &QCheckBox::stateChanged, camera.context(), [this] { applyEnableRule(); });
 }
 
 void OrvCamConfigTriggerDialogPrivate::initComboBoxes()
@@ -77,7 +75,7 @@ void OrvCamConfigTriggerDialogPrivate::initComboBoxes()
             comboBox->clear();
         camera.listenBeforeMapper(param, this);
     }
-    QObject::connect(ui.cmBoxSource, QOverload<int>::of(&QComboBox::currentIndexChanged), context.data(),
+    QObject::connect(ui.cmBoxSource, QOverload<int>::of(&QComboBox::currentIndexChanged), camera.context(),
                      [this] { applySoftwareRule(); });
 }
 
