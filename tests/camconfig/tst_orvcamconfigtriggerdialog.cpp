@@ -24,7 +24,6 @@ private Q_SLOTS:
     void nothingIsLeftOfTheFormerCamera();
     void survivesTheCameraWhileEdited();
     void keepsTheRulesOfFeatureDialogs();
-    void cutsNothing();
 };
 
 namespace {
@@ -59,28 +58,16 @@ void OrvCamConfigTriggerDialogTest::init()
 
 void OrvCamConfigTriggerDialogTest::bindsBothWays_data()
 {
-    QTest::addColumn<QByteArray>("control");
-    QTest::addColumn<QByteArray>("next");
-    QTest::addColumn<QByteArray>("reported");
-    const auto row = [](const char *feature, const char *control, const char *next, const char *reported) {
-        QTest::newRow(feature) << QByteArray(control) << QByteArray(next) << QByteArray(reported);
-    };
-    row("TriggerSource", "cmBoxSource", "PulseGenerator", "IN2");
-    row("TriggerActivation", "cmBoxEdge", "FallingEdge", "RisingEdge");
-    row("TriggerDebounce", "cmBoxDebounce", "Us50", "Us100");
+    addBindings({{"TriggerSource", "cmBoxSource", "PulseGenerator", "IN2"},
+                 {"TriggerActivation", "cmBoxEdge", "FallingEdge", "RisingEdge"},
+                 {"TriggerDebounce", "cmBoxDebounce", "Us50", "Us100"}});
 }
 
 void OrvCamConfigTriggerDialogTest::bindsBothWays()
 {
-    QFETCH(QByteArray, control);
-    QFETCH(QByteArray, next);
-    QFETCH(QByteArray, reported);
     const Camera camera;
     QVERIFY(camera.set("TriggerMode", "On"));
-    OrvCamConfigTriggerDialog dialog(camera.device());
-    QVERIFY(dialog.SetDevice(camera.device())); // twice makes no second write
-    QVERIFY(show(dialog));
-    checkBinding(dialog, camera, QTest::currentDataTag(), control, next, reported);
+    checkBinding<OrvCamConfigTriggerDialog>(camera);
 }
 
 void OrvCamConfigTriggerDialogTest::switchesTriggering()
@@ -197,8 +184,6 @@ void OrvCamConfigTriggerDialogTest::nothingIsLeftOfTheFormerCamera()
     QVERIFY(dialog.SetDevice(bare.device()));
     QVERIFY(dialog.SetDevice(camera.device()));
     QCOMPARE(enabledParts(dialog), all);
-    QVERIFY(!dialog.SetDevice(nullptr));
-    QVERIFY(!dialog.isEnabled());
 }
 
 void OrvCamConfigTriggerDialogTest::survivesTheCameraWhileEdited()
@@ -220,22 +205,7 @@ void OrvCamConfigTriggerDialogTest::survivesTheCameraWhileEdited()
 
 void OrvCamConfigTriggerDialogTest::keepsTheRulesOfFeatureDialogs()
 {
-    const Camera camera;
-    checkKeysAndClosing<OrvCamConfigTriggerDialog>(camera.device());
-    checkDevicesInTurn<OrvCamConfigTriggerDialog>(SimTest::twoFrame);
-    checkNoParameters<OrvCamConfigTriggerDialog>(SimTest::twoFrame);
-}
-
-void OrvCamConfigTriggerDialogTest::cutsNothing()
-{
-    const Camera bare(plugInBareCamera());
-    const Camera full;
-    OrvCamConfigTriggerDialog dialog(nullptr);
-    checkNothingIsCut(dialog);
-    for (OrvCam::Device *const device : {bare.device(), full.device()}) {
-        QVERIFY(dialog.SetDevice(device));
-        checkNothingIsCut(dialog);
-    }
+    checkFeatureDialog<OrvCamConfigTriggerDialog>();
 }
 
 ORV_TEST_MAIN(OrvCamConfigTriggerDialogTest)
