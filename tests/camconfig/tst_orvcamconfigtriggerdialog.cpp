@@ -5,6 +5,10 @@
 
 #include <QCheckBox>
 
+#include <array>
+#include <thread>
+#include <utility>
+
 using namespace DialogTest;
 using OrvGui::OrvCamConfigTriggerDialog;
 
@@ -130,6 +134,9 @@ void OrvCamConfigTriggerDialogTest::rulesFollowTheCamera()
     QCOMPARE(enabledParts(dialog), all);
     QVERIFY(camera.set("TriggerMode", "Off"));
     QCOMPARE(enabledParts(dialog), theSwitch);
+    std::thread([&] { camera.set("TriggerMode", "On"); }).join();
+    QCOMPARE(enabledParts(dialog), theSwitch); // widgets belong to this thread
+    QTRY_COMPARE(enabledParts(dialog), all);
 }
 
 /** On cameras whose features think otherwise. */
