@@ -6,6 +6,8 @@
 #include <QPushButton>
 #include <QSignalSpy>
 
+#include <initializer_list>
+
 /** What holds for every feature dialog, checked for one of them. */
 namespace DialogTest {
 
@@ -92,6 +94,83 @@ inline void checkNothingIsCut(QWidget &window)
 {
     QVERIFY(show(window));
     QTRY_COMPARE(cutWidget(window), QString());
+}
+
+/** All of the above for a dialog that needs no more than a device; it is also shown without one, and on a bare camera.
+ */
+template <typename Dialog>
+void checkFeatureDialog()
+{
+    const Camera bare(plugInBareCamera());
+    const Camera full;
+    checkKeysAndClosing<Dialog>(full.device());
+    checkDevicesInTurn<Dialog>(SimTest::twoFrame);
+    checkNoParameters<Dialog>(SimTest::twoFrame);
+    Dialog dialog(nullptr);
+    QVERIFY(!dialog.isEnabled());
+    checkNothingIsCut(dialog);
+    for (OrvCam::Device *const device : {bare.device(), full.device()}) {
+        QVERIFY(dialog.SetDevice(device));
+        QVERIFY(dialog.isEnabled());
+        checkNothingIsCut(dialog);
+    }
+    QVERIFY(!dialog.SetDevice(nullptr));
+    QVERIFY(!dialog.isEnabled());
+}
+
+/** A row of a table of bindings: the user sets \a next, in one step of a list, and the camera reports \a reported. */
+struct Binding
+{
+    const char *feature;
+    const char *control;
+    const char *next;
+    const char *reported;
+};
+
+inline void addBindings(std::initializer_list<Binding> bindings)
+{
+    QTest::addColumn<QByteArray>("control");
+    QTest::addColumn<QByteArray>("next");
+    QTest::addColumn<QByteArray>("reported");
+    for (const Binding &row : bindings)
+        QTest::newRow(row.feature) << QByteArray(row.control) << QByteArray(row.next) << QByteArray(row.reported);
+}
+
+/**
+ * A feature and its control are in step: what the user sets is written once, what the camera reports is shown, and
+ * nothing is written for that. A write that the camera refuses is told.
+ */
+template <typename Dialog>
+void checkBinding(const Camera &camera)
+{
+    QFETCH(QByteArray, control);
+    QFETCH(QByteArray, next);
+    QFETCH(QByteArray, reported);
+    const char *const feature = QTest::currentDataTag();
+    Dialog dialog(camera.device());
+    QVERIFY(dialog.SetDevice(camera.device())); // twice makes no second write
+    QVERIFY(show(dialog));
+    auto *const widget = part<QWidget>(dialog, control);
+    QVERIFY(widget && widget->isEnabled());
+    QCOMPARE(shownBy(widget), camera.value(feature));
+    camera.takeWrites();
+
+    enterInto(widget, next);
+    QCOMPARE(camera.value(feature), QString::fromLatin1(next));
+    QCOMPARE(shownBy(widget), QString::fromLatin1(next));
+    QCOMPARE(camera.takeWrites(), 1);
+    QVERIFY(camera.set(feature, reported));
+    QCOMPARE(shownBy(widget), QString::fromLatin1(reported));
+    QCOMPARE(camera.takeWrites(), 1);
+    QVERIFY(!shownMessage());
+
+    QVERIFY(camera.refuse(feature));
+    enterInto(widget, next);
+    QVERIFY(shownMessage());
+    QCOMPARE(shownMessage()->parentWidget()->parentWidget(), widget->parentWidget()); // it, or a button of its group
+    QCOMPARE(takeMessage(), refusal(feature, "GenICam: Generic error"));
+    QVERIFY(!shownMessage());
+    QCOMPARE(camera.value(feature), QString::fromLatin1(reported));
 }
 
 } // namespace DialogTest

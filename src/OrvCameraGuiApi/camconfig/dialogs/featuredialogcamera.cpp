@@ -51,6 +51,7 @@ FeatureDialogCamera::~FeatureDialogCamera()
 bool FeatureDialogCamera::setDevice(OrvCam::Device *device)
 {
     letGo();
+    m_connections.reset(new QObject);
     OrvCamErr err = OrvCamErr_Ok;
     OrvGenParam::Array *const parameters = device ? device->GetCameraParameters(&err) : nullptr;
     m_device = device;
@@ -64,6 +65,7 @@ void FeatureDialogCamera::letGo()
     for (const auto &[param, sink] : sinks)
         param->UnregisterEvent(sink);
     mapper.unmapAll();
+    m_connections.reset();
     m_parameters = nullptr;
     m_device = nullptr;
 }
@@ -103,6 +105,13 @@ void FeatureDialogCamera::stopListening(OrvGenParam::Param *param, OrvGenParam::
         return;
     param->UnregisterEvent(sink);
     m_sinks.removeAll({param, sink});
+}
+
+void FeatureDialogCamera::listenBeforeMapper(OrvGenParam::Param *param, OrvGenParam::ParamEventSink *sink)
+{
+    listen(param, sink);
+    if (param)
+        param->UnregisterEvent(&mapper);
 }
 
 bool FeatureDialogCamera::isForGuiThread(OrvGenParam::Param *param, OrvGenParam::ParamEventSink *sink)

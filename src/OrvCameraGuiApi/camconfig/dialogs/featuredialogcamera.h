@@ -4,6 +4,8 @@
 #include <OrvCameraGuiApi/camera_api/orvcam.h>
 #include <OrvCameraGuiApi/camera_api/orvgenparam.h>
 
+#include <QObject>
+#include <QScopedPointer>
 #include <QVector>
 
 #include <initializer_list>
@@ -54,9 +56,21 @@ public:
     OrvGenParam::Int *integer(const char *name) const;
     /** @} */
 
+    /**
+     * The context for the dialog's connections to its controls: they end when the device is let go, those to controls
+     * that could not be bound too. Another one with each device.
+     */
+    QObject *context() const { return m_connections.data(); }
+
     /** Registers a sink of the dialog, once however often it is asked; a null \a param does nothing. */
     void listen(OrvGenParam::Param *param, OrvGenParam::ParamEventSink *sink);
     void stopListening(OrvGenParam::Param *param, OrvGenParam::ParamEventSink *sink);
+
+    /**
+     * The same for a bound parameter, in the mapper's place: for a dialog whose own rules have to come after the
+     * mapper's. The sink passes each notification on to the mapper's OnParameterUpdate() and then applies its rules.
+     */
+    void listenBeforeMapper(OrvGenParam::Param *param, OrvGenParam::ParamEventSink *sink);
 
     /**
      * For the head of the dialog's OnParameterUpdate(): false on the GUI thread. On any other thread answers true, and
@@ -80,6 +94,7 @@ private:
     OrvCam::Device *m_device = nullptr;
     OrvGenParam::Array *m_parameters = nullptr;
     QVector<std::pair<OrvGenParam::Param *, OrvGenParam::ParamEventSink *>> m_sinks;
+    QScopedPointer<QObject> m_connections;
     QObject m_context; ///< receives what other threads report
 };
 
