@@ -266,12 +266,26 @@ private Q_SLOTS:
         window.composite.setValue(1000);
         QCOMPARE(window.takeEmitted(), QStringLiteral("'1000' 1000"));
 
+        Window<QtOrvSpinBox> popUp;
+        popUp.composite.setRange(0, 1000);
+        popUp.composite.slider()->setScaleType(QtOrvSlider::Log10);
+        popUp.composite.setValue(1000);
+        popUp.composite.spinBox()->setValue(999);
+        popUp.takeEmitted();
+        popUp.composite.setRange(1000, 2000); // where the slider stands already, but not the number
+        QCOMPARE(popUp.takeEmitted(), QStringLiteral("1000..2000 1000 '1000'"));
+
         Window<QtOrvGainSlider> gain;
         QVERIFY(gain.isReady());
         gain.composite.spinBox()->selectAll();
         QTest::keyClicks(gain.composite.spinBox(), QStringLiteral("9.6"));
         QCOMPARE(gain.composite.value(), 9.6);
         QCOMPARE(gain.composite.slider()->value(), 10.0);
+        gain.takeEmitted();
+        gain.composite.setValue(qQNaN());
+        gain.composite.setSingleStep(0.2);
+        QCOMPARE(gain.takeEmitted(), QString());
+        QCOMPARE(gain.composite.slider()->value(), 9.6);
         gain.composite.setRange(0, 0.12345); // more decimals than the spin box shows
         gain.composite.setSingleStep(0.01);
         QTest::keyClick(gain.inner(), Qt::Key_End);

@@ -253,6 +253,24 @@ private Q_SLOTS:
         QCOMPARE(recorder.takeLog(), QStringLiteral("52"));
     }
 
+    void aKeyLeadsOnFromAValueThatANewGridHasMoved()
+    {
+        for (const bool byKey : {false, true}) {
+            QtOrvSlider slider;
+            apply(slider, {Log10, 100, 0, 1000, 51, false});
+            if (byKey)
+                QTest::keyClick(slider.slider(), Qt::Key_Up);
+            else
+                slider.setValue(51);
+            slider.setSingleStep(50);
+            slider.setValidate(true);
+            QCOMPARE(slider.value(), 50);
+            Recorder recorder(slider);
+            QTest::keyClick(slider.slider(), Qt::Key_Up);
+            QCOMPARE(recorder.takeLog(), QStringLiteral("100"));
+        }
+    }
+
     void settersTellOnceAndKeepTheValue()
     {
         QtOrvSlider slider;
@@ -407,6 +425,14 @@ private Q_SLOTS:
             QCOMPARE(slider.value(), 0);
             slider.setValue(1000);
         }
+        slider.setAccessibleName(QString());
+        QWidget form;
+        QLabel label(QStringLiteral("&Time"), &form);
+        slider.setParent(&form);
+        label.setBuddy(&slider);
+        QCOMPARE(QAccessible::queryAccessibleInterface(slider.slider())->text(QAccessible::Name),
+                 QStringLiteral("Time"));
+        slider.setParent(nullptr);
     }
 };
 

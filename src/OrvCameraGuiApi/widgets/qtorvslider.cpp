@@ -17,6 +17,7 @@ public:
     void rescale(const IntegerScale &changed);
     void move(int value);
     void positionChanged(int position);
+    void step(int value, bool up);
     void announce(int value);
     int value() const;
 
@@ -65,7 +66,7 @@ void QtOrvSliderPrivate::rescale(const IntegerScale &changed)
 
 int QtOrvSliderPrivate::value() const
 {
-    return stepped ? lastValue : scale.valueAt(parts.slider->value());
+    return stepped ? scale.snapped(lastValue) : scale.valueAt(sliderValue);
 }
 
 void QtOrvSliderPrivate::move(int value)
@@ -80,20 +81,25 @@ void QtOrvSliderPrivate::positionChanged(int position)
 {
     if (settling)
         return;
+    const int before = value();
     // Which way the slider went tells more than the key: layout direction and inversion turn some of them round.
     const bool up = position > sliderValue;
     sliderValue = position;
     stepped = false;
-    int value = scale.valueAt(position);
-    if (value == lastValue && parts.slider->isSteppedByKey()) {
-        value = scale.stepped(value, up);
-        move(value);
-        if (sliderValue == scale.firstPosition() || sliderValue == scale.lastPosition())
-            value = scale.valueAt(sliderValue); // no key leads on from an end, so it has to be the bound
-        else
-            stepped = true;
-    }
-    announce(value);
+    if (value() == before && parts.slider->isSteppedByKey())
+        step(before, up);
+    else
+        announce(value());
+}
+
+/** Leads on from \a value, from which a key alone has not come away. */
+void QtOrvSliderPrivate::step(int value, bool up)
+{
+    const int target = scale.stepped(value, up);
+    move(target);
+    // No key leads on from an end, so that has to be the bound.
+    stepped = sliderValue != scale.firstPosition() && sliderValue != scale.lastPosition();
+    announce(stepped ? target : scale.valueAt(sliderValue));
 }
 
 void QtOrvSliderPrivate::announce(int value)
@@ -145,9 +151,8 @@ int QtOrvSlider::value() const
 
 void QtOrvSlider::setValue(int value)
 {
-    if (d->stepped && value == d->lastValue)
-        return; // the position alone would stand for another value
-    d->move(value);
+    if (!d->stepped || value != d->value()) // else the position alone would stand for another value
+        d->move(value);
     d->announce(d->value());
 }
 

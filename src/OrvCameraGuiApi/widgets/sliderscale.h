@@ -30,12 +30,14 @@ public:
     int positionOf(int value) const;
     int valueAt(int position) const;
 
+    /** A value of the range, on the grid if values are. */
+    int snapped(int value) const;
+
     /** The first value a whole step or more above or below \a value, on the grid if values are; at most the bound. */
     int stepped(int value, bool up) const;
 
 private:
     void update();
-    int snapped(int value) const;
     double distanceAt(int position) const;
 
     int m_minimum = 0;

@@ -105,6 +105,7 @@ private:
     void connectSlider();
     void speak();
     void keepSilent();
+    void keepInRange();
     void setSpinBox(Number value);
     void moveSlider(SpinNumber value);
     void pressed();
@@ -141,6 +142,7 @@ void SpinSliderLink<Composite, SpinBox, Slider>::connectSlider()
 {
     QObject::connect(m_slider, &Slider::rangeChanged, m_spinBox, &SpinBox::setRange);
     QObject::connect(m_slider, &Slider::rangeChanged, q, &Composite::rangeChanged);
+    QObject::connect(m_slider, &Slider::rangeChanged, &m_context, [this] { keepInRange(); });
     QObject::connect(m_slider, &Slider::valueChanged, &m_context, [this](Number value) { setSpinBox(value); });
     QObject::connect(m_slider, &Slider::sliderPressed, &m_context, [this] { pressed(); });
     QObject::connect(m_slider, &Slider::sliderReleased, &m_context, [this] { released(); });
@@ -165,6 +167,15 @@ void SpinSliderLink<Composite, SpinBox, Slider>::keepSilent()
 {
     QObject::disconnect(m_numbers);
     QObject::disconnect(m_texts);
+}
+
+/** The spin box for 64 bits does not limit its value, and the slider need not have moved for a typed one to be outside.
+ */
+template <typename Composite, typename SpinBox, typename Slider>
+void SpinSliderLink<Composite, SpinBox, Slider>::keepInRange()
+{
+    if (m_spinBox->value() < m_spinBox->minimum() || m_spinBox->value() > m_spinBox->maximum())
+        m_spinBox->setValue(m_slider->value());
 }
 
 template <typename Composite, typename SpinBox, typename Slider>
@@ -207,6 +218,8 @@ void SpinSliderLink<Composite, SpinBox, Slider>::released()
 template <typename Composite, typename SpinBox, typename Slider>
 void SpinSliderLink<Composite, SpinBox, Slider>::setValue(Number value)
 {
+    if (std::isnan(double(value)))
+        return;
     m_slider->setValue(value);
     if (!SpinSlider::shows(m_spinBox, m_slider->value()))
         m_spinBox->setValue(m_slider->value()); // a typed one between the positions, where the slider stood already
@@ -218,5 +231,9 @@ void SpinSliderLink<Composite, SpinBox, Slider>::setSingleStep(Number step)
     if (!(step > 0) || !std::isfinite(double(step)) || step == m_spinBox->singleStep())
         return;
     m_spinBox->setSingleStep(step);
-    m_slider->setSingleStep(step);
+    {
+        const QScopedValueRollback<bool> guard(m_movingSlider, true);
+        m_slider->setSingleStep(step);
+    }
+    moveSlider(m_spinBox->value()); // finer positions may meet a typed value better
 }

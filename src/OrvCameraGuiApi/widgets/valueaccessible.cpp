@@ -14,9 +14,9 @@ constexpr const char *composites[] = {"QtOrvSlider", "QtOrvDoubleSlider", "QtOrv
                                       "QtOrvGainSlider"};
 
 /** The widget that \a part is a part of; null when it stands for itself. */
-const QWidget *compositeOf(const QWidget *part)
+QWidget *compositeOf(const QWidget *part)
 {
-    const QWidget *const parent = part->parentWidget();
+    QWidget *const parent = part->parentWidget();
     const auto isParent = [parent](const char *name) { return parent->inherits(name); };
     return parent && std::any_of(std::begin(composites), std::end(composites), isParent) ? parent : nullptr;
 }
@@ -57,10 +57,11 @@ public:
             return currentValue().toString();
         if (kind != QAccessible::Name)
             return QAccessibleWidget::text(kind);
-        QString name;
-        for (const QWidget *w = widget(); w && name.isEmpty(); w = compositeOf(w))
-            name = nameOf(w);
-        return name.isEmpty() ? QAccessibleWidget::text(kind) : name;
+        QString name = nameOf(widget());
+        if (name.isEmpty())
+            name = QAccessibleWidget::text(kind); // of a label beside it
+        QWidget *const composite = name.isEmpty() ? compositeOf(widget()) : nullptr;
+        return composite ? QAccessible::queryAccessibleInterface(composite)->text(kind) : name;
     }
 
     QVariant currentValue() const override { return m_source->property("value"); }
