@@ -2,6 +2,8 @@
 
 #include "dialogtest.h"
 
+#include <cutwidget.h>
+
 #include <QDialog>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -73,20 +75,6 @@ void checkNoParameters(const char *id)
     }
     OrvSim::setParameters(id, OrvSim::Parameters::Normal);
     QVERIFY(dialog.SetDevice(camera.device()));
-}
-
-/** A label, button or combo box that is seen with less than the size it asks for; empty when there is none. */
-inline QString cutWidget(const QWidget &window)
-{
-    const auto widgets = window.findChildren<QWidget *>();
-    for (const QWidget *const widget : widgets) {
-        const bool hasText =
-            widget->inherits("QLabel") || widget->inherits("QAbstractButton") || widget->inherits("QComboBox");
-        const QSize hint = widget->sizeHint();
-        if (hasText && widget->isVisible() && (widget->width() < hint.width() || widget->height() < hint.height()))
-            return widget->objectName();
-    }
-    return {};
 }
 
 /** The layouts have caught up with what the device brought, and everything fits. */
