@@ -1,0 +1,124 @@
+#include <OrvCameraGuiApi/camconfig/dialogs/featuredialogcamera.h>
+
+#include <QDialog>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QThread>
+
+#include <algorithm>
+
+namespace {
+
+/** Closes a dialog by the key that would only hide it. */
+class EscapeCloses : public QObject
+{
+public:
+    explicit EscapeCloses(QDialog *dialog)
+        : QObject(dialog)
+        , m_dialog(dialog)
+    {
+        dialog->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        const bool isCancel = watched == m_dialog && event->type() == QEvent::KeyPress
+            && static_cast<QKeyEvent *>(event)->matches(QKeySequence::Cancel);
+        if (isCancel)
+            m_dialog->close();
+        return isCancel;
+    }
+
+private:
+    QDialog *const m_dialog;
+};
+
+} // namespace
+
+namespace OrvGui {
+
+FeatureDialogCamera::~FeatureDialogCamera()
+{
+    letGo();
+}
+
+bool FeatureDialogCamera::setDevice(OrvCam::Device *device)
+{
+    letGo();
+    OrvCamErr err = OrvCamErr_Ok;
+    OrvGenParam::Array *const parameters = device ? device->GetCameraParameters(&err) : nullptr;
+    m_device = device;
+    m_parameters = err == OrvCamErr_Ok ? parameters : nullptr;
+    return m_parameters != nullptr;
+}
+
+void FeatureDialogCamera::letGo()
+{
+    const auto sinks = std::exchange(m_sinks, {});
+    for (const auto &[param, sink] : sinks)
+        param->UnregisterEvent(sink);
+    mapper.unmapAll();
+    m_parameters = nullptr;
+    m_device = nullptr;
+}
+
+OrvGenParam::Boolean *FeatureDialogCamera::boolean(const char *name) const
+{
+    return m_parameters ? m_parameters->GetBoolean(name, nullptr) : nullptr;
+}
+
+OrvGenParam::Command *FeatureDialogCamera::command(const char *name) const
+{
+    return m_parameters ? m_parameters->GetCommand(name, nullptr) : nullptr;
+}
+
+OrvGenParam::Enum *FeatureDialogCamera::enumeration(const char *name) const
+{
+    return m_parameters ? m_parameters->GetEnum(name, nullptr) : nullptr;
+}
+
+OrvGenParam::Int *FeatureDialogCamera::integer(const char *name) const
+{
+    return m_parameters ? m_parameters->GetInt(name, nullptr) : nullptr;
+}
+
+void FeatureDialogCamera::listen(OrvGenParam::Param *param, OrvGenParam::ParamEventSink *sink)
+{
+    if (!param)
+        return;
+    stopListening(param, sink);
+    m_sinks.append({param, sink});
+    param->RegisterEvent(sink);
+}
+
+void FeatureDialogCamera::stopListening(OrvGenParam::Param *param, OrvGenParam::ParamEventSink *sink)
+{
+    if (!param)
+        return;
+    param->UnregisterEvent(sink);
+    m_sinks.removeAll({param, sink});
+}
+
+bool FeatureDialogCamera::isForGuiThread(OrvGenParam::Param *param, OrvGenParam::ParamEventSink *sink)
+{
+    if (QThread::currentThread() == m_context.thread())
+        return false;
+    const auto notify = [this, param, sink] {
+        if (m_sinks.contains({param, sink}))
+            sink->OnParameterUpdate(param);
+    };
+    QMetaObject::invokeMethod(&m_context, notify, Qt::QueuedConnection);
+    return true;
+}
+
+void FeatureDialogCamera::setUpDialog(QDialog *dialog)
+{
+    new EscapeCloses(dialog);
+    const auto buttons = dialog->findChildren<QPushButton *>();
+    for (QPushButton *const button : buttons) {
+        button->setAutoDefault(false);
+        button->setDefault(false);
+    }
+}
+
+} // namespace OrvGui
