@@ -436,14 +436,16 @@ void OrvCamConfigFrameABDialogPrivate::showFixedPeriod()
 
 void OrvCamConfigFrameABDialogPrivate::showActualSize()
 {
-    const std::pair<const char *, QLabel *> sizes[] = {{widthActualFeature, ui.lblWidthActual},
-                                                       {heightActualFeature, ui.lblHeightActual}};
-    for (const auto &[feature, label] : sizes) {
+    const auto text = [this](const char *feature) {
         OrvGenParam::Int *const param = camera.integer(feature);
         const bool isShown = param && param->IsAvailable() && param->IsReadable();
-        label->setText(isShown ? QString::number(param->GetValue(nullptr)) : QString(QChar(0x2013)));
-        label->setEnabled(isShown);
-    }
+        return isShown ? QString::number(param->GetValue(nullptr)) : QString();
+    };
+    const QString width = text(widthActualFeature);
+    const QString height = text(heightActualFeature);
+    const bool isKnown = !width.isEmpty() && !height.isEmpty();
+    ui.lblSizeActual->setText(isKnown ? OrvCamConfigFrameABDialog::tr("%1 × %2").arg(width, height) : QString());
+    ui.lblSizeActual->setEnabled(isKnown);
 }
 
 void OrvCamConfigFrameABDialogPrivate::updateExposureTime()
