@@ -13,7 +13,12 @@ public:
 
     bool isCategory() const { return m_type == GenApi::intfICategory; }
     QString name() const { return QString::fromUtf8(m_node->GetDisplayName().c_str()); }
+    GenApi::INode *node() const { return m_node; }
+
     QString text() const;
+
+    /** Sets a value that is another one for another \a number. */
+    void change(int number);
 
 private:
     GenApi::IValue *m_value;
@@ -22,4 +27,6 @@ private:
     GenApi::IInteger *m_integer = nullptr;
     GenApi::IFloat *m_float = nullptr;
     GenApi::IBoolean *m_boolean = nullptr;
+    GenApi::IEnumeration *m_enumeration = nullptr;
+    GenApi::IString *m_string = nullptr;
 };

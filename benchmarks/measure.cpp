@@ -19,7 +19,8 @@ qint64 heapInUse()
 
 double Samples::median() const
 {
-    require(!m_samples.empty(), "no samples");
+    if (m_samples.empty())
+        return 0;
     std::vector<double> sorted = m_samples;
     std::sort(sorted.begin(), sorted.end());
     return sorted[sorted.size() / 2];
@@ -27,7 +28,7 @@ double Samples::median() const
 
 void Table::add(const QString &what, const QString &unit, double ours, double other, double bound)
 {
-    const double ratio = ours / other;
+    const double ratio = ours > 0 ? ours / other : 0;
     const auto number = [](double value) { return QString::number(value, 'f', 2); };
     QStringList row = {what, unit, number(ours), number(other), number(ratio), QString(), QString()};
     if (bound > 0) {

@@ -72,6 +72,20 @@ private:
     OrvGenParam::Array *const m_params;
 };
 
+/** Plugs in a camera that has not one of the features; it is opened with its name. Null when that fails. */
+inline const char *plugInBareCamera()
+{
+    const char *const name = "BARE";
+    OrvSim::DeviceSpec spec = OrvSim::cameraFromText(
+        "<RegisterDescription ModelName=\"Bare\" VendorName=\"Orv\" StandardNameSpace=\"None\""
+        " SchemaMajorVersion=\"1\" SchemaMinorVersion=\"1\" SchemaSubMinorVersion=\"0\" MajorVersion=\"1\""
+        " MinorVersion=\"0\" SubMinorVersion=\"0\" xmlns=\"http://www.genicam.org/GenApi/Version_1_1\">"
+        "<Category Name=\"Root\"/><Port Name=\"Device\"/></RegisterDescription>");
+    spec.name = name;
+    spec.id = name;
+    return OrvSim::addDevice("ORV-XHCI-0", spec) ? name : nullptr;
+}
+
 /** The widget of that name; null when there is none of that class. */
 template <typename Widget>
 Widget *part(const QWidget &window, const char *name)

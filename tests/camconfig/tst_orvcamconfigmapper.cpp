@@ -55,10 +55,10 @@ struct Panel
     explicit Panel(int buttonCount = 3)
         : column(&window)
     {
-        for (QWidget *const control : {static_cast<QWidget *>(&combo), static_cast<QWidget *>(&check),
-                                       static_cast<QWidget *>(&tabs), static_cast<QWidget *>(&command),
-                                       static_cast<QWidget *>(&toggle), static_cast<QWidget *>(&spin),
-                                       static_cast<QWidget *>(&sliderSpin), static_cast<QWidget *>(&label)})
+        for (QWidget *const control :
+             {static_cast<QWidget *>(&combo), static_cast<QWidget *>(&check), static_cast<QWidget *>(&tabs),
+              static_cast<QWidget *>(&command), static_cast<QWidget *>(&toggle), static_cast<QWidget *>(&spin),
+              static_cast<QWidget *>(&sliderSpin), static_cast<QWidget *>(&label)})
             column.addWidget(control);
         for (int i = 0; i < buttonCount; ++i) {
             buttons.append(new QRadioButton(&window));
@@ -92,7 +92,8 @@ struct Panel
 
     std::vector<FakeParams::Fake *> params()
     {
-        return {&comboParam, &checkParam, &groupParam, &tabParam, &commandParam, &toggleParam, &spinParam, &sliderParam};
+        return {&comboParam,   &checkParam,  &groupParam, &tabParam,
+                &commandParam, &toggleParam, &spinParam,  &sliderParam};
     }
 
     std::vector<QWidget *> controls()
@@ -103,9 +104,9 @@ struct Panel
     Writes writes() const
     {
         Writes all;
-        for (const Writes *const some : {&comboParam.writes, &checkParam.writes, &groupParam.writes, &tabParam.writes,
-                                         &commandParam.writes, &toggleParam.writes, &spinParam.writes,
-                                         &sliderParam.writes})
+        for (const Writes *const some :
+             {&comboParam.writes, &checkParam.writes, &groupParam.writes, &tabParam.writes, &commandParam.writes,
+              &toggleParam.writes, &spinParam.writes, &sliderParam.writes})
             all.insert(all.end(), some->begin(), some->end());
         return all;
     }
@@ -189,9 +190,9 @@ void OrvCamConfigMapperTest::aUserActionWritesOnce_data()
     row("radio button, the value of its entry",
         [](Panel &p) { QTest::mouseClick(p.buttons[1], Qt::LeftButton, {}, QPoint(8, p.buttons[1]->height() / 2)); },
         {7});
-    row("tab", [](Panel &p) {
-        QTest::mouseClick(p.tabs.tabBar(), Qt::LeftButton, {}, p.tabs.tabBar()->tabRect(1).center());
-    }, {1});
+    row("tab",
+        [](Panel &p) { QTest::mouseClick(p.tabs.tabBar(), Qt::LeftButton, {}, p.tabs.tabBar()->tabRect(1).center()); },
+        {1});
     row("command", [](Panel &p) { QTest::mouseClick(&p.command, Qt::LeftButton); }, {1});
     row("boolean", [](Panel &p) { QTest::mouseClick(&p.toggle, Qt::LeftButton); }, {1});
     row("spin box, only what is committed", [](Panel &p) { DialogTest::enter(p.spin.spinBox(), "42"); }, {42});
@@ -632,9 +633,7 @@ void OrvCamConfigMapperTest::aRefreshMayUnbindAndDestroy()
     react([&] { panel.mapper->unmapParam(&panel.spinParam, &panel.spin); });
     QVERIFY(!panel.spin.isEnabled()); // not enabled again by the rest of the refresh
     panel.mapper->mapIntParam(&panel.spinParam, &panel.spin, {&panel.label});
-    react([&] {
-        panel.mapper->mapIntParam(&panel.spinParam, &panel.sliderSpin, nullptr);
-    });
+    react([&] { panel.mapper->mapIntParam(&panel.spinParam, &panel.sliderSpin, nullptr); });
     QCOMPARE(panel.sliderSpin.value(), 2);
     QVERIFY(!panel.spin.isEnabled() && panel.sliderSpin.isEnabled());
     panel.mapper->mapIntParam(&panel.spinParam, &panel.spin, {&panel.label});
@@ -683,10 +682,11 @@ void OrvCamConfigMapperTest::describesErrors_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("text");
     const auto row = [](int code, const char *name, const char *description) {
-        QTest::addRow("%d", code) << code << QString::fromUtf8(name) << (description
-            ? QString::fromUtf8("Error while working with '%1' parameter!\r\nDescription: %2")
-                  .arg(QString::fromUtf8(name), QLatin1String(description))
-            : QString());
+        QTest::addRow("%d", code) << code << QString::fromUtf8(name)
+                                  << (description ? QString::fromUtf8(
+                                                        "Error while working with '%1' parameter!\r\nDescription: %2")
+                                                        .arg(QString::fromUtf8(name), QLatin1String(description))
+                                                  : QString());
     };
     row(0, "Feature", nullptr);
     row(-40001, "Feature", "Unknown error");

@@ -310,9 +310,9 @@ int OrvCamConfigMapper::mapEnumParam(OrvGenParam::Enum *param, QButtonGroup *gro
         return 0;
     nameRadioButtons(param, group);
     updateRadioButtons(param, group);
-    QObject::connect(group, &QButtonGroup::idToggled, &m_context, [=](int id, bool checked) {
-        QAbstractButton *const button = group->button(id);
-        if (checked && button)
+    const auto toggled = QOverload<QAbstractButton *, bool>::of(&QButtonGroup::buttonToggled);
+    QObject::connect(group, toggled, &m_context, [=](QAbstractButton *button, bool checked) {
+        if (checked)
             write(param, button, [=] { return param->SetValue(valueOf(group, button)); });
     });
     registerAt(param);

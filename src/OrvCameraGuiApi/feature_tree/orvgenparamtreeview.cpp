@@ -1,6 +1,7 @@
 #include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
 
 #include <OrvCameraGuiApi/camera_api/orvgenparam.h>
+#include <OrvCameraGuiApi/feature_tree/categoryspans.h>
 #include <OrvCameraGuiApi/feature_tree/filteroptions.h>
 #include <OrvCameraGuiApi/feature_tree/generrorsdlg.h>
 #include <OrvCameraGuiApi/feature_tree/genparamdelegate.h>
@@ -21,7 +22,6 @@
 
 #include <limits>
 #include <utility>
-#include <vector>
 
 namespace {
 
@@ -74,10 +74,8 @@ public:
     void connectModel();
     void connectProxy();
     void splitColumns();
-    void spanAllCategories();
-    void spanCategories(const QModelIndex &parent, int first, int last);
     void currentChanged(const QModelIndex &index);
-    void filterChanged();
+    void moveCurrentFromGoing();
 
     void errorAppeared(const QModelIndex &index, const QString &name, const QString &message, int role);
     void errorDisappeared(const QModelIndex &index, const QString &name, int role);
@@ -100,7 +98,6 @@ public:
 
     GenParamTreeModel *model = nullptr;
     GenParamTreeVisibilityFilterProxyModel *proxy = nullptr; ///< null exactly when the model is
-    QModelIndex currentSource; ///< of the model, whose rows stay; where the current item was before the filter took it
     bool statusShowsErrors = false;
     QSet<GenApi::IValue *> featuresToRepaint;
 };
@@ -151,7 +148,6 @@ void OrvGenParamTreeViewPrivate::initFilter()
     QObject::connect(ui.cbVisibility, QOverload<int>::of(&QComboBox::currentIndexChanged), q, [this](int level) {
         if (proxy)
             proxy->setFilterVisibility(level);
-        spanAllCategories();
     });
     QObject::connect(filterOptions, &FilterOptions::caseSensitivityChanged, q, [this](bool isSensitive) {
         filterOptionsAction->setIcon(iconOf(filterOptions->iconPath()));
@@ -197,7 +193,7 @@ void OrvGenParamTreeViewPrivate::install(GenApi::INodeMap *map)
     showModel(proxy);
     connectProxy();
     splitColumns();
-    spanAllCategories();
+    spanAllCategories(*ui.treeView);
 }
 
 /** Nothing refers to the node map afterwards; only the objects that did are freed later, for they may be in use. */
@@ -214,7 +210,6 @@ void OrvGenParamTreeViewPrivate::remove()
     proxy = nullptr;
     model = nullptr;
     nodeMap = nullptr;
-    currentSource = QModelIndex();
     featuresToRepaint.clear();
     errors = GenParamErrorController();
     showStatus();
@@ -246,12 +241,21 @@ void OrvGenParamTreeViewPrivate::connectModel()
         [this](const QModelIndex &index, const QString &name, int role) { errorDisappeared(index, name, role); });
 }
 
-/** After the tree, which has to know of a change before its current item is moved or its rows are spanned. */
+/** After the tree, which has to know of a change before its rows are spanned. */
 void OrvGenParamTreeViewPrivate::connectProxy()
 {
-    QObject::connect(proxy, &QAbstractItemModel::layoutChanged, q, [this] { filterChanged(); });
+    QObject::connect(proxy, &GenParamTreeVisibilityFilterProxyModel::rowsAboutToGo, q,
+                     [this] { moveCurrentFromGoing(); });
+    // Somebody's slot may have had the model taken away before these are called.
+    QObject::connect(proxy, &GenParamTreeVisibilityFilterProxyModel::categoriesHaveCome, q, [this] {
+        if (proxy)
+            spanAllCategories(*ui.treeView);
+    });
     QObject::connect(proxy, &QAbstractItemModel::rowsInserted, q,
-                     [this](const QModelIndex &parent, int first, int last) { spanCategories(parent, first, last); });
+                     [this](const QModelIndex &parent, int first, int last) {
+                         if (proxy)
+                             spanCategories(*ui.treeView, parent, first, last);
+                     });
 }
 
 void OrvGenParamTreeViewPrivate::splitColumns()
@@ -261,56 +265,27 @@ void OrvGenParamTreeViewPrivate::splitColumns()
     ui.treeView->setColumnWidth(GenParamTreeModel::NameColumn, width / 2);
 }
 
-/** Does nothing when somebody's slot has just had the model taken away. */
-void OrvGenParamTreeViewPrivate::spanAllCategories()
-{
-    if (proxy)
-        spanCategories(QModelIndex(), 0, proxy->rowCount() - 1);
-}
-
-/** Of those rows and all that is in them, from top to bottom: the tree looks for each row near the one before. */
-void OrvGenParamTreeViewPrivate::spanCategories(const QModelIndex &parent, int first, int last)
-{
-    struct Level
-    {
-        QModelIndex parent;
-        int next;
-        int last;
-    };
-    std::vector<Level> levels{{parent, first, last}};
-    while (!levels.empty()) {
-        Level &level = levels.back();
-        if (level.next > level.last) {
-            levels.pop_back();
-            continue;
-        }
-        const int row = level.next++;
-        const QModelIndex index = proxy->index(row, GenParamTreeModel::NameColumn, level.parent);
-        if (isCategory(featureOf(index))) {
-            ui.treeView->setFirstColumnSpanned(row, level.parent, true);
-            levels.push_back({index, 0, proxy->rowCount(index) - 1});
-        }
-    }
-}
-
 void OrvGenParamTreeViewPrivate::currentChanged(const QModelIndex &index)
 {
-    currentSource = proxy ? proxy->mapToSource(index) : QModelIndex();
     ui.whatsThisLabel->setHtml(index.data(Qt::WhatsThisRole).toString());
 }
 
-/** A current item that went moves on to what is next to it, or to that beside its category, as with removed rows. */
-void OrvGenParamTreeViewPrivate::filterChanged()
+/**
+ * An editor that is open there is closed as by any move: what was entered is written if it counts. That comes first,
+ * by itself: a write may change rows, and the tree would go on with indexes from before if it did both at once.
+ */
+void OrvGenParamTreeViewPrivate::moveCurrentFromGoing()
 {
-    if (!currentSource.isValid() || ui.treeView->currentIndex().isValid())
+    const auto survivorOfCurrent = [this] {
+        const QModelIndex current = ui.treeView->currentIndex();
+        return proxy && current.isValid() ? proxy->survivorOf(current) : current;
+    };
+    if (survivorOfCurrent() == ui.treeView->currentIndex())
         return;
-    QModelIndex nearest;
-    for (QModelIndex source = currentSource; source.isValid() && !nearest.isValid(); source = source.parent())
-        nearest = proxy->nearestTo(source);
-    if (nearest.isValid())
-        ui.treeView->setCurrentIndex(nearest);
-    else
-        currentChanged(QModelIndex());
+    ui.treeView->endEditing(ui.treeView->currentIndex());
+    const QModelIndex survivor = survivorOfCurrent();
+    if (survivor != ui.treeView->currentIndex())
+        ui.treeView->setCurrentIndex(survivor);
 }
 
 void OrvGenParamTreeViewPrivate::errorAppeared(const QModelIndex &index, const QString &name, const QString &message,

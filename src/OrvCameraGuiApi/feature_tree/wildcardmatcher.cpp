@@ -4,9 +4,26 @@
 
 namespace {
 
-bool isAscii(const QString &text)
+/** Beyond ASCII QRegExp folds case in one way or another, as it chooses to search; not where there is no case. */
+bool foldsInOneWay(const QString &text)
 {
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
+    return std::all_of(text.begin(), text.end(), [](QChar c) {
+        return c.unicode() < 0x80
+            || (!c.isSurrogate() && c.toLower() == c && c.toUpper() == c && c.toCaseFolded() == c);
+    });
+}
+
+/** What is to be found, if that is a plain text; empty otherwise. */
+QString literalOf(const QString &glob)
+{
+    int first = 0;
+    int end = glob.size();
+    while (first < end && glob[first] == QLatin1Char('*'))
+        ++first;
+    while (first < end && glob[end - 1] == QLatin1Char('*'))
+        --end;
+    const QString text = glob.mid(first, end - first);
+    return text.contains(QLatin1Char('*')) || text.contains(QLatin1Char('?')) ? QString() : text;
 }
 
 } // namespace
@@ -33,18 +50,20 @@ void WildcardMatcher::prepare()
 {
     m_glob = QString();
     m_searchGlob = QString();
+    m_literal = QString();
     const QString pattern = m_regExp.pattern();
     // Sets of characters, brackets without a partner and backslashes are left to QRegExp.
     if (pattern.contains(QLatin1Char('[')) || pattern.contains(QLatin1Char(']')) || pattern.contains(QLatin1Char('\\')))
         return;
     const bool foldsCase = m_regExp.caseSensitivity() == Qt::CaseInsensitive;
-    // Beyond ASCII QRegExp folds case in one way or another, as it chooses to search.
-    if (foldsCase && !isAscii(pattern))
+    if (foldsCase && !foldsInOneWay(pattern))
         return;
     m_glob = foldsCase ? pattern.toLower() : pattern;
     if (m_glob.isNull())
         m_glob = QLatin1String("");
     m_searchGlob = QLatin1Char('*') + m_glob + QLatin1Char('*');
+    m_literal = literalOf(m_glob);
+    m_search = QStringMatcher(m_literal, m_regExp.caseSensitivity());
 }
 
 bool WildcardMatcher::matchesAll() const
@@ -60,7 +79,9 @@ bool WildcardMatcher::matchesAll() const
 
 bool WildcardMatcher::isIn(const QString &text) const
 {
-    return canMatch(text) ? matchesWhole(text, m_searchGlob) : m_regExp.indexIn(text) >= 0;
+    if (!canMatch(text))
+        return m_regExp.indexIn(text) >= 0;
+    return m_literal.isEmpty() ? matchesWhole(text, m_searchGlob) : m_search.indexIn(text) >= 0;
 }
 
 bool WildcardMatcher::isAll(const QString &text) const
@@ -70,7 +91,7 @@ bool WildcardMatcher::isAll(const QString &text) const
 
 bool WildcardMatcher::canMatch(const QString &text) const
 {
-    return !m_glob.isNull() && (m_regExp.caseSensitivity() == Qt::CaseSensitive || isAscii(text));
+    return !m_glob.isNull() && (m_regExp.caseSensitivity() == Qt::CaseSensitive || foldsInOneWay(text));
 }
 
 /** Walks text and pattern at once; after a mismatch the last "*" takes one character more. */

@@ -6,15 +6,18 @@
 #include <QPushButton>
 #include <QThread>
 
-#include <algorithm>
+#include <utility>
 
 namespace {
 
-/** Closes a dialog by the key that would only hide it. */
-class EscapeCloses : public QObject
+/**
+ * Takes from a dialog the keys that a QDialog would act upon. Escape would hide it without a closeEvent(); Return and
+ * Enter, which commit a value on their way, would click a default button, that of a message that just came up included.
+ */
+class DialogKeys : public QObject
 {
 public:
-    explicit EscapeCloses(QDialog *dialog)
+    explicit DialogKeys(QDialog *dialog)
         : QObject(dialog)
         , m_dialog(dialog)
     {
@@ -23,11 +26,14 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        const bool isCancel = watched == m_dialog && event->type() == QEvent::KeyPress
-            && static_cast<QKeyEvent *>(event)->matches(QKeySequence::Cancel);
-        if (isCancel)
+        if (watched != m_dialog || event->type() != QEvent::KeyPress)
+            return false;
+        auto *const press = static_cast<QKeyEvent *>(event);
+        if (press->matches(QKeySequence::Cancel)) {
             m_dialog->close();
-        return isCancel;
+            return true;
+        }
+        return press->key() == Qt::Key_Return || press->key() == Qt::Key_Enter;
     }
 
 private:
@@ -137,7 +143,7 @@ bool FeatureDialogCamera::isForGuiThread(OrvGenParam::Param *param, OrvGenParam:
 
 void FeatureDialogCamera::setUpDialog(QDialog *dialog)
 {
-    new EscapeCloses(dialog);
+    new DialogKeys(dialog);
     const auto labels = dialog->findChildren<QLabel *>();
     for (QLabel *const label : labels) {
         if (label->buddy())

@@ -37,7 +37,7 @@ public:
 
     bool init(OrvCam::Device *device);
     void build();
-    void initCoefficient(const Coefficient &coefficient);
+    bool initCoefficient(const Coefficient &coefficient);
     void initStatistics();
     void OnParameterUpdate(OrvGenParam::Param *param) override;
 
@@ -55,9 +55,10 @@ bool OrvCamConfigColorDialogPrivate::init(OrvCam::Device *device)
     const bool hasParameters = camera.setDevice(device);
     camera.mapper.mapEnumParam(camera.enumeration("BalanceWhiteAuto"), ui.cmBoxWhiteBalance);
     camera.mapper.mapEnumParam(camera.enumeration("AutoTrackingSpeed"), ui.cmBoxTrackingSpeed);
+    bool hasCoefficients = false;
     for (const Coefficient &coefficient : coefficients)
-        initCoefficient(coefficient);
-    ui.grBoxStatistics->setEnabled(hasParameters);
+        hasCoefficients |= initCoefficient(coefficient);
+    ui.grBoxStatistics->setEnabled(hasCoefficients);
     initStatistics();
     return hasParameters;
 }
@@ -72,14 +73,16 @@ void OrvCamConfigColorDialogPrivate::build()
     isBuilt = true;
 }
 
-void OrvCamConfigColorDialogPrivate::initCoefficient(const Coefficient &coefficient)
+/** False when the camera does not have it. */
+bool OrvCamConfigColorDialogPrivate::initCoefficient(const Coefficient &coefficient)
 {
     OrvGenParam::Int *const param = camera.integer(coefficient.feature);
     if (!camera.mapper.mapIntParam(param, coefficient.spinBox, {coefficient.unity}))
-        return;
+        return false;
     camera.listen(param, this);
     QObject::connect(coefficient.unity, &QPushButton::clicked, coefficient.spinBox,
                      [spinBox = coefficient.spinBox] { spinBox->setValue(unityCoefficient); });
+    return true;
 }
 
 void OrvCamConfigColorDialogPrivate::initStatistics()

@@ -1,0 +1,97 @@
+#pragma once
+
+#include "dialogtest.h"
+
+#include <QDialog>
+#include <QPushButton>
+#include <QSignalSpy>
+
+/** What holds for every feature dialog, checked for one of them. */
+namespace DialogTest {
+
+/** Enter commits and clicks nothing; the dialog tells once that it closes, whatever closes it. */
+template <typename Dialog>
+void checkKeysAndClosing(OrvCam::Device *device)
+{
+    Dialog dialog(device);
+    QSignalSpy closing(&dialog, &Dialog::closing);
+    const auto buttons = dialog.template findChildren<QPushButton *>();
+    for (const QPushButton *const button : buttons)
+        QVERIFY2(!button->isDefault() && !button->autoDefault(), qPrintable(button->objectName()));
+    const std::function<void()> ways[] = {[&] { QTest::keyClick(&dialog, Qt::Key_Escape); }, [&] { dialog.close(); },
+                                          [&] {
+                                              dialog.SetDevice(nullptr); // a camera that goes does not hold it open
+                                              QTest::keyClick(&dialog, Qt::Key_Escape);
+                                          }};
+    int closed = 0;
+    for (const auto &way : ways) {
+        QVERIFY(show(dialog));
+        QCOMPARE(closing.size(), closed);
+        way();
+        QVERIFY(dialog.isHidden());
+        QCOMPARE(closing.size(), ++closed);
+    }
+}
+
+/** However often the device changes, what is registered at cameras is what one device needs, and in the end nothing. */
+template <typename Dialog>
+void checkDevicesInTurn(const char *id)
+{
+    {
+        const Camera camera(id);
+        Dialog dialog(camera.device());
+        const std::size_t sinks = OrvSim::liveObjects().sinks;
+        QVERIFY(sinks > 0);
+        QVERIFY(dialog.SetDevice(camera.device()));
+        QCOMPARE(OrvSim::liveObjects().sinks, sinks);
+        QVERIFY(!dialog.SetDevice(nullptr));
+        QCOMPARE(OrvSim::liveObjects().sinks, std::size_t(0));
+        for (int i = 0; i < 10; ++i) {
+            const Camera other(i % 2 ? id : SimTest::monochrome);
+            QVERIFY(dialog.SetDevice(other.device()));
+            QVERIFY(i % 2 == 0 || OrvSim::liveObjects().sinks == sinks);
+            QVERIFY(dialog.SetDevice(camera.device())); // before the other one goes
+        }
+        QCOMPARE(OrvSim::liveObjects().sinks, sinks);
+    }
+    QCOMPARE(OrvSim::liveObjects().sinks, std::size_t(0));
+}
+
+/** A device without parameters, or with an error beside them, is none. */
+template <typename Dialog>
+void checkNoParameters(const char *id)
+{
+    const Camera camera(id);
+    Dialog dialog(camera.device());
+    for (const auto answer :
+         {OrvSim::Parameters::Null, OrvSim::Parameters::Error, OrvSim::Parameters::ArrayWithError}) {
+        OrvSim::setParameters(id, answer);
+        QVERIFY(!dialog.SetDevice(camera.device()));
+        QCOMPARE(OrvSim::liveObjects().sinks, std::size_t(0));
+    }
+    OrvSim::setParameters(id, OrvSim::Parameters::Normal);
+    QVERIFY(dialog.SetDevice(camera.device()));
+}
+
+/** A label, button or combo box that is seen with less than the size it asks for; empty when there is none. */
+inline QString cutWidget(const QWidget &window)
+{
+    const auto widgets = window.findChildren<QWidget *>();
+    for (const QWidget *const widget : widgets) {
+        const bool hasText =
+            widget->inherits("QLabel") || widget->inherits("QAbstractButton") || widget->inherits("QComboBox");
+        const QSize hint = widget->sizeHint();
+        if (hasText && widget->isVisible() && (widget->width() < hint.width() || widget->height() < hint.height()))
+            return widget->objectName();
+    }
+    return {};
+}
+
+/** The layouts have caught up with what the device brought, and everything fits. */
+inline void checkNothingIsCut(QWidget &window)
+{
+    QVERIFY(show(window));
+    QTRY_COMPARE(cutWidget(window), QString());
+}
+
+} // namespace DialogTest
