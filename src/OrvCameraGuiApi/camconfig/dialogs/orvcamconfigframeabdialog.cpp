@@ -161,7 +161,7 @@ void OrvCamConfigFrameABDialogPrivate::build()
     FeatureDialogCamera::setUpDialog(q);
     setCaptions();
     pageTitles = {ui.tabFrames->tabText(0), ui.tabFrames->tabText(1)};
-    // What is being typed is committed to its frame before another one is selected.
+    // The field that is typed in loses the focus, and with it the text, which would else go to the other frame.
     ui.tabFrames->tabBar()->setFocusPolicy(Qt::WheelFocus);
     ui.spBoxExposureTime->setValidate(true);
     ui.spBoxExposureTime->setValidateTyping(false);
