@@ -94,4 +94,32 @@ inline void checkNothingIsCut(QWidget &window)
     QTRY_COMPARE(cutWidget(window), QString());
 }
 
+/**
+ * A feature and its control are in step: the user's step to \a next is written once, what the camera reports is shown,
+ * and nothing is written for that. A write that the camera refuses is told.
+ */
+inline void checkBinding(const QWidget &dialog, const Camera &camera, const char *feature, const char *control,
+                         const char *next, const char *reported)
+{
+    auto *const widget = part<QWidget>(dialog, control);
+    QVERIFY(widget && widget->isEnabled());
+    QCOMPARE(shownBy(widget), camera.value(feature));
+    camera.takeWrites();
+
+    enterInto(widget, next);
+    QCOMPARE(camera.value(feature), QString::fromLatin1(next));
+    QCOMPARE(shownBy(widget), QString::fromLatin1(next));
+    QCOMPARE(camera.takeWrites(), 1);
+    QVERIFY(camera.set(feature, reported));
+    QCOMPARE(shownBy(widget), QString::fromLatin1(reported));
+    QCOMPARE(camera.takeWrites(), 1);
+    QVERIFY(!shownMessage());
+
+    QVERIFY(camera.refuse(feature));
+    enterInto(widget, next);
+    QCOMPARE(takeMessage(), refusal(feature, "GenICam: Generic error"));
+    QVERIFY(!shownMessage());
+    QCOMPARE(camera.value(feature), QString::fromLatin1(reported));
+}
+
 } // namespace DialogTest

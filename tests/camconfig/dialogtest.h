@@ -2,8 +2,14 @@
 
 #include "simtest.h"
 
+#include <OrvCameraGuiApi/widgets/qtorvsliderspinbox.h>
+#include <OrvCameraGuiApi/widgets/qtorvspinbox.h>
+#include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
+#include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
+
 #include <QAbstractButton>
 #include <QApplication>
+#include <QButtonGroup>
 #include <QComboBox>
 #include <QMessageBox>
 #include <QPointer>
@@ -86,6 +92,34 @@ inline const char *plugInBareCamera()
     return OrvSim::addDevice("ORV-XHCI-0", spec) ? name : nullptr;
 }
 
+/**
+ * Plugs in a two-frame camera that has not the features \a missing, and in whose description the first text of each
+ * pair is replaced by the second; it is opened with its name. Null when that fails.
+ */
+inline const char *plugInChangedCamera(const QVector<const char *> &missing,
+                                       const QVector<QPair<QByteArray, QByteArray>> &changes = {})
+{
+    const char *const name = "CHANGED";
+    OrvSim::DeviceSpec spec = OrvSim::twoFrameCamera();
+    auto description = QByteArray::fromStdString(spec.description);
+    auto powerUp = QByteArray::fromStdString(spec.powerUp);
+    for (const QByteArray feature : missing) {
+        description.replace('"' + feature + '"', "\"Other" + feature + '"');
+        description.replace('>' + feature + '<', ">Other" + feature + '<');
+        powerUp.replace("set " + feature + ' ', "# ").replace("clear " + feature + ' ', "# ");
+    }
+    for (const auto &[text, other] : changes) {
+        if (!description.contains(text))
+            return nullptr;
+        description.replace(text, other);
+    }
+    spec.name = name;
+    spec.id = name;
+    spec.description = description.toStdString();
+    spec.powerUp = powerUp.toStdString();
+    return OrvSim::addDevice("ORV-XHCI-0", spec) ? name : nullptr;
+}
+
 /** The widget of that name; null when there is none of that class. */
 template <typename Widget>
 Widget *part(const QWidget &window, const char *name)
@@ -131,6 +165,50 @@ inline void enter(QWidget *field, const char *text)
 {
     type(field, text);
     QTest::keyClick(field, Qt::Key_Return);
+}
+
+/** Clicks the mark of a check box or radio button, which may be much wider than that and its text. */
+inline void clickMark(QWidget *button)
+{
+    QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
+}
+
+/** What a control shows, in the words of the feature. */
+inline QString shownBy(const QWidget *control)
+{
+    if (auto *const box = qobject_cast<const QComboBox *>(control))
+        return box->currentText();
+    if (auto *const spinBox = qobject_cast<const QtOrvSpinBox *>(control))
+        return QString::number(spinBox->value());
+    if (auto *const spinBox = qobject_cast<const QtOrvSliderSpinBox *>(control))
+        return QString::number(spinBox->value());
+    auto *const button = qobject_cast<const QAbstractButton *>(control);
+    if (button && button->group())
+        return button->group()->checkedButton() ? button->group()->checkedButton()->text() : QString();
+    return QVariant(button && button->isChecked()).toString();
+}
+
+/** Lets the user set a control, a list by its keys; a hidden one takes keys all the same. */
+inline void enterInto(QWidget *control, const char *value)
+{
+    auto *const button = qobject_cast<QAbstractButton *>(control);
+    if (auto *const box = qobject_cast<QComboBox *>(control)) {
+        const int target = box->findText(QLatin1String(value));
+        for (int i = box->currentIndex(); target >= 0 && i != target; i += target > i ? 1 : -1)
+            QTest::keyClick(box, target > i ? Qt::Key_Down : Qt::Key_Up);
+    } else if (auto *const spinBox = qobject_cast<QtOrvSpinBox *>(control)) {
+        enter(spinBox->spinBox(), value);
+    } else if (auto *const sliderSpinBox = qobject_cast<QtOrvSliderSpinBox *>(control)) {
+        enter(sliderSpinBox->spinBox(), value);
+    } else if (button && button->group()) {
+        const auto buttons = button->group()->buttons();
+        for (QAbstractButton *const other : buttons) {
+            if (other->text() == QLatin1String(value))
+                clickMark(other);
+        }
+    } else {
+        QTest::keyClick(control, Qt::Key_Space);
+    }
 }
 
 /** The message on the screen, or null. */

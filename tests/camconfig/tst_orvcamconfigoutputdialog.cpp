@@ -32,34 +32,6 @@ private Q_SLOTS:
     void cutsNothing();
 };
 
-namespace {
-
-/** What a control shows, in the words of the feature. */
-QString shownBy(const QWidget *control)
-{
-    if (auto *const box = qobject_cast<const QComboBox *>(control))
-        return box->currentText();
-    if (auto *const spinBox = qobject_cast<const QtOrvSpinBox *>(control))
-        return QString::number(spinBox->value());
-    auto *const check = qobject_cast<const QCheckBox *>(control);
-    return check && check->isChecked() ? QStringLiteral("true") : QStringLiteral("false");
-}
-
-/** Lets the user set a control; a hidden one takes keys all the same. */
-void enterInto(QWidget *control, const char *value)
-{
-    if (auto *const box = qobject_cast<QComboBox *>(control)) {
-        while (box->currentText() != QLatin1String(value) && box->currentIndex() < box->count() - 1)
-            QTest::keyClick(box, Qt::Key_Down);
-    } else if (auto *const spinBox = qobject_cast<QtOrvSpinBox *>(control)) {
-        enter(spinBox->spinBox(), value);
-    } else {
-        QTest::keyClick(control, Qt::Key_Space);
-    }
-}
-
-} // namespace
-
 void OrvCamConfigOutputDialogTest::init()
 {
     TestCase::init();

@@ -2,6 +2,8 @@
 
 #include <OrvCameraGuiApi/widgets/qtorvsliderspinbox.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinbox.h>
+#include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
+#include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
 
 #include <QApplication>
 #include <QButtonGroup>
@@ -59,6 +61,33 @@ void disconnectOwnSignals(QObject *control)
         if (meta->method(i).methodType() == QMetaMethod::Signal)
             QObject::disconnect(control, meta->method(i), nullptr, QMetaMethod());
     }
+}
+
+template <typename Control>
+void showValue(Control *control, int value)
+{
+    control->setValue(value);
+}
+
+/**
+ * A composite's own setValue() goes by the positions of its slider, and the camera's value may lie between them. What
+ * shows already is left alone, and with it what is being typed.
+ */
+template <typename Composite>
+void showInComposite(Composite *composite, int value)
+{
+    if (composite->value() != value)
+        composite->spinBox()->setValue(value);
+}
+
+void showValue(QtOrvSpinBox *spinBox, int value)
+{
+    showInComposite(spinBox, value);
+}
+
+void showValue(QtOrvSliderSpinBox *spinBox, int value)
+{
+    showInComposite(spinBox, value);
 }
 
 QButtonGroup *groupOf(const OrvGui::OrvCamConfigMapData &record)
@@ -642,7 +671,7 @@ void OrvCamConfigMapper::showInt(OrvGenParam::Int *param, Control *control, IOrv
     if (alive)
         control->setSingleStep(view.step);
     if (alive)
-        control->setValue(view.value);
+        showValue(control, std::clamp(view.value, view.minimum, std::max(view.minimum, view.maximum)));
 }
 
 void OrvCamConfigMapper::updateSpinBox(OrvGenParam::Int *param, QtOrvSpinBox *spinBox)

@@ -2,7 +2,7 @@
 """Draws the icons of the library. Run by hand; the files are committed.
 
 Those of buttons go into images/, at 16 and, as @2x, at 32 pixels; those of windows into icons/, with all sizes in one
-file each.
+file each, and so do lamps, which labels show as pixmaps, with one size a file.
 
 Each icon is a list of shapes on a canvas of 16 by 16 units, painted one over the other. A shape is a function that
 tells the distance of a point from its border, in units, negative inside; from that the edges are smoothed. Colors are
@@ -118,6 +118,15 @@ WINDOW_ICONS = {
 }
 
 
+
+def lamp(color):
+    return [(circle(8, 8, 7), tuple(part * 2 // 3 for part in color)), (circle(8, 8, 6), color),
+            (circle(6.2, 5.8, 1.5), tuple((part + 2 * 255) // 3 for part in color))]
+
+
+LAMPS = {'greenball': lamp(GREEN), 'redball': lamp(RED)}
+
+
 def blend(below, color, coverage):
     """Paints over a pixel (red, green, blue, opacity), all from 0 to 1."""
     opacity = coverage + below[3] * (1 - coverage)
@@ -152,9 +161,9 @@ def png(size, rows):
             + chunk(b'IEND', b''))
 
 
-def ico(shapes):
-    """An icon file of PNG pictures, from 16 to 64 pixels."""
-    pictures = [(16 * scale, png(*draw(shapes, scale))) for scale in (1, 2, 3, 4)]
+def ico(shapes, scales=(1, 2, 3, 4)):
+    """An icon file of PNG pictures, one for each scale of 16 pixels."""
+    pictures = [(16 * scale, png(*draw(shapes, scale))) for scale in scales]
     directory = struct.pack('<HHH', 0, 1, len(pictures))
     offset = len(directory) + 16 * len(pictures)
     for size, data in pictures:
@@ -173,6 +182,9 @@ def main():
             (images / f'{name}{suffix}.png').write_bytes(png(*draw(shapes, scale)))
     for name, shapes in WINDOW_ICONS.items():
         (icons / f'{name}.ico').write_bytes(ico(shapes))
+    for name, shapes in LAMPS.items():
+        for suffix, scale in (('', 1), ('@2x', 2)):
+            (icons / f'{name}{suffix}.ico').write_bytes(ico(shapes, (scale,)))
 
 
 if __name__ == '__main__':

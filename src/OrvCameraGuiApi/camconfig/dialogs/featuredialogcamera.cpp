@@ -129,6 +129,13 @@ void FeatureDialogCamera::stopListening(OrvGenParam::Param *param, OrvGenParam::
     m_sinks.removeAll({param, sink});
 }
 
+void FeatureDialogCamera::listenBeforeMapper(OrvGenParam::Param *param, OrvGenParam::ParamEventSink *sink)
+{
+    listen(param, sink);
+    if (param)
+        param->UnregisterEvent(&mapper);
+}
+
 bool FeatureDialogCamera::isForGuiThread(OrvGenParam::Param *param, OrvGenParam::ParamEventSink *sink)
 {
     if (QThread::currentThread() == m_context.thread())

@@ -59,6 +59,12 @@ public:
     void stopListening(OrvGenParam::Param *param, OrvGenParam::ParamEventSink *sink);
 
     /**
+     * The same for a bound parameter, in the mapper's place: for a dialog whose own rules have to come after the
+     * mapper's. The sink passes each notification on to the mapper's OnParameterUpdate() and then applies its rules.
+     */
+    void listenBeforeMapper(OrvGenParam::Param *param, OrvGenParam::ParamEventSink *sink);
+
+    /**
      * For the head of the dialog's OnParameterUpdate(): false on the GUI thread. On any other thread answers true, and
      * the sink is called on the GUI thread as soon as that gets to it, if it still listens.
      */
