@@ -3,9 +3,13 @@
 #include <GenApi/INodeMap.h>
 
 #include <QString>
-#include <QStringList>
 
 #include <memory>
+
+namespace OrvCam {
+class DeviceInfo;
+class System;
+} // namespace OrvCam
 
 /** Something that has features to show. Its node map lives as long as it does. */
 class CameraSource
@@ -41,5 +45,8 @@ std::unique_ptr<CameraSource> openDescription(const QString &path);
  */
 std::unique_ptr<CameraSource> openCamera(const QString &id);
 
-/** The identifiers of all cameras that the process's camera system finds now. */
-QStringList cameraIds();
+/** The process's camera system, never null. Throws a CameraSourceError. */
+std::shared_ptr<OrvCam::System> cameraSystem();
+
+/** The camera of that system that \a info describes, opened; null describes none. Throws a CameraSourceError. */
+std::unique_ptr<CameraSource> openCamera(const std::shared_ptr<OrvCam::System> &system, OrvCam::DeviceInfo *info);

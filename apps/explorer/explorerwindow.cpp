@@ -1,5 +1,6 @@
 #include "explorerwindow.h"
 
+#include "cameradialog.h"
 #include "camerasource.h"
 #include "simulationmenu.h"
 #include "widgetspage.h"
@@ -86,8 +87,8 @@ void ExplorerWindow::createFileMenu()
 {
     QMenu *const file = menuBar()->addMenu(tr("&File"));
     file->addAction(tr("&Open Description..."), this, &ExplorerWindow::chooseDescription, QKeySequence::Open);
-    QMenu *const cameras = file->addMenu(tr("Open &Camera"));
-    connect(cameras, &QMenu::aboutToShow, this, [this, cameras] { listCameras(*cameras); });
+    file->addAction(tr("Open &Camera..."), this, &ExplorerWindow::chooseCamera)
+        ->setObjectName(QStringLiteral("openCamera"));
     file->addSeparator();
     file->addAction(tr("&Save View State..."), this, &ExplorerWindow::chooseStateToSave, QKeySequence::Save);
     file->addAction(tr("&Load View State..."), this, &ExplorerWindow::chooseStateToLoad);
@@ -154,14 +155,13 @@ void ExplorerWindow::showDescription(const QString &path)
     }
 }
 
-void ExplorerWindow::listCameras(QMenu &menu)
+void ExplorerWindow::chooseCamera()
 {
-    menu.clear();
-    const QStringList ids = cameraIds();
-    for (const QString &id : ids) {
-        QAction *const action = menu.addAction(id, this, [this, id] { showCamera(id); });
-        action->setCheckable(true);
-        action->setChecked(id == m_source->id());
+    try {
+        if (std::unique_ptr<CameraSource> source = ::chooseCamera(this))
+            setSource(std::move(source));
+    } catch (const CameraSourceError &e) {
+        report(e.message);
     }
 }
 

@@ -6,7 +6,6 @@
 
 class CameraSource;
 class QLabel;
-class QMenu;
 class QModelIndex;
 class QTabWidget;
 class SimulationMenu;
@@ -46,7 +45,7 @@ private:
     void createHelpMenu();
 
     void setSource(std::unique_ptr<CameraSource> source);
-    void listCameras(QMenu &menu);
+    void chooseCamera();
     void chooseDescription();
     void chooseStateToSave();
     void chooseStateToLoad();
