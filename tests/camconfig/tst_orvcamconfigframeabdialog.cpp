@@ -97,7 +97,7 @@ private:
 const char *const changedCamera = "CHANGED";
 
 /** A two-frame camera with another description; the texts are replaced in turn. */
-void plugInChangedCamera(const std::vector<std::pair<std::string, std::string>> &changes)
+void plugInEditedCamera(const std::vector<std::pair<std::string, std::string>> &changes)
 {
     OrvSim::DeviceSpec spec = OrvSim::twoFrameCamera();
     spec.name = changedCamera;
@@ -260,7 +260,7 @@ void OrvCamConfigFrameABDialogTest::aMissingFeatureDisablesItsControl()
 {
     QFETCH(QString, control);
     const std::string feature = QTest::currentDataTag();
-    plugInChangedCamera(without(feature));
+    plugInEditedCamera(without(feature));
     const Camera whole;
     const Camera poor(changedCamera);
     QVERIFY(whole.device() && poor.device());
@@ -349,7 +349,7 @@ void OrvCamConfigFrameABDialogTest::exposureTimeShowsWhatTheCameraTakes()
 void OrvCamConfigFrameABDialogTest::exposureTimeNeedsLinesAndClocks()
 {
     const std::string name = "<DisplayName>Frame Exposure Clocks</DisplayName>";
-    plugInChangedCamera({{name, name + "<pIsLocked>Frame_WdrIsOff</pIsLocked>"}});
+    plugInEditedCamera({{name, name + "<pIsLocked>Frame_WdrIsOff</pIsLocked>"}});
     const Camera camera(changedCamera);
     QVERIFY(camera.device());
     OrvCamConfigFrameABDialog dialog(camera.device());
@@ -381,7 +381,7 @@ void OrvCamConfigFrameABDialogTest::exposureTimeOfOddClocks()
     QFETCH(QByteArray, value);
     QFETCH(QString, shown);
     QFETCH(int, writes);
-    plugInChangedCamera({{"<pMax>Frame_ExposureClocksMax</pMax>", "<Max>99999</Max>"},
+    plugInEditedCamera({{"<pMax>Frame_ExposureClocksMax</pMax>", "<Max>99999</Max>"},
                          {"<pValue>PixelClockReg</pValue><Min>1</Min>", "<pValue>PixelClockReg</pValue>"}});
     const Camera camera(changedCamera);
     QVERIFY(camera.set("Frame_FixedFramePeriodEnable", "false"));
@@ -471,7 +471,7 @@ void OrvCamConfigFrameABDialogTest::digitalGain()
 
 void OrvCamConfigFrameABDialogTest::digitalGainWithOneFeature()
 {
-    plugInChangedCamera(without("Frame_DigitalCourseGain"));
+    plugInEditedCamera(without("Frame_DigitalCourseGain"));
     {
         const Camera camera(changedCamera);
         OrvCamConfigFrameABDialog dialog(camera.device());
@@ -483,7 +483,7 @@ void OrvCamConfigFrameABDialogTest::digitalGainWithOneFeature()
         QCOMPARE(camera.value("Frame_DigitalFineGain"), QStringLiteral("32"));
     }
     OrvSim::reset();
-    plugInChangedCamera(without("Frame_DigitalFineGain"));
+    plugInEditedCamera(without("Frame_DigitalFineGain"));
     const Camera camera(changedCamera);
     OrvCamConfigFrameABDialog dialog(camera.device());
     QVERIFY(show(dialog));
@@ -560,7 +560,7 @@ void OrvCamConfigFrameABDialogTest::frameModeOfAnotherWindow()
 
 void OrvCamConfigFrameABDialogTest::pagesComeBack()
 {
-    plugInChangedCamera({{"<EnumEntry Name=\"FrameB\" NameSpace=\"Custom\"><Value>1</Value></EnumEntry>\n"
+    plugInEditedCamera({{"<EnumEntry Name=\"FrameB\" NameSpace=\"Custom\"><Value>1</Value></EnumEntry>\n"
                           "    <pValue>FrameAB_SelectorReg</pValue>",
                           "<pValue>FrameAB_SelectorReg</pValue>"}});
     const Camera single(changedCamera);
