@@ -79,6 +79,7 @@ public:
         }
     }
 
+    OrvCam::Device *device() const override { return m_device.get(); }
     GenApi::INodeMap *nodeMap() const override { return m_nodeMap; }
     QString name() const override { return m_name; }
     QString id() const override { return m_id; }

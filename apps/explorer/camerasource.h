@@ -7,6 +7,7 @@
 #include <memory>
 
 namespace OrvCam {
+class Device;
 class DeviceInfo;
 class System;
 } // namespace OrvCam
@@ -28,6 +29,9 @@ public:
 
     /** The identifier of the camera; empty where there is none. */
     virtual QString id() const { return {}; }
+
+    /** The opened camera; null where there is none. */
+    virtual OrvCam::Device *device() const { return nullptr; }
 };
 
 /** Thrown when there is nothing to show; the message is one line for people. */

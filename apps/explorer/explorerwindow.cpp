@@ -2,6 +2,7 @@
 
 #include "cameradialog.h"
 #include "camerasource.h"
+#include "configuremenu.h"
 #include "simulationmenu.h"
 #include "widgetspage.h"
 
@@ -46,6 +47,8 @@ ExplorerWindow::ExplorerWindow(std::unique_ptr<CameraSource> source, QWidget *pa
     statusBar()->addPermanentWidget(m_pollingLabel);
     createFileMenu();
     createViewMenu();
+    m_configure = new ConfigureMenu(this);
+    menuBar()->addMenu(m_configure);
     createSimulationMenu();
     createHelpMenu();
     setSource(std::move(source));
@@ -55,7 +58,9 @@ ExplorerWindow::ExplorerWindow(std::unique_ptr<CameraSource> source, QWidget *pa
 
 ExplorerWindow::~ExplorerWindow()
 {
-    m_view->clearParams(); // the view goes after the node map
+    // View and dialogs go after the camera.
+    m_configure->setDevice(nullptr);
+    m_view->clearParams();
 }
 
 void ExplorerWindow::createPages()
@@ -125,6 +130,7 @@ void ExplorerWindow::createHelpMenu()
 
 void ExplorerWindow::setSource(std::unique_ptr<CameraSource> source)
 {
+    m_configure->setDevice(source->device()); // before the former one goes
     m_view->setParams(source->nodeMap());
     m_source = std::move(source);
     setWindowTitle(tr("%1 - Camera Explorer").arg(m_source->name()));

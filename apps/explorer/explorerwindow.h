@@ -5,6 +5,7 @@
 #include <memory>
 
 class CameraSource;
+class ConfigureMenu;
 class QLabel;
 class QModelIndex;
 class QTabWidget;
@@ -37,6 +38,9 @@ public:
     QStringList pageNames() const;
     void showPage(const QString &name);
 
+    /** The menu with the dialogs for groups of features. */
+    ConfigureMenu &configureMenu() const { return *m_configure; }
+
 private:
     void createPages();
     void createFileMenu();
@@ -59,6 +63,7 @@ private:
     std::unique_ptr<CameraSource> m_source;
     QTabWidget *const m_pages;
     OrvGui::OrvGenParamTreeView *const m_view;
+    ConfigureMenu *m_configure = nullptr;
     SimulationMenu *m_simulation = nullptr;
     QLabel *const m_pollingLabel;
 };

@@ -1,5 +1,6 @@
 #include "cameradialog.h"
 #include "camerasource.h"
+#include "configuremenu.h"
 #include "explorerwindow.h"
 #include "options.h"
 
@@ -89,6 +90,14 @@ int saveScreenshots(ExplorerWindow &window, const QString &directory)
     for (auto page = pages.begin(); status == 0 && page != pages.end(); ++page) {
         window.showPage(*page);
         status = saveScreenshot(window, QDir(directory).filePath(*page + QStringLiteral(".png")));
+    }
+    const QStringList dialogs = window.configureMenu().dialogNames();
+    for (auto name = dialogs.begin(); status == 0 && name != dialogs.end(); ++name) {
+        QDialog &dialog = *window.configureMenu().dialog(*name);
+        dialog.show(); // fits its size to what is in it
+        QCoreApplication::processEvents();
+        status = saveScreenshot(dialog, QDir(directory).filePath(*name + QStringLiteral(".png")));
+        dialog.close();
     }
     return status == 0 ? saveDialogs(QDir(directory)) : status;
 }

@@ -2,9 +2,13 @@
 
 #include "dialogtest.h"
 
+#include <cutwidget.h>
+
 #include <QDialog>
 #include <QPushButton>
 #include <QSignalSpy>
+
+#include <initializer_list>
 
 /** What holds for every feature dialog, checked for one of them. */
 namespace DialogTest {
@@ -73,20 +77,6 @@ void checkNoParameters(const char *id)
     QVERIFY(dialog.SetDevice(camera.device()));
 }
 
-/** A label, button or combo box that is seen with less than the size it asks for; empty when there is none. */
-inline QString cutWidget(const QWidget &window)
-{
-    const auto widgets = window.findChildren<QWidget *>();
-    for (const QWidget *const widget : widgets) {
-        const bool hasText =
-            widget->inherits("QLabel") || widget->inherits("QAbstractButton") || widget->inherits("QComboBox");
-        const QSize hint = widget->sizeHint();
-        if (hasText && widget->isVisible() && (widget->width() < hint.width() || widget->height() < hint.height()))
-            return widget->objectName();
-    }
-    return {};
-}
-
 /** The layouts have caught up with what the device brought, and everything fits. */
 inline void checkNothingIsCut(QWidget &window)
 {
@@ -94,13 +84,60 @@ inline void checkNothingIsCut(QWidget &window)
     QTRY_COMPARE(cutWidget(window), QString());
 }
 
-/**
- * A feature and its control are in step: the user's step to \a next is written once, what the camera reports is shown,
- * and nothing is written for that. A write that the camera refuses is told.
+/** All of the above for a dialog that needs no more than a device; it is also shown without one, and on a bare camera.
  */
-inline void checkBinding(const QWidget &dialog, const Camera &camera, const char *feature, const char *control,
-                         const char *next, const char *reported)
+template <typename Dialog>
+void checkFeatureDialog()
 {
+    const Camera bare(plugInBareCamera());
+    const Camera full;
+    checkKeysAndClosing<Dialog>(full.device());
+    checkDevicesInTurn<Dialog>(SimTest::twoFrame);
+    checkNoParameters<Dialog>(SimTest::twoFrame);
+    Dialog dialog(nullptr);
+    QVERIFY(!dialog.isEnabled());
+    checkNothingIsCut(dialog);
+    for (OrvCam::Device *const device : {bare.device(), full.device()}) {
+        QVERIFY(dialog.SetDevice(device));
+        QVERIFY(dialog.isEnabled());
+        checkNothingIsCut(dialog);
+    }
+    QVERIFY(!dialog.SetDevice(nullptr));
+    QVERIFY(!dialog.isEnabled());
+}
+
+/** A row of a table of bindings: the user sets \a next, in one step of a list, and the camera reports \a reported. */
+struct Binding
+{
+    const char *feature;
+    const char *control;
+    const char *next;
+    const char *reported;
+};
+
+inline void addBindings(std::initializer_list<Binding> bindings)
+{
+    QTest::addColumn<QByteArray>("control");
+    QTest::addColumn<QByteArray>("next");
+    QTest::addColumn<QByteArray>("reported");
+    for (const Binding &row : bindings)
+        QTest::newRow(row.feature) << QByteArray(row.control) << QByteArray(row.next) << QByteArray(row.reported);
+}
+
+/**
+ * A feature and its control are in step: what the user sets is written once, what the camera reports is shown, and
+ * nothing is written for that. A write that the camera refuses is told.
+ */
+template <typename Dialog>
+void checkBinding(const Camera &camera)
+{
+    QFETCH(QByteArray, control);
+    QFETCH(QByteArray, next);
+    QFETCH(QByteArray, reported);
+    const char *const feature = QTest::currentDataTag();
+    Dialog dialog(camera.device());
+    QVERIFY(dialog.SetDevice(camera.device())); // twice makes no second write
+    QVERIFY(show(dialog));
     auto *const widget = part<QWidget>(dialog, control);
     QVERIFY(widget && widget->isEnabled());
     QCOMPARE(shownBy(widget), camera.value(feature));
@@ -117,6 +154,8 @@ inline void checkBinding(const QWidget &dialog, const Camera &camera, const char
 
     QVERIFY(camera.refuse(feature));
     enterInto(widget, next);
+    QVERIFY(shownMessage());
+    QCOMPARE(shownMessage()->parentWidget()->parentWidget(), widget->parentWidget()); // it, or a button of its group
     QCOMPARE(takeMessage(), refusal(feature, "GenICam: Generic error"));
     QVERIFY(!shownMessage());
     QCOMPARE(camera.value(feature), QString::fromLatin1(reported));

@@ -24,7 +24,6 @@ private Q_SLOTS:
     void bindsBothWays();
     void thresholdsNeedTheirCorrection();
     void formatsFollowTheDepth();
-    void tellsRefusedWrites();
     void hidesTheCameraLinkGroup();
     void controlsAreDisabledWhereTheCameraLacksFeatures();
     void isDisabledWithoutADevice();
@@ -40,52 +39,29 @@ void OrvCamConfigOutputDialogTest::init()
 
 void OrvCamConfigOutputDialogTest::bindsBothWays_data()
 {
-    QTest::addColumn<QString>("control");
-    QTest::addColumn<QByteArray>("next"); // what the user sets: for a list, the item after the current one
-    QTest::addColumn<QByteArray>("reported");
-    const auto row = [](const char *feature, const char *control, const char *next, const char *reported) {
-        QTest::newRow(feature) << QString::fromLatin1(control) << QByteArray(next) << QByteArray(reported);
-    };
-    row("PixelFormat", "cmBoxPixelFormat", "BayerRG10", "BayerRG12");
-    row("SensorADCBitDepth11", "cmBoxTaps", "Taps4", "Taps1");
-    row("SensorADCBitDepth", "cmBoxDepth", "Bits12", "Bits8");
-    row("TestPattern", "cmBoxTestMode", "GreyHorizontalRamp", "Checkerboard");
-    row("LUTSelector", "cmBoxLut", "LUT2", "LUT1");
-    row("DefectPixelCorrection", "cmBoxDpc", "Dynamic", "Off");
-    row("HotPixelCorrection", "cmBoxHpc", "Dynamic", "Off");
-    row("DefectPixelThreshold", "spBoxDpcDynThres", "77", "4095");
-    row("HotPixelThreshold", "spBoxHpcDynThres", "78", "0");
-    row("LUTEnable", "chBoxEnableLut", "true", "false");
-    row("ReverseX", "chBoxHorMirror", "true", "false");
-    row("ReverseY", "chBoxVerMirror", "true", "false");
+    addBindings({{"PixelFormat", "cmBoxPixelFormat", "BayerRG10", "BayerRG12"},
+                 {"SensorADCBitDepth11", "cmBoxTaps", "Taps4", "Taps1"},
+                 {"SensorADCBitDepth", "cmBoxDepth", "Bits12", "Bits8"},
+                 {"TestPattern", "cmBoxTestMode", "GreyHorizontalRamp", "Checkerboard"},
+                 {"LUTSelector", "cmBoxLut", "LUT2", "LUT1"},
+                 {"DefectPixelCorrection", "cmBoxDpc", "Dynamic", "Off"},
+                 {"HotPixelCorrection", "cmBoxHpc", "Dynamic", "Off"},
+                 {"DefectPixelThreshold", "spBoxDpcDynThres", "77", "4095"},
+                 {"HotPixelThreshold", "spBoxHpcDynThres", "78", "0"},
+                 {"LUTEnable", "chBoxEnableLut", "true", "false"},
+                 {"ReverseX", "chBoxHorMirror", "true", "false"},
+                 {"ReverseY", "chBoxVerMirror", "true", "false"}});
 }
 
 void OrvCamConfigOutputDialogTest::bindsBothWays()
 {
-    QFETCH(QString, control);
-    QFETCH(QByteArray, next);
-    QFETCH(QByteArray, reported);
     const char *const feature = QTest::currentDataTag();
     const Camera camera;
     camera.set("DefectPixelCorrection", qstrcmp(feature, "DefectPixelThreshold") == 0 ? "Dynamic" : "Static");
     camera.set("HotPixelCorrection", qstrcmp(feature, "HotPixelThreshold") == 0 ? "Dynamic" : "Static");
     if (qstrcmp(feature, "SensorADCBitDepth") == 0)
         camera.set("SensorADCBitDepth", "Bits10");
-    OrvCamConfigOutputDialog dialog(camera.device());
-    QVERIFY(dialog.SetDevice(camera.device())); // twice makes no second write
-    QVERIFY(show(dialog));
-    auto *const widget = part<QWidget>(dialog, control.toLatin1());
-    QVERIFY(widget && widget->isEnabled());
-    QCOMPARE(shownBy(widget), camera.value(feature));
-    camera.takeWrites();
-
-    enterInto(widget, next);
-    QCOMPARE(camera.value(feature), QString::fromLatin1(next));
-    QCOMPARE(camera.takeWrites(), 1);
-    QVERIFY(camera.set(feature, reported));
-    QCOMPARE(shownBy(widget), QString::fromLatin1(reported));
-    QCOMPARE(camera.takeWrites(), 1);
-    QVERIFY(!shownMessage());
+    checkBinding<OrvCamConfigOutputDialog>(camera);
 }
 
 void OrvCamConfigOutputDialogTest::thresholdsNeedTheirCorrection()
@@ -122,28 +98,6 @@ void OrvCamConfigOutputDialogTest::formatsFollowTheDepth()
     QVERIFY(isChoosable("BayerRG8") && !isChoosable("BayerRG10"));
     QVERIFY(camera.set("SensorADCBitDepth", "Bits12"));
     QVERIFY(isChoosable("BayerRG12"));
-}
-
-void OrvCamConfigOutputDialogTest::tellsRefusedWrites()
-{
-    const Camera camera;
-    OrvCamConfigOutputDialog dialog(camera.device());
-    QVERIFY(show(dialog));
-    const std::pair<const char *, const char *> refused[] = {
-        {"TestPattern", "cmBoxTestMode"}, {"HotPixelThreshold", "spBoxHpcDynThres"}, {"ReverseX", "chBoxHorMirror"}};
-    for (const auto &[feature, control] : refused) {
-        QVERIFY(camera.refuse(feature));
-        auto *const widget = part<QWidget>(dialog, control);
-        const QString before = camera.value(feature);
-        if (auto *const box = qobject_cast<QComboBox *>(widget))
-            QTest::keyClick(box, Qt::Key_Down); // one step; each would be told
-        else
-            enterInto(widget, "5");
-        QVERIFY(shownMessage());
-        QCOMPARE(shownMessage()->parentWidget(), widget);
-        QCOMPARE(takeMessage(), refusal(feature, "GenICam: Generic error"));
-        QCOMPARE(camera.value(feature), before);
-    }
 }
 
 void OrvCamConfigOutputDialogTest::hidesTheCameraLinkGroup()

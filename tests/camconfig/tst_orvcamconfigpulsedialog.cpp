@@ -28,7 +28,6 @@ private Q_SLOTS:
     void survivesTheCameraWhileEdited();
     void disablesWhatTheCameraLacks();
     void keepsTheRulesOfFeatureDialogs();
-    void cutsNothing();
 };
 
 namespace {
@@ -58,31 +57,19 @@ void OrvCamConfigPulseDialogTest::init()
 
 void OrvCamConfigPulseDialogTest::bindsBothWays_data()
 {
-    QTest::addColumn<QByteArray>("control");
-    QTest::addColumn<QByteArray>("next");
-    QTest::addColumn<QByteArray>("reported");
-    const auto row = [](const char *feature, const char *control, const char *next, const char *reported) {
-        QTest::newRow(feature) << QByteArray(control) << QByteArray(next) << QByteArray(reported);
-    };
-    row("PulseGenGranularity", "cmBoxGranularity", "x10us", "x100us");
-    row("PulseGenPeriod", "spBoxPeriod", "20000", "1000");
-    row("PulseGenWidth", "spBoxWidth", "123457", "1");
-    row("PulseGenNumPulses", "spBoxNumPulses", "65536", "7");
-    row("PulseGenMode", "radioBtnSend", "Continuous", "NumberOfPulses");
-    row("PulseGenEnable", "pushBtnPulseEnable", "true", "false");
+    addBindings({{"PulseGenGranularity", "cmBoxGranularity", "x10us", "x100us"},
+                 {"PulseGenPeriod", "spBoxPeriod", "20000", "1000"},
+                 {"PulseGenWidth", "spBoxWidth", "123457", "1"},
+                 {"PulseGenNumPulses", "spBoxNumPulses", "65536", "7"},
+                 {"PulseGenMode", "radioBtnSend", "Continuous", "NumberOfPulses"},
+                 {"PulseGenEnable", "pushBtnPulseEnable", "true", "false"}});
 }
 
 void OrvCamConfigPulseDialogTest::bindsBothWays()
 {
-    QFETCH(QByteArray, control);
-    QFETCH(QByteArray, next);
-    QFETCH(QByteArray, reported);
     const Camera camera;
     QVERIFY(camera.set("PulseGenMode", "NumberOfPulses"));
-    OrvCamConfigPulseDialog dialog(camera.device());
-    QVERIFY(dialog.SetDevice(camera.device())); // twice makes no second write
-    QVERIFY(show(dialog));
-    checkBinding(dialog, camera, QTest::currentDataTag(), control, next, reported);
+    checkBinding<OrvCamConfigPulseDialog>(camera);
 }
 
 void OrvCamConfigPulseDialogTest::tellsDelayAndFrequency_data()
@@ -224,28 +211,11 @@ void OrvCamConfigPulseDialogTest::disablesWhatTheCameraLacks()
                                    "radioBtnContinious", "radioBtnSend", "pushBtnPulseEnable"})
         QVERIFY2(!part<QWidget>(dialog, name)->isEnabled(), name);
     QCOMPARE(generatorState(dialog), resting);
-    QVERIFY(!dialog.SetDevice(nullptr));
-    QVERIFY(!dialog.isEnabled());
 }
 
 void OrvCamConfigPulseDialogTest::keepsTheRulesOfFeatureDialogs()
 {
-    const Camera camera;
-    checkKeysAndClosing<OrvCamConfigPulseDialog>(camera.device());
-    checkDevicesInTurn<OrvCamConfigPulseDialog>(SimTest::twoFrame);
-    checkNoParameters<OrvCamConfigPulseDialog>(SimTest::twoFrame);
-}
-
-void OrvCamConfigPulseDialogTest::cutsNothing()
-{
-    const Camera bare(plugInBareCamera());
-    const Camera full;
-    OrvCamConfigPulseDialog dialog(nullptr);
-    checkNothingIsCut(dialog);
-    for (OrvCam::Device *const device : {bare.device(), full.device()}) {
-        QVERIFY(dialog.SetDevice(device));
-        checkNothingIsCut(dialog);
-    }
+    checkFeatureDialog<OrvCamConfigPulseDialog>();
 }
 
 ORV_TEST_MAIN(OrvCamConfigPulseDialogTest)

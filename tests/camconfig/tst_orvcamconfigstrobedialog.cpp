@@ -25,7 +25,6 @@ private Q_SLOTS:
     void survivesTheCameraWhileEdited();
     void disablesWhatTheCameraLacks();
     void keepsTheRulesOfFeatureDialogs();
-    void cutsNothing();
 };
 
 namespace {
@@ -51,38 +50,26 @@ void OrvCamConfigStrobeDialogTest::init()
 
 void OrvCamConfigStrobeDialogTest::bindsBothWays_data()
 {
-    QTest::addColumn<QByteArray>("control");
-    QTest::addColumn<QByteArray>("next");
-    QTest::addColumn<QByteArray>("reported");
-    const auto row = [](const char *feature, const char *control, const char *next, const char *reported) {
-        QTest::newRow(feature) << QByteArray(control) << QByteArray(next) << QByteArray(reported);
-    };
-    row("Strobe1Mode", "cmBoxStrobe1Mode", "Off", "On");
-    row("Strobe2Mode", "cmBoxStrobe2Mode", "Off", "On");
-    row("Strobe1Reference", "cmBoxStrobe1Ref", "ReadoutStart", "ExposureStart");
-    row("Strobe2Reference", "cmBoxStrobe2Ref", "ExposureStart", "ReadoutStart");
-    row("OUT1Polarity", "cmBoxOut1Polarity", "ActiveLow", "ActiveHigh");
-    row("OUT2Polarity", "cmBoxOut2Polarity", "ActiveHigh", "ActiveLow");
-    row("OUT1Selector", "cmBoxOut1Selector", "Strobe2", "Strobe1");
-    row("OUT2Selector", "cmBoxOut2Selector", "Exposure", "TriggerPulse");
-    // Numbers that are and numbers that are not positions of the sliders.
-    row("Strobe1Delay", "spBoxStrobe1Delay", "1000", "0");
-    row("Strobe2Delay", "spBoxStrobe2Delay", "123457", "1000000");
-    row("Strobe1Width", "spBoxStrobe1Width", "1", "54321");
-    row("Strobe2Width", "spBoxStrobe2Width", "999999", "1001");
+    addBindings({{"Strobe1Mode", "cmBoxStrobe1Mode", "Off", "On"},
+                 {"Strobe2Mode", "cmBoxStrobe2Mode", "Off", "On"},
+                 {"Strobe1Reference", "cmBoxStrobe1Ref", "ReadoutStart", "ExposureStart"},
+                 {"Strobe2Reference", "cmBoxStrobe2Ref", "ExposureStart", "ReadoutStart"},
+                 {"OUT1Polarity", "cmBoxOut1Polarity", "ActiveLow", "ActiveHigh"},
+                 {"OUT2Polarity", "cmBoxOut2Polarity", "ActiveHigh", "ActiveLow"},
+                 {"OUT1Selector", "cmBoxOut1Selector", "Strobe2", "Strobe1"},
+                 {"OUT2Selector", "cmBoxOut2Selector", "Exposure", "TriggerPulse"},
+                 // Numbers that are and numbers that are not positions of the sliders.
+                 {"Strobe1Delay", "spBoxStrobe1Delay", "1000", "0"},
+                 {"Strobe2Delay", "spBoxStrobe2Delay", "123457", "1000000"},
+                 {"Strobe1Width", "spBoxStrobe1Width", "1", "54321"},
+                 {"Strobe2Width", "spBoxStrobe2Width", "999999", "1001"}});
 }
 
 void OrvCamConfigStrobeDialogTest::bindsBothWays()
 {
-    QFETCH(QByteArray, control);
-    QFETCH(QByteArray, next);
-    QFETCH(QByteArray, reported);
     const Camera camera;
     QVERIFY(camera.set("Strobe2Mode", "On"));
-    OrvCamConfigStrobeDialog dialog(camera.device());
-    QVERIFY(dialog.SetDevice(camera.device())); // twice makes no second write
-    QVERIFY(show(dialog));
-    checkBinding(dialog, camera, QTest::currentDataTag(), control, next, reported);
+    checkBinding<OrvCamConfigStrobeDialog>(camera);
 }
 
 void OrvCamConfigStrobeDialogTest::timesNeedTheirStrobe()
@@ -199,11 +186,8 @@ void OrvCamConfigStrobeDialogTest::disablesWhatTheCameraLacks()
 {
     const Camera full;
     const Camera bare(plugInBareCamera());
-    OrvCamConfigStrobeDialog dialog(nullptr);
-    QVERIFY(!dialog.isEnabled());
-    QVERIFY(dialog.SetDevice(full.device()));
+    OrvCamConfigStrobeDialog dialog(full.device());
     QVERIFY(dialog.SetDevice(bare.device()));
-    QVERIFY(dialog.isEnabled());
     const auto controls = dialog.findChildren<QComboBox *>();
     QCOMPARE(controls.size(), 8);
     for (const QComboBox *const control : controls)
@@ -215,22 +199,7 @@ void OrvCamConfigStrobeDialogTest::disablesWhatTheCameraLacks()
 
 void OrvCamConfigStrobeDialogTest::keepsTheRulesOfFeatureDialogs()
 {
-    const Camera camera;
-    checkKeysAndClosing<OrvCamConfigStrobeDialog>(camera.device());
-    checkDevicesInTurn<OrvCamConfigStrobeDialog>(SimTest::twoFrame);
-    checkNoParameters<OrvCamConfigStrobeDialog>(SimTest::twoFrame);
-}
-
-void OrvCamConfigStrobeDialogTest::cutsNothing()
-{
-    const Camera bare(plugInBareCamera());
-    const Camera full;
-    OrvCamConfigStrobeDialog dialog(nullptr);
-    checkNothingIsCut(dialog);
-    for (OrvCam::Device *const device : {bare.device(), full.device()}) {
-        QVERIFY(dialog.SetDevice(device));
-        checkNothingIsCut(dialog);
-    }
+    checkFeatureDialog<OrvCamConfigStrobeDialog>();
 }
 
 ORV_TEST_MAIN(OrvCamConfigStrobeDialogTest)

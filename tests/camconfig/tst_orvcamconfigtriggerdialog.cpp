@@ -5,6 +5,10 @@
 
 #include <QCheckBox>
 
+#include <array>
+#include <thread>
+#include <utility>
+
 using namespace DialogTest;
 using OrvGui::OrvCamConfigTriggerDialog;
 
@@ -24,7 +28,6 @@ private Q_SLOTS:
     void nothingIsLeftOfTheFormerCamera();
     void survivesTheCameraWhileEdited();
     void keepsTheRulesOfFeatureDialogs();
-    void cutsNothing();
 };
 
 namespace {
@@ -59,28 +62,16 @@ void OrvCamConfigTriggerDialogTest::init()
 
 void OrvCamConfigTriggerDialogTest::bindsBothWays_data()
 {
-    QTest::addColumn<QByteArray>("control");
-    QTest::addColumn<QByteArray>("next");
-    QTest::addColumn<QByteArray>("reported");
-    const auto row = [](const char *feature, const char *control, const char *next, const char *reported) {
-        QTest::newRow(feature) << QByteArray(control) << QByteArray(next) << QByteArray(reported);
-    };
-    row("TriggerSource", "cmBoxSource", "PulseGenerator", "IN2");
-    row("TriggerActivation", "cmBoxEdge", "FallingEdge", "RisingEdge");
-    row("TriggerDebounce", "cmBoxDebounce", "Us50", "Us100");
+    addBindings({{"TriggerSource", "cmBoxSource", "PulseGenerator", "IN2"},
+                 {"TriggerActivation", "cmBoxEdge", "FallingEdge", "RisingEdge"},
+                 {"TriggerDebounce", "cmBoxDebounce", "Us50", "Us100"}});
 }
 
 void OrvCamConfigTriggerDialogTest::bindsBothWays()
 {
-    QFETCH(QByteArray, control);
-    QFETCH(QByteArray, next);
-    QFETCH(QByteArray, reported);
     const Camera camera;
     QVERIFY(camera.set("TriggerMode", "On"));
-    OrvCamConfigTriggerDialog dialog(camera.device());
-    QVERIFY(dialog.SetDevice(camera.device())); // twice makes no second write
-    QVERIFY(show(dialog));
-    checkBinding(dialog, camera, QTest::currentDataTag(), control, next, reported);
+    checkBinding<OrvCamConfigTriggerDialog>(camera);
 }
 
 void OrvCamConfigTriggerDialogTest::switchesTriggering()
@@ -143,6 +134,9 @@ void OrvCamConfigTriggerDialogTest::rulesFollowTheCamera()
     QCOMPARE(enabledParts(dialog), all);
     QVERIFY(camera.set("TriggerMode", "Off"));
     QCOMPARE(enabledParts(dialog), theSwitch);
+    std::thread([&] { camera.set("TriggerMode", "On"); }).join();
+    QCOMPARE(enabledParts(dialog), theSwitch); // widgets belong to this thread
+    QTRY_COMPARE(enabledParts(dialog), all);
 }
 
 /** On cameras whose features think otherwise. */
@@ -197,8 +191,6 @@ void OrvCamConfigTriggerDialogTest::nothingIsLeftOfTheFormerCamera()
     QVERIFY(dialog.SetDevice(bare.device()));
     QVERIFY(dialog.SetDevice(camera.device()));
     QCOMPARE(enabledParts(dialog), all);
-    QVERIFY(!dialog.SetDevice(nullptr));
-    QVERIFY(!dialog.isEnabled());
 }
 
 void OrvCamConfigTriggerDialogTest::survivesTheCameraWhileEdited()
@@ -220,22 +212,7 @@ void OrvCamConfigTriggerDialogTest::survivesTheCameraWhileEdited()
 
 void OrvCamConfigTriggerDialogTest::keepsTheRulesOfFeatureDialogs()
 {
-    const Camera camera;
-    checkKeysAndClosing<OrvCamConfigTriggerDialog>(camera.device());
-    checkDevicesInTurn<OrvCamConfigTriggerDialog>(SimTest::twoFrame);
-    checkNoParameters<OrvCamConfigTriggerDialog>(SimTest::twoFrame);
-}
-
-void OrvCamConfigTriggerDialogTest::cutsNothing()
-{
-    const Camera bare(plugInBareCamera());
-    const Camera full;
-    OrvCamConfigTriggerDialog dialog(nullptr);
-    checkNothingIsCut(dialog);
-    for (OrvCam::Device *const device : {bare.device(), full.device()}) {
-        QVERIFY(dialog.SetDevice(device));
-        checkNothingIsCut(dialog);
-    }
+    checkFeatureDialog<OrvCamConfigTriggerDialog>();
 }
 
 ORV_TEST_MAIN(OrvCamConfigTriggerDialogTest)

@@ -120,7 +120,8 @@ void ExplorerTest::drawsItsWindow()
     QCOMPARE(result.err, QString());
     QCOMPARE(result.status, 0);
 
-    for (const char *picture : {"explorer", "widgets", "selectcamera", "setip"}) {
+    for (const char *picture :
+         {"explorer", "widgets", "selectcamera", "setip", "trigger", "pulse", "strobe", "dataout", "color"}) {
         const QImage image(QStringLiteral("%1/%2.png").arg(dir, QLatin1String(picture)));
         QVERIFY(!image.isNull());
         QSet<QRgb> colors;

@@ -1,5 +1,6 @@
 #include "cameradialog.h"
 #include "camerasource.h"
+#include "configuremenu.h"
 #include "explorerwindow.h"
 #include "orvtest.h"
 #include "whenopen.h"
@@ -80,6 +81,7 @@ private Q_SLOTS:
     void asksForACamera();
     void asksAgainWhenACameraCannotBeOpened();
     void plugsInAndOutWhileItAsks();
+    void configuresTheCamera();
     void savesAndLoadsTheState();
     void listsTheSignalsOfTheWidgets();
 };
@@ -248,6 +250,32 @@ void ExplorerWindowTest::plugsInAndOutWhileItAsks()
     });
     QVERIFY(!chooseCamera());
     QVERIFY(OrvSim::isPluggedIn(firstCamera));
+}
+
+/** Each dialog follows the camera that is shown, and lets it go. */
+void ExplorerWindowTest::configuresTheCamera()
+{
+    {
+        ExplorerWindow window(openCamera(QString()));
+        window.show();
+        ConfigureMenu &menu = window.configureMenu();
+        QVERIFY(menu.dialogNames().size() >= 5);
+        for (const QString &name : menu.dialogNames()) {
+            QAction *const action = window.findChild<QAction *>(name);
+            action->trigger();
+            QVERIFY2(menu.dialog(name)->isVisible() && action->isChecked(), qPrintable(name));
+        }
+        QVERIFY(OrvSim::liveObjects().sinks > 0);
+        QDialog *const color = menu.dialog(QStringLiteral("color"));
+        QTest::keyClick(color, Qt::Key_Escape);
+        QVERIFY(!color->isVisible() && !window.findChild<QAction *>(QStringLiteral("color"))->isChecked());
+        window.showCamera(QStringLiteral("ORV-USB3-0001"));
+        QCOMPARE(OrvSim::liveObjects().devices, std::size_t(1));
+        window.showDescription(QStringLiteral(TEST_DATA "/probe.xml"));
+        QCOMPARE(OrvSim::liveObjects().sinks, std::size_t(0));
+        QVERIFY(!window.findChild<QAction *>(QStringLiteral("color"))->isEnabled());
+    }
+    QCOMPARE(OrvSim::liveObjects().devices, std::size_t(0));
 }
 
 void ExplorerWindowTest::savesAndLoadsTheState()

@@ -52,6 +52,7 @@ template <typename Thing>
 std::vector<std::string> namesOf(const std::vector<std::shared_ptr<Thing>> &things)
 {
     std::vector<std::string> names;
+    names.reserve(things.size());
     for (const std::shared_ptr<Thing> &thing : things)
         names.push_back(thing->spec().name);
     return names;

@@ -173,7 +173,7 @@ void OrvCameraSelectorDialogPrivate::look()
     if (model->checkNew() != 1)
         return;
     hasChanged = true;
-    Q_EMIT forwarder.systemChanged();
+    forwarder.notify();
 }
 
 void OrvCameraSelectorDialogPrivate::adoptChange()

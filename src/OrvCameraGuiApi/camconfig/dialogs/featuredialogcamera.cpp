@@ -75,6 +75,7 @@ FeatureDialogCamera::~FeatureDialogCamera()
 bool FeatureDialogCamera::setDevice(OrvCam::Device *device)
 {
     letGo();
+    m_connections.reset(new QObject);
     OrvCamErr err = OrvCamErr_Ok;
     OrvGenParam::Array *const parameters = device ? device->GetCameraParameters(&err) : nullptr;
     m_device = device;
@@ -88,6 +89,7 @@ void FeatureDialogCamera::letGo()
     for (const auto &[param, sink] : sinks)
         param->UnregisterEvent(sink);
     mapper.unmapAll();
+    m_connections.reset();
     m_parameters = nullptr;
     m_device = nullptr;
 }

@@ -4,6 +4,8 @@
 #include <OrvCameraGuiApi/camera_api/orvcam.h>
 #include <OrvCameraGuiApi/camera_api/orvgenparam.h>
 
+#include <QObject>
+#include <QScopedPointer>
 #include <QVector>
 
 #include <initializer_list>
@@ -54,6 +56,12 @@ public:
     OrvGenParam::Int *integer(const char *name) const;
     /** @} */
 
+    /**
+     * The context for the dialog's connections to its controls: they end when the device is let go, those to controls
+     * that could not be bound too. Another one with each device.
+     */
+    QObject *context() const { return m_connections.data(); }
+
     /** Registers a sink of the dialog, once however often it is asked; a null \a param does nothing. */
     void listen(OrvGenParam::Param *param, OrvGenParam::ParamEventSink *sink);
     void stopListening(OrvGenParam::Param *param, OrvGenParam::ParamEventSink *sink);
@@ -87,6 +95,7 @@ private:
     OrvCam::Device *m_device = nullptr;
     OrvGenParam::Array *m_parameters = nullptr;
     QVector<std::pair<OrvGenParam::Param *, OrvGenParam::ParamEventSink *>> m_sinks;
+    QScopedPointer<QObject> m_connections;
     QObject m_context; ///< receives what other threads report
 };
 

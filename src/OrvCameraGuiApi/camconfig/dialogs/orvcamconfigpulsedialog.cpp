@@ -106,12 +106,11 @@ void OrvCamConfigPulseDialogPrivate::bind()
 void OrvCamConfigPulseDialogPrivate::connectControls()
 {
     for (QtOrvSpinBox *const spinBox : {ui.spBoxPeriod, ui.spBoxWidth}) {
-        QObject::disconnect(spinBox, nullptr, q, nullptr); // where nothing is bound the former connection stays
-        QObject::connect(spinBox, QOverload<int>::of(&QtOrvSpinBox::valueChanged), q,
+        QObject::connect(spinBox, QOverload<int>::of(&QtOrvSpinBox::valueChanged), camera.context(),
                          [this] { updateDelayAndFrequency(); });
     }
-    QObject::disconnect(ui.pushBtnPulseEnable, nullptr, q, nullptr);
-    QObject::connect(ui.pushBtnPulseEnable, &QPushButton::toggled, q, [this](bool on) { setButtonState(on); });
+    QObject::connect(ui.pushBtnPulseEnable, &QPushButton::toggled, camera.context(),
+                     [this](bool on) { setButtonState(on); });
 }
 
 /** Intentionally in microseconds whatever the granularity. */

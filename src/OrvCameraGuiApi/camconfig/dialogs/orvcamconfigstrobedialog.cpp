@@ -115,8 +115,7 @@ void OrvCamConfigStrobeDialogPrivate::initComboBoxes()
 void OrvCamConfigStrobeDialogPrivate::initReference(const char *feature, QComboBox *comboBox)
 {
     camera.listenBeforeMapper(camera.enumeration(feature), this);
-    QObject::disconnect(comboBox, nullptr, q, nullptr); // where nothing is bound the former connection stays
-    QObject::connect(comboBox, &QComboBox::currentTextChanged, q, [this] { setImageState(); });
+    QObject::connect(comboBox, &QComboBox::currentTextChanged, camera.context(), [this] { setImageState(); });
 }
 
 void OrvCamConfigStrobeDialogPrivate::initSliders()

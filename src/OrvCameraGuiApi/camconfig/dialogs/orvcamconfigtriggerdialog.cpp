@@ -61,8 +61,7 @@ void OrvCamConfigTriggerDialogPrivate::initCheckBox()
     if (!camera.mapper.mapEnumParam(param, ui.chBoxEnable))
         ui.chBoxEnable->setChecked(false);
     camera.listenBeforeMapper(param, this);
-    QObject::disconnect(ui.chBoxEnable, nullptr, q, nullptr); // where nothing is bound the former connection stays
-    QObject::connect(ui.chBoxEnable, &QCheckBox::stateChanged, q, [this] { applyEnableRule(); });
+    QObject::connect(ui.chBoxEnable, &QCheckBox::stateChanged, camera.context(), [this] { applyEnableRule(); });
 }
 
 void OrvCamConfigTriggerDialogPrivate::initComboBoxes()
@@ -76,8 +75,7 @@ void OrvCamConfigTriggerDialogPrivate::initComboBoxes()
             comboBox->clear();
         camera.listenBeforeMapper(param, this);
     }
-    QObject::disconnect(ui.cmBoxSource, nullptr, q, nullptr);
-    QObject::connect(ui.cmBoxSource, QOverload<int>::of(&QComboBox::currentIndexChanged), q,
+    QObject::connect(ui.cmBoxSource, QOverload<int>::of(&QComboBox::currentIndexChanged), camera.context(),
                      [this] { applySoftwareRule(); });
 }
 
