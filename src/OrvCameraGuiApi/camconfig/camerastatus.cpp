@@ -2,6 +2,8 @@
 
 namespace OrvGui {
 
+std::chrono::milliseconds CameraParams::period{1000};
+
 CameraParams::CameraParams(OrvGenParam::Array &params)
     : frameAbSelector(params.GetEnum("FrameAB_Selector", nullptr))
     , frameMode(params.GetEnum("FrameMode", nullptr))

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 
@@ -14,6 +15,9 @@ struct CameraParams
 {
     CameraParams() = default;
     explicit CameraParams(OrvGenParam::Array &params);
+
+    /** The status is read, and events are acted upon, that often; for windows that are given a camera afterwards. */
+    static std::chrono::milliseconds period;
 
     OrvGenParam::Enum *frameAbSelector = nullptr;
     OrvGenParam::Enum *frameMode = nullptr;

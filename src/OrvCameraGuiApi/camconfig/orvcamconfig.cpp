@@ -52,8 +52,6 @@ private:
 
 namespace OrvGui {
 
-std::chrono::milliseconds OrvCamConfigPrivate::period{1000};
-
 OrvCamConfigPrivate::OrvCamConfigPrivate(OrvCamConfig *window)
     : q(window)
 {
@@ -215,7 +213,7 @@ void OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
     if (camera.setDevice(device)) // also unbinds the mapper
         getNeededParams();
     q->setEnabled(true);
-    timer.start(period);
+    timer.start(CameraParams::period);
     doLastAdjustment();
 }
 

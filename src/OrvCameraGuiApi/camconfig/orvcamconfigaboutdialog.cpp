@@ -16,9 +16,8 @@ OrvCamConfigAboutDialog::OrvCamConfigAboutDialog(QWidget *parent)
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     ui->lblAppName->setText(QStringLiteral("OrvCameraConfiguration"));
     ui->lblAppVersion->setText(QStringLiteral("1.4.0 (build 2230) ")); // the blank at the end is intentional
-    ui->lblCopyright->setText(tr("%1 %2 The OrvCameraGuiApi authors. All rights reserved.")
-                                  .arg(QChar(0x00A9))
-                                  .arg(QDate::currentDate().year()));
+    ui->lblCopyright->setText(
+        tr("Copyright %1 %2, the authors of OrvCameraGuiApi").arg(QChar(0x00A9)).arg(QDate::currentDate().year()));
     connect(ui->okButton, &QPushButton::clicked, this, &QDialog::accept);
 }
 

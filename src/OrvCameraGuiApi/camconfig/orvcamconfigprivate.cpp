@@ -167,6 +167,21 @@ void OrvCamConfigPrivate::isShowFrameABStuff(bool show)
     ui.pushBtnFrameAB->setVisible(show);
     if (!show)
         ui.pushBtnFrameAB->setChecked(false);
+    layOutButtons(show);
+}
+
+/** In rows of three, without a gap where one is hidden. */
+void OrvCamConfigPrivate::layOutButtons(bool withFrameAB)
+{
+    constexpr int columns = 3;
+    int place = 0;
+    for (const DialogLink &link : qAsConst(dialogs)) {
+        ui.buttonLayout->removeWidget(link.button);
+        if (link.button == ui.pushBtnFrameAB && !withFrameAB)
+            continue;
+        ui.buttonLayout->addWidget(link.button, place / columns, place % columns);
+        ++place;
+    }
 }
 
 void OrvCamConfigPrivate::doLastAdjustment()

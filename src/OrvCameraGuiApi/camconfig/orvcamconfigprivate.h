@@ -13,7 +13,6 @@
 
 #include <array>
 #include <atomic>
-#include <chrono>
 #include <functional>
 
 class QDialog;
@@ -41,9 +40,6 @@ public:
     explicit OrvCamConfigPrivate(OrvCamConfig *window);
     ~OrvCamConfigPrivate() override;
     Q_DISABLE_COPY(OrvCamConfigPrivate)
-
-    /** The status is read, and events are acted upon, that often; for windows that are made afterwards. */
-    static std::chrono::milliseconds period;
 
     /** \name Once @{ */
     void build();
@@ -85,6 +81,7 @@ public:
     void clearInfo(Frame frame);
     void clearStatus();
     void isShowFrameABStuff(bool show);
+    void layOutButtons(bool withFrameAB);
     void doLastAdjustment();
     void checkViewMenu();
     void closeDialogs();

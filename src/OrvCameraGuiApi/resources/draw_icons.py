@@ -129,7 +129,7 @@ def plug(left, right, color):
     """A cable from edge to edge, with a plug that ends at left and a socket that begins at right."""
     cable = [line((0.5, 8), (left - 5, 8), width=1.6), line((right + 5, 8), (15.5, 8), width=1.6)]
     return ([(shape, GREY) for shape in cable]
-            + [(rectangle(left - 5, 4, left, 12), color), (rectangle(right, 4, right + 5, 12), color)])
+            + [(rectangle(left - 5, 3, left, 13), color), (rectangle(right, 3, right + 5, 13), color)])
 
 
 def pulses(color, *edges):
