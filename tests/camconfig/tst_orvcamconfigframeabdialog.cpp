@@ -382,7 +382,7 @@ void OrvCamConfigFrameABDialogTest::exposureTimeOfOddClocks()
     QFETCH(QString, shown);
     QFETCH(int, writes);
     plugInEditedCamera({{"<pMax>Frame_ExposureClocksMax</pMax>", "<Max>99999</Max>"},
-                         {"<pValue>PixelClockReg</pValue><Min>1</Min>", "<pValue>PixelClockReg</pValue>"}});
+                        {"<pValue>PixelClockReg</pValue><Min>1</Min>", "<pValue>PixelClockReg</pValue>"}});
     const Camera camera(changedCamera);
     QVERIFY(camera.set("Frame_FixedFramePeriodEnable", "false"));
     if (value.isNull())
@@ -432,6 +432,10 @@ void OrvCamConfigFrameABDialogTest::fixedPeriodFollowsTheClock()
     QCOMPARE(camera.value("Frame_FixedFramePeriodValue"), QStringLiteral("2000"));
     enter(period->spinBox(), "50000");
     QCOMPARE(camera.value("Frame_FixedFramePeriodValue"), QStringLiteral("2500"));
+    QVERIFY(camera.set("Frame_LineTime", "1601"));
+    QVERIFY(camera.set("Frame_FixedFramePeriodValue", "1000"));
+    QCOMPARE(period->value(), 10006); // 10006.25, between steps of 10 from 1001
+    QCOMPARE(part<QtOrvSliderSpinBox>(dialog, "spBoxExposureTime")->maximum(), 10006);
 }
 
 void OrvCamConfigFrameABDialogTest::digitalGain()
@@ -462,6 +466,9 @@ void OrvCamConfigFrameABDialogTest::digitalGain()
     QVERIFY(camera.set("FrameAB_Selector", "FrameB"));
     QCOMPARE(gain->value(), 3.0); // (1 + 32 / 64) * 2
     QCOMPARE(camera.takeWrites(), 3);
+
+    QVERIFY(camera.set("Frame_DigitalFineGain", "5")); // between the steps of what is entered
+    QCOMPARE(gain->value(), 2.156); // (1 + 5 / 64) * 2
 
     QVERIFY(camera.refuse("Frame_DigitalCourseGain"));
     enter(gain->spinBox(), "7");
@@ -561,8 +568,8 @@ void OrvCamConfigFrameABDialogTest::frameModeOfAnotherWindow()
 void OrvCamConfigFrameABDialogTest::pagesComeBack()
 {
     plugInEditedCamera({{"<EnumEntry Name=\"FrameB\" NameSpace=\"Custom\"><Value>1</Value></EnumEntry>\n"
-                          "    <pValue>FrameAB_SelectorReg</pValue>",
-                          "<pValue>FrameAB_SelectorReg</pValue>"}});
+                         "    <pValue>FrameAB_SelectorReg</pValue>",
+                         "<pValue>FrameAB_SelectorReg</pValue>"}});
     const Camera single(changedCamera);
     const Camera both;
     OrvCamConfigFrameABDialog dialog(single.device());

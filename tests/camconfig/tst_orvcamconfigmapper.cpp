@@ -384,6 +384,7 @@ void OrvCamConfigMapperTest::showsIntegers_data()
         QTest::newRow(name) << device << converts << shown;
     };
     row("plain", {-5, 40, 5, 35}, false, {-5, 40, 5, 35});
+    row("between the steps", {1, 40, 10, 17}, false, {1, 40, 10, 17});
     row("beyond an int", {0, 5000000000, 1, 4000000000}, false, {0, intMax, 1, intMax});
     row("increment 0", {0, 10, 0, 3}, false, {0, 10, 1, 3});
     row("negative increment", {0, 10, -4, 3}, false, {0, 10, 1, 3});

@@ -69,15 +69,29 @@ void showValue(Control *control, int value)
     control->setValue(value);
 }
 
+/** What the camera says is shown as it is: only entries are moved to a step. */
+void showUnmoved(QtOrvSpinBoxVal *field, int value)
+{
+    field->QSpinBox::setValue(value);
+}
+
+void showUnmoved(QtOrvSpinBoxVal64 *field, int value)
+{
+    const bool moves = field->validateStepping();
+    field->setValidateStepping(false);
+    field->setValue(value);
+    field->setValidateStepping(moves);
+}
+
 /**
- * A composite's own setValue() goes by the positions of its slider, and the camera's value may lie between them. What
- * shows already is left alone, and with it what is being typed.
+ * A composite's own setValue() goes by the positions of its slider, and the camera's value may lie between them: a
+ * converted one mostly does. What shows already is left alone, and with it what is being typed.
  */
 template <typename Composite>
 void showInComposite(Composite *composite, int value)
 {
     if (composite->value() != value)
-        composite->spinBox()->setValue(value);
+        showUnmoved(composite->spinBox(), value);
 }
 
 void showValue(QtOrvSpinBox *spinBox, int value)

@@ -2,6 +2,7 @@
 
 #include <OrvCameraGuiApi/camconfig/dialogs/featuredialogcamera.h>
 #include <OrvCameraGuiApi/camconfig/dialogs/framearithmetic.h>
+#include <OrvCameraGuiApi/widgets/spinsliderlink.h>
 
 #include "ui_orvcamconfigframeabdialog.h"
 
@@ -496,7 +497,11 @@ void OrvCamConfigFrameABDialogPrivate::updateGain()
     const Gain lowest{coarse ? coarse->GetMin(nullptr) : 0, fine ? fine->GetMin(nullptr) : 0};
     const Gain highest{coarse ? coarse->GetMax(nullptr) : 0, fine ? fine->GetMax(nullptr) : 0};
     ui.gainDigital->setRange(composedGain(lowest), composedGain(highest));
-    ui.gainDigital->setValue(composedGain(cached().gain));
+    // As the camera has it, which may lie between the steps of the entries; what shows already is left alone.
+    QtOrvDoubleSpinBoxVal *const field = ui.gainDigital->spinBox();
+    const double gain = composedGain(cached().gain);
+    if (!SpinSlider::shows(field, gain))
+        field->QDoubleSpinBox::setValue(gain);
 }
 
 /** A refused write is intentionally not told. */
