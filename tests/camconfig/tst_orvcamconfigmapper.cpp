@@ -523,6 +523,12 @@ void OrvCamConfigMapperTest::radioButtonsTakeNamesAndValues()
     QVERIFY(panel.buttons[1]->isHidden());
     QVERIFY(!panel.buttons[3]->isHidden() && panel.buttons[3]->isEnabled());
     panel.mapper->unmapAll();
+
+    // A button that is left over does not stand for what it stood for before.
+    FakeParams::Enum shifted({{nullptr, 0}, {"A", 0}, {"B", 1}});
+    QCOMPARE(panel.mapper->mapEnumParam(&shifted, &panel.group), 1);
+    QVERIFY(panel.buttons[1]->isChecked());
+    panel.mapper->unmapAll();
 }
 
 void OrvCamConfigMapperTest::radioButtonsStandForAnyValue()

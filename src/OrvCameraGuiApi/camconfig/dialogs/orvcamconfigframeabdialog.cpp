@@ -194,11 +194,11 @@ void OrvCamConfigFrameABDialogPrivate::setCaptions()
 /** Nothing is left of the former camera that another one would take for its own. */
 void OrvCamConfigFrameABDialogPrivate::reset()
 {
-    const auto comboBoxes = q->findChildren<QComboBox *>();
-    for (QComboBox *const comboBox : comboBoxes)
-        comboBox->clear();
-    for (QCheckBox *const checkBox : {ui.chBoxFixedPeriod, ui.chBoxWdr})
-        checkBox->setChecked(false);
+    {
+        const QScopedValueRollback<bool> guard(isShowing, true);
+        FeatureDialogCamera::clearControls(q);
+        ui.gainDigital->setValue(ui.gainDigital->minimum());
+    }
     for (QWidget *const control :
          {static_cast<QWidget *>(ui.spBoxLineTime), static_cast<QWidget *>(ui.spBoxDualLineTime),
           static_cast<QWidget *>(ui.spBoxNumFrameAs), static_cast<QWidget *>(ui.spBoxNumFrameBs)})
