@@ -384,6 +384,7 @@ void OrvCamConfigMapperTest::showsIntegers_data()
         QTest::newRow(name) << device << converts << shown;
     };
     row("plain", {-5, 40, 5, 35}, false, {-5, 40, 5, 35});
+    row("between the steps", {1, 40, 10, 17}, false, {1, 40, 10, 17});
     row("beyond an int", {0, 5000000000, 1, 4000000000}, false, {0, intMax, 1, intMax});
     row("increment 0", {0, 10, 0, 3}, false, {0, 10, 1, 3});
     row("negative increment", {0, 10, -4, 3}, false, {0, 10, 1, 3});
@@ -521,6 +522,12 @@ void OrvCamConfigMapperTest::radioButtonsTakeNamesAndValues()
     QCOMPARE(panel.mapper->mapEnumParam(&four, &panel.group), 1);
     QVERIFY(panel.buttons[1]->isHidden());
     QVERIFY(!panel.buttons[3]->isHidden() && panel.buttons[3]->isEnabled());
+    panel.mapper->unmapAll();
+
+    // A button that is left over does not stand for what it stood for before.
+    FakeParams::Enum shifted({{nullptr, 0}, {"A", 0}, {"B", 1}});
+    QCOMPARE(panel.mapper->mapEnumParam(&shifted, &panel.group), 1);
+    QVERIFY(panel.buttons[1]->isChecked());
     panel.mapper->unmapAll();
 }
 

@@ -117,7 +117,9 @@ void OrvCamConfigOutputDialogTest::controlsAreDisabledWhereTheCameraLacksFeature
     const char *const name = plugInBareCamera();
     QVERIFY(name);
     const Camera camera(name);
-    OrvCamConfigOutputDialog dialog(nullptr);
+    const Camera former;
+    QVERIFY(former.set("ReverseX", "true"));
+    OrvCamConfigOutputDialog dialog(former.device());
     QVERIFY(dialog.SetDevice(camera.device()));
     QVERIFY(dialog.isEnabled());
     const auto widgets = dialog.findChildren<QWidget *>();
@@ -125,6 +127,10 @@ void OrvCamConfigOutputDialogTest::controlsAreDisabledWhereTheCameraLacksFeature
         if (widget->inherits("QComboBox") || widget->inherits("QtOrvSpinBox") || widget->inherits("QCheckBox"))
             QVERIFY2(!widget->isEnabled(), qPrintable(widget->objectName()));
     }
+    for (const char *const control : {"cmBoxPixelFormat", "spBoxHpcDynThres", "chBoxHorMirror"})
+        QVERIFY2(QStringList({QString(), QStringLiteral("0"), QStringLiteral("false")})
+                     .contains(shownBy(part<QWidget>(dialog, control))),
+                 control);
     checkNothingIsCut(dialog);
     QCOMPARE(OrvSim::liveObjects().sinks, std::size_t(0));
 }

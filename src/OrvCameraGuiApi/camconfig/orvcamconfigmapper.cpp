@@ -69,15 +69,29 @@ void showValue(Control *control, int value)
     control->setValue(value);
 }
 
+/** What the camera says is shown as it is: only entries are moved to a step. */
+void showUnmoved(QtOrvSpinBoxVal *field, int value)
+{
+    field->QSpinBox::setValue(value);
+}
+
+void showUnmoved(QtOrvSpinBoxVal64 *field, int value)
+{
+    const bool moves = field->validateStepping();
+    field->setValidateStepping(false);
+    field->setValue(value);
+    field->setValidateStepping(moves);
+}
+
 /**
- * A composite's own setValue() goes by the positions of its slider, and the camera's value may lie between them. What
- * shows already is left alone, and with it what is being typed.
+ * A composite's own setValue() goes by the positions of its slider, and the camera's value may lie between them: a
+ * converted one mostly does. What shows already is left alone, and with it what is being typed.
  */
 template <typename Composite>
 void showInComposite(Composite *composite, int value)
 {
     if (composite->value() != value)
-        composite->spinBox()->setValue(value);
+        showUnmoved(composite->spinBox(), value);
 }
 
 void showValue(QtOrvSpinBox *spinBox, int value)
@@ -95,17 +109,23 @@ QButtonGroup *groupOf(const OrvGui::OrvCamConfigMapData &record)
     return record.type == Kind::RadioButtons ? static_cast<QButtonGroup *>(record.extra) : nullptr;
 }
 
-/** The value that a button stands for: an id cannot be -1, nor wider than an int. */
+/** The value that a button stands for, which its id need not tell: that cannot be -1, nor wider than an int. */
 std::int64_t valueOf(QButtonGroup *group, QAbstractButton *button)
 {
     const QVariant value = button->property(entryValueProperty);
     return value.isValid() ? value.toLongLong() : group->id(button);
 }
 
+/** Whether a button has no entry: its id is one of before. */
+bool isLeftOver(QAbstractButton *button)
+{
+    return button->property(entryValueProperty).userType() == QMetaType::QString;
+}
+
 QAbstractButton *buttonOf(QButtonGroup *group, std::int64_t value)
 {
     const QList<QAbstractButton *> buttons = group->buttons();
-    const auto stands = [&](QAbstractButton *button) { return valueOf(group, button) == value; };
+    const auto stands = [&](QAbstractButton *button) { return !isLeftOver(button) && valueOf(group, button) == value; };
     const auto found = std::find_if(buttons.begin(), buttons.end(), stands);
     return found == buttons.end() ? nullptr : *found;
 }
@@ -552,7 +572,7 @@ void OrvCamConfigMapper::nameRadioButtons(OrvGenParam::Enum *param, QButtonGroup
         QAbstractButton *const button = buttons.at(i);
         OrvGenParam::EnumEntry *const entry = i < entries ? param->GetEnumEntryByIndex(i, nullptr) : nullptr;
         button->setVisible(entry != nullptr);
-        button->setProperty(entryValueProperty, QVariant());
+        button->setProperty(entryValueProperty, QString()); // no value
         if (!entry)
             continue;
         const std::int64_t value = entry->GetValue(nullptr);

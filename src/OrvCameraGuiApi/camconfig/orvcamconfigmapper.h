@@ -71,7 +71,8 @@ struct OrvCamConfigMapData
  * on them may bind and unbind, and destroy the mapper, but what it sets in bound controls is shown and not written.
  *
  * Values, maxima and steps are limited to the upper clamp where a widget shows them, minima only to what an int can
- * hold. Failed reads show as 0 or as nothing; failed writes show a message, and the control keeps what was entered.
+ * hold. What is entered is moved to a step of the parameter, what the camera reports is shown as it is. Failed reads
+ * show as 0 or as nothing; failed writes show a message, and the control keeps what was entered.
  *
  * GUI thread only, but for OnParameterUpdate().
  */

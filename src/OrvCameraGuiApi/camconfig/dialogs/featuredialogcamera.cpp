@@ -1,5 +1,10 @@
 #include <OrvCameraGuiApi/camconfig/dialogs/featuredialogcamera.h>
 
+#include <OrvCameraGuiApi/widgets/qtorvsliderspinbox.h>
+#include <OrvCameraGuiApi/widgets/qtorvspinbox.h>
+
+#include <QAbstractButton>
+#include <QComboBox>
 #include <QDialog>
 #include <QKeyEvent>
 #include <QLabel>
@@ -163,6 +168,22 @@ void FeatureDialogCamera::setUpDialog(QDialog *dialog)
         button->setAutoDefault(false);
         button->setDefault(false);
     }
+}
+
+void FeatureDialogCamera::clearControls(QDialog *dialog)
+{
+    const auto comboBoxes = dialog->findChildren<QComboBox *>();
+    for (QComboBox *const comboBox : comboBoxes)
+        comboBox->clear();
+    const auto buttons = dialog->findChildren<QAbstractButton *>();
+    for (QAbstractButton *const button : buttons)
+        button->setChecked(false);
+    const auto spinBoxes = dialog->findChildren<QtOrvSpinBox *>();
+    for (QtOrvSpinBox *const spinBox : spinBoxes)
+        spinBox->setValue(spinBox->minimum());
+    const auto sliders = dialog->findChildren<QtOrvSliderSpinBox *>();
+    for (QtOrvSliderSpinBox *const slider : sliders)
+        slider->setValue(slider->minimum());
 }
 
 } // namespace OrvGui

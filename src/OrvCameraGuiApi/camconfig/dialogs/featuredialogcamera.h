@@ -30,6 +30,7 @@ namespace OrvGui {
  *         q->setEnabled(camera.setDevice(device));
  *         if (!camera.parameters())
  *             return false;
+ *         FeatureDialogCamera::clearControls(q);
  *         camera.mapper.mapEnumParam(camera.enumeration("TriggerSource"), ui.cmBoxSource);
  *         ...
  */
@@ -84,6 +85,13 @@ public:
      * A label is enabled while its buddy is.
      */
     static void setUpDialog(QDialog *dialog);
+
+    /**
+     * To be called before binding, while the controls have no connections: where the camera has no feature for a
+     * control nothing of a former camera is left. Lists become empty, numbers the least, buttons unchecked; of a group
+     * of radio buttons one stays checked.
+     */
+    static void clearControls(QDialog *dialog);
 
     OrvCamConfigMapper mapper;
 

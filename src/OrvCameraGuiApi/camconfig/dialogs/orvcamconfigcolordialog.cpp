@@ -7,7 +7,6 @@
 #include <QCloseEvent>
 
 #include <array>
-#include <cstring>
 
 namespace {
 
@@ -53,6 +52,8 @@ bool OrvCamConfigColorDialogPrivate::init(OrvCam::Device *device)
     if (!isBuilt)
         build();
     const bool hasParameters = camera.setDevice(device);
+    if (hasParameters)
+        FeatureDialogCamera::clearControls(q);
     camera.mapper.mapEnumParam(camera.enumeration("BalanceWhiteAuto"), ui.cmBoxWhiteBalance);
     camera.mapper.mapEnumParam(camera.enumeration("AutoTrackingSpeed"), ui.cmBoxTrackingSpeed);
     bool hasCoefficients = false;
@@ -104,7 +105,7 @@ void OrvCamConfigColorDialogPrivate::OnParameterUpdate(OrvGenParam::Param *param
     if (!number || !number->IsReadable())
         return;
     for (const Coefficient &coefficient : coefficients) {
-        if (std::strcmp(number->GetName(), coefficient.feature) == 0)
+        if (qstrcmp(number->GetName(), coefficient.feature) == 0)
             coefficient.statistics->setText(QString::number(number->GetValue(nullptr)));
     }
 }

@@ -2,6 +2,7 @@
 
 #include <OrvCameraGuiApi/camconfig/dialogs/featuredialogcamera.h>
 #include <OrvCameraGuiApi/camconfig/dialogs/framearithmetic.h>
+#include <OrvCameraGuiApi/widgets/spinsliderlink.h>
 
 #include "ui_orvcamconfigframeabdialog.h"
 
@@ -193,11 +194,11 @@ void OrvCamConfigFrameABDialogPrivate::setCaptions()
 /** Nothing is left of the former camera that another one would take for its own. */
 void OrvCamConfigFrameABDialogPrivate::reset()
 {
-    const auto comboBoxes = q->findChildren<QComboBox *>();
-    for (QComboBox *const comboBox : comboBoxes)
-        comboBox->clear();
-    for (QCheckBox *const checkBox : {ui.chBoxFixedPeriod, ui.chBoxWdr})
-        checkBox->setChecked(false);
+    {
+        const QScopedValueRollback<bool> guard(isShowing, true);
+        FeatureDialogCamera::clearControls(q);
+        ui.gainDigital->setValue(ui.gainDigital->minimum());
+    }
     for (QWidget *const control :
          {static_cast<QWidget *>(ui.spBoxLineTime), static_cast<QWidget *>(ui.spBoxDualLineTime),
           static_cast<QWidget *>(ui.spBoxNumFrameAs), static_cast<QWidget *>(ui.spBoxNumFrameBs)})
@@ -496,7 +497,11 @@ void OrvCamConfigFrameABDialogPrivate::updateGain()
     const Gain lowest{coarse ? coarse->GetMin(nullptr) : 0, fine ? fine->GetMin(nullptr) : 0};
     const Gain highest{coarse ? coarse->GetMax(nullptr) : 0, fine ? fine->GetMax(nullptr) : 0};
     ui.gainDigital->setRange(composedGain(lowest), composedGain(highest));
-    ui.gainDigital->setValue(composedGain(cached().gain));
+    // As the camera has it, which may lie between the steps of the entries; what shows already is left alone.
+    QtOrvDoubleSpinBoxVal *const field = ui.gainDigital->spinBox();
+    const double gain = composedGain(cached().gain);
+    if (!SpinSlider::shows(field, gain))
+        field->QDoubleSpinBox::setValue(gain);
 }
 
 /** A refused write is intentionally not told. */

@@ -39,6 +39,7 @@ bool OrvCamConfigOutputDialogPrivate::init(OrvCam::Device *device)
     q->setEnabled(hasParameters);
     if (!hasParameters)
         return false;
+    FeatureDialogCamera::clearControls(q);
     initComboBoxes();
     initSpinBoxes();
     initCheckBoxes();

@@ -60,6 +60,7 @@ bool OrvCamConfigPulseDialogPrivate::init(OrvCam::Device *device)
     q->setEnabled(hasParameters);
     if (!hasParameters)
         return false;
+    FeatureDialogCamera::clearControls(q);
     bind();
     connectControls();
     updateDelayAndFrequency();
@@ -90,17 +91,13 @@ void OrvCamConfigPulseDialogPrivate::build()
 void OrvCamConfigPulseDialogPrivate::bind()
 {
     OrvCamConfigMapper &mapper = camera.mapper;
-    if (!mapper.mapEnumParam(camera.enumeration("PulseGenGranularity"), ui.cmBoxGranularity))
-        ui.cmBoxGranularity->clear();
+    mapper.mapEnumParam(camera.enumeration("PulseGenGranularity"), ui.cmBoxGranularity);
     const std::pair<const char *, QtOrvSpinBox *> numbers[] = {
         {"PulseGenPeriod", ui.spBoxPeriod}, {"PulseGenWidth", ui.spBoxWidth}, {"PulseGenNumPulses", ui.spBoxNumPulses}};
-    for (const auto &[feature, spinBox] : numbers) {
-        if (!mapper.mapIntParam(camera.integer(feature), spinBox))
-            spinBox->setValue(spinBox->minimum());
-    }
+    for (const auto &[feature, spinBox] : numbers)
+        mapper.mapIntParam(camera.integer(feature), spinBox);
     mapper.mapEnumParam(camera.enumeration("PulseGenMode"), &modes);
-    if (!mapper.mapBooleanParam(camera.boolean("PulseGenEnable"), ui.pushBtnPulseEnable))
-        ui.pushBtnPulseEnable->setChecked(false);
+    mapper.mapBooleanParam(camera.boolean("PulseGenEnable"), ui.pushBtnPulseEnable);
 }
 
 void OrvCamConfigPulseDialogPrivate::connectControls()

@@ -72,6 +72,7 @@ bool OrvCamConfigStrobeDialogPrivate::init(OrvCam::Device *device)
     q->setEnabled(hasParameters);
     if (!hasParameters)
         return false;
+    FeatureDialogCamera::clearControls(q);
     initComboBoxes();
     initSliders();
     alignSliders();
@@ -104,8 +105,7 @@ void OrvCamConfigStrobeDialogPrivate::initComboBoxes()
         {"OUT1Polarity", ui.cmBoxOut1Polarity},   {"OUT2Polarity", ui.cmBoxOut2Polarity},
         {"OUT1Selector", ui.cmBoxOut1Selector},   {"OUT2Selector", ui.cmBoxOut2Selector}};
     for (const auto &[feature, comboBox] : bindings) {
-        if (!camera.mapper.mapEnumParam(camera.enumeration(feature), comboBox))
-            comboBox->clear();
+        camera.mapper.mapEnumParam(camera.enumeration(feature), comboBox);
         if (comboBox == ui.cmBoxStrobe1Ref || comboBox == ui.cmBoxStrobe2Ref)
             initReference(feature, comboBox);
     }
@@ -126,8 +126,7 @@ void OrvCamConfigStrobeDialogPrivate::initSliders()
                                                                       {"Strobe2Width", ui.spBoxStrobe2Width}};
     for (const auto &[feature, spinBox] : bindings) {
         spinBox->slider()->setScaleType(QtOrvSlider::Log10);
-        if (!camera.mapper.mapIntParam(camera.integer(feature), spinBox, nullptr))
-            spinBox->setValue(spinBox->minimum());
+        camera.mapper.mapIntParam(camera.integer(feature), spinBox, nullptr);
     }
 }
 

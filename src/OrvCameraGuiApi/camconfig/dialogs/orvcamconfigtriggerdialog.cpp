@@ -41,6 +41,8 @@ bool OrvCamConfigTriggerDialogPrivate::init(OrvCam::Device *device)
     q->setEnabled(hasParameters);
     if (!hasParameters)
         return false;
+    // A list without a feature may be enabled though: there is nothing to choose from then.
+    FeatureDialogCamera::clearControls(q);
     initCheckBox();
     initComboBoxes();
     initButton();
@@ -58,8 +60,7 @@ void OrvCamConfigTriggerDialogPrivate::build()
 void OrvCamConfigTriggerDialogPrivate::initCheckBox()
 {
     OrvGenParam::Enum *const param = camera.enumeration("TriggerMode");
-    if (!camera.mapper.mapEnumParam(param, ui.chBoxEnable))
-        ui.chBoxEnable->setChecked(false);
+    camera.mapper.mapEnumParam(param, ui.chBoxEnable);
     camera.listenBeforeMapper(param, this);
     QObject::connect(ui.chBoxEnable, &QCheckBox::stateChanged, camera.context(), [this] { applyEnableRule(); });
 }
@@ -70,9 +71,7 @@ void OrvCamConfigTriggerDialogPrivate::initComboBoxes()
         {"TriggerSource", ui.cmBoxSource}, {"TriggerActivation", ui.cmBoxEdge}, {"TriggerDebounce", ui.cmBoxDebounce}};
     for (const auto &[feature, comboBox] : bindings) {
         OrvGenParam::Enum *const param = camera.enumeration(feature);
-        // Enabled though it is: there is nothing to choose from.
-        if (!camera.mapper.mapEnumParam(param, comboBox))
-            comboBox->clear();
+        camera.mapper.mapEnumParam(param, comboBox);
         camera.listenBeforeMapper(param, this);
     }
     QObject::connect(ui.cmBoxSource, QOverload<int>::of(&QComboBox::currentIndexChanged), camera.context(),
