@@ -489,12 +489,14 @@ private Q_SLOTS:
             QCOMPARE(edit(dialog, "nicNetmaskEdit")->text(), edit(dialog, "netmaskEdit")->text());
             QVERIFY(edit(dialog, "nicMacEdit")->text() != edit(dialog, "macEdit")->text());
             QTest::keyClicks(edit(dialog, "ipEdit"), QStringLiteral("77"));
+            edit(dialog, "gatewayEdit")->setText(QStringLiteral("10.9.8.7"));
             QTest::keyClick(&dialog, Qt::Key_Return);
         });
         QTest::mouseClick(shown.setIp(), Qt::LeftButton);
         QVERIFY(!proposed.isEmpty());
         const QString expected = proposed.section(QLatin1Char('.'), 0, 2) + QStringLiteral(".77");
         QVERIFY(shown.devicePane().contains(QStringLiteral("IP Address=") + expected));
+        QVERIFY(shown.devicePane().contains(QStringLiteral("Gateway=10.9.8.7")));
         QVERIFY(shown.devicePane().contains(QStringLiteral("Access status=ReadWrite")));
         QVERIFY(shown.ok()->isEnabled());
     }
