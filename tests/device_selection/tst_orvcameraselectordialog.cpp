@@ -6,6 +6,7 @@
 
 #include <orvtest.h>
 #include <simtest.h>
+#include <whenopen.h>
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -97,22 +98,6 @@ OrvSim::DeviceSpec cameraNamed(const char *name)
     camera.name = name;
     camera.id = name;
     return camera;
-}
-
-/** Does something with the window of that kind that comes up next, in whatever event loop. */
-template <typename Window>
-void whenModal(std::function<void(Window &)> act)
-{
-    auto *const timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer, act = std::move(act)] {
-        auto *const window = qobject_cast<Window *>(QApplication::activeModalWidget());
-        if (!window || !window->isVisible())
-            return;
-        timer->stop();
-        timer->deleteLater();
-        act(*window);
-    });
-    timer->start(0);
 }
 
 QLineEdit *edit(SetIpDialog &dialog, const char *name)
@@ -342,7 +327,7 @@ private Q_SLOTS:
         expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
         menu->popup(QPoint());
         bool isAsked = false;
-        whenModal<SetIpDialog>([&](SetIpDialog &dialog) {
+        OrvTest::whenOpen<SetIpDialog>([&](SetIpDialog &dialog) {
             isAsked = true;
             dialog.reject();
         });
@@ -483,7 +468,7 @@ private Q_SLOTS:
         shown.click(stray);
         QVERIFY(!shown.ok()->isEnabled());
         QString proposed;
-        whenModal<SetIpDialog>([&](SetIpDialog &dialog) {
+        OrvTest::whenOpen<SetIpDialog>([&](SetIpDialog &dialog) {
             proposed = edit(dialog, "ipEdit")->text();
             QCOMPARE(edit(dialog, "ipEdit")->selectedText(), proposed.section(QLatin1Char('.'), -1));
             QCOMPARE(edit(dialog, "nicNetmaskEdit")->text(), edit(dialog, "netmaskEdit")->text());
@@ -523,7 +508,7 @@ private Q_SLOTS:
         Shown shown;
         shown.click("camera");
         QString seen;
-        whenModal<SetIpDialog>([&](SetIpDialog &dialog) {
+        OrvTest::whenOpen<SetIpDialog>([&](SetIpDialog &dialog) {
             seen = edit(dialog, "ipEdit")->text();
             dialog.reject();
         });
@@ -545,9 +530,9 @@ private Q_SLOTS:
         Shown shown;
         shown.click(twoFrame);
         const QStringList before = shown.devicePane();
-        whenModal<SetIpDialog>([&](SetIpDialog &dialog) {
+        OrvTest::whenOpen<SetIpDialog>([&](SetIpDialog &dialog) {
             edit(dialog, "ipEdit")->setText(QStringLiteral("10.1.2.3"));
-            whenModal<QMessageBox>([&](QMessageBox &box) {
+            OrvTest::whenOpen<QMessageBox>([&](QMessageBox &box) {
                 QCOMPARE(box.windowTitle(), QStringLiteral("IP Configuration Warning"));
                 QCOMPARE(box.text(),
                          QStringLiteral("Specified IP Configuraion is not correct, camera may become undiscoverable\n"
@@ -598,7 +583,7 @@ private Q_SLOTS:
         Shown shown(true);
         shown.click(twoFrame);
         bool wasAsked = false;
-        whenModal<QDialog>([&](QDialog &window) {
+        OrvTest::whenOpen<QDialog>([&](QDialog &window) {
             auto *const dialog = qobject_cast<SetIpDialog *>(&window);
             wasAsked = dialog;
             if (!dialog)
@@ -619,37 +604,50 @@ private Q_SLOTS:
         QCOMPARE(wasAsked, isAsked);
     }
 
-    /** While it asks for an address, or shows a message, the dialog may be destroyed. */
+    /** While it asks for an address, or shows a message, the dialog may be closed or destroyed. */
     void endsWhileItAsks_data()
     {
         QTest::addColumn<bool>("inMessage");
-        QTest::newRow("address") << false;
-        QTest::newRow("warning") << true;
+        QTest::addColumn<bool>("isDestroyed");
+        QTest::newRow("address") << false << true;
+        QTest::newRow("warning") << true << true;
+        QTest::newRow("address, closed") << false << false;
+        QTest::newRow("warning, closed") << true << false;
     }
 
     void endsWhileItAsks()
     {
         QFETCH(bool, inMessage);
+        QFETCH(bool, isDestroyed);
         Shown shown;
         shown.click(twoFrame);
-        bool wasDestroyed = false;
-        whenModal<SetIpDialog>([&](SetIpDialog &dialog) {
-            if (!inMessage) {
+        bool isOver = false;
+        const auto end = [&] {
+            if (isDestroyed)
                 shown.dialog.reset();
-                wasDestroyed = true;
-                return;
+            else
+                shown.dialog->reject();
+            isOver = true;
+        };
+        OrvTest::whenOpen<SetIpDialog>([&](SetIpDialog &dialog) {
+            if (inMessage) {
+                edit(dialog, "ipEdit")->setText(QStringLiteral("10.1.2.3"));
+                OrvTest::whenOpen<QMessageBox>([&](QMessageBox &box) {
+                    end();
+                    if (!isDestroyed)
+                        press(box, QMessageBox::Ignore);
+                });
+            } else {
+                end();
             }
-            edit(dialog, "ipEdit")->setText(QStringLiteral("10.1.2.3"));
-            whenModal<QMessageBox>([&](QMessageBox &) {
-                shown.dialog.reset();
-                wasDestroyed = true;
-            });
-            dialog.accept();
+            if (inMessage || !isDestroyed)
+                dialog.accept();
         });
         // Not by a click, whose sender would be destroyed under the test.
         QMetaObject::invokeMethod(
             shown.dialog.get(), [&] { shown.setIp()->click(); }, Qt::QueuedConnection);
-        QTRY_VERIFY(wasDestroyed);
+        QTRY_VERIFY(isOver);
+        QTRY_VERIFY(!QApplication::activeModalWidget());
     }
 
     void hasNoCamerasWithoutASystem()
