@@ -488,6 +488,7 @@ void OrvCamConfigTest::asksForACamera()
         QVERIFY(selector.isPollChecked());
         choose(selector, twoFrame);
     });
+    OrvSim::setAccessStatus(SimTest::stray, OrvCam::AccessStatusReadWrite);
     {
         const Camera camera(monochrome);
         OrvCamConfig window(nullptr);

@@ -23,6 +23,15 @@ private:
 
 namespace {
 
+// A sanitizer's allocator answers 0 for the heap in use and finds by itself what is left behind.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr bool isHeapMeasured = false;
+#else
+constexpr bool isHeapMeasured = true;
+#endif
+constexpr int settledAfter = 100;
+constexpr int rounds = isHeapMeasured ? 500 : settledAfter;
+
 std::size_t heapInUse()
 {
     const struct mallinfo2 info = mallinfo2();
@@ -65,17 +74,19 @@ void OrvCamConfigEnduranceTest::work(int round)
 void OrvCamConfigEnduranceTest::leavesNothingBehind()
 {
     std::size_t early = 0;
-    for (int round = 1; round <= 500; ++round) {
+    for (int round = 1; round <= rounds; ++round) {
         work(round);
         if (QTest::currentTestFailed())
             return;
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(isNothingHeld());
-        if (round == 100)
+        if (round == settledAfter)
             early = heapInUse();
     }
-    const double growth = double(heapInUse()) / double(early) - 1;
-    QVERIFY2(growth < 0.01, qPrintable(QString::number(growth)));
+    if (isHeapMeasured) {
+        const double growth = double(heapInUse()) / double(early) - 1;
+        QVERIFY2(growth < 0.01, qPrintable(QString::number(growth)));
+    }
     const Camera camera;
     QCOMPARE(camera.value("FrameAB_Selector"), QStringLiteral("FrameA"));
 }

@@ -1,10 +1,12 @@
 #include <OrvCameraGuiApi/device_selection/devicetreemodel.h>
+#include <OrvCameraGuiApi/device_selection/infopane.h>
 #include <OrvCameraGuiApi/device_selection/orvcameraselectordialog.h>
 #include <OrvCameraGuiApi/device_selection/setipdialog.h>
 #include <OrvCameraGuiApi/device_selection/systempolling.h>
 
 #include <orvtest.h>
 #include <simtest.h>
+#include <whenopen.h>
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -58,6 +60,17 @@ struct Shown
         QTest::mouseDClick(tree()->viewport(), Qt::LeftButton, Qt::NoModifier, pointOf(id));
     }
 
+    /** Switches polling on, for one look at the system, and off; the dialog has not heard yet what was seen. */
+    void letPollingLook() const
+    {
+        auto *const check = part<QCheckBox>("pollingCheckBox");
+        OrvSim::stall(OrvSim::Call::ReEnumerateDevices);
+        check->click();
+        QVERIFY(OrvSim::waitUntilStalled(OrvSim::Call::ReEnumerateDevices, 5s));
+        OrvSim::release(OrvSim::Call::ReEnumerateDevices);
+        check->click();
+    }
+
     QString currentId() const { return model()->getItemID(tree()->currentIndex()); }
 
     /** "label=value" of each row. */
@@ -78,20 +91,13 @@ struct Shown
     std::unique_ptr<OrvGui::OrvCameraSelectorDialog> dialog;
 };
 
-/** Does something with the window of that kind that comes up next, in whatever event loop. */
-template <typename Window>
-void whenModal(std::function<void(Window &)> act)
+/** A camera to be added, whose control name is its identifier. */
+OrvSim::DeviceSpec cameraNamed(const char *name)
 {
-    auto *const timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer, act = std::move(act)] {
-        auto *const window = qobject_cast<Window *>(QApplication::activeModalWidget());
-        if (!window || !window->isVisible())
-            return;
-        timer->stop();
-        timer->deleteLater();
-        act(*window);
-    });
-    timer->start(0);
+    OrvSim::DeviceSpec camera = OrvSim::monochromeCamera();
+    camera.name = name;
+    camera.id = name;
+    return camera;
 }
 
 QLineEdit *edit(SetIpDialog &dialog, const char *name)
@@ -199,17 +205,71 @@ private Q_SLOTS:
             QBrush(Qt::red));
         QCOMPARE(shown.devicePane().size(), 8);
         QCOMPARE(shown.interfacePane().size(), 3);
-        shown.click("ORV-CL-0");
-        QVERIFY(shown.interfacePane().contains(QStringLiteral("Type=CameraLink")));
+    }
+
+    void namesEachTypeOfInterface_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<QString>("rows");
+        const auto row = [](int type, const char *rows) {
+            QTest::addRow("%d", type) << type << QStringLiteral("Description=Port ä,Type=") + QLatin1String(rows);
+        };
+        row(0, "Custom,Version=");
+        row(1, "USB3 Vision,Version=");
+        row(2, "GigE Vision,Version=,MAC Address=00:1A:2B:3C:4D:5E,IP Address=192.168.0.1,Netmask=255.0.0.0");
+        row(3, "CameraLink,Version=");
+        row(4, "CoaXPress,Version=");
+        row(5, "HD-SDI,Version=");
+        row(6, "Custom,Version=");
+    }
+
+    void namesEachTypeOfInterface()
+    {
+        QFETCH(int, type);
+        OrvSim::clear();
+        OrvSim::InterfaceSpec spec;
+        spec.name = "any";
+        spec.id = "any";
+        spec.description = "Port \xc3\xa4";
+        spec.type = type;
+        spec.macAddress = 0x1A2B3C4D5E;
+        spec.network = {0xC0A80001, 0xFF000000, 0};
+        OrvSim::addInterface(spec);
+        OrvSim::addDevice("any", cameraNamed("camera"));
+        Shown shown;
+        shown.click("any");
+        QTEST(shown.interfacePane().join(QLatin1Char(',')), "rows");
+        shown.click("camera");
+        QTEST(shown.interfacePane().join(QLatin1Char(',')), "rows");
+        QCOMPARE(shown.setIp()->isEnabled(), type == OrvCam::InterfaceTypeGigEVision);
+        QCOMPARE(shown.devicePane().size(), type == OrvCam::InterfaceTypeGigEVision ? 11 : 7);
+    }
+
+    /** Where interfaces have one identifier, a device may stand below another than its own. */
+    void asksTheInterfaceOfTheDevice()
+    {
+        OrvSim::clear();
+        for (const auto &[name, type] : {std::pair("usb", OrvCam::InterfaceTypeUsb3Vision),
+                                         std::pair("ethernet", OrvCam::InterfaceTypeGigEVision)}) {
+            OrvSim::InterfaceSpec spec;
+            spec.name = name;
+            spec.id = "twin";
+            spec.type = type;
+            OrvSim::addInterface(spec);
+        }
+        OrvSim::addDevice("ethernet", cameraNamed("camera"));
+        Shown shown;
+        shown.click("camera"); // the first of two, below the interface that is not its own
+        QVERIFY(shown.setIp()->isEnabled());
+        QVERIFY(!shown.devicePane().filter(QStringLiteral("IP Address")).isEmpty());
+        QVERIFY(shown.interfacePane().contains(QStringLiteral("Type=USB3 Vision")));
     }
 
     /** A feature that cannot be read leaves out its row; a device without texts has empty ones. */
     void leavesOutWhatCannotBeRead()
     {
         OrvSim::setFault("ORV-ETH-0", "GevDeviceMACAddress", OrvSim::Fault::FailRead);
-        OrvSim::DeviceSpec nameless = OrvSim::monochromeCamera();
-        nameless.name = "nameless";
-        nameless.id = "nameless";
+        OrvSim::DeviceSpec nameless = cameraNamed("nameless");
         for (OrvSim::Text *text : {&nameless.vendor, &nameless.model, &nameless.displayName, &nameless.userDefinedName,
                                    &nameless.serialNumber, &nameless.version})
             text->reset();
@@ -230,13 +290,20 @@ private Q_SLOTS:
         Shown shown;
         shown.click(twoFrame);
         auto *const view = shown.part<QTreeView>("deviceInfoView");
-        QCOMPARE(view->columnWidth(0), (view->columnWidth(0) + view->columnWidth(1)) / 2);
+        QCOMPARE(view->columnWidth(0), view->viewport()->width() / 2);
         view->setColumnWidth(0, 77);
         shown.click(monochrome);
         QCOMPARE(view->columnWidth(0), 77);
         shown.click("ORV-CL-0");
         shown.click(stray);
         QCOMPARE(view->columnWidth(0), 77);
+
+        OrvGui::OrvCameraSelectorDialog filledBefore(shown.system.get());
+        auto *const tree = filledBefore.findChild<QTreeView *>(QStringLiteral("deviceTreeView"));
+        tree->setCurrentIndex(static_cast<DeviceTreeModel *>(tree->model())->getItemIdx(QLatin1String(twoFrame)));
+        filledBefore.show();
+        for (auto *const pane : filledBefore.findChildren<InfoPane *>())
+            QCOMPARE(pane->columnWidth(0), pane->viewport()->width() / 2);
     }
 
     void opensAMenuOnGigEDevicesOnly()
@@ -255,6 +322,18 @@ private Q_SLOTS:
             QCOMPARE(menu->isVisible(), isOnGigE);
             menu->close();
         }
+
+        shown.click(stray);
+        expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
+        menu->popup(QPoint());
+        bool isAsked = false;
+        OrvTest::whenOpen<SetIpDialog>([&](SetIpDialog &dialog) {
+            isAsked = true;
+            dialog.reject();
+        });
+        QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier,
+                          menu->actionGeometry(menu->actions().constFirst()).center());
+        QVERIFY(isAsked);
     }
 
     void rescansWhenAsked()
@@ -268,6 +347,19 @@ private Q_SLOTS:
         QVERIFY(!shown.model()->getItemIdx(QLatin1String(monochrome)).isValid());
         QVERIFY(shown.model()->getItemIdx(QLatin1String(twoFrame)).isValid()); // expanded
         QVERIFY(!shown.dialog->selectedCamera() && !shown.ok()->isEnabled() && !shown.setIp()->isEnabled());
+    }
+
+    /** What polling has found and nobody has looked at is older than what is asked for by hand. */
+    void rescansAfterPolling()
+    {
+        Shown shown;
+        OrvSim::unplug(monochrome);
+        shown.letPollingLook();
+        OrvSim::replug(monochrome);
+        shown.rescan()->click();
+        for (int i = 0; i < 10; ++i)
+            QCoreApplication::processEvents();
+        QVERIFY(shown.model()->getItemIdx(QLatin1String(monochrome)).isValid());
     }
 
     void followsTheSystemWhilePolling()
@@ -307,20 +399,16 @@ private Q_SLOTS:
 
     void adoptsTwoChangesAtOnce()
     {
-        SystemPolling::period = shortPeriod;
-        Shown shown(true);
+        Shown shown;
         QSignalSpy resets(shown.model(), &QAbstractItemModel::modelReset);
-        OrvSim::stall(OrvSim::Call::ReEnumerateDevices);
-        QVERIFY(OrvSim::waitUntilStalled(OrvSim::Call::ReEnumerateDevices, 5s));
-        OrvSim::unplug(monochrome);
-        OrvSim::unplug(stray);
-        OrvSim::release(OrvSim::Call::ReEnumerateDevices);
-        // The thread tells of it several times before this one looks.
-        std::this_thread::sleep_for(20 * shortPeriod);
+        for (const char *id : {monochrome, stray}) {
+            OrvSim::unplug(id);
+            shown.letPollingLook();
+        }
         QTRY_COMPARE(resets.size(), 1);
         for (int i = 0; i < 10; ++i)
             QCoreApplication::processEvents();
-        QVERIFY(resets.size() <= 2); // one more when a step was under way meanwhile
+        QCOMPARE(resets.size(), 1);
         QVERIFY(!shown.model()->getItemIdx(QLatin1String(stray)).isValid());
     }
 
@@ -380,18 +468,20 @@ private Q_SLOTS:
         shown.click(stray);
         QVERIFY(!shown.ok()->isEnabled());
         QString proposed;
-        whenModal<SetIpDialog>([&](SetIpDialog &dialog) {
+        OrvTest::whenOpen<SetIpDialog>([&](SetIpDialog &dialog) {
             proposed = edit(dialog, "ipEdit")->text();
             QCOMPARE(edit(dialog, "ipEdit")->selectedText(), proposed.section(QLatin1Char('.'), -1));
             QCOMPARE(edit(dialog, "nicNetmaskEdit")->text(), edit(dialog, "netmaskEdit")->text());
             QVERIFY(edit(dialog, "nicMacEdit")->text() != edit(dialog, "macEdit")->text());
             QTest::keyClicks(edit(dialog, "ipEdit"), QStringLiteral("77"));
+            edit(dialog, "gatewayEdit")->setText(QStringLiteral("10.9.8.7"));
             QTest::keyClick(&dialog, Qt::Key_Return);
         });
         QTest::mouseClick(shown.setIp(), Qt::LeftButton);
         QVERIFY(!proposed.isEmpty());
         const QString expected = proposed.section(QLatin1Char('.'), 0, 2) + QStringLiteral(".77");
         QVERIFY(shown.devicePane().contains(QStringLiteral("IP Address=") + expected));
+        QVERIFY(shown.devicePane().contains(QStringLiteral("Gateway=10.9.8.7")));
         QVERIFY(shown.devicePane().contains(QStringLiteral("Access status=ReadWrite")));
         QVERIFY(shown.ok()->isEnabled());
     }
@@ -414,14 +504,11 @@ private Q_SLOTS:
         ethernet.id = "eth";
         ethernet.network = {adapter, 0xFFFFFF00, 0};
         OrvSim::addInterface(ethernet);
-        OrvSim::DeviceSpec camera = OrvSim::monochromeCamera();
-        camera.name = "camera";
-        camera.id = "camera";
-        OrvSim::addDevice("eth", camera);
+        OrvSim::addDevice("eth", cameraNamed("camera"));
         Shown shown;
         shown.click("camera");
         QString seen;
-        whenModal<SetIpDialog>([&](SetIpDialog &dialog) {
+        OrvTest::whenOpen<SetIpDialog>([&](SetIpDialog &dialog) {
             seen = edit(dialog, "ipEdit")->text();
             dialog.reject();
         });
@@ -443,9 +530,9 @@ private Q_SLOTS:
         Shown shown;
         shown.click(twoFrame);
         const QStringList before = shown.devicePane();
-        whenModal<SetIpDialog>([&](SetIpDialog &dialog) {
+        OrvTest::whenOpen<SetIpDialog>([&](SetIpDialog &dialog) {
             edit(dialog, "ipEdit")->setText(QStringLiteral("10.1.2.3"));
-            whenModal<QMessageBox>([&](QMessageBox &box) {
+            OrvTest::whenOpen<QMessageBox>([&](QMessageBox &box) {
                 QCOMPARE(box.windowTitle(), QStringLiteral("IP Configuration Warning"));
                 QCOMPARE(box.text(),
                          QStringLiteral("Specified IP Configuraion is not correct, camera may become undiscoverable\n"
@@ -496,7 +583,7 @@ private Q_SLOTS:
         Shown shown(true);
         shown.click(twoFrame);
         bool wasAsked = false;
-        whenModal<QDialog>([&](QDialog &window) {
+        OrvTest::whenOpen<QDialog>([&](QDialog &window) {
             auto *const dialog = qobject_cast<SetIpDialog *>(&window);
             wasAsked = dialog;
             if (!dialog)
@@ -517,37 +604,50 @@ private Q_SLOTS:
         QCOMPARE(wasAsked, isAsked);
     }
 
-    /** While it asks for an address, or shows a message, the dialog may be destroyed. */
+    /** While it asks for an address, or shows a message, the dialog may be closed or destroyed. */
     void endsWhileItAsks_data()
     {
         QTest::addColumn<bool>("inMessage");
-        QTest::newRow("address") << false;
-        QTest::newRow("warning") << true;
+        QTest::addColumn<bool>("isDestroyed");
+        QTest::newRow("address") << false << true;
+        QTest::newRow("warning") << true << true;
+        QTest::newRow("address, closed") << false << false;
+        QTest::newRow("warning, closed") << true << false;
     }
 
     void endsWhileItAsks()
     {
         QFETCH(bool, inMessage);
+        QFETCH(bool, isDestroyed);
         Shown shown;
         shown.click(twoFrame);
-        bool wasDestroyed = false;
-        whenModal<SetIpDialog>([&](SetIpDialog &dialog) {
-            if (!inMessage) {
+        bool isOver = false;
+        const auto end = [&] {
+            if (isDestroyed)
                 shown.dialog.reset();
-                wasDestroyed = true;
-                return;
+            else
+                shown.dialog->reject();
+            isOver = true;
+        };
+        OrvTest::whenOpen<SetIpDialog>([&](SetIpDialog &dialog) {
+            if (inMessage) {
+                edit(dialog, "ipEdit")->setText(QStringLiteral("10.1.2.3"));
+                OrvTest::whenOpen<QMessageBox>([&](QMessageBox &box) {
+                    end();
+                    if (!isDestroyed)
+                        press(box, QMessageBox::Ignore);
+                });
+            } else {
+                end();
             }
-            edit(dialog, "ipEdit")->setText(QStringLiteral("10.1.2.3"));
-            whenModal<QMessageBox>([&](QMessageBox &) {
-                shown.dialog.reset();
-                wasDestroyed = true;
-            });
-            dialog.accept();
+            if (inMessage || !isDestroyed)
+                dialog.accept();
         });
         // Not by a click, whose sender would be destroyed under the test.
         QMetaObject::invokeMethod(
             shown.dialog.get(), [&] { shown.setIp()->click(); }, Qt::QueuedConnection);
-        QTRY_VERIFY(wasDestroyed);
+        QTRY_VERIFY(isOver);
+        QTRY_VERIFY(!QApplication::activeModalWidget());
     }
 
     void hasNoCamerasWithoutASystem()

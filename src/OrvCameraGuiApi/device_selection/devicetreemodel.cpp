@@ -42,9 +42,10 @@ DeviceTreeModel::DeviceTreeModel(OrvCam::System *system, QObject *parent)
     : QAbstractItemModel(parent)
     , m_system(system)
     , m_root(std::make_unique<RootNode>(*this, system))
+    , m_current(enumerate())
+    , m_found(std::make_shared<State>())
 {
     registerMetaTypes();
-    m_current = enumerate();
 }
 
 DeviceTreeModel::~DeviceTreeModel() = default;
@@ -159,14 +160,21 @@ void DeviceTreeModel::getDevices(Interfaces &interfaces, Devices &devices) const
         });
 }
 
-DeviceTreeModel::State DeviceTreeModel::enumerate() const
+const std::vector<OrvCam::DeviceInfo *> &DeviceTreeModel::devicesOn(const QString &interfaceId) const
 {
-    State state;
-    getDevices(state.interfaces, state.devices);
-    for (OrvCam::Interface *transport : state.interfaces)
-        state.interfaceIds.append(QString::fromLatin1(transport->GetID()));
-    for (const auto &[id, devices] : state.devices) {
-        QStringList &ids = state.deviceIds[id];
+    static const std::vector<OrvCam::DeviceInfo *> none;
+    const auto found = m_current->devices.find(interfaceId);
+    return found == m_current->devices.end() ? none : found->second;
+}
+
+DeviceTreeModel::Snapshot DeviceTreeModel::enumerate() const
+{
+    const auto state = std::make_shared<State>();
+    getDevices(state->interfaces, state->devices);
+    for (OrvCam::Interface *transport : state->interfaces)
+        state->interfaceIds.append(QString::fromLatin1(transport->GetID()));
+    for (const auto &[id, devices] : state->devices) {
+        QStringList &ids = state->deviceIds[id];
         for (OrvCam::DeviceInfo *device : devices)
             ids.append(QString::fromLatin1(device->GetID()));
     }
@@ -180,22 +188,21 @@ void DeviceTreeModel::rescan()
 
 int DeviceTreeModel::checkNew()
 {
-    State found = enumerate();
-    QStringList interfaceIds;
-    std::map<QString, QStringList> deviceIds;
+    const Snapshot found = enumerate();
+    Snapshot published = found;
+    Snapshot current;
     {
-        // Held for the copies only: the GUI thread never waits for an enumeration.
+        // Held for the copies only: the GUI thread never waits for an enumeration, or for an old list to be deleted.
         const std::lock_guard<std::mutex> lock(m_mutex);
-        interfaceIds = m_current.interfaceIds;
-        deviceIds = m_current.deviceIds;
-        m_found = found;
+        current = m_current;
+        m_found.swap(published);
     }
-    return found.interfaceIds != interfaceIds || found.deviceIds != deviceIds ? 1 : 0;
+    return found->interfaceIds != current->interfaceIds || found->deviceIds != current->deviceIds ? 1 : 0;
 }
 
 void DeviceTreeModel::updateModel()
 {
-    State found;
+    Snapshot found;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         found = m_found;
@@ -203,12 +210,12 @@ void DeviceTreeModel::updateModel()
     show(std::move(found));
 }
 
-void DeviceTreeModel::show(State &&state)
+void DeviceTreeModel::show(Snapshot state)
 {
     beginResetModel();
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        m_current = std::move(state);
+        m_current.swap(state);
     }
     m_root = std::make_unique<RootNode>(*this, m_system);
     endResetModel();

@@ -28,7 +28,7 @@ Q_DECLARE_METATYPE(OrvCam::Interface *)
  * item is found again by its identifier.
  *
  * checkNew() may be called from one other thread while the model is used on its own, the GUI's; everything else is for
- * that thread only. Neither ever waits for the other longer than a list takes to be copied.
+ * that thread only. Neither ever waits for the other longer than a pointer takes to be copied.
  */
 class DeviceTreeModel : public QAbstractItemModel
 {
@@ -89,11 +89,8 @@ public:
     void updateModel();
 
     /** What the model shows now. */
-    const Interfaces &interfaces() const { return m_current.interfaces; }
-    const std::vector<OrvCam::DeviceInfo *> &devicesOn(const QString &interfaceId)
-    {
-        return m_current.devices[interfaceId];
-    }
+    const Interfaces &interfaces() const { return m_current->interfaces; }
+    const std::vector<OrvCam::DeviceInfo *> &devicesOn(const QString &interfaceId) const;
 
 private:
     friend class DeviceTreeNode;
@@ -107,13 +104,15 @@ private:
         std::map<QString, QStringList> deviceIds; ///< by the identifier of the interface
     };
 
-    State enumerate() const;
-    void show(State &&state);
+    using Snapshot = std::shared_ptr<const State>;
+
+    Snapshot enumerate() const;
+    void show(Snapshot state);
     DeviceTreeNode *nodeOf(const QModelIndex &index) const;
 
     OrvCam::System *const m_system; ///< for the other thread, which must not ask the root: that is replaced
     std::unique_ptr<RootNode> m_root;
-    State m_current; ///< written by the GUI thread with the lock, so that it may read without
-    State m_found; ///< by the last checkNew(); with the lock
-    mutable std::mutex m_mutex;
+    Snapshot m_current; ///< written by the GUI thread with the lock, so that it may read without
+    Snapshot m_found; ///< by the last checkNew(), nothing before; with the lock
+    std::mutex m_mutex;
 };

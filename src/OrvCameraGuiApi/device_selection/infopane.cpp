@@ -7,6 +7,8 @@
 #include <QHeaderView>
 #include <QStandardItemModel>
 
+#include <utility>
+
 namespace {
 
 constexpr std::int64_t usb3 = 0x300;
@@ -123,9 +125,10 @@ InfoPane::InfoPane(QWidget *parent)
     setAlternatingRowColors(true);
 }
 
-void InfoPane::showDevice(OrvCam::DeviceInfo &device, OrvCam::Interface *transport, int row)
+void InfoPane::showDevice(OrvCam::DeviceInfo &device, int row)
 {
     auto *const rows = new QStandardItemModel(this);
+    OrvCam::Interface *const transport = device.GetInterface();
     OrvGenParam::Array *const params = parametersOf(transport);
     const bool isGigE = transport && transport->GetType() == OrvCam::InterfaceTypeGigEVision;
     addRow(*rows, "Display name", QString::fromUtf8(device.GetDisplayName()));
@@ -176,4 +179,14 @@ void InfoPane::showRows(QStandardItemModel *rows)
     delete formerSelection;
     delete formerRows;
     setColumnWidth(0, m_labelWidth != 0 ? m_labelWidth : (columnWidth(0) + columnWidth(1)) / 2);
+    if (!isVisible() && m_labelWidth == 0)
+        m_unseenWidth = columnWidth(0);
+}
+
+/** The half, for rows that were there before the pane had its size, unless somebody has chosen another width since. */
+void InfoPane::showEvent(QShowEvent *event)
+{
+    QTreeView::showEvent(event);
+    if (const int unseenWidth = std::exchange(m_unseenWidth, 0); unseenWidth != 0 && unseenWidth == columnWidth(0))
+        setColumnWidth(0, viewport()->width() / 2);
 }

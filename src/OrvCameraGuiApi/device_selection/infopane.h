@@ -22,15 +22,19 @@ class InfoPane : public QTreeView
 public:
     explicit InfoPane(QWidget *parent = nullptr);
 
-    /** \a row: where the device stands on \a transport, which may be null. Both are asked now and not kept. */
-    void showDevice(OrvCam::DeviceInfo &device, OrvCam::Interface *transport, int row);
+    /** \a row: where the device stands on its interface. Both are asked now and not kept. */
+    void showDevice(OrvCam::DeviceInfo &device, int row);
     void showInterface(OrvCam::Interface &transport);
 
     /** From now on the width of the label column survives what is shown next. */
     void rememberWidth();
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     void showRows(class QStandardItemModel *rows);
 
     int m_labelWidth = 0; ///< 0: not known yet
+    int m_unseenWidth = 0; ///< what the label column was given while there was no room to be shared
 };

@@ -53,7 +53,7 @@ public:
     QModelIndex currentIndex() const { return ui.deviceTreeView->currentIndex(); }
     OrvCam::DeviceInfo *deviceAt(const QModelIndex &index) const;
     OrvCam::Interface *interfaceAt(const QModelIndex &index) const;
-    bool isOnGigE(const QModelIndex &index) const;
+    OrvCam::Interface *gigEOf(OrvCam::DeviceInfo *device) const;
 
     void look();
     void adoptChange();
@@ -161,10 +161,14 @@ OrvCam::Interface *OrvCameraSelectorDialogPrivate::interfaceAt(const QModelIndex
     return transport.data(Qt::UserRole).value<OrvCam::Interface *>();
 }
 
-bool OrvCameraSelectorDialogPrivate::isOnGigE(const QModelIndex &index) const
+/**
+ * The GigE Vision interface on which the device was found, if that is one. The device itself tells, not the item above:
+ * where two interfaces have one identifier, devices stand below both.
+ */
+OrvCam::Interface *OrvCameraSelectorDialogPrivate::gigEOf(OrvCam::DeviceInfo *device) const
 {
-    OrvCam::Interface *const transport = deviceAt(index) ? interfaceAt(index) : nullptr;
-    return transport && transport->GetType() == OrvCam::InterfaceTypeGigEVision;
+    OrvCam::Interface *const transport = device ? device->GetInterface() : nullptr;
+    return transport && transport->GetType() == OrvCam::InterfaceTypeGigEVision ? transport : nullptr;
 }
 
 /** On the polling thread. */
@@ -201,6 +205,7 @@ void OrvCameraSelectorDialogPrivate::setPolling(bool on)
 
 void OrvCameraSelectorDialogPrivate::rescan()
 {
+    hasChanged = false; // what polling found last is older, and may name what is gone
     model->rescan();
     currentChanged(currentIndex());
 }
@@ -212,7 +217,7 @@ void OrvCameraSelectorDialogPrivate::currentChanged(const QModelIndex &index)
     OrvCam::DeviceInfo *const device = deviceAt(index);
     const std::int32_t status = device ? device->GetAccessStatus() : OrvCam::AccessStatusNoAccess;
     okButton()->setEnabled(status != OrvCam::AccessStatusNoAccess && status != OrvCam::AccessStatusIpSubnetMismatch);
-    ui.setIpButton->setEnabled(isOnGigE(index));
+    ui.setIpButton->setEnabled(gigEOf(device));
 }
 
 void OrvCameraSelectorDialogPrivate::fillInfo(const QModelIndex &index)
@@ -221,16 +226,15 @@ void OrvCameraSelectorDialogPrivate::fillInfo(const QModelIndex &index)
         return;
     ui.interfaceInfoView->rememberWidth();
     ui.deviceInfoView->rememberWidth();
-    OrvCam::Interface *const transport = interfaceAt(index);
     if (OrvCam::DeviceInfo *const device = deviceAt(index))
-        ui.deviceInfoView->showDevice(*device, transport, index.row());
-    if (transport)
+        ui.deviceInfoView->showDevice(*device, index.row());
+    if (OrvCam::Interface *const transport = interfaceAt(index))
         ui.interfaceInfoView->showInterface(*transport);
 }
 
 void OrvCameraSelectorDialogPrivate::showContextMenu(const QPoint &position)
 {
-    if (isOnGigE(ui.deviceTreeView->indexAt(position)))
+    if (gigEOf(deviceAt(ui.deviceTreeView->indexAt(position))))
         contextMenu->popup(ui.deviceTreeView->viewport()->mapToGlobal(position));
 }
 
@@ -241,11 +245,12 @@ void OrvCameraSelectorDialogPrivate::showContextMenu(const QPoint &position)
 void OrvCameraSelectorDialogPrivate::setIpAddress()
 {
     const QModelIndex index = currentIndex();
-    if (!isOnGigE(index))
-        return;
     OrvCam::DeviceInfo *const device = deviceAt(index);
+    OrvCam::Interface *const transport = gigEOf(device);
+    if (!transport)
+        return;
     OrvCamErr err = OrvCamErr_Ok;
-    OrvGenParam::Array *const params = interfaceAt(index)->GetParameters(&err);
+    OrvGenParam::Array *const params = transport->GetParameters(&err);
     if (err != OrvCamErr_Ok || !selectDevice(params, index.row()))
         return tellFailure();
 
