@@ -7,6 +7,17 @@
 #include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigstrobedialog.h>
 #include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigtriggerdialog.h>
 #include <OrvCameraGuiApi/camconfig/orvcamconfig.h>
+#include <OrvCameraGuiApi/camera_api/orvgenparam.h>
+
+namespace {
+
+bool hasTwoFrames(OrvCam::Device *device)
+{
+    OrvGenParam::Array *const parameters = device ? device->GetCameraParameters(nullptr) : nullptr;
+    return parameters && parameters->GetEnum("FrameAB_Selector", nullptr);
+}
+
+} // namespace
 
 ConfigureMenu::ConfigureMenu(QWidget *window)
     : QMenu(tr("&Configure"), window)
@@ -16,6 +27,7 @@ ConfigureMenu::ConfigureMenu(QWidget *window)
     addConfigWindow();
     addSeparator();
     addDialog<OrvGui::OrvCamConfigFrameABDialog>(tr("&Frame A/B"), "frameab");
+    m_frameAB = m_entries.back().action;
     addDialog<OrvGui::OrvCamConfigTriggerDialog>(tr("&Trigger"), "trigger");
     addDialog<OrvGui::OrvCamConfigPulseDialog>(tr("&Pulse"), "pulse");
     addDialog<OrvGui::OrvCamConfigStrobeDialog>(tr("&Strobe"), "strobe");
@@ -30,7 +42,8 @@ void ConfigureMenu::addConfigWindow()
     const auto setDevice = [](QWidget *window, OrvCam::Device *device) {
         static_cast<OrvGui::OrvCamConfig *>(window)->SetDevice(device);
     };
-    QAction *const action = addAction(tr("Configuration &Window"), this, &ConfigureMenu::openConfigWindow);
+    QAction *const action = addAction(QIcon(QStringLiteral(":/explorer/configwindow.ico")), tr("Configuration &Window"),
+                                      this, &ConfigureMenu::openConfigWindow);
     action->setObjectName(QStringLiteral("configwindow"));
     m_entries.push_back({action, make, setDevice, nullptr});
 }
@@ -38,7 +51,7 @@ void ConfigureMenu::addConfigWindow()
 template <typename Dialog>
 void ConfigureMenu::addDialog(const QString &text, const char *name)
 {
-    QAction *const action = addAction(text);
+    QAction *const action = addAction(QIcon(QStringLiteral(":/icons/%1.ico").arg(QLatin1String(name))), text);
     const std::size_t index = m_entries.size();
     action->setObjectName(QLatin1String(name));
     action->setCheckable(true);
@@ -76,11 +89,16 @@ void ConfigureMenu::setReachable(bool reachable)
     updateEntries();
 }
 
+/** A dialog about what the camera does not have would be of no use. */
 void ConfigureMenu::updateEntries()
 {
     m_entries.front().action->setEnabled(m_device);
     for (auto dialog = m_entries.begin() + 1; dialog != m_entries.end(); ++dialog)
         dialog->action->setEnabled(m_device && m_isReachable);
+    if (!m_device || !m_isReachable || hasTwoFrames(m_device))
+        return;
+    m_frameAB->setEnabled(false);
+    m_frameAB->setChecked(false);
 }
 
 QStringList ConfigureMenu::windowNames() const

@@ -58,5 +58,6 @@ private:
     QWidget *const m_parent;
     OrvCam::Device *m_device = nullptr;
     bool m_isReachable = true;
+    QAction *m_frameAB = nullptr;
     std::vector<Entry> m_entries; ///< the configuration window, then the dialogs
 };

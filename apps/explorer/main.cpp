@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QSettings>
 
 #include <cstdio>
 
@@ -66,6 +67,18 @@ std::unique_ptr<CameraSource> sourceOf(const Options &options)
     return ask ? nullptr : openCamera(options.cameraId);
 }
 
+/** Only here, for a person, are settings read and written. */
+int runFor(ExplorerWindow &window)
+{
+    QSettings settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("OrvCameraGuiApi"),
+                       QCoreApplication::applicationName());
+    window.restoreSettings(settings);
+    window.show();
+    const int status = QApplication::exec();
+    window.saveSettings(settings);
+    return status;
+}
+
 int runWindow(int argc, char **argv, const Options &options, std::unique_ptr<CameraSource> source)
 {
     const bool screenshot = options.action == Options::Action::SaveScreenshot;
@@ -74,6 +87,7 @@ int runWindow(int argc, char **argv, const Options &options, std::unique_ptr<Cam
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication app(argc, argv);
+    QGuiApplication::setDesktopFileName(QCoreApplication::applicationName());
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/explorer/explorer.png")));
 
     if (!source)
@@ -83,8 +97,7 @@ int runWindow(int argc, char **argv, const Options &options, std::unique_ptr<Cam
     ExplorerWindow window(std::move(source));
     if (screenshot)
         return saveScreenshots(window, options.screenshotDir);
-    window.show();
-    return QApplication::exec();
+    return runFor(window);
 }
 
 } // namespace
