@@ -96,6 +96,7 @@ void ExplorerWindow::createStatusBar()
     statusBar()->setContentsMargins(6, 0, 6, 0);
     m_connectionIcon->setObjectName(QStringLiteral("connectionIcon"));
     m_connectionLabel->setObjectName(QStringLiteral("connection"));
+    m_pollingLabel->setContentsMargins(0, 0, 12, 0);
     for (QLabel *const label : {m_pollingLabel, m_connectionLabel, m_connectionIcon})
         statusBar()->addPermanentWidget(label);
 }

@@ -70,8 +70,7 @@ std::unique_ptr<CameraSource> sourceOf(const Options &options)
 /** Only here, for a person, are settings read and written. */
 int runFor(ExplorerWindow &window)
 {
-    QSettings settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("OrvCameraGuiApi"),
-                       QCoreApplication::applicationName());
+    QSettings settings(QStringLiteral("OrvCameraGuiApi"), QCoreApplication::applicationName());
     window.restoreSettings(settings);
     window.show();
     const int status = QApplication::exec();
