@@ -9,7 +9,14 @@
 #include <OrvCameraGuiApi/camconfig/orvcamconfig.h>
 #include <OrvCameraGuiApi/camera_api/orvgenparam.h>
 
+#include <QSettings>
+
 namespace {
+
+QString placeKey(const QAction &action)
+{
+    return action.objectName() + QStringLiteral("/geometry");
+}
 
 bool hasTwoFrames(OrvCam::Device *device)
 {
@@ -45,7 +52,7 @@ void ConfigureMenu::addConfigWindow()
     QAction *const action = addAction(QIcon(QStringLiteral(":/explorer/configwindow.ico")), tr("Configuration &Window"),
                                       this, &ConfigureMenu::openConfigWindow);
     action->setObjectName(QStringLiteral("configwindow"));
-    m_entries.push_back({action, make, setDevice, nullptr});
+    m_entries.push_back({action, make, setDevice, nullptr, {}});
 }
 
 template <typename Dialog>
@@ -64,7 +71,7 @@ void ConfigureMenu::addDialog(const QString &text, const char *name)
     const auto setDevice = [](QWidget *dialog, OrvCam::Device *device) {
         static_cast<Dialog *>(dialog)->SetDevice(device);
     };
-    m_entries.push_back({action, make, setDevice, nullptr});
+    m_entries.push_back({action, make, setDevice, nullptr, {}});
 }
 
 void ConfigureMenu::setDevice(OrvCam::Device *device)
@@ -120,9 +127,25 @@ QWidget *ConfigureMenu::windowNamed(const QString &name)
 
 QWidget *ConfigureMenu::windowOf(Entry &entry)
 {
-    if (!entry.window)
+    if (!entry.window) {
         entry.window = entry.make();
+        entry.window->restoreGeometry(entry.place);
+    }
     return entry.window;
+}
+
+void ConfigureMenu::saveSettings(QSettings &settings) const
+{
+    for (const Entry &entry : m_entries) {
+        if (entry.window)
+            settings.setValue(placeKey(*entry.action), entry.window->saveGeometry());
+    }
+}
+
+void ConfigureMenu::restoreSettings(const QSettings &settings)
+{
+    for (Entry &entry : m_entries)
+        entry.place = settings.value(placeKey(*entry.action)).toByteArray();
 }
 
 void ConfigureMenu::openConfigWindow()

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <QByteArray>
 #include <QMenu>
 
 #include <functional>
 #include <vector>
+
+class QSettings;
 
 namespace OrvCam {
 class Device;
@@ -33,6 +36,10 @@ public:
     /** Whether the camera can be reached at present: while it cannot, the dialogs have none. A new one can be. */
     void setReachable(bool reachable);
 
+    /** Where the windows are; one that is not open yet will open where it was. */
+    void saveSettings(QSettings &settings) const;
+    void restoreSettings(const QSettings &settings);
+
     /** The names of all entries, not translated. */
     QStringList windowNames() const;
     /** The window of that name, made if need be; null for another name, and while there is no camera. */
@@ -45,6 +52,7 @@ private:
         std::function<QWidget *()> make;
         std::function<void(QWidget *, OrvCam::Device *)> setDevice;
         QWidget *window; ///< null until it is first opened
+        QByteArray place; ///< where it is to be opened; empty: anywhere
     };
 
     void addConfigWindow();

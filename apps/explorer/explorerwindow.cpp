@@ -25,6 +25,7 @@
 #include <QTabWidget>
 #include <QToolBar>
 #include <QTreeView>
+#include <QUrl>
 
 // The type of what the view's model answers to Qt::UserRole.
 Q_DECLARE_METATYPE(GenApi::IValue *)
@@ -38,7 +39,7 @@ constexpr int messageTime = 5000; // milliseconds
 const QLatin1String geometryKey("window/geometry");
 const QLatin1String toolsKey("window/tools");
 const QLatin1String pageKey("window/page");
-const QLatin1String treeKey("tree/state");
+const QLatin1String treesGroup("trees");
 const QLatin1String pollsKey("polling/enabled");
 const QLatin1String intervalKey("polling/interval");
 
@@ -201,14 +202,26 @@ void ExplorerWindow::setSource(std::unique_ptr<CameraSource> source)
     m_simulation->setCamera(source->id(), source->nodeMap());
     m_simulation->setFeature(QString());
     m_configure->setDevice(source->device());
+    if (m_source)
+        m_treeStates.insert(m_source->name(), m_view->saveState());
     m_view->setParams(source->nodeMap());
     m_source = std::move(source);
     setWindowTitle(tr("%1 - Camera Explorer").arg(m_source->name()));
-    m_view->treeView()->expandToDepth(0);
+    arrangeTree();
     connect(m_watch.get(), &CameraWatch::reachableChanged, this, &ExplorerWindow::setReachable);
     connect(m_view->treeView()->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &ExplorerWindow::followCurrent);
     setReachable(true);
+}
+
+/** As it was left, if the camera has been seen before. */
+void ExplorerWindow::arrangeTree()
+{
+    const QByteArray state = m_treeStates.value(m_source->name());
+    if (state.isEmpty())
+        m_view->treeView()->expandToDepth(0);
+    else
+        m_view->loadState(state.constData());
 }
 
 void ExplorerWindow::setReachable(bool reachable)
@@ -319,24 +332,34 @@ void ExplorerWindow::saveSettings(QSettings &settings) const
     settings.setValue(geometryKey, saveGeometry());
     settings.setValue(toolsKey, saveState());
     settings.setValue(pageKey, m_pages->currentIndex());
-    settings.setValue(treeKey, QByteArray(m_view->saveState()));
     settings.setValue(pollsKey, m_polling->isChecked());
     settings.setValue(intervalKey, int(m_view->getPollingTime()));
+    m_configure->saveSettings(settings);
+    QHash<QString, QByteArray> trees = m_treeStates;
+    trees.insert(m_source->name(), m_view->saveState());
+    settings.beginGroup(treesGroup);
+    for (auto tree = trees.cbegin(); tree != trees.cend(); ++tree)
+        settings.setValue(QString::fromLatin1(QUrl::toPercentEncoding(tree.key())), tree.value());
+    settings.endGroup();
 }
 
 /** What is missing stays as it is. The file may have been edited: what it says is no more than a wish. */
-void ExplorerWindow::restoreSettings(const QSettings &settings)
+void ExplorerWindow::restoreSettings(QSettings &settings)
 {
     restoreGeometry(settings.value(geometryKey).toByteArray());
     restoreState(settings.value(toolsKey).toByteArray());
     m_pages->setCurrentIndex(settings.value(pageKey, m_pages->currentIndex()).toInt());
-    const QByteArray tree = settings.value(treeKey).toByteArray();
-    if (!tree.isEmpty())
-        m_view->loadState(tree.constData());
     const int interval = settings.value(intervalKey, defaultPollingTime).toInt();
     m_view->setPollingTime(static_cast<unsigned long>(qBound(0, interval, longestPollingTime)));
     m_polling->setChecked(settings.value(pollsKey, true).toBool());
     updatePolling();
+    m_configure->restoreSettings(settings);
+    settings.beginGroup(treesGroup);
+    const QStringList names = settings.childKeys();
+    for (const QString &name : names)
+        m_treeStates.insert(QUrl::fromPercentEncoding(name.toLatin1()), settings.value(name).toByteArray());
+    settings.endGroup();
+    arrangeTree();
 }
 
 void ExplorerWindow::refresh()

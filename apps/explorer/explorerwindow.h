@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QMainWindow>
 
 #include <memory>
@@ -40,9 +41,12 @@ public:
     void saveStateTo(const QString &path);
     void loadStateFrom(const QString &path);
 
-    /** What is remembered from one run to the next: the windows' places, how the view is arranged, the polling. */
+    /**
+     * What is remembered from one run to the next: the windows' places, how the tree of each camera is arranged, the
+     * polling.
+     */
     void saveSettings(QSettings &settings) const;
-    void restoreSettings(const QSettings &settings);
+    void restoreSettings(QSettings &settings);
 
     /** The names of the pages, not translated, in their order; the first is shown at first. */
     QStringList pageNames() const;
@@ -61,6 +65,7 @@ private:
     void createHelpMenu();
 
     void setSource(std::unique_ptr<CameraSource> source);
+    void arrangeTree();
     void chooseCamera();
     void chooseDescription();
     void chooseStateToSave();
@@ -76,6 +81,7 @@ private:
     std::unique_ptr<CameraSource> m_source;
     std::unique_ptr<CameraWatch> m_watch; ///< on the camera of the source
     bool m_isReachable = true;
+    QHash<QString, QByteArray> m_treeStates; ///< of cameras that are not shown, by name
     QTabWidget *const m_pages;
     OrvGui::OrvGenParamTreeView *const m_view;
     QToolBar *const m_tools;

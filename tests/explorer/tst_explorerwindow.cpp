@@ -356,6 +356,7 @@ void ExplorerWindowTest::remembersItself()
         window.showPage(QStringLiteral("widgets"));
         treeOf(window)->collapseAll();
         trigger(window, "poll");
+        window.configureMenu().windowNamed(QStringLiteral("pulse"))->move(50, 60);
         window.saveSettings(settings);
     }
     ExplorerWindow window(openCamera(QString()));
@@ -364,6 +365,11 @@ void ExplorerWindowTest::remembersItself()
     QVERIFY(!window.findChild<QAction *>(QStringLiteral("poll"))->isChecked());
     QVERIFY(!treeOf(window)->isExpanded(treeOf(window)->model()->index(0, 0)));
     QCOMPARE(window.findChild<QTabWidget *>()->currentIndex(), 1);
+    QCOMPARE(window.configureMenu().windowNamed(QStringLiteral("pulse"))->pos(), QPoint(50, 60));
+    for (const char *camera : {"ORV-USB3-0001", firstCamera}) { // each has its own tree
+        window.showCamera(QLatin1String(camera));
+        QCOMPARE(treeOf(window)->isExpanded(treeOf(window)->model()->index(0, 0)), camera != firstCamera);
+    }
 
     for (const QString &key : settings.allKeys())
         settings.setValue(key, QStringLiteral("-7"));
