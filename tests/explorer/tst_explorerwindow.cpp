@@ -7,6 +7,7 @@
 
 #include <OrvCameraApi/simulation.h>
 #include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
+#include <OrvCameraGuiApi/widgets/qtorvspinbox.h>
 
 #include <GenApi/GenApi.h>
 
@@ -338,8 +339,17 @@ void ExplorerWindowTest::letsValuesDrift()
                                             .value(0)
                                             .siblingAtColumn(1);
     QCOMPARE(lines.data().toString(), QStringLiteral("10lines"));
+    const auto *const dialogLines = window.configureMenu()
+                                        .windowNamed(QStringLiteral("frameab"))
+                                        ->findChild<QtOrvSpinBox *>(QStringLiteral("spBoxExposureLines"));
+    QCOMPARE(dialogLines->value(), 10);
+    bool isTold = false;
+    connect(model, &QAbstractItemModel::dataChanged, &window,
+            [&](const QModelIndex &index) { isTold = isTold || index.siblingAtColumn(1) == lines; });
     trigger(window, "drift");
-    QTRY_VERIFY(lines.data().toString() != QLatin1String("10lines"));
+    QTRY_VERIFY(isTold);
+    QVERIFY(lines.data().toString() != QLatin1String("10lines"));
+    QTRY_VERIFY(dialogLines->value() != 10);
     QTRY_VERIFY(exposure->text() != QLatin1String("105"));
 }
 
