@@ -1,5 +1,7 @@
 #include "barefeature.h"
 
+#include <string>
+
 BareFeature::BareFeature(GenApi::IValue *value)
     : m_value(value)
     , m_node(value->GetNode())
@@ -11,6 +13,10 @@ BareFeature::BareFeature(GenApi::IValue *value)
         m_float = dynamic_cast<GenApi::IFloat *>(value);
     else if (m_type == GenApi::intfIBoolean)
         m_boolean = dynamic_cast<GenApi::IBoolean *>(value);
+    else if (m_type == GenApi::intfIEnumeration)
+        m_enumeration = dynamic_cast<GenApi::IEnumeration *>(value);
+    else if (m_type == GenApi::intfIString)
+        m_string = dynamic_cast<GenApi::IString *>(value);
 }
 
 QString BareFeature::text() const
@@ -28,4 +34,18 @@ QString BareFeature::text() const
     default:
         return QString::fromUtf8(m_value->ToString().c_str());
     }
+}
+
+void BareFeature::change(int number)
+{
+    if (m_integer)
+        m_integer->SetValue(number);
+    else if (m_float)
+        m_float->SetValue(number);
+    else if (m_boolean)
+        m_boolean->SetValue(number % 2 == 0);
+    else if (m_enumeration)
+        m_enumeration->SetIntValue(number % 3);
+    else if (m_string)
+        m_string->SetValue(std::to_string(number).c_str());
 }

@@ -15,6 +15,9 @@ public:
     QString name() const { return QString::fromUtf8(m_node->GetDisplayName().c_str()); }
     QString text() const;
 
+    /** Sets a value that is another one for another \a number. */
+    void change(int number);
+
 private:
     GenApi::IValue *m_value;
     GenApi::INode *m_node;
@@ -22,4 +25,6 @@ private:
     GenApi::IInteger *m_integer = nullptr;
     GenApi::IFloat *m_float = nullptr;
     GenApi::IBoolean *m_boolean = nullptr;
+    GenApi::IEnumeration *m_enumeration = nullptr;
+    GenApi::IString *m_string = nullptr;
 };

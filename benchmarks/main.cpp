@@ -12,6 +12,11 @@ constexpr int featuresInAUsualDescription = 1500;
 void measureAll(const QStringList &arguments)
 {
     Table table;
+    if (arguments.contains(QLatin1String("tree"))) {
+        measureFeatureTree(table, {1000, 10000, 100000});
+        table.print();
+        return;
+    }
     const struct
     {
         int features;

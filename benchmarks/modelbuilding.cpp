@@ -95,7 +95,7 @@ void measure(Cost &cost, int rows, const Make &make, const Check &isComplete)
 
 void measureModelBuilding(Table &table, int features, int repetitions)
 {
-    const MemoryCamera camera(features);
+    const MemoryCamera camera(describeCamera(features));
     const GenApi::CValuePtr root(camera.map->GetNode("Root"));
     const std::vector<Row> texts = readRows(root);
     const int rows = features + int(texts.size());

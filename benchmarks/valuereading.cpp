@@ -5,7 +5,7 @@
 
 void measureValueReading(Table &table, int features, int repetitions)
 {
-    const MemoryCamera camera(features);
+    const MemoryCamera camera(describeCamera(features));
     const GenParamTreeModel model(camera.map.get(), nullptr);
     std::vector<QModelIndex> cells;
     std::vector<BareFeature> bare;

@@ -11,21 +11,51 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
+#include <utility>
 #include <vector>
 
 namespace {
 
+/** Rows of the source model, ascending. */
 using Rows = std::vector<int>;
+
+/** What a category is taken to be when it is asked whether it can be seen. */
+enum class Time { Now, Ahead };
+
+/** What stays the same about a row of the source model. It is asked for so often that asking once pays. */
+struct SourceRow
+{
+    enum Kind : quint8 { Unknown, Feature, Category };
+
+    GenApi::IValue *value;
+    struct Branch *below = nullptr; ///< null also where nobody has asked yet
+    bool hasRowsBelow;
+    Kind kind = Unknown;
+};
 
 /** The rows below one source index that pass the filter; the internal pointer of their proxy indexes. */
 struct Branch
 {
+    const Rows &rowsAt(Time time) const { return time == Time::Ahead && isChanging ? comingRows : rows; }
+
     QModelIndex source; ///< invalid for the root; of a category in several places the first one
-    Branch *parent; ///< null for the root
-    Rows rows; ///< source rows, ascending
-    Rows formerRows; ///< while the filter changes: those before
-    quint32 walk = 0; ///< the walk that found out isShown
+    Branch *parent = nullptr; ///< null for the root
+    bool isListedAgain = false; ///< the category stands in other places too
+    std::vector<SourceRow> sourceRows;
+    Rows rows;
+    bool isChanging = false; ///< there are rows to come that are others than those there are
+    Rows comingRows;
+    Rows formerRows; ///< while indexes are brought from them to the rows that have come
+    quint64 walk = 0; ///< the one that found out isShown
     bool isShown = true;
+};
+
+/** A row among those of a branch, shown or not. */
+struct Place
+{
+    Branch *branch;
+    int sourceRow;
 };
 
 /** Where \a sourceRow is among \a rows, or -1. */
@@ -45,31 +75,52 @@ public:
     {
     }
 
-    const QAbstractItemModel *source() const { return q->sourceModel(); }
-    QModelIndex firstOccurrence(const QModelIndex &source) const;
+    QModelIndex firstOccurrence(const QModelIndex &index) const;
     Branch *branchOf(const QModelIndex &sourceParent);
-    Branch *branchOfProxy(const QModelIndex &proxyParent);
-    QModelIndex proxyOf(const Branch *branch) const;
-    bool isShown(Branch *branch);
-    void evaluate(Branch &branch, Rows &rows) const;
+    Branch *branchBelow(const QModelIndex &proxyParent);
+    SourceRow *sourceRowOf(const QModelIndex &proxyIndex) const;
+    bool isCategory(SourceRow &row) const;
+    Branch *addBranch(const QModelIndex &sourceParent, Branch *parent);
+    void readSourceRows(Branch &branch);
+    void findListedAgain(Branch &branch);
+    QModelIndex proxyOf(Branch *branch);
+    std::optional<Place> shownPlace(const QModelIndex &first);
+    bool isShown(const Place &place, Time time);
+    bool isShown(Branch *branch, Time time = Time::Now);
+    bool isShownElsewhere(const Branch &branch, Time time);
+    QModelIndex survivorOf(const QModelIndex &proxyIndex);
 
+    void evaluate(const Branch &branch, Rows &rows) const;
     bool accepts(GenApi::IValue *value) const;
     bool acceptsName(GenApi::INode *node) const;
 
     void refilter();
+    std::vector<Branch *> findChanging();
+    void announceGoing(const std::vector<Branch *> &changing);
+    void changeLayout(const std::vector<Branch *> &changing);
+    bool hasNewCategory(const Branch &branch) const;
     void movePersistentIndexes();
     void sourceDataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight, const QVector<int> &roles);
+    void rowChanged(Place place, const QModelIndex &topLeft, const QModelIndex &bottomRight, const QVector<int> &roles);
     void updateRow(Branch &branch, int sourceRow);
+    void insertRow(Branch &branch, int sourceRow);
+    void removeRow(Branch &branch, int sourceRow);
+    void rowsHaveChanged();
     void forget();
 
     GenParamTreeVisibilityFilterProxyModel *const q;
+    QAbstractItemModel *source = nullptr; ///< sourceModel(), at hand
     qint32 level = 0;
     WildcardMatcher pattern;
     bool wholeWords = false;
+
+    std::vector<std::unique_ptr<Branch>> owned; ///< each after its parent
     QHash<quintptr, Branch *> branches; ///< by the internal identifier of the source index
-    std::vector<std::unique_ptr<Branch>> owned;
     Branch *lastBranch = nullptr; ///< views ask for many children of one parent in turn
-    quint32 walk = 0;
+    QHash<quintptr, QVector<Place>> furtherPlaces; ///< of features in several places all but the first one, if known
+    quint64 walk = 1; ///< what is known of branches being shown was found out in this one, or counts no more
+    quint64 revision = 0; ///< of the rows, also of those to come
+    quint64 generation = 0; ///< of the branches: a new one has none of the former
     std::vector<QMetaObject::Connection> connections;
 };
 
@@ -79,14 +130,14 @@ public:
  */
 QModelIndex GenParamTreeVisibilityFilterProxyModelPrivate::firstOccurrence(const QModelIndex &index) const
 {
-    const QModelIndex parent = source()->parent(index);
-    const auto isHere = [&](int row) { return source()->index(row, 0, parent).internalId() == index.internalId(); };
+    const QModelIndex parent = source->parent(index);
+    const auto isHere = [&](int row) { return source->index(row, 0, parent).internalId() == index.internalId(); };
     if (isHere(index.row()))
         return index;
-    const int count = source()->rowCount(parent);
+    const int count = source->rowCount(parent);
     for (int row = 0; row < count; ++row) {
         if (isHere(row))
-            return source()->index(row, index.column(), parent);
+            return source->index(row, index.column(), parent);
     }
     return {};
 }
@@ -96,66 +147,197 @@ Branch *GenParamTreeVisibilityFilterProxyModelPrivate::branchOf(const QModelInde
 {
     if (lastBranch && lastBranch->source.internalId() == sourceParent.internalId())
         return lastBranch;
-    if (!source() || source()->rowCount(sourceParent) == 0)
+    if (!source || source->rowCount(sourceParent) == 0)
         return nullptr;
-    if (Branch *const known = branches.value(sourceParent.internalId()))
-        return lastBranch = known;
-    owned.push_back(std::make_unique<Branch>());
-    Branch *const branch = owned.back().get();
-    branches.insert(sourceParent.internalId(), branch);
-    branch->source = sourceParent.isValid() ? firstOccurrence(sourceParent.siblingAtColumn(0)) : QModelIndex();
-    branch->parent = sourceParent.isValid() ? branchOf(source()->parent(sourceParent)) : nullptr;
-    evaluate(*branch, branch->rows);
+    // Not recursive: a description decides how deep its categories are nested.
+    std::vector<QModelIndex> missing;
+    QModelIndex known = sourceParent;
+    while (known.isValid() && !branches.contains(known.internalId())) {
+        missing.push_back(known);
+        known = source->parent(known);
+    }
+    Branch *branch = branches.value(known.internalId());
+    if (!branch)
+        branch = addBranch(QModelIndex(), nullptr);
+    for (auto index = missing.rbegin(); index != missing.rend(); ++index)
+        branch = addBranch(firstOccurrence(index->siblingAtColumn(0)), branch);
     return lastBranch = branch;
 }
 
-Branch *GenParamTreeVisibilityFilterProxyModelPrivate::branchOfProxy(const QModelIndex &proxyParent)
+/** Null for what has no children. */
+Branch *GenParamTreeVisibilityFilterProxyModelPrivate::branchBelow(const QModelIndex &proxyParent)
 {
-    return proxyParent.column() > 0 ? nullptr : branchOf(q->mapToSource(proxyParent));
+    if (!proxyParent.isValid())
+        return branchOf({});
+    SourceRow *const row = proxyParent.column() == 0 ? sourceRowOf(proxyParent) : nullptr;
+    if (!row || !row->hasRowsBelow)
+        return nullptr;
+    if (!row->below) {
+        const quint64 found = generation;
+        Branch *const below = branchOf(q->mapToSource(proxyParent));
+        if (generation != found)
+            return nullptr;
+        row->below = below;
+    }
+    return row->below;
 }
 
-QModelIndex GenParamTreeVisibilityFilterProxyModelPrivate::proxyOf(const Branch *branch) const
+SourceRow *GenParamTreeVisibilityFilterProxyModelPrivate::sourceRowOf(const QModelIndex &proxyIndex) const
+{
+    if (!proxyIndex.isValid() || proxyIndex.model() != q)
+        return nullptr;
+    const auto branch = static_cast<Branch *>(proxyIndex.internalPointer());
+    const auto row = size_t(proxyIndex.row());
+    return row < branch->rows.size() ? &branch->sourceRows[size_t(branch->rows[row])] : nullptr;
+}
+
+bool GenParamTreeVisibilityFilterProxyModelPrivate::isCategory(SourceRow &row) const
+{
+    if (row.kind == SourceRow::Unknown)
+        row.kind = ::isCategory(row.value) ? SourceRow::Category : SourceRow::Feature;
+    return row.kind == SourceRow::Category;
+}
+
+Branch *GenParamTreeVisibilityFilterProxyModelPrivate::addBranch(const QModelIndex &sourceParent, Branch *parent)
+{
+    owned.push_back(std::make_unique<Branch>());
+    Branch *const branch = owned.back().get();
+    branch->source = sourceParent;
+    branch->parent = parent;
+    branch->isListedAgain = furtherPlaces.contains(sourceParent.internalId());
+    branches.insert(sourceParent.internalId(), branch);
+    readSourceRows(*branch);
+    findListedAgain(*branch);
+    evaluate(*branch, branch->rows);
+    branch->rows.shrink_to_fit();
+    return branch;
+}
+
+void GenParamTreeVisibilityFilterProxyModelPrivate::readSourceRows(Branch &branch)
+{
+    const int count = source->rowCount(branch.source);
+    branch.sourceRows.reserve(size_t(count));
+    for (int row = 0; row < count; ++row) {
+        const QModelIndex index = source->index(row, GenParamTreeModel::NameColumn, branch.source);
+        const QVariant value = source->data(index, GenParamTreeModel::ValueInterfaceRole);
+        branch.sourceRows.push_back({value.value<GenApi::IValue *>(), nullptr, source->hasChildren(index)});
+    }
+}
+
+void GenParamTreeVisibilityFilterProxyModelPrivate::findListedAgain(Branch &branch)
+{
+    const int count = source->rowCount(branch.source);
+    for (int row = 0; row < count; ++row) {
+        const QModelIndex index = source->index(row, 0, branch.source);
+        if (source->parent(index) == branch.source)
+            continue;
+        furtherPlaces[index.internalId()].append({&branch, row});
+        if (Branch *const listed = branches.value(index.internalId()))
+            listed->isListedAgain = true;
+    }
+}
+
+/** Of the category that the rows of \a branch belong to; where it is shown, if it stands in several places. */
+QModelIndex GenParamTreeVisibilityFilterProxyModelPrivate::proxyOf(Branch *branch)
 {
     if (!branch->parent)
         return {};
-    const int row = position(branch->parent->rows, branch->source.row());
-    return row < 0 ? QModelIndex() : q->createIndex(row, 0, branch->parent);
+    Place place{branch->parent, branch->source.row()};
+    if (branch->isListedAgain)
+        place = shownPlace(branch->source).value_or(place);
+    const int row = position(place.branch->rows, place.sourceRow);
+    return row < 0 ? QModelIndex() : q->createIndex(row, 0, place.branch);
+}
+
+/** Where the feature, of which \a first is the first occurrence, can be seen. */
+std::optional<Place> GenParamTreeVisibilityFilterProxyModelPrivate::shownPlace(const QModelIndex &first)
+{
+    const Place firstPlace{branchOf(first.parent()), first.row()};
+    if (firstPlace.branch && isShown(firstPlace, Time::Now))
+        return firstPlace;
+    const QVector<Place> further = furtherPlaces.value(first.internalId());
+    for (const Place &place : further) {
+        if (isShown(place, Time::Now))
+            return place;
+    }
+    return std::nullopt;
+}
+
+bool GenParamTreeVisibilityFilterProxyModelPrivate::isShown(const Place &place, Time time)
+{
+    return position(place.branch->rowsAt(time), place.sourceRow) >= 0 && isShown(place.branch, time);
 }
 
 /** Whether the category that the rows of \a branch belong to can be seen, with all that it stands in. */
-bool GenParamTreeVisibilityFilterProxyModelPrivate::isShown(Branch *branch)
+bool GenParamTreeVisibilityFilterProxyModelPrivate::isShown(Branch *branch, Time time)
 {
-    if (!branch->parent)
-        return true;
-    if (branch->walk != walk) {
-        branch->isShown = isShown(branch->parent) && position(branch->parent->rows, branch->source.row()) >= 0;
-        branch->walk = walk;
+    std::vector<Branch *> unknown;
+    for (; branch->parent && branch->walk != walk; branch = branch->parent)
+        unknown.push_back(branch);
+    bool shown = branch->isShown;
+    for (auto next = unknown.rbegin(); next != unknown.rend(); ++next) {
+        Branch &below = **next;
+        shown =
+            (shown && position(below.parent->rowsAt(time), below.source.row()) >= 0) || isShownElsewhere(below, time);
+        below.isShown = shown;
+        below.walk = walk;
     }
-    return branch->isShown;
+    return shown;
 }
 
-void GenParamTreeVisibilityFilterProxyModelPrivate::evaluate(Branch &branch, Rows &rows) const
+bool GenParamTreeVisibilityFilterProxyModelPrivate::isShownElsewhere(const Branch &branch, Time time)
 {
-    const int count = source()->rowCount(branch.source);
-    rows.clear();
-    for (int row = 0; row < count; ++row) {
-        if (q->filterAcceptsRow(row, branch.source))
-            rows.push_back(row);
+    if (!branch.isListedAgain)
+        return false;
+    const QVector<Place> further = furtherPlaces.value(branch.source.internalId());
+    return std::any_of(further.begin(), further.end(), [&](const Place &place) { return isShown(place, time); });
+}
+
+QModelIndex GenParamTreeVisibilityFilterProxyModelPrivate::survivorOf(const QModelIndex &proxyIndex)
+{
+    const auto branch = static_cast<Branch *>(proxyIndex.internalPointer());
+    ++walk;
+    const bool stays = isShown(branch, Time::Ahead);
+    ++walk;
+    if (!stays)
+        return {};
+    const auto staysAt = [&](int row) { return position(branch->rowsAt(Time::Ahead), branch->rows[size_t(row)]) >= 0; };
+    const int count = int(branch->rows.size());
+    for (int row = proxyIndex.row(); row < count; ++row) {
+        if (staysAt(row))
+            return q->createIndex(row, proxyIndex.column(), branch);
     }
-    rows.shrink_to_fit();
+    for (int row = std::min(proxyIndex.row(), count) - 1; row >= 0; --row) {
+        if (staysAt(row))
+            return q->createIndex(row, proxyIndex.column(), branch);
+    }
+    return proxyOf(branch);
+}
+
+void GenParamTreeVisibilityFilterProxyModelPrivate::evaluate(const Branch &branch, Rows &rows) const
+{
+    const quint64 found = generation;
+    const size_t count = branch.sourceRows.size();
+    rows.clear();
+    for (size_t row = 0; row < count && generation == found; ++row) {
+        if (accepts(branch.sourceRows[row].value))
+            rows.push_back(int(row));
+    }
 }
 
 bool GenParamTreeVisibilityFilterProxyModelPrivate::accepts(GenApi::IValue *value) const
 {
-    GenApi::INode *const node = value ? nodeOf(value) : nullptr;
-    if (!node)
-        return true;
+    GenApi::INode *node = nullptr;
     bool isTooHigh = false;
-    failureOf([&] { isTooHigh = int(node->GetVisibility()) > level; });
-    if (isTooHigh || !acceptsName(node))
+    failureOf([&] {
+        node = nodeOf(value);
+        isTooHigh = int(node->GetVisibility()) > level;
+    });
+    if (isTooHigh || (node && !acceptsName(node)))
         return false;
     bool isImplemented = true;
-    failureOf([&] { isImplemented = node->GetAccessMode() != GenApi::NI; });
+    if (node)
+        failureOf([&] { isImplemented = node->GetAccessMode() != GenApi::NI; });
     return isImplemented;
 }
 
@@ -165,12 +347,10 @@ bool GenParamTreeVisibilityFilterProxyModelPrivate::acceptsName(GenApi::INode *n
         return true;
     bool accepted = true;
     failureOf([&] {
-        accepted = node->GetPrincipalInterfaceType() == GenApi::intfICategory;
-        if (!accepted) {
-            accepted = true;
-            const QString name = fromGenICam(node->GetDisplayName());
-            accepted = wholeWords ? pattern.isAll(name) : pattern.isIn(name);
-        }
+        if (node->GetPrincipalInterfaceType() == GenApi::intfICategory)
+            return;
+        const QString name = fromGenICam(node->GetDisplayName());
+        accepted = wholeWords ? pattern.isAll(name) : pattern.isIn(name);
     });
     return accepted;
 }
@@ -178,29 +358,76 @@ bool GenParamTreeVisibilityFilterProxyModelPrivate::acceptsName(GenApi::INode *n
 /** One change of layout, or nothing where no row comes or goes. */
 void GenParamTreeVisibilityFilterProxyModelPrivate::refilter()
 {
-    std::vector<Branch *> changed;
+    quint64 evaluated = 0;
+    std::vector<Branch *> changing;
+    do {
+        evaluated = ++revision;
+        changing = findChanging();
+        if (revision == evaluated)
+            announceGoing(changing);
+        // Whoever has heard of it may have changed anything: what was found out counts no more then.
+    } while (revision != evaluated);
+    if (!changing.empty())
+        changeLayout(changing);
+}
+
+std::vector<Branch *> GenParamTreeVisibilityFilterProxyModelPrivate::findChanging()
+{
+    std::vector<Branch *> changing;
+    const quint64 found = generation;
     Rows rows;
-    for (const std::unique_ptr<Branch> &branch : owned) {
-        evaluate(*branch, rows);
-        if (rows != branch->rows) {
-            branch->formerRows = std::move(rows);
-            changed.push_back(branch.get());
-        }
+    // Not by iterators: a node that is asked may report a change, upon which somebody asks for a branch.
+    for (size_t i = 0; i < owned.size(); ++i) {
+        Branch &branch = *owned[i];
+        evaluate(branch, rows);
+        if (generation != found)
+            return {};
+        branch.isChanging = rows != branch.rows;
+        if (!branch.isChanging)
+            continue;
+        branch.comingRows = rows;
+        changing.push_back(&branch);
     }
-    if (changed.empty())
-        return;
+    return changing;
+}
+
+void GenParamTreeVisibilityFilterProxyModelPrivate::announceGoing(const std::vector<Branch *> &changing)
+{
+    const auto loses = [](const Branch *branch) {
+        return !std::includes(branch->comingRows.begin(), branch->comingRows.end(), branch->rows.begin(),
+                              branch->rows.end());
+    };
+    if (std::any_of(changing.begin(), changing.end(), loses))
+        Q_EMIT q->rowsAboutToGo();
+}
+
+void GenParamTreeVisibilityFilterProxyModelPrivate::changeLayout(const std::vector<Branch *> &changing)
+{
     Q_EMIT q->layoutAboutToBeChanged();
-    for (Branch *branch : changed)
-        branch->rows.swap(branch->formerRows);
+    for (Branch *branch : changing) {
+        branch->formerRows = std::exchange(branch->rows, std::exchange(branch->comingRows, {}));
+        branch->isChanging = false;
+    }
+    rowsHaveChanged();
     movePersistentIndexes();
-    for (Branch *branch : changed)
+    const bool categoriesCome =
+        std::any_of(changing.begin(), changing.end(), [this](const Branch *branch) { return hasNewCategory(*branch); });
+    for (Branch *branch : changing)
         branch->formerRows = Rows();
     Q_EMIT q->layoutChanged();
+    if (categoriesCome)
+        Q_EMIT q->categoriesHaveCome();
+}
+
+bool GenParamTreeVisibilityFilterProxyModelPrivate::hasNewCategory(const Branch &branch) const
+{
+    return std::any_of(branch.rows.begin(), branch.rows.end(), [&](int row) {
+        return branch.sourceRows[size_t(row)].hasRowsBelow && position(branch.formerRows, row) < 0;
+    });
 }
 
 void GenParamTreeVisibilityFilterProxyModelPrivate::movePersistentIndexes()
 {
-    ++walk;
     const QModelIndexList from = q->persistentIndexList();
     QModelIndexList to;
     to.reserve(from.size());
@@ -219,54 +446,106 @@ void GenParamTreeVisibilityFilterProxyModelPrivate::sourceDataChanged(const QMod
                                                                       const QModelIndex &bottomRight,
                                                                       const QVector<int> &roles)
 {
-    const auto found = branches.constFind(topLeft.parent().internalId());
-    if (!topLeft.isValid() || found == branches.constEnd())
+    const QModelIndex first = topLeft.isValid() ? firstOccurrence(topLeft) : QModelIndex();
+    if (!first.isValid() || !bottomRight.isValid())
         return;
-    Branch &branch = **found;
-    for (int row = topLeft.row(); row <= bottomRight.row(); ++row)
-        updateRow(branch, row);
-    ++walk;
-    if (!isShown(&branch))
-        return;
-    for (int row = topLeft.row(); row <= bottomRight.row(); ++row) {
-        const int shown = position(branch.rows, row);
-        if (shown >= 0)
-            Q_EMIT q->dataChanged(q->createIndex(shown, topLeft.column(), &branch),
-                                  q->createIndex(shown, bottomRight.column(), &branch), roles);
+    const quint64 found = generation;
+    const QModelIndex parent = first.parent();
+    const int last = first.row() + bottomRight.row() - topLeft.row();
+    for (int row = first.row(); row <= last && generation == found; ++row) {
+        if (Branch *const branch = branches.value(parent.internalId()))
+            rowChanged({branch, row}, topLeft, bottomRight, roles);
+        if (furtherPlaces.isEmpty() || generation != found)
+            continue;
+        const QVector<Place> further = furtherPlaces.value(source->index(row, 0, parent).internalId());
+        for (auto place = further.begin(); place != further.end() && generation == found; ++place)
+            rowChanged(*place, topLeft, bottomRight, roles);
     }
+}
+
+void GenParamTreeVisibilityFilterProxyModelPrivate::rowChanged(Place place, const QModelIndex &topLeft,
+                                                               const QModelIndex &bottomRight,
+                                                               const QVector<int> &roles)
+{
+    const quint64 found = generation;
+    updateRow(*place.branch, place.sourceRow);
+    if (generation != found || !isShown(place, Time::Now))
+        return;
+    // A category changes with everything in it and has no value to show.
+    if (topLeft.column() > GenParamTreeModel::NameColumn
+        && isCategory(place.branch->sourceRows[size_t(place.sourceRow)]))
+        return;
+    const int row = position(place.branch->rows, place.sourceRow);
+    Q_EMIT q->dataChanged(q->createIndex(row, topLeft.column(), place.branch),
+                          q->createIndex(row, bottomRight.column(), place.branch), roles);
 }
 
 /** With a change a feature may have come to be implemented, or have ceased to be. */
 void GenParamTreeVisibilityFilterProxyModelPrivate::updateRow(Branch &branch, int sourceRow)
 {
-    const bool accepted = q->filterAcceptsRow(sourceRow, branch.source);
-    const auto place = std::lower_bound(branch.rows.begin(), branch.rows.end(), sourceRow);
-    const bool present = place != branch.rows.end() && *place == sourceRow;
-    if (accepted == present)
+    const quint64 found = generation;
+    const bool isAccepted = accepts(branch.sourceRows[size_t(sourceRow)].value);
+    if (generation != found || isAccepted == (position(branch.rows, sourceRow) >= 0))
         return;
+    if (isAccepted)
+        insertRow(branch, sourceRow);
+    else
+        removeRow(branch, sourceRow);
+}
+
+void GenParamTreeVisibilityFilterProxyModelPrivate::insertRow(Branch &branch, int sourceRow)
+{
+    const auto place = std::lower_bound(branch.rows.begin(), branch.rows.end(), sourceRow);
     const int row = int(place - branch.rows.begin());
-    ++walk;
-    const bool announced = isShown(&branch);
-    if (accepted) {
-        if (announced)
-            q->beginInsertRows(proxyOf(&branch), row, row);
-        branch.rows.insert(place, sourceRow);
-        if (announced)
-            q->endInsertRows();
-    } else {
-        if (announced)
-            q->beginRemoveRows(proxyOf(&branch), row, row);
-        branch.rows.erase(place);
-        if (announced)
-            q->endRemoveRows();
+    const bool isAnnounced = isShown(&branch);
+    if (isAnnounced)
+        q->beginInsertRows(proxyOf(&branch), row, row);
+    branch.rows.insert(place, sourceRow);
+    rowsHaveChanged();
+    if (isAnnounced)
+        q->endInsertRows();
+}
+
+void GenParamTreeVisibilityFilterProxyModelPrivate::removeRow(Branch &branch, int sourceRow)
+{
+    const int row = position(branch.rows, sourceRow);
+    const bool isAnnounced = isShown(&branch);
+    if (isAnnounced) {
+        branch.comingRows = branch.rows;
+        branch.comingRows.erase(branch.comingRows.begin() + row);
+        branch.isChanging = true;
+        const quint64 evaluated = ++revision;
+        const quint64 found = generation;
+        Q_EMIT q->rowsAboutToGo();
+        if (generation != found)
+            return;
+        branch.isChanging = false;
+        branch.comingRows = Rows();
+        // Whoever has heard of it may have changed anything: all is looked at again then.
+        if (revision != evaluated)
+            return updateRow(branch, sourceRow);
+        q->beginRemoveRows(proxyOf(&branch), row, row);
     }
+    branch.rows.erase(branch.rows.begin() + row);
+    rowsHaveChanged();
+    if (isAnnounced)
+        q->endRemoveRows();
+}
+
+void GenParamTreeVisibilityFilterProxyModelPrivate::rowsHaveChanged()
+{
+    ++revision;
+    ++walk;
 }
 
 void GenParamTreeVisibilityFilterProxyModelPrivate::forget()
 {
-    branches.clear();
-    owned.clear();
+    ++generation;
+    rowsHaveChanged();
     lastBranch = nullptr;
+    branches.clear();
+    furtherPlaces.clear();
+    owned.clear();
 }
 
 GenParamTreeVisibilityFilterProxyModel::GenParamTreeVisibilityFilterProxyModel(QObject *parent)
@@ -286,6 +565,7 @@ void GenParamTreeVisibilityFilterProxyModel::setSourceModel(QAbstractItemModel *
     d->forget();
     // Not the direct base: its mapping would announce changes beside this one's.
     QAbstractProxyModel::setSourceModel(sourceModel);
+    d->source = sourceModel;
     if (sourceModel) {
         d->connections = {
             connect(sourceModel, &QAbstractItemModel::dataChanged, this,
@@ -298,7 +578,13 @@ void GenParamTreeVisibilityFilterProxyModel::setSourceModel(QAbstractItemModel *
                         d->forget();
                         endResetModel();
                     }),
-            connect(sourceModel, &QObject::destroyed, this, [this] { d->forget(); }),
+            connect(sourceModel, &QObject::destroyed, this,
+                    [this] {
+                        beginResetModel();
+                        d->forget();
+                        d->source = nullptr;
+                        endResetModel();
+                    }),
         };
     }
     endResetModel();
@@ -306,48 +592,41 @@ void GenParamTreeVisibilityFilterProxyModel::setSourceModel(QAbstractItemModel *
 
 bool GenParamTreeVisibilityFilterProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const
 {
-    const QModelIndex index = sourceModel()->index(sourceRow, GenParamTreeModel::NameColumn, sourceParent);
-    return d->accepts(sourceModel()->data(index, GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>());
+    if (!d->source)
+        return false;
+    const QModelIndex index = d->source->index(sourceRow, GenParamTreeModel::NameColumn, sourceParent);
+    return d->accepts(d->source->data(index, GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>());
 }
 
-QModelIndex GenParamTreeVisibilityFilterProxyModel::nearestTo(const QModelIndex &sourceIndex) const
+QModelIndex GenParamTreeVisibilityFilterProxyModel::survivorOf(const QModelIndex &index) const
 {
-    const QModelIndex source = sourceIndex.isValid() ? d->firstOccurrence(sourceIndex) : QModelIndex();
-    Branch *const branch = source.isValid() ? d->branchOf(source.parent()) : nullptr;
-    ++d->walk;
-    if (!branch || !d->isShown(branch))
-        return {};
-    if (branch->rows.empty())
-        return d->proxyOf(branch);
-    const auto next = std::lower_bound(branch->rows.begin(), branch->rows.end(), source.row());
-    const int row = int(next - branch->rows.begin()) - (next == branch->rows.end() ? 1 : 0);
-    return createIndex(row, sourceIndex.column(), branch);
+    return index.isValid() && index.model() == this ? d->survivorOf(index) : QModelIndex();
 }
 
 QModelIndex GenParamTreeVisibilityFilterProxyModel::mapToSource(const QModelIndex &proxyIndex) const
 {
-    if (!proxyIndex.isValid() || proxyIndex.model() != this)
+    if (!proxyIndex.isValid() || proxyIndex.model() != this || !d->source)
         return {};
     const auto branch = static_cast<const Branch *>(proxyIndex.internalPointer());
     if (size_t(proxyIndex.row()) >= branch->rows.size())
         return {};
-    return sourceModel()->index(branch->rows[size_t(proxyIndex.row())], proxyIndex.column(), branch->source);
+    return d->source->index(branch->rows[size_t(proxyIndex.row())], proxyIndex.column(), branch->source);
 }
 
 QModelIndex GenParamTreeVisibilityFilterProxyModel::mapFromSource(const QModelIndex &sourceIndex) const
 {
-    const QModelIndex source = sourceIndex.isValid() ? d->firstOccurrence(sourceIndex) : QModelIndex();
-    Branch *const branch = source.isValid() ? d->branchOf(source.parent()) : nullptr;
-    ++d->walk;
-    if (!branch || !d->isShown(branch))
+    if (!sourceIndex.isValid() || sourceIndex.model() != d->source)
         return {};
-    const int row = position(branch->rows, source.row());
-    return row < 0 ? QModelIndex() : createIndex(row, sourceIndex.column(), branch);
+    const QModelIndex first = d->firstOccurrence(sourceIndex);
+    const std::optional<Place> place = first.isValid() ? d->shownPlace(first) : std::nullopt;
+    if (!place)
+        return {};
+    return createIndex(position(place->branch->rows, place->sourceRow), sourceIndex.column(), place->branch);
 }
 
 QModelIndex GenParamTreeVisibilityFilterProxyModel::index(int row, int column, const QModelIndex &parent) const
 {
-    Branch *const branch = d->branchOfProxy(parent);
+    Branch *const branch = d->branchBelow(parent);
     if (!branch || row < 0 || size_t(row) >= branch->rows.size() || column < 0 || column >= columnCount(parent))
         return {};
     return createIndex(row, column, branch);
@@ -357,7 +636,7 @@ QModelIndex GenParamTreeVisibilityFilterProxyModel::parent(const QModelIndex &in
 {
     if (!index.isValid() || index.model() != this)
         return {};
-    return d->proxyOf(static_cast<const Branch *>(index.internalPointer()));
+    return d->proxyOf(static_cast<Branch *>(index.internalPointer()));
 }
 
 QModelIndex GenParamTreeVisibilityFilterProxyModel::sibling(int row, int column, const QModelIndex &index) const
@@ -377,13 +656,26 @@ QModelIndex GenParamTreeVisibilityFilterProxyModel::buddy(const QModelIndex &ind
 
 int GenParamTreeVisibilityFilterProxyModel::rowCount(const QModelIndex &parent) const
 {
-    const Branch *const branch = d->branchOfProxy(parent);
+    const Branch *const branch = d->branchBelow(parent);
     return branch ? int(branch->rows.size()) : 0;
 }
 
 int GenParamTreeVisibilityFilterProxyModel::columnCount(const QModelIndex &) const
 {
-    return sourceModel() ? sourceModel()->columnCount() : 0;
+    return d->source ? d->source->columnCount() : 0;
+}
+
+/**
+ * Tells the tree what can never be expanded. Otherwise it keeps each row for an expanded one when all are expanded, and
+ * asks whether it is one, and whether it can be, at every layout.
+ */
+Qt::ItemFlags GenParamTreeVisibilityFilterProxyModel::flags(const QModelIndex &index) const
+{
+    const SourceRow *const row = d->sourceRowOf(index);
+    if (!row)
+        return Qt::NoItemFlags;
+    const Qt::ItemFlags flags = d->source->flags(mapToSource(index));
+    return row->hasRowsBelow ? flags : flags | Qt::ItemNeverHasChildren;
 }
 
 bool GenParamTreeVisibilityFilterProxyModel::hasChildren(const QModelIndex &parent) const
@@ -394,24 +686,24 @@ bool GenParamTreeVisibilityFilterProxyModel::hasChildren(const QModelIndex &pare
 QVariant GenParamTreeVisibilityFilterProxyModel::data(const QModelIndex &index, int role) const
 {
     const QModelIndex source = mapToSource(index);
-    return source.isValid() ? sourceModel()->data(source, role) : QVariant();
+    return source.isValid() ? d->source->data(source, role) : QVariant();
 }
 
 bool GenParamTreeVisibilityFilterProxyModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
     const QModelIndex source = mapToSource(index);
-    return source.isValid() && sourceModel()->setData(source, value, role);
+    return source.isValid() && d->source->setData(source, value, role);
 }
 
 QVariant GenParamTreeVisibilityFilterProxyModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    return sourceModel() ? sourceModel()->headerData(section, orientation, role) : QVariant();
+    return d->source ? d->source->headerData(section, orientation, role) : QVariant();
 }
 
 QSize GenParamTreeVisibilityFilterProxyModel::span(const QModelIndex &index) const
 {
     const QModelIndex source = mapToSource(index);
-    return source.isValid() ? sourceModel()->span(source) : QSize();
+    return source.isValid() ? d->source->span(source) : QSize();
 }
 
 void GenParamTreeVisibilityFilterProxyModel::sort(int, Qt::SortOrder) { }

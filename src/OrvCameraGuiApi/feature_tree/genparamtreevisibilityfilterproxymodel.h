@@ -35,10 +35,11 @@ public:
     bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
 
     /**
-     * Where a view's current item goes when the filter has taken it away: to the next row that stayed beside it, else
-     * to the one before, else to its category; as with rows that are removed. Invalid when its category went too.
+     * Where a view's current item goes from \a index when that is about to go, as rowsAboutToGo() tells: to the next
+     * row beside it that stays, else to the one before, else to its category; nowhere when its category goes too. The
+     * index itself when it stays.
      */
-    QModelIndex nearestTo(const QModelIndex &sourceIndex) const;
+    QModelIndex survivorOf(const QModelIndex &index) const;
 
     QModelIndex mapToSource(const QModelIndex &proxyIndex) const override;
     QModelIndex mapFromSource(const QModelIndex &sourceIndex) const override;
@@ -48,6 +49,7 @@ public:
     QModelIndex buddy(const QModelIndex &index) const override;
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     int columnCount(const QModelIndex &parent = QModelIndex()) const override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
     bool hasChildren(const QModelIndex &parent = QModelIndex()) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
@@ -73,6 +75,17 @@ public Q_SLOTS:
 
     /** Asks every row again. */
     void invalidate();
+
+Q_SIGNALS:
+    /**
+     * Rows are about to go, by another filter or because a feature ceases to be implemented. Nothing has changed yet:
+     * now is the time to write what is entered in an editor that is open in one of them, and to move the current item,
+     * for which a view gets no occasion in a change of layout. Slots may change whatever they like.
+     */
+    void rowsAboutToGo();
+
+    /** After a change of layout in which categories have appeared, for what a view keeps of each of them. */
+    void categoriesHaveCome();
 
 private:
     friend class GenParamTreeVisibilityFilterProxyModelPrivate;

@@ -77,7 +77,7 @@ public:
     void spanAllCategories();
     void spanCategories(const QModelIndex &parent, int first, int last);
     void currentChanged(const QModelIndex &index);
-    void filterChanged();
+    void moveCurrentFromGoing();
 
     void errorAppeared(const QModelIndex &index, const QString &name, const QString &message, int role);
     void errorDisappeared(const QModelIndex &index, const QString &name, int role);
@@ -100,7 +100,6 @@ public:
 
     GenParamTreeModel *model = nullptr;
     GenParamTreeVisibilityFilterProxyModel *proxy = nullptr; ///< null exactly when the model is
-    QModelIndex currentSource; ///< of the model, whose rows stay; where the current item was before the filter took it
     bool statusShowsErrors = false;
     QSet<GenApi::IValue *> featuresToRepaint;
 };
@@ -151,7 +150,6 @@ void OrvGenParamTreeViewPrivate::initFilter()
     QObject::connect(ui.cbVisibility, QOverload<int>::of(&QComboBox::currentIndexChanged), q, [this](int level) {
         if (proxy)
             proxy->setFilterVisibility(level);
-        spanAllCategories();
     });
     QObject::connect(filterOptions, &FilterOptions::caseSensitivityChanged, q, [this](bool isSensitive) {
         filterOptionsAction->setIcon(iconOf(filterOptions->iconPath()));
@@ -214,7 +212,6 @@ void OrvGenParamTreeViewPrivate::remove()
     proxy = nullptr;
     model = nullptr;
     nodeMap = nullptr;
-    currentSource = QModelIndex();
     featuresToRepaint.clear();
     errors = GenParamErrorController();
     showStatus();
@@ -246,10 +243,13 @@ void OrvGenParamTreeViewPrivate::connectModel()
         [this](const QModelIndex &index, const QString &name, int role) { errorDisappeared(index, name, role); });
 }
 
-/** After the tree, which has to know of a change before its current item is moved or its rows are spanned. */
+/** After the tree, which has to know of a change before its rows are spanned. */
 void OrvGenParamTreeViewPrivate::connectProxy()
 {
-    QObject::connect(proxy, &QAbstractItemModel::layoutChanged, q, [this] { filterChanged(); });
+    QObject::connect(proxy, &GenParamTreeVisibilityFilterProxyModel::rowsAboutToGo, q,
+                     [this] { moveCurrentFromGoing(); });
+    QObject::connect(proxy, &GenParamTreeVisibilityFilterProxyModel::categoriesHaveCome, q,
+                     [this] { spanAllCategories(); });
     QObject::connect(proxy, &QAbstractItemModel::rowsInserted, q,
                      [this](const QModelIndex &parent, int first, int last) { spanCategories(parent, first, last); });
 }
@@ -295,22 +295,25 @@ void OrvGenParamTreeViewPrivate::spanCategories(const QModelIndex &parent, int f
 
 void OrvGenParamTreeViewPrivate::currentChanged(const QModelIndex &index)
 {
-    currentSource = proxy ? proxy->mapToSource(index) : QModelIndex();
     ui.whatsThisLabel->setHtml(index.data(Qt::WhatsThisRole).toString());
 }
 
-/** A current item that went moves on to what is next to it, or to that beside its category, as with removed rows. */
-void OrvGenParamTreeViewPrivate::filterChanged()
+/**
+ * An editor that is open there is closed as by any move: what was entered is written if it counts. That comes first,
+ * by itself: a write may change rows, and the tree would go on with indexes from before if it did both at once.
+ */
+void OrvGenParamTreeViewPrivate::moveCurrentFromGoing()
 {
-    if (!currentSource.isValid() || ui.treeView->currentIndex().isValid())
+    const auto survivorOfCurrent = [this] {
+        const QModelIndex current = ui.treeView->currentIndex();
+        return proxy && current.isValid() ? proxy->survivorOf(current) : current;
+    };
+    if (survivorOfCurrent() == ui.treeView->currentIndex())
         return;
-    QModelIndex nearest;
-    for (QModelIndex source = currentSource; source.isValid() && !nearest.isValid(); source = source.parent())
-        nearest = proxy->nearestTo(source);
-    if (nearest.isValid())
-        ui.treeView->setCurrentIndex(nearest);
-    else
-        currentChanged(QModelIndex());
+    ui.treeView->endEditing(ui.treeView->currentIndex());
+    const QModelIndex survivor = survivorOfCurrent();
+    if (survivor != ui.treeView->currentIndex())
+        ui.treeView->setCurrentIndex(survivor);
 }
 
 void OrvGenParamTreeViewPrivate::errorAppeared(const QModelIndex &index, const QString &name, const QString &message,

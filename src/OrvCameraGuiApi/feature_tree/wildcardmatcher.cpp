@@ -4,9 +4,13 @@
 
 namespace {
 
-bool isAscii(const QString &text)
+/** Beyond ASCII QRegExp folds case in one way or another, as it chooses to search; not where there is no case. */
+bool foldsInOneWay(const QString &text)
 {
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
+    return std::all_of(text.begin(), text.end(), [](QChar c) {
+        return c.unicode() < 0x80
+            || (!c.isSurrogate() && c.toLower() == c && c.toUpper() == c && c.toCaseFolded() == c);
+    });
 }
 
 } // namespace
@@ -38,8 +42,7 @@ void WildcardMatcher::prepare()
     if (pattern.contains(QLatin1Char('[')) || pattern.contains(QLatin1Char(']')) || pattern.contains(QLatin1Char('\\')))
         return;
     const bool foldsCase = m_regExp.caseSensitivity() == Qt::CaseInsensitive;
-    // Beyond ASCII QRegExp folds case in one way or another, as it chooses to search.
-    if (foldsCase && !isAscii(pattern))
+    if (foldsCase && !foldsInOneWay(pattern))
         return;
     m_glob = foldsCase ? pattern.toLower() : pattern;
     if (m_glob.isNull())
@@ -70,7 +73,7 @@ bool WildcardMatcher::isAll(const QString &text) const
 
 bool WildcardMatcher::canMatch(const QString &text) const
 {
-    return !m_glob.isNull() && (m_regExp.caseSensitivity() == Qt::CaseSensitive || isAscii(text));
+    return !m_glob.isNull() && (m_regExp.caseSensitivity() == Qt::CaseSensitive || foldsInOneWay(text));
 }
 
 /** Walks text and pattern at once; after a mismatch the last "*" takes one character more. */

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QRegExp>
+#include <QSortFilterProxyModel>
+#include <QStandardItemModel>
+
+#include <QTreeView>
+
+#include <memory>
+
+/** The rules of the filter at their plainest, over Qt's own proxy. */
+class PlainFilter : public QSortFilterProxyModel
+{
+public:
+    /** Of the items; true for a category. */
+    static constexpr int categoryRole = Qt::UserRole;
+
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+
+    void setFilterText(const QString &text);
+    bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
+
+private:
+    QRegExp m_pattern{QStringLiteral("*"), Qt::CaseInsensitive, QRegExp::Wildcard};
+};
+
+/** A copy of all that \a model shows now. */
+std::unique_ptr<QStandardItemModel> plainModelOf(const QAbstractItemModel &model);
+
+// What the view does with its tree, done to one that shows a PlainFilter.
+void spanPlainCategories(QTreeView &tree);
+QByteArray savePlainState(const QTreeView &tree);
+void loadPlainState(QTreeView &tree, const QByteArray &state);

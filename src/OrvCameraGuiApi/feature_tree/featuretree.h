@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QPair>
+#include <QSet>
+#include <QTreeView>
+
+/**
+ * A tree view for large models whose values change often. A changed value costs next to nothing unless its row is on
+ * the screen or its editor is open: QTreeView searches the row among all that are expanded, which with many rows takes
+ * longer than all else that is done about a change.
+ *
+ * For rows of one height; with others it is a QTreeView.
+ */
+class FeatureTree : public QTreeView
+{
+    Q_OBJECT
+
+public:
+    using QTreeView::QTreeView;
+
+    /** Writes what is entered in the editor that is open at \a index, if it counts, and closes the editor. */
+    void endEditing(const QModelIndex &index);
+
+    void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                     const QVector<int> &roles = QVector<int>()) override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void findRowsOnScreen();
+    bool concerns(const QModelIndex &topLeft, const QModelIndex &bottomRight) const;
+
+    /** By internal identifier and row; a row that has come since then is being painted anyhow, or will be. */
+    QSet<QPair<quintptr, int>> m_rowsOnScreen;
+    bool m_knowsRowsOnScreen = false;
+};

@@ -1,0 +1,149 @@
+#include "orvtest.h"
+#include "shownview.h"
+
+#include <OrvCameraGuiApi/feature_tree/featuretree.h>
+
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QStandardItemModel>
+
+namespace {
+
+/** A category with more rows than fit on the screen, and another. */
+struct ShownTree
+{
+    ShownTree()
+    {
+        for (const int rows : {500, 5}) {
+            auto *const category = new QStandardItem(QStringLiteral("category"));
+            for (int row = 0; row < rows; ++row)
+                category->appendRow(
+                    {new QStandardItem(QStringLiteral("name")), new QStandardItem(QStringLiteral("0"))});
+            model.appendRow(category);
+        }
+        model.setColumnCount(2);
+        tree.setUniformRowHeights(true);
+        tree.setModel(&model);
+        tree.expandAll();
+        tree.resize(300, 400);
+        tree.show();
+    }
+
+    bool isPainted()
+    {
+        return QTest::qWaitForWindowExposed(&tree) && QTest::qWaitFor([this] { return paints.count > 0; });
+    }
+
+    QModelIndex cell(int row, int category = 0) const { return model.index(row, 1, model.index(category, 0)); }
+
+    QModelIndex lowestOnScreen() const
+    {
+        return tree.indexAt(QPoint(0, tree.viewport()->height() - 2)).siblingAtColumn(1);
+    }
+
+    /** What is painted beside the corner, which is painted always, after the values have changed. */
+    QRegion paintedAfter(const QModelIndexList &changed)
+    {
+        const QRect corner(0, 0, 1, 1);
+        for (const QModelIndex &index : changed)
+            model.setData(index, QStringLiteral("changed"));
+        tree.viewport()->update(corner);
+        const bool isPainted = QTest::qWaitFor([&] { return paints.region.contains(corner); });
+        return isPainted ? paints.region - corner : QRegion(tree.rect());
+    }
+
+    bool isRepainted(const QModelIndex &index)
+    {
+        settle();
+        return paintedAfter({index}).contains(tree.visualRect(index).center());
+    }
+
+    bool isIgnored(const QModelIndex &index)
+    {
+        settle();
+        return paintedAfter({index}).isEmpty();
+    }
+
+    /** Paints all that is waiting for it. */
+    void settle()
+    {
+        paintedAfter({});
+        paints.clear();
+    }
+
+    QStandardItemModel model;
+    FeatureTree tree;
+    PaintLog paints{tree.viewport()};
+};
+
+} // namespace
+
+class TestFeatureTree : public OrvTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void repaintsWhatIsOnTheScreen()
+    {
+        ShownTree shown;
+        QVERIFY(shown.isPainted());
+        QVERIFY(shown.isRepainted(shown.cell(0)));
+        QVERIFY(shown.isRepainted(shown.lowestOnScreen()));
+        QVERIFY(shown.isIgnored(shown.cell(400)));
+
+        shown.tree.scrollTo(shown.cell(400));
+        QVERIFY(shown.isRepainted(shown.cell(400)));
+        QVERIFY(shown.isIgnored(shown.cell(0)));
+        shown.tree.verticalScrollBar()->setValue(0);
+        shown.tree.collapse(shown.cell(0).parent());
+        QVERIFY(shown.isRepainted(shown.cell(4, 1)));
+    }
+
+    /** Between a change of what is on the screen and its paint. */
+    void repaintsWhatHasJustCome()
+    {
+        ShownTree shown;
+        QVERIFY(shown.isPainted());
+        shown.settle();
+        const QModelIndex stays = shown.lowestOnScreen();
+        QScrollBar *const bar = shown.tree.verticalScrollBar();
+        bar->setValue(bar->value() + (bar->singleStep() > 1 ? 2 * shown.tree.visualRect(stays).height() : 2));
+        const QModelIndex comes = shown.lowestOnScreen();
+        QVERIFY(comes.row() > stays.row());
+        const QRegion painted = shown.paintedAfter({stays, comes});
+        for (const QModelIndex &index : {stays, comes})
+            QVERIFY(painted.contains(shown.tree.visualRect(index).center()));
+    }
+
+    void repaintsFromRightToLeft()
+    {
+        ShownTree shown;
+        shown.tree.setLayoutDirection(Qt::RightToLeft);
+        shown.tree.setColumnWidth(1, 1000);
+        QVERIFY(shown.isPainted());
+        QScrollBar *const bar = shown.tree.horizontalScrollBar();
+        for (const int position : {bar->minimum(), bar->maximum()}) {
+            bar->setValue(position);
+            shown.settle();
+            const QRegion painted = shown.paintedAfter({shown.cell(3)});
+            QVERIFY(painted.intersects(shown.tree.visualRect(shown.cell(3))));
+        }
+    }
+
+    void updatesAnEditorThatIsScrolledAway()
+    {
+        ShownTree shown;
+        QVERIFY(shown.isPainted());
+        shown.tree.edit(shown.cell(1));
+        const QPointer<QLineEdit> editor = shown.tree.viewport()->findChild<QLineEdit *>();
+        QVERIFY(editor);
+        shown.tree.scrollToBottom();
+        QCoreApplication::processEvents();
+        shown.model.setData(shown.cell(1), QStringLiteral("changed"));
+        QVERIFY(editor);
+        QCOMPARE(editor->text(), QStringLiteral("changed"));
+    }
+};
+
+ORV_TEST_MAIN(TestFeatureTree)
+#include "tst_featuretree.moc"
