@@ -13,6 +13,8 @@ public:
 
     bool isCategory() const { return m_type == GenApi::intfICategory; }
     QString name() const { return QString::fromUtf8(m_node->GetDisplayName().c_str()); }
+    GenApi::INode *node() const { return m_node; }
+
     QString text() const;
 
     /** Sets a value that is another one for another \a number. */

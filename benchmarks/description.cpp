@@ -70,8 +70,8 @@ QByteArray describeCategories(std::vector<QByteArray> features)
             const size_t last = std::min(first + treeFanOut, features.size());
             categories.push_back("Level" + QByteArray::number(level) + "Number"
                                  + QByteArray::number(int(categories.size())));
-            text += describeCategory(categories.back(), {features.begin() + ptrdiff_t(first),
-                                                         features.begin() + ptrdiff_t(last)});
+            text += describeCategory(categories.back(),
+                                     {features.begin() + ptrdiff_t(first), features.begin() + ptrdiff_t(last)});
         }
         features = std::move(categories);
     }
@@ -113,7 +113,8 @@ QByteArray describeTree(int features)
         const QByteArray name = "SomeFeature" + QByteArray::number(lastTreeNumber + 1 - features + number);
         names.push_back(name);
         if (number % (features / polledFeatures) == polledFeatures / 2)
-            nodes += describeRegister(name, number + secondBank, "<PollingTime>" + QByteArray::number(pollingTime) + "</PollingTime>");
+            nodes += describeRegister(name, number + secondBank,
+                                      "<PollingTime>" + QByteArray::number(pollingTime) + "</PollingTime>");
         else
             nodes += describeFeature(number, name);
     }

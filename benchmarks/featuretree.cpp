@@ -3,8 +3,10 @@
 #include "plainstack.h"
 
 #include <OrvCameraGuiApi/feature_tree/categoryspans.h>
+#include <OrvCameraGuiApi/feature_tree/featuretree.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreevisibilityfilterproxymodel.h>
+#include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
 #include <OrvCameraGuiApi/feature_tree/treestate.h>
 
 #include <QCoreApplication>
@@ -22,6 +24,7 @@ enum Action {
     FirstPaint,
     ReadTexts,
     ChangeValues,
+    SetTexts,
     Filter,
     ClearFilter,
     SearchFilter,
@@ -46,7 +49,7 @@ public:
 };
 
 /** A filter over a model, and a tree that shows it. */
-template <typename FilterModel>
+template <typename FilterModel, typename Tree>
 class Stack
 {
 public:
@@ -81,14 +84,14 @@ public:
         paintAfter([&] { m_filter.setFilterText(text); });
     }
 
-    QTreeView tree;
+    Tree tree;
 
 private:
     FilterModel m_filter{nullptr};
     PaintCounter m_paints;
 };
 
-class OurStack : public Stack<GenParamTreeVisibilityFilterProxyModel>
+class OurStack : public Stack<GenParamTreeVisibilityFilterProxyModel, FeatureTree>
 {
 public:
     OurStack(GenParamTreeModel &model, std::vector<BareFeature> &features)
@@ -97,7 +100,7 @@ public:
     {
     }
 
-    void span() { spanCategories(tree, QModelIndex(), 0, tree.model()->rowCount() - 1); }
+    void span() { spanAllCategories(tree); }
     void saveState() { m_state = TreeState::save(tree, 0, m_splitter); }
     void loadState() { TreeState::loadExpansion(tree, m_state); }
 
@@ -107,19 +110,40 @@ public:
             feature.change(number);
     }
 
+    void setTexts(int number) { changeValues(number); } // there are no texts to set
+
 private:
     std::vector<BareFeature> &m_features;
     QSplitter m_splitter;
     QByteArray m_state;
 };
 
-class PlainStack : public Stack<PlainFilter>
+/** Sets the text of an item whenever the feature changes, as whoever shows node maps by Qt's own classes has to. */
+struct FollowFeature
+{
+    void operator()(GenApi::INode *) const { item->setText(feature->text()); }
+
+    const BareFeature *feature;
+    QStandardItem *item;
+};
+
+class PlainStack : public Stack<PlainFilter, QTreeView>
 {
 public:
-    PlainStack(QStandardItemModel &model, const std::vector<QStandardItem *> &values)
+    PlainStack(QStandardItemModel &model, std::vector<BareFeature> &features,
+               const std::vector<QStandardItem *> &values)
         : Stack(model)
+        , m_features(features)
         , m_values(values)
     {
+        for (size_t i = 0; i < values.size(); ++i)
+            m_callbacks.push_back(GenApi::Register(features[i].node(), FollowFeature{&features[i], values[i]}));
+    }
+
+    ~PlainStack()
+    {
+        for (const GenApi::CallbackHandleType callback : m_callbacks)
+            GenApi::Deregister(callback);
     }
 
     void span() { spanPlainCategories(tree); }
@@ -128,13 +152,21 @@ public:
 
     void changeValues(int number)
     {
+        for (BareFeature &feature : m_features)
+            feature.change(number);
+    }
+
+    void setTexts(int number)
+    {
         const QString text = QString::number(number);
         for (QStandardItem *value : m_values)
             value->setText(text);
     }
 
 private:
+    std::vector<BareFeature> &m_features;
     const std::vector<QStandardItem *> &m_values;
+    std::vector<GenApi::CallbackHandleType> m_callbacks;
     QByteArray m_state;
 };
 
@@ -184,12 +216,14 @@ void useOnce(AnyStack &stack, Costs &costs, int round, bool filters)
     measure(ReadTexts, [&] { length = readTexts(*stack.tree.model()); });
     require(length > 0, "there are no texts");
     measure(ChangeValues, [&] { stack.paintAfter([&] { stack.changeValues(100 + round); }); });
+    measure(SetTexts, [&] { stack.paintAfter([&] { stack.setTexts(200 + round); }); });
     const int rows = countRows(*stack.tree.model());
     const std::tuple<Action, Action, const char *> texts[] = {{Filter, ClearFilter, "99999"},
                                                               {SearchFilter, ClearSearchFilter, "*99999*"}};
     for (const auto &[filter, clear, text] : texts) {
         if (!filters)
             break;
+        stack.paintAfter([&] { stack.tree.expandAll(); }); // the plain one forgets what it filters away
         measure(filter, [&] { stack.setFilter(QLatin1String(text)); });
         require(countRows(*stack.tree.model()) < rows, "the filter has no effect");
         measure(clear, [&] { stack.setFilter(QString()); });
@@ -200,41 +234,129 @@ void useOnce(AnyStack &stack, Costs &costs, int round, bool filters)
     measure(LoadState, [&] { stack.paintAfter([&] { stack.loadState(); }); });
 }
 
+/** The ratio that an action should not exceed, by the size of the tree; 0 for none. */
+struct Row
+{
+    const char *name;
+    double at1000;
+    double at10000;
+    double at100000;
+};
+
+constexpr Row rows[actionCount] = {
+    {"set the model, expand all", 1.0, 1.0, 1.0},
+    {"span all categories", 0.45, 0.45, 0.45},
+    {"first paint", 0, 0, 0},
+    {"read all texts", 3.0, 3.0, 3.0},
+    {"change all values, painted", 0.45, 0.45, 0.45},
+    {"the same, texts at hand", 0, 0, 0},
+    {"filter \"99999\"", 0, 1.0 / 20, 1.0 / 250},
+    {"filter cleared", 0, 1.2, 0.35},
+    {"filter \"*99999*\"", 0, 1.0 / 20, 1.0 / 250},
+    {"that filter cleared", 0, 1.2, 0.35},
+    {"save the state", 0.55, 0.55, 0.55},
+    {"load the state, painted", 1.1, 1.1, 1.1},
+};
+
+double boundOf(const Row &row, int features)
+{
+    return features >= 100000 ? row.at100000 : features >= 10000 ? row.at10000 : row.at1000;
+}
+
+std::vector<QModelIndex> valuesOf(const QAbstractItemModel &model)
+{
+    std::vector<QModelIndex> values;
+    collectValues(model, QModelIndex(), values);
+    return values;
+}
+
+std::vector<BareFeature> featuresOf(const GenParamTreeModel &model)
+{
+    std::vector<BareFeature> features;
+    for (const QModelIndex &cell : valuesOf(model))
+        features.emplace_back(cell.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>());
+    return features;
+}
+
+/** Both stacks in turn over the same tree of that many features. */
+void measureStacks(int features, Costs &ours, Costs &plain)
+{
+    // Each has a node map of its own, so that none pays for the other's callbacks.
+    const MemoryCamera camera(describeTree(features));
+    const MemoryCamera plainCamera(describeTree(features));
+    GenParamTreeModel model(camera.map.get(), nullptr);
+    std::vector<BareFeature> ourFeatures = featuresOf(model);
+    std::vector<BareFeature> plainFeatures = featuresOf(GenParamTreeModel(plainCamera.map.get(), nullptr));
+    const std::unique_ptr<QStandardItemModel> items = plainModelOf(model);
+    std::vector<QStandardItem *> values;
+    for (const QModelIndex &cell : valuesOf(*items))
+        values.push_back(items->itemFromIndex(cell));
+
+    const int repetitions = 30000 / features + 5;
+    for (int round = 0; round < repetitions; ++round) {
+        {
+            OurStack stack(model, ourFeatures);
+            useOnce(stack, ours, round, true);
+        }
+        {
+            PlainStack stack(*items, plainFeatures, values);
+            useOnce(stack, plain, round, features < 100000 || round == 0);
+        }
+    }
+}
+
+/** The view after a poll that finds the values of ten features changed. */
+double millisecondsOfPoll(int features)
+{
+    MemoryCamera camera(describeTree(features));
+    OrvGui::OrvGenParamTreeView view(camera.map.get());
+    PaintCounter paints;
+    view.treeView()->expandAll();
+    view.show();
+    view.treeView()->viewport()->installEventFilter(&paints);
+    while (paints.count == 0)
+        QCoreApplication::processEvents();
+    Samples samples;
+    for (int round = 0; round < 51; ++round) {
+        const uint64_t reads = camera.port.readCount();
+        samples.add(millisecondsOf([&] {
+            camera.map->Poll(pollingTime);
+            view.treeView()->viewport()->update(0, 0, 1, 1); // so that there is something to wait for
+            paints.count = 0;
+            while (paints.count == 0)
+                QCoreApplication::processEvents();
+        }));
+        require(camera.port.readCount() - reads <= 10 * polledFeatures, "a poll reads more than what it fires");
+    }
+    return samples.median();
+}
+
 } // namespace
 
 void measureFeatureTree(Table &table, const std::vector<int> &sizes)
 {
+    std::vector<Costs> costs;
     for (const int features : sizes) {
-        const MemoryCamera camera(describeTree(features));
-        GenParamTreeModel model(camera.map.get(), nullptr);
-        const std::unique_ptr<QStandardItemModel> items = plainModelOf(model);
-        std::vector<QModelIndex> cells;
-        std::vector<BareFeature> bare;
-        std::vector<QStandardItem *> values;
-        collectValues(model, QModelIndex(), cells);
-        for (const QModelIndex &cell : cells)
-            bare.emplace_back(cell.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>());
-        cells.clear();
-        collectValues(*items, QModelIndex(), cells);
-        for (const QModelIndex &cell : cells)
-            values.push_back(items->itemFromIndex(cell));
         Costs ours;
         Costs plain;
-        const int repetitions = 30000 / features + 5;
-        for (int round = 0; round < repetitions; ++round) {
-            {
-                OurStack stack(model, bare);
-                useOnce(stack, ours, round, true);
-            }
-            {
-                PlainStack stack(*items, values);
-                useOnce(stack, plain, round, features < 100000 || round == 0);
-            }
-        }
-        const char *const names[] = {"set the model, expand all", "span", "first paint", "read texts", "change values",
-                                     "filter", "clear filter", "search filter", "clear search filter", "save", "load"};
-        for (int action = 0; action < actionCount; ++action)
-            table.add(QStringLiteral("%1 features, %2").arg(features).arg(QLatin1String(names[action])),
-                      QStringLiteral("ms"), ours[size_t(action)].median(), plain[size_t(action)].median(), 1);
+        measureStacks(features, ours, plain);
+        for (size_t action = 0; action < actionCount; ++action)
+            table.add(QStringLiteral("%1 features, %2").arg(features).arg(QLatin1String(rows[action].name)),
+                      QStringLiteral("ms"), ours[action].median(), plain[action].median(),
+                      boundOf(rows[action], features));
+        costs.push_back(ours);
     }
+    if (sizes.size() < 2)
+        return;
+    const auto growth = [&](const char *what, Action action, size_t to, size_t from, double bound) {
+        table.add(QStringLiteral("%1, %2 against %3 features").arg(QLatin1String(what)).arg(sizes[to]).arg(sizes[from]),
+                  QStringLiteral("ms"), costs[to][action].median(), costs[from][action].median(), bound);
+    };
+    const size_t last = sizes.size() - 1;
+    growth("first paint", FirstPaint, last, 0, 1.3);
+    growth("span all categories", Span, last, last - 1, 0);
+    growth("filter \"99999\"", Filter, last, last - 1, 20);
+    growth("filter \"*99999*\"", SearchFilter, last, last - 1, 20);
+    table.add(QStringLiteral("poll with 10 changes, %1 against %2 features").arg(sizes[last]).arg(sizes[0]),
+              QStringLiteral("ms"), millisecondsOfPoll(sizes[last]), millisecondsOfPoll(sizes[0]), 2);
 }

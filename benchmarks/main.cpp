@@ -9,11 +9,23 @@ namespace {
 
 constexpr int featuresInAUsualDescription = 1500;
 
+/** The numbers behind "tree", or the usual ones. */
+std::vector<int> sizesOf(const QStringList &arguments)
+{
+    std::vector<int> sizes;
+    for (const QString &argument : arguments) {
+        if (const int size = argument.toInt(); size > 0)
+            sizes.push_back(size);
+    }
+    return sizes.empty() ? std::vector<int>{1000, 10000, 100000} : sizes;
+}
+
 void measureAll(const QStringList &arguments)
 {
     Table table;
     if (arguments.contains(QLatin1String("tree"))) {
-        measureFeatureTree(table, {1000, 10000, 100000});
+        measureFeatureTree(table, sizesOf(arguments));
+        countRegisterReads(table);
         table.print();
         return;
     }

@@ -28,7 +28,7 @@ double Samples::median() const
 
 void Table::add(const QString &what, const QString &unit, double ours, double other, double bound)
 {
-    const double ratio = ours / other;
+    const double ratio = ours > 0 ? ours / other : 0;
     const auto number = [](double value) { return QString::number(value, 'f', 2); };
     QStringList row = {what, unit, number(ours), number(other), number(ratio), QString(), QString()};
     if (bound > 0) {

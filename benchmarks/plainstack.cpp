@@ -1,5 +1,9 @@
 #include "plainstack.h"
 
+#include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
+
+#include <GenApi/GenApi.h>
+
 void PlainFilter::setFilterText(const QString &text)
 {
     m_pattern.setPattern(text);
@@ -9,6 +13,8 @@ void PlainFilter::setFilterText(const QString &text)
 bool PlainFilter::filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const
 {
     const QModelIndex index = sourceModel()->index(sourceRow, 0, sourceParent);
+    if (index.data(visibilityRole).toInt() > m_level || !index.data(implementedRole).toBool())
+        return false;
     if (index.data(categoryRole).toBool() || m_pattern.isEmpty())
         return true;
     return m_pattern.indexIn(index.data().toString()) >= 0;
@@ -35,7 +41,10 @@ QList<QStandardItem *> itemsOf(const QModelIndex &index)
 {
     auto *const name = new QStandardItem(index.data().toString());
     const int rows = index.model()->rowCount(index);
+    const auto node = index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>()->GetNode();
     name->setData(rows > 0, PlainFilter::categoryRole);
+    name->setData(int(node->GetVisibility()), PlainFilter::visibilityRole);
+    name->setData(node->GetAccessMode() != GenApi::NI, PlainFilter::implementedRole);
     for (int row = 0; row < rows; ++row)
         name->appendRow(itemsOf(index.model()->index(row, 0, index)));
     return {name, new QStandardItem(index.siblingAtColumn(1).data().toString())};

@@ -12,8 +12,10 @@
 class PlainFilter : public QSortFilterProxyModel
 {
 public:
-    /** Of the items; true for a category. */
+    // Of the items, beside their texts: all that the rules ask for.
     static constexpr int categoryRole = Qt::UserRole;
+    static constexpr int visibilityRole = Qt::UserRole + 1;
+    static constexpr int implementedRole = Qt::UserRole + 2;
 
     using QSortFilterProxyModel::QSortFilterProxyModel;
 
@@ -21,10 +23,11 @@ public:
     bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
 
 private:
+    int m_level = 0;
     QRegExp m_pattern{QStringLiteral("*"), Qt::CaseInsensitive, QRegExp::Wildcard};
 };
 
-/** A copy of all that \a model shows now. */
+/** A copy of all that \a model, a GenParamTreeModel, shows now. */
 std::unique_ptr<QStandardItemModel> plainModelOf(const QAbstractItemModel &model);
 
 // What the view does with its tree, done to one that shows a PlainFilter.

@@ -1,17 +1,13 @@
-# Orv::GenApi: the GenApi interfaces, either the stand-in of platform/GenApi or an installed reference implementation.
-
-if(ORV_STAND_INS)
-    return()
-endif()
+# Orv::GenApi: the GenApi interfaces of an installed reference implementation, below ORV_GENICAM_ROOT. Also installed
+# with the library, where an application's find_package includes it.
 
 set(_orv_genicam_include "${ORV_GENICAM_ROOT}/library/CPP/include")
 if(NOT EXISTS "${_orv_genicam_include}/GenApi/INodeMap.h")
     message(FATAL_ERROR "ORV_GENICAM_ROOT=${ORV_GENICAM_ROOT} has no library/CPP/include/GenApi/INodeMap.h")
 endif()
 
-add_library(orv_genicam INTERFACE)
-add_library(Orv::GenApi ALIAS orv_genicam)
-target_include_directories(orv_genicam SYSTEM INTERFACE "${_orv_genicam_include}")
+add_library(Orv::GenApi INTERFACE IMPORTED GLOBAL)
+target_include_directories(Orv::GenApi SYSTEM INTERFACE "${_orv_genicam_include}")
 foreach(_orv_library GenApi GCBase)
     file(GLOB _orv_found "${ORV_GENICAM_ROOT}/bin/Linux64_x64/lib${_orv_library}_*_v3_*.so")
     list(LENGTH _orv_found _orv_count)
@@ -20,5 +16,5 @@ foreach(_orv_library GenApi GCBase)
             "ORV_GENICAM_ROOT=${ORV_GENICAM_ROOT} must hold exactly one bin/Linux64_x64/lib${_orv_library}_*_v3_*.so; "
             "found ${_orv_count}")
     endif()
-    target_link_libraries(orv_genicam INTERFACE "${_orv_found}")
+    target_link_libraries(Orv::GenApi INTERFACE "${_orv_found}")
 endforeach()

@@ -13,3 +13,17 @@ function(orv_forbid_undefined_symbols target)
         target_link_options(${target} PRIVATE LINKER:--no-undefined)
     endif()
 endfunction()
+
+# orv_plant_fault(COPY SOURCE RIGHT WRONG): writes a copy of SOURCE in which WRONG stands in place of RIGHT and sets the
+# variable COPY to its path. For ORV_PLANT_FAULTS only.
+function(orv_plant_fault copy source right wrong)
+    file(READ ${source} text)
+    string(FIND "${text}" "${right}" found)
+    if(found EQUAL -1)
+        message(FATAL_ERROR "${source} has no \"${right}\" that a fault could take the place of")
+    endif()
+    string(REPLACE "${right}" "${wrong}" text "${text}")
+    get_filename_component(name ${source} NAME)
+    file(GENERATE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/faulty/${name} CONTENT "${text}")
+    set(${copy} ${CMAKE_CURRENT_BINARY_DIR}/faulty/${name} PARENT_SCOPE)
+endfunction()

@@ -65,7 +65,7 @@ private:
 class Camera : public CameraSource
 {
 public:
-    Camera(Released<OrvCam::System> system, OrvCam::DeviceInfo *info)
+    Camera(std::shared_ptr<OrvCam::System> system, OrvCam::DeviceInfo *info)
         : m_system(std::move(system))
         , m_name(QString::fromUtf8(info->GetDisplayName()))
         , m_id(QString::fromLatin1(info->GetID()))
@@ -79,12 +79,13 @@ public:
         }
     }
 
+    OrvCam::Device *device() const override { return m_device.get(); }
     GenApi::INodeMap *nodeMap() const override { return m_nodeMap; }
     QString name() const override { return m_name; }
     QString id() const override { return m_id; }
 
 private:
-    const Released<OrvCam::System> m_system;
+    const std::shared_ptr<OrvCam::System> m_system;
     const QString m_name;
     const QString m_id;
     Released<OrvCam::Device> m_device;
@@ -142,24 +143,29 @@ std::unique_ptr<CameraSource> openDescription(const QString &path)
     }
 }
 
-std::unique_ptr<CameraSource> openCamera(const QString &id)
+std::shared_ptr<OrvCam::System> cameraSystem()
 {
-    Released<OrvCam::System> system(OrvCam_GetSystem());
+    OrvCam::System *const system = OrvCam_GetSystem();
     if (!system)
         fail(Text::tr("There is no camera system."));
+    return {system, Releaser()};
+}
+
+std::unique_ptr<CameraSource> openCamera(const std::shared_ptr<OrvCam::System> &system, OrvCam::DeviceInfo *info)
+{
+    if (!info)
+        fail(Text::tr("There is no camera that can be opened."));
+    return std::make_unique<Camera>(system, info);
+}
+
+std::unique_ptr<CameraSource> openCamera(const QString &id)
+{
+    const std::shared_ptr<OrvCam::System> system = cameraSystem();
     const std::vector<OrvCam::DeviceInfo *> devices = allDevices(*system);
     const auto found = std::find_if(devices.begin(), devices.end(), [&id](OrvCam::DeviceInfo *info) {
         return id.isEmpty() ? isSelectable(info) : QString::fromLatin1(info->GetID()) == id;
     });
-    if (found != devices.end())
-        return std::make_unique<Camera>(std::move(system), *found);
-    if (id.isEmpty())
-        fail(Text::tr("There is no camera that can be opened."));
-    fail(Text::tr("There is no camera '%1'; there are: %2.").arg(id, idsOf(devices).join(QLatin1String(", "))));
-}
-
-QStringList cameraIds()
-{
-    const Released<OrvCam::System> system(OrvCam_GetSystem());
-    return system ? idsOf(allDevices(*system)) : QStringList();
+    if (found == devices.end() && !id.isEmpty())
+        fail(Text::tr("There is no camera '%1'; there are: %2.").arg(id, idsOf(devices).join(QLatin1String(", "))));
+    return openCamera(system, found == devices.end() ? nullptr : *found);
 }

@@ -3,9 +3,14 @@
 #include <GenApi/INodeMap.h>
 
 #include <QString>
-#include <QStringList>
 
 #include <memory>
+
+namespace OrvCam {
+class Device;
+class DeviceInfo;
+class System;
+} // namespace OrvCam
 
 /** Something that has features to show. Its node map lives as long as it does. */
 class CameraSource
@@ -24,6 +29,9 @@ public:
 
     /** The identifier of the camera; empty where there is none. */
     virtual QString id() const { return {}; }
+
+    /** The opened camera; null where there is none. */
+    virtual OrvCam::Device *device() const { return nullptr; }
 };
 
 /** Thrown when there is nothing to show; the message is one line for people. */
@@ -41,5 +49,8 @@ std::unique_ptr<CameraSource> openDescription(const QString &path);
  */
 std::unique_ptr<CameraSource> openCamera(const QString &id);
 
-/** The identifiers of all cameras that the process's camera system finds now. */
-QStringList cameraIds();
+/** The process's camera system, never null. Throws a CameraSourceError. */
+std::shared_ptr<OrvCam::System> cameraSystem();
+
+/** The camera of that system that \a info describes, opened; null describes none. Throws a CameraSourceError. */
+std::unique_ptr<CameraSource> openCamera(const std::shared_ptr<OrvCam::System> &system, OrvCam::DeviceInfo *info);

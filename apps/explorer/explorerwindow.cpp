@@ -1,6 +1,8 @@
 #include "explorerwindow.h"
 
+#include "cameradialog.h"
 #include "camerasource.h"
+#include "configuremenu.h"
 #include "simulationmenu.h"
 #include "widgetspage.h"
 
@@ -45,6 +47,8 @@ ExplorerWindow::ExplorerWindow(std::unique_ptr<CameraSource> source, QWidget *pa
     statusBar()->addPermanentWidget(m_pollingLabel);
     createFileMenu();
     createViewMenu();
+    m_configure = new ConfigureMenu(this);
+    menuBar()->addMenu(m_configure);
     createSimulationMenu();
     createHelpMenu();
     setSource(std::move(source));
@@ -54,7 +58,9 @@ ExplorerWindow::ExplorerWindow(std::unique_ptr<CameraSource> source, QWidget *pa
 
 ExplorerWindow::~ExplorerWindow()
 {
-    m_view->clearParams(); // the view goes after the node map
+    // View and dialogs go after the camera.
+    m_configure->setDevice(nullptr);
+    m_view->clearParams();
 }
 
 void ExplorerWindow::createPages()
@@ -86,8 +92,8 @@ void ExplorerWindow::createFileMenu()
 {
     QMenu *const file = menuBar()->addMenu(tr("&File"));
     file->addAction(tr("&Open Description..."), this, &ExplorerWindow::chooseDescription, QKeySequence::Open);
-    QMenu *const cameras = file->addMenu(tr("Open &Camera"));
-    connect(cameras, &QMenu::aboutToShow, this, [this, cameras] { listCameras(*cameras); });
+    file->addAction(tr("Open &Camera..."), this, &ExplorerWindow::chooseCamera)
+        ->setObjectName(QStringLiteral("openCamera"));
     file->addSeparator();
     file->addAction(tr("&Save View State..."), this, &ExplorerWindow::chooseStateToSave, QKeySequence::Save);
     file->addAction(tr("&Load View State..."), this, &ExplorerWindow::chooseStateToLoad);
@@ -124,6 +130,7 @@ void ExplorerWindow::createHelpMenu()
 
 void ExplorerWindow::setSource(std::unique_ptr<CameraSource> source)
 {
+    m_configure->setDevice(source->device()); // before the former one goes
     m_view->setParams(source->nodeMap());
     m_source = std::move(source);
     setWindowTitle(tr("%1 - Camera Explorer").arg(m_source->name()));
@@ -154,14 +161,13 @@ void ExplorerWindow::showDescription(const QString &path)
     }
 }
 
-void ExplorerWindow::listCameras(QMenu &menu)
+void ExplorerWindow::chooseCamera()
 {
-    menu.clear();
-    const QStringList ids = cameraIds();
-    for (const QString &id : ids) {
-        QAction *const action = menu.addAction(id, this, [this, id] { showCamera(id); });
-        action->setCheckable(true);
-        action->setChecked(id == m_source->id());
+    try {
+        if (std::unique_ptr<CameraSource> source = ::chooseCamera(this))
+            setSource(std::move(source));
+    } catch (const CameraSourceError &e) {
+        report(e.message);
     }
 }
 

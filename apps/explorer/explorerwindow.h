@@ -5,8 +5,8 @@
 #include <memory>
 
 class CameraSource;
+class ConfigureMenu;
 class QLabel;
-class QMenu;
 class QModelIndex;
 class QTabWidget;
 class SimulationMenu;
@@ -38,6 +38,9 @@ public:
     QStringList pageNames() const;
     void showPage(const QString &name);
 
+    /** The menu with the dialogs for groups of features. */
+    ConfigureMenu &configureMenu() const { return *m_configure; }
+
 private:
     void createPages();
     void createFileMenu();
@@ -46,7 +49,7 @@ private:
     void createHelpMenu();
 
     void setSource(std::unique_ptr<CameraSource> source);
-    void listCameras(QMenu &menu);
+    void chooseCamera();
     void chooseDescription();
     void chooseStateToSave();
     void chooseStateToLoad();
@@ -60,6 +63,7 @@ private:
     std::unique_ptr<CameraSource> m_source;
     QTabWidget *const m_pages;
     OrvGui::OrvGenParamTreeView *const m_view;
+    ConfigureMenu *m_configure = nullptr;
     SimulationMenu *m_simulation = nullptr;
     QLabel *const m_pollingLabel;
 };

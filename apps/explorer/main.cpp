@@ -1,10 +1,13 @@
+#include "cameradialog.h"
 #include "camerasource.h"
+#include "configuremenu.h"
 #include "explorerwindow.h"
 #include "options.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QIcon>
+#include <QTimer>
 
 #include <cstdio>
 
@@ -57,7 +60,28 @@ int saveScreenshot(QWidget &window, const QString &path)
     return print(path + QLatin1Char('\n'));
 }
 
-/** Every page into a file with its name. */
+/**
+ * The dialogs into files with their names: the one for a camera's IP address, and then the one that asks for a camera,
+ * in which that camera is current.
+ */
+int saveDialogs(const QDir &directory)
+{
+    const std::shared_ptr<OrvCam::System> system = cameraSystem();
+    CameraDialog dialog(system.get());
+    dialog.show(); // the panes divide the width that they have
+    QCoreApplication::processEvents();
+    int status = 0;
+    QTimer::singleShot(0, &dialog, [&] {
+        if (QWidget *const opened = QApplication::activeModalWidget()) {
+            status = saveScreenshot(*opened, directory.filePath(QStringLiteral("setip.png")));
+            opened->close();
+        }
+    });
+    dialog.setFirstAddress();
+    return status ? status : saveScreenshot(dialog, directory.filePath(QStringLiteral("selectcamera.png")));
+}
+
+/** Every page and dialog into a file with its name. */
 int saveScreenshots(ExplorerWindow &window, const QString &directory)
 {
     const QStringList pages = window.pageNames();
@@ -67,7 +91,24 @@ int saveScreenshots(ExplorerWindow &window, const QString &directory)
         window.showPage(*page);
         status = saveScreenshot(window, QDir(directory).filePath(*page + QStringLiteral(".png")));
     }
-    return status;
+    const QStringList dialogs = window.configureMenu().dialogNames();
+    for (auto name = dialogs.begin(); status == 0 && name != dialogs.end(); ++name) {
+        QDialog &dialog = *window.configureMenu().dialog(*name);
+        dialog.show(); // fits its size to what is in it
+        QCoreApplication::processEvents();
+        status = saveScreenshot(dialog, QDir(directory).filePath(*name + QStringLiteral(".png")));
+        dialog.close();
+    }
+    return status == 0 ? saveDialogs(QDir(directory)) : status;
+}
+
+/** What the command line asks for; null when people are to be asked. */
+std::unique_ptr<CameraSource> sourceOf(const Options &options)
+{
+    if (!options.xmlFile.isEmpty())
+        return openDescription(options.xmlFile);
+    const bool ask = options.cameraId.isEmpty() && options.action == Options::Action::ShowWindow;
+    return ask ? nullptr : openCamera(options.cameraId);
 }
 
 int runWindow(int argc, char **argv, const Options &options, std::unique_ptr<CameraSource> source)
@@ -80,6 +121,10 @@ int runWindow(int argc, char **argv, const Options &options, std::unique_ptr<Cam
     const QApplication app(argc, argv);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/explorer/explorer.png")));
 
+    if (!source)
+        source = chooseCamera();
+    if (!source)
+        return 0;
     ExplorerWindow window(std::move(source));
     if (screenshot)
         return saveScreenshots(window, options.screenshotDir);
@@ -99,8 +144,7 @@ int main(int argc, char **argv)
     if (options.action == Options::Action::ShowWindow && !hasDisplay())
         return fail(Text::tr("There is no display; '--screenshot DIR' draws the window into a file."));
     try {
-        return runWindow(argc, argv, options,
-                         options.xmlFile.isEmpty() ? openCamera(options.cameraId) : openDescription(options.xmlFile));
+        return runWindow(argc, argv, options, sourceOf(options));
     } catch (const CameraSourceError &e) {
         return fail(e.message);
     }

@@ -44,9 +44,9 @@ Options parseOptions(const QStringList &arguments)
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")}, Text::tr("Print the version."));
     const QCommandLineOption xml(QStringLiteral("xml"),
                                  Text::tr("Show the GenICam description FILE over an empty memory."), Text::tr("FILE"));
-    const QCommandLineOption camera(
-        QStringLiteral("camera"),
-        Text::tr("Open the camera with the identifier ID; without it, the first that can be opened."), Text::tr("ID"));
+    const QCommandLineOption camera(QStringLiteral("camera"),
+                                    Text::tr("Open the camera with the identifier ID instead of asking for one."),
+                                    Text::tr("ID"));
     const QCommandLineOption screenshot(
         QStringLiteral("screenshot"),
         Text::tr("Draw the windows into PNG files in the directory DIR and end; needs no display."), Text::tr("DIR"));

@@ -15,7 +15,7 @@ struct Options
 
     Action action = Action::ShowWindow;
     QString xmlFile; ///< description to show instead of a camera; empty: a camera
-    QString cameraId; ///< identifier of the camera to open; empty: the first that can be opened
+    QString cameraId; ///< identifier of the camera to open; empty: ask, for a screenshot the first that can be opened
     QString screenshotDir; ///< where SaveScreenshot writes
     QString text; ///< what PrintText prints; for Fail one line that says why
 };

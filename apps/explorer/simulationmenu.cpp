@@ -1,5 +1,7 @@
 #include "simulationmenu.h"
 
+#include "plugmenu.h"
+
 #include <OrvCameraApi/simulation.h>
 
 SimulationMenu::SimulationMenu(QWidget *parent)
@@ -8,6 +10,10 @@ SimulationMenu::SimulationMenu(QWidget *parent)
     , m_failWriting(addAction(QString(), this, [this] { failFeature(true); }))
     , m_recover(addAction(tr("Re&cover All Features"), this, &SimulationMenu::recover))
 {
+    auto *const plug = new PlugMenu(this);
+    connect(plug, &PlugMenu::changed, this, &SimulationMenu::changed);
+    insertMenu(m_failReading, plug);
+    insertSeparator(m_failReading);
     m_failReading->setObjectName(QStringLiteral("failReading"));
     m_failWriting->setObjectName(QStringLiteral("failWriting"));
     m_recover->setObjectName(QStringLiteral("recover"));

@@ -2,7 +2,10 @@
 
 #include <QMenu>
 
-/** Makes features of a simulated camera fail and recover. Without a camera, everything in it is disabled. */
+/**
+ * Plugs simulated cameras in and out, and makes features of one fail and recover; the latter is disabled while there is
+ * none.
+ */
 class SimulationMenu : public QMenu
 {
     Q_OBJECT

@@ -1,25 +1,38 @@
-// Shows the feature tree of a camera with nothing but the C functions, which need no Qt header. They make the Qt
-// application object; all that is left to do is to let it process its events.
+// Asks for a camera and shows its feature tree with nothing but the C functions, which need no Qt header. They make the
+// Qt application object; all that is left to do is to let it process its events.
 
-#include "firstcamera.h"
-
+#include <OrvCameraGuiApi/device_selection/selectcamera.h>
 #include <OrvCameraGuiApi/feature_tree/creategenparamtreeview.h>
 
 #include <QCoreApplication>
 
-int main()
+namespace {
+
+int show(OrvCam::DeviceInfo &info)
 {
-    OrvCam::Device *const camera = openFirstCamera();
+    OrvCam::Device *const camera = OrvCam_CreateDevice(&info, OrvCam::DeviceAccessControl, nullptr);
     if (!camera)
         return 1;
-
     OrvGui::IOrvGenParamTreeView *const view =
-        CreateGenParamTreeViewForArrayA(camera->GetCameraParameters(nullptr), "The first camera", 0);
+        CreateGenParamTreeViewForArrayA(camera->GetCameraParameters(nullptr), info.GetDisplayName(), 0);
     view->setVisibility(OrvGui::Expert);
     view->setPollingTime(500);
     view->enablePolling(true);
     const int result = QCoreApplication::exec();
     DestroyGenParamTreeView(view);
     camera->Release();
+    return result;
+}
+
+} // namespace
+
+int main()
+{
+    OrvCam::System *const system = OrvCam_GetSystem();
+    if (!system)
+        return 1;
+    OrvCam::DeviceInfo *const info = SelectCameraA(system, "Select camera", 0, true);
+    const int result = info ? show(*info) : 0;
+    system->Release();
     return result;
 }

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void masksChooseTypes();
     void objectsOutliveWhatTheyDescribe();
     void addedAndRemoved();
+    void namesTellWhatThereIs();
     void oddTextsAndTypes();
     void enumerationTellsChanges();
     void stalledEnumerationHoldsNoLock();
@@ -212,6 +213,23 @@ void TestSystem::addedAndRemoved()
     QCOMPARE(interfacesOf(*system).size(), std::size_t(2));
 }
 
+void TestSystem::namesTellWhatThereIs()
+{
+    using Names = std::vector<std::string>;
+    OrvSim::unplug("ORV-ETH-0");
+    OrvSim::replug("ORV-ETH-0");
+    OrvSim::unplug(twoFrame);
+    OrvSim::unplug("ORV-XHCI-0");
+    QCOMPARE(OrvSim::interfaceNames(), (Names{"ORV-ETH-0", "ORV-XHCI-0", "ORV-CL-0"}));
+    QCOMPARE(OrvSim::deviceNames("ORV-ETH-0"), (Names{twoFrame, stray}));
+    QVERIFY(OrvSim::deviceNames("ORV-CL-0").empty());
+    QVERIFY(OrvSim::deviceNames(twoFrame).empty());
+    for (const char *name : {"ORV-ETH-0", stray, "ORV-CL-0"})
+        QVERIFY2(OrvSim::isPluggedIn(name), name);
+    for (const char *name : {twoFrame, "ORV-XHCI-0", monochrome, "nobody", ""})
+        QVERIFY2(!OrvSim::isPluggedIn(name), name);
+}
+
 void TestSystem::oddTextsAndTypes()
 {
     const Held<OrvCam::System> system = getSystem();
@@ -353,6 +371,17 @@ void TestSystem::forceIpThatFails()
     OrvSim::release(OrvSim::Call::ForceIp);
     caller.join();
     QVERIFY(done);
+
+    OrvSim::stall(OrvSim::Call::ForceIp);
+    OrvCamErr err = OrvCamErr_Ok;
+    std::thread late([&] { err = camera->ForceIP(0xC0A80A0D, 0xFFFFFF00, 0); });
+    QVERIFY(OrvSim::waitUntilStalled(OrvSim::Call::ForceIp, 10s));
+    OrvSim::unplug(stray); // the answer never comes
+    OrvSim::release(OrvSim::Call::ForceIp);
+    late.join();
+    QCOMPARE(err, OrvCamErr_NoDevice);
+    OrvSim::replug(stray);
+    QCOMPARE(camera->GetIPAddress(nullptr), "192.168.10.12");
 }
 
 void TestSystem::interfaceParameters()

@@ -1,11 +1,16 @@
+#include "cameradialog.h"
 #include "camerasource.h"
+#include "configuremenu.h"
 #include "explorerwindow.h"
 #include "orvtest.h"
+#include "whenopen.h"
 
 #include <OrvCameraApi/simulation.h>
 #include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
 
 #include <QAction>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPointer>
@@ -13,6 +18,8 @@
 #include <QTreeView>
 
 #include <functional>
+
+using OrvTest::whenOpen;
 
 Q_DECLARE_METATYPE(std::function<void()>)
 
@@ -23,6 +30,23 @@ const char *const firstCamera = "ORV-GIGE-0001";
 QTreeView *treeOf(const ExplorerWindow &window)
 {
     return window.findChild<QTreeView *>(QStringLiteral("treeView"));
+}
+
+QTreeView *treeOf(const CameraDialog &dialog)
+{
+    return dialog.findChild<QTreeView *>(QStringLiteral("deviceTreeView"));
+}
+
+void doubleClick(const CameraDialog &dialog, const char *device)
+{
+    QTreeView *const tree = treeOf(dialog);
+    const QModelIndex index = tree->model()
+                                  ->match(tree->model()->index(0, 0), Qt::DisplayRole, QLatin1String(device), 1,
+                                          Qt::MatchExactly | Qt::MatchRecursive)
+                                  .value(0);
+    const QPoint place = tree->visualRect(index).center();
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    QTest::mouseDClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier, place);
 }
 
 /** The value that is shown beside the name, below the first category. */
@@ -54,6 +78,10 @@ private Q_SLOTS:
     void pollsTheCamera();
     void makesFeaturesFailAndRecover();
     void showsOneCameraAfterTheOther();
+    void asksForACamera();
+    void asksAgainWhenACameraCannotBeOpened();
+    void plugsInAndOutWhileItAsks();
+    void configuresTheCamera();
     void savesAndLoadsTheState();
     void listsTheSignalsOfTheWidgets();
 };
@@ -153,7 +181,7 @@ void ExplorerWindowTest::showsOneCameraAfterTheOther()
         ExplorerWindow window(openCamera(QString()));
         window.show();
         const QString title = window.windowTitle();
-        window.showCamera(cameraIds().last());
+        window.showCamera(QStringLiteral("ORV-USB3-0001"));
         QVERIFY(window.windowTitle() != title);
         QCOMPARE(OrvSim::liveObjects().devices, std::size_t(1));
 
@@ -166,6 +194,88 @@ void ExplorerWindowTest::showsOneCameraAfterTheOther()
         QCOMPARE(OrvSim::liveObjects().devices, std::size_t(0));
     }
     QCOMPARE(OrvSim::liveObjects().systemReferences, std::size_t(0));
+}
+
+void ExplorerWindowTest::asksForACamera()
+{
+    ExplorerWindow window(openCamera(QString()));
+    window.show();
+    const QString title = window.windowTitle();
+    whenOpen<CameraDialog>([](CameraDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    trigger(window, "openCamera");
+    QCOMPARE(window.windowTitle(), title);
+    whenOpen<CameraDialog>([](CameraDialog &dialog) { doubleClick(dialog, "SF-1300M (SN0101)"); });
+    trigger(window, "openCamera");
+    QVERIFY(window.windowTitle().startsWith(QLatin1String("SF-1300M (SN0101)")));
+
+    OrvSim::setSystemAvailable(false);
+    trigger(window, "openCamera");
+    QVERIFY(window.findChild<QMessageBox *>()->text().contains(QLatin1String("no camera system")));
+}
+
+void ExplorerWindowTest::asksAgainWhenACameraCannotBeOpened()
+{
+    OrvSim::refuseToOpen(firstCamera, OrvCamErr_InvalidState);
+    QStringList seen;
+    whenOpen<CameraDialog>([&](CameraDialog &dialog) {
+        doubleClick(dialog, "TF-2000C (SN0001)");
+        whenOpen<QMessageBox>([&](QMessageBox &box) {
+            seen.append(box.text());
+            QTest::keyClick(&box, Qt::Key_Return);
+            whenOpen<CameraDialog>([](CameraDialog &again) { doubleClick(again, "SF-1300M (SN0101)"); });
+        });
+    });
+    const std::unique_ptr<CameraSource> source = chooseCamera();
+    QCOMPARE(seen, QStringList(QStringLiteral("Cannot open the camera 'ORV-GIGE-0001': Invalid state.")));
+    QVERIFY(source && source->id() == QLatin1String("ORV-USB3-0001"));
+}
+
+void ExplorerWindowTest::plugsInAndOutWhileItAsks()
+{
+    whenOpen<CameraDialog>([](CameraDialog &dialog) {
+        auto *const bar = dialog.findChild<QMenuBar *>();
+        const QAbstractItemModel *const model = treeOf(dialog)->model();
+        for (const int devices : {1, 2}) {
+            expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
+            QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier,
+                              bar->actionGeometry(bar->actions().constFirst()).center());
+            QTRY_VERIFY(QApplication::activePopupWidget());
+            auto *const menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+            QAction *const plug = menu->findChild<QAction *>(QLatin1String(firstCamera));
+            QCOMPARE(plug->isChecked(), devices == 1);
+            QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, menu->actionGeometry(plug).center());
+            QTRY_COMPARE(model->rowCount(model->index(0, 0)), devices);
+        }
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    QVERIFY(!chooseCamera());
+    QVERIFY(OrvSim::isPluggedIn(firstCamera));
+}
+
+/** Each dialog follows the camera that is shown, and lets it go. */
+void ExplorerWindowTest::configuresTheCamera()
+{
+    {
+        ExplorerWindow window(openCamera(QString()));
+        window.show();
+        ConfigureMenu &menu = window.configureMenu();
+        QVERIFY(menu.dialogNames().size() >= 5);
+        for (const QString &name : menu.dialogNames()) {
+            QAction *const action = window.findChild<QAction *>(name);
+            action->trigger();
+            QVERIFY2(menu.dialog(name)->isVisible() && action->isChecked(), qPrintable(name));
+        }
+        QVERIFY(OrvSim::liveObjects().sinks > 0);
+        QDialog *const color = menu.dialog(QStringLiteral("color"));
+        QTest::keyClick(color, Qt::Key_Escape);
+        QVERIFY(!color->isVisible() && !window.findChild<QAction *>(QStringLiteral("color"))->isChecked());
+        window.showCamera(QStringLiteral("ORV-USB3-0001"));
+        QCOMPARE(OrvSim::liveObjects().devices, std::size_t(1));
+        window.showDescription(QStringLiteral(TEST_DATA "/probe.xml"));
+        QCOMPARE(OrvSim::liveObjects().sinks, std::size_t(0));
+        QVERIFY(!window.findChild<QAction *>(QStringLiteral("color"))->isEnabled());
+    }
+    QCOMPARE(OrvSim::liveObjects().devices, std::size_t(0));
 }
 
 void ExplorerWindowTest::savesAndLoadsTheState()

@@ -348,7 +348,7 @@ private Q_SLOTS:
                 shown.part<QLineEdit>("filterLineEdit")->setText(QStringLiteral("Top"));
             else
                 shown.node<GenApi::CFloatPtr>("Amount")->SetValue(0);
-            QVERIFY(!shown.tree->model());
+            QTRY_VERIFY(!shown.tree->model());
         }
     }
 };

@@ -1,7 +1,6 @@
-// Feeds descriptions to the node-map engine. To run it:
+// Feeds descriptions to the node-map engine. To run it longer than `.ci/fuzz` does:
 //
-//     CXX=clang++ cmake -S . -B build/fuzz -G Ninja -DORV_BUILD_FUZZERS=ON -DCMAKE_BUILD_TYPE=RelWithDebInfo
-//     cmake --build build/fuzz --target fuzz_description
+//     cmake --preset fuzz && cmake --build --preset fuzz --target fuzz_description
 //     mkdir -p build/fuzz/found
 //     build/fuzz/bin/fuzz_description build/fuzz/found platform/GenApi/fuzz/corpus \
 //         -dict=platform/GenApi/fuzz/description.dict -max_len=8192 -timeout=10 -max_total_time=600

@@ -48,6 +48,16 @@ bool onEither(const std::string &name, Action &&action)
     return onCamera(name, action) || onInterface(name, action);
 }
 
+template <typename Thing>
+std::vector<std::string> namesOf(const std::vector<std::shared_ptr<Thing>> &things)
+{
+    std::vector<std::string> names;
+    names.reserve(things.size());
+    for (const std::shared_ptr<Thing> &thing : things)
+        names.push_back(thing->spec().name);
+    return names;
+}
+
 } // namespace
 
 void reset()
@@ -100,6 +110,24 @@ bool swapDevices(const std::string &first, const std::string &second)
         return false;
     one.host->swap(one.camera, other.camera);
     return true;
+}
+
+std::vector<std::string> interfaceNames()
+{
+    return namesOf(world().interfaces());
+}
+
+std::vector<std::string> deviceNames(const std::string &interfaceName)
+{
+    const std::shared_ptr<HostInterface> host = world().findInterface(interfaceName);
+    return host ? namesOf(host->cameras()) : std::vector<std::string>();
+}
+
+bool isPluggedIn(const std::string &name)
+{
+    bool pluggedIn = false;
+    onEither(name, [&pluggedIn](const auto &thing) { pluggedIn = thing.isPluggedIn(); });
+    return pluggedIn;
 }
 
 void setSystemAvailable(bool available)

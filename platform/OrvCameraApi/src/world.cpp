@@ -23,10 +23,15 @@ World &World::instance()
     return world;
 }
 
-std::vector<std::shared_ptr<HostInterface>> World::interfacesPluggedIn() const
+std::vector<std::shared_ptr<HostInterface>> World::interfaces() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    std::vector<std::shared_ptr<HostInterface>> present = m_interfaces;
+    return m_interfaces;
+}
+
+std::vector<std::shared_ptr<HostInterface>> World::interfacesPluggedIn() const
+{
+    std::vector<std::shared_ptr<HostInterface>> present = interfaces();
     const auto absent = [](const std::shared_ptr<HostInterface> &host) { return !host->isPluggedIn(); };
     present.erase(std::remove_if(present.begin(), present.end(), absent), present.end());
     return present;

@@ -29,6 +29,7 @@ public:
         std::shared_ptr<Camera> camera;
     };
 
+    std::vector<std::shared_ptr<HostInterface>> interfaces() const;
     std::vector<std::shared_ptr<HostInterface>> interfacesPluggedIn() const;
     std::shared_ptr<HostInterface> findInterface(const std::string &name) const;
     Place findDevice(const std::string &name) const;

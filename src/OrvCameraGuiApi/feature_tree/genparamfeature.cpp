@@ -1,6 +1,7 @@
 #include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
 
 #include <OrvCameraGuiApi/device_selection/ip4validator.h>
+#include <OrvCameraGuiApi/device_selection/mactext.h>
 #include <OrvCameraGuiApi/feature_tree/controldata.h>
 
 #include <algorithm>
@@ -32,14 +33,6 @@ std::optional<GenApi::ERepresentation> representationByName(std::string_view nam
     return found->second;
 }
 
-QString macText(qint64 value)
-{
-    QStringList bytes;
-    for (int shift = 40; shift >= 0; shift -= 8)
-        bytes += QStringLiteral("%1").arg((value >> shift) & 0xff, 2, 16, QLatin1Char('0'));
-    return bytes.join(QLatin1Char(':')).toUpper();
-}
-
 QString integerText(GenApi::IInteger &number, GenApi::ERepresentation representation)
 {
     const qint64 value = number.GetValue();
@@ -47,7 +40,7 @@ QString integerText(GenApi::IInteger &number, GenApi::ERepresentation representa
     case GenApi::IPV4Address:
         return IP4Validator::getIpStr(static_cast<unsigned int>(value & 0xffffffff));
     case GenApi::MACAddress:
-        return macText(value);
+        return macText(static_cast<quint64>(value));
     case GenApi::HexNumber:
         return QString::number(static_cast<quint64>(value), 16).toUpper();
     default:

@@ -116,7 +116,7 @@ public:
     FeatureEntry *furtherOccurrence(FeatureEntry *first, FeatureEntry *parent, qint32 row);
     void describe(FeatureEntry &entry, const GenApi::INode &node);
     const char *keepText(const GenICam::gcstring &text);
-    void nodeChanged(GenApi::IValue *value);
+    void nodeChanged(FeatureEntry &entry);
 
     static FeatureEntry &entryOf(const QModelIndex &index);
     GenParamFeature featureOf(const QModelIndex &index) const;
@@ -145,13 +145,12 @@ public:
     GenApi::IValue *root = nullptr;
     std::vector<Visit> visits; ///< while the tree is built: the way from the root to the category being visited
     const QExplicitlySharedDataPointer<NodeChangeForwarder> forwarder;
-    const NodeChangeCallback onChange{forwarder};
 };
 
 GenParamTreeModelPrivate::GenParamTreeModelPrivate(GenParamTreeModel *model, GenApi::INodeMap *map)
     : q(model)
     , nodeMap(map)
-    , forwarder(new NodeChangeForwarder(model, [this](GenApi::IValue *value) { nodeChanged(value); }))
+    , forwarder(new NodeChangeForwarder(model, [this](void *tag) { nodeChanged(*static_cast<FeatureEntry *>(tag)); }))
 {
     registerMetaTypes();
     if (failureOf([this] { build(); }))
@@ -222,7 +221,7 @@ FeatureEntry *GenParamTreeModelPrivate::addFeature(GenApi::IValue *value, Featur
     GenApi::INode *node = nullptr;
     failureOf([&] {
         node = nodeOf(value);
-        callbacks.push_back(GenApi::Register(node, onChange));
+        callbacks.push_back(GenApi::Register(node, NodeChangeCallback(forwarder, &entry)));
     });
     if (!isNew)
         return furtherOccurrence(&entry, parent, row);
@@ -269,12 +268,9 @@ const char *GenParamTreeModelPrivate::keepText(const GenICam::gcstring &text)
     return static_cast<const char *>(std::memcpy(arena.allocate(size, 1), text.c_str(), size));
 }
 
-void GenParamTreeModelPrivate::nodeChanged(GenApi::IValue *value)
+void GenParamTreeModelPrivate::nodeChanged(FeatureEntry &entry)
 {
-    const auto entry = entries.find(value);
-    if (entry == entries.end())
-        return;
-    const QModelIndex cell = q->createIndex(entry->second.row, GenParamTreeModel::ValueColumn, &*entry);
+    const QModelIndex cell = q->createIndex(entry.second.row, GenParamTreeModel::ValueColumn, &entry);
     Q_EMIT q->dataChanged(cell, cell, QVector<int>());
 }
 

@@ -10,6 +10,7 @@
 #include <QVector>
 
 #include <algorithm>
+#include <array>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -26,12 +27,12 @@ enum class Time { Now, Ahead };
 /** What stays the same about a row of the source model. It is asked for so often that asking once pays. */
 struct SourceRow
 {
-    enum Kind : quint8 { Unknown, Feature, Category };
-
-    GenApi::IValue *value;
+    quintptr id; ///< the source index's internal one
+    GenApi::INode *node; ///< null for what has none
     struct Branch *below = nullptr; ///< null also where nobody has asked yet
+    bool isCategory;
     bool hasRowsBelow;
-    Kind kind = Unknown;
+    bool isCheckQueued = false;
 };
 
 /** The rows below one source index that pass the filter; the internal pointer of their proxy indexes. */
@@ -61,8 +62,17 @@ struct Place
 /** Where \a sourceRow is among \a rows, or -1. */
 int position(const Rows &rows, int sourceRow)
 {
+    if (size_t(sourceRow) < rows.size() && rows[size_t(sourceRow)] == sourceRow)
+        return sourceRow; // nothing above it is filtered away
     const auto found = std::lower_bound(rows.begin(), rows.end(), sourceRow);
     return found != rows.end() && *found == sourceRow ? int(found - rows.begin()) : -1;
+}
+
+/** Whether \a branch, if there is one, has \a sourceIndex at its row. */
+bool has(const Branch *branch, const QModelIndex &sourceIndex)
+{
+    const auto row = size_t(sourceIndex.row());
+    return branch && row < branch->sourceRows.size() && branch->sourceRows[row].id == sourceIndex.internalId();
 }
 
 } // namespace
@@ -79,7 +89,6 @@ public:
     Branch *branchOf(const QModelIndex &sourceParent);
     Branch *branchBelow(const QModelIndex &proxyParent);
     SourceRow *sourceRowOf(const QModelIndex &proxyIndex) const;
-    bool isCategory(SourceRow &row) const;
     Branch *addBranch(const QModelIndex &sourceParent, Branch *parent);
     void readSourceRows(Branch &branch);
     void findListedAgain(Branch &branch);
@@ -91,7 +100,7 @@ public:
     QModelIndex survivorOf(const QModelIndex &proxyIndex);
 
     void evaluate(const Branch &branch, Rows &rows) const;
-    bool accepts(GenApi::IValue *value) const;
+    bool accepts(GenApi::INode *node) const;
     bool acceptsName(GenApi::INode *node) const;
 
     void refilter();
@@ -102,6 +111,8 @@ public:
     void movePersistentIndexes();
     void sourceDataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight, const QVector<int> &roles);
     void rowChanged(Place place, const QModelIndex &topLeft, const QModelIndex &bottomRight, const QVector<int> &roles);
+    void queueCheck(const Place &place);
+    void checkQueued();
     void updateRow(Branch &branch, int sourceRow);
     void insertRow(Branch &branch, int sourceRow);
     void removeRow(Branch &branch, int sourceRow);
@@ -117,6 +128,9 @@ public:
     std::vector<std::unique_ptr<Branch>> owned; ///< each after its parent
     QHash<quintptr, Branch *> branches; ///< by the internal identifier of the source index
     Branch *lastBranch = nullptr; ///< views ask for many children of one parent in turn
+    std::array<Branch *, 4> lastChanged{}; ///< values of a category change in turn, and with each those it is in
+    size_t changes = 0; ///< that were looked for elsewhere
+    std::vector<Place> queuedChecks; ///< of categories; emptied when the event loop runs next
     QHash<quintptr, QVector<Place>> furtherPlaces; ///< of features in several places all but the first one, if known
     quint64 walk = 1; ///< what is known of branches being shown was found out in this one, or counts no more
     quint64 revision = 0; ///< of the rows, also of those to come
@@ -191,13 +205,6 @@ SourceRow *GenParamTreeVisibilityFilterProxyModelPrivate::sourceRowOf(const QMod
     return row < branch->rows.size() ? &branch->sourceRows[size_t(branch->rows[row])] : nullptr;
 }
 
-bool GenParamTreeVisibilityFilterProxyModelPrivate::isCategory(SourceRow &row) const
-{
-    if (row.kind == SourceRow::Unknown)
-        row.kind = ::isCategory(row.value) ? SourceRow::Category : SourceRow::Feature;
-    return row.kind == SourceRow::Category;
-}
-
 Branch *GenParamTreeVisibilityFilterProxyModelPrivate::addBranch(const QModelIndex &sourceParent, Branch *parent)
 {
     owned.push_back(std::make_unique<Branch>());
@@ -219,8 +226,10 @@ void GenParamTreeVisibilityFilterProxyModelPrivate::readSourceRows(Branch &branc
     branch.sourceRows.reserve(size_t(count));
     for (int row = 0; row < count; ++row) {
         const QModelIndex index = source->index(row, GenParamTreeModel::NameColumn, branch.source);
-        const QVariant value = source->data(index, GenParamTreeModel::ValueInterfaceRole);
-        branch.sourceRows.push_back({value.value<GenApi::IValue *>(), nullptr, source->hasChildren(index)});
+        auto *const value = source->data(index, GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
+        GenApi::INode *node = nullptr;
+        failureOf([&] { node = nodeOf(value); });
+        branch.sourceRows.push_back({index.internalId(), node, nullptr, isCategory(value), source->hasChildren(index)});
     }
 }
 
@@ -320,24 +329,21 @@ void GenParamTreeVisibilityFilterProxyModelPrivate::evaluate(const Branch &branc
     const size_t count = branch.sourceRows.size();
     rows.clear();
     for (size_t row = 0; row < count && generation == found; ++row) {
-        if (accepts(branch.sourceRows[row].value))
+        if (accepts(branch.sourceRows[row].node))
             rows.push_back(int(row));
     }
 }
 
-bool GenParamTreeVisibilityFilterProxyModelPrivate::accepts(GenApi::IValue *value) const
+bool GenParamTreeVisibilityFilterProxyModelPrivate::accepts(GenApi::INode *node) const
 {
-    GenApi::INode *node = nullptr;
+    if (!node)
+        return true;
     bool isTooHigh = false;
-    failureOf([&] {
-        node = nodeOf(value);
-        isTooHigh = int(node->GetVisibility()) > level;
-    });
-    if (isTooHigh || (node && !acceptsName(node)))
+    failureOf([&] { isTooHigh = int(node->GetVisibility()) > level; });
+    if (isTooHigh || !acceptsName(node))
         return false;
     bool isImplemented = true;
-    if (node)
-        failureOf([&] { isImplemented = node->GetAccessMode() != GenApi::NI; });
+    failureOf([&] { isImplemented = node->GetAccessMode() != GenApi::NI; });
     return isImplemented;
 }
 
@@ -446,6 +452,11 @@ void GenParamTreeVisibilityFilterProxyModelPrivate::sourceDataChanged(const QMod
                                                                       const QModelIndex &bottomRight,
                                                                       const QVector<int> &roles)
 {
+    const auto recent = topLeft == bottomRight && furtherPlaces.isEmpty()
+        ? std::find_if(lastChanged.begin(), lastChanged.end(), [&](Branch *branch) { return has(branch, topLeft); })
+        : lastChanged.end();
+    if (recent != lastChanged.end())
+        return rowChanged({*recent, topLeft.row()}, topLeft, bottomRight, roles);
     const QModelIndex first = topLeft.isValid() ? firstOccurrence(topLeft) : QModelIndex();
     if (!first.isValid() || !bottomRight.isValid())
         return;
@@ -453,8 +464,10 @@ void GenParamTreeVisibilityFilterProxyModelPrivate::sourceDataChanged(const QMod
     const QModelIndex parent = first.parent();
     const int last = first.row() + bottomRight.row() - topLeft.row();
     for (int row = first.row(); row <= last && generation == found; ++row) {
-        if (Branch *const branch = branches.value(parent.internalId()))
+        if (Branch *const branch = branches.value(parent.internalId())) {
+            lastChanged[++changes % lastChanged.size()] = branch;
             rowChanged({branch, row}, topLeft, bottomRight, roles);
+        }
         if (furtherPlaces.isEmpty() || generation != found)
             continue;
         const QVector<Place> further = furtherPlaces.value(source->index(row, 0, parent).internalId());
@@ -467,24 +480,47 @@ void GenParamTreeVisibilityFilterProxyModelPrivate::rowChanged(Place place, cons
                                                                const QModelIndex &bottomRight,
                                                                const QVector<int> &roles)
 {
+    // A category changes with everything in it and has no value to show: all that counts is whether it is there.
+    if (topLeft.column() > GenParamTreeModel::NameColumn
+        && place.branch->sourceRows[size_t(place.sourceRow)].isCategory) {
+        queueCheck(place);
+        return;
+    }
     const quint64 found = generation;
     updateRow(*place.branch, place.sourceRow);
     if (generation != found || !isShown(place, Time::Now))
-        return;
-    // A category changes with everything in it and has no value to show.
-    if (topLeft.column() > GenParamTreeModel::NameColumn
-        && isCategory(place.branch->sourceRows[size_t(place.sourceRow)]))
         return;
     const int row = position(place.branch->rows, place.sourceRow);
     Q_EMIT q->dataChanged(q->createIndex(row, topLeft.column(), place.branch),
                           q->createIndex(row, bottomRight.column(), place.branch), roles);
 }
 
+/** Many a change, as a rule, and one check when the event loop runs next. */
+void GenParamTreeVisibilityFilterProxyModelPrivate::queueCheck(const Place &place)
+{
+    if (std::exchange(place.branch->sourceRows[size_t(place.sourceRow)].isCheckQueued, true))
+        return;
+    if (queuedChecks.empty())
+        QMetaObject::invokeMethod(
+            q, [this] { checkQueued(); }, Qt::QueuedConnection);
+    queuedChecks.push_back(place);
+}
+
+void GenParamTreeVisibilityFilterProxyModelPrivate::checkQueued()
+{
+    const quint64 found = generation;
+    const std::vector<Place> places = std::exchange(queuedChecks, {});
+    for (const Place &place : places)
+        place.branch->sourceRows[size_t(place.sourceRow)].isCheckQueued = false;
+    for (auto place = places.begin(); place != places.end() && generation == found; ++place)
+        updateRow(*place->branch, place->sourceRow);
+}
+
 /** With a change a feature may have come to be implemented, or have ceased to be. */
 void GenParamTreeVisibilityFilterProxyModelPrivate::updateRow(Branch &branch, int sourceRow)
 {
     const quint64 found = generation;
-    const bool isAccepted = accepts(branch.sourceRows[size_t(sourceRow)].value);
+    const bool isAccepted = accepts(branch.sourceRows[size_t(sourceRow)].node);
     if (generation != found || isAccepted == (position(branch.rows, sourceRow) >= 0))
         return;
     if (isAccepted)
@@ -543,8 +579,10 @@ void GenParamTreeVisibilityFilterProxyModelPrivate::forget()
     ++generation;
     rowsHaveChanged();
     lastBranch = nullptr;
+    lastChanged.fill(nullptr);
     branches.clear();
     furtherPlaces.clear();
+    queuedChecks.clear();
     owned.clear();
 }
 
@@ -595,12 +633,26 @@ bool GenParamTreeVisibilityFilterProxyModel::filterAcceptsRow(int sourceRow, con
     if (!d->source)
         return false;
     const QModelIndex index = d->source->index(sourceRow, GenParamTreeModel::NameColumn, sourceParent);
-    return d->accepts(d->source->data(index, GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>());
+    GenApi::INode *node = nullptr;
+    failureOf([&] {
+        node = nodeOf(d->source->data(index, GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>());
+    });
+    return d->accepts(node);
 }
 
 QModelIndex GenParamTreeVisibilityFilterProxyModel::survivorOf(const QModelIndex &index) const
 {
     return index.isValid() && index.model() == this ? d->survivorOf(index) : QModelIndex();
+}
+
+int GenParamTreeVisibilityFilterProxyModel::nextCategory(const QModelIndex &parent, int row) const
+{
+    const Branch *const branch = d->branchBelow(parent);
+    for (size_t next = size_t(qMax(row, 0)); branch && next < branch->rows.size(); ++next) {
+        if (branch->sourceRows[size_t(branch->rows[next])].isCategory)
+            return int(next);
+    }
+    return -1;
 }
 
 QModelIndex GenParamTreeVisibilityFilterProxyModel::mapToSource(const QModelIndex &proxyIndex) const

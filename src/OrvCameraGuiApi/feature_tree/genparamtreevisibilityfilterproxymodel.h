@@ -41,6 +41,9 @@ public:
      */
     QModelIndex survivorOf(const QModelIndex &index) const;
 
+    /** The first row of \a parent from \a row on that is a category, or -1. */
+    int nextCategory(const QModelIndex &parent, int row) const;
+
     QModelIndex mapToSource(const QModelIndex &proxyIndex) const override;
     QModelIndex mapFromSource(const QModelIndex &sourceIndex) const override;
     QModelIndex index(int row, int column, const QModelIndex &parent = QModelIndex()) const override;

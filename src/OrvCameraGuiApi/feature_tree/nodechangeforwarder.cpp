@@ -29,7 +29,8 @@ private:
 };
 
 NodeChangeForwarder::NodeChangeForwarder(QObject *context, Handler handler)
-    : m_mailbox(nullptr)
+    : m_thread(context->thread())
+    , m_mailbox(nullptr)
     , m_handler(std::move(handler))
 {
     m_mailbox = new Mailbox(this, context);
@@ -42,23 +43,22 @@ void NodeChangeForwarder::detach()
     m_queued.clear();
 }
 
-void NodeChangeForwarder::nodeChanged(GenApi::INode *node)
+void NodeChangeForwarder::nodeChanged(void *tag)
 {
-    const GenApi::CValuePtr value(node);
-    if (value.IsValid() && !queue(value))
-        m_handler(value);
+    if (!queue(tag))
+        m_handler(tag);
 }
 
-/** False when the caller is on the context's thread and the value is to be handled now. */
-bool NodeChangeForwarder::queue(GenApi::IValue *value)
+/** False when the caller is on the context's thread and the change is to be handled now. */
+bool NodeChangeForwarder::queue(void *tag)
 {
+    if (m_thread == QThread::currentThread())
+        return !m_mailbox;
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (!m_mailbox)
         return true;
-    if (m_mailbox->thread() == QThread::currentThread())
-        return false;
     const bool eventIsOnItsWay = !m_queued.empty();
-    m_queued.insert(value);
+    m_queued.insert(tag);
     if (!eventIsOnItsWay)
         QCoreApplication::postEvent(m_mailbox, new QEvent(QEvent::User));
     return true;
@@ -66,15 +66,15 @@ bool NodeChangeForwarder::queue(GenApi::IValue *value)
 
 void NodeChangeForwarder::deliver()
 {
-    std::set<GenApi::IValue *> changed;
+    std::set<void *> changed;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         changed.swap(m_queued);
     }
-    for (GenApi::IValue *value : changed) {
+    for (void *tag : changed) {
         // Only this thread detaches, be it from within the handler.
         if (!m_mailbox)
             return;
-        m_handler(value);
+        m_handler(tag);
     }
 }

@@ -6,9 +6,12 @@
 #include <QObject>
 #include <QSharedData>
 
+#include <atomic>
 #include <functional>
 #include <mutex>
 #include <set>
+
+class QThread;
 
 /**
  * Brings the changes of nodes to one thread, whichever thread reports them. All callbacks of a model share one
@@ -22,7 +25,8 @@
 class NodeChangeForwarder : public QSharedData
 {
 public:
-    using Handler = std::function<void(GenApi::IValue *)>;
+    /** Is given the tag of the node's callback, so that it need not look for the node. */
+    using Handler = std::function<void(void *tag)>;
 
     /** \a handler is called on the thread that \a context lives on, never again after detach(). */
     NodeChangeForwarder(QObject *context, Handler handler);
@@ -30,32 +34,35 @@ public:
     /** Drops what is still queued and all that comes later; called on the thread of the context, before it goes. */
     void detach();
 
-    /** Any thread. A node that is no value is passed over. */
-    void nodeChanged(GenApi::INode *node);
+    /** The node with the callback of that tag has changed; any thread. */
+    void nodeChanged(void *tag);
 
 private:
     class Mailbox;
 
-    bool queue(GenApi::IValue *value);
+    bool queue(void *tag);
     void deliver();
 
+    const QThread *const m_thread;
     std::mutex m_mutex;
-    QObject *m_mailbox; ///< belongs to the context; null once detached
+    std::atomic<QObject *> m_mailbox; ///< belongs to the context; null once detached, which only the thread itself does
     const Handler m_handler;
-    std::set<GenApi::IValue *> m_queued;
+    std::set<void *> m_queued;
 };
 
-/** What a node calls when it changes; a pointer in size, as there is one a feature. */
+/** What a node calls when it changes; small, as there is one a feature. */
 class NodeChangeCallback
 {
 public:
-    explicit NodeChangeCallback(const QExplicitlySharedDataPointer<NodeChangeForwarder> &forwarder)
+    NodeChangeCallback(const QExplicitlySharedDataPointer<NodeChangeForwarder> &forwarder, void *tag)
         : m_forwarder(forwarder)
+        , m_tag(tag)
     {
     }
 
-    void operator()(GenApi::INode *node) const { m_forwarder->nodeChanged(node); }
+    void operator()(GenApi::INode *) const { m_forwarder->nodeChanged(m_tag); }
 
 private:
     QExplicitlySharedDataPointer<NodeChangeForwarder> m_forwarder;
+    void *m_tag;
 };

@@ -1,6 +1,7 @@
 #include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
 
 #include <OrvCameraGuiApi/camera_api/orvgenparam.h>
+#include <OrvCameraGuiApi/feature_tree/categoryspans.h>
 #include <OrvCameraGuiApi/feature_tree/filteroptions.h>
 #include <OrvCameraGuiApi/feature_tree/generrorsdlg.h>
 #include <OrvCameraGuiApi/feature_tree/genparamdelegate.h>
@@ -21,7 +22,6 @@
 
 #include <limits>
 #include <utility>
-#include <vector>
 
 namespace {
 
@@ -74,8 +74,6 @@ public:
     void connectModel();
     void connectProxy();
     void splitColumns();
-    void spanAllCategories();
-    void spanCategories(const QModelIndex &parent, int first, int last);
     void currentChanged(const QModelIndex &index);
     void moveCurrentFromGoing();
 
@@ -195,7 +193,7 @@ void OrvGenParamTreeViewPrivate::install(GenApi::INodeMap *map)
     showModel(proxy);
     connectProxy();
     splitColumns();
-    spanAllCategories();
+    spanAllCategories(*ui.treeView);
 }
 
 /** Nothing refers to the node map afterwards; only the objects that did are freed later, for they may be in use. */
@@ -248,10 +246,16 @@ void OrvGenParamTreeViewPrivate::connectProxy()
 {
     QObject::connect(proxy, &GenParamTreeVisibilityFilterProxyModel::rowsAboutToGo, q,
                      [this] { moveCurrentFromGoing(); });
-    QObject::connect(proxy, &GenParamTreeVisibilityFilterProxyModel::categoriesHaveCome, q,
-                     [this] { spanAllCategories(); });
+    // Somebody's slot may have had the model taken away before these are called.
+    QObject::connect(proxy, &GenParamTreeVisibilityFilterProxyModel::categoriesHaveCome, q, [this] {
+        if (proxy)
+            spanAllCategories(*ui.treeView);
+    });
     QObject::connect(proxy, &QAbstractItemModel::rowsInserted, q,
-                     [this](const QModelIndex &parent, int first, int last) { spanCategories(parent, first, last); });
+                     [this](const QModelIndex &parent, int first, int last) {
+                         if (proxy)
+                             spanCategories(*ui.treeView, parent, first, last);
+                     });
 }
 
 void OrvGenParamTreeViewPrivate::splitColumns()
@@ -259,38 +263,6 @@ void OrvGenParamTreeViewPrivate::splitColumns()
     const int width = ui.treeView->columnWidth(GenParamTreeModel::NameColumn)
         + ui.treeView->columnWidth(GenParamTreeModel::ValueColumn);
     ui.treeView->setColumnWidth(GenParamTreeModel::NameColumn, width / 2);
-}
-
-/** Does nothing when somebody's slot has just had the model taken away. */
-void OrvGenParamTreeViewPrivate::spanAllCategories()
-{
-    if (proxy)
-        spanCategories(QModelIndex(), 0, proxy->rowCount() - 1);
-}
-
-/** Of those rows and all that is in them, from top to bottom: the tree looks for each row near the one before. */
-void OrvGenParamTreeViewPrivate::spanCategories(const QModelIndex &parent, int first, int last)
-{
-    struct Level
-    {
-        QModelIndex parent;
-        int next;
-        int last;
-    };
-    std::vector<Level> levels{{parent, first, last}};
-    while (!levels.empty()) {
-        Level &level = levels.back();
-        if (level.next > level.last) {
-            levels.pop_back();
-            continue;
-        }
-        const int row = level.next++;
-        const QModelIndex index = proxy->index(row, GenParamTreeModel::NameColumn, level.parent);
-        if (isCategory(featureOf(index))) {
-            ui.treeView->setFirstColumnSpanned(row, level.parent, true);
-            levels.push_back({index, 0, proxy->rowCount(index) - 1});
-        }
-    }
 }
 
 void OrvGenParamTreeViewPrivate::currentChanged(const QModelIndex &index)

@@ -1,6 +1,6 @@
 #include <OrvCameraGuiApi/feature_tree/treestate.h>
 
-#include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
+#include <OrvCameraGuiApi/feature_tree/categorywalk.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 
 #include <QSplitter>
@@ -27,34 +27,19 @@ constexpr int splitterHeaderSize = 3 * int(sizeof(qint32));
 
 /** Calls \a visit with every category and its path, depth first, a category before those in it. */
 template <typename Visit>
-void forEachCategory(const QAbstractItemModel &model, Visit visit)
+void forEachCategoryPath(const QAbstractItemModel &model, Visit visit)
 {
-    struct Level
-    {
-        QModelIndex parent;
-        int row;
-        int rowCount;
-        int pathSize;
-    };
-    // Not recursive: a description decides how deep its categories are nested.
-    std::vector<Level> levels{{QModelIndex(), 0, model.rowCount(), 0}};
     QByteArray path;
-    while (!levels.empty()) {
-        Level &level = levels.back();
-        if (level.row == level.rowCount) {
-            levels.pop_back();
-            continue;
-        }
-        const QModelIndex index = model.index(level.row++, GenParamTreeModel::NameColumn, level.parent);
-        if (!isCategory(index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>()))
-            continue;
-        path.truncate(level.pathSize);
-        if (levels.size() > 1)
+    std::vector<int> pathSizes; // of the categories that the current one is in
+    forEachCategory(model, QModelIndex(), 0, model.rowCount() - 1, [&](const QModelIndex &index, size_t depth) {
+        pathSizes.resize(depth);
+        path.truncate(depth > 0 ? pathSizes.back() : 0);
+        if (depth > 0)
             path += '/';
         path += index.data().toString().toUtf8();
+        pathSizes.push_back(path.size());
         visit(index, path);
-        levels.push_back({index, 0, model.rowCount(index), path.size()});
-    }
+    });
 }
 
 /** What stands behind the first \a marker, to the end of the text. */
@@ -92,7 +77,7 @@ bool areSizes(const QByteArray &bytes)
 QByteArray TreeState::save(const QTreeView &tree, int visibility, const QSplitter &splitter)
 {
     QByteArray state;
-    forEachCategory(*tree.model(), [&](const QModelIndex &index, const QByteArray &path) {
+    forEachCategoryPath(*tree.model(), [&](const QModelIndex &index, const QByteArray &path) {
         if (tree.isExpanded(index)) {
             state += path;
             state += categoryMarker;
@@ -108,7 +93,7 @@ void TreeState::loadExpansion(QTreeView &tree, const QByteArray &state)
 {
     // Whoever listens to the tree may change its rows or its model meanwhile.
     std::vector<QPersistentModelIndex> toToggle;
-    forEachCategory(*tree.model(), [&](const QModelIndex &index, const QByteArray &path) {
+    forEachCategoryPath(*tree.model(), [&](const QModelIndex &index, const QByteArray &path) {
         if (tree.isExpanded(index) != state.contains(path))
             toToggle.emplace_back(index);
     });

@@ -13,6 +13,19 @@ bool foldsInOneWay(const QString &text)
     });
 }
 
+/** What is to be found, if that is a plain text; empty otherwise. */
+QString literalOf(const QString &glob)
+{
+    int first = 0;
+    int end = glob.size();
+    while (first < end && glob[first] == QLatin1Char('*'))
+        ++first;
+    while (first < end && glob[end - 1] == QLatin1Char('*'))
+        --end;
+    const QString text = glob.mid(first, end - first);
+    return text.contains(QLatin1Char('*')) || text.contains(QLatin1Char('?')) ? QString() : text;
+}
+
 } // namespace
 
 WildcardMatcher::WildcardMatcher()
@@ -37,6 +50,7 @@ void WildcardMatcher::prepare()
 {
     m_glob = QString();
     m_searchGlob = QString();
+    m_literal = QString();
     const QString pattern = m_regExp.pattern();
     // Sets of characters, brackets without a partner and backslashes are left to QRegExp.
     if (pattern.contains(QLatin1Char('[')) || pattern.contains(QLatin1Char(']')) || pattern.contains(QLatin1Char('\\')))
@@ -48,6 +62,8 @@ void WildcardMatcher::prepare()
     if (m_glob.isNull())
         m_glob = QLatin1String("");
     m_searchGlob = QLatin1Char('*') + m_glob + QLatin1Char('*');
+    m_literal = literalOf(m_glob);
+    m_search = QStringMatcher(m_literal, m_regExp.caseSensitivity());
 }
 
 bool WildcardMatcher::matchesAll() const
@@ -63,7 +79,9 @@ bool WildcardMatcher::matchesAll() const
 
 bool WildcardMatcher::isIn(const QString &text) const
 {
-    return canMatch(text) ? matchesWhole(text, m_searchGlob) : m_regExp.indexIn(text) >= 0;
+    if (!canMatch(text))
+        return m_regExp.indexIn(text) >= 0;
+    return m_literal.isEmpty() ? matchesWhole(text, m_searchGlob) : m_search.indexIn(text) >= 0;
 }
 
 bool WildcardMatcher::isAll(const QString &text) const

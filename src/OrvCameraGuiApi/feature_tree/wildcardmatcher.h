@@ -2,6 +2,7 @@
 
 #include <QRegExp>
 #include <QString>
+#include <QStringMatcher>
 
 /**
  * Matches names against a wildcard pattern with the answers of QRegExp in wildcard syntax, without running its engine
@@ -34,4 +35,6 @@ private:
     QRegExp m_regExp;
     QString m_glob; ///< the pattern, in lower case where case does not count; null when only QRegExp can answer
     QString m_searchGlob; ///< the same with any text around it
+    QString m_literal; ///< what isIn() searches, where that is a plain text
+    QStringMatcher m_search;
 };

@@ -1,5 +1,8 @@
 #!/usr/bin/env python3
-"""Draws the icons of the library into images/, at 16 and, as @2x, at 32 pixels. Run by hand; the files are committed.
+"""Draws the icons of the library. Run by hand; the files are committed.
+
+Those of buttons go into images/, at 16 and, as @2x, at 32 pixels; those of windows into icons/, with all sizes in one
+file each, and so do lamps, which labels show as pixmaps, with one size a file.
 
 Each icon is a list of shapes on a canvas of 16 by 16 units, painted one over the other. A shape is a function that
 tells the distance of a point from its border, in units, negative inside; from that the edges are smoothed. Colors are
@@ -106,6 +109,23 @@ ICONS = {
     'options-cw': slider(3, 10) + [LETTER_C, LETTER_W],
 }
 
+CAMERA = without(rectangle(1, 4.5, 15, 13.5), circle(8, 9, 3.9))
+FINDER = polygon((5.5, 2.5), (10.5, 2.5), (11.5, 4.6), (4.5, 4.6))
+
+WINDOW_ICONS = {
+    'orvicon': [(CAMERA, GREY), (FINDER, GREY), (circle(8, 9, 3.2), BLUE), (circle(6.9, 7.9, 0.9), WHITE),
+                (circle(13, 6.4, 0.8), GREEN)],
+}
+
+
+
+def lamp(color):
+    return [(circle(8, 8, 7), tuple(part * 2 // 3 for part in color)), (circle(8, 8, 6), color),
+            (circle(6.2, 5.8, 1.5), tuple((part + 2 * 255) // 3 for part in color))]
+
+
+LAMPS = {'greenball': lamp(GREEN), 'redball': lamp(RED)}
+
 
 def blend(below, color, coverage):
     """Paints over a pixel (red, green, blue, opacity), all from 0 to 1."""
@@ -141,12 +161,30 @@ def png(size, rows):
             + chunk(b'IEND', b''))
 
 
+def ico(shapes, scales=(1, 2, 3, 4)):
+    """An icon file of PNG pictures, one for each scale of 16 pixels."""
+    pictures = [(16 * scale, png(*draw(shapes, scale))) for scale in scales]
+    directory = struct.pack('<HHH', 0, 1, len(pictures))
+    offset = len(directory) + 16 * len(pictures)
+    for size, data in pictures:
+        directory += struct.pack('<BBBBHHII', size, size, 0, 0, 1, 32, len(data), offset)
+        offset += len(data)
+    return directory + b''.join(data for _, data in pictures)
+
+
 def main():
-    directory = Path(__file__).parent / 'images'
-    directory.mkdir(exist_ok=True)
+    images = Path(__file__).parent / 'images'
+    icons = Path(__file__).parent / 'icons'
+    images.mkdir(exist_ok=True)
+    icons.mkdir(exist_ok=True)
     for name, shapes in ICONS.items():
         for suffix, scale in (('', 1), ('@2x', 2)):
-            (directory / f'{name}{suffix}.png').write_bytes(png(*draw(shapes, scale)))
+            (images / f'{name}{suffix}.png').write_bytes(png(*draw(shapes, scale)))
+    for name, shapes in WINDOW_ICONS.items():
+        (icons / f'{name}.ico').write_bytes(ico(shapes))
+    for name, shapes in LAMPS.items():
+        for suffix, scale in (('', 1), ('@2x', 2)):
+            (icons / f'{name}{suffix}.ico').write_bytes(ico(shapes, (scale,)))
 
 
 if __name__ == '__main__':

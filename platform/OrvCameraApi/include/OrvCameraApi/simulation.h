@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #define ORV_CAMERAAPI_EXPORT __attribute__((visibility("default")))
 
@@ -136,6 +137,15 @@ ORV_CAMERAAPI_EXPORT bool replug(const std::string &name);
 
 /** Exchanges the places of two devices of one interface. */
 ORV_CAMERAAPI_EXPORT bool swapDevices(const std::string &first, const std::string &second);
+
+/** The control names of all interfaces, plugged in or not, in their order. */
+ORV_CAMERAAPI_EXPORT std::vector<std::string> interfaceNames();
+
+/** The control names of all devices of an interface, plugged in or not, in their order. */
+ORV_CAMERAAPI_EXPORT std::vector<std::string> deviceNames(const std::string &interfaceName);
+
+/** Whether an interface or a device is plugged in. */
+ORV_CAMERAAPI_EXPORT bool isPluggedIn(const std::string &name);
 /** @} */
 
 /** \name How objects behave @{ */

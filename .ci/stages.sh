@@ -1,0 +1,68 @@
+# The stages of .ci/run, which sources this after common.sh. One build with debug information serves tests, consumers,
+# packages and documentation.
+# shellcheck shell=bash disable=SC2034,SC2154
+
+stages=(format tidy sanitizers threads fuzz genicam consumers docs packages test)
+declare -A about=(
+    [format]="sources are formatted, scripts are sound"
+    [tidy]="clang-tidy on src/ and platform/"
+    [sanitizers]="whole suite with address and undefined-behaviour sanitizers"
+    [threads]="tests labelled threads, with the thread sanitizer"
+    [fuzz]="each fuzzer 30 s, the planted faults, what the corpora reach"
+    [genicam]="library against installed GenICam headers and libraries"
+    [consumers]="installed headers, examples by CMake and by pkg-config"
+    [docs]="Doxygen, links, examples in the pages"
+    [packages]="Debian packages and archive"
+    [test]="release build and whole suite"
+)
+
+stage_format() {
+    install_packages clang-format shellcheck
+    git ls-files -z '*.cpp' '*.h' | xargs -0 -n 40 clang-format --dry-run --Werror
+    shellcheck -x run test .ci/run .ci/stages.sh .ci/common.sh .ci/consumers .ci/genicam-build .ci/genicam-prefix \
+        .ci/packages .ci/docs .ci/tidy .ci/fuzz .ci/bare-debian benchmarks/run
+}
+
+stage_tidy() {
+    install_packages clang-tidy
+    build_preset release
+    .ci/tidy
+}
+
+stage_sanitizers() {
+    build_preset asan
+    ctest --preset asan
+}
+
+stage_threads() {
+    build_preset tsan orv-tests-threads
+    ctest --preset tsan -L threads
+}
+
+stage_fuzz() {
+    install_packages clang libclang-rt-14-dev llvm
+    .ci/fuzz 30
+    .ci/fuzz planted
+    .ci/fuzz coverage
+}
+
+stage_genicam() { .ci/genicam-build; }
+
+stage_consumers() {
+    build_preset release
+    .ci/consumers
+}
+
+stage_docs() {
+    install_packages doxygen graphviz
+    [ -d build/stage ] || stage_consumers
+    .ci/docs
+}
+
+stage_packages() {
+    install_packages dpkg-dev file
+    build_preset release
+    .ci/packages
+}
+
+stage_test() { ./test; }

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <OrvCameraGuiApi/device_selection/orvcameraselectordialog.h>
+
+#include <memory>
+
+class CameraSource;
+
+/** The dialog that asks for a camera, with a menu that plugs simulated ones in and out meanwhile. */
+class CameraDialog : public OrvGui::OrvCameraSelectorDialog
+{
+    Q_OBJECT
+
+public:
+    explicit CameraDialog(OrvCam::System *system, QWidget *parent = nullptr);
+
+    /**
+     * Makes the first camera current whose IP address can be set, and opens the dialog for that; returns when that is
+     * closed. False when there is no such camera.
+     */
+    bool setFirstAddress();
+};
+
+/**
+ * Asks for a camera until one could be opened; null when nobody wants one. Throws a CameraSourceError when there is no
+ * camera system.
+ */
+std::unique_ptr<CameraSource> chooseCamera(QWidget *parent = nullptr);

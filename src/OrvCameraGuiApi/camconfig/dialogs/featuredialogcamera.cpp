@@ -1,0 +1,139 @@
+#include <OrvCameraGuiApi/camconfig/dialogs/featuredialogcamera.h>
+
+#include <QDialog>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QThread>
+
+#include <utility>
+
+namespace {
+
+/**
+ * Takes from a dialog the keys that a QDialog would act upon. Escape would hide it without a closeEvent(); Return and
+ * Enter, which commit a value on their way, would click a default button, that of a message that just came up included.
+ */
+class DialogKeys : public QObject
+{
+public:
+    explicit DialogKeys(QDialog *dialog)
+        : QObject(dialog)
+        , m_dialog(dialog)
+    {
+        dialog->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched != m_dialog || event->type() != QEvent::KeyPress)
+            return false;
+        auto *const press = static_cast<QKeyEvent *>(event);
+        if (press->matches(QKeySequence::Cancel)) {
+            m_dialog->close();
+            return true;
+        }
+        return press->key() == Qt::Key_Return || press->key() == Qt::Key_Enter;
+    }
+
+private:
+    QDialog *const m_dialog;
+};
+
+} // namespace
+
+namespace OrvGui {
+
+FeatureDialogCamera::~FeatureDialogCamera()
+{
+    letGo();
+}
+
+bool FeatureDialogCamera::setDevice(OrvCam::Device *device)
+{
+    letGo();
+    m_connections.reset(new QObject);
+    OrvCamErr err = OrvCamErr_Ok;
+    OrvGenParam::Array *const parameters = device ? device->GetCameraParameters(&err) : nullptr;
+    m_device = device;
+    m_parameters = err == OrvCamErr_Ok ? parameters : nullptr;
+    return m_parameters != nullptr;
+}
+
+void FeatureDialogCamera::letGo()
+{
+    const auto sinks = std::exchange(m_sinks, {});
+    for (const auto &[param, sink] : sinks)
+        param->UnregisterEvent(sink);
+    mapper.unmapAll();
+    m_connections.reset();
+    m_parameters = nullptr;
+    m_device = nullptr;
+}
+
+OrvGenParam::Boolean *FeatureDialogCamera::boolean(const char *name) const
+{
+    return m_parameters ? m_parameters->GetBoolean(name, nullptr) : nullptr;
+}
+
+OrvGenParam::Command *FeatureDialogCamera::command(const char *name) const
+{
+    return m_parameters ? m_parameters->GetCommand(name, nullptr) : nullptr;
+}
+
+OrvGenParam::Enum *FeatureDialogCamera::enumeration(const char *name) const
+{
+    return m_parameters ? m_parameters->GetEnum(name, nullptr) : nullptr;
+}
+
+OrvGenParam::Int *FeatureDialogCamera::integer(const char *name) const
+{
+    return m_parameters ? m_parameters->GetInt(name, nullptr) : nullptr;
+}
+
+void FeatureDialogCamera::listen(OrvGenParam::Param *param, OrvGenParam::ParamEventSink *sink)
+{
+    if (!param)
+        return;
+    stopListening(param, sink);
+    m_sinks.append({param, sink});
+    param->RegisterEvent(sink);
+}
+
+void FeatureDialogCamera::stopListening(OrvGenParam::Param *param, OrvGenParam::ParamEventSink *sink)
+{
+    if (!param)
+        return;
+    param->UnregisterEvent(sink);
+    m_sinks.removeAll({param, sink});
+}
+
+void FeatureDialogCamera::listenBeforeMapper(OrvGenParam::Param *param, OrvGenParam::ParamEventSink *sink)
+{
+    listen(param, sink);
+    if (param)
+        param->UnregisterEvent(&mapper);
+}
+
+bool FeatureDialogCamera::isForGuiThread(OrvGenParam::Param *param, OrvGenParam::ParamEventSink *sink)
+{
+    if (QThread::currentThread() == m_context.thread())
+        return false;
+    const auto notify = [this, param, sink] {
+        if (m_sinks.contains({param, sink}))
+            sink->OnParameterUpdate(param);
+    };
+    QMetaObject::invokeMethod(&m_context, notify, Qt::QueuedConnection);
+    return true;
+}
+
+void FeatureDialogCamera::setUpDialog(QDialog *dialog)
+{
+    new DialogKeys(dialog);
+    const auto buttons = dialog->findChildren<QPushButton *>();
+    for (QPushButton *const button : buttons) {
+        button->setAutoDefault(false);
+        button->setDefault(false);
+    }
+}
+
+} // namespace OrvGui

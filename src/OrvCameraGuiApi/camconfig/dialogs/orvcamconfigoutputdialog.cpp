@@ -1,0 +1,111 @@
+#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigoutputdialog.h>
+
+#include <OrvCameraGuiApi/camconfig/dialogs/featuredialogcamera.h>
+
+#include "ui_orvcamconfigoutputdialog.h"
+
+#include <QCloseEvent>
+
+#include <utility>
+
+namespace OrvGui {
+
+class OrvCamConfigOutputDialogPrivate
+{
+public:
+    explicit OrvCamConfigOutputDialogPrivate(OrvCamConfigOutputDialog *dialog)
+        : q(dialog)
+    {
+    }
+    Q_DISABLE_COPY(OrvCamConfigOutputDialogPrivate)
+
+    bool init(OrvCam::Device *device);
+    void build();
+    void initComboBoxes();
+    void initSpinBoxes();
+    void initCheckBoxes();
+
+    OrvCamConfigOutputDialog *const q;
+    Ui_OrvCamConfigOutputDialog ui;
+    bool isBuilt = false;
+    FeatureDialogCamera camera;
+};
+
+bool OrvCamConfigOutputDialogPrivate::init(OrvCam::Device *device)
+{
+    if (!isBuilt)
+        build();
+    const bool hasParameters = camera.setDevice(device);
+    q->setEnabled(hasParameters);
+    if (!hasParameters)
+        return false;
+    initComboBoxes();
+    initSpinBoxes();
+    initCheckBoxes();
+    return true;
+}
+
+void OrvCamConfigOutputDialogPrivate::build()
+{
+    ui.setupUi(q);
+    FeatureDialogCamera::setUpDialog(q);
+    for (QtOrvSpinBox *const spinBox : {ui.spBoxDpcDynThres, ui.spBoxHpcDynThres})
+        spinBox->setLeftLabelText(OrvCamConfigOutputDialog::tr("Dyn.Thres.:"));
+    // Its features stay bound all the same.
+    ui.groupBox->hide();
+    isBuilt = true;
+}
+
+void OrvCamConfigOutputDialogPrivate::initComboBoxes()
+{
+    // The taps are intentionally bound to the feature whose name speaks of a bit depth.
+    const std::pair<const char *, QComboBox *> bindings[] = {
+        {"PixelFormat", ui.cmBoxPixelFormat}, {"SensorADCBitDepth11", ui.cmBoxTaps},
+        {"SensorADCBitDepth", ui.cmBoxDepth}, {"TestPattern", ui.cmBoxTestMode},
+        {"LUTSelector", ui.cmBoxLut},         {"DefectPixelCorrection", ui.cmBoxDpc},
+        {"HotPixelCorrection", ui.cmBoxHpc}};
+    for (const auto &[feature, comboBox] : bindings)
+        camera.mapper.mapEnumParam(camera.enumeration(feature), comboBox);
+}
+
+void OrvCamConfigOutputDialogPrivate::initSpinBoxes()
+{
+    camera.mapper.mapIntParam(camera.integer("DefectPixelThreshold"), ui.spBoxDpcDynThres);
+    camera.mapper.mapIntParam(camera.integer("HotPixelThreshold"), ui.spBoxHpcDynThres);
+}
+
+void OrvCamConfigOutputDialogPrivate::initCheckBoxes()
+{
+    camera.mapper.mapBooleanParam(camera.boolean("LUTEnable"), ui.chBoxEnableLut);
+    camera.mapper.mapBooleanParam(camera.boolean("ReverseX"), ui.chBoxHorMirror);
+    camera.mapper.mapBooleanParam(camera.boolean("ReverseY"), ui.chBoxVerMirror);
+}
+
+OrvCamConfigOutputDialog::OrvCamConfigOutputDialog(OrvCam::Device *device, QWidget *parent)
+    : QDialog(parent)
+    , d(new OrvCamConfigOutputDialogPrivate(this))
+{
+    d->init(device);
+}
+
+OrvCamConfigOutputDialog::~OrvCamConfigOutputDialog() = default;
+
+bool OrvCamConfigOutputDialog::SetDevice(OrvCam::Device *device)
+{
+    return d->init(device);
+}
+
+void OrvCamConfigOutputDialog::showEvent(QShowEvent *event)
+{
+    OrvCamConfigMapper::resizeVerticalSlider(d->ui.spBoxDpcDynThres);
+    OrvCamConfigMapper::resizeVerticalSlider(d->ui.spBoxHpcDynThres);
+    QDialog::showEvent(event);
+}
+
+void OrvCamConfigOutputDialog::closeEvent(QCloseEvent *event)
+{
+    Q_EMIT closing();
+    QDialog::closeEvent(event);
+}
+
+} // namespace OrvGui

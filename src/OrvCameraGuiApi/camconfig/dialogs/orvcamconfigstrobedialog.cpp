@@ -1,0 +1,199 @@
+#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigstrobedialog.h>
+
+#include <OrvCameraGuiApi/camconfig/dialogs/dialogparts.h>
+#include <OrvCameraGuiApi/camconfig/dialogs/featuredialogcamera.h>
+#include <OrvCameraGuiApi/widgets/qtorvslider.h>
+#include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
+
+#include "ui_orvcamconfigstrobedialog.h"
+
+#include <QCloseEvent>
+#include <QPointer>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+struct Picture
+{
+    const char *path;
+    const char *meaning; ///< for those who do not see it
+};
+
+/** By whether strobe 1, and strobe 2, count from the start of the exposure. */
+const Picture pictures[2][2] = {
+    {{":/images/strobeBothRead.bmp",
+      QT_TRANSLATE_NOOP("OrvGui::OrvCamConfigStrobeDialog", "Both strobes count from the start of the readout")},
+     {":/images/strobe1Read_strobe2Exp.bmp",
+      QT_TRANSLATE_NOOP("OrvGui::OrvCamConfigStrobeDialog",
+                        "Strobe 1 counts from the start of the readout, strobe 2 from that of the exposure")}},
+    {{":/images/strobe1Exp_strobe2Read.bmp",
+      QT_TRANSLATE_NOOP("OrvGui::OrvCamConfigStrobeDialog",
+                        "Strobe 1 counts from the start of the exposure, strobe 2 from that of the readout")},
+     {":/images/strobeBothExp.bmp",
+      QT_TRANSLATE_NOOP("OrvGui::OrvCamConfigStrobeDialog", "Both strobes count from the start of the exposure")}}};
+
+} // namespace
+
+namespace OrvGui {
+
+class OrvCamConfigStrobeDialogPrivate : public OrvGenParam::ParamEventSink
+{
+public:
+    explicit OrvCamConfigStrobeDialogPrivate(OrvCamConfigStrobeDialog *dialog)
+        : q(dialog)
+    {
+    }
+    Q_DISABLE_COPY(OrvCamConfigStrobeDialogPrivate)
+
+    bool init(OrvCam::Device *device);
+    void build();
+    void initCaptions();
+    void initComboBoxes();
+    void initReference(const char *feature, QComboBox *comboBox);
+    void initSliders();
+    void alignSliders();
+    void setImageState();
+    void show(const Picture &picture);
+    void OnParameterUpdate(OrvGenParam::Param *param) override;
+
+    OrvCamConfigStrobeDialog *const q;
+    Ui_OrvCamConfigStrobeDialog ui;
+    bool isBuilt = false;
+    FeatureDialogCamera camera; ///< the last member: lets go before the others are gone
+};
+
+bool OrvCamConfigStrobeDialogPrivate::init(OrvCam::Device *device)
+{
+    if (!isBuilt)
+        build();
+    const bool hasParameters = camera.setDevice(device);
+    q->setEnabled(hasParameters);
+    if (!hasParameters)
+        return false;
+    initComboBoxes();
+    initSliders();
+    alignSliders();
+    return true;
+}
+
+void OrvCamConfigStrobeDialogPrivate::build()
+{
+    ui.setupUi(q);
+    FeatureDialogCamera::setUpDialog(q);
+    initCaptions();
+    alignSliders();
+    show(pictures[true][true]);
+    isBuilt = true;
+}
+
+void OrvCamConfigStrobeDialogPrivate::initCaptions()
+{
+    for (QtOrvSliderSpinBox *const delay : {ui.spBoxStrobe1Delay, ui.spBoxStrobe2Delay})
+        delay->setLeftLabelText(OrvCamConfigStrobeDialog::tr("Delay [%1s]:").arg(microSign));
+    for (QtOrvSliderSpinBox *const width : {ui.spBoxStrobe1Width, ui.spBoxStrobe2Width})
+        width->setLeftLabelText(OrvCamConfigStrobeDialog::tr("Width [%1s]:").arg(microSign));
+}
+
+void OrvCamConfigStrobeDialogPrivate::initComboBoxes()
+{
+    const std::pair<const char *, QComboBox *> bindings[] = {
+        {"Strobe1Mode", ui.cmBoxStrobe1Mode},     {"Strobe2Mode", ui.cmBoxStrobe2Mode},
+        {"Strobe1Reference", ui.cmBoxStrobe1Ref}, {"Strobe2Reference", ui.cmBoxStrobe2Ref},
+        {"OUT1Polarity", ui.cmBoxOut1Polarity},   {"OUT2Polarity", ui.cmBoxOut2Polarity},
+        {"OUT1Selector", ui.cmBoxOut1Selector},   {"OUT2Selector", ui.cmBoxOut2Selector}};
+    for (const auto &[feature, comboBox] : bindings) {
+        if (!camera.mapper.mapEnumParam(camera.enumeration(feature), comboBox))
+            comboBox->clear();
+        if (comboBox == ui.cmBoxStrobe1Ref || comboBox == ui.cmBoxStrobe2Ref)
+            initReference(feature, comboBox);
+    }
+    setImageState();
+}
+
+void OrvCamConfigStrobeDialogPrivate::initReference(const char *feature, QComboBox *comboBox)
+{
+    camera.listenBeforeMapper(camera.enumeration(feature), this);
+    QObject::connect(comboBox, &QComboBox::currentTextChanged, camera.context(), [this] { setImageState(); });
+}
+
+void OrvCamConfigStrobeDialogPrivate::initSliders()
+{
+    const std::pair<const char *, QtOrvSliderSpinBox *> bindings[] = {{"Strobe1Delay", ui.spBoxStrobe1Delay},
+                                                                      {"Strobe2Delay", ui.spBoxStrobe2Delay},
+                                                                      {"Strobe1Width", ui.spBoxStrobe1Width},
+                                                                      {"Strobe2Width", ui.spBoxStrobe2Width}};
+    for (const auto &[feature, spinBox] : bindings) {
+        spinBox->slider()->setScaleType(QtOrvSlider::Log10);
+        if (!camera.mapper.mapIntParam(camera.integer(feature), spinBox, nullptr))
+            spinBox->setValue(spinBox->minimum());
+    }
+}
+
+/** One above the other they begin and end alike, whatever the caption and however large the numbers. */
+void OrvCamConfigStrobeDialogPrivate::alignSliders()
+{
+    QtOrvSliderSpinBox *const all[] = {ui.spBoxStrobe1Delay, ui.spBoxStrobe1Width, ui.spBoxStrobe2Delay,
+                                       ui.spBoxStrobe2Width};
+    int label = 0;
+    int number = 0;
+    for (const QtOrvSliderSpinBox *const spinBox : all) {
+        label = std::max(label, spinBox->leftLabel()->sizeHint().width());
+        number = std::max(number, spinBox->spinBox()->sizeHint().width());
+    }
+    for (QtOrvSliderSpinBox *const spinBox : all) {
+        spinBox->leftLabel()->setMinimumWidth(label);
+        spinBox->spinBox()->setMinimumWidth(number);
+    }
+}
+
+/** Any reference but the start of the exposure counts as the readout. */
+void OrvCamConfigStrobeDialogPrivate::setImageState()
+{
+    if (!ui.cmBoxStrobe1Ref->isEnabledTo(q) || !ui.cmBoxStrobe2Ref->isEnabledTo(q))
+        return;
+    const auto fromExposure = [](const QComboBox *reference) {
+        return reference->currentText() == QLatin1String("ExposureStart");
+    };
+    show(pictures[fromExposure(ui.cmBoxStrobe1Ref)][fromExposure(ui.cmBoxStrobe2Ref)]);
+}
+
+void OrvCamConfigStrobeDialogPrivate::show(const Picture &picture)
+{
+    ui.lblStrobeImage->setPixmap(sharpPixmap(QLatin1String(picture.path), q));
+    ui.lblStrobeImage->setAccessibleName(OrvCamConfigStrobeDialog::tr(picture.meaning));
+}
+
+/** A reference box that has just been enabled again shows in the picture. */
+void OrvCamConfigStrobeDialogPrivate::OnParameterUpdate(OrvGenParam::Param *param)
+{
+    if (camera.isForGuiThread(param, this))
+        return;
+    const QPointer<OrvCamConfigStrobeDialog> alive(q);
+    camera.mapper.OnParameterUpdate(param);
+    if (alive)
+        setImageState();
+}
+
+OrvCamConfigStrobeDialog::OrvCamConfigStrobeDialog(OrvCam::Device *device, QWidget *parent)
+    : QDialog(parent)
+    , d(new OrvCamConfigStrobeDialogPrivate(this))
+{
+    d->init(device);
+}
+
+OrvCamConfigStrobeDialog::~OrvCamConfigStrobeDialog() = default;
+
+bool OrvCamConfigStrobeDialog::SetDevice(OrvCam::Device *device)
+{
+    return d->init(device);
+}
+
+void OrvCamConfigStrobeDialog::closeEvent(QCloseEvent *event)
+{
+    Q_EMIT closing();
+    QDialog::closeEvent(event);
+}
+
+} // namespace OrvGui

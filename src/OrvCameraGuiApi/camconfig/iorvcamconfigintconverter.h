@@ -1,0 +1,26 @@
+#pragma once
+
+#include <OrvCameraGuiApi/camera_api/orvgenparam.h>
+
+#include <cstdint>
+
+namespace OrvGui {
+
+/**
+ * Lets a widget show an integer feature in other units than the camera's. Stays its implementer's, and must live as
+ * long as it is bound.
+ */
+class IOrvCamConfigIntConverter
+{
+public:
+    /** What to show for \a deviceValue, which may be a value, a limit or a step of \a param. */
+    virtual std::int64_t ToControl(std::int64_t deviceValue, OrvGenParam::Int *param) = 0;
+
+    /** What to write to \a param for \a controlValue. */
+    virtual std::int64_t ToDevice(std::int64_t controlValue, OrvGenParam::Int *param) = 0;
+
+protected:
+    ~IOrvCamConfigIntConverter() = default;
+};
+
+} // namespace OrvGui

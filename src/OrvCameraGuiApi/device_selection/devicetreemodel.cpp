@@ -1,0 +1,215 @@
+#include <OrvCameraGuiApi/device_selection/devicetreemodel.h>
+
+#include <OrvCameraGuiApi/device_selection/devicetreenode.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr std::uint32_t searchTimeout = 200;
+
+void registerMetaTypes()
+{
+    qRegisterMetaType<OrvCam::DeviceInfo *>("OrvCam::DeviceInfo*");
+    qRegisterMetaType<OrvCam::Interface *>("OrvCam::Interface*");
+}
+
+/** Calls \a visit with every entry of a list that may be null, and releases it. */
+template <typename List, typename Visit>
+void forEachEntry(List *list, Visit visit)
+{
+    if (!list)
+        return;
+    if (list->GetSize() != 0) {
+        for (auto *entry = list->GetFirst(); entry; entry = list->GetNext())
+            visit(entry);
+    }
+    list->Release();
+}
+
+/** Whether a text in UTF-8 is that one. */
+bool isText(const char *utf8, const QString &text)
+{
+    const QLatin1String bytes(utf8);
+    const auto isAscii = [](char byte) { return static_cast<signed char>(byte) >= 0; };
+    return std::all_of(bytes.begin(), bytes.end(), isAscii) ? bytes == text : QString::fromUtf8(utf8) == text;
+}
+
+} // namespace
+
+DeviceTreeModel::DeviceTreeModel(OrvCam::System *system, QObject *parent)
+    : QAbstractItemModel(parent)
+    , m_system(system)
+    , m_root(std::make_unique<RootNode>(*this, system))
+{
+    registerMetaTypes();
+    m_current = enumerate();
+}
+
+DeviceTreeModel::~DeviceTreeModel() = default;
+
+DeviceTreeNode *DeviceTreeModel::nodeOf(const QModelIndex &index) const
+{
+    return index.isValid() ? static_cast<DeviceTreeNode *>(index.internalPointer()) : m_root.get();
+}
+
+QModelIndex DeviceTreeModel::index(int row, int column, const QModelIndex &parent) const
+{
+    if (!hasIndex(row, column, parent) || row >= nodeOf(parent)->childCount())
+        return {};
+    return createIndex(row, column, nodeOf(parent)->child(row));
+}
+
+QModelIndex DeviceTreeModel::index(DeviceTreeNode *node) const
+{
+    return node == m_root.get() ? QModelIndex() : createIndex(node->row(), 0, node);
+}
+
+QModelIndex DeviceTreeModel::parent(const QModelIndex &index) const
+{
+    return index.isValid() ? this->index(nodeOf(index)->parent()) : QModelIndex();
+}
+
+int DeviceTreeModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.column() > 0 ? 0 : nodeOf(parent)->childCount();
+}
+
+int DeviceTreeModel::columnCount(const QModelIndex &) const
+{
+    return 1;
+}
+
+QVariant DeviceTreeModel::data(const QModelIndex &index, int role) const
+{
+    return index.isValid() ? nodeOf(index)->data(index.column(), role) : QVariant();
+}
+
+QVariant DeviceTreeModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    return orientation == Qt::Horizontal && role == Qt::DisplayRole ? m_root->data(section, Qt::DisplayRole)
+                                                                    : QVariant();
+}
+
+Qt::ItemFlags DeviceTreeModel::flags(const QModelIndex &index) const
+{
+    return index.isValid() ? QAbstractItemModel::flags(index) : Qt::NoItemFlags;
+}
+
+bool DeviceTreeModel::hasChildren(const QModelIndex &parent) const
+{
+    return nodeOf(parent)->hasChildren();
+}
+
+bool DeviceTreeModel::canFetchMore(const QModelIndex &parent) const
+{
+    return nodeOf(parent)->canFetchMore();
+}
+
+void DeviceTreeModel::fetchMore(const QModelIndex &parent)
+{
+    if (canFetchMore(parent))
+        nodeOf(parent)->fetchMore();
+}
+
+QString DeviceTreeModel::getItemID(const QModelIndex &index) const
+{
+    const QVariant object = data(index, Qt::UserRole);
+    if (auto *const device = object.value<OrvCam::DeviceInfo *>())
+        return QString::fromUtf8(device->GetID());
+    if (auto *const transport = object.value<OrvCam::Interface *>())
+        return QString::fromUtf8(transport->GetID());
+    return {};
+}
+
+/** Past the indexes and values of getItemID(): after every change all items may have to be looked at. */
+QModelIndex DeviceTreeModel::getItemIdx(const QString &id) const
+{
+    for (int row = 0; row < m_root->childCount(); ++row) {
+        auto *const transport = static_cast<InterfaceNode *>(m_root->child(row));
+        if (isText(transport->object()->GetID(), id))
+            return index(transport);
+        for (int below = 0; below < transport->childCount(); ++below) {
+            auto *const device = static_cast<DeviceInfoNode *>(transport->child(below));
+            if (isText(device->object()->GetID(), id))
+                return index(device);
+        }
+    }
+    return {};
+}
+
+QModelIndex DeviceTreeModel::getFirstIdx() const
+{
+    return index(0, 0);
+}
+
+void DeviceTreeModel::getDevices(Interfaces &interfaces, Devices &devices) const
+{
+    interfaces.clear();
+    devices.clear();
+    forEachEntry(
+        m_system ? m_system->GetInterfaceList(OrvCam::AllInterfaceTypes) : nullptr, [&](OrvCam::Interface *transport) {
+            const QString id = QString::fromLatin1(transport->GetID());
+            interfaces.push_back(transport);
+            bool changed = false;
+            transport->ReEnumerateDevices(&changed, searchTimeout);
+            std::vector<OrvCam::DeviceInfo *> &found = devices[id];
+            forEachEntry(transport->GetDeviceInfoList(), [&](OrvCam::DeviceInfo *device) { found.push_back(device); });
+        });
+}
+
+DeviceTreeModel::State DeviceTreeModel::enumerate() const
+{
+    State state;
+    getDevices(state.interfaces, state.devices);
+    for (OrvCam::Interface *transport : state.interfaces)
+        state.interfaceIds.append(QString::fromLatin1(transport->GetID()));
+    for (const auto &[id, devices] : state.devices) {
+        QStringList &ids = state.deviceIds[id];
+        for (OrvCam::DeviceInfo *device : devices)
+            ids.append(QString::fromLatin1(device->GetID()));
+    }
+    return state;
+}
+
+void DeviceTreeModel::rescan()
+{
+    show(enumerate());
+}
+
+int DeviceTreeModel::checkNew()
+{
+    State found = enumerate();
+    QStringList interfaceIds;
+    std::map<QString, QStringList> deviceIds;
+    {
+        // Held for the copies only: the GUI thread never waits for an enumeration.
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        interfaceIds = m_current.interfaceIds;
+        deviceIds = m_current.deviceIds;
+        m_found = found;
+    }
+    return found.interfaceIds != interfaceIds || found.deviceIds != deviceIds ? 1 : 0;
+}
+
+void DeviceTreeModel::updateModel()
+{
+    State found;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        found = m_found;
+    }
+    show(std::move(found));
+}
+
+void DeviceTreeModel::show(State &&state)
+{
+    beginResetModel();
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_current = std::move(state);
+    }
+    m_root = std::make_unique<RootNode>(*this, m_system);
+    endResetModel();
+}

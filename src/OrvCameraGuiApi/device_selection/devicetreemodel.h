@@ -1,0 +1,119 @@
+#pragma once
+
+#include <OrvCameraGuiApi/camera_api/orvcam.h>
+
+#include <QAbstractItemModel>
+#include <QStringList>
+
+#include <map>
+#include <memory>
+#include <mutex>
+#include <vector>
+
+class DeviceTreeNode;
+class RootNode;
+
+Q_DECLARE_METATYPE(OrvCam::DeviceInfo *)
+Q_DECLARE_METATYPE(OrvCam::Interface *)
+
+/**
+ * The camera system's interfaces, and below each the devices that were found on it, in the order in which the system
+ * lists them; one column, read-only. Items come into being when a view fetches them.
+ *
+ * Qt::UserRole is the OrvCam::Interface or OrvCam::DeviceInfo of an item. These belong to the camera access library,
+ * which is asked for every text that is shown: nothing of them is kept but their identifiers.
+ *
+ * What the system has is found out at the beginning, by rescan(), or in the background: checkNew() looks, updateModel()
+ * takes over what it saw. Either of the latter two is a reset of the model, upon which no index is good any more; an
+ * item is found again by its identifier.
+ *
+ * checkNew() may be called from one other thread while the model is used on its own, the GUI's; everything else is for
+ * that thread only. Neither ever waits for the other longer than a list takes to be copied.
+ */
+class DeviceTreeModel : public QAbstractItemModel
+{
+    Q_OBJECT
+
+public:
+    using Interfaces = std::vector<OrvCam::Interface *>;
+    /** By the identifier of the interface. */
+    using Devices = std::map<QString, std::vector<OrvCam::DeviceInfo *>>;
+
+    /** Enumerates \a system, which outlives the model; null has no interfaces. */
+    DeviceTreeModel(OrvCam::System *system, QObject *parent);
+    ~DeviceTreeModel() override;
+
+    QModelIndex index(int row, int column, const QModelIndex &parent = QModelIndex()) const override;
+    /** Invalid for the root. */
+    QModelIndex index(DeviceTreeNode *node) const;
+    QModelIndex parent(const QModelIndex &index) const override;
+    int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex &parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+    bool hasChildren(const QModelIndex &parent = QModelIndex()) const override;
+    bool canFetchMore(const QModelIndex &parent) const override;
+    void fetchMore(const QModelIndex &parent) override;
+
+    using QObject::parent;
+
+    /** The camera access library's identifier of an item, UTF-8; empty for what is no item. */
+    QString getItemID(const QModelIndex &index) const;
+
+    /**
+     * The first item of that identifier, an interface before its devices; invalid when there is none. Only what has
+     * been fetched is searched. Interfaces and devices share one space of identifiers.
+     */
+    QModelIndex getItemIdx(const QString &id) const;
+
+    /** The first interface, or an invalid index. */
+    QModelIndex getFirstIdx() const;
+
+    /**
+     * Asks the system what there is now; each interface is told to look for devices. Two interfaces of one identifier
+     * share an entry of \a devices. May be called from any thread.
+     */
+    void getDevices(Interfaces &interfaces, Devices &devices) const;
+
+    /** Enumerates again and resets the model. Not while another thread is in checkNew(). */
+    void rescan();
+
+    /**
+     * 1 when the system has other interfaces or devices than the model shows, or has them in another order; else 0.
+     * They are told apart by their identifiers only.
+     */
+    int checkNew();
+
+    /** Shows what the last checkNew() has found. */
+    void updateModel();
+
+    /** What the model shows now. */
+    const Interfaces &interfaces() const { return m_current.interfaces; }
+    const std::vector<OrvCam::DeviceInfo *> &devicesOn(const QString &interfaceId)
+    {
+        return m_current.devices[interfaceId];
+    }
+
+private:
+    friend class DeviceTreeNode;
+
+    /** One enumeration. The identifiers tell whether two are the same without asking objects that may be gone. */
+    struct State
+    {
+        Interfaces interfaces;
+        Devices devices;
+        QStringList interfaceIds;
+        std::map<QString, QStringList> deviceIds; ///< by the identifier of the interface
+    };
+
+    State enumerate() const;
+    void show(State &&state);
+    DeviceTreeNode *nodeOf(const QModelIndex &index) const;
+
+    OrvCam::System *const m_system; ///< for the other thread, which must not ask the root: that is replaced
+    std::unique_ptr<RootNode> m_root;
+    State m_current; ///< written by the GUI thread with the lock, so that it may read without
+    State m_found; ///< by the last checkNew(); with the lock
+    mutable std::mutex m_mutex;
+};

@@ -1,0 +1,179 @@
+#include <OrvCameraGuiApi/device_selection/infopane.h>
+
+#include <OrvCameraGuiApi/device_selection/ip4validator.h>
+#include <OrvCameraGuiApi/device_selection/mactext.h>
+
+#include <QBrush>
+#include <QHeaderView>
+#include <QStandardItemModel>
+
+namespace {
+
+constexpr std::int64_t usb3 = 0x300;
+
+/** Intentionally the same in every language: labels are what support people ask for. */
+QStandardItem *addRow(QStandardItemModel &rows, const char *label, const QString &value)
+{
+    auto *const item = new QStandardItem(value);
+    item->setToolTip(value);
+    rows.appendRow({new QStandardItem(QLatin1String(label)), item});
+    return item;
+}
+
+QString accessText(std::int32_t status)
+{
+    switch (status) {
+    case OrvCam::AccessStatusReadWrite:
+        return InfoPane::tr("ReadWrite");
+    case OrvCam::AccessStatusReadOnly:
+        return InfoPane::tr("ReadOnly");
+    case OrvCam::AccessStatusNoAccess:
+        return InfoPane::tr("NO ACCESS");
+    case OrvCam::AccessStatusIpSubnetMismatch:
+        return InfoPane::tr("IP Subnet Mismatch");
+    default:
+        return InfoPane::tr("Unknown");
+    }
+}
+
+QString typeText(std::int32_t type)
+{
+    switch (type) {
+    case OrvCam::InterfaceTypeUsb3Vision:
+        return InfoPane::tr("USB3 Vision");
+    case OrvCam::InterfaceTypeGigEVision:
+        return InfoPane::tr("GigE Vision");
+    case OrvCam::InterfaceTypeCameraLink:
+        return InfoPane::tr("CameraLink");
+    case OrvCam::InterfaceTypeCoaXPress:
+        return InfoPane::tr("CoaXPress");
+    case OrvCam::InterfaceTypeHdSdi:
+        return InfoPane::tr("HD-SDI");
+    default:
+        return InfoPane::tr("Custom");
+    }
+}
+
+OrvGenParam::Array *parametersOf(OrvCam::Interface *transport)
+{
+    OrvCamErr err = OrvCamErr_Ok;
+    return transport ? transport->GetParameters(&err) : nullptr;
+}
+
+/** Red where the camera has fewer than the bandwidth of USB 3. */
+void addUsbVersion(QStandardItemModel &rows, OrvGenParam::Array *params, int row)
+{
+    const char *const feature = "DeviceUSBVersionDetected";
+    OrvCamErr err = OrvCamErr_Ok;
+    if (!params || !params->GetInt(feature, &err) || !selectDevice(params, row))
+        return;
+    const std::int64_t version = integerOf(params, feature).value_or(0);
+    if (version == 0)
+        return;
+    QStandardItem *const item =
+        addRow(rows, "USB Version", QStringLiteral("0x%1").arg(qlonglong(version), 4, 16, QLatin1Char('0')));
+    if (version < usb3)
+        item->setForeground(QBrush(Qt::red));
+}
+
+void addMac(QStandardItemModel &rows, OrvGenParam::Array *params, const char *feature)
+{
+    if (const auto mac = integerOf(params, feature))
+        addRow(rows, "MAC Address", macText(quint64(*mac)));
+}
+
+void addAddress(QStandardItemModel &rows, OrvGenParam::Array *params, const char *label, const char *feature)
+{
+    if (const auto address = integerOf(params, feature))
+        addRow(rows, label, IP4Validator::getIpStr(static_cast<unsigned int>(*address)));
+}
+
+/** What the description itself tells of its address. */
+void addText(QStandardItemModel &rows, const char *label, OrvCam::DeviceInfo &device,
+             const char *(OrvCam::DeviceInfo::*getter)(OrvCamErr *))
+{
+    OrvCamErr err = OrvCamErr_Ok;
+    const char *const text = (device.*getter)(&err);
+    if (err == OrvCamErr_Ok)
+        addRow(rows, label, QString::fromUtf8(text));
+}
+
+} // namespace
+
+std::optional<std::int64_t> integerOf(OrvGenParam::Array *params, const char *name)
+{
+    OrvCamErr err = OrvCamErr_Ok;
+    const std::int64_t value = params ? params->GetIntegerValue(name, &err) : 0;
+    return params && err == OrvCamErr_Ok ? std::optional<std::int64_t>(value) : std::nullopt;
+}
+
+bool selectDevice(OrvGenParam::Array *params, int row)
+{
+    return params && params->SetIntegerValue("DeviceSelector", row) == OrvCamErr_Ok;
+}
+
+InfoPane::InfoPane(QWidget *parent)
+    : QTreeView(parent)
+{
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(NoSelection);
+    setHeaderHidden(true);
+    setRootIsDecorated(false);
+    setUniformRowHeights(true);
+    setAlternatingRowColors(true);
+}
+
+void InfoPane::showDevice(OrvCam::DeviceInfo &device, OrvCam::Interface *transport, int row)
+{
+    auto *const rows = new QStandardItemModel(this);
+    OrvGenParam::Array *const params = parametersOf(transport);
+    const bool isGigE = transport && transport->GetType() == OrvCam::InterfaceTypeGigEVision;
+    addRow(*rows, "Display name", QString::fromUtf8(device.GetDisplayName()));
+    addRow(*rows, "Vendor", QString::fromUtf8(device.GetVendor()));
+    addRow(*rows, "Model", QString::fromUtf8(device.GetModel()));
+    addRow(*rows, "Serial number", QString::fromUtf8(device.GetSerialNumber()));
+    addRow(*rows, "Version", QString::fromUtf8(device.GetVersion()));
+    addRow(*rows, "User name", QString::fromUtf8(device.GetUserDefinedName()));
+    addUsbVersion(*rows, params, row);
+    addRow(*rows, "Access status", accessText(device.GetAccessStatus()));
+    if (isGigE) {
+        if (selectDevice(params, row))
+            addMac(*rows, params, "GevDeviceMACAddress");
+        addText(*rows, "IP Address", device, &OrvCam::DeviceInfo::GetIPAddress);
+        addText(*rows, "Netmask", device, &OrvCam::DeviceInfo::GetSubnetMask);
+        addText(*rows, "Gateway", device, &OrvCam::DeviceInfo::GetGateway);
+    }
+    showRows(rows);
+}
+
+void InfoPane::showInterface(OrvCam::Interface &transport)
+{
+    auto *const rows = new QStandardItemModel(this);
+    const std::int32_t type = transport.GetType();
+    addRow(*rows, "Description", QString::fromUtf8(transport.GetDescription()));
+    addRow(*rows, "Type", typeText(type));
+    addRow(*rows, "Version", QString::fromUtf8(transport.GetVersion()));
+    if (type == OrvCam::InterfaceTypeGigEVision) {
+        OrvGenParam::Array *const params = parametersOf(&transport);
+        addMac(*rows, params, "GevInterfaceMACAddress");
+        addAddress(*rows, params, "IP Address", "GevInterfaceSubnetIPAddress");
+        addAddress(*rows, params, "Netmask", "GevInterfaceSubnetMask");
+    }
+    showRows(rows);
+}
+
+void InfoPane::rememberWidth()
+{
+    if (const int width = columnWidth(0); width != 0)
+        m_labelWidth = width;
+}
+
+void InfoPane::showRows(QStandardItemModel *rows)
+{
+    QAbstractItemModel *const formerRows = model();
+    QItemSelectionModel *const formerSelection = selectionModel();
+    setModel(rows);
+    delete formerSelection;
+    delete formerRows;
+    setColumnWidth(0, m_labelWidth != 0 ? m_labelWidth : (columnWidth(0) + columnWidth(1)) / 2);
+}

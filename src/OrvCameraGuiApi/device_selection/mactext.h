@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QString>
+
+/** The low 48 bits of \a mac as six bytes, the highest first, of two upper-case digits in base 16, joined with ":". */
+QString macText(quint64 mac);

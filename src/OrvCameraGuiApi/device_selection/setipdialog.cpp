@@ -1,0 +1,174 @@
+#include <OrvCameraGuiApi/device_selection/setipdialog.h>
+
+#include <OrvCameraGuiApi/device_selection/ip4validator.h>
+#include <OrvCameraGuiApi/device_selection/mactext.h>
+
+#include <ui_setipdialog.h>
+
+class SetIpDialogPrivate
+{
+public:
+    void showAsInactive(const QPalette &palette);
+    void makeRoom();
+    void showStatus(bool sameSubnet);
+
+    Ui_SetIpDialog ui;
+    bool addressValid = false;
+    bool maskValid = false;
+};
+
+namespace {
+
+constexpr unsigned int lowestAddress = 0x01000000;
+
+QString good()
+{
+    return QStringLiteral("color: rgb(0, 192, 0);");
+}
+
+QString bad()
+{
+    return QStringLiteral("color: rgb(255, 0, 0);");
+}
+
+unsigned int addressIn(const QLineEdit *edit)
+{
+    return IP4Validator::getIp(edit->text());
+}
+
+void write(QLineEdit *edit, unsigned int address)
+{
+    edit->setText(IP4Validator::getIpStr(address));
+}
+
+} // namespace
+
+/** Gives the fields that cannot be edited the background of disabled ones. Their text stays as it is, to be copied. */
+void SetIpDialogPrivate::showAsInactive(const QPalette &palette)
+{
+    QPalette inactive = palette;
+    inactive.setColor(QPalette::Base, palette.color(QPalette::Disabled, QPalette::Base));
+    for (QLineEdit *edit : {ui.nicMacEdit, ui.nicIpEdit, ui.nicNetmaskEdit, ui.macEdit})
+        edit->setPalette(inactive);
+}
+
+/** Lets the fields show every MAC address whole, which is the longest text that they get. */
+void SetIpDialogPrivate::makeRoom()
+{
+    for (QLineEdit *edit : {ui.nicMacEdit, ui.macEdit}) {
+        const int text = edit->fontMetrics().horizontalAdvance(QStringLiteral("DD:DD:DD:DD:DD:DD"));
+        edit->setMinimumWidth(text + edit->sizeHint().height());
+    }
+}
+
+void SetIpDialogPrivate::showStatus(bool sameSubnet)
+{
+    QString text;
+    if (!maskValid)
+        text = SetIpDialog::tr("Subnet mask mismatch!");
+    else if (addressValid)
+        text = SetIpDialog::tr("IP Configuration OK");
+    else
+        text = sameSubnet ? SetIpDialog::tr("Incorrect IP address!") : SetIpDialog::tr("Subnet IP mismatch!");
+    ui.statusLabel->setText(text);
+    ui.statusLabel->setStyleSheet(maskValid && addressValid ? good() : bad());
+}
+
+SetIpDialog::SetIpDialog(QWidget *parent)
+    : QDialog(parent)
+    , d(new SetIpDialogPrivate)
+{
+    d->ui.setupUi(this);
+    d->showAsInactive(palette());
+    d->makeRoom();
+    for (QLineEdit *edit : {d->ui.ipEdit, d->ui.netmaskEdit, d->ui.gatewayEdit})
+        edit->setValidator(new IP4Validator(edit));
+    for (QLineEdit *edit : {d->ui.ipEdit, d->ui.netmaskEdit})
+        connect(edit, &QLineEdit::textChanged, this, &SetIpDialog::checkSubnet);
+}
+
+SetIpDialog::~SetIpDialog() = default;
+
+void SetIpDialog::setNicMACAddress(unsigned long long mac)
+{
+    setMACLineEdit(d->ui.nicMacEdit, mac);
+}
+
+void SetIpDialog::setNicIPAddress(unsigned int address)
+{
+    write(d->ui.nicIpEdit, address);
+}
+
+void SetIpDialog::setNicNetmask(unsigned int mask)
+{
+    write(d->ui.nicNetmaskEdit, mask);
+}
+
+void SetIpDialog::setMACAddress(unsigned long long mac)
+{
+    setMACLineEdit(d->ui.macEdit, mac);
+}
+
+void SetIpDialog::setIPAddress(unsigned int address)
+{
+    write(d->ui.ipEdit, address);
+}
+
+void SetIpDialog::setNetmask(unsigned int mask)
+{
+    write(d->ui.netmaskEdit, mask);
+}
+
+void SetIpDialog::setGateway(unsigned int gateway)
+{
+    write(d->ui.gatewayEdit, gateway);
+}
+
+unsigned int SetIpDialog::ipAddress() const
+{
+    return addressIn(d->ui.ipEdit);
+}
+
+unsigned int SetIpDialog::Netmask() const
+{
+    return addressIn(d->ui.netmaskEdit);
+}
+
+unsigned int SetIpDialog::Gateway() const
+{
+    return addressIn(d->ui.gatewayEdit);
+}
+
+bool SetIpDialog::isAddressValid() const
+{
+    return d->addressValid;
+}
+
+bool SetIpDialog::isMaskValid() const
+{
+    return d->maskValid;
+}
+
+void SetIpDialog::setMACLineEdit(QLineEdit *edit, unsigned long long mac)
+{
+    edit->setText(macText(mac));
+}
+
+void SetIpDialog::checkSubnet(const QString &)
+{
+    const unsigned int adapter = addressIn(d->ui.nicIpEdit);
+    const unsigned int adapterMask = addressIn(d->ui.nicNetmaskEdit);
+    const bool sameSubnet = (ipAddress() & Netmask()) == (adapter & adapterMask);
+    d->addressValid = sameSubnet && ipAddress() >= lowestAddress && ipAddress() != adapter;
+    d->maskValid = Netmask() == adapterMask;
+    d->showStatus(sameSubnet);
+}
+
+void SetIpDialog::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    QLineEdit *const edit = d->ui.ipEdit;
+    edit->setFocus();
+    const int start = edit->text().lastIndexOf(QLatin1Char('.')) + 1;
+    edit->setSelection(start, edit->text().size() - start);
+}

@@ -1,0 +1,44 @@
+#include <OrvCameraGuiApi/device_selection/systempolling.h>
+
+std::chrono::milliseconds SystemPolling::period(1000);
+
+SystemPolling::SystemPolling(std::function<void()> step)
+    : m_step(std::move(step))
+{
+}
+
+SystemPolling::~SystemPolling()
+{
+    stop();
+}
+
+void SystemPolling::start()
+{
+    if (m_thread.joinable())
+        return;
+    m_isOn = true;
+    m_thread = std::thread([this, pause = period] { run(pause); });
+}
+
+void SystemPolling::stop()
+{
+    if (!m_thread.joinable())
+        return;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_isOn = false;
+    }
+    m_wake.notify_one();
+    m_thread.join();
+}
+
+void SystemPolling::run(std::chrono::milliseconds pause)
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    while (m_isOn) {
+        lock.unlock();
+        m_step();
+        lock.lock();
+        m_wake.wait_for(lock, pause, [this] { return !m_isOn; });
+    }
+}

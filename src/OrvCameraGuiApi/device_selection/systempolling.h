@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <chrono>
+#include <condition_variable>
+#include <functional>
+#include <mutex>
+#include <thread>
+
+/**
+ * A thread that does something again and again, with a pause in between. start(), stop() and the destructor are called
+ * on one thread.
+ */
+class SystemPolling
+{
+public:
+    /** \a step is called on the thread. */
+    explicit SystemPolling(std::function<void()> step);
+    /** Stops. */
+    ~SystemPolling();
+    Q_DISABLE_COPY(SystemPolling)
+
+    /** Does nothing while it is running. */
+    void start();
+
+    /** Returns when the step that is running has ended, at once during a pause. */
+    void stop();
+
+    /** The pause, for what starts afterwards; not to be set while anything runs. */
+    static std::chrono::milliseconds period;
+
+private:
+    void run(std::chrono::milliseconds pause);
+
+    const std::function<void()> m_step;
+    std::thread m_thread;
+    std::mutex m_mutex;
+    std::condition_variable m_wake;
+    bool m_isOn = false; ///< with the mutex
+};

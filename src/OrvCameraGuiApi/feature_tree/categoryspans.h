@@ -1,0 +1,13 @@
+#pragma once
+
+class QModelIndex;
+class QTreeView;
+
+/**
+ * Lets the categories among the rows \a first to \a last of \a parent, and all in them, span both columns. The rows are
+ * those of a GenParamTreeModel, directly or behind proxies; the tree has that model and knows these rows already.
+ */
+void spanCategories(QTreeView &tree, const QModelIndex &parent, int first, int last);
+
+/** The same for all rows there are. */
+void spanAllCategories(QTreeView &tree);

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QAbstractItemModel>
+
+#include <vector>
+
+/**
+ * The first of the rows \a row to \a last of \a parent that is a category, or -1. The model is a GenParamTreeModel,
+ * directly or behind proxies; the filter knows the answer without asking row by row.
+ */
+int nextCategory(const QAbstractItemModel &model, const QModelIndex &parent, int row, int last);
+
+/**
+ * Calls \a visit with every category among the rows \a first to \a last of \a parent and in these, from top to bottom,
+ * and how deep it is below \a parent, from 0 on. Not recursive: a description decides how deep categories are nested.
+ * The rows stay as they are meanwhile.
+ */
+template <typename Visit>
+void forEachCategory(const QAbstractItemModel &model, const QModelIndex &parent, int first, int last, Visit visit)
+{
+    struct Level
+    {
+        QModelIndex parent;
+        int next;
+        int last;
+    };
+    std::vector<Level> levels{{parent, first, last}};
+    while (!levels.empty()) {
+        Level &level = levels.back();
+        const int row = nextCategory(model, level.parent, level.next, level.last);
+        if (row < 0) {
+            levels.pop_back();
+            continue;
+        }
+        level.next = row + 1;
+        const QModelIndex index = model.index(row, 0, level.parent);
+        visit(index, levels.size() - 1);
+        levels.push_back({index, 0, model.rowCount(index) - 1});
+    }
+}

@@ -1,0 +1,236 @@
+#include <OrvCameraGuiApi/device_selection/devicetreemodel.h>
+
+#include <orvtest.h>
+#include <simtest.h>
+
+#include <QAbstractItemModelTester>
+
+#include <thread>
+
+using namespace SimTest;
+
+namespace {
+
+/** The default system and a model of it. */
+struct Fixture
+{
+    explicit Fixture(bool isFetched = true)
+        : system(getSystem())
+        , model(system.get(), nullptr)
+    {
+        if (isFetched)
+            fetchAll();
+    }
+
+    void fetchAll()
+    {
+        model.fetchMore({});
+        for (int row = 0; row < model.rowCount(); ++row)
+            model.fetchMore(model.index(row, 0));
+    }
+
+    /** "interface: device device; ..." by identifiers. */
+    QString ids()
+    {
+        fetchAll();
+        QStringList parts;
+        for (int row = 0; row < model.rowCount(); ++row) {
+            const QModelIndex transport = model.index(row, 0);
+            QString part = model.getItemID(transport) + QLatin1Char(':');
+            for (int below = 0; below < model.rowCount(transport); ++below)
+                part += QLatin1Char(' ') + model.getItemID(model.index(below, 0, transport));
+            parts.append(part);
+        }
+        return parts.join(QStringLiteral("; "));
+    }
+
+    const Held<OrvCam::System> system;
+    DeviceTreeModel model;
+};
+
+const QString wholeSystem =
+    QStringLiteral("ORV-ETH-0: ORV-GIGE-0001 ORV-GIGE-0002; ORV-XHCI-0: ORV-USB3-0001; ORV-CL-0:");
+
+OrvSim::InterfaceSpec interfaceSpec(const char *name, OrvSim::Text id)
+{
+    OrvSim::InterfaceSpec spec;
+    spec.name = name;
+    spec.id = std::move(id);
+    return spec;
+}
+
+OrvSim::DeviceSpec deviceSpec(const char *name, OrvSim::Text id)
+{
+    OrvSim::DeviceSpec spec = OrvSim::monochromeCamera();
+    spec.name = name;
+    spec.id = std::move(id);
+    return spec;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(std::function<void()>)
+
+class TestDeviceTreeModel : public OrvTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        TestCase::init();
+        OrvSim::reset();
+    }
+
+    void cleanupTestCase() { QCOMPARE(OrvSim::liveObjects().lists, size_t(0)); }
+
+    void showsInterfacesAndDevices()
+    {
+        Fixture fixture(false);
+        DeviceTreeModel &model = fixture.model;
+        QCOMPARE(model.rowCount(), 0);
+        QVERIFY(model.hasChildren() && model.canFetchMore({}));
+        QVERIFY(!model.getFirstIdx().isValid());
+        QCOMPARE(fixture.ids(), wholeSystem);
+        const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+
+        const QModelIndex ethernet = model.getFirstIdx();
+        const QModelIndex camera = model.index(0, 0, ethernet);
+        auto *const transport = ethernet.data(Qt::UserRole).value<OrvCam::Interface *>();
+        auto *const device = camera.data(Qt::UserRole).value<OrvCam::DeviceInfo *>();
+        QVERIFY(transport && device);
+        QCOMPARE(ethernet.data().toString(), QString::fromUtf8(transport->GetDescription()));
+        QCOMPARE(camera.data().toString(), QString::fromUtf8(device->GetDisplayName()));
+        QCOMPARE(camera.data(Qt::UserRole).typeName(), "OrvCam::DeviceInfo*");
+        QCOMPARE(ethernet.data(Qt::UserRole).typeName(), "OrvCam::Interface*");
+        QVERIFY(!camera.data(Qt::ToolTipRole).isValid());
+        QCOMPARE(camera.parent(), ethernet);
+        QCOMPARE(model.headerData(0, Qt::Horizontal).toString(), QStringLiteral("Name"));
+        QVERIFY(!model.headerData(0, Qt::Vertical).isValid() && !model.headerData(1, Qt::Horizontal).isValid());
+        QVERIFY(!model.index(0, 1, ethernet).isValid() && !model.index(2, 0, ethernet).isValid());
+        QVERIFY(!model.hasChildren(camera) && !model.canFetchMore(camera));
+
+        // An interface without a device can be expanded all the same, and asked again.
+        const QModelIndex empty = model.index(2, 0);
+        QVERIFY(model.hasChildren(empty) && model.canFetchMore(empty) && model.rowCount(empty) == 0);
+    }
+
+    void findsItemsByIdentifier()
+    {
+        OrvSim::addInterface(interfaceSpec("twin", std::string("ORV-GIGE-0002")));
+        Fixture fixture(false);
+        fixture.model.fetchMore({});
+        QVERIFY(!fixture.model.getItemIdx(QStringLiteral("ORV-GIGE-0001")).isValid()); // not fetched
+        fixture.fetchAll();
+        const QModelIndex camera = fixture.model.getItemIdx(QStringLiteral("ORV-GIGE-0001"));
+        QCOMPARE(fixture.model.getItemID(camera), QStringLiteral("ORV-GIGE-0001"));
+        QVERIFY(!fixture.model.getItemIdx(QStringLiteral("orv-gige-0001")).isValid());
+        QCOMPARE(fixture.model.getItemID({}), QString());
+        // In the order of the tree; the device stands before the interface of the same name here.
+        QVERIFY(fixture.model.getItemIdx(QStringLiteral("ORV-GIGE-0002")).parent().isValid());
+    }
+
+    void noticesChanges_data()
+    {
+        QTest::addColumn<std::function<void()>>("change");
+        QTest::addColumn<bool>("isChange");
+        QTest::addColumn<QString>("ids");
+        const auto row = [](const char *name, std::function<void()> change, bool isChange, const char *ids) {
+            QTest::newRow(name) << std::move(change) << isChange << (ids ? QString::fromLatin1(ids) : wholeSystem);
+        };
+        row(
+            "nothing", [] {}, false, nullptr);
+        row(
+            "device gone", [] { OrvSim::unplug(twoFrame); }, true,
+            "ORV-ETH-0: ORV-GIGE-0002; ORV-XHCI-0: ORV-USB3-0001; ORV-CL-0:");
+        row(
+            "device come", [] { OrvSim::addDevice("ORV-CL-0", deviceSpec("new", std::string("New"))); }, true,
+            "ORV-ETH-0: ORV-GIGE-0001 ORV-GIGE-0002; ORV-XHCI-0: ORV-USB3-0001; ORV-CL-0: New");
+        row(
+            "other order", [] { OrvSim::swapDevices(twoFrame, stray); }, true,
+            "ORV-ETH-0: ORV-GIGE-0002 ORV-GIGE-0001; ORV-XHCI-0: ORV-USB3-0001; ORV-CL-0:");
+        row(
+            "interface gone", [] { OrvSim::unplug("ORV-ETH-0"); }, true, "ORV-XHCI-0: ORV-USB3-0001; ORV-CL-0:");
+        row(
+            "access", [] { OrvSim::setAccessStatus(twoFrame, OrvCam::AccessStatusNoAccess); }, false, nullptr);
+        row(
+            "no interface", [] { OrvSim::clear(); }, true, "");
+        row(
+            "null lists", [] { OrvSim::setInterfaceLists(OrvSim::Lists::Null); }, true, "");
+        row(
+            "null device list", [] { OrvSim::setDeviceLists("ORV-ETH-0", OrvSim::Lists::Null); }, true,
+            "ORV-ETH-0:; ORV-XHCI-0: ORV-USB3-0001; ORV-CL-0:");
+    }
+
+    void noticesChanges()
+    {
+        QFETCH(std::function<void()>, change);
+        QFETCH(bool, isChange);
+        QFETCH(QString, ids);
+        Fixture fixture;
+        const QAbstractItemModelTester tester(&fixture.model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        change();
+        QCOMPARE(fixture.model.checkNew(), isChange ? 1 : 0);
+        QCOMPARE(fixture.ids(), wholeSystem); // looking changes nothing
+        if (isChange) {
+            QSignalSpy resets(&fixture.model, &QAbstractItemModel::modelReset);
+            fixture.model.updateModel();
+            QCOMPARE(resets.size(), 1);
+            QCOMPARE(fixture.ids(), ids);
+            QCOMPARE(fixture.model.checkNew(), 0);
+        }
+        OrvSim::reset();
+        fixture.model.rescan();
+        QCOMPARE(fixture.ids(), wholeSystem);
+    }
+
+    /** Interfaces of one identifier share their devices; identifiers may be missing altogether. */
+    void bearsDoubleAndMissingIdentifiers()
+    {
+        OrvSim::clear();
+        for (const char *name : {"one", "two"}) {
+            OrvSim::addInterface(interfaceSpec(name, std::string("Same")));
+            OrvSim::addDevice(
+                name,
+                deviceSpec(qPrintable(QLatin1String(name) + QLatin1String("-camera")), std::string("Camera ") + name));
+        }
+        OrvSim::addInterface(interfaceSpec("three", std::nullopt));
+        OrvSim::addDevice("three", deviceSpec("three-camera", std::nullopt));
+        Fixture fixture;
+        QCOMPARE(fixture.ids(), QStringLiteral("Same: Camera one Camera two; Same: Camera one Camera two; : "));
+        QCOMPARE(fixture.model.checkNew(), 0);
+    }
+
+    void hasNothingWithoutASystem()
+    {
+        DeviceTreeModel model(nullptr, nullptr);
+        model.fetchMore({});
+        QCOMPARE(model.rowCount(), 0);
+        QCOMPARE(model.checkNew(), 0);
+        model.rescan();
+        QVERIFY(!model.getFirstIdx().isValid() && !model.getItemIdx(QString()).isValid());
+    }
+
+    /** A stalled enumeration keeps nobody from using the model. */
+    void isUsedWhileAThreadLooks()
+    {
+        Fixture fixture;
+        std::thread looking([&] {
+            for (int i = 0; i < 50; ++i)
+                fixture.model.checkNew();
+        });
+        for (int i = 0; i < 50; ++i) {
+            OrvSim::unplug(twoFrame);
+            fixture.model.updateModel();
+            fixture.ids();
+            OrvSim::replug(twoFrame);
+        }
+        looking.join();
+        fixture.model.checkNew();
+        fixture.model.updateModel();
+        QCOMPARE(fixture.ids(), wholeSystem);
+    }
+};
+
+ORV_TEST_MAIN(TestDeviceTreeModel)
+#include "tst_devicetreemodel.moc"

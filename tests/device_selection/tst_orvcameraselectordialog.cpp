@@ -1,0 +1,564 @@
+#include <OrvCameraGuiApi/device_selection/devicetreemodel.h>
+#include <OrvCameraGuiApi/device_selection/orvcameraselectordialog.h>
+#include <OrvCameraGuiApi/device_selection/setipdialog.h>
+#include <OrvCameraGuiApi/device_selection/systempolling.h>
+
+#include <orvtest.h>
+#include <simtest.h>
+
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTreeView>
+
+#include <memory>
+#include <thread>
+
+using namespace SimTest;
+
+namespace {
+
+constexpr auto shortPeriod = std::chrono::milliseconds(5);
+
+/** The dialog on the simulated system, shown, and what a person finds in it. */
+struct Shown
+{
+    explicit Shown(bool poll = false)
+        : system(getSystem())
+        , dialog(std::make_unique<OrvGui::OrvCameraSelectorDialog>(system.get(), nullptr, poll))
+    {
+        dialog->show();
+    }
+
+    template <typename Part>
+    Part *part(const char *name) const
+    {
+        return dialog->findChild<Part *>(QLatin1String(name));
+    }
+
+    QTreeView *tree() const { return part<QTreeView>("deviceTreeView"); }
+    DeviceTreeModel *model() const { return static_cast<DeviceTreeModel *>(tree()->model()); }
+    QPushButton *ok() const { return dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok); }
+    QPushButton *rescan() const { return part<QPushButton>("rescanButton"); }
+    QPushButton *setIp() const { return part<QPushButton>("setIpButton"); }
+
+    QPoint pointOf(const char *id) const { return tree()->visualRect(model()->getItemIdx(QLatin1String(id))).center(); }
+
+    void click(const char *id) const
+    {
+        QTest::mouseClick(tree()->viewport(), Qt::LeftButton, Qt::NoModifier, pointOf(id));
+    }
+
+    void doubleClick(const char *id) const
+    {
+        click(id);
+        QTest::mouseDClick(tree()->viewport(), Qt::LeftButton, Qt::NoModifier, pointOf(id));
+    }
+
+    QString currentId() const { return model()->getItemID(tree()->currentIndex()); }
+
+    /** "label=value" of each row. */
+    QStringList pane(const char *name) const
+    {
+        QStringList rows;
+        const QAbstractItemModel *const model = part<QTreeView>(name)->model();
+        for (int row = 0; model && row < model->rowCount(); ++row)
+            rows.append(model->index(row, 0).data().toString() + QLatin1Char('=')
+                        + model->index(row, 1).data().toString());
+        return rows;
+    }
+
+    QStringList devicePane() const { return pane("deviceInfoView"); }
+    QStringList interfacePane() const { return pane("interfaceInfoView"); }
+
+    const Held<OrvCam::System> system;
+    std::unique_ptr<OrvGui::OrvCameraSelectorDialog> dialog;
+};
+
+/** Does something with the window of that kind that comes up next, in whatever event loop. */
+template <typename Window>
+void whenModal(std::function<void(Window &)> act)
+{
+    auto *const timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, act = std::move(act)] {
+        auto *const window = qobject_cast<Window *>(QApplication::activeModalWidget());
+        if (!window || !window->isVisible())
+            return;
+        timer->stop();
+        timer->deleteLater();
+        act(*window);
+    });
+    timer->start(0);
+}
+
+QLineEdit *edit(SetIpDialog &dialog, const char *name)
+{
+    return dialog.findChild<QLineEdit *>(QLatin1String(name));
+}
+
+void press(QMessageBox &box, QMessageBox::StandardButton button)
+{
+    QTest::mouseClick(box.button(button), Qt::LeftButton);
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(std::function<void()>)
+
+class TestOrvCameraSelectorDialog : public OrvTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        TestCase::init();
+        OrvSim::reset();
+        SystemPolling::period = std::chrono::milliseconds(1000);
+    }
+
+    void looksOnceASecond() { QCOMPARE(SystemPolling::period.count(), 1000); }
+
+    void picksADevice()
+    {
+        Shown shown;
+        QCOMPARE(shown.dialog->windowTitle(), QStringLiteral("Select camera"));
+        QVERIFY(!shown.dialog->selectedCamera() && !shown.ok()->isEnabled() && !shown.setIp()->isEnabled());
+        shown.click("ORV-ETH-0");
+        QVERIFY(!shown.dialog->selectedCamera() && !shown.ok()->isEnabled() && !shown.setIp()->isEnabled());
+        shown.click(monochrome);
+        QVERIFY(shown.ok()->isEnabled() && !shown.setIp()->isEnabled());
+        shown.click(twoFrame);
+        QVERIFY(shown.ok()->isEnabled() && shown.setIp()->isEnabled());
+        OrvCam::DeviceInfo *const camera = findDevice(*shown.system, twoFrame);
+        QCOMPARE(shown.dialog->selectedCamera(), camera);
+        shown.dialog->setSelectedCamera(findDevice(*shown.system, stray));
+        QCOMPARE(shown.dialog->selectedCamera(), camera);
+        QTest::mouseClick(shown.ok(), Qt::LeftButton);
+        QCOMPARE(shown.dialog->result(), int(QDialog::Accepted));
+        QCOMPARE(shown.dialog->selectedCamera(), camera);
+    }
+
+    void refusesWhatCannotBeOpened_data()
+    {
+        QTest::addColumn<int>("status");
+        QTest::addColumn<bool>("isAccepted");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("read-write") << 1 << true << QStringLiteral("ReadWrite");
+        QTest::newRow("read-only") << 2 << true << QStringLiteral("ReadOnly");
+        QTest::newRow("no access") << 3 << false << QStringLiteral("NO ACCESS");
+        QTest::newRow("subnet") << 1001 << false << QStringLiteral("IP Subnet Mismatch");
+        QTest::newRow("any other") << 77 << true << QStringLiteral("Unknown");
+    }
+
+    void refusesWhatCannotBeOpened()
+    {
+        QFETCH(int, status);
+        QFETCH(bool, isAccepted);
+        QFETCH(QString, text);
+        OrvSim::setAccessStatus(monochrome, status);
+        Shown shown;
+        shown.doubleClick(monochrome);
+        QVERIFY(shown.devicePane().contains(QStringLiteral("Access status=") + text));
+        QCOMPARE(shown.dialog->result() == QDialog::Accepted, isAccepted);
+        QCOMPARE(shown.dialog->isVisible(), !isAccepted);
+        QTest::keyClick(shown.tree(), Qt::Key_Return);
+        QCOMPARE(shown.dialog->isVisible(), !isAccepted);
+    }
+
+    void showsWhatThereIsToKnow()
+    {
+        Shown shown;
+        shown.click(twoFrame);
+        const QStringList device = shown.devicePane();
+        const QStringList labels =
+            QStringLiteral("Display name,Vendor,Model,Serial number,Version,User name,Access status,MAC Address,"
+                           "IP Address,Netmask,Gateway")
+                .split(QLatin1Char(','));
+        QCOMPARE(device.size(), labels.size());
+        for (int i = 0; i < labels.size(); ++i)
+            QVERIFY2(device[i].startsWith(labels[i] + QLatin1Char('=')), qPrintable(device[i]));
+        OrvCam::DeviceInfo *const camera = findDevice(*shown.system, twoFrame);
+        QVERIFY(device.contains(QStringLiteral("IP Address=") + QString::fromUtf8(camera->GetIPAddress(nullptr))));
+        const QRegularExpression mac(QStringLiteral("^MAC Address=([0-9A-F]{2}:){5}[0-9A-F]{2}$"));
+        QVERIFY2(mac.match(device[7]).hasMatch(), qPrintable(device[7]));
+        QCOMPARE(shown.interfacePane().size(), 6);
+        QVERIFY(shown.interfacePane().contains(QStringLiteral("Type=GigE Vision")));
+        // The selector of the interface was set to the device's row.
+        shown.click(stray);
+        QVERIFY(shown.devicePane()[7] != device[7]);
+
+        shown.click(monochrome);
+        const int usb = shown.devicePane().indexOf(QRegularExpression(QStringLiteral("^USB Version=0x0[12]..$")));
+        QCOMPARE(usb, 6);
+        QCOMPARE(
+            shown.part<QTreeView>("deviceInfoView")->model()->index(usb, 1).data(Qt::ForegroundRole).value<QBrush>(),
+            QBrush(Qt::red));
+        QCOMPARE(shown.devicePane().size(), 8);
+        QCOMPARE(shown.interfacePane().size(), 3);
+        shown.click("ORV-CL-0");
+        QVERIFY(shown.interfacePane().contains(QStringLiteral("Type=CameraLink")));
+    }
+
+    /** A feature that cannot be read leaves out its row; a device without texts has empty ones. */
+    void leavesOutWhatCannotBeRead()
+    {
+        OrvSim::setFault("ORV-ETH-0", "GevDeviceMACAddress", OrvSim::Fault::FailRead);
+        OrvSim::DeviceSpec nameless = OrvSim::monochromeCamera();
+        nameless.name = "nameless";
+        nameless.id = "nameless";
+        for (OrvSim::Text *text : {&nameless.vendor, &nameless.model, &nameless.displayName, &nameless.userDefinedName,
+                                   &nameless.serialNumber, &nameless.version})
+            text->reset();
+        OrvSim::addDevice("ORV-CL-0", nameless);
+        OrvSim::setParameters("ORV-CL-0", OrvSim::Parameters::Null);
+        Shown shown;
+        shown.click(twoFrame);
+        QVERIFY(shown.devicePane().filter(QStringLiteral("MAC Address")).isEmpty());
+        QCOMPARE(shown.devicePane().size(), 10);
+        shown.click("nameless");
+        QCOMPARE(shown.devicePane().size(), 7);
+        QCOMPARE(shown.devicePane().constFirst(), QStringLiteral("Display name="));
+        QVERIFY(shown.ok()->isEnabled());
+    }
+
+    void keepsColumnWidths()
+    {
+        Shown shown;
+        shown.click(twoFrame);
+        auto *const view = shown.part<QTreeView>("deviceInfoView");
+        QCOMPARE(view->columnWidth(0), (view->columnWidth(0) + view->columnWidth(1)) / 2);
+        view->setColumnWidth(0, 77);
+        shown.click(monochrome);
+        QCOMPARE(view->columnWidth(0), 77);
+        shown.click("ORV-CL-0");
+        shown.click(stray);
+        QCOMPARE(view->columnWidth(0), 77);
+    }
+
+    void opensAMenuOnGigEDevicesOnly()
+    {
+        Shown shown;
+        auto *const menu = shown.dialog->findChild<QMenu *>();
+        QCOMPARE(menu->actions().size(), 1);
+        QCOMPARE(menu->actions().constFirst()->text(), QStringLiteral("Set IP Address"));
+        for (const char *id : {twoFrame, stray, monochrome, "ORV-ETH-0", "ORV-CL-0"}) {
+            const QPoint point = shown.pointOf(id);
+            const bool isOnGigE = id == twoFrame || id == stray;
+            if (isOnGigE)
+                expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
+            QContextMenuEvent event(QContextMenuEvent::Mouse, point, shown.tree()->viewport()->mapToGlobal(point));
+            QCoreApplication::sendEvent(shown.tree()->viewport(), &event);
+            QCOMPARE(menu->isVisible(), isOnGigE);
+            menu->close();
+        }
+    }
+
+    void rescansWhenAsked()
+    {
+        Shown shown;
+        QVERIFY(shown.rescan()->isEnabled() && !shown.dialog->isPollChecked());
+        shown.click(twoFrame);
+        OrvSim::unplug(monochrome);
+        QVERIFY(shown.model()->getItemIdx(QLatin1String(monochrome)).isValid());
+        QTest::mouseClick(shown.rescan(), Qt::LeftButton);
+        QVERIFY(!shown.model()->getItemIdx(QLatin1String(monochrome)).isValid());
+        QVERIFY(shown.model()->getItemIdx(QLatin1String(twoFrame)).isValid()); // expanded
+        QVERIFY(!shown.dialog->selectedCamera() && !shown.ok()->isEnabled() && !shown.setIp()->isEnabled());
+    }
+
+    void followsTheSystemWhilePolling()
+    {
+        SystemPolling::period = shortPeriod;
+        Shown shown(true);
+        QVERIFY(shown.dialog->isPollChecked() && !shown.rescan()->isEnabled());
+        shown.click(twoFrame);
+        OrvSim::unplug(monochrome);
+        QTRY_VERIFY(!shown.model()->getItemIdx(QLatin1String(monochrome)).isValid());
+        QCOMPARE(shown.currentId(), QLatin1String(twoFrame));
+        QVERIFY(shown.ok()->isEnabled() && shown.setIp()->isEnabled());
+        OrvSim::unplug(twoFrame);
+        QTRY_COMPARE(shown.currentId(), QStringLiteral("ORV-ETH-0"));
+        QVERIFY(!shown.ok()->isEnabled() && !shown.setIp()->isEnabled());
+        OrvSim::setInterfaceLists(OrvSim::Lists::Null);
+        QTRY_COMPARE(shown.model()->rowCount(), 0);
+        QVERIFY(!shown.ok()->isEnabled() && !shown.dialog->selectedCamera());
+        OrvSim::setInterfaceLists(OrvSim::Lists::Normal);
+        QTRY_COMPARE(shown.currentId(), QStringLiteral("ORV-ETH-0"));
+    }
+
+    /** Whatever the pause is: switching off and closing do not wait for its end. */
+    void polls()
+    {
+        SystemPolling::period = std::chrono::hours(1);
+        Shown shown;
+        auto *const check = shown.part<QCheckBox>("pollingCheckBox");
+        for (int i = 0; i < 3; ++i) {
+            QTest::mouseClick(check, Qt::LeftButton, Qt::NoModifier, QPoint(5, check->height() / 2));
+            QVERIFY(check->isChecked() && !shown.rescan()->isEnabled());
+            QTest::mouseClick(check, Qt::LeftButton, Qt::NoModifier, QPoint(5, check->height() / 2));
+            QVERIFY(!check->isChecked() && shown.rescan()->isEnabled());
+        }
+        QTest::mouseClick(check, Qt::LeftButton, Qt::NoModifier, QPoint(5, check->height() / 2));
+    }
+
+    void adoptsTwoChangesAtOnce()
+    {
+        SystemPolling::period = shortPeriod;
+        Shown shown(true);
+        QSignalSpy resets(shown.model(), &QAbstractItemModel::modelReset);
+        OrvSim::stall(OrvSim::Call::ReEnumerateDevices);
+        QVERIFY(OrvSim::waitUntilStalled(OrvSim::Call::ReEnumerateDevices, 5s));
+        OrvSim::unplug(monochrome);
+        OrvSim::unplug(stray);
+        OrvSim::release(OrvSim::Call::ReEnumerateDevices);
+        // The thread tells of it several times before this one looks.
+        std::this_thread::sleep_for(20 * shortPeriod);
+        QTRY_COMPARE(resets.size(), 1);
+        for (int i = 0; i < 10; ++i)
+            QCoreApplication::processEvents();
+        QVERIFY(resets.size() <= 2); // one more when a step was under way meanwhile
+        QVERIFY(!shown.model()->getItemIdx(QLatin1String(stray)).isValid());
+    }
+
+    void staysResponsiveWhileASearchHangs()
+    {
+        SystemPolling::period = shortPeriod;
+        Shown shown(true);
+        OrvSim::stall(OrvSim::Call::ReEnumerateDevices);
+        QVERIFY(OrvSim::waitUntilStalled(OrvSim::Call::ReEnumerateDevices, 5s));
+        qint64 longest = 0;
+        QElapsedTimer sinceLast;
+        sinceLast.start();
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, &timer, [&] { longest = qMax(longest, sinceLast.restart()); });
+        timer.start(10);
+        const char *const ids[] = {twoFrame, monochrome, "ORV-ETH-0", stray};
+        QElapsedTimer stalled;
+        stalled.start();
+        for (int i = 0; stalled.elapsed() < 3000; ++i) {
+            shown.click(ids[i % 4]);
+            QTest::qWait(20);
+        }
+        longest = qMax(longest, sinceLast.elapsed());
+        QVERIFY2(longest < 500, qPrintable(QString::number(longest)));
+        // Closing waits for the search.
+        std::thread releasing([] { OrvSim::release(OrvSim::Call::ReEnumerateDevices); });
+        shown.dialog.reset();
+        releasing.join();
+    }
+
+    void livesThroughMuchPlugging()
+    {
+        SystemPolling::period = shortPeriod;
+        Shown shown(true);
+        std::atomic<bool> isOver{false};
+        std::thread plugging([&] {
+            for (int i = 0; i < 200; ++i) {
+                OrvSim::unplug(twoFrame);
+                std::this_thread::sleep_for(1ms);
+                OrvSim::replug(twoFrame);
+                std::this_thread::sleep_for(1ms);
+            }
+            isOver = true;
+        });
+        while (!isOver) {
+            shown.click(twoFrame);
+            shown.click(monochrome);
+            QCoreApplication::processEvents();
+        }
+        plugging.join();
+        QTRY_VERIFY(shown.model()->getItemIdx(QLatin1String(twoFrame)).isValid());
+    }
+
+    void setsAnAddress()
+    {
+        Shown shown;
+        shown.click(stray);
+        QVERIFY(!shown.ok()->isEnabled());
+        QString proposed;
+        whenModal<SetIpDialog>([&](SetIpDialog &dialog) {
+            proposed = edit(dialog, "ipEdit")->text();
+            QCOMPARE(edit(dialog, "ipEdit")->selectedText(), proposed.section(QLatin1Char('.'), -1));
+            QCOMPARE(edit(dialog, "nicNetmaskEdit")->text(), edit(dialog, "netmaskEdit")->text());
+            QVERIFY(edit(dialog, "nicMacEdit")->text() != edit(dialog, "macEdit")->text());
+            QTest::keyClicks(edit(dialog, "ipEdit"), QStringLiteral("77"));
+            QTest::keyClick(&dialog, Qt::Key_Return);
+        });
+        QTest::mouseClick(shown.setIp(), Qt::LeftButton);
+        QVERIFY(!proposed.isEmpty());
+        const QString expected = proposed.section(QLatin1Char('.'), 0, 2) + QStringLiteral(".77");
+        QVERIFY(shown.devicePane().contains(QStringLiteral("IP Address=") + expected));
+        QVERIFY(shown.devicePane().contains(QStringLiteral("Access status=ReadWrite")));
+        QVERIFY(shown.ok()->isEnabled());
+    }
+
+    void proposesANeighbour_data()
+    {
+        QTest::addColumn<uint>("adapter");
+        QTest::addColumn<QString>("proposed");
+        QTest::newRow("below") << 0xC0A80A0AU << QStringLiteral("192.168.10.11");
+        QTest::newRow("128") << 0xC0A80A80U << QStringLiteral("192.168.10.129");
+        QTest::newRow("200") << 0xC0A80AC8U << QStringLiteral("192.168.10.199");
+    }
+
+    void proposesANeighbour()
+    {
+        QFETCH(uint, adapter);
+        QFETCH(QString, proposed);
+        OrvSim::InterfaceSpec ethernet;
+        ethernet.name = "eth";
+        ethernet.id = "eth";
+        ethernet.network = {adapter, 0xFFFFFF00, 0};
+        OrvSim::addInterface(ethernet);
+        OrvSim::DeviceSpec camera = OrvSim::monochromeCamera();
+        camera.name = "camera";
+        camera.id = "camera";
+        OrvSim::addDevice("eth", camera);
+        Shown shown;
+        shown.click("camera");
+        QString seen;
+        whenModal<SetIpDialog>([&](SetIpDialog &dialog) {
+            seen = edit(dialog, "ipEdit")->text();
+            dialog.reject();
+        });
+        QTest::mouseClick(shown.setIp(), Qt::LeftButton);
+        QCOMPARE(seen, proposed);
+        QVERIFY(!QApplication::activeModalWidget()); // cancelled: no message
+    }
+
+    void warnsOfAWrongAddress_data()
+    {
+        QTest::addColumn<bool>("isIgnored");
+        QTest::newRow("ok") << false;
+        QTest::newRow("ignore") << true;
+    }
+
+    void warnsOfAWrongAddress()
+    {
+        QFETCH(bool, isIgnored);
+        Shown shown;
+        shown.click(twoFrame);
+        const QStringList before = shown.devicePane();
+        whenModal<SetIpDialog>([&](SetIpDialog &dialog) {
+            edit(dialog, "ipEdit")->setText(QStringLiteral("10.1.2.3"));
+            whenModal<QMessageBox>([&](QMessageBox &box) {
+                QCOMPARE(box.windowTitle(), QStringLiteral("IP Configuration Warning"));
+                QCOMPARE(box.text(),
+                         QStringLiteral("Specified IP Configuraion is not correct, camera may become undiscoverable\n"
+                                        "Press OK to skip the IP Configuration, or press Ignore to confirm"));
+                QCOMPARE(box.icon(), QMessageBox::Critical);
+                press(box, isIgnored ? QMessageBox::Ignore : QMessageBox::Ok);
+            });
+            dialog.accept();
+        });
+        QTest::mouseClick(shown.setIp(), Qt::LeftButton);
+        QCOMPARE(shown.devicePane().contains(QStringLiteral("IP Address=10.1.2.3")), isIgnored);
+        QCOMPARE(shown.devicePane() == before, !isIgnored);
+        QCOMPARE(shown.ok()->isEnabled(), !isIgnored);
+    }
+
+    void tellsOfFailures_data()
+    {
+        QTest::addColumn<std::function<void()>>("fault");
+        QTest::addColumn<bool>("isAsked");
+        const auto failRead = [](const char *node) {
+            return [node] { OrvSim::setFault("ORV-ETH-0", node, OrvSim::Fault::FailRead); };
+        };
+        QTest::newRow("parameters") << std::function<void()>([] {
+            OrvSim::setParameters("ORV-ETH-0", OrvSim::Parameters::Error);
+        }) << false;
+        QTest::newRow("no parameters") << std::function<void()>([] {
+            OrvSim::setParameters("ORV-ETH-0", OrvSim::Parameters::Null);
+        }) << false;
+        QTest::newRow("selector") << std::function<void()>([] {
+            OrvSim::setFault("ORV-ETH-0", "DeviceSelector", OrvSim::Fault::FailWrite);
+        }) << false;
+        for (const char *node : {"GevInterfaceMACAddress", "GevInterfaceSubnetIPAddress", "GevInterfaceSubnetMask",
+                                 "GevDeviceMACAddress", "GevDeviceForceGateway"})
+            QTest::newRow(node) << std::function<void()>(failRead(node)) << false;
+        QTest::newRow("refused") << std::function<void()>([] {
+            OrvSim::refuseForceIp(twoFrame, OrvCamErr_GenICamTreeError);
+        }) << true;
+        QTest::newRow("device gone") << std::function<void()>() << true;
+    }
+
+    void tellsOfFailures()
+    {
+        QFETCH(std::function<void()>, fault);
+        QFETCH(bool, isAsked);
+        SystemPolling::period = shortPeriod;
+        if (fault)
+            fault(); // before the panes read, and the node map keeps, what is to be read
+        Shown shown(true);
+        shown.click(twoFrame);
+        bool wasAsked = false;
+        whenModal<QDialog>([&](QDialog &window) {
+            auto *const dialog = qobject_cast<SetIpDialog *>(&window);
+            wasAsked = dialog;
+            if (!dialog)
+                return;
+            if (!fault) {
+                OrvSim::unplug(twoFrame);
+                QTRY_VERIFY(!shown.model()->getItemIdx(QLatin1String(twoFrame)).isValid());
+            }
+            dialog->accept();
+        });
+        QTest::mouseClick(shown.setIp(), Qt::LeftButton);
+        QTRY_VERIFY(qobject_cast<QMessageBox *>(QApplication::activeModalWidget()));
+        auto &box = *static_cast<QMessageBox *>(QApplication::activeModalWidget());
+        QCOMPARE(box.windowTitle(), QStringLiteral("Set IP Address"));
+        QCOMPARE(box.text(), QStringLiteral("Can't set IP address"));
+        QCOMPARE(box.icon(), QMessageBox::Critical);
+        press(box, QMessageBox::Ok);
+        QCOMPARE(wasAsked, isAsked);
+    }
+
+    /** While it asks for an address, or shows a message, the dialog may be destroyed. */
+    void endsWhileItAsks_data()
+    {
+        QTest::addColumn<bool>("inMessage");
+        QTest::newRow("address") << false;
+        QTest::newRow("warning") << true;
+    }
+
+    void endsWhileItAsks()
+    {
+        QFETCH(bool, inMessage);
+        Shown shown;
+        shown.click(twoFrame);
+        bool wasDestroyed = false;
+        whenModal<SetIpDialog>([&](SetIpDialog &dialog) {
+            if (!inMessage) {
+                shown.dialog.reset();
+                wasDestroyed = true;
+                return;
+            }
+            edit(dialog, "ipEdit")->setText(QStringLiteral("10.1.2.3"));
+            whenModal<QMessageBox>([&](QMessageBox &) {
+                shown.dialog.reset();
+                wasDestroyed = true;
+            });
+            dialog.accept();
+        });
+        // Not by a click, whose sender would be destroyed under the test.
+        QMetaObject::invokeMethod(
+            shown.dialog.get(), [&] { shown.setIp()->click(); }, Qt::QueuedConnection);
+        QTRY_VERIFY(wasDestroyed);
+    }
+
+    void hasNoCamerasWithoutASystem()
+    {
+        OrvGui::OrvCameraSelectorDialog dialog(nullptr, nullptr, true);
+        dialog.show();
+        QVERIFY(!dialog.selectedCamera());
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        QCOMPARE(dialog.result(), int(QDialog::Rejected));
+    }
+};
+
+ORV_TEST_MAIN(TestOrvCameraSelectorDialog)
+#include "tst_orvcameraselectordialog.moc"

@@ -1,0 +1,227 @@
+#include "foreignwindow.h"
+#include "orvtest.h"
+#include "simtest.h"
+#include "whenopen.h"
+
+#include <OrvCameraGuiApi/device_selection/orvcameraselectordialog.h>
+#include <OrvCameraGuiApi/device_selection/selectcamera.h>
+
+#include <QDialogButtonBox>
+#include <QPushButton>
+#include <QTreeView>
+
+#include <functional>
+#include <memory>
+
+using OrvGui::OrvCameraSelectorDialog;
+
+namespace {
+
+void whenOpen(const std::function<void(OrvCameraSelectorDialog &)> &action)
+{
+    OrvTest::whenOpen(action);
+}
+
+void cancel(OrvCameraSelectorDialog &dialog)
+{
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+}
+
+/** Clicks the row with that text, which is shown, and then the OK button. */
+void choose(OrvCameraSelectorDialog &dialog, const QString &text)
+{
+    auto *const tree = dialog.findChild<QTreeView *>(QStringLiteral("deviceTreeView"));
+    const QModelIndex index =
+        tree->model()
+            ->match(tree->model()->index(0, 0), Qt::DisplayRole, text, 1, Qt::MatchExactly | Qt::MatchRecursive)
+            .value(0);
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier, tree->visualRect(index).center());
+    QTest::mouseClick(dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok), Qt::LeftButton);
+}
+
+} // namespace
+
+class TestSelectCamera : public OrvTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void makesTheApplicationItNeeds();
+    void answersTheChosenCamera();
+    void answersNullWhenCancelled_data();
+    void answersNullWhenCancelled();
+    void pollsWhenItIsTold();
+    void standsInFrontOfAForeignWindow();
+    void doesWithoutAWindow_data();
+    void doesWithoutAWindow();
+    void belongsToAWidget();
+    void goesWithItsParent();
+
+private:
+    SimTest::Held<OrvCam::System> m_system;
+};
+
+void TestSelectCamera::init()
+{
+    TestCase::init();
+    OrvSim::reset();
+    m_system = SimTest::getSystem();
+}
+
+void TestSelectCamera::cleanup()
+{
+    m_system.reset();
+    QCOMPARE(OrvSim::liveObjects().lists, std::size_t(0));
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+    TestCase::cleanup();
+}
+
+void TestSelectCamera::makesTheApplicationItNeeds()
+{
+    QVERIFY(qobject_cast<QApplication *>(QCoreApplication::instance()));
+    QVERIFY(QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps));
+}
+
+void TestSelectCamera::answersTheChosenCamera()
+{
+    const auto chooseFirst = [](OrvCameraSelectorDialog &dialog) {
+        choose(dialog, QStringLiteral("TF-2000C (SN0001)"));
+    };
+    const std::function<OrvCam::DeviceInfo *()> calls[] = {
+        [this] { return OrvGui::SelectCamera(m_system.get(), QStringLiteral("Camera"), 0, false); },
+        [this] { return SelectCameraA(m_system.get(), "Camera", 0, true); },
+        [this] { return SelectCameraW(m_system.get(), L"Camera", 0, false); },
+    };
+    for (const auto &call : calls) {
+        whenOpen(chooseFirst);
+        OrvCam::DeviceInfo *const camera = call();
+        QVERIFY(camera);
+        QCOMPARE(camera->GetID(), "ORV-GIGE-0001");
+    }
+}
+
+void TestSelectCamera::answersNullWhenCancelled_data()
+{
+    QTest::addColumn<bool>("wide");
+    QTest::addColumn<bool>("hasTitle");
+    QTest::addColumn<bool>("hasSystem");
+    QTest::newRow("narrow") << false << true << true;
+    QTest::newRow("wide") << true << true << true;
+    QTest::newRow("narrow, no title") << false << false << true;
+    QTest::newRow("wide, no title, no system") << true << false << false;
+}
+
+void TestSelectCamera::answersNullWhenCancelled()
+{
+    QFETCH(bool, wide);
+    QFETCH(bool, hasTitle);
+    QFETCH(bool, hasSystem);
+    QString title;
+    whenOpen([&](OrvCameraSelectorDialog &dialog) {
+        title = dialog.windowTitle();
+        QVERIFY(dialog.isModal() && !dialog.parent());
+        QCOMPARE(dialog.findChild<QTreeView *>(QStringLiteral("deviceTreeView"))->model()->rowCount() > 0, hasSystem);
+        // A camera is current, but the button is not clicked.
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Down);
+        cancel(dialog);
+    });
+    OrvCam::System *const system = hasSystem ? m_system.get() : nullptr;
+    QVERIFY(!(wide ? SelectCameraW(system, hasTitle ? L"\u00b5 \U0001F4F7" : nullptr, 0, false)
+                   : SelectCameraA(system, hasTitle ? "\xc2\xb5 \xf0\x9f\x93\xb7" : nullptr, 0, true)));
+    QCOMPARE(title, hasTitle ? QStringLiteral("µ 📷") : QString());
+}
+
+void TestSelectCamera::pollsWhenItIsTold()
+{
+    for (const bool poll : {false, true}) {
+        whenOpen([poll](OrvCameraSelectorDialog &dialog) {
+            QCOMPARE(dialog.isPollChecked(), poll);
+            cancel(dialog);
+        });
+        QVERIFY(!SelectCameraA(m_system.get(), "Camera", 0, poll));
+    }
+}
+
+void TestSelectCamera::standsInFrontOfAForeignWindow()
+{
+    OrvTest::ForeignWindow foreign;
+    const QString before = foreign.state();
+    QCOMPARE(before, QStringLiteral("1 7 9 300 200 2"));
+    whenOpen([&](OrvCameraSelectorDialog &dialog) {
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QCOMPARE(foreign.state(), before);
+        QCOMPARE(foreign.transientForOf(dialog.winId()), foreign.id());
+        cancel(dialog);
+    });
+    QVERIFY(!SelectCameraA(m_system.get(), "Camera", foreign.id(), false));
+    QCoreApplication::processEvents();
+    QCOMPARE(foreign.state(), before);
+
+    whenOpen([&](OrvCameraSelectorDialog &dialog) {
+        foreign.close();
+        QTRY_COMPARE(foreign.state(), QString());
+        choose(dialog, QStringLiteral("TF-2000C (SN0001)"));
+    });
+    QVERIFY(SelectCameraA(m_system.get(), "Camera", foreign.id(), true));
+}
+
+void TestSelectCamera::doesWithoutAWindow_data()
+{
+    QTest::addColumn<unsigned long>("id");
+    QTest::newRow("small") << 1UL;
+    QTest::newRow("nobody's") << 0x1ff00001UL;
+    QTest::newRow("more than a window can have") << ~0UL;
+}
+
+void TestSelectCamera::doesWithoutAWindow()
+{
+    QFETCH(unsigned long, id);
+    whenOpen([](OrvCameraSelectorDialog &dialog) { choose(dialog, QStringLiteral("TF-2000C (SN0001)")); });
+    QVERIFY(SelectCameraA(m_system.get(), "Camera", id, false));
+}
+
+void TestSelectCamera::belongsToAWidget()
+{
+    QWidget parent;
+    QWidget *const child = new QWidget(&parent);
+    whenOpen([&](OrvCameraSelectorDialog &dialog) {
+        QCOMPARE(dialog.parentWidget(), child);
+        QVERIFY(dialog.isWindow());
+        cancel(dialog);
+    });
+    QVERIFY(!SelectCameraA(m_system.get(), "Camera", child->winId(), false));
+    QVERIFY(child->children().isEmpty());
+    parent.hide();
+}
+
+void TestSelectCamera::goesWithItsParent()
+{
+    auto parent = std::make_unique<QWidget>();
+    whenOpen([&parent](OrvCameraSelectorDialog &) { parent.reset(); });
+    QVERIFY(!SelectCameraA(m_system.get(), "Camera", parent->winId(), true));
+    QVERIFY(!parent);
+}
+
+int main(int argc, char **argv)
+{
+    {
+        const QCoreApplication withoutWidgets(argc, argv);
+        if (SelectCameraA(nullptr, "", 0, false))
+            qFatal("a dialog without widgets");
+    }
+    int opened = 0;
+    for (int i = 0; i < 2; ++i) {
+        whenOpen([&opened](OrvCameraSelectorDialog &dialog) {
+            ++opened;
+            cancel(dialog);
+        });
+        SelectCameraA(nullptr, nullptr, 0, false);
+    }
+    if (opened != 2)
+        qFatal("no dialog without an application");
+    TestSelectCamera test;
+    return OrvTest::runTests(&test, argc, argv);
+}
+#include "tst_selectcamera.moc"

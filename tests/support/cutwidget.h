@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QWidget>
+
+/** A label, button or combo box that is seen with less than the size it asks for; empty when there is none. */
+inline QString cutWidget(const QWidget &window)
+{
+    const auto widgets = window.findChildren<QWidget *>();
+    for (const QWidget *const widget : widgets) {
+        const bool hasText =
+            widget->inherits("QLabel") || widget->inherits("QAbstractButton") || widget->inherits("QComboBox");
+        const QSize hint = widget->sizeHint();
+        if (hasText && widget->isVisible() && (widget->width() < hint.width() || widget->height() < hint.height()))
+            return widget->objectName();
+    }
+    return {};
+}

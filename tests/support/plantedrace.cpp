@@ -1,0 +1,24 @@
+// Two threads and a number without anything between them: what the thread sanitizer has to find, whatever it is kept
+// from looking at elsewhere.
+
+#include <QApplication>
+#include <QTimer>
+
+#include <thread>
+
+int main(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    int number = 0;
+    std::thread other([&number] {
+        for (int i = 0; i < 1000; ++i)
+            ++number;
+    });
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&number] { ++number; });
+    timer.start(0);
+    QTimer::singleShot(50, &app, &QApplication::quit);
+    const int result = QApplication::exec();
+    other.join();
+    return result;
+}
