@@ -1,3 +1,4 @@
 // Compiled without Qt's headers in reach: what applications without Qt include must not need them.
+#include <OrvCameraGuiApi/camconfig/showcamconfigdialog.h>
 #include <OrvCameraGuiApi/device_selection/selectcamera.h>
 #include <OrvCameraGuiApi/feature_tree/creategenparamtreeview.h>

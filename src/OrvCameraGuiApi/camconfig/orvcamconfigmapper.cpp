@@ -260,7 +260,7 @@ void OrvCamConfigMapper::registerAt(OrvGenParam::Param *param)
 template <typename Write>
 void OrvCamConfigMapper::write(OrvGenParam::Param *param, QWidget *control, Write write) const
 {
-    if (*m_refreshing > 0 || !param->IsWritable())
+    if (isRefreshing() || !param->IsWritable())
         return;
     const QString name = nameOf(param);
     const QPointer<QWidget> parent(control);

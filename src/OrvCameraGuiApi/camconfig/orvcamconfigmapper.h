@@ -132,6 +132,9 @@ public:
     /** What \a feature is bound to, the main control first; empty when it is not bound. */
     QVector<OrvCamConfigMapData> bindings(const QString &feature) const;
 
+    /** Whether a refresh is going on: what happens in bound controls then is not written. */
+    bool isRefreshing() const { return *m_refreshing > 0; }
+
     /**
      * Shows the state of \a param in all that it is bound to. A notification that comes on another thread than the one
      * the mapper was made on is acted upon when that thread's event loop runs next, if the parameter is still bound.

@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 """Draws the icons of the library. Run by hand; the files are committed.
 
-Those of buttons go into images/, at 16 and, as @2x, at 32 pixels; those of windows into icons/, with all sizes in one
-file each, and so do lamps, which labels show as pixmaps, with one size a file.
+Those of the feature tree's buttons go into images/, at 16 and, as @2x, at 32 pixels; those of windows and of the
+configuration window's buttons into icons/, with all sizes in one file each, and so do those that labels show as
+pixmaps, with one size a file.
 
 Each icon is a list of shapes on a canvas of 16 by 16 units, painted one over the other. A shape is a function that
 tells the distance of a point from its border, in units, negative inside; from that the edges are smoothed. Colors are
@@ -124,6 +125,41 @@ def lamp(color):
             (circle(6.2, 5.8, 1.5), tuple((part + 2 * 255) // 3 for part in color))]
 
 
+def plug(left, right, color):
+    """A cable from edge to edge, with a plug that ends at left and a socket that begins at right."""
+    cable = [line((0.5, 8), (left - 5, 8), width=1.6), line((right + 5, 8), (15.5, 8), width=1.6)]
+    return ([(shape, GREY) for shape in cable]
+            + [(rectangle(left - 5, 3, left, 13), color), (rectangle(right, 3, right + 5, 13), color)])
+
+
+def pulses(color, *edges):
+    """A signal along the time axis that changes at each edge, beginning low."""
+    points, y = [(1, 11)], 11
+    for x in edges:
+        points += [(x, y), (x, 15 - y)]
+        y = 15 - y
+    return [(rectangle(1, 13.5, 15, 14.5), GREY), (line(*points, (15, y), width=1.4), color)]
+
+
+# Of the buttons that open the feature dialogs.
+BUTTON_ICONS = {
+    'frameab': [(frame(1, 1, 10.5, 10.5, 1.6), GREY), (frame(5.5, 5.5, 15, 15, 1.6), BLUE)],
+    'trigger': [(polygon((10, 0.8), (8.6, 8.8), (3, 8.8)), ORANGE), (polygon((7.4, 6.8), (13, 6.8), (6, 15.2)), ORANGE)],
+    'pulse': pulses(BLUE, 3, 6, 9, 12),
+    'strobe': [(circle(8, 8, 3), ORANGE)]
+    + [(line((8 + 4.6 * x, 8 + 4.6 * y), (8 + 6.6 * x, 8 + 6.6 * y), width=1.5), ORANGE)
+       for x, y in ((math.cos(turn * math.pi / 4), math.sin(turn * math.pi / 4)) for turn in range(8))],
+    'dataout': [(frame(1, 2.5, 9.5, 13.5, 1.5), GREY), (rectangle(5, 7.2, 11, 8.8), GREEN),
+                (polygon((10.5, 4.2), (15.2, 8), (10.5, 11.8)), GREEN)],
+    'color': [(circle(8, 5.2, 3.6), RED), (circle(5.1, 10.4, 3.6), GREEN), (circle(10.9, 10.4, 3.6), BLUE)],
+}
+
+# Of the status bar.
+LINK_ICONS = {
+    'connected': plug(7.8, 8.2, GREEN),
+    'disconnected': plug(6, 10, RED),
+}
+
 LAMPS = {'greenball': lamp(GREEN), 'redball': lamp(RED)}
 
 
@@ -180,9 +216,9 @@ def main():
     for name, shapes in ICONS.items():
         for suffix, scale in (('', 1), ('@2x', 2)):
             (images / f'{name}{suffix}.png').write_bytes(png(*draw(shapes, scale)))
-    for name, shapes in WINDOW_ICONS.items():
+    for name, shapes in {**WINDOW_ICONS, **BUTTON_ICONS}.items():
         (icons / f'{name}.ico').write_bytes(ico(shapes))
-    for name, shapes in LAMPS.items():
+    for name, shapes in {**LAMPS, **LINK_ICONS}.items():
         for suffix, scale in (('', 1), ('@2x', 2)):
             (icons / f'{name}{suffix}.ico').write_bytes(ico(shapes, (scale,)))
 

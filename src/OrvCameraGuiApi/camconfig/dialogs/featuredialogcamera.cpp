@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QPushButton>
 #include <QThread>
 
@@ -37,6 +38,29 @@ public:
 
 private:
     QDialog *const m_dialog;
+};
+
+/** Lets the caption of a control grey with it. */
+class CaptionFollows : public QObject
+{
+public:
+    explicit CaptionFollows(QLabel *caption)
+        : QObject(caption)
+        , m_caption(caption)
+    {
+        caption->buddy()->installEventFilter(this);
+        caption->setEnabled(caption->buddy()->isEnabled());
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::EnabledChange)
+            m_caption->setEnabled(static_cast<QWidget *>(watched)->isEnabled());
+        return false;
+    }
+
+private:
+    QLabel *const m_caption;
 };
 
 } // namespace
@@ -129,6 +153,11 @@ bool FeatureDialogCamera::isForGuiThread(OrvGenParam::Param *param, OrvGenParam:
 void FeatureDialogCamera::setUpDialog(QDialog *dialog)
 {
     new DialogKeys(dialog);
+    const auto labels = dialog->findChildren<QLabel *>();
+    for (QLabel *const label : labels) {
+        if (label->buddy())
+            new CaptionFollows(label);
+    }
     const auto buttons = dialog->findChildren<QPushButton *>();
     for (QPushButton *const button : buttons) {
         button->setAutoDefault(false);

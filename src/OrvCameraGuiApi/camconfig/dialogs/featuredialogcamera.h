@@ -81,6 +81,7 @@ public:
     /**
      * To be called once, after the form is built. No button is a default one, so that Enter commits a value and does
      * nothing else; Escape closes the dialog like its title bar does, through closeEvent(), also while it is disabled.
+     * A label is enabled while its buddy is.
      */
     static void setUpDialog(QDialog *dialog);
 

@@ -1,0 +1,584 @@
+#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigframeabdialog.h>
+
+#include <OrvCameraGuiApi/camconfig/dialogs/featuredialogcamera.h>
+#include <OrvCameraGuiApi/camconfig/dialogs/framearithmetic.h>
+
+#include "ui_orvcamconfigframeabdialog.h"
+
+#include <QCloseEvent>
+#include <QMutex>
+#include <QMutexLocker>
+#include <QPointer>
+#include <QScopedValueRollback>
+#include <QTabBar>
+#include <QTimer>
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace {
+
+const char *const pixelClockFeature = "PixelClock";
+const char *const lineTimeFeature = "Frame_LineTime";
+const char *const linesFeature = "Frame_ExposureLines";
+const char *const clocksFeature = "Frame_ExposureClocks";
+const char *const coarseGainFeature = "Frame_DigitalCourseGain";
+const char *const fineGainFeature = "Frame_DigitalFineGain";
+const char *const fixedPeriodFeature = "Frame_FixedFramePeriodValue";
+const char *const selectorFeature = "FrameAB_Selector";
+const char *const triggerModeFeature = "TriggerMode";
+const char *const widthActualFeature = "Frame_WidthActual";
+const char *const heightActualFeature = "Frame_HeightActual";
+
+const std::int64_t usualPixelClock = 160; ///< MHz, of cameras that do not tell
+const double gainStep = 0.125;
+
+/** What the camera said last of the features that the dialog computes with. */
+struct Cached
+{
+    OrvGui::FrameArithmetic::Clock clock;
+    OrvGui::FrameArithmetic::Exposure exposure;
+    OrvGui::FrameArithmetic::Exposure longestExposure;
+    OrvGui::FrameArithmetic::Gain gain;
+    bool isTriggerOn = false; ///< as it was when the camera was set; nothing is computed with it
+};
+
+int toInt(std::int64_t value)
+{
+    using Limits = std::numeric_limits<int>;
+    return int(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
+}
+
+bool isUsable(OrvGenParam::Param *param)
+{
+    return param && param->IsAvailable() && param->IsWritable();
+}
+
+/** Lets the fields of composites that stand above each other begin at the same place. */
+template <typename... Composites>
+void alignCaptions(Composites *...composites)
+{
+    const int width = std::max({composites->leftLabel()->sizeHint().width()...});
+    (composites->leftLabel()->setMinimumWidth(width), ...);
+}
+
+} // namespace
+
+namespace OrvGui {
+
+using namespace FrameArithmetic;
+
+class OrvCamConfigFrameABDialogPrivate : public IOrvCamConfigIntConverter, public OrvGenParam::ParamEventSink
+{
+public:
+    explicit OrvCamConfigFrameABDialogPrivate(OrvCamConfigFrameABDialog *dialog)
+        : q(dialog)
+    {
+    }
+    Q_DISABLE_COPY(OrvCamConfigFrameABDialogPrivate)
+
+    bool init(OrvCam::Device *device);
+    void build();
+    void setCaptions();
+    void reset();
+    void getNeededParams();
+    void initComboBoxes();
+    void initSpinBoxes();
+    void initRadioButtons();
+    void initSliders();
+    void initTabWidget();
+    void initCheckBoxes();
+    void initActualSize();
+    void initDigitalGain();
+
+    Cached cached() const;
+    void cache(OrvGenParam::Int *param);
+    bool isBound(const char *feature, const QWidget *control) const;
+    auto sameCamera() const;
+
+    void onFrameModeChanged(const QString &mode);
+    void bindForMode(bool isSingle);
+    static int onlyPage(const QString &mode);
+    bool canShow(int page) const;
+    void enablePages();
+    void selectShownFrame();
+
+    void showFixedPeriod();
+    void showActualSize();
+    void updateExposureTime();
+    void setExposureTime(int microseconds);
+    void updateGain();
+    void setGain(double gain);
+
+    std::int64_t ToControl(std::int64_t deviceValue, OrvGenParam::Int *param) override;
+    std::int64_t ToDevice(std::int64_t controlValue, OrvGenParam::Int *param) override;
+    void OnParameterUpdate(OrvGenParam::Param *param) override;
+
+    OrvCamConfigFrameABDialog *const q;
+    Ui_OrvCamConfigFrameABDialog ui;
+    std::pair<QString, QString> pageTitles;
+    bool isBuilt = false;
+    bool isShowing = false; ///< exposure time and gain follow the camera, and are not the user's
+    int session = 0; ///< counts the cameras
+    Cached values;
+    mutable QMutex mutex; ///< of the values; never held while a control or the camera is called
+    FeatureDialogCamera camera; ///< the last member: lets go before the others are gone
+};
+
+/** Tells, whatever was called meanwhile, whether the dialog still is there and shows the same camera. */
+auto OrvCamConfigFrameABDialogPrivate::sameCamera() const
+{
+    return [this, dialog = QPointer<QDialog>(q), current = session] { return dialog && session == current; };
+}
+
+bool OrvCamConfigFrameABDialogPrivate::init(OrvCam::Device *device)
+{
+    if (!isBuilt)
+        build();
+    ++session;
+    const bool hasParameters = camera.setDevice(device);
+    reset();
+    getNeededParams();
+    initComboBoxes();
+    initSpinBoxes();
+    initRadioButtons();
+    initSliders();
+    initTabWidget();
+    initCheckBoxes();
+    initActualSize();
+    initDigitalGain();
+    const auto isSame = sameCamera();
+    onFrameModeChanged(ui.cmBoxFrameMode->currentText());
+    if (isSame())
+        updateExposureTime();
+    return hasParameters;
+}
+
+void OrvCamConfigFrameABDialogPrivate::build()
+{
+    ui.setupUi(q);
+    FeatureDialogCamera::setUpDialog(q);
+    setCaptions();
+    pageTitles = {ui.tabFrames->tabText(0), ui.tabFrames->tabText(1)};
+    // The field that is typed in loses the focus, and with it the text, which would else go to the other frame.
+    ui.tabFrames->tabBar()->setFocusPolicy(Qt::WheelFocus);
+    ui.spBoxExposureTime->setValidate(true);
+    ui.spBoxExposureTime->setValidateTyping(false);
+    QObject::connect(ui.spBoxExposureTime, QOverload<int>::of(&QtOrvSliderSpinBox::valueChanged), q,
+                     [this](int microseconds) { setExposureTime(microseconds); });
+    ui.gainDigital->setValidate(true);
+    ui.gainDigital->setValidateTyping(false);
+    ui.gainDigital->setSingleStep(gainStep);
+    QObject::connect(ui.gainDigital, QOverload<double>::of(&QtOrvGainSlider::valueChanged), q,
+                     [this](double gain) { setGain(gain); });
+    isBuilt = true;
+}
+
+void OrvCamConfigFrameABDialogPrivate::setCaptions()
+{
+    const auto tr = [](const char *text) { return OrvCamConfigFrameABDialog::tr(text); };
+    ui.spBoxDualLineTime->setLeftLabelText(tr("Dual Video\nLine Time [pclk]:"));
+    ui.spBoxLineTime->setLeftLabelText(tr("Line Time [pclk]:"));
+    ui.spBoxOffsetX->setLeftLabelText(tr("OffsetX:"));
+    ui.spBoxOffsetY->setLeftLabelText(tr("OffsetY:"));
+    ui.spBoxWidth->setLeftLabelText(tr("Width: ")); // intentionally with a blank at its end
+    ui.spBoxHeight->setLeftLabelText(tr("Height:"));
+    ui.gainDigital->setLeftLabelText(tr("Digital Gain:"));
+    ui.spBoxBlackLevel->setLeftLabelText(tr("Black Level:"));
+    const QString unit = tr("%1s").arg(QChar(0x03BC));
+    ui.spBoxExposureTime->setLeftLabelText(tr("Exposure Time ") + tr("[%1]:").arg(unit));
+}
+
+/** Nothing is left of the former camera that another one would take for its own. */
+void OrvCamConfigFrameABDialogPrivate::reset()
+{
+    const auto comboBoxes = q->findChildren<QComboBox *>();
+    for (QComboBox *const comboBox : comboBoxes)
+        comboBox->clear();
+    for (QCheckBox *const checkBox : {ui.chBoxFixedPeriod, ui.chBoxWdr})
+        checkBox->setChecked(false);
+    for (QWidget *const control :
+         {static_cast<QWidget *>(ui.spBoxLineTime), static_cast<QWidget *>(ui.spBoxDualLineTime),
+          static_cast<QWidget *>(ui.spBoxNumFrameAs), static_cast<QWidget *>(ui.spBoxNumFrameBs)})
+        control->setEnabled(false);
+    // A camera with one frame had a page removed.
+    for (QWidget *const page : {ui.pageA, ui.pageB}) {
+        const int index = page == ui.pageA ? 0 : 1;
+        if (ui.tabFrames->indexOf(page) < 0)
+            ui.tabFrames->insertTab(index, page, QString());
+        ui.tabFrames->setTabVisible(index, true);
+        ui.tabFrames->setTabEnabled(index, true);
+        ui.tabFrames->setTabText(index, index == 0 ? pageTitles.first : pageTitles.second);
+    }
+    const QMutexLocker locker(&mutex);
+    values = Cached();
+    values.clock.pixelClock = usualPixelClock;
+}
+
+void OrvCamConfigFrameABDialogPrivate::getNeededParams()
+{
+    for (const char *const feature : {pixelClockFeature, lineTimeFeature, linesFeature, clocksFeature}) {
+        if (OrvGenParam::Int *const param = camera.integer(feature)) {
+            cache(param);
+            camera.listen(param, this);
+        }
+    }
+    camera.listen(camera.integer(fixedPeriodFeature), this);
+    OrvGenParam::Enum *const triggerMode = camera.enumeration(triggerModeFeature);
+    camera.listen(triggerMode, this);
+    const bool isTriggerOn = triggerMode && triggerMode->GetValue(nullptr) > 0;
+    const QMutexLocker locker(&mutex);
+    values.isTriggerOn = isTriggerOn;
+}
+
+void OrvCamConfigFrameABDialogPrivate::initComboBoxes()
+{
+    const std::pair<const char *, QComboBox *> bindings[] = {{"Frame_SubsamplingM", ui.cmBoxSubsamplingM},
+                                                             {"Frame_SubsamplingP", ui.cmBoxSubsamplingP},
+                                                             {"Frame_Averaging", ui.cmBoxAveraging},
+                                                             {"Frame_WdrP1", ui.cmBoxWdrP1},
+                                                             {"Frame_WdrP2", ui.cmBoxWdrP2},
+                                                             {"Frame_WdrP3", ui.cmBoxWdrP3}};
+    for (const auto &[feature, comboBox] : bindings)
+        camera.mapper.mapEnumParam(camera.enumeration(feature), comboBox);
+    if (camera.mapper.mapEnumParam(camera.enumeration("FrameMode"), ui.cmBoxFrameMode)) {
+        QObject::connect(ui.cmBoxFrameMode, &QComboBox::currentTextChanged, q,
+                         [this](const QString &mode) { onFrameModeChanged(mode); });
+    }
+}
+
+void OrvCamConfigFrameABDialogPrivate::initSpinBoxes()
+{
+    const std::pair<const char *, QtOrvSpinBox *> bindings[] = {
+        {linesFeature, ui.spBoxExposureLines}, {clocksFeature, ui.spBoxExposureClocks},
+        {"Frame_OffsetX", ui.spBoxOffsetX},    {"Frame_OffsetY", ui.spBoxOffsetY},
+        {"Frame_Width", ui.spBoxWidth},        {"Frame_Height", ui.spBoxHeight},
+        {"Frame_WdrE1", ui.spBoxWdrE1},        {"Frame_WdrE2", ui.spBoxWdrE2},
+        {"Frame_WdrE3", ui.spBoxWdrE3}};
+    for (const auto &[feature, spinBox] : bindings)
+        camera.mapper.mapIntParam(camera.integer(feature), spinBox);
+}
+
+void OrvCamConfigFrameABDialogPrivate::initRadioButtons()
+{
+    const std::pair<const char *, QButtonGroup *> bindings[] = {{"ShutterMode", ui.btnGroupShutter},
+                                                                {"SensorADCBitDepth", ui.btnGroupBitDepth},
+                                                                {"Frame_ExposureControl", ui.btnGroupExposureControl},
+                                                                {"Frame_DecimationMode", ui.btnGroupDecimation},
+                                                                {"Frame_AnalogGain", ui.btnGroupAnalogGain}};
+    for (const auto &[feature, group] : bindings)
+        camera.mapper.mapEnumParam(camera.enumeration(feature), group);
+}
+
+void OrvCamConfigFrameABDialogPrivate::initSliders()
+{
+    camera.mapper.mapIntParam(camera.integer("Frame_BlackLevel"), ui.spBoxBlackLevel, nullptr);
+    if (camera.mapper.mapIntParam(camera.integer(fixedPeriodFeature), ui.spBoxFixedPeriod, this)) {
+        QObject::connect(ui.spBoxFixedPeriod, QOverload<int>::of(&QtOrvSliderSpinBox::valueChanged), q,
+                         [this] { updateExposureTime(); });
+    }
+}
+
+void OrvCamConfigFrameABDialogPrivate::initTabWidget()
+{
+    OrvGenParam::Enum *const selector = camera.enumeration(selectorFeature);
+    // Tells after the mapper, which enables the pages by their entries alone.
+    if (camera.mapper.mapEnumParam(selector, ui.tabFrames))
+        camera.listen(selector, this);
+}
+
+void OrvCamConfigFrameABDialogPrivate::initCheckBoxes()
+{
+    camera.mapper.mapBooleanParam(camera.boolean("Frame_WdrEnable"), ui.chBoxWdr);
+    if (camera.mapper.mapBooleanParam(camera.boolean("Frame_FixedFramePeriodEnable"), ui.chBoxFixedPeriod))
+        QObject::connect(ui.chBoxFixedPeriod, &QCheckBox::toggled, q, [this] { updateExposureTime(); });
+}
+
+void OrvCamConfigFrameABDialogPrivate::initActualSize()
+{
+    camera.listen(camera.integer(widthActualFeature), this);
+    camera.listen(camera.integer(heightActualFeature), this);
+    showActualSize();
+}
+
+void OrvCamConfigFrameABDialogPrivate::initDigitalGain()
+{
+    for (const char *const feature : {coarseGainFeature, fineGainFeature}) {
+        if (OrvGenParam::Int *const param = camera.integer(feature)) {
+            cache(param);
+            camera.listen(param, this);
+        }
+    }
+    updateGain();
+}
+
+Cached OrvCamConfigFrameABDialogPrivate::cached() const
+{
+    const QMutexLocker locker(&mutex);
+    return values;
+}
+
+/** Takes what the camera says of \a param, and of it alone: others may be about to be written. */
+void OrvCamConfigFrameABDialogPrivate::cache(OrvGenParam::Int *param)
+{
+    const QLatin1String name(param->GetName());
+    OrvCamErr err = OrvCamErr_Ok;
+    const std::int64_t value = param->GetValue(&err);
+    const std::int64_t maximum = param->GetMax(nullptr);
+    const QMutexLocker locker(&mutex);
+    if (name == QLatin1String(pixelClockFeature)) {
+        values.clock.pixelClock = err == OrvCamErr_Ok ? value : usualPixelClock;
+    } else if (name == QLatin1String(lineTimeFeature)) {
+        values.clock.lineTime = value;
+    } else if (name == QLatin1String(linesFeature)) {
+        values.exposure.lines = value;
+        values.longestExposure.lines = maximum;
+    } else if (name == QLatin1String(clocksFeature)) {
+        values.exposure.clocks = value;
+        values.longestExposure.clocks = maximum;
+    } else if (name == QLatin1String(coarseGainFeature)) {
+        values.gain.coarse = value;
+    } else if (name == QLatin1String(fineGainFeature)) {
+        values.gain.fine = value;
+    }
+}
+
+bool OrvCamConfigFrameABDialogPrivate::isBound(const char *feature, const QWidget *control) const
+{
+    const auto records = camera.mapper.bindings(QLatin1String(feature));
+    return !records.isEmpty() && records.first().control == control;
+}
+
+void OrvCamConfigFrameABDialogPrivate::onFrameModeChanged(const QString &mode)
+{
+    const int page = onlyPage(mode);
+    bindForMode(page >= 0);
+    const auto isSame = sameCamera();
+    if (page >= 0) {
+        ui.tabFrames->setTabEnabled(page, true);
+        ui.tabFrames->setCurrentIndex(page);
+    }
+    if (!isSame())
+        return;
+    enablePages();
+    // The mapper has written what the user chose. What another window chose was but shown, yet what is edited from now
+    // on has to be the frame that is shown.
+    if (page >= 0 && camera.mapper.isRefreshing()) {
+        QTimer::singleShot(0, q, [this, isSame] {
+            if (isSame())
+                selectShownFrame();
+        });
+    }
+}
+
+/** A feature has one control. The line time has two places: one for both frames, one in the settings of a single one.
+ */
+void OrvCamConfigFrameABDialogPrivate::bindForMode(bool isSingle)
+{
+    QtOrvSliderSpinBox *const lineTime = isSingle ? ui.spBoxLineTime : ui.spBoxDualLineTime;
+    if (!isBound(lineTimeFeature, lineTime))
+        camera.mapper.mapIntParam(camera.integer(lineTimeFeature), lineTime, nullptr);
+    const std::pair<const char *, QtOrvSpinBox *> counts[] = {{"NumberOfFrameAs", ui.spBoxNumFrameAs},
+                                                              {"NumberOfFrameBs", ui.spBoxNumFrameBs}};
+    for (const auto &[feature, spinBox] : counts) {
+        if (isSingle)
+            camera.mapper.unmapParam(camera.integer(feature), spinBox);
+        else if (!isBound(feature, spinBox))
+            camera.mapper.mapIntParam(camera.integer(feature), spinBox);
+    }
+}
+
+/** The page of the single frame that \a mode takes; -1 when it takes both. */
+int OrvCamConfigFrameABDialogPrivate::onlyPage(const QString &mode)
+{
+    if (mode == QLatin1String("FrameA"))
+        return 0;
+    return mode == QLatin1String("FrameB") ? 1 : -1;
+}
+
+bool OrvCamConfigFrameABDialogPrivate::canShow(int page) const
+{
+    OrvGenParam::Enum *const selector = camera.enumeration(selectorFeature);
+    OrvGenParam::EnumEntry *const entry = selector ? selector->GetEnumEntryByIndex(page, nullptr) : nullptr;
+    const int only = onlyPage(ui.cmBoxFrameMode->currentText());
+    return (only < 0 || only == page) && (!entry || entry->IsAvailable());
+}
+
+/** The page that is shown stays enabled: disabling it would show, and so select, another one. */
+void OrvCamConfigFrameABDialogPrivate::enablePages()
+{
+    for (int page = 0; page < ui.tabFrames->count(); ++page)
+        ui.tabFrames->setTabEnabled(page, page == ui.tabFrames->currentIndex() || canShow(page));
+}
+
+void OrvCamConfigFrameABDialogPrivate::selectShownFrame()
+{
+    OrvGenParam::Enum *const selector = camera.enumeration(selectorFeature);
+    const int page = ui.tabFrames->currentIndex();
+    if (page != onlyPage(ui.cmBoxFrameMode->currentText()) || !isUsable(selector))
+        return;
+    const QByteArray frame = ui.tabFrames->tabText(page).toUtf8();
+    if (frame == selector->GetValueStr(nullptr))
+        return;
+    const QPointer<QWidget> parent(ui.tabFrames);
+    const OrvCamErr err = selector->SetValueStr(frame.constData());
+    if (parent)
+        OrvCamConfigMapper::showErrorMessage(err, parent, selector);
+}
+
+void OrvCamConfigFrameABDialogPrivate::showFixedPeriod()
+{
+    OrvGenParam::Int *const period = camera.integer(fixedPeriodFeature);
+    if (period && period->IsReadable())
+        camera.mapper.updateSliderSpinBox(period, ui.spBoxFixedPeriod, this);
+}
+
+void OrvCamConfigFrameABDialogPrivate::showActualSize()
+{
+    const auto text = [this](const char *feature) {
+        OrvGenParam::Int *const param = camera.integer(feature);
+        const bool isShown = param && param->IsAvailable() && param->IsReadable();
+        return isShown ? QString::number(param->GetValue(nullptr)) : QString();
+    };
+    const QString width = text(widthActualFeature);
+    const QString height = text(heightActualFeature);
+    const bool isKnown = !width.isEmpty() && !height.isEmpty();
+    ui.lblSizeActual->setText(isKnown ? OrvCamConfigFrameABDialog::tr("%1 × %2").arg(width, height) : QString());
+    ui.lblSizeActual->setEnabled(isKnown);
+}
+
+void OrvCamConfigFrameABDialogPrivate::updateExposureTime()
+{
+    const bool isEnabled = isUsable(camera.integer(linesFeature)) && isUsable(camera.integer(clocksFeature));
+    const QScopedValueRollback<bool> guard(isShowing, true);
+    ui.spBoxExposureTime->setEnabled(isEnabled);
+    if (!isEnabled)
+        return;
+    const Cached now = cached();
+    const std::int64_t longest =
+        ui.chBoxFixedPeriod->isChecked() ? ui.spBoxFixedPeriod->value() : exposureTime(now.longestExposure, now.clock);
+    ui.spBoxExposureTime->setRange(0, toInt(longest));
+    ui.spBoxExposureTime->setValue(toInt(exposureTime(now.exposure, now.clock)));
+}
+
+/** The spin boxes of lines and clocks write. What they do not take, the time does not show either. */
+void OrvCamConfigFrameABDialogPrivate::setExposureTime(int microseconds)
+{
+    if (isShowing)
+        return;
+    const std::optional<Exposure> parts = splitExposure(microseconds, cached().clock);
+    if (!parts)
+        return;
+    const auto store = [this](const Exposure &exposure) {
+        const QMutexLocker locker(&mutex);
+        values.exposure = exposure;
+    };
+    store(*parts);
+    const auto isSame = sameCamera();
+    ui.spBoxExposureLines->setValue(toInt(parts->lines));
+    if (isSame())
+        ui.spBoxExposureClocks->setValue(toInt(parts->clocks));
+    if (!isSame())
+        return;
+    store({ui.spBoxExposureLines->value(), ui.spBoxExposureClocks->value()});
+    updateExposureTime();
+}
+
+void OrvCamConfigFrameABDialogPrivate::updateGain()
+{
+    OrvGenParam::Int *const coarse = camera.integer(coarseGainFeature);
+    OrvGenParam::Int *const fine = camera.integer(fineGainFeature);
+    const QScopedValueRollback<bool> guard(isShowing, true);
+    ui.gainDigital->setEnabled(isUsable(coarse) || isUsable(fine));
+    if (!coarse && !fine)
+        return;
+    const Gain lowest{coarse ? coarse->GetMin(nullptr) : 0, fine ? fine->GetMin(nullptr) : 0};
+    const Gain highest{coarse ? coarse->GetMax(nullptr) : 0, fine ? fine->GetMax(nullptr) : 0};
+    ui.gainDigital->setRange(composedGain(lowest), composedGain(highest));
+    ui.gainDigital->setValue(composedGain(cached().gain));
+}
+
+/** A refused write is intentionally not told. */
+void OrvCamConfigFrameABDialogPrivate::setGain(double gain)
+{
+    if (isShowing)
+        return;
+    const Gain parts = splitGain(gain);
+    {
+        const QMutexLocker locker(&mutex);
+        values.gain = parts;
+    }
+    const auto isSame = sameCamera();
+    if (OrvGenParam::Int *const coarse = camera.integer(coarseGainFeature))
+        coarse->SetValue(parts.coarse);
+    OrvGenParam::Int *const fine = isSame() ? camera.integer(fineGainFeature) : nullptr;
+    if (fine)
+        fine->SetValue(parts.fine);
+}
+
+std::int64_t OrvCamConfigFrameABDialogPrivate::ToControl(std::int64_t deviceValue, OrvGenParam::Int *)
+{
+    return microsecondsOfLines(deviceValue, cached().clock);
+}
+
+std::int64_t OrvCamConfigFrameABDialogPrivate::ToDevice(std::int64_t controlValue, OrvGenParam::Int *)
+{
+    return linesOfMicroseconds(controlValue, cached().clock);
+}
+
+void OrvCamConfigFrameABDialogPrivate::OnParameterUpdate(OrvGenParam::Param *param)
+{
+    if (camera.isForGuiThread(param, this) || !camera.parameters())
+        return;
+    const QLatin1String name(param->GetName());
+    if (name == QLatin1String(selectorFeature))
+        return enablePages();
+    auto *const number =
+        param->GetType() == OrvGenParam::ParamTypeInt ? dynamic_cast<OrvGenParam::Int *>(param) : nullptr;
+    if (!number)
+        return;
+    cache(number);
+    if (name == QLatin1String(coarseGainFeature) || name == QLatin1String(fineGainFeature))
+        return updateGain();
+    if (name == QLatin1String(widthActualFeature) || name == QLatin1String(heightActualFeature))
+        return showActualSize();
+    if (name == QLatin1String(lineTimeFeature) || name == QLatin1String(pixelClockFeature))
+        showFixedPeriod();
+    updateExposureTime();
+}
+
+OrvCamConfigFrameABDialog::OrvCamConfigFrameABDialog(OrvCam::Device *device, QWidget *parent)
+    : QDialog(parent)
+    , d(new OrvCamConfigFrameABDialogPrivate(this))
+{
+    d->init(device);
+}
+
+OrvCamConfigFrameABDialog::~OrvCamConfigFrameABDialog() = default;
+
+bool OrvCamConfigFrameABDialog::SetDevice(OrvCam::Device *device)
+{
+    return d->init(device);
+}
+
+void OrvCamConfigFrameABDialog::showEvent(QShowEvent *event)
+{
+    const auto &ui = d->ui;
+    alignCaptions(ui.spBoxExposureTime, ui.spBoxExposureLines, ui.spBoxLineTime);
+    alignCaptions(ui.gainDigital, ui.spBoxBlackLevel);
+    alignCaptions(ui.spBoxOffsetX, ui.spBoxWidth);
+    alignCaptions(ui.spBoxOffsetY, ui.spBoxHeight);
+    const auto spinBoxes = findChildren<QtOrvSpinBox *>();
+    for (QtOrvSpinBox *const spinBox : spinBoxes)
+        OrvCamConfigMapper::resizeVerticalSlider(spinBox);
+    QDialog::showEvent(event);
+}
+
+void OrvCamConfigFrameABDialog::closeEvent(QCloseEvent *event)
+{
+    Q_EMIT closing();
+    QDialog::closeEvent(event);
+}
+
+} // namespace OrvGui

@@ -1,0 +1,316 @@
+#include <OrvCameraGuiApi/camconfig/orvcamconfig.h>
+
+#include <OrvCameraGuiApi/camconfig/dialogs/dialogparts.h>
+#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigcolordialog.h>
+#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigframeabdialog.h>
+#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigoutputdialog.h>
+#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigpulsedialog.h>
+#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigstrobedialog.h>
+#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigtriggerdialog.h>
+#include <OrvCameraGuiApi/camconfig/orvcamconfigaboutdialog.h>
+#include <OrvCameraGuiApi/camconfig/orvcamconfigprivate.h>
+#include <OrvCameraGuiApi/device_selection/orvcameraselectordialog.h>
+
+#include <QEvent>
+#include <QLabel>
+
+#include <memory>
+#include <utility>
+
+namespace {
+
+/** Gives a camera system back that is not kept. */
+struct SystemReleaser
+{
+    void operator()(OrvCam::System *system) const { system->Release(); }
+};
+
+/** Calls back whenever its parent is shown or hidden. */
+class VisibilityWatch : public QObject
+{
+public:
+    VisibilityWatch(QWidget *widget, std::function<void()> onChange)
+        : QObject(widget)
+        , m_onChange(std::move(onChange))
+    {
+        widget->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        const bool isChange = event->type() == QEvent::Show || event->type() == QEvent::Hide;
+        if (isChange && !event->spontaneous())
+            m_onChange();
+        return false;
+    }
+
+private:
+    const std::function<void()> m_onChange;
+};
+
+} // namespace
+
+namespace OrvGui {
+
+OrvCamConfigPrivate::OrvCamConfigPrivate(OrvCamConfig *window)
+    : q(window)
+{
+}
+
+OrvCamConfigPrivate::~OrvCamConfigPrivate()
+{
+    timer.stop();
+    letGo();
+    // Here, as they tell this object when they go.
+    for (const DialogLink &link : std::exchange(dialogs, {}))
+        delete link.dialog;
+    delete selector;
+}
+
+void OrvCamConfigPrivate::build()
+{
+    ui.setupUi(q);
+    info = {{{ui.lineEditSizeFrameA, ui.lineEditFpsFrameA, ui.lineEditFtmFrameA, ui.lineEditExpFrameA},
+             {ui.lineEditSizeFrameB, ui.lineEditFpsFrameB, ui.lineEditFtmFrameB, ui.lineEditExpFrameB}}};
+    about = new OrvCamConfigAboutDialog(q);
+    connected = sharpPixmap(QStringLiteral(":/icons/connected.ico"), q);
+    disconnected = sharpPixmap(QStringLiteral(":/icons/disconnected.ico"), q);
+    for (QLabel *const unit : {ui.lblFrameTime, ui.lblExposure})
+        unit->setText(QStringLiteral("%1s").arg(microSign));
+    ui.lblTemperature->setText(QStringLiteral("%1C").arg(QChar(0x00B0)));
+    createDialogs();
+    connectActions();
+    adjustViewMenuActions();
+    buildStatusBar();
+    initButtons();
+    QObject::connect(&timer, &QTimer::timeout, q, [this] { step(); });
+}
+
+void OrvCamConfigPrivate::connectActions()
+{
+    QObject::connect(ui.actionQuit, &QAction::triggered, q, &QWidget::close);
+    QObject::connect(ui.actionConnect, &QAction::triggered, q, [this] { askForCamera(); });
+    QObject::connect(ui.actionDisconnect, &QAction::triggered, q, [this] { onDisconnectAction(); });
+    QObject::connect(ui.actionAbout, &QAction::triggered, q, [this] { showAbout(); });
+}
+
+void OrvCamConfigPrivate::buildStatusBar()
+{
+    deviceName = new QLabel(q);
+    deviceName->setObjectName(QStringLiteral("lblDeviceName"));
+    deviceName->setTextFormat(Qt::PlainText);
+    connectionIcon = new QLabel(q);
+    connectionIcon->setObjectName(QStringLiteral("lblConnectionIcon"));
+    connectionIcon->setPixmap(connected);
+    ui.statusbar->addWidget(deviceName);
+    ui.statusbar->addPermanentWidget(connectionIcon);
+}
+
+template <typename Dialog>
+void OrvCamConfigPrivate::addDialog(QPushButton *button, QAction *action)
+{
+    auto *const dialog = new Dialog(nullptr, q);
+    QObject::connect(dialog, &Dialog::closing, button, [button] { button->setChecked(false); });
+    dialogs.append({dialog, button, action, [dialog](OrvCam::Device *shown) { dialog->SetDevice(shown); }});
+}
+
+void OrvCamConfigPrivate::createDialogs()
+{
+    addDialog<OrvCamConfigFrameABDialog>(ui.pushBtnFrameAB, ui.actionFrame_A_B);
+    addDialog<OrvCamConfigTriggerDialog>(ui.pushBtnTrigger, ui.actionTrigger);
+    addDialog<OrvCamConfigPulseDialog>(ui.pushBtnPulse, ui.actionPulse);
+    addDialog<OrvCamConfigStrobeDialog>(ui.pushBtnStrobe, ui.actionStrobe);
+    addDialog<OrvCamConfigOutputDialog>(ui.pushBtnDataOut, ui.actionData_Out);
+    addDialog<OrvCamConfigColorDialog>(ui.pushBtnColor, ui.actionColor);
+}
+
+void OrvCamConfigPrivate::initButtons()
+{
+    for (const DialogLink &link : qAsConst(dialogs)) {
+        QDialog *const dialog = link.dialog;
+        QObject::connect(link.button, &QPushButton::toggled, dialog, [dialog](bool checked) {
+            if (checked)
+                dialog->show();
+            else if (!dialog->isHidden())
+                dialog->close();
+        });
+        new VisibilityWatch(dialog, [this] { checkViewMenu(); });
+    }
+}
+
+/** An action closes its dialog by its button. */
+void OrvCamConfigPrivate::adjustViewMenuActions()
+{
+    for (const DialogLink &link : qAsConst(dialogs))
+        QObject::connect(link.action, &QAction::toggled, link.button, &QPushButton::setChecked);
+}
+
+/**
+ * The system is held until the device is open; when none is chosen all stays as it is. While the user is asked the
+ * world goes on: the camera may go, another device be set, the window be destroyed.
+ */
+void OrvCamConfigPrivate::askForCamera()
+{
+    if (selector)
+        return;
+    std::unique_ptr<OrvCam::System, SystemReleaser> chosenFrom(OrvCam_GetSystem());
+    if (!chosenFrom)
+        return;
+    const QPointer<OrvCamConfig> alive(q);
+    const QPointer<OrvCameraSelectorDialog> dialog(
+        new OrvCameraSelectorDialog(chosenFrom.get(), q->isVisible() ? q : q->parentWidget(), true));
+    selector = dialog;
+    dialog->setWindowTitle(OrvCamConfig::tr("Select a device"));
+    dialog->setModal(true);
+    const bool isAccepted = dialog->exec() == QDialog::Accepted;
+    OrvCam::DeviceInfo *const chosen = dialog && isAccepted ? dialog->selectedCamera() : nullptr;
+    delete dialog; // its thread has ended before a device is opened
+    if (alive && chosen)
+        openChosen(chosenFrom.release(), chosen);
+}
+
+/** Takes \a chosenFrom. A device that cannot be opened leaves the window without one. */
+void OrvCamConfigPrivate::openChosen(OrvCam::System *chosenFrom, OrvCam::DeviceInfo *chosen)
+{
+    letGo();
+    system = chosenFrom;
+    OrvCam::Device *const opened = OrvCam_CreateDevice(chosen, OrvCam::DeviceAccessControl, nullptr);
+    if (!opened)
+        return onDisconnectAction();
+    ownsDevice = true;
+    adopt(opened);
+}
+
+/** After the former device has been let go, or with that once more. */
+void OrvCamConfigPrivate::adopt(OrvCam::Device *newDevice)
+{
+    init(newDevice);
+    registerCallbacks();
+    setDialogsDevice(newDevice);
+}
+
+/** Nobody uses the device or its parameters any more when it is released, and only then goes the system. */
+void OrvCamConfigPrivate::letGo()
+{
+    setDialogsDevice(nullptr);
+    camera.setDevice(nullptr);
+    params = CameraParams();
+    unregisterCallbacks();
+    pendingEvent = NoEvent;
+    OrvCam::Device *const former = std::exchange(device, nullptr);
+    if (std::exchange(ownsDevice, false))
+        former->Release();
+    if (OrvCam::System *const formerSystem = std::exchange(system, nullptr))
+        formerSystem->Release();
+    clearStatus();
+}
+
+/** Reads the parameters of \a newDevice, which may be null, and starts anew. The callbacks stay as they are. */
+void OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
+{
+    device = newDevice;
+    params = CameraParams();
+    if (camera.setDevice(device)) // also unbinds the mapper
+        getNeededParams();
+    q->setEnabled(true);
+    timer.start(CameraParams::period);
+    doLastAdjustment();
+}
+
+void OrvCamConfigPrivate::getNeededParams()
+{
+    params = CameraParams(*camera.parameters());
+    hasFrameAB = params.frameAbSelector;
+    frameMode = FrameAOnly;
+    modeChanged = false;
+    selectorIsB = false;
+    if (!hasFrameAB)
+        return;
+    camera.listen(params.frameAbSelector, this);
+    readSelector();
+    camera.listen(params.frameMode, this);
+    readFrameMode();
+}
+
+/**
+ * Not when a lost camera comes back: it still has them, and what it reports while they are exchanged would be missed.
+ */
+void OrvCamConfigPrivate::registerCallbacks()
+{
+    if (!device)
+        return;
+    unregisterCallbacks();
+    device->RegisterEvent(OrvCam::EventDeviceDisconnected, CameraDisconnectCallback, this);
+    device->RegisterEvent(OrvCam::EventDeviceConnected, CameraConnectCallback, this);
+}
+
+void OrvCamConfigPrivate::unregisterCallbacks()
+{
+    if (!device)
+        return;
+    device->UnregisterEvent(OrvCam::EventDeviceDisconnected, CameraDisconnectCallback, this);
+    device->UnregisterEvent(OrvCam::EventDeviceConnected, CameraConnectCallback, this);
+}
+
+/** On any thread. */
+void OrvCamConfigPrivate::CameraConnectCallback(const void *, unsigned long, void *context)
+{
+    static_cast<OrvCamConfigPrivate *>(context)->pendingEvent = Connected;
+}
+
+/** On any thread. */
+void OrvCamConfigPrivate::CameraDisconnectCallback(const void *, unsigned long, void *context)
+{
+    static_cast<OrvCamConfigPrivate *>(context)->pendingEvent = Disconnected;
+}
+
+void OrvCamConfigPrivate::onDisconnectAction()
+{
+    letGo();
+    init(nullptr);
+}
+
+void OrvCamConfigPrivate::setDialogsDevice(OrvCam::Device *dialogsDevice)
+{
+    for (const DialogLink &link : qAsConst(dialogs))
+        link.setDevice(dialogsDevice);
+}
+
+OrvCamConfig::OrvCamConfig(OrvCam::Device *device, QWidget *parent, Qt::WindowFlags flags)
+    : QMainWindow(parent, flags)
+    , d(new OrvCamConfigPrivate(this))
+{
+    d->build();
+    d->adopt(device);
+    if (device)
+        return;
+    // A parent that goes while the user is asked must not take along what is still being made.
+    QMetaObject::Connection whileAsking;
+    if (parent)
+        whileAsking = connect(parent, &QObject::destroyed, this, [this] { setParent(nullptr, windowFlags()); });
+    d->askForCamera();
+    disconnect(whileAsking);
+}
+
+OrvCamConfig::~OrvCamConfig() = default;
+
+void OrvCamConfig::SetDevice(OrvCam::Device *device)
+{
+    if (device != d->device)
+        d->letGo();
+    d->adopt(device);
+}
+
+void OrvCamConfig::showEvent(QShowEvent *event)
+{
+    d->updateTemperature();
+    QMainWindow::showEvent(event);
+}
+
+void OrvCamConfig::closeEvent(QCloseEvent *event)
+{
+    d->closeDialogs();
+    QMainWindow::closeEvent(event);
+}
+
+} // namespace OrvGui

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QDialog>
+#include <QScopedPointer>
+
+class Ui_OrvCamConfigAboutDialog;
+
+namespace OrvGui {
+
+struct CameraParams;
+
+/** Tells what this application is and which camera it shows. */
+class OrvCamConfigAboutDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit OrvCamConfigAboutDialog(QWidget *parent);
+    ~OrvCamConfigAboutDialog() override;
+
+    /** Reads the camera's identity; "N/A" stands for what cannot be read. The parameters are not used afterwards. */
+    void adjustAbout(const CameraParams &params);
+
+private:
+    const QScopedPointer<Ui_OrvCamConfigAboutDialog> ui;
+};
+
+} // namespace OrvGui

@@ -1,0 +1,227 @@
+#include <OrvCameraGuiApi/camconfig/orvcamconfigprivate.h>
+
+#include <OrvCameraGuiApi/camconfig/dialogs/dialogparts.h>
+#include <OrvCameraGuiApi/camconfig/orvcamconfigaboutdialog.h>
+#include <OrvCameraGuiApi/device_selection/orvcameraselectordialog.h>
+
+#include <QDialog>
+#include <QLabel>
+
+#include <utility>
+
+/*
+ * What the configuration window shows: the status of the camera, once a second, and which dialogs are open.
+ */
+
+namespace OrvGui {
+
+/** Acts on the last event, if there is one; what happens meanwhile is for the next step. */
+void OrvCamConfigPrivate::step()
+{
+    switch (pendingEvent.exchange(NoEvent)) {
+    case Disconnected:
+        return loseCamera();
+    case Connected:
+        init(device);
+        return setDialogsDevice(device);
+    default:
+        break;
+    }
+    if (params.temperature)
+        updateTemperature();
+    if (frameMode != BothFrames)
+        updateInfo(frameMode == FrameBOnly ? FrameB : FrameA);
+    else if (std::exchange(modeChanged, false))
+        updateBoth();
+    else
+        updateInfo(selectorIsB ? FrameB : FrameA);
+}
+
+/** The device stays: it may come back. */
+void OrvCamConfigPrivate::loseCamera()
+{
+    setDialogsDevice(nullptr);
+    camera.setDevice(nullptr);
+    params = CameraParams();
+    clearStatus();
+    updateStatus();
+}
+
+void OrvCamConfigPrivate::OnParameterUpdate(OrvGenParam::Param *param)
+{
+    if (camera.isForGuiThread(param, this))
+        return;
+    if (!device || param->GetType() != OrvGenParam::ParamTypeEnum || !param->IsReadable())
+        return;
+    auto *const choice = dynamic_cast<OrvGenParam::Enum *>(param);
+    if (choice && choice == params.frameAbSelector)
+        readSelector();
+    else if (choice && choice == params.frameMode)
+        readFrameMode();
+}
+
+/** False when it cannot be read; what was last known stands then. */
+bool OrvCamConfigPrivate::readSelector()
+{
+    const auto frame = valueOf(params.frameAbSelector);
+    if (frame)
+        selectorIsB = *frame != QLatin1String("FrameA");
+    return frame.has_value();
+}
+
+void OrvCamConfigPrivate::readFrameMode()
+{
+    const auto mode = valueOf(params.frameMode);
+    if (!mode)
+        return;
+    if (*mode == QLatin1String("FrameA"))
+        frameMode = FrameAOnly;
+    else if (*mode == QLatin1String("FrameB"))
+        frameMode = FrameBOnly;
+    else
+        frameMode = BothFrames;
+    modeChanged = true;
+}
+
+void OrvCamConfigPrivate::updateStatus()
+{
+    const bool isConnected = camera.parameters();
+    const auto name = valueOf(params.modelName).value_or(OrvCamConfig::tr("Unknown"));
+    deviceName->setText(isConnected ? name : OrvCamConfig::tr("Disconnected"));
+    connectionIcon->setPixmap(isConnected ? connected : disconnected);
+    connectionIcon->setToolTip(isConnected ? OrvCamConfig::tr("Connected") : OrvCamConfig::tr("Disconnected"));
+    ui.actionDisconnect->setEnabled(device);
+}
+
+void OrvCamConfigPrivate::updateTemperature()
+{
+    ui.lineEditTemperature->setText(decimal(params.temperature));
+}
+
+/** The camera tells of the frame that is selected; in which column that stands is the caller's choice. */
+void OrvCamConfigPrivate::updateInfo(Frame frame)
+{
+    const InfoFields &fields = info[frame];
+    fields.size->setText(sizeText(params.width, params.height));
+    fields.exposureTime->setText(decimal(params.exposureTime));
+    const auto frameTime = valueOf(params.frameTime);
+    fields.frameTime->setText(frameTime ? QString::number(*frameTime) : QString());
+    fields.framesPerSecond->setText(frameTime ? framesPerSecond(*frameTime) : QString());
+}
+
+/** Selects the other frame for the moment of reading. A frame that cannot be selected is not shown. */
+void OrvCamConfigPrivate::updateBoth()
+{
+    // Anew, as another thread may have changed it just now.
+    if (!readSelector())
+        return;
+    const bool isB = selectorIsB;
+    const Frame other = isB ? FrameA : FrameB;
+    updateInfo(isB ? FrameB : FrameA);
+    clearInfo(other);
+    if (!selectFrame(isB ? "FrameA" : "FrameB"))
+        return;
+    updateInfo(other);
+    selectFrame(isB ? "FrameB" : "FrameA");
+}
+
+/**
+ * False when the camera does not select that frame, or when someone whom it told took the window or the camera away;
+ * nothing may be used then.
+ */
+bool OrvCamConfigPrivate::selectFrame(const char *frame)
+{
+    const QPointer<OrvCamConfig> alive(q);
+    OrvGenParam::Enum *const choice = params.frameAbSelector;
+    return choice->SetValueStr(frame) == OrvCamErr_Ok && alive && choice == params.frameAbSelector;
+}
+
+void OrvCamConfigPrivate::clearInfo(Frame frame)
+{
+    for (QLineEdit *const field : info[frame].all())
+        field->clear();
+}
+
+void OrvCamConfigPrivate::clearStatus()
+{
+    clearInfo(FrameA);
+    clearInfo(FrameB);
+    ui.lineEditTemperature->clear();
+}
+
+void OrvCamConfigPrivate::isShowFrameABStuff(bool show)
+{
+    const auto fieldsA = info[FrameA].all();
+    const auto fieldsB = info[FrameB].all();
+    for (std::size_t i = 0; i < fieldsA.size(); ++i) {
+        const int row = int(i) + 1;
+        ui.gridLayout->removeWidget(fieldsA[i]);
+        ui.gridLayout->removeWidget(fieldsB[i]);
+        ui.gridLayout->addWidget(fieldsA[i], row, 1, 1, show ? 1 : 2);
+        if (show)
+            ui.gridLayout->addWidget(fieldsB[i], row, 2);
+        fieldsB[i]->setVisible(show);
+    }
+    ui.lblFrameB->setVisible(show);
+    ui.actionFrame_A_B->setVisible(show);
+    ui.pushBtnFrameAB->setVisible(show);
+    if (!show)
+        ui.pushBtnFrameAB->setChecked(false);
+    layOutButtons(show);
+}
+
+/** In rows of three, without a gap where one is hidden. */
+void OrvCamConfigPrivate::layOutButtons(bool withFrameAB)
+{
+    constexpr int columns = 3;
+    int place = 0;
+    for (const DialogLink &link : qAsConst(dialogs)) {
+        ui.buttonLayout->removeWidget(link.button);
+        if (link.button == ui.pushBtnFrameAB && !withFrameAB)
+            continue;
+        ui.buttonLayout->addWidget(link.button, place / columns, place % columns);
+        ++place;
+    }
+}
+
+void OrvCamConfigPrivate::doLastAdjustment()
+{
+    const auto limit = [](QLineEdit *field) {
+        field->setMaximumWidth(field->fontMetrics().horizontalAdvance(QString(12, QLatin1Char('x'))));
+    };
+    for (const InfoFields &fields : info) {
+        for (QLineEdit *const field : fields.all())
+            limit(field);
+    }
+    limit(ui.lineEditTemperature);
+    isShowFrameABStuff(hasFrameAB);
+    about->adjustAbout(params);
+    updateStatus();
+}
+
+/** Whichever way a dialog was opened or closed. */
+void OrvCamConfigPrivate::checkViewMenu()
+{
+    for (const DialogLink &link : qAsConst(dialogs)) {
+        link.button->setChecked(!link.dialog->isHidden());
+        link.action->setChecked(!link.dialog->isHidden());
+    }
+}
+
+void OrvCamConfigPrivate::closeDialogs()
+{
+    for (const DialogLink &link : qAsConst(dialogs))
+        link.dialog->close();
+    about->close();
+    if (selector)
+        selector->reject();
+}
+
+void OrvCamConfigPrivate::showAbout()
+{
+    about->adjustAbout(params);
+    about->show();
+    about->activateWindow();
+}
+
+} // namespace OrvGui

@@ -1,0 +1,135 @@
+#pragma once
+
+#include <OrvCameraGuiApi/camconfig/camerastatus.h>
+#include <OrvCameraGuiApi/camconfig/dialogs/featuredialogcamera.h>
+#include <OrvCameraGuiApi/camconfig/orvcamconfig.h>
+
+#include "ui_orvcamconfigmainwindow.h"
+
+#include <QPixmap>
+#include <QPointer>
+#include <QTimer>
+#include <QVector>
+
+#include <array>
+#include <atomic>
+#include <functional>
+
+class QDialog;
+class QLabel;
+
+namespace OrvGui {
+
+class OrvCamConfigAboutDialog;
+class OrvCameraSelectorDialog;
+
+/**
+ * The private part of OrvCamConfig.
+ *
+ * A camera's life here: adopt() takes a device, init() reads its parameters, letGo() gives it up. A lost device stays,
+ * without parameters, until it comes back or is let go. Events of the device come on any thread and leave one word in
+ * pendingEvent, upon which the timer's step() acts.
+ */
+class OrvCamConfigPrivate : public OrvGenParam::ParamEventSink
+{
+public:
+    enum PendingEvent : std::uint32_t { NoEvent = 0, Disconnected = 1, Connected = 2 };
+    enum FrameMode { FrameAOnly = 0, FrameBOnly = 1, BothFrames = 2 };
+    enum Frame { FrameA = 0, FrameB = 1 };
+
+    explicit OrvCamConfigPrivate(OrvCamConfig *window);
+    ~OrvCamConfigPrivate() override;
+    Q_DISABLE_COPY(OrvCamConfigPrivate)
+
+    /** \name Once @{ */
+    void build();
+    void connectActions();
+    void buildStatusBar();
+    void createDialogs();
+    template <typename Dialog>
+    void addDialog(QPushButton *button, QAction *action);
+    void initButtons();
+    void adjustViewMenuActions();
+    /** @} */
+
+    /** \name The camera @{ */
+    void askForCamera();
+    void openChosen(OrvCam::System *chosenFrom, OrvCam::DeviceInfo *chosen);
+    void adopt(OrvCam::Device *newDevice);
+    void letGo();
+    void init(OrvCam::Device *newDevice);
+    void registerCallbacks();
+    void unregisterCallbacks();
+    void getNeededParams();
+    void onDisconnectAction();
+    void setDialogsDevice(OrvCam::Device *dialogsDevice);
+    static void CameraConnectCallback(const void *data, unsigned long size, void *context);
+    static void CameraDisconnectCallback(const void *data, unsigned long size, void *context);
+    void OnParameterUpdate(OrvGenParam::Param *param) override;
+    bool readSelector();
+    void readFrameMode();
+    /** @} */
+
+    /** \name What is shown @{ */
+    void step();
+    void loseCamera();
+    void updateStatus();
+    void updateTemperature();
+    void updateInfo(Frame frame);
+    void updateBoth();
+    bool selectFrame(const char *frame);
+    void clearInfo(Frame frame);
+    void clearStatus();
+    void isShowFrameABStuff(bool show);
+    void layOutButtons(bool withFrameAB);
+    void doLastAdjustment();
+    void checkViewMenu();
+    void closeDialogs();
+    void showAbout();
+    /** @} */
+
+    /** The fields of one frame, in the order of their rows. */
+    struct InfoFields
+    {
+        QLineEdit *size;
+        QLineEdit *framesPerSecond;
+        QLineEdit *frameTime;
+        QLineEdit *exposureTime;
+
+        std::array<QLineEdit *, 4> all() const { return {size, framesPerSecond, frameTime, exposureTime}; }
+    };
+
+    /** A feature dialog and what opens and closes it. */
+    struct DialogLink
+    {
+        QDialog *dialog;
+        QPushButton *button;
+        QAction *action;
+        std::function<void(OrvCam::Device *)> setDevice;
+    };
+
+    OrvCamConfig *const q;
+    Ui_OrvCamConfigMainWindow ui;
+    OrvCamConfigAboutDialog *about = nullptr;
+    QPointer<OrvCameraSelectorDialog> selector; ///< while the user is asked
+    QVector<DialogLink> dialogs;
+    std::array<InfoFields, 2> info{}; ///< by Frame
+    QLabel *deviceName = nullptr;
+    QLabel *connectionIcon = nullptr;
+    QPixmap connected;
+    QPixmap disconnected;
+    QTimer timer;
+
+    OrvCam::System *system = nullptr; ///< from which the device was chosen; held as long as that
+    OrvCam::Device *device = nullptr;
+    bool ownsDevice = false; ///< it was opened here
+    CameraParams params;
+    bool hasFrameAB = false; ///< the camera, or the last one, has two frame settings
+    FrameMode frameMode = FrameAOnly;
+    bool modeChanged = false; ///< both frames are in use and have not been read since
+    bool selectorIsB = false;
+    std::atomic<std::uint32_t> pendingEvent{NoEvent};
+    FeatureDialogCamera camera; ///< the last member: lets go before the others are gone
+};
+
+} // namespace OrvGui

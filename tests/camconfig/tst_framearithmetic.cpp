@@ -1,0 +1,211 @@
+#include "orvtest.h"
+
+#include <OrvCameraGuiApi/camconfig/dialogs/framearithmetic.h>
+
+#include <cmath>
+#include <limits>
+#include <random>
+#include <vector>
+
+using namespace OrvGui::FrameArithmetic;
+
+namespace {
+
+__extension__ using Wide = __int128;
+
+const std::int64_t int64Min = std::numeric_limits<std::int64_t>::min();
+const std::int64_t int64Max = std::numeric_limits<std::int64_t>::max();
+
+/** Whether \a whole is numerator / denominator cut towards 0; all by multiplication, denominators positive. */
+bool isCutQuotient(std::int64_t whole, Wide numerator, Wide denominator)
+{
+    const Wide rest = numerator - whole * denominator;
+    if (numerator < 0)
+        return rest <= 0 && -rest < denominator;
+    return rest >= 0 && rest < denominator;
+}
+
+/** The numbers of cameras, and those beside which things go wrong. */
+std::vector<std::int64_t> pixelClocks()
+{
+    return {1, 2, 3, 7, 25, 40, 64, 74, 100, 160, 333, 1000};
+}
+
+std::vector<std::int64_t> lineTimes()
+{
+    return {1, 2, 3, 160, 399, 400, 1599, 1600, 1601, 4097, 65535};
+}
+
+std::vector<std::int64_t> amounts()
+{
+    std::vector<std::int64_t> all = {0, 1, 2, 99, 100, 105, 1000, 65535, 1000000, 2147483647, 2147483648, 5000000000};
+    std::mt19937 random(20); // the same numbers in each run
+    std::uniform_int_distribution<std::int64_t> any(0, 20000000);
+    for (int i = 0; i < 200; ++i)
+        all.push_back(any(random));
+    return all;
+}
+
+} // namespace
+
+class FrameArithmeticTest : public OrvTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void byHand();
+    void timesAreExact();
+    void nothingIsDividedByZero();
+    void numbersAreClamped();
+    void gainsByHand_data();
+    void gainsByHand();
+    void gainsAreExact();
+};
+
+void FrameArithmeticTest::byHand()
+{
+    struct Row
+    {
+        Clock clock;
+        Exposure exposure;
+        std::int64_t time; // of the exposure
+        std::int64_t lines;
+        std::int64_t microseconds; // that so many lines take
+    };
+    const Row rows[] = {
+        {{160, 1600}, {10, 800}, 105, 1000, 10000},
+        {{160, 1600}, {0, 159}, 0, 0, 0},
+        {{160, 1600}, {0, 160}, 1, 1, 10},
+        {{160, 1601}, {1, 0}, 10, 80, 801}, // 10.006; 800.5 goes up
+        {{40, 65535}, {3, 17}, 4915, 7, 11469}, // 4915.55; 11468.625
+        {{3, 1}, {5, 2}, 2, 4, 1}, // 2.33; 1.33
+        {{1, 65535}, {65535, 65534}, 4294901759, 131072, 8589803520}, // more than 32 bits
+    };
+    for (const Row &row : rows) {
+        QCOMPARE(exposureTime(row.exposure, row.clock), row.time);
+        QCOMPARE(microsecondsOfLines(row.lines, row.clock), row.microseconds);
+    }
+    QCOMPARE(linesOfMicroseconds(10000, {160, 1600}), std::int64_t(1000));
+    QCOMPARE(linesOfMicroseconds(4, {160, 1600}), std::int64_t(0)); // 0.4
+    QCOMPARE(linesOfMicroseconds(5, {160, 1600}), std::int64_t(1)); // 0.5
+    QCOMPARE(linesOfMicroseconds(-10, {160, 1600}), std::int64_t(0)); // -1 + 0.5, cut
+    QCOMPARE(linesOfMicroseconds(-16, {160, 1600}), std::int64_t(-1)); // -1.6 + 0.5, cut
+    const std::optional<Exposure> parts = splitExposure(105, {160, 1600});
+    QVERIFY(parts);
+    QCOMPARE(parts->lines, std::int64_t(10));
+    QCOMPARE(parts->clocks, std::int64_t(800));
+}
+
+void FrameArithmeticTest::timesAreExact()
+{
+    const std::vector<std::int64_t> values = amounts();
+    for (const std::int64_t pixelClock : pixelClocks()) {
+        for (const std::int64_t lineTime : lineTimes()) {
+            const Clock clock{pixelClock, lineTime};
+            for (const std::int64_t value : values) {
+                const Wide product = Wide(value) * lineTime;
+                QVERIFY(isCutQuotient(microsecondsOfLines(value, clock), 2 * product + pixelClock, 2 * pixelClock));
+                QVERIFY(isCutQuotient(linesOfMicroseconds(value, clock), 2 * Wide(value) * pixelClock + lineTime,
+                                      2 * lineTime));
+                const std::int64_t clocks = value % lineTime;
+                QVERIFY(isCutQuotient(exposureTime({value, clocks}, clock), product + clocks, pixelClock));
+
+                const std::optional<Exposure> parts = splitExposure(value, clock);
+                QVERIFY(parts && parts->clocks >= 0 && parts->clocks < lineTime);
+                QVERIFY(Wide(parts->lines) * lineTime + parts->clocks == Wide(value) * pixelClock);
+                QCOMPARE(exposureTime(*parts, clock), value); // there and back
+            }
+        }
+    }
+}
+
+void FrameArithmeticTest::nothingIsDividedByZero()
+{
+    for (const std::int64_t value : {int64Min, std::int64_t(-1), std::int64_t(0), std::int64_t(105), int64Max}) {
+        QCOMPARE(microsecondsOfLines(value, {0, 1600}), std::int64_t(0));
+        QCOMPARE(microsecondsOfLines(value, {160, 0}), std::int64_t(0));
+        QCOMPARE(linesOfMicroseconds(value, {160, 0}), std::int64_t(0));
+        QCOMPARE(linesOfMicroseconds(value, {0, 1600}), std::int64_t(0));
+        QCOMPARE(exposureTime({value, value}, {0, 1600}), std::int64_t(0));
+        QCOMPARE(exposureTime({value, 320}, {160, 0}), std::int64_t(2)); // the clocks alone
+        QVERIFY(!splitExposure(value, {160, 0}));
+        QVERIFY(!splitExposure(value, {0, 1600}));
+    }
+}
+
+void FrameArithmeticTest::numbersAreClamped()
+{
+    const Clock slow{1, int64Max};
+    const Clock fast{int64Max, 1};
+    QCOMPARE(microsecondsOfLines(int64Max, slow), int64Max);
+    QCOMPARE(microsecondsOfLines(int64Min, slow), int64Min);
+    QCOMPARE(linesOfMicroseconds(int64Max, fast), int64Max);
+    QCOMPARE(linesOfMicroseconds(int64Min, fast), int64Min);
+    QCOMPARE(exposureTime({int64Max, int64Max}, slow), int64Max);
+    QCOMPARE(exposureTime({int64Min, int64Min}, slow), int64Min);
+    QCOMPARE(exposureTime({int64Min, 0}, {-1, 1}), int64Max);
+    QCOMPARE(splitExposure(int64Max, fast)->lines, int64Max);
+    QCOMPARE(splitExposure(int64Min, {int64Max, -1})->lines, int64Max);
+    QCOMPARE(exposureTime({int64Max, 0}, {int64Max, int64Max}), int64Max); // exact although the product is not 64 bits
+
+    QVERIFY(std::isfinite(composedGain({int64Max, int64Max})));
+    QVERIFY(std::isfinite(composedGain({int64Min, int64Min})));
+    for (const double gain : {1e300, -1e300, std::numeric_limits<double>::infinity(), 9.3e18}) {
+        const Gain parts = splitGain(gain);
+        QVERIFY(parts.coarse >= 0 && parts.coarse < 63);
+    }
+    QCOMPARE(splitGain(std::nan("")).fine, std::int64_t(0));
+}
+
+void FrameArithmeticTest::gainsByHand_data()
+{
+    QTest::addColumn<double>("gain");
+    QTest::addColumn<qint64>("coarse");
+    QTest::addColumn<qint64>("fine");
+    QTest::addColumn<double>("composed");
+    QTest::newRow("3") << 3.0 << qint64(1) << qint64(32) << 3.0;
+    QTest::newRow("one half") << 0.5 << qint64(0) << qint64(-32) << 0.5;
+    QTest::newRow("1") << 1.0 << qint64(0) << qint64(0) << 1.0;
+    QTest::newRow("0") << 0.0 << qint64(0) << qint64(-64) << 0.0;
+    QTest::newRow("below 0") << -1.5 << qint64(0) << qint64(-160) << -1.5;
+    QTest::newRow("just below 2") << 1.99 << qint64(0) << qint64(63) << 1.984375;
+    QTest::newRow("cut towards 0 below 1") << 0.99 << qint64(0) << qint64(0) << 1.0;
+    QTest::newRow("2") << 2.0 << qint64(1) << qint64(0) << 2.0;
+    QTest::newRow("the most") << 15.875 << qint64(3) << qint64(63) << 15.875;
+    QTest::newRow("16") << 16.0 << qint64(4) << qint64(0) << 16.0;
+}
+
+void FrameArithmeticTest::gainsByHand()
+{
+    QFETCH(double, gain);
+    QFETCH(qint64, coarse);
+    QFETCH(qint64, fine);
+    QFETCH(double, composed);
+    const Gain parts = splitGain(gain);
+    QCOMPARE(qint64(parts.coarse), coarse);
+    QCOMPARE(qint64(parts.fine), fine);
+    QCOMPARE(composedGain(parts), composed);
+}
+
+/** Over all gains that a camera can have, and those between, in steps of 1/1024. */
+void FrameArithmeticTest::gainsAreExact()
+{
+    const std::int64_t unit = 1024;
+    for (std::int64_t numerator = 0; numerator < 300 * unit; ++numerator) {
+        const Gain parts = splitGain(double(numerator) / double(unit));
+        const std::int64_t base = std::int64_t(1) << parts.coarse;
+        QVERIFY(numerator < 2 * unit ? parts.coarse == 0 : base * unit <= numerator && numerator < 2 * base * unit);
+        QVERIFY(isCutQuotient(parts.fine, 64 * (Wide(numerator) - base * unit), base * unit));
+    }
+    for (std::int64_t coarse = 0; coarse < 10; ++coarse) {
+        for (std::int64_t fine = 0; fine < 64; ++fine) {
+            const Gain parts = splitGain(composedGain({coarse, fine}));
+            QCOMPARE(parts.coarse, coarse);
+            QCOMPARE(parts.fine, fine);
+        }
+    }
+}
+
+ORV_PLAIN_TEST_MAIN(FrameArithmeticTest)
+
+#include "tst_framearithmetic.moc"

@@ -1,0 +1,613 @@
+#include "configwindow.h"
+#include "orvtest.h"
+
+#include <QGridLayout>
+#include <QMenuBar>
+
+#include <thread>
+
+using namespace ConfigTest;
+using DialogTest::Camera;
+using DialogTest::part;
+using SimTest::monochrome;
+using SimTest::twoFrame;
+
+class OrvCamConfigTest : public OrvTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void namesItsParts();
+    void countsFrames_data();
+    void countsFrames();
+    void followsTheFrameMode_data();
+    void followsTheFrameMode();
+    void followsTheSelector();
+    void readsBothFramesOnce_data();
+    void readsBothFramesOnce();
+    void leavesTheOtherFrameOutThatCannotBeSelected();
+    void survivesWhoeverHearsOfTheSelector();
+    void hasOneColumnForOneFrame();
+    void leavesOutWhatCannotBeRead();
+    void takesTheTemperatureWhenShown();
+    void tellsOfTheCamera();
+    void opensAndClosesDialogs_data();
+    void opensAndClosesDialogs();
+    void losesAndFindsTheCamera();
+    void hearsOfEventsFromOtherThreads();
+    void keepsTheLastEvent();
+    void leavesTheCallersDeviceAlone();
+    void asksForACamera();
+    void staysWithoutACamera_data();
+    void staysWithoutACamera();
+    void connectsToAnotherCamera();
+    void survivesWhatHappensWhileItAsks();
+};
+
+namespace {
+
+/** Until the timer has been at work after whatever was done before. */
+void waitForAStep()
+{
+    bool isOver = false;
+    QTimer::singleShot(4 * OrvGui::CameraParams::period, [&] { isOver = true; });
+    QTRY_VERIFY(isOver);
+}
+
+/** Which of a dialog, its button and its menu entry are seen or checked. */
+QString openParts(const OrvCamConfig &window, const Parts &parts)
+{
+    QString open;
+    if (dialogOf(window, parts)->isVisible())
+        open += QLatin1Char('d');
+    if (part<QPushButton>(window, parts.button)->isChecked())
+        open += QLatin1Char('b');
+    if (part<QAction>(window, parts.action)->isChecked())
+        open += QLatin1Char('a');
+    return open;
+}
+
+/** Whether there is a camera behind the controls of a dialog. */
+bool isUsable(const OrvCamConfig &window, const Parts &parts)
+{
+    const auto controls = dialogOf(window, parts)->findChildren<QWidget *>();
+    return std::any_of(controls.begin(), controls.end(), [](const QWidget *control) {
+        const bool isControl = qobject_cast<const QComboBox *>(control) || qobject_cast<const QCheckBox *>(control);
+        return isControl && control->isEnabled();
+    });
+}
+
+QString aboutText(const OrvCamConfig &window, const char *label)
+{
+    return part<QLabel>(*part<QDialog>(window, "OrvCamConfigAboutDialog"), label)->text();
+}
+
+} // namespace
+
+void OrvCamConfigTest::initTestCase()
+{
+    QCOMPARE(int(OrvGui::CameraParams::period.count()), 1000);
+    OrvGui::CameraParams::period = std::chrono::milliseconds(5);
+}
+
+void OrvCamConfigTest::init()
+{
+    TestCase::init();
+    OrvSim::reset();
+}
+
+void OrvCamConfigTest::namesItsParts()
+{
+    const Camera camera;
+    const OrvCamConfig window(camera.device());
+    QCOMPARE(window.objectName(), QStringLiteral("OrvCamConfigMainWindow"));
+    QCOMPARE(window.windowTitle(), QStringLiteral("CamConfig"));
+    QVERIFY(!window.windowIcon().isNull());
+    QStringList menus;
+    for (QAction *const action : part<QMenuBar>(window, "menubar")->actions())
+        menus.append(action->menu()->objectName() + QLatin1Char('=') + action->text());
+    QCOMPARE(menus.join(QLatin1Char(' ')), QStringLiteral("menuMenu=Menu menuView=View menuHelp=Help"));
+    const std::pair<const char *, QString> labels[] = {
+        {"label", QStringLiteral("Size")},          {"label_8", QStringLiteral("PxL")},
+        {"label_7", QStringLiteral("fps")},         {"lblFrameTime", QStringLiteral("\u03bcs")},
+        {"lblExposure", QStringLiteral("\u03bcs")}, {"lblTemperature", QStringLiteral("\u00b0C")}};
+    for (const auto &[name, text] : labels)
+        QCOMPARE(part<QLabel>(window, name)->text(), text);
+    for (const Parts &parts : dialogs) {
+        auto *const button = part<QPushButton>(window, parts.button);
+        QVERIFY2(button->isCheckable() && !button->icon().pixmap(16).isNull(), parts.button);
+        QCOMPARE(button->text(), part<QAction>(window, parts.action)->text());
+    }
+}
+
+void OrvCamConfigTest::countsFrames_data()
+{
+    QTest::addColumn<qint64>("frameTime");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("usual") << qint64(20000) << QStringLiteral("50.00");
+    QTest::newRow("rounded") << qint64(3) << QStringLiteral("333333.33");
+    QTest::newRow("none") << qint64(0) << QStringLiteral("0.00");
+    QTest::newRow("slow") << std::numeric_limits<qint64>::max() << QStringLiteral("0.00");
+    QTest::newRow("nonsense") << qint64(-500000) << QStringLiteral("-2.00");
+}
+
+void OrvCamConfigTest::countsFrames()
+{
+    QFETCH(qint64, frameTime);
+    QTEST(OrvGui::framesPerSecond(frameTime), "text");
+}
+
+void OrvCamConfigTest::followsTheFrameMode_data()
+{
+    QTest::addColumn<QByteArray>("mode");
+    QTest::addColumn<QByteArray>("selected");
+    QTest::addColumn<QString>("columnA");
+    QTest::addColumn<QString>("columnB");
+    QTest::newRow("A") << QByteArray("FrameA") << QByteArray("FrameA") << frameA << noInfo;
+    QTest::newRow("B") << QByteArray("FrameB") << QByteArray("FrameB") << noInfo << frameB;
+    QTest::newRow("both") << QByteArray("FrameAB") << QByteArray("FrameA") << frameA << frameB;
+}
+
+void OrvCamConfigTest::followsTheFrameMode()
+{
+    QFETCH(QByteArray, mode);
+    QFETCH(QByteArray, selected);
+    const Camera camera;
+    QVERIFY(camera.set("FrameMode", mode));
+    QVERIFY(camera.set("FrameAB_Selector", selected));
+    OrvCamConfig window(camera.device());
+    window.show();
+    waitForAStep();
+    QTEST(column(window, "A"), "columnA");
+    QTEST(column(window, "B"), "columnB");
+    QVERIFY(part<QWidget>(window, "pushBtnFrameAB")->isVisible());
+}
+
+/** The frame that the selector shows is the one that is kept up to date, and nothing is written for it. */
+void OrvCamConfigTest::followsTheSelector()
+{
+    const Camera camera;
+    OrvCamConfig window(camera.device());
+    QTRY_COMPARE(column(window, "B"), frameB);
+    camera.takeWrites();
+    QVERIFY(camera.set("Frame_Height", "720"));
+    QTRY_COMPARE(column(window, "A"), QStringLiteral("1920x720 50.00 20000 105"));
+    QVERIFY(camera.set("FrameAB_Selector", "FrameB"));
+    QVERIFY(camera.set("Frame_Height", "240"));
+    QTRY_COMPARE(column(window, "B"), QStringLiteral("640x240 384.62 2600 2000"));
+    QCOMPARE(column(window, "A"), QStringLiteral("1920x720 50.00 20000 105"));
+    QCOMPARE(camera.takeWrites(), 3);
+}
+
+void OrvCamConfigTest::readsBothFramesOnce_data()
+{
+    QTest::addColumn<QByteArray>("selected");
+    QTest::newRow("frame A selected") << QByteArray("FrameA");
+    QTest::newRow("frame B selected") << QByteArray("FrameB");
+}
+
+void OrvCamConfigTest::readsBothFramesOnce()
+{
+    QFETCH(QByteArray, selected);
+    const Camera camera;
+    const OrvCamConfig window(camera.device());
+    for (int i = 0; i < 2; ++i) {
+        QVERIFY(camera.set("FrameMode", selected)); // selects that frame
+        QTRY_COMPARE(camera.value("FrameAB_Selector"), QString::fromLatin1(selected));
+        waitForAStep();
+        camera.takeWrites();
+        QVERIFY(camera.set("FrameMode", "FrameAB"));
+        waitForAStep();
+        QCOMPARE(column(window, "A"), frameA);
+        QCOMPARE(column(window, "B"), frameB);
+        QCOMPARE(camera.value("FrameAB_Selector"), QString::fromLatin1(selected));
+        QCOMPARE(camera.takeWrites(), 3); // the mode, and the selector to and fro
+    }
+}
+
+void OrvCamConfigTest::leavesTheOtherFrameOutThatCannotBeSelected()
+{
+    const Camera camera;
+    QVERIFY(camera.refuse("FrameAB_Selector"));
+    const OrvCamConfig window(camera.device());
+    QTRY_COMPARE(column(window, "A"), frameA);
+    QCOMPARE(column(window, "B"), noInfo);
+    QVERIFY(!DialogTest::shownMessage());
+}
+
+void OrvCamConfigTest::survivesWhoeverHearsOfTheSelector()
+{
+    const Camera camera;
+    QPointer<OrvCamConfig> window = new OrvCamConfig(camera.device());
+    OrvGenParam::Enum *const selector = camera.enumeration("FrameAB_Selector");
+    SimTest::Sink sink([&](OrvGenParam::Param *) { window->SetDevice(nullptr); });
+    selector->RegisterEvent(&sink);
+    QTRY_COMPARE(sink.count, 1);
+    QCOMPARE(column(*window, "A"), noInfo);
+    selector->UnregisterEvent(&sink);
+
+    SimTest::Sink destroyer([&](OrvGenParam::Param *) { delete window; });
+    window->SetDevice(camera.device());
+    selector->RegisterEvent(&destroyer);
+    QTRY_VERIFY(!window);
+    selector->UnregisterEvent(&destroyer);
+    QCOMPARE(OrvSim::liveObjects().sinks, std::size_t(0));
+}
+
+void OrvCamConfigTest::hasOneColumnForOneFrame()
+{
+    const Camera less(monochrome);
+    const Camera full;
+    OrvCamConfig window(less.device());
+    window.show();
+    const auto checkColumns = [&](int columns) {
+        auto *const grid = part<QGridLayout>(window, "gridLayout");
+        for (const char *const name : {"Size", "Fps", "Ftm", "Exp"}) {
+            const QByteArray field = QByteArray("lineEdit") + name + "Frame";
+            int row, column, rows, span;
+            grid->getItemPosition(grid->indexOf(part<QWidget>(window, (field + 'A').constData())), &row, &column, &rows,
+                                  &span);
+            QCOMPARE(column, 1);
+            QCOMPARE(span, 3 - columns);
+            QCOMPARE(part<QWidget>(window, (field + 'B').constData())->isVisible(), columns == 2);
+        }
+        for (const char *const name : {"lblFrameB", "pushBtnFrameAB"})
+            QCOMPARE(part<QWidget>(window, name)->isVisible(), columns == 2);
+        QCOMPARE(part<QAction>(window, "actionFrame_A_B")->isVisible(), columns == 2);
+    };
+    checkColumns(1);
+    QTRY_COMPARE(column(window, "A"), monochromeFrame);
+    window.SetDevice(full.device());
+    checkColumns(2);
+    trigger(window, "actionFrame_A_B");
+    window.SetDevice(less.device());
+    checkColumns(1);
+    QCOMPARE(openParts(window, dialogs[0]), QString());
+    QCOMPARE(column(window, "B"), noInfo);
+}
+
+void OrvCamConfigTest::leavesOutWhatCannotBeRead()
+{
+    const Camera camera(DialogTest::plugInChangedCamera({"CurrentExposureTime", "DeviceModelName", "FrameMode"}));
+    const OrvCamConfig window(camera.device());
+    QTRY_COMPARE(column(window, "A"), QStringLiteral("1920x1080 50.00 20000 "));
+    QCOMPARE(statusText(window), QStringLiteral("Unknown"));
+    QVERIFY(!temperature(window).isEmpty());
+    for (const char *const feature : {"Frame_Height", "CurrentTemperature"})
+        QVERIFY(OrvSim::setFault("CHANGED", feature, OrvSim::Fault::FailRead));
+    camera.params()->GetNodeMap()->InvalidateNodes();
+    QTRY_COMPARE(temperature(window), QString());
+    QVERIFY(column(window, "A").startsWith(QLatin1Char(' ')));
+
+    const Camera bare(DialogTest::plugInBareCamera());
+    OrvCamConfig empty(bare.device());
+    empty.show();
+    waitForAStep();
+    QCOMPARE(column(empty, "A") + temperature(empty), noInfo);
+    QCOMPARE(statusText(empty), QStringLiteral("Unknown"));
+}
+
+void OrvCamConfigTest::takesTheTemperatureWhenShown()
+{
+    const Camera camera;
+    OrvCamConfig window(camera.device());
+    QCOMPARE(temperature(window), QString());
+    window.show();
+    QVERIFY(temperature(window).toInt() >= 41);
+}
+
+void OrvCamConfigTest::tellsOfTheCamera()
+{
+    const Camera camera(DialogTest::plugInChangedCamera({"EpcsID", "DeviceUserID"}));
+    OrvCamConfig window(camera.device());
+    window.show();
+    trigger(window, "actionAbout");
+    auto *const about = part<QDialog>(window, "OrvCamConfigAboutDialog");
+    QVERIFY(about->isVisible());
+    QCOMPARE(aboutText(window, "lblAppName"), QStringLiteral("OrvCameraConfiguration"));
+    QCOMPARE(aboutText(window, "lblAppVersion"), QStringLiteral("1.4.0 (build 2230) "));
+    const QString year = QString::number(QDate::currentDate().year());
+    QVERIFY(aboutText(window, "lblCopyright").contains(QChar(0xa9) + QStringLiteral(" ") + year));
+    const std::pair<const char *, const char *> values[] = {{"lblFirmwareVersion", "2.3.1"},
+                                                            {"lblDeviceModelName", "TF-2000C"},
+                                                            {"lblDeviceUserDefinedName", "N/A"},
+                                                            {"lblDeviceManufacturerName", "Orv"},
+                                                            {"lblFirmwareImage", "1"},
+                                                            {"lblRgsID", "4660"},
+                                                            {"lblEpcsID", "N/A"},
+                                                            {"lblSensorType", "BayerRG"},
+                                                            {"lblXmlVersion", "104"}};
+    for (const auto &[label, text] : values)
+        QCOMPARE(aboutText(window, label), QLatin1String(text));
+    trigger(window, "actionDisconnect"); // while it is open
+    QCOMPARE(aboutText(window, "lblRgsID"), QStringLiteral("N/A"));
+    QTest::mouseClick(part<QPushButton>(*about, "okButton"), Qt::LeftButton);
+    QVERIFY(!about->isVisible());
+}
+
+void OrvCamConfigTest::opensAndClosesDialogs_data()
+{
+    QTest::addColumn<int>("index");
+    for (int i = 0; i < int(std::size(dialogs)); ++i)
+        QTest::newRow(dialogs[i].dialog) << i;
+}
+
+void OrvCamConfigTest::opensAndClosesDialogs()
+{
+    QFETCH(int, index);
+    const Parts parts = dialogs[index];
+    const Camera camera;
+    OrvCamConfig window(camera.device());
+    window.show();
+    QDialog *const dialog = dialogOf(window, parts);
+    const auto click = [&] { QTest::mouseClick(part<QWidget>(window, parts.button), Qt::LeftButton); };
+    const auto choose = [&] { trigger(window, parts.action); };
+    const std::function<void()> openers[] = {click, choose, [&] { dialog->show(); }};
+    const std::function<void()> closers[] = {click,
+                                             choose,
+                                             [&] { QTest::keyClick(dialog, Qt::Key_Escape); },
+                                             [&] { dialog->close(); },
+                                             [&] { dialog->hide(); },
+                                             [&] { dialog->done(QDialog::Accepted); },
+                                             [&] { window.close(); },
+                                             [&] { trigger(window, "actionQuit"); }};
+    for (const auto &open : openers) {
+        for (const auto &close : closers) {
+            window.show();
+            open();
+            QCOMPARE(openParts(window, parts), QStringLiteral("dba"));
+            QVERIFY(isUsable(window, parts));
+            close();
+            QCOMPARE(openParts(window, parts), QString());
+        }
+    }
+}
+
+void OrvCamConfigTest::losesAndFindsTheCamera()
+{
+    const Camera camera;
+    OrvCamConfig window(camera.device());
+    window.show();
+    for (const Parts &parts : dialogs)
+        trigger(window, parts.action);
+    QTRY_COMPARE(column(window, "B"), frameB);
+    QCOMPARE(statusText(window), QStringLiteral("TF-2000C"));
+    auto *const icon = part<QLabel>(window, "lblConnectionIcon");
+    const QImage connected = icon->pixmap(Qt::ReturnByValue).toImage();
+    const std::size_t sinks = OrvSim::liveObjects().sinks;
+
+    QVERIFY(OrvSim::unplug(twoFrame));
+    QTRY_COMPARE(statusText(window), QStringLiteral("Disconnected"));
+    QCOMPARE(column(window, "A") + column(window, "B") + temperature(window), noInfo + noInfo);
+    QVERIFY(icon->pixmap(Qt::ReturnByValue).toImage() != connected);
+    QCOMPARE(OrvSim::liveObjects().sinks, std::size_t(0));
+    for (const Parts &parts : dialogs)
+        QVERIFY(dialogOf(window, parts)->isVisible() && !isUsable(window, parts));
+
+    QVERIFY(OrvSim::replug(twoFrame));
+    QTRY_COMPARE(column(window, "B"), frameB);
+    QCOMPARE(statusText(window), QStringLiteral("TF-2000C"));
+    QCOMPARE(icon->pixmap(Qt::ReturnByValue).toImage(), connected);
+    QCOMPARE(OrvSim::liveObjects().sinks, sinks);
+    QCOMPARE(OrvSim::liveObjects().eventCallbacks, std::size_t(2));
+    for (const Parts &parts : dialogs)
+        QVERIFY(dialogOf(window, parts)->isVisible() && isUsable(window, parts));
+}
+
+void OrvCamConfigTest::hearsOfEventsFromOtherThreads()
+{
+    OrvSim::setEventsFromOtherThread(true);
+    const Camera camera;
+    auto window = std::make_unique<OrvCamConfig>(camera.device());
+    window->show();
+    std::atomic<bool> isOver{false};
+    std::thread cables([&] {
+        for (int i = 0; i < 200; ++i) {
+            OrvSim::unplug(twoFrame);
+            OrvSim::replug(twoFrame);
+        }
+        OrvSim::waitForEvents();
+        isOver = true;
+    });
+    QTRY_VERIFY_WITH_TIMEOUT(isOver, 30000);
+    cables.join();
+    QTRY_COMPARE(column(*window, "B"), frameB);
+
+    // While the window goes.
+    std::thread others([&] {
+        for (int i = 0; i < 200; ++i) {
+            OrvSim::unplug(twoFrame);
+            OrvSim::replug(twoFrame);
+        }
+    });
+    for (int i = 0; i < 10; ++i)
+        window = std::make_unique<OrvCamConfig>(camera.device());
+    window.reset();
+    others.join();
+    OrvSim::waitForEvents();
+    QCOMPARE(OrvSim::liveObjects().eventCallbacks, std::size_t(0));
+    QCOMPARE(OrvSim::liveObjects().sinks, std::size_t(0));
+}
+
+/** What came before the timer looked counts no more, and what was the former camera's does not count for the next. */
+void OrvCamConfigTest::keepsTheLastEvent()
+{
+    const Camera camera;
+    const Camera other(monochrome);
+    OrvCamConfig window(camera.device());
+    QTRY_COMPARE(column(window, "B"), frameB);
+    QVERIFY(OrvSim::unplug(twoFrame));
+    QVERIFY(OrvSim::replug(twoFrame));
+    waitForAStep();
+    QCOMPARE(statusText(window), QStringLiteral("TF-2000C"));
+    QVERIFY(OrvSim::unplug(twoFrame));
+    window.SetDevice(other.device());
+    waitForAStep();
+    QCOMPARE(statusText(window), QStringLiteral("SF-1300M"));
+    QVERIFY(OrvSim::unplug(monochrome));
+    window.SetDevice(other.device()); // the same once more: what it told stands
+    QTRY_COMPARE(statusText(window), QStringLiteral("Disconnected"));
+}
+
+void OrvCamConfigTest::leavesTheCallersDeviceAlone()
+{
+    {
+        const Camera camera;
+        const Camera other(monochrome);
+        OrvCamConfig window(camera.device());
+        const OrvSim::LiveObjects live = OrvSim::liveObjects();
+        for (int i = 0; i < 3; ++i) {
+            window.SetDevice(other.device());
+            QCOMPARE(statusText(window), QStringLiteral("SF-1300M"));
+            window.SetDevice(nullptr);
+            QCOMPARE(OrvSim::liveObjects().sinks + OrvSim::liveObjects().eventCallbacks, std::size_t(0));
+            window.SetDevice(camera.device());
+            window.SetDevice(camera.device());
+            QCOMPARE(OrvSim::liveObjects().sinks, live.sinks);
+            QCOMPARE(OrvSim::liveObjects().eventCallbacks, live.eventCallbacks);
+        }
+        trigger(window, "actionDisconnect");
+        QCOMPARE(statusText(window), QStringLiteral("Disconnected"));
+        QCOMPARE(OrvSim::liveObjects().devices, std::size_t(2));
+        window.SetDevice(camera.device());
+        for (const auto answer : {OrvSim::Parameters::Null, OrvSim::Parameters::Error}) {
+            OrvSim::setParameters(twoFrame, answer);
+            window.SetDevice(camera.device());
+            QCOMPARE(statusText(window), QStringLiteral("Disconnected"));
+        }
+    }
+    QVERIFY(isNothingHeld());
+}
+
+void OrvCamConfigTest::asksForACamera()
+{
+    OrvTest::whenOpen<OrvCameraSelectorDialog>([](OrvCameraSelectorDialog &selector) {
+        QCOMPARE(selector.windowTitle(), QStringLiteral("Select a device"));
+        QVERIFY(selector.isPollChecked());
+        choose(selector, twoFrame);
+    });
+    {
+        const Camera camera(SimTest::stray);
+        OrvCamConfig window(nullptr);
+        QCOMPARE(statusText(window), QStringLiteral("TF-2000C"));
+        QCOMPARE(OrvSim::liveObjects().devices, std::size_t(2));
+        QCOMPARE(OrvSim::liveObjects().systemReferences, std::size_t(1));
+        window.show();
+        trigger(window, "actionColor");
+        QVERIFY(isUsable(window, dialogs[5]));
+        trigger(window, "actionDisconnect");
+        QCOMPARE(statusText(window), QStringLiteral("Disconnected"));
+        QVERIFY(!isUsable(window, dialogs[5]));
+        QCOMPARE(OrvSim::liveObjects().devices, std::size_t(1));
+        QCOMPARE(OrvSim::liveObjects().systemReferences, std::size_t(0));
+        chooseWhenAsked(monochrome);
+        trigger(window, "actionConnect");
+        QTRY_COMPARE(column(window, "A"), monochromeFrame);
+        window.SetDevice(camera.device());
+        QCOMPARE(OrvSim::liveObjects().devices, std::size_t(1));
+    }
+    QVERIFY(isNothingHeld());
+}
+
+void OrvCamConfigTest::staysWithoutACamera_data()
+{
+    QTest::addColumn<int>("reason");
+    QTest::newRow("no camera system") << 0;
+    QTest::newRow("cancelled") << 1;
+    QTest::newRow("cannot be opened") << 2;
+}
+
+void OrvCamConfigTest::staysWithoutACamera()
+{
+    QFETCH(int, reason);
+    if (reason == 0)
+        OrvSim::setSystemAvailable(false);
+    else if (reason == 1)
+        cancelWhenAsked();
+    else
+        chooseWhenAsked(twoFrame);
+    OrvSim::refuseToOpen(twoFrame, OrvCamErr_NoDevice);
+    OrvCamConfig window(nullptr);
+    window.show();
+    waitForAStep();
+    QVERIFY(window.isEnabled());
+    QCOMPARE(statusText(window), QStringLiteral("Disconnected"));
+    QCOMPARE(column(window, "A") + temperature(window), noInfo);
+    for (const Parts &parts : dialogs)
+        trigger(window, parts.action);
+    trigger(window, "actionAbout");
+    trigger(window, "actionDisconnect");
+    QVERIFY(isNothingHeld());
+}
+
+void OrvCamConfigTest::connectsToAnotherCamera()
+{
+    chooseWhenAsked(monochrome);
+    OrvCamConfig window(nullptr);
+    window.show();
+    trigger(window, "actionStrobe");
+    const OrvSim::LiveObjects live = OrvSim::liveObjects();
+    cancelWhenAsked();
+    trigger(window, "actionConnect");
+    QCOMPARE(statusText(window), QStringLiteral("SF-1300M"));
+    QCOMPARE(OrvSim::liveObjects().systemReferences, live.systemReferences);
+    QCOMPARE(OrvSim::liveObjects().sinks, live.sinks);
+    for (int i = 0; i < 2; ++i) { // another one, then the same again
+        chooseWhenAsked(twoFrame);
+        trigger(window, "actionConnect");
+        QTRY_COMPARE(column(window, "B"), frameB);
+        QVERIFY(dialogOf(window, dialogs[3])->isVisible() && isUsable(window, dialogs[3]));
+        QCOMPARE(OrvSim::liveObjects().devices, std::size_t(1));
+        QCOMPARE(OrvSim::liveObjects().systemReferences, std::size_t(1));
+        QCOMPARE(OrvSim::liveObjects().eventCallbacks, std::size_t(2));
+    }
+    OrvSim::refuseToOpen(monochrome, OrvCamErr_NoDevice);
+    chooseWhenAsked(monochrome);
+    trigger(window, "actionConnect");
+    QCOMPARE(statusText(window), QStringLiteral("Disconnected"));
+    QVERIFY(isNothingHeld());
+}
+
+void OrvCamConfigTest::survivesWhatHappensWhileItAsks()
+{
+    const auto whenAsked = [](const std::function<void(OrvCameraSelectorDialog &)> &action) {
+        OrvTest::whenOpen<OrvCameraSelectorDialog>(action);
+    };
+    {
+        const Camera camera;
+        QPointer<OrvCamConfig> window = new OrvCamConfig(camera.device());
+        window->show();
+        whenAsked([&](OrvCameraSelectorDialog &) { delete window; });
+        trigger(*window, "actionConnect");
+        QVERIFY(!window);
+
+        window = new OrvCamConfig(camera.device());
+        window->show();
+        whenAsked([&](OrvCameraSelectorDialog &selector) {
+            trigger(*window, "actionConnect"); // asks no second time
+            OrvSim::unplug(twoFrame);
+            window->SetDevice(nullptr);
+            choose(selector, monochrome);
+        });
+        trigger(*window, "actionConnect");
+        QTRY_COMPARE(statusText(*window), QStringLiteral("SF-1300M"));
+        whenAsked([&](OrvCameraSelectorDialog &) { window->close(); });
+        trigger(*window, "actionConnect");
+        QCOMPARE(statusText(*window), QStringLiteral("SF-1300M"));
+        delete window;
+
+        const auto parent = new QWidget;
+        parent->show();
+        whenAsked([&](OrvCameraSelectorDialog &) { delete parent; });
+        const OrvCamConfig orphan(nullptr, parent);
+        QVERIFY(!orphan.parent());
+        QCOMPARE(statusText(orphan), QStringLiteral("Disconnected"));
+    }
+    QVERIFY(isNothingHeld());
+}
+
+ORV_TEST_MAIN(OrvCamConfigTest)
+
+#include "tst_orvcamconfig.moc"

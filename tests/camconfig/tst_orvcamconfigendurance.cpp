@@ -1,0 +1,85 @@
+#include "configwindow.h"
+#include "orvtest.h"
+
+#include <malloc.h>
+
+using namespace ConfigTest;
+using DialogTest::Camera;
+using DialogTest::part;
+using SimTest::twoFrame;
+
+/** A day's work, five hundred times. */
+class OrvCamConfigEnduranceTest : public OrvTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void leavesNothingBehind();
+
+private:
+    void work(int round);
+};
+
+namespace {
+
+std::size_t heapInUse()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return info.uordblks + info.hblkhd;
+}
+
+} // namespace
+
+void OrvCamConfigEnduranceTest::initTestCase()
+{
+    OrvGui::CameraParams::period = std::chrono::milliseconds(1);
+    OrvSim::reset();
+}
+
+/** Connect, open all dialogs, edit, unplug, replug, close. */
+void OrvCamConfigEnduranceTest::work(int round)
+{
+    OrvSim::resetCounts(twoFrame);
+    chooseWhenAsked(twoFrame);
+    OrvCamConfig window(nullptr);
+    for (const Parts &parts : dialogs)
+        trigger(window, parts.action);
+    QTRY_COMPARE(column(window, "B"), frameB);
+    QCOMPARE(OrvSim::writeCount(twoFrame), std::uint64_t(2)); // the selector to and fro
+
+    auto *const edge = part<QComboBox>(*dialogOf(window, dialogs[1]), "cmBoxEdge");
+    part<QCheckBox>(*dialogOf(window, dialogs[1]), "chBoxEnable")->click();
+    DialogTest::enterInto(edge, round % 2 ? "FallingEdge" : "RisingEdge");
+    part<QCheckBox>(*dialogOf(window, dialogs[1]), "chBoxEnable")->click();
+    QCOMPARE(OrvSim::writeCount(twoFrame), std::uint64_t(5));
+
+    QVERIFY(OrvSim::unplug(twoFrame));
+    QTRY_COMPARE(statusText(window), QStringLiteral("Disconnected"));
+    QVERIFY(OrvSim::replug(twoFrame));
+    QTRY_COMPARE(column(window, "B"), frameB);
+    QCOMPARE(OrvSim::writeCount(twoFrame), std::uint64_t(7));
+    window.close();
+}
+
+void OrvCamConfigEnduranceTest::leavesNothingBehind()
+{
+    std::size_t early = 0;
+    for (int round = 1; round <= 500; ++round) {
+        work(round);
+        if (QTest::currentTestFailed())
+            return;
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(isNothingHeld());
+        if (round == 100)
+            early = heapInUse();
+    }
+    const double growth = double(heapInUse()) / double(early) - 1;
+    QVERIFY2(growth < 0.01, qPrintable(QString::number(growth)));
+    const Camera camera;
+    QCOMPARE(camera.value("FrameAB_Selector"), QStringLiteral("FrameA"));
+}
+
+ORV_TEST_MAIN(OrvCamConfigEnduranceTest)
+
+#include "tst_orvcamconfigendurance.moc"
