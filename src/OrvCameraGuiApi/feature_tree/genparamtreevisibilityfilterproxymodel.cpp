@@ -428,7 +428,7 @@ void GenParamTreeVisibilityFilterProxyModelPrivate::changeLayout(const std::vect
 bool GenParamTreeVisibilityFilterProxyModelPrivate::hasNewCategory(const Branch &branch) const
 {
     return std::any_of(branch.rows.begin(), branch.rows.end(), [&](int row) {
-        return branch.sourceRows[size_t(row)].hasRowsBelow && position(branch.formerRows, row) < 0;
+        return branch.sourceRows[size_t(row)].isCategory && position(branch.formerRows, row) < 0;
     });
 }
 

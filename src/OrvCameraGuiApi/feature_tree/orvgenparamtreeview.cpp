@@ -193,7 +193,7 @@ void OrvGenParamTreeViewPrivate::install(GenApi::INodeMap *map)
     showModel(proxy);
     connectProxy();
     splitColumns();
-    spanAllCategories(*ui.treeView);
+    setSpanForChildren(*ui.treeView, QModelIndex());
 }
 
 /** Nothing refers to the node map afterwards; only the objects that did are freed later, for they may be in use. */
@@ -249,12 +249,12 @@ void OrvGenParamTreeViewPrivate::connectProxy()
     // Somebody's slot may have had the model taken away before these are called.
     QObject::connect(proxy, &GenParamTreeVisibilityFilterProxyModel::categoriesHaveCome, q, [this] {
         if (proxy)
-            spanAllCategories(*ui.treeView);
+            setSpanForChildren(*ui.treeView, QModelIndex());
     });
     QObject::connect(proxy, &QAbstractItemModel::rowsInserted, q,
                      [this](const QModelIndex &parent, int first, int last) {
                          if (proxy)
-                             spanCategories(*ui.treeView, parent, first, last);
+                             setSpanForChildren(*ui.treeView, parent, first, last);
                      });
 }
 
