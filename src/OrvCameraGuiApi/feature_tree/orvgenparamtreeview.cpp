@@ -326,14 +326,10 @@ void OrvGenParamTreeViewPrivate::repaintSoon(GenApi::IValue *feature)
 void OrvGenParamTreeViewPrivate::repaintRows()
 {
     const QSet<GenApi::IValue *> features = std::exchange(featuresToRepaint, {});
-    QWidget *const viewport = ui.treeView->viewport();
-    for (QModelIndex index = ui.treeView->indexAt(QPoint(0, 0)); index.isValid();
-         index = ui.treeView->indexBelow(index)) {
-        const QRect rect = ui.treeView->visualRect(index);
-        if (rect.top() >= viewport->height())
-            break;
-        if (features.contains(featureOf(index)))
-            viewport->update(0, rect.top(), viewport->width(), rect.height());
+    const QVector<FeatureTree::Row> rows = ui.treeView->rowsOnScreen();
+    for (const FeatureTree::Row &row : rows) {
+        if (features.contains(featureOf(row.index)))
+            ui.treeView->viewport()->update(row.rect);
     }
 }
 
