@@ -100,7 +100,7 @@ public:
     {
     }
 
-    void span() { spanAllCategories(tree); }
+    void span() { setSpanForChildren(tree, QModelIndex()); }
     void saveState() { m_state = TreeState::save(tree, 0, m_splitter); }
     void loadState() { TreeState::loadExpansion(tree, m_state); }
 

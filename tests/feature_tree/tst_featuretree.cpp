@@ -115,6 +115,40 @@ private Q_SLOTS:
             QVERIFY(painted.contains(shown.tree.visualRect(index).center()));
     }
 
+    /** A category with one feature that is listed twice in a row, and once more far below. */
+    void repaintsWhatStandsInSeveralPlaces()
+    {
+        const QByteArray plain = "<pFeature>Plain</pFeature>";
+        ShownView shown("<Category Name=\"Root\">" + plain.repeated(9)
+                        + "<pFeature>Both</pFeature><pFeature>Both</pFeature>" + plain.repeated(99)
+                        + "<pFeature>Last</pFeature></Category>"
+                          "<Category Name=\"Last\"><pFeature>Both</pFeature></Category>"
+                          "<Category Name=\"Both\"><pFeature>Number</pFeature></Category>"
+                          "<Integer Name=\"Number\"><Value>1</Value></Integer>"
+                          "<Integer Name=\"Plain\"><Value>1</Value></Integer>");
+        QVERIFY(shown.show());
+        PaintLog paints(shown.tree->viewport());
+        const QRect first = shown.tree->visualRect(shown.tree->model()->index(0, 1));
+        const auto isRepainted = [&](int y) {
+            for (int i = 0; i < 5; ++i)
+                QCoreApplication::processEvents();
+            paints.clear();
+            shown.tree->visualRect(shown.tree->model()->index(0, 0)); // from where Qt looks for the next row
+            const auto number = shown.node<GenApi::CIntegerPtr>("Number");
+            number->SetValue(number->GetValue() + 1);
+            const QPoint place(first.center().x(), y);
+            return shown.tree->indexAt(place).siblingAtColumn(0).data().toString() == QLatin1String("Number")
+                && QTest::qWaitFor([&] { return paints.region.contains(place); });
+        };
+        for (const int row : {10, 12})
+            QVERIFY(isRepainted(row * first.height() + 2));
+        shown.tree->scrollToBottom();
+        int lowest = shown.tree->viewport()->height() - 1;
+        while (!shown.tree->indexAt(QPoint(0, lowest)).isValid())
+            --lowest;
+        QVERIFY(isRepainted(lowest));
+    }
+
     void repaintsFromRightToLeft()
     {
         ShownTree shown;

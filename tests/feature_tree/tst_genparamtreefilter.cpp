@@ -300,6 +300,11 @@ private Q_SLOTS:
         QSignalSpy data(&proxy, &QAbstractItemModel::dataChanged);
         camera.node<GenApi::CIntegerPtr>("Gain")->SetValue(5);
         QCOMPARE(data.first().first().toModelIndex(), QModelIndex(gain).siblingAtColumn(1));
+        for (const int isThere : {1, 0}) {
+            camera.node<GenApi::CIntegerPtr>("Never")->SetValue(isThere);
+            QTRY_COMPARE(shape(proxy).startsWith(QLatin1String("Attic")), bool(isThere));
+            QVERIFY(gain.isValid() && gain.row() == 0);
+        }
     }
 
     void goesWithItsSource()

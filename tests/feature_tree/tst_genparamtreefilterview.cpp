@@ -330,6 +330,22 @@ private Q_SLOTS:
         QVERIFY(shown.rows().size() < implemented);
     }
 
+    /** The row that the current item moves to goes by the value that is written because it moves. */
+    void movesToARowThatGoes()
+    {
+        for (const int column : {GenParamTreeModel::NameColumn, GenParamTreeModel::ValueColumn}) {
+            ShownView shown(Description::text());
+            QVERIFY(shown.show());
+            QVERIFY(shown.type("Amount", "0"));
+            const QPersistentModelIndex going(shown.cell("Gamma Gain 42", column));
+            QVERIFY(going.isValid());
+            shown.tree->setCurrentIndex(going);
+            QVERIFY(!going.isValid());
+            QCOMPARE(shown.tree->currentIndex().parent().data().toString(), QStringLiteral("Top 44"));
+            QVERIFY(shown.enter("Amount", "1"));
+        }
+    }
+
     /** Whoever hears that the current item moves on may end it all. */
     void isTakenApartWhileRowsGo()
     {

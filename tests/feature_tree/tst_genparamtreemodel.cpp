@@ -100,7 +100,7 @@ private Q_SLOTS:
     void hasNoRowsWithoutFeatures();
     void keepsTheFirstPlaceOfAFeature();
     void endsCategoriesInsideThemselves();
-    void takesDeeplyNestedCategories();
+    void boundsNestedCategories();
     void texts_data();
     void texts();
     void declaredAddressesOverruleNames();
@@ -211,19 +211,29 @@ void TestGenParamTreeModel::endsCategoriesInsideThemselves()
     QCOMPARE(names.join(QLatin1Char(' ')), QStringLiteral("Outer Inner Outer Root Inner Twice Width Twice Width"));
 }
 
-void TestGenParamTreeModel::takesDeeplyNestedCategories()
+/** Without bounds a stack would be too small for it, and no memory large enough. */
+void TestGenParamTreeModel::boundsNestedCategories()
 {
-    constexpr int depth = 5000;
     QByteArray nodes = "<Category Name=\"Root\"><pFeature>C0</pFeature></Category>";
-    for (int i = 0; i < depth; ++i) {
-        const QByteArray next = i + 1 < depth ? "C" + QByteArray::number(i + 1) : QByteArray("Leaf");
-        nodes += "<Category Name=\"C" + QByteArray::number(i) + "\"><pFeature>" + next + "</pFeature></Category>";
+    for (int i = 0; i < 5000; ++i) {
+        const QByteArray next = "<pFeature>C" + QByteArray::number(i + 1) + "</pFeature>";
+        nodes += "<Category Name=\"C" + QByteArray::number(i) + "\">" + next + next + "</Category>";
     }
-    const FeatureTree tree(nodes + "<Integer Name=\"Leaf\"><Value>1</Value></Integer>");
+    const FeatureTree tree(nodes + "<Category Name=\"C5000\"></Category>");
+    std::vector<QModelIndex> level = {tree.model->index(0, 0)};
+    size_t rows = 0;
     int levels = 0;
-    for (QModelIndex index = tree.model->index(0, 0); index.isValid(); index = tree.model->index(0, 0, index))
-        ++levels;
-    QCOMPARE(levels, depth + 1);
+    for (; !level.empty(); ++levels) {
+        std::vector<QModelIndex> next;
+        for (const QModelIndex &index : level) {
+            for (int row = 0; row < tree.model->rowCount(index); ++row)
+                next.push_back(tree.model->index(row, 0, index));
+        }
+        rows += level.size();
+        level = std::move(next);
+    }
+    QCOMPARE(levels, 1000);
+    QVERIFY(rows > 10000 && rows <= 1000000 + 2 * 1000);
 }
 
 void TestGenParamTreeModel::texts_data()

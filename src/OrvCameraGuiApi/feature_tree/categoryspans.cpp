@@ -5,14 +5,14 @@
 #include <QTreeView>
 
 /** From top to bottom: the tree looks for each row near the one before. */
-void spanCategories(QTreeView &tree, const QModelIndex &parent, int first, int last)
+void setSpanForChildren(QTreeView &tree, const QModelIndex &parent, int first, int last)
 {
     forEachCategory(*tree.model(), parent, first, last, [&](const QModelIndex &index, size_t) {
         tree.setFirstColumnSpanned(index.row(), index.parent(), true);
     });
 }
 
-void spanAllCategories(QTreeView &tree)
+void setSpanForChildren(QTreeView &tree, const QModelIndex &parent)
 {
-    spanCategories(tree, QModelIndex(), 0, tree.model()->rowCount() - 1);
+    setSpanForChildren(tree, parent, 0, tree.model()->rowCount(parent) - 1);
 }

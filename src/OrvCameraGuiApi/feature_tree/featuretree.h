@@ -1,8 +1,9 @@
 #pragma once
 
+#include <QHash>
 #include <QPair>
-#include <QSet>
 #include <QTreeView>
+#include <QVector>
 
 /**
  * A tree view for large models whose values change often. A changed value costs next to nothing unless its row is on
@@ -18,6 +19,16 @@ class FeatureTree : public QTreeView
 public:
     using QTreeView::QTreeView;
 
+    /** A row that can be seen, at least in part. */
+    struct Row
+    {
+        QModelIndex index; ///< in the column that is shown first
+        QRect rect; ///< of all columns, in viewport coordinates
+    };
+
+    /** From top to bottom; rows that stand in several places are there several times. For rows of one height. */
+    QVector<Row> rowsOnScreen() const;
+
     /** Writes what is entered in the editor that is open at \a index, if it counts, and closes the editor. */
     void endEditing(const QModelIndex &index);
 
@@ -30,8 +41,11 @@ protected:
 private:
     void findRowsOnScreen();
     bool concerns(const QModelIndex &topLeft, const QModelIndex &bottomRight) const;
+    bool isElsewhereToo(const QModelIndex &index) const;
 
-    /** By internal identifier and row; a row that has come since then is being painted anyhow, or will be. */
-    QSet<QPair<quintptr, int>> m_rowsOnScreen;
-    bool m_knowsRowsOnScreen = false;
+    /**
+     * By internal identifier and row, in how many places each is; a row that has come since then is being painted
+     * anyhow, or will be.
+     */
+    QHash<QPair<quintptr, int>, int> m_rowsOnScreen;
 };

@@ -8,6 +8,7 @@
 
 #include <QBrush>
 #include <QGuiApplication>
+#include <QHash>
 #include <QPalette>
 
 #include <algorithm>
@@ -43,7 +44,12 @@ struct Visit
     GenApi::FeatureList_t features;
     qint32 count;
     qint32 next;
+    qint64 rows; ///< so far, with those in the categories that it has
 };
+
+// What a view that expands all can take: it is recursive, and rows that stand in several places are rows each time.
+constexpr size_t maximumDepth = 1000;
+constexpr qint64 maximumRows = 1000000;
 
 /** Of what has failed. */
 constexpr QColor errorColor(255, 0, 0);
@@ -114,6 +120,8 @@ public:
     void enter(GenApi::ICategory &category, FeatureEntry *entry);
     FeatureEntry *addFeature(GenApi::IValue *value, FeatureEntry *parent, qint32 row);
     FeatureEntry *furtherOccurrence(FeatureEntry *first, FeatureEntry *parent, qint32 row);
+    bool canStandAgain(const FeatureEntry &category, const FeatureEntry *parent);
+    void leave();
     void describe(FeatureEntry &entry, const GenApi::INode &node);
     const char *keepText(const GenICam::gcstring &text);
     void nodeChanged(FeatureEntry &entry);
@@ -144,6 +152,8 @@ public:
 
     GenApi::IValue *root = nullptr;
     std::vector<Visit> visits; ///< while the tree is built: the way from the root to the category being visited
+    QHash<const FeatureEntry *, qint64> rowsIn; ///< the categories that have been visited, while the tree is built
+    qint64 rowsInAll = 0;
     const QExplicitlySharedDataPointer<NodeChangeForwarder> forwarder;
 };
 
@@ -157,6 +167,7 @@ GenParamTreeModelPrivate::GenParamTreeModelPrivate(GenParamTreeModel *model, Gen
         rootChildCount = 0;
     callbacks.shrink_to_fit();
     visits = {};
+    rowsIn = {};
 }
 
 GenParamTreeModelPrivate::~GenParamTreeModelPrivate()
@@ -188,12 +199,14 @@ void GenParamTreeModelPrivate::build()
     while (!visits.empty()) {
         Visit &visit = visits.back();
         if (visit.next == visit.count) {
-            visits.pop_back();
+            leave();
             continue;
         }
         // Adding a category begins a visit, which may move this one.
         FeatureEntry **const slot = visit.children + visit.next;
         const qint32 row = visit.next++;
+        ++visit.rows;
+        ++rowsInAll;
         prefetch(visit.features, size_t(row) + 4);
         *slot = addFeature(visit.features[size_t(row)], visit.category, row);
     }
@@ -209,7 +222,16 @@ void GenParamTreeModelPrivate::enter(GenApi::ICategory &category, FeatureEntry *
         static_cast<FeatureEntry **>(arena.allocate(size_t(count) * sizeof(FeatureEntry *), alignof(FeatureEntry *)));
     (entry ? entry->second.children : rootChildren) = children;
     (entry ? entry->second.childCount : rootChildCount) = count;
-    visits.push_back({entry, children, std::move(features), count, 0});
+    visits.push_back({entry, children, std::move(features), count, 0, 0});
+}
+
+void GenParamTreeModelPrivate::leave()
+{
+    const qint64 rows = visits.back().rows;
+    rowsIn.insert(visits.back().category, rows);
+    visits.pop_back();
+    if (!visits.empty())
+        visits.back().rows += rows;
 }
 
 FeatureEntry *GenParamTreeModelPrivate::addFeature(GenApi::IValue *value, FeatureEntry *parent, qint32 row)
@@ -228,7 +250,7 @@ FeatureEntry *GenParamTreeModelPrivate::addFeature(GenApi::IValue *value, Featur
     if (node)
         failureOf([&] { describe(entry, *node); });
     // A category is entered only where it stands first: no description can make this endless.
-    if (value != root && mayBeCategory(node)) {
+    if (value != root && visits.size() < maximumDepth && mayBeCategory(node)) {
         if (auto *const category = dynamic_cast<GenApi::ICategory *>(value))
             enter(*category, &entry);
     }
@@ -236,18 +258,28 @@ FeatureEntry *GenParamTreeModelPrivate::addFeature(GenApi::IValue *value, Featur
 }
 
 /**
- * A feature that is listed again keeps the place of its first occurrence, intentionally. Only a category inside itself
- * gets an entry for this one row, without children: otherwise a view that expands all would find no end.
+ * A feature that is listed again keeps the place of its first occurrence, intentionally. Only a category that cannot be
+ * shown once more gets an entry for this one row, without children.
  */
 FeatureEntry *GenParamTreeModelPrivate::furtherOccurrence(FeatureEntry *first, FeatureEntry *parent, qint32 row)
 {
-    const FeatureEntry *ancestor = first->second.children ? parent : nullptr;
-    while (ancestor && ancestor != first)
-        ancestor = ancestor->second.parent;
-    if (!ancestor)
+    if (!first->second.children || canStandAgain(*first, parent))
         return first;
     void *const place = arena.allocate(sizeof(FeatureEntry), alignof(FeatureEntry));
     return new (place) FeatureEntry(first->first, IndexFeature{parent, nullptr, row, 0, first->second.name});
+}
+
+/** Otherwise a view that expands all would find no end: inside itself, or in ever more places of one another. */
+bool GenParamTreeModelPrivate::canStandAgain(const FeatureEntry &category, const FeatureEntry *parent)
+{
+    while (parent && parent != &category)
+        parent = parent->second.parent;
+    const qint64 rows = rowsIn.value(&category);
+    if (parent || rowsInAll + rows > maximumRows)
+        return false;
+    visits.back().rows += rows;
+    rowsInAll += rows;
+    return true;
 }
 
 /** Keeps the name, and learns from it whether this node map declares addresses. */

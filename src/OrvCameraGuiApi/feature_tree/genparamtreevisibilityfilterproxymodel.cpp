@@ -107,6 +107,7 @@ public:
     std::vector<Branch *> findChanging();
     void announceGoing(const std::vector<Branch *> &changing);
     void changeLayout(const std::vector<Branch *> &changing);
+    void changeLayout(Branch &branch, Rows rows);
     bool hasNewCategory(const Branch &branch) const;
     void movePersistentIndexes();
     void sourceDataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight, const QVector<int> &roles);
@@ -132,6 +133,7 @@ public:
     size_t changes = 0; ///< that were looked for elsewhere
     std::vector<Place> queuedChecks; ///< of categories; emptied when the event loop runs next
     QHash<quintptr, QVector<Place>> furtherPlaces; ///< of features in several places all but the first one, if known
+    bool isAnyListedAgain = false; ///< of the branches
     quint64 walk = 1; ///< what is known of branches being shown was found out in this one, or counts no more
     quint64 revision = 0; ///< of the rows, also of those to come
     quint64 generation = 0; ///< of the branches: a new one has none of the former
@@ -212,6 +214,7 @@ Branch *GenParamTreeVisibilityFilterProxyModelPrivate::addBranch(const QModelInd
     branch->source = sourceParent;
     branch->parent = parent;
     branch->isListedAgain = furtherPlaces.contains(sourceParent.internalId());
+    isAnyListedAgain |= branch->isListedAgain;
     branches.insert(sourceParent.internalId(), branch);
     readSourceRows(*branch);
     findListedAgain(*branch);
@@ -242,7 +245,7 @@ void GenParamTreeVisibilityFilterProxyModelPrivate::findListedAgain(Branch &bran
             continue;
         furtherPlaces[index.internalId()].append({&branch, row});
         if (Branch *const listed = branches.value(index.internalId()))
-            listed->isListedAgain = true;
+            listed->isListedAgain = isAnyListedAgain = true;
     }
 }
 
@@ -425,10 +428,17 @@ void GenParamTreeVisibilityFilterProxyModelPrivate::changeLayout(const std::vect
         Q_EMIT q->categoriesHaveCome();
 }
 
+/** For rows of a category that may be shown in several places: as rows that come or go they are those of one only. */
+void GenParamTreeVisibilityFilterProxyModelPrivate::changeLayout(Branch &branch, Rows rows)
+{
+    branch.comingRows = std::move(rows);
+    changeLayout({&branch});
+}
+
 bool GenParamTreeVisibilityFilterProxyModelPrivate::hasNewCategory(const Branch &branch) const
 {
     return std::any_of(branch.rows.begin(), branch.rows.end(), [&](int row) {
-        return branch.sourceRows[size_t(row)].hasRowsBelow && position(branch.formerRows, row) < 0;
+        return branch.sourceRows[size_t(row)].isCategory && position(branch.formerRows, row) < 0;
     });
 }
 
@@ -531,12 +541,15 @@ void GenParamTreeVisibilityFilterProxyModelPrivate::updateRow(Branch &branch, in
 
 void GenParamTreeVisibilityFilterProxyModelPrivate::insertRow(Branch &branch, int sourceRow)
 {
-    const auto place = std::lower_bound(branch.rows.begin(), branch.rows.end(), sourceRow);
-    const int row = int(place - branch.rows.begin());
+    Rows rows = branch.rows;
+    const auto place = rows.insert(std::lower_bound(rows.begin(), rows.end(), sourceRow), sourceRow);
+    const int row = int(place - rows.begin());
     const bool isAnnounced = isShown(&branch);
+    if (isAnnounced && isAnyListedAgain)
+        return changeLayout(branch, std::move(rows));
     if (isAnnounced)
         q->beginInsertRows(proxyOf(&branch), row, row);
-    branch.rows.insert(place, sourceRow);
+    branch.rows = std::move(rows);
     rowsHaveChanged();
     if (isAnnounced)
         q->endInsertRows();
@@ -545,10 +558,11 @@ void GenParamTreeVisibilityFilterProxyModelPrivate::insertRow(Branch &branch, in
 void GenParamTreeVisibilityFilterProxyModelPrivate::removeRow(Branch &branch, int sourceRow)
 {
     const int row = position(branch.rows, sourceRow);
+    Rows rows = branch.rows;
+    rows.erase(rows.begin() + row);
     const bool isAnnounced = isShown(&branch);
     if (isAnnounced) {
-        branch.comingRows = branch.rows;
-        branch.comingRows.erase(branch.comingRows.begin() + row);
+        branch.comingRows = rows;
         branch.isChanging = true;
         const quint64 evaluated = ++revision;
         const quint64 found = generation;
@@ -560,9 +574,11 @@ void GenParamTreeVisibilityFilterProxyModelPrivate::removeRow(Branch &branch, in
         // Whoever has heard of it may have changed anything: all is looked at again then.
         if (revision != evaluated)
             return updateRow(branch, sourceRow);
+        if (isAnyListedAgain)
+            return changeLayout(branch, std::move(rows));
         q->beginRemoveRows(proxyOf(&branch), row, row);
     }
-    branch.rows.erase(branch.rows.begin() + row);
+    branch.rows = std::move(rows);
     rowsHaveChanged();
     if (isAnnounced)
         q->endRemoveRows();
@@ -582,6 +598,7 @@ void GenParamTreeVisibilityFilterProxyModelPrivate::forget()
     lastChanged.fill(nullptr);
     branches.clear();
     furtherPlaces.clear();
+    isAnyListedAgain = false;
     queuedChecks.clear();
     owned.clear();
 }

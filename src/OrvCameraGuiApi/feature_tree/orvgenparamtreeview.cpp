@@ -193,7 +193,7 @@ void OrvGenParamTreeViewPrivate::install(GenApi::INodeMap *map)
     showModel(proxy);
     connectProxy();
     splitColumns();
-    spanAllCategories(*ui.treeView);
+    setSpanForChildren(*ui.treeView, QModelIndex());
 }
 
 /** Nothing refers to the node map afterwards; only the objects that did are freed later, for they may be in use. */
@@ -249,12 +249,12 @@ void OrvGenParamTreeViewPrivate::connectProxy()
     // Somebody's slot may have had the model taken away before these are called.
     QObject::connect(proxy, &GenParamTreeVisibilityFilterProxyModel::categoriesHaveCome, q, [this] {
         if (proxy)
-            spanAllCategories(*ui.treeView);
+            setSpanForChildren(*ui.treeView, QModelIndex());
     });
     QObject::connect(proxy, &QAbstractItemModel::rowsInserted, q,
                      [this](const QModelIndex &parent, int first, int last) {
                          if (proxy)
-                             spanCategories(*ui.treeView, parent, first, last);
+                             setSpanForChildren(*ui.treeView, parent, first, last);
                      });
 }
 
@@ -326,14 +326,10 @@ void OrvGenParamTreeViewPrivate::repaintSoon(GenApi::IValue *feature)
 void OrvGenParamTreeViewPrivate::repaintRows()
 {
     const QSet<GenApi::IValue *> features = std::exchange(featuresToRepaint, {});
-    QWidget *const viewport = ui.treeView->viewport();
-    for (QModelIndex index = ui.treeView->indexAt(QPoint(0, 0)); index.isValid();
-         index = ui.treeView->indexBelow(index)) {
-        const QRect rect = ui.treeView->visualRect(index);
-        if (rect.top() >= viewport->height())
-            break;
-        if (features.contains(featureOf(index)))
-            viewport->update(0, rect.top(), viewport->width(), rect.height());
+    const QVector<FeatureTree::Row> rows = ui.treeView->rowsOnScreen();
+    for (const FeatureTree::Row &row : rows) {
+        if (features.contains(featureOf(row.index)))
+            ui.treeView->viewport()->update(row.rect);
     }
 }
 

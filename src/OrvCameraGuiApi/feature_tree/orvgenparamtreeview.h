@@ -57,7 +57,8 @@ public:
     void enablePolling(bool on) override;
     bool isPollingEnabled() override;
 
-    /** The tree; null never. Its model is the view's own and null while there is no node map. */
+    /** The tree; null never. Its model is the view's own, another one after each setParams(), null after clearParams().
+     */
     QTreeView *treeView() const;
 
 protected:
