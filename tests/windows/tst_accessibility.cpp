@@ -10,6 +10,7 @@
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QComboBox>
 #include <QFormLayout>
@@ -21,6 +22,7 @@
 #include <QTreeView>
 
 #include <algorithm>
+#include <climits>
 
 namespace {
 
@@ -182,6 +184,17 @@ QWidget *compositeOf(const QWidget *part)
     return nullptr;
 }
 
+/** The stops from the one with the focus on, until one comes again, which has the focus then. */
+QList<QWidget *> stopsBy(Qt::Key key, QWidget &window)
+{
+    QList<QWidget *> stops;
+    for (QWidget *now = window.focusWidget(); now && !stops.contains(now); now = window.focusWidget()) {
+        stops.append(now);
+        QTest::keyClick(now, key);
+    }
+    return stops;
+}
+
 /** Every stop once, from the first to the last as they are read, and round again. */
 Faults tabChain(QWidget &window)
 {
@@ -190,18 +203,14 @@ Faults tabChain(QWidget &window)
     const auto isAnyStop = [](const QWidget *widget) { return isStop(*widget); };
     if (std::none_of(widgets.begin(), widgets.end(), isAnyStop))
         return faults; // a dialog without a camera
-    QWidget *now = window.focusWidget();
-    if (!now || !isStop(*now)) {
+    if (!window.focusWidget() || !isStop(*window.focusWidget()))
         QTest::keyClick(&window, Qt::Key_Tab);
-        now = window.focusWidget();
-    }
-    QList<QWidget *> chain;
-    for (; now && !chain.contains(now); now = window.focusWidget()) {
-        chain.append(now);
-        QTest::keyClick(now, Qt::Key_Tab);
-    }
-    if (!chain.isEmpty() && now != chain.first())
+    const QList<QWidget *> chain = stopsBy(Qt::Key_Tab, window);
+    if (chain.isEmpty() || window.focusWidget() != chain.first())
         faults.append(QStringLiteral("Tab does not come back"));
+    const QList<QWidget *> backwards = stopsBy(Qt::Key_Backtab, window);
+    if (!std::is_permutation(chain.begin(), chain.end(), backwards.begin(), backwards.end()))
+        faults.append(QStringLiteral("Backtab goes another way"));
     for (QWidget *const widget : widgets) { // now, as of radio buttons only the one with the focus remains a stop
         if (isStop(*widget) && !chain.contains(widget))
             faults.append(describe(*widget) + QStringLiteral(": Tab does not get there"));
@@ -248,7 +257,7 @@ Faults faultsOfPopUps(const QWidget &window)
     return faults;
 }
 
-/** The rows below \a parent that have an editor, down to the last. */
+/** The values below \a parent, down to the last. */
 void collectRows(const QAbstractItemModel &model, const QModelIndex &parent, QList<QPersistentModelIndex> &rows)
 {
     for (int row = 0; row < model.rowCount(parent); ++row) {
@@ -257,7 +266,7 @@ void collectRows(const QAbstractItemModel &model, const QModelIndex &parent, QLi
     }
 }
 
-QWidget *valueWidgets(QList<QWidget *> &widgets)
+QWidget *makeValueWidgets(QList<QWidget *> &widgets)
 {
     widgets = {new QtOrvSlider(Qt::Horizontal),
                new QtOrvDoubleSlider(Qt::Horizontal),
@@ -294,14 +303,17 @@ private Q_SLOTS:
 
     void windows_data() { AllWindows::addRows(); }
 
+    /** With a camera that has all that the windows show, and one that lacks much of it. */
     void windows()
     {
         QFETCH(AllWindows::Maker, make);
         const SimTest::Held<OrvCam::System> system = SimTest::getSystem();
-        const SimTest::Held<OrvCam::Device> camera = SimTest::open(SimTest::twoFrame);
-        const std::unique_ptr<QWidget> window(make(*system, *camera));
-        QVERIFY(show(*window));
-        QCOMPARE((faultsOf(*window) + faultsOfPopUps(*window)).join(QLatin1Char('\n')), QString());
+        for (const char *const id : {SimTest::twoFrame, SimTest::monochrome}) {
+            const SimTest::Held<OrvCam::Device> camera = SimTest::open(id);
+            const std::unique_ptr<QWidget> window(make(*system, *camera));
+            QVERIFY(show(*window));
+            QCOMPARE((faultsOf(*window) + faultsOfPopUps(*window)).join(QLatin1Char('\n')), QString());
+        }
     }
 
     void editorsOfFeatures()
@@ -351,7 +363,7 @@ private Q_SLOTS:
     {
         QFETCH(Namer, setName);
         QList<QWidget *> widgets;
-        const std::unique_ptr<QWidget> window(::valueWidgets(widgets));
+        const std::unique_ptr<QWidget> window(makeValueWidgets(widgets));
         for (const char *const name : {QT_TR_NOOP("Gain %1"), QT_TR_NOOP("Level %1")}) {
             for (int i = 0; i < widgets.size(); ++i)
                 setName(*widgets.at(i), tr(name).arg(i));
@@ -377,12 +389,32 @@ private Q_SLOTS:
         QCOMPARE(qMakePair(start, end), qMakePair(4, 6));
         accessible->editableTextInterface()->replaceText(4, 6, QStringLiteral("40"));
         QCOMPARE(box.value(), 405LL);
-        accessible->editableTextInterface()->insertText(4, QStringLiteral("9"));
-        QCOMPARE(box.value(), 405LL);
+        accessible->editableTextInterface()->insertText(4, QStringLiteral("1"));
+        QCOMPARE(box.value(), 1405LL);
+        accessible->editableTextInterface()->insertText(INT_MIN, QStringLiteral("9"));
+        accessible->editableTextInterface()->replaceText(INT_MAX, INT_MIN, QStringLiteral("9"));
+        QCOMPARE(box.value(), 1405LL);
         box.setReadOnly(true);
         accessible->editableTextInterface()->deleteText(4, 5);
-        QCOMPARE(box.value(), 405LL);
+        QCOMPARE(box.value(), 1405LL);
         QVERIFY(accessible->state().readOnly && !accessible->state().editable);
+    }
+
+    void comboBoxesTellTheirItem()
+    {
+        OrvGui::OrvGenParamTreeView view;
+        QVERIFY(show(view));
+        auto *const box = view.findChild<QComboBox *>(QStringLiteral("cbVisibility"));
+        QAccessibleInterface *const accessible = QAccessible::queryAccessibleInterface(box);
+        QCOMPARE(accessible->text(QAccessible::Value), box->currentText());
+        QAccessibleTextInterface *const text = accessible->textInterface();
+        QCOMPARE(text->text(0, text->characterCount()), box->currentText());
+        for (const bool isOpen : {true, false}) {
+            if (isOpen)
+                expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
+            accessible->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+            QTRY_COMPARE(box->view()->isVisible(), isOpen);
+        }
     }
 
 private:

@@ -38,7 +38,7 @@ void OrvCamConfigAboutDialog::adjustAbout(const CameraParams &params)
 {
     const auto show = [this](QLabel *label, const std::optional<QString> &text) {
         label->setText(text.value_or(QStringLiteral("N/A")));
-        label->setAccessibleName(captionOf(label) + QLatin1Char(' ') + label->text());
+        label->setAccessibleName((captionOf(label) + QLatin1Char(' ') + label->text()).simplified());
     };
     const auto showNumber = [&](QLabel *label, OrvGenParam::Int *param) {
         const QString text = decimal(param);

@@ -62,6 +62,13 @@ void SpinBoxText::addSelection(int start, int end)
     setSelection(0, start, end);
 }
 
+/** Whatever numbers a tool makes up. */
+void SpinBoxText::select(int start, int end)
+{
+    const int first = qBound(0, start, characterCount());
+    edit()->setSelection(first, qBound(first, end, characterCount()) - first);
+}
+
 void SpinBoxText::removeSelection(int index)
 {
     if (index == 0)
@@ -71,7 +78,7 @@ void SpinBoxText::removeSelection(int index)
 void SpinBoxText::setSelection(int index, int start, int end)
 {
     if (index == 0)
-        edit()->setSelection(start, end - start);
+        select(start, end);
 }
 
 int SpinBoxText::cursorPosition() const
@@ -105,9 +112,6 @@ void SpinBoxText::replaceText(int start, int end, const QString &text)
 {
     if (m_spinBox->isReadOnly() || !m_spinBox->isEnabled())
         return;
-    if (end > start)
-        edit()->setSelection(start, end - start);
-    else
-        edit()->setCursorPosition(start);
+    select(start, end);
     edit()->insert(text);
 }

@@ -63,6 +63,7 @@ public:
 
 private:
     QLineEdit *edit() const;
+    void select(int start, int end);
 
     QAbstractSpinBox *const m_spinBox;
 };
