@@ -50,7 +50,7 @@ QString nameOf(const QWidget *widget)
     if (!widget->accessibleName().isEmpty())
         return widget->accessibleName();
     for (const char *caption : {"leftLabelText", "topLabelText"}) {
-        const QString text = spoken(widget->property(caption).toString());
+        QString text = spoken(widget->property(caption).toString());
         if (!text.isEmpty())
             return text;
     }
@@ -67,7 +67,7 @@ public:
     {
         if (kind != QAccessible::Name)
             return QAccessibleWidget::text(kind);
-        const QString name = nameOf(widget());
+        QString name = nameOf(widget());
         if (!name.isEmpty())
             return name;
         QWidget *const whole = wholeOf(widget());
