@@ -9,7 +9,8 @@ inline QString cutWidget(const QWidget &window)
     for (const QWidget *const widget : widgets) {
         const bool hasText =
             widget->inherits("QLabel") || widget->inherits("QAbstractButton") || widget->inherits("QComboBox");
-        const QSize hint = widget->sizeHint();
+        const bool isWrapped = widget->hasHeightForWidth();
+        const QSize hint = isWrapped ? QSize(0, widget->heightForWidth(widget->width())) : widget->sizeHint();
         if (hasText && widget->isVisible() && (widget->width() < hint.width() || widget->height() < hint.height()))
             return widget->objectName();
     }
