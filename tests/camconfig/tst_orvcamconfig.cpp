@@ -488,7 +488,6 @@ void OrvCamConfigTest::asksForACamera()
         QVERIFY(selector.isPollChecked());
         choose(selector, twoFrame);
     });
-    OrvSim::setAccessStatus(SimTest::stray, OrvCam::AccessStatusReadWrite);
     {
         const Camera camera(monochrome);
         OrvCamConfig window(nullptr);
