@@ -2,7 +2,7 @@
 # packages and documentation.
 # shellcheck shell=bash disable=SC2034,SC2154
 
-stages=(format tidy sanitizers threads fuzz genicam consumers docs packages test)
+stages=(format tidy sanitizers threads fuzz genicam consumers abi docs packages test)
 declare -A about=(
     [format]="sources are formatted, scripts are sound"
     [tidy]="clang-tidy on src/ and platform/"
@@ -11,6 +11,7 @@ declare -A about=(
     [fuzz]="each fuzzer 30 s, the planted faults, what the corpora reach"
     [genicam]="library against installed GenICam headers and libraries"
     [consumers]="installed headers, examples by CMake and by pkg-config"
+    [abi]="binary interface against the released one, which sees a virtual function more"
     [docs]="Doxygen, links, examples in the pages"
     [packages]="Debian packages and archive"
     [test]="release build and whole suite"
@@ -20,7 +21,7 @@ stage_format() {
     install_packages clang-format shellcheck
     git ls-files -z '*.cpp' '*.h' | xargs -0 -n 40 clang-format --dry-run --Werror
     shellcheck -x run test .ci/run .ci/stages.sh .ci/common.sh .ci/consumers .ci/genicam-build .ci/genicam-prefix \
-        .ci/packages .ci/docs .ci/tidy .ci/fuzz .ci/bare-debian benchmarks/run
+        .ci/packages .ci/abi .ci/docs .ci/tidy .ci/fuzz .ci/bare-debian benchmarks/run
 }
 
 stage_tidy() {
@@ -51,6 +52,12 @@ stage_genicam() { .ci/genicam-build; }
 stage_consumers() {
     build_preset release
     .ci/consumers
+}
+
+stage_abi() {
+    install_packages abigail-tools
+    build_preset release
+    .ci/abi
 }
 
 stage_docs() {
