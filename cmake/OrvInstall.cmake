@@ -5,10 +5,13 @@ include(CMakePackageConfigHelpers)
 # Public headers of the GUI library; camera_api is installed whole.
 set(ORV_PUBLIC_HEADERS
     camconfig/dialogs/orvcamconfigcolordialog.h
+    camconfig/dialogs/orvcamconfigframeabdialog.h
     camconfig/dialogs/orvcamconfigoutputdialog.h
     camconfig/dialogs/orvcamconfigpulsedialog.h
     camconfig/dialogs/orvcamconfigstrobedialog.h
     camconfig/dialogs/orvcamconfigtriggerdialog.h
+    camconfig/orvcamconfig.h
+    camconfig/showcamconfigdialog.h
     device_selection/ip4validator.h
     device_selection/orvcameraselectordialog.h
     device_selection/selectcamera.h
