@@ -11,7 +11,7 @@ declare -A about=(
     [fuzz]="each fuzzer 30 s, the planted faults, what the corpora reach"
     [genicam]="library against installed GenICam headers and libraries"
     [consumers]="installed headers, examples by CMake and by pkg-config"
-    [docs]="Doxygen, links, examples in the pages"
+    [docs]="Doxygen, links, examples, pictures, the pages followed"
     [packages]="Debian packages and archive"
     [test]="release build and whole suite"
 )
@@ -20,7 +20,7 @@ stage_format() {
     install_packages clang-format shellcheck
     git ls-files -z '*.cpp' '*.h' | xargs -0 -n 40 clang-format --dry-run --Werror
     shellcheck -x run test .ci/run .ci/stages.sh .ci/common.sh .ci/consumers .ci/genicam-build .ci/genicam-prefix \
-        .ci/packages .ci/docs .ci/tidy .ci/fuzz .ci/bare-debian benchmarks/run
+        .ci/packages .ci/docs .ci/follow docs/pictures .ci/tidy .ci/fuzz .ci/bare-debian benchmarks/run
 }
 
 stage_tidy() {
@@ -54,7 +54,7 @@ stage_consumers() {
 }
 
 stage_docs() {
-    install_packages doxygen graphviz
+    install_packages doxygen graphviz file pngquant
     [ -d build/stage ] || stage_consumers
     .ci/docs
 }

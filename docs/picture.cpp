@@ -10,7 +10,7 @@ QWidget *example();
 int main(int argc, char **argv)
 {
     const QApplication application(argc, argv);
-    constexpr int width = 300;
+    constexpr int width = 360;
     QWidget window;
     auto *const layout = new QVBoxLayout(&window);
     layout->addWidget(example());
