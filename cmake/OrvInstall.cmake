@@ -81,6 +81,14 @@ if(ORV_BUILD_DESIGNER)
 endif()
 if(ORV_BUILD_APPS)
     install(TARGETS orv-camera-explorer RUNTIME COMPONENT Explorer)
+    set(_orv_explorer_resources apps/explorer/resources)
+    set(_orv_icon_dir ${CMAKE_INSTALL_DATAROOTDIR}/icons/hicolor)
+    install(FILES ${_orv_explorer_resources}/orv-camera-explorer.desktop
+        DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/applications COMPONENT Explorer)
+    install(FILES ${_orv_explorer_resources}/explorer.svg RENAME orv-camera-explorer.svg
+        DESTINATION ${_orv_icon_dir}/scalable/apps COMPONENT Explorer)
+    install(FILES ${_orv_explorer_resources}/explorer.png RENAME orv-camera-explorer.png
+        DESTINATION ${_orv_icon_dir}/128x128/apps COMPONENT Explorer)
 endif()
 # Debian packages, one a component, and one archive of everything.
 set(CPACK_PACKAGE_VENDOR "The OrvCameraGuiApi maintainers")

@@ -1,79 +1,168 @@
 #include "configuremenu.h"
 
 #include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigcolordialog.h>
+#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigframeabdialog.h>
 #include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigoutputdialog.h>
 #include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigpulsedialog.h>
 #include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigstrobedialog.h>
 #include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigtriggerdialog.h>
+#include <OrvCameraGuiApi/camconfig/orvcamconfig.h>
+#include <OrvCameraGuiApi/camera_api/orvgenparam.h>
+
+#include <QSettings>
+
+namespace {
+
+QString placeKey(const QAction &action)
+{
+    return action.objectName() + QStringLiteral("/geometry");
+}
+
+bool hasTwoFrames(OrvCam::Device *device)
+{
+    OrvGenParam::Array *const parameters = device ? device->GetCameraParameters(nullptr) : nullptr;
+    return parameters && parameters->GetEnum("FrameAB_Selector", nullptr);
+}
+
+} // namespace
 
 ConfigureMenu::ConfigureMenu(QWidget *window)
     : QMenu(tr("&Configure"), window)
-    , m_window(window)
+    , m_parent(window)
 {
     setObjectName(QStringLiteral("configure"));
-    add<OrvGui::OrvCamConfigTriggerDialog>(tr("&Trigger"), "trigger");
-    add<OrvGui::OrvCamConfigPulseDialog>(tr("&Pulse"), "pulse");
-    add<OrvGui::OrvCamConfigStrobeDialog>(tr("&Strobe"), "strobe");
-    add<OrvGui::OrvCamConfigOutputDialog>(tr("&Data Out"), "dataout");
-    add<OrvGui::OrvCamConfigColorDialog>(tr("&Color"), "color");
+    addConfigWindow();
+    addSeparator();
+    addDialog<OrvGui::OrvCamConfigFrameABDialog>(tr("&Frame A/B"), "frameab");
+    m_frameAB = m_entries.back().action;
+    addDialog<OrvGui::OrvCamConfigTriggerDialog>(tr("&Trigger"), "trigger");
+    addDialog<OrvGui::OrvCamConfigPulseDialog>(tr("&Pulse"), "pulse");
+    addDialog<OrvGui::OrvCamConfigStrobeDialog>(tr("&Strobe"), "strobe");
+    addDialog<OrvGui::OrvCamConfigOutputDialog>(tr("&Data Out"), "dataout");
+    addDialog<OrvGui::OrvCamConfigColorDialog>(tr("&Color"), "color");
+    updateEntries();
+}
+
+void ConfigureMenu::addConfigWindow()
+{
+    const auto make = [this]() -> QWidget * { return new OrvGui::OrvCamConfig(m_device, m_parent); };
+    const auto setDevice = [](QWidget *window, OrvCam::Device *device) {
+        static_cast<OrvGui::OrvCamConfig *>(window)->SetDevice(device);
+    };
+    QAction *const action = addAction(QIcon(QStringLiteral(":/explorer/configwindow.ico")), tr("Configuration &Window"),
+                                      this, &ConfigureMenu::openConfigWindow);
+    action->setObjectName(QStringLiteral("configwindow"));
+    m_entries.push_back({action, make, setDevice, nullptr, {}});
 }
 
 template <typename Dialog>
-void ConfigureMenu::add(const QString &text, const char *name)
+void ConfigureMenu::addDialog(const QString &text, const char *name)
 {
-    QAction *const action = addAction(text);
-    const size_t index = m_entries.size();
+    QAction *const action = addAction(QIcon(QStringLiteral(":/icons/%1.ico").arg(QLatin1String(name))), text);
+    const std::size_t index = m_entries.size();
     action->setObjectName(QLatin1String(name));
     action->setCheckable(true);
-    connect(action, &QAction::toggled, this, [this, index](bool isOn) { open(index, isOn); });
-    const auto make = [this, action] {
-        auto *const dialog = new Dialog(m_device, m_window);
+    connect(action, &QAction::toggled, this, [this, index](bool isOn) { openDialog(m_entries[index], isOn); });
+    const auto make = [this, action]() -> QWidget * {
+        auto *const dialog = new Dialog(m_isReachable ? m_device : nullptr, m_parent);
         connect(dialog, &Dialog::closing, action, [action] { action->setChecked(false); });
         return dialog;
     };
-    const auto setDevice = [this](QDialog *dialog) { static_cast<Dialog *>(dialog)->SetDevice(m_device); };
-    m_entries.push_back({QLatin1String(name), action, make, setDevice, nullptr});
+    const auto setDevice = [](QWidget *dialog, OrvCam::Device *device) {
+        static_cast<Dialog *>(dialog)->SetDevice(device);
+    };
+    m_entries.push_back({action, make, setDevice, nullptr, {}});
 }
 
 void ConfigureMenu::setDevice(OrvCam::Device *device)
 {
     m_device = device;
+    m_isReachable = true;
     for (Entry &entry : m_entries) {
-        entry.action->setEnabled(device != nullptr);
-        if (entry.dialog)
-            entry.setDevice(entry.dialog);
+        if (entry.window)
+            entry.setDevice(entry.window, device);
     }
+    updateEntries();
 }
 
-QStringList ConfigureMenu::dialogNames() const
+/** The configuration window is left alone: it notices by itself, and what it shows may be another camera. */
+void ConfigureMenu::setReachable(bool reachable)
+{
+    m_isReachable = reachable;
+    for (auto dialog = m_entries.begin() + 1; dialog != m_entries.end(); ++dialog) {
+        if (dialog->window)
+            dialog->setDevice(dialog->window, reachable ? m_device : nullptr);
+    }
+    updateEntries();
+}
+
+/** A dialog about what the camera does not have would be of no use. */
+void ConfigureMenu::updateEntries()
+{
+    m_entries.front().action->setEnabled(m_device);
+    for (auto dialog = m_entries.begin() + 1; dialog != m_entries.end(); ++dialog)
+        dialog->action->setEnabled(m_device && m_isReachable);
+    if (!m_device || !m_isReachable || hasTwoFrames(m_device))
+        return;
+    m_frameAB->setEnabled(false);
+    m_frameAB->setChecked(false);
+}
+
+QStringList ConfigureMenu::windowNames() const
 {
     QStringList names;
     for (const Entry &entry : m_entries)
-        names.append(entry.name);
+        names.append(entry.action->objectName());
     return names;
 }
 
-QDialog *ConfigureMenu::dialog(const QString &name)
+QWidget *ConfigureMenu::windowNamed(const QString &name)
 {
     for (Entry &entry : m_entries) {
-        if (entry.name == name)
-            return dialogOf(entry);
+        if (m_device && entry.action->objectName() == name)
+            return windowOf(entry);
     }
     return nullptr;
 }
 
-QDialog *ConfigureMenu::dialogOf(Entry &entry)
+QWidget *ConfigureMenu::windowOf(Entry &entry)
 {
-    if (!entry.dialog)
-        entry.dialog = entry.make();
-    return entry.dialog;
+    if (!entry.window) {
+        entry.window = entry.make();
+        entry.window->restoreGeometry(entry.place);
+    }
+    return entry.window;
 }
 
-void ConfigureMenu::open(size_t entry, bool isOpen)
+void ConfigureMenu::saveSettings(QSettings &settings) const
 {
-    QDialog *const dialog = dialogOf(m_entries[entry]);
+    for (const Entry &entry : m_entries) {
+        if (entry.window)
+            settings.setValue(placeKey(*entry.action), entry.window->saveGeometry());
+    }
+}
+
+void ConfigureMenu::restoreSettings(const QSettings &settings)
+{
+    for (Entry &entry : m_entries)
+        entry.place = settings.value(placeKey(*entry.action)).toByteArray();
+}
+
+void ConfigureMenu::openConfigWindow()
+{
+    Entry &entry = m_entries.front();
+    if (entry.window && entry.window->isHidden())
+        entry.setDevice(entry.window, m_device);
+    QWidget *const window = windowOf(entry);
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+void ConfigureMenu::openDialog(Entry &entry, bool isOpen)
+{
     if (isOpen)
-        dialog->show();
-    else
-        dialog->close();
+        windowOf(entry)->show();
+    else if (entry.window)
+        entry.window->close();
 }

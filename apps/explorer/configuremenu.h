@@ -1,52 +1,71 @@
 #pragma once
 
-#include <QDialog>
+#include <QByteArray>
 #include <QMenu>
 
 #include <functional>
 #include <vector>
+
+class QSettings;
 
 namespace OrvCam {
 class Device;
 } // namespace OrvCam
 
 /**
- * The dialogs for groups of a camera's features: an entry each, checked while its dialog is open. A dialog is made when
- * it is first opened, and then follows the camera that is shown.
+ * The configuration window and the dialogs for groups of a camera's features: an entry each; that of a dialog is
+ * checked while it is open. They are made when they are first opened, and then follow the camera that is shown.
+ *
+ * The configuration window lets its user disconnect it or connect it to another camera. Whenever the application's
+ * camera is exchanged, or the window is opened from here, it shows the application's camera again.
  */
 class ConfigureMenu : public QMenu
 {
     Q_OBJECT
 
 public:
-    /** \a window is the parent of the menu and its dialogs. */
+    /** \a window is the parent of the menu and of the windows. */
     explicit ConfigureMenu(QWidget *window);
 
-    /** Shows \a device, or no camera if it is null, in all dialogs. It lives until the dialogs are given another one.
+    /**
+     * Shows \a device, or no camera if it is null, in all windows. It stays the caller's and lives until another one
+     * is set.
      */
     void setDevice(OrvCam::Device *device);
 
-    /** The dialogs' names, not translated. */
-    QStringList dialogNames() const;
-    /** The dialog of that name, made if need be; null for another name. Stays the menu's. */
-    QDialog *dialog(const QString &name);
+    /** Whether the camera can be reached at present: while it cannot, the dialogs have none. A new one can be. */
+    void setReachable(bool reachable);
+
+    /** Where the windows are; one that is not open yet will open where it was. */
+    void saveSettings(QSettings &settings) const;
+    void restoreSettings(const QSettings &settings);
+
+    /** The names of all entries, not translated. */
+    QStringList windowNames() const;
+    /** The window of that name, made if need be; null for another name, and while there is no camera. */
+    QWidget *windowNamed(const QString &name);
 
 private:
     struct Entry
     {
-        QString name;
-        QAction *action;
-        std::function<QDialog *()> make;
-        std::function<void(QDialog *)> setDevice;
-        QDialog *dialog;
+        QAction *action; ///< has the name
+        std::function<QWidget *()> make;
+        std::function<void(QWidget *, OrvCam::Device *)> setDevice;
+        QWidget *window; ///< null until it is first opened
+        QByteArray place; ///< where it is to be opened; empty: anywhere
     };
 
+    void addConfigWindow();
     template <typename Dialog>
-    void add(const QString &text, const char *name);
-    QDialog *dialogOf(Entry &entry);
-    void open(size_t entry, bool isOpen);
+    void addDialog(const QString &text, const char *name);
+    QWidget *windowOf(Entry &entry);
+    void openConfigWindow();
+    void openDialog(Entry &entry, bool isOpen);
+    void updateEntries();
 
-    QWidget *const m_window;
+    QWidget *const m_parent;
     OrvCam::Device *m_device = nullptr;
-    std::vector<Entry> m_entries;
+    bool m_isReachable = true;
+    QAction *m_frameAB = nullptr;
+    std::vector<Entry> m_entries; ///< the configuration window, then the dialogs
 };

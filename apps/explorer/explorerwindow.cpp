@@ -2,6 +2,7 @@
 
 #include "cameradialog.h"
 #include "camerasource.h"
+#include "camerawatch.h"
 #include "configuremenu.h"
 #include "simulationmenu.h"
 #include "widgetspage.h"
@@ -19,9 +20,12 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QSaveFile>
+#include <QSettings>
 #include <QStatusBar>
 #include <QTabWidget>
+#include <QToolBar>
 #include <QTreeView>
+#include <QUrl>
 
 // The type of what the view's model answers to Qt::UserRole.
 Q_DECLARE_METATYPE(GenApi::IValue *)
@@ -32,35 +36,70 @@ constexpr int defaultPollingTime = 200; // milliseconds
 constexpr int longestPollingTime = 60000; // milliseconds
 constexpr int messageTime = 5000; // milliseconds
 
+const QLatin1String geometryKey("window/geometry");
+const QLatin1String toolsKey("window/tools");
+const QLatin1String pageKey("window/page");
+const QLatin1String treesGroup("trees");
+const QLatin1String pollsKey("polling/enabled");
+const QLatin1String intervalKey("polling/interval");
+
+QIcon iconOf(const char *name)
+{
+    return QIcon(QStringLiteral(":/explorer/%1.ico").arg(QLatin1String(name)));
+}
+
+/** With the keys, as a tool tip is where people look for them. */
+void setTip(QAction &action, const QString &tip)
+{
+    const QString keys = action.shortcut().toString(QKeySequence::NativeText);
+    action.setToolTip(keys.isEmpty() ? tip : QStringLiteral("%1 (%2)").arg(tip, keys));
+    action.setStatusTip(tip);
+}
+
 } // namespace
 
 ExplorerWindow::ExplorerWindow(std::unique_ptr<CameraSource> source, QWidget *parent)
     : QMainWindow(parent)
     , m_pages(new QTabWidget(this))
     , m_view(new OrvGui::OrvGenParamTreeView(this))
+    , m_tools(addToolBar(tr("Tools")))
+    , m_configure(new ConfigureMenu(this))
+    , m_simulation(new SimulationMenu(this))
+    , m_connectionIcon(new QLabel(this))
+    , m_connectionLabel(new QLabel(this))
     , m_pollingLabel(new QLabel(this))
 {
     resize(780, 760);
     m_view->setPollingTime(defaultPollingTime);
+    m_tools->setObjectName(QStringLiteral("tools"));
     createPages();
-    statusBar()->setContentsMargins(6, 0, 6, 0);
-    statusBar()->addPermanentWidget(m_pollingLabel);
+    createStatusBar();
     createFileMenu();
     createViewMenu();
-    m_configure = new ConfigureMenu(this);
-    menuBar()->addMenu(m_configure);
+    createConfigureMenu();
     createSimulationMenu();
     createHelpMenu();
     setSource(std::move(source));
     m_view->treeView()->setColumnWidth(0, width() / 2); // for a picture of a window that is never shown
-    setPolling(true);
 }
 
 ExplorerWindow::~ExplorerWindow()
 {
-    // View and dialogs go after the camera.
+    // View and windows go after the camera.
+    m_watch.reset();
+    m_simulation->setCamera(QString(), nullptr);
     m_configure->setDevice(nullptr);
     m_view->clearParams();
+}
+
+void ExplorerWindow::createStatusBar()
+{
+    statusBar()->setContentsMargins(6, 0, 6, 0);
+    m_connectionIcon->setObjectName(QStringLiteral("connectionIcon"));
+    m_connectionLabel->setObjectName(QStringLiteral("connection"));
+    m_pollingLabel->setContentsMargins(0, 0, 12, 0);
+    for (QLabel *const label : {m_pollingLabel, m_connectionLabel, m_connectionIcon})
+        statusBar()->addPermanentWidget(label);
 }
 
 void ExplorerWindow::createPages()
@@ -91,9 +130,14 @@ void ExplorerWindow::showPage(const QString &name)
 void ExplorerWindow::createFileMenu()
 {
     QMenu *const file = menuBar()->addMenu(tr("&File"));
-    file->addAction(tr("&Open Description..."), this, &ExplorerWindow::chooseDescription, QKeySequence::Open);
-    file->addAction(tr("Open &Camera..."), this, &ExplorerWindow::chooseCamera)
-        ->setObjectName(QStringLiteral("openCamera"));
+    QAction *const camera = file->addAction(iconOf("opencamera"), tr("Open &Camera..."), this,
+                                            &ExplorerWindow::chooseCamera, Qt::CTRL + Qt::SHIFT + Qt::Key_O);
+    camera->setObjectName(QStringLiteral("openCamera"));
+    setTip(*camera, tr("Choose another camera"));
+    QAction *const description = file->addAction(iconOf("opendescription"), tr("&Open Description..."), this,
+                                                 &ExplorerWindow::chooseDescription, QKeySequence::Open);
+    setTip(*description, tr("Show a GenICam description"));
+    m_tools->addActions({camera, description});
     file->addSeparator();
     file->addAction(tr("&Save View State..."), this, &ExplorerWindow::chooseStateToSave, QKeySequence::Save);
     file->addAction(tr("&Load View State..."), this, &ExplorerWindow::chooseStateToLoad);
@@ -104,23 +148,46 @@ void ExplorerWindow::createFileMenu()
 void ExplorerWindow::createViewMenu()
 {
     QMenu *const view = menuBar()->addMenu(tr("&View"));
-    view->addAction(tr("&Refresh Values"), this, &ExplorerWindow::refresh, QKeySequence::Refresh);
+    QAction *const refreshing = view->addAction(iconOf("refresh"), tr("&Refresh Values"), this,
+                                                &ExplorerWindow::refresh, QKeySequence::Refresh);
+    setTip(*refreshing, tr("Read all values anew"));
     view->addSeparator();
-    QAction *const polling = view->addAction(tr("&Poll"));
-    polling->setObjectName(QStringLiteral("poll"));
-    polling->setCheckable(true);
-    polling->setChecked(true);
-    connect(polling, &QAction::toggled, this, &ExplorerWindow::setPolling);
+    m_polling = view->addAction(iconOf("poll"), tr("&Poll"));
+    m_polling->setObjectName(QStringLiteral("poll"));
+    m_polling->setShortcut(Qt::CTRL + Qt::Key_P);
+    m_polling->setCheckable(true);
+    m_polling->setChecked(true);
+    setTip(*m_polling, tr("Read values that change by themselves regularly"));
+    connect(m_polling, &QAction::toggled, this, &ExplorerWindow::updatePolling);
     view->addAction(tr("Polling &Interval..."), this, &ExplorerWindow::choosePollingTime);
+    view->addSeparator();
+    view->addAction(m_tools->toggleViewAction());
+    m_tools->addSeparator();
+    m_tools->addActions({refreshing, m_polling});
+}
+
+/** Ctrl+0 opens the configuration window, Ctrl+1 and so on the dialogs. */
+void ExplorerWindow::createConfigureMenu()
+{
+    menuBar()->addMenu(m_configure);
+    m_tools->addSeparator();
+    int key = Qt::Key_0;
+    const QList<QAction *> actions = m_configure->actions();
+    for (QAction *const action : actions) {
+        m_tools->addAction(action);
+        if (action->isSeparator())
+            continue;
+        action->setShortcut(Qt::CTRL + key++);
+        setTip(*action, QString(action->text()).remove(QLatin1Char('&')));
+    }
 }
 
 void ExplorerWindow::createSimulationMenu()
 {
-    m_simulation = new SimulationMenu(this);
     menuBar()->addMenu(m_simulation);
     connect(m_simulation, &SimulationMenu::changed, this, &ExplorerWindow::refresh);
-    connect(m_simulation, &SimulationMenu::refused, this,
-            [this](const QString &reason) { statusBar()->showMessage(reason, messageTime); });
+    connect(m_simulation, &SimulationMenu::told, this,
+            [this](const QString &message) { statusBar()->showMessage(message, messageTime); });
 }
 
 void ExplorerWindow::createHelpMenu()
@@ -130,15 +197,47 @@ void ExplorerWindow::createHelpMenu()
 
 void ExplorerWindow::setSource(std::unique_ptr<CameraSource> source)
 {
-    m_configure->setDevice(source->device()); // before the former one goes
+    // All before the former one goes.
+    m_watch = std::make_unique<CameraWatch>(source->device());
+    m_simulation->setCamera(source->id(), source->nodeMap());
+    m_simulation->setFeature(QString());
+    m_configure->setDevice(source->device());
+    if (m_source)
+        m_treeStates.insert(m_source->name(), m_view->saveState());
     m_view->setParams(source->nodeMap());
     m_source = std::move(source);
     setWindowTitle(tr("%1 - Camera Explorer").arg(m_source->name()));
-    m_view->treeView()->expandToDepth(0);
-    m_simulation->setCamera(m_source->id());
-    m_simulation->setFeature(QString());
+    arrangeTree();
+    connect(m_watch.get(), &CameraWatch::reachableChanged, this, &ExplorerWindow::setReachable);
     connect(m_view->treeView()->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &ExplorerWindow::followCurrent);
+    setReachable(true);
+}
+
+/** As it was left, if the camera has been seen before. */
+void ExplorerWindow::arrangeTree()
+{
+    const QByteArray state = m_treeStates.value(m_source->name());
+    if (state.isEmpty())
+        m_view->treeView()->expandToDepth(0);
+    else
+        m_view->loadState(state.constData());
+}
+
+void ExplorerWindow::setReachable(bool reachable)
+{
+    const bool isChange = reachable != m_isReachable;
+    m_isReachable = reachable;
+    m_connectionLabel->setText(reachable ? tr("Connected") : tr("Disconnected"));
+    const QIcon icon(reachable ? QStringLiteral(":/icons/connected.ico") : QStringLiteral(":/icons/disconnected.ico"));
+    m_connectionIcon->setPixmap(icon.pixmap(windowHandle(), QSize(16, 16)));
+    for (QLabel *const label : {m_connectionLabel, m_connectionIcon})
+        label->setVisible(m_source->device());
+    updatePolling();
+    if (!isChange)
+        return;
+    m_configure->setReachable(reachable);
+    refresh();
 }
 
 void ExplorerWindow::showCamera(const QString &id)
@@ -217,13 +316,50 @@ void ExplorerWindow::choosePollingTime()
     if (!accepted)
         return;
     m_view->setPollingTime(static_cast<unsigned long>(time));
-    setPolling(m_view->isPollingEnabled());
+    updatePolling();
 }
 
-void ExplorerWindow::setPolling(bool on)
+/** A camera that was lost would let each poll wait for its answer. */
+void ExplorerWindow::updatePolling()
 {
-    m_view->enablePolling(on);
-    m_pollingLabel->setText(on ? tr("Polling every %1 ms").arg(m_view->getPollingTime()) : tr("Not polling"));
+    const bool polls = m_polling->isChecked() && m_isReachable;
+    m_view->enablePolling(polls);
+    m_pollingLabel->setText(polls ? tr("Polling every %1 ms").arg(m_view->getPollingTime()) : tr("Not polling"));
+}
+
+void ExplorerWindow::saveSettings(QSettings &settings) const
+{
+    settings.setValue(geometryKey, saveGeometry());
+    settings.setValue(toolsKey, saveState());
+    settings.setValue(pageKey, m_pages->currentIndex());
+    settings.setValue(pollsKey, m_polling->isChecked());
+    settings.setValue(intervalKey, int(m_view->getPollingTime()));
+    m_configure->saveSettings(settings);
+    QHash<QString, QByteArray> trees = m_treeStates;
+    trees.insert(m_source->name(), m_view->saveState());
+    settings.beginGroup(treesGroup);
+    for (auto tree = trees.cbegin(); tree != trees.cend(); ++tree)
+        settings.setValue(QString::fromLatin1(QUrl::toPercentEncoding(tree.key())), tree.value());
+    settings.endGroup();
+}
+
+/** What is missing stays as it is. The file may have been edited: what it says is no more than a wish. */
+void ExplorerWindow::restoreSettings(QSettings &settings)
+{
+    restoreGeometry(settings.value(geometryKey).toByteArray());
+    restoreState(settings.value(toolsKey).toByteArray());
+    m_pages->setCurrentIndex(settings.value(pageKey, m_pages->currentIndex()).toInt());
+    const int interval = settings.value(intervalKey, defaultPollingTime).toInt();
+    m_view->setPollingTime(static_cast<unsigned long>(qBound(0, interval, longestPollingTime)));
+    m_polling->setChecked(settings.value(pollsKey, true).toBool());
+    updatePolling();
+    m_configure->restoreSettings(settings);
+    settings.beginGroup(treesGroup);
+    const QStringList names = settings.childKeys();
+    for (const QString &name : names)
+        m_treeStates.insert(QUrl::fromPercentEncoding(name.toLatin1()), settings.value(name).toByteArray());
+    settings.endGroup();
+    arrangeTree();
 }
 
 void ExplorerWindow::refresh()

@@ -1,21 +1,28 @@
 #pragma once
 
+#include <QHash>
 #include <QMainWindow>
 
 #include <memory>
 
 class CameraSource;
+class CameraWatch;
 class ConfigureMenu;
 class QLabel;
 class QModelIndex;
+class QSettings;
 class QTabWidget;
+class QToolBar;
 class SimulationMenu;
 
 namespace OrvGui {
 class OrvGenParamTreeView;
 }
 
-/** Shows the features of a camera, one at a time, and on another page the widgets for values. */
+/**
+ * Shows the features of a camera, one at a time, and on another page the widgets for values; other windows that show
+ * the camera are opened from here. While the camera cannot be reached, it is not asked for anything.
+ */
 class ExplorerWindow : public QMainWindow
 {
     Q_OBJECT
@@ -34,6 +41,13 @@ public:
     void saveStateTo(const QString &path);
     void loadStateFrom(const QString &path);
 
+    /**
+     * What is remembered from one run to the next: the windows' places, how the tree of each camera is arranged, the
+     * polling.
+     */
+    void saveSettings(QSettings &settings) const;
+    void restoreSettings(QSettings &settings);
+
     /** The names of the pages, not translated, in their order; the first is shown at first. */
     QStringList pageNames() const;
     void showPage(const QString &name);
@@ -43,27 +57,38 @@ public:
 
 private:
     void createPages();
+    void createStatusBar();
     void createFileMenu();
     void createViewMenu();
+    void createConfigureMenu();
     void createSimulationMenu();
     void createHelpMenu();
 
     void setSource(std::unique_ptr<CameraSource> source);
+    void arrangeTree();
     void chooseCamera();
     void chooseDescription();
     void chooseStateToSave();
     void chooseStateToLoad();
     void choosePollingTime();
-    void setPolling(bool on);
+    void setReachable(bool reachable);
+    void updatePolling();
     void refresh();
     void followCurrent(const QModelIndex &current);
     void report(const QString &message);
     void showAbout();
 
     std::unique_ptr<CameraSource> m_source;
+    std::unique_ptr<CameraWatch> m_watch; ///< on the camera of the source
+    bool m_isReachable = true;
+    QHash<QString, QByteArray> m_treeStates; ///< of cameras that are not shown, by name
     QTabWidget *const m_pages;
     OrvGui::OrvGenParamTreeView *const m_view;
-    ConfigureMenu *m_configure = nullptr;
-    SimulationMenu *m_simulation = nullptr;
+    QToolBar *const m_tools;
+    ConfigureMenu *const m_configure;
+    SimulationMenu *const m_simulation;
+    QAction *m_polling = nullptr;
+    QLabel *const m_connectionIcon;
+    QLabel *const m_connectionLabel;
     QLabel *const m_pollingLabel;
 };

@@ -1,13 +1,12 @@
 #include "cameradialog.h"
 #include "camerasource.h"
-#include "configuremenu.h"
 #include "explorerwindow.h"
 #include "options.h"
+#include "screenshots.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QIcon>
-#include <QTimer>
+#include <QSettings>
 
 #include <cstdio>
 
@@ -51,55 +50,12 @@ bool hasDisplay()
     return false;
 }
 
-int saveScreenshot(QWidget &window, const QString &path)
-{
-    window.grab(); // drawing reads the values, and reading finds the errors that turn red then
-    QCoreApplication::processEvents();
-    if (!window.grab().save(path))
-        return fail(Text::tr("Cannot write '%1'.").arg(path));
-    return print(path + QLatin1Char('\n'));
-}
-
-/**
- * The dialogs into files with their names: the one for a camera's IP address, and then the one that asks for a camera,
- * in which that camera is current.
- */
-int saveDialogs(const QDir &directory)
-{
-    const std::shared_ptr<OrvCam::System> system = cameraSystem();
-    CameraDialog dialog(system.get());
-    dialog.show(); // the panes divide the width that they have
-    QCoreApplication::processEvents();
-    int status = 0;
-    QTimer::singleShot(0, &dialog, [&] {
-        if (QWidget *const opened = QApplication::activeModalWidget()) {
-            status = saveScreenshot(*opened, directory.filePath(QStringLiteral("setip.png")));
-            opened->close();
-        }
-    });
-    dialog.setFirstAddress();
-    return status ? status : saveScreenshot(dialog, directory.filePath(QStringLiteral("selectcamera.png")));
-}
-
-/** Every page and dialog into a file with its name. */
 int saveScreenshots(ExplorerWindow &window, const QString &directory)
 {
-    const QStringList pages = window.pageNames();
-    int status = 0;
-    QDir().mkpath(directory);
-    for (auto page = pages.begin(); status == 0 && page != pages.end(); ++page) {
-        window.showPage(*page);
-        status = saveScreenshot(window, QDir(directory).filePath(*page + QStringLiteral(".png")));
-    }
-    const QStringList dialogs = window.configureMenu().dialogNames();
-    for (auto name = dialogs.begin(); status == 0 && name != dialogs.end(); ++name) {
-        QDialog &dialog = *window.configureMenu().dialog(*name);
-        dialog.show(); // fits its size to what is in it
-        QCoreApplication::processEvents();
-        status = saveScreenshot(dialog, QDir(directory).filePath(*name + QStringLiteral(".png")));
-        dialog.close();
-    }
-    return status == 0 ? saveDialogs(QDir(directory)) : status;
+    Screenshots screenshots(window, directory);
+    if (!screenshots.save())
+        return fail(Text::tr("Cannot write '%1'.").arg(screenshots.fault()));
+    return print(screenshots.files().join(QLatin1Char('\n')) + QLatin1Char('\n'));
 }
 
 /** What the command line asks for; null when people are to be asked. */
@@ -111,6 +67,17 @@ std::unique_ptr<CameraSource> sourceOf(const Options &options)
     return ask ? nullptr : openCamera(options.cameraId);
 }
 
+/** Only here, for a person, are settings read and written. */
+int runFor(ExplorerWindow &window)
+{
+    QSettings settings(QStringLiteral("OrvCameraGuiApi"), QCoreApplication::applicationName());
+    window.restoreSettings(settings);
+    window.show();
+    const int status = QApplication::exec();
+    window.saveSettings(settings);
+    return status;
+}
+
 int runWindow(int argc, char **argv, const Options &options, std::unique_ptr<CameraSource> source)
 {
     const bool screenshot = options.action == Options::Action::SaveScreenshot;
@@ -119,6 +86,7 @@ int runWindow(int argc, char **argv, const Options &options, std::unique_ptr<Cam
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication app(argc, argv);
+    QGuiApplication::setDesktopFileName(QCoreApplication::applicationName());
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/explorer/explorer.png")));
 
     if (!source)
@@ -128,8 +96,7 @@ int runWindow(int argc, char **argv, const Options &options, std::unique_ptr<Cam
     ExplorerWindow window(std::move(source));
     if (screenshot)
         return saveScreenshots(window, options.screenshotDir);
-    window.show();
-    return QApplication::exec();
+    return runFor(window);
 }
 
 } // namespace

@@ -1,14 +1,21 @@
 #include "simulationmenu.h"
 
+#include "drift.h"
 #include "plugmenu.h"
 
 #include <OrvCameraApi/simulation.h>
+
+#include <cstdint>
+#include <limits>
 
 SimulationMenu::SimulationMenu(QWidget *parent)
     : QMenu(tr("&Simulation"), parent)
     , m_failReading(addAction(QString(), this, [this] { failFeature(false); }))
     , m_failWriting(addAction(QString(), this, [this] { failFeature(true); }))
+    , m_refuseWrites(addAction(tr("Refuse &All Writes"), this, &SimulationMenu::refuseWrites))
     , m_recover(addAction(tr("Re&cover All Features"), this, &SimulationMenu::recover))
+    , m_drifts(addAction(tr("Let Values &Drift")))
+    , m_drift(new Drift(this))
 {
     auto *const plug = new PlugMenu(this);
     connect(plug, &PlugMenu::changed, this, &SimulationMenu::changed);
@@ -16,13 +23,21 @@ SimulationMenu::SimulationMenu(QWidget *parent)
     insertSeparator(m_failReading);
     m_failReading->setObjectName(QStringLiteral("failReading"));
     m_failWriting->setObjectName(QStringLiteral("failWriting"));
+    m_refuseWrites->setObjectName(QStringLiteral("refuseWrites"));
     m_recover->setObjectName(QStringLiteral("recover"));
+    m_drifts->setObjectName(QStringLiteral("drift"));
+    m_drifts->setCheckable(true);
+    insertSeparator(m_drifts);
+    connect(m_drifts, &QAction::toggled, this, &SimulationMenu::setDrifting);
+    connect(m_drift, &Drift::changed, this, &SimulationMenu::changed);
     update();
 }
 
-void SimulationMenu::setCamera(const QString &id)
+void SimulationMenu::setCamera(const QString &id, GenApi::INodeMap *nodeMap)
 {
     m_camera = id;
+    m_drifts->setChecked(false);
+    m_drift->setCamera(id.toStdString(), nodeMap);
     update();
 }
 
@@ -39,7 +54,8 @@ void SimulationMenu::update()
     m_failWriting->setText(tr("Let &Writing %1 Fail").arg(feature));
     for (QAction *action : {m_failReading, m_failWriting})
         action->setEnabled(!m_camera.isEmpty() && !m_feature.isEmpty());
-    m_recover->setEnabled(!m_camera.isEmpty());
+    for (QAction *action : {m_refuseWrites, m_recover, m_drifts})
+        action->setEnabled(!m_camera.isEmpty());
 }
 
 void SimulationMenu::failFeature(bool whenWritten)
@@ -48,11 +64,25 @@ void SimulationMenu::failFeature(bool whenWritten)
     if (OrvSim::setFault(m_camera.toStdString(), m_feature.toStdString(), fault))
         Q_EMIT changed();
     else
-        Q_EMIT refused(tr("'%1' has no register of its own that could fail.").arg(m_feature));
+        Q_EMIT told(tr("'%1' has no register of its own that could fail.").arg(m_feature));
+}
+
+void SimulationMenu::refuseWrites()
+{
+    OrvSim::setFault(m_camera.toStdString(), 0, std::numeric_limits<std::int64_t>::max(), OrvSim::Fault::FailWrite);
+    Q_EMIT told(tr("The camera refuses all writes until its features recover."));
 }
 
 void SimulationMenu::recover()
 {
     OrvSim::clearFaults(m_camera.toStdString());
     Q_EMIT changed();
+}
+
+void SimulationMenu::setDrifting(bool on)
+{
+    if (on)
+        m_drift->start();
+    else
+        m_drift->stop();
 }

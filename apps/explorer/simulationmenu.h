@@ -1,10 +1,14 @@
 #pragma once
 
+#include <GenApi/INodeMap.h>
+
 #include <QMenu>
 
+class Drift;
+
 /**
- * Plugs simulated cameras in and out, and makes features of one fail and recover; the latter is disabled while there is
- * none.
+ * Plugs simulated cameras in and out; makes features of one fail and recover, lets it refuse all writes, and lets its
+ * values drift. All but the first is disabled while there is none.
  */
 class SimulationMenu : public QMenu
 {
@@ -13,8 +17,8 @@ class SimulationMenu : public QMenu
 public:
     explicit SimulationMenu(QWidget *parent);
 
-    /** \a id is empty for what is no simulated camera. */
-    void setCamera(const QString &id);
+    /** \a id is empty for what is no simulated camera; \a nodeMap is what the application reads it with. */
+    void setCamera(const QString &id, GenApi::INodeMap *nodeMap);
 
     /** The node name of the feature that is to fail; empty for none. */
     void setFeature(const QString &name);
@@ -23,17 +27,22 @@ Q_SIGNALS:
     /** The camera behaves differently from now on. */
     void changed();
 
-    /** Why nothing changed. */
-    void refused(const QString &reason);
+    /** What came of it, for people. */
+    void told(const QString &message);
 
 private:
     void failFeature(bool whenWritten);
+    void refuseWrites();
     void recover();
+    void setDrifting(bool on);
     void update();
 
     QString m_camera;
     QString m_feature;
     QAction *const m_failReading;
     QAction *const m_failWriting;
+    QAction *const m_refuseWrites;
     QAction *const m_recover;
+    QAction *const m_drifts;
+    Drift *const m_drift;
 };

@@ -1,8 +1,10 @@
 #include "orvtest.h"
 
+#include <QDirIterator>
 #include <QImage>
 #include <QProcess>
 #include <QSet>
+#include <QSettings>
 #include <QTemporaryDir>
 
 namespace {
@@ -14,14 +16,16 @@ struct Result
     QString err;
 };
 
-/** Runs the explorer to its end, in an environment without a display. */
-Result explore(const QStringList &arguments)
+/** Runs the explorer to its end, in an environment without a display, for a person whose files are in \a home. */
+Result explore(const QStringList &arguments, const QString &home = QDir::homePath())
 {
     const QTemporaryDir runtimeDir; // Qt complains when there is none
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
         environment.remove(QLatin1String(variable));
     environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtimeDir.path());
+    environment.insert(QStringLiteral("HOME"), home);
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home + QStringLiteral("/.config"));
     QProcess process;
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral(EXPLORER), arguments);
@@ -36,6 +40,12 @@ QString dataFile(const char *name)
     return QStringLiteral(TEST_DATA "/") + QLatin1String(name);
 }
 
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 } // namespace
 
 class ExplorerTest : public OrvTest::TestCase
@@ -48,6 +58,7 @@ private Q_SLOTS:
     void rejectsInOneLine();
     void drawsItsWindow_data();
     void drawsItsWindow();
+    void drawsWithoutAnyonesSettings();
 };
 
 void ExplorerTest::printsWhatIsAskedFor()
@@ -106,8 +117,13 @@ void ExplorerTest::rejectsInOneLine()
 void ExplorerTest::drawsItsWindow_data()
 {
     QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("simulated camera") << QStringList();
-    QTest::newRow("description") << QStringList{QStringLiteral("--xml"), dataFile("probe.xml")};
+    QTest::addColumn<QStringList>("pictures");
+    const auto list = [](const char *names) { return QString::fromLatin1(names).split(QLatin1Char(' ')); };
+    QTest::newRow("simulated camera") << QStringList()
+                                      << list("explorer widgets filteroptions filter errors about configwindow frameab "
+                                              "trigger pulse strobe dataout color setip selectcamera");
+    QTest::newRow("description") << QStringList{QStringLiteral("--xml"), dataFile("probe.xml")}
+                                 << list("explorer widgets filteroptions filter errors setip selectcamera");
 }
 
 void ExplorerTest::drawsItsWindow()
@@ -120,9 +136,13 @@ void ExplorerTest::drawsItsWindow()
     QCOMPARE(result.err, QString());
     QCOMPARE(result.status, 0);
 
-    for (const char *picture :
-         {"explorer", "widgets", "selectcamera", "setip", "trigger", "pulse", "strobe", "dataout", "color"}) {
-        const QImage image(QStringLiteral("%1/%2.png").arg(dir, QLatin1String(picture)));
+    QFETCH(QStringList, pictures);
+    QStringList files;
+    for (const QString &picture : pictures)
+        files.append(QStringLiteral("%1/%2.png").arg(dir, picture));
+    QCOMPARE(result.out.split(QLatin1Char('\n'), Qt::SkipEmptyParts), files);
+    for (const QString &file : qAsConst(files)) {
+        const QImage image(file);
         QVERIFY(!image.isNull());
         QSet<QRgb> colors;
         for (int y = 0; y < image.height(); ++y) {
@@ -131,6 +151,39 @@ void ExplorerTest::drawsItsWindow()
         }
         QVERIFY2(colors.size() > 10, "the picture shows no text");
     }
+}
+
+/** Pictures are the same for everyone, and leave no trace. */
+void ExplorerTest::drawsWithoutAnyonesSettings()
+{
+    const QTemporaryDir home;
+    const QTemporaryDir target;
+    const QString file = home.filePath(QStringLiteral(".config/OrvCameraGuiApi/orv-camera-explorer.conf"));
+    const auto draw = [&](const QString &name) {
+        explore({QStringLiteral("--screenshot"), target.filePath(name)}, home.path());
+        return QImage(target.filePath(name + QStringLiteral("/explorer.png"))).size();
+    };
+    const auto files = [&home] {
+        QStringList all;
+        for (QDirIterator found(home.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+             found.hasNext();)
+            all.append(found.next());
+        return all;
+    };
+    const QSize size = draw(QStringLiteral("without"));
+    QVERIFY(!size.isEmpty());
+    QCOMPARE(files(), QStringList());
+
+    QWidget other;
+    other.resize(500, 400);
+    QSettings settings(file, QSettings::IniFormat);
+    settings.setValue(QStringLiteral("window/geometry"), other.saveGeometry());
+    settings.sync();
+    const QByteArray before = contentOf(file);
+    QVERIFY(!before.isEmpty());
+    QCOMPARE(draw(QStringLiteral("with")), size);
+    QCOMPARE(files(), QStringList(file));
+    QCOMPARE(contentOf(file), before);
 }
 
 ORV_TEST_MAIN(ExplorerTest)

@@ -8,12 +8,18 @@
 #include <OrvCameraApi/simulation.h>
 #include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
 
+#include <GenApi/GenApi.h>
+
 #include <QAction>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QSettings>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTreeView>
 
@@ -22,6 +28,7 @@
 using OrvTest::whenOpen;
 
 Q_DECLARE_METATYPE(std::function<void()>)
+Q_DECLARE_METATYPE(GenApi::IValue *)
 
 namespace {
 
@@ -82,6 +89,9 @@ private Q_SLOTS:
     void asksAgainWhenACameraCannotBeOpened();
     void plugsInAndOutWhileItAsks();
     void configuresTheCamera();
+    void followsACameraThatGoesAndComesBack();
+    void letsValuesDrift();
+    void remembersItself();
     void savesAndLoadsTheState();
     void listsTheSignalsOfTheWidgets();
 };
@@ -173,6 +183,12 @@ void ExplorerWindowTest::makesFeaturesFailAndRecover()
     QTRY_COMPARE(value.data().toString(), QStringLiteral("ERROR"));
     trigger(window, "recover");
     QTRY_VERIFY(value.data().toString() != QLatin1String("ERROR"));
+
+    auto *const name = firstValue(window, "Device User ID").data(Qt::UserRole).value<GenApi::IValue *>();
+    trigger(window, "refuseWrites");
+    QVERIFY_EXCEPTION_THROWN(name->FromString("new"), GenICam::GenericException);
+    trigger(window, "recover");
+    name->FromString("new");
 }
 
 void ExplorerWindowTest::showsOneCameraAfterTheOther()
@@ -259,23 +275,107 @@ void ExplorerWindowTest::configuresTheCamera()
         ExplorerWindow window(openCamera(QString()));
         window.show();
         ConfigureMenu &menu = window.configureMenu();
-        QVERIFY(menu.dialogNames().size() >= 5);
-        for (const QString &name : menu.dialogNames()) {
+        for (const QString &name : menu.windowNames()) {
             QAction *const action = window.findChild<QAction *>(name);
             action->trigger();
-            QVERIFY2(menu.dialog(name)->isVisible() && action->isChecked(), qPrintable(name));
+            QVERIFY2(menu.windowNamed(name)->isVisible(), qPrintable(name));
+            QCOMPARE(action->isChecked(), action->isCheckable());
         }
         QVERIFY(OrvSim::liveObjects().sinks > 0);
-        QDialog *const color = menu.dialog(QStringLiteral("color"));
+        QWidget *const color = menu.windowNamed(QStringLiteral("color"));
         QTest::keyClick(color, Qt::Key_Escape);
         QVERIFY(!color->isVisible() && !window.findChild<QAction *>(QStringLiteral("color"))->isChecked());
         window.showCamera(QStringLiteral("ORV-USB3-0001"));
         QCOMPARE(OrvSim::liveObjects().devices, std::size_t(1));
+        QAction *const frameAB = window.findChild<QAction *>(QStringLiteral("frameab"));
+        QVERIFY(!frameAB->isEnabled() && !frameAB->isChecked());
         window.showDescription(QStringLiteral(TEST_DATA "/probe.xml"));
         QCOMPARE(OrvSim::liveObjects().sinks, std::size_t(0));
         QVERIFY(!window.findChild<QAction *>(QStringLiteral("color"))->isEnabled());
     }
     QCOMPARE(OrvSim::liveObjects().devices, std::size_t(0));
+}
+
+void ExplorerWindowTest::followsACameraThatGoesAndComesBack()
+{
+    OrvSim::setEventsFromOtherThread(true);
+    {
+        ExplorerWindow window(openCamera(QString()));
+        window.show();
+        QWidget *const trigger = window.configureMenu().windowNamed(QStringLiteral("trigger"));
+        for (const char *name : {"configwindow", "trigger"})
+            ::trigger(window, name);
+        const auto *const enable = trigger->findChild<QWidget *>(QStringLiteral("chBoxEnable"));
+        const auto *const state = window.findChild<QLabel *>(QStringLiteral("connection"));
+        QVERIFY(enable && enable->isEnabled());
+        for (const bool isThere : {false, true}) {
+            isThere ? OrvSim::replug(firstCamera) : OrvSim::unplug(firstCamera);
+            QTRY_COMPARE(state->text(), isThere ? QStringLiteral("Connected") : QStringLiteral("Disconnected"));
+            QCOMPARE(enable->isEnabled(), isThere);
+            QCOMPARE(window.findChild<QAction *>(QStringLiteral("trigger"))->isEnabled(), isThere);
+            QCOMPARE(window.findChild<OrvGui::OrvGenParamTreeView *>()->isPollingEnabled(), isThere);
+        }
+        OrvSim::unplug(firstCamera); // and gone before it is noticed
+    }
+    OrvSim::waitForEvents();
+    QCOMPARE(OrvSim::liveObjects().eventCallbacks, std::size_t(0));
+    QCOMPARE(OrvSim::liveObjects().devices, std::size_t(0));
+}
+
+void ExplorerWindowTest::letsValuesDrift()
+{
+    ExplorerWindow window(openCamera(QString()));
+    window.show();
+    trigger(window, "configwindow");
+    const auto *const exposure = window.configureMenu()
+                                     .windowNamed(QStringLiteral("configwindow"))
+                                     ->findChild<QLineEdit *>(QStringLiteral("lineEditExpFrameA"));
+    QTRY_COMPARE(exposure->text(), QStringLiteral("105"));
+    const QAbstractItemModel *const model = treeOf(window)->model();
+    const QPersistentModelIndex lines = model
+                                            ->match(model->index(0, 0), 0, QStringLiteral("Frame Exposure Lines"), 1,
+                                                    Qt::MatchExactly | Qt::MatchRecursive)
+                                            .value(0)
+                                            .siblingAtColumn(1);
+    QCOMPARE(lines.data().toString(), QStringLiteral("10lines"));
+    trigger(window, "drift");
+    QTRY_VERIFY(lines.data().toString() != QLatin1String("10lines"));
+    QTRY_VERIFY(exposure->text() != QLatin1String("105"));
+}
+
+/** Whatever a person arranged is there again in the next run; what cannot be is passed over. */
+void ExplorerWindowTest::remembersItself()
+{
+    const QTemporaryDir directory;
+    QSettings settings(directory.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
+    {
+        ExplorerWindow window(openCamera(QString()));
+        window.restoreSettings(settings);
+        QCOMPARE(window.size(), QSize(780, 760));
+        window.resize(640, 500);
+        window.showPage(QStringLiteral("widgets"));
+        treeOf(window)->collapseAll();
+        trigger(window, "poll");
+        window.configureMenu().windowNamed(QStringLiteral("pulse"))->move(50, 60);
+        window.saveSettings(settings);
+    }
+    ExplorerWindow window(openCamera(QString()));
+    window.restoreSettings(settings);
+    QCOMPARE(window.size(), QSize(640, 500));
+    QVERIFY(!window.findChild<QAction *>(QStringLiteral("poll"))->isChecked());
+    QVERIFY(!treeOf(window)->isExpanded(treeOf(window)->model()->index(0, 0)));
+    QCOMPARE(window.findChild<QTabWidget *>()->currentIndex(), 1);
+    QCOMPARE(window.configureMenu().windowNamed(QStringLiteral("pulse"))->pos(), QPoint(50, 60));
+    for (const char *camera : {"ORV-USB3-0001", firstCamera}) { // each has its own tree
+        window.showCamera(QLatin1String(camera));
+        QCOMPARE(treeOf(window)->isExpanded(treeOf(window)->model()->index(0, 0)), camera != firstCamera);
+    }
+
+    for (const QString &key : settings.allKeys())
+        settings.setValue(key, QStringLiteral("-7"));
+    window.restoreSettings(settings);
+    QCOMPARE(window.size(), QSize(640, 500));
+    QCOMPARE(window.findChild<OrvGui::OrvGenParamTreeView *>()->getPollingTime(), 0UL);
 }
 
 void ExplorerWindowTest::savesAndLoadsTheState()

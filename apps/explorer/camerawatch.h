@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QObject>
+
+namespace OrvCam {
+class Device;
+} // namespace OrvCam
+
+/** Tells in the GUI thread that a camera was lost, or is back, whichever thread the camera library tells it on. */
+class CameraWatch : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** \a device, which may be null, outlives this. */
+    explicit CameraWatch(OrvCam::Device *device, QObject *parent = nullptr);
+    ~CameraWatch() override;
+
+Q_SIGNALS:
+    void reachableChanged(bool isReachable);
+
+private:
+    static void lost(const void *, unsigned long, void *context);
+    static void found(const void *, unsigned long, void *context);
+    void tell(bool isReachable);
+
+    OrvCam::Device *const m_device;
+};

@@ -1,0 +1,67 @@
+#include "drift.h"
+
+#include <OrvCameraApi/simulation.h>
+
+#include <GenApi/GenApi.h>
+
+#include <algorithm>
+#include <cstdint>
+
+namespace {
+
+constexpr int interval = 500; // milliseconds
+
+} // namespace
+
+Drift::Drift(QObject *parent)
+    : QObject(parent)
+    , m_features{{"Frame_ExposureLinesReg", 1, 400, 5},
+                 {"Frame_BlackLevelReg", 0, 64, 1},
+                 {"ExposureTimeReg", 100, 20000, 100},
+                 {"BlackLevelReg", 0, 64, 1}}
+{
+    connect(&m_timer, &QTimer::timeout, this, &Drift::moveAll);
+}
+
+void Drift::setCamera(const std::string &id, GenApi::INodeMap *nodeMap)
+{
+    stop();
+    m_camera = id;
+    m_nodeMap = nodeMap;
+}
+
+void Drift::start()
+{
+    if (m_nodeMap)
+        m_timer.start(interval);
+}
+
+void Drift::stop()
+{
+    m_timer.stop();
+}
+
+void Drift::moveAll()
+{
+    bool moved = false;
+    for (Feature &feature : m_features)
+        moved = move(feature) || moved;
+    if (moved)
+        Q_EMIT changed();
+}
+
+/** From where it is: a value that people set goes on from there. False when the camera has, or tells, no such value. */
+bool Drift::move(Feature &feature)
+{
+    try {
+        const GenApi::CIntegerPtr number(m_nodeMap->GetNode(feature.name.c_str()));
+        if (!number.IsValid())
+            return false;
+        const std::int64_t now = std::clamp<std::int64_t>(number->GetValue(), feature.lowest, feature.highest);
+        if (now + feature.step < feature.lowest || now + feature.step > feature.highest)
+            feature.step = -feature.step;
+        return OrvSim::setRegister(m_camera, feature.name, std::to_string(now + feature.step));
+    } catch (const GenICam::GenericException &) {
+        return false; // the camera is unplugged
+    }
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+
+#include <GenApi/INodeMap.h>
+
+#include <string>
+#include <vector>
+
+/**
+ * Lets values of a simulated camera change by themselves, step by step, to and fro: exposure and black level, by
+ * whichever name the camera has them.
+ */
+class Drift : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Drift(QObject *parent = nullptr);
+
+    /** That camera from now on; no value of it changes until start(). \a nodeMap may be null. */
+    void setCamera(const std::string &id, GenApi::INodeMap *nodeMap);
+
+    void start();
+    void stop();
+
+Q_SIGNALS:
+    /** What the application last read is not what the camera has now. */
+    void changed();
+
+private:
+    struct Feature
+    {
+        std::string name; ///< of its register
+        int lowest;
+        int highest;
+        int step; ///< its sign tells the direction
+    };
+
+    void moveAll();
+    bool move(Feature &feature);
+
+    std::string m_camera;
+    GenApi::INodeMap *m_nodeMap = nullptr;
+    std::vector<Feature> m_features;
+    QTimer m_timer;
+};
