@@ -41,27 +41,26 @@ void Drift::stop()
     m_timer.stop();
 }
 
+/** From where each is: a value that people set goes on from there. */
 void Drift::moveAll()
 {
-    bool moved = false;
-    for (Feature &feature : m_features)
-        moved = move(feature) || moved;
-    if (moved)
-        Q_EMIT changed();
+    for (Feature &feature : m_features) {
+        try {
+            move(feature);
+        } catch (const GenICam::GenericException &) {
+            // The camera is unplugged, or does not tell this value.
+        }
+    }
 }
 
-/** From where it is: a value that people set goes on from there. False when the camera has, or tells, no such value. */
-bool Drift::move(Feature &feature)
+void Drift::move(Feature &feature)
 {
-    try {
-        const GenApi::CIntegerPtr number(m_nodeMap->GetNode(feature.name.c_str()));
-        if (!number.IsValid())
-            return false;
-        const std::int64_t now = std::clamp<std::int64_t>(number->GetValue(), feature.lowest, feature.highest);
-        if (now + feature.step < feature.lowest || now + feature.step > feature.highest)
-            feature.step = -feature.step;
-        return OrvSim::setRegister(m_camera, feature.name, std::to_string(now + feature.step));
-    } catch (const GenICam::GenericException &) {
-        return false; // the camera is unplugged
-    }
+    const GenApi::CIntegerPtr number(m_nodeMap->GetNode(feature.name.c_str()));
+    if (!number.IsValid())
+        return;
+    const std::int64_t now = std::clamp<std::int64_t>(number->GetValue(), feature.lowest, feature.highest);
+    if (now + feature.step < feature.lowest || now + feature.step > feature.highest)
+        feature.step = -feature.step;
+    OrvSim::setRegister(m_camera, feature.name, std::to_string(now + feature.step));
+    number->GetNode()->InvalidateNode();
 }

@@ -10,7 +10,8 @@
 
 /**
  * Lets values of a simulated camera change by themselves, step by step, to and fro: exposure and black level, by
- * whichever name the camera has them.
+ * whichever name the camera has them. The application is told as by a camera library that hears of it: its nodes are
+ * invalidated.
  */
 class Drift : public QObject
 {
@@ -25,10 +26,6 @@ public:
     void start();
     void stop();
 
-Q_SIGNALS:
-    /** What the application last read is not what the camera has now. */
-    void changed();
-
 private:
     struct Feature
     {
@@ -39,7 +36,7 @@ private:
     };
 
     void moveAll();
-    bool move(Feature &feature);
+    void move(Feature &feature);
 
     std::string m_camera;
     GenApi::INodeMap *m_nodeMap = nullptr;

@@ -150,7 +150,7 @@ void ExplorerWindow::createViewMenu()
     QMenu *const view = menuBar()->addMenu(tr("&View"));
     QAction *const refreshing = view->addAction(iconOf("refresh"), tr("&Refresh Values"), this,
                                                 &ExplorerWindow::refresh, QKeySequence::Refresh);
-    setTip(*refreshing, tr("Read all values anew"));
+    setTip(*refreshing, tr("Read the values of the tree anew"));
     view->addSeparator();
     m_polling = view->addAction(iconOf("poll"), tr("&Poll"));
     m_polling->setObjectName(QStringLiteral("poll"));

@@ -29,7 +29,6 @@ SimulationMenu::SimulationMenu(QWidget *parent)
     m_drifts->setCheckable(true);
     insertSeparator(m_drifts);
     connect(m_drifts, &QAction::toggled, this, &SimulationMenu::setDrifting);
-    connect(m_drift, &Drift::changed, this, &SimulationMenu::changed);
     update();
 }
 

@@ -7,6 +7,7 @@
 
 #include <OrvCameraApi/simulation.h>
 #include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
+#include <OrvCameraGuiApi/widgets/qtorvspinbox.h>
 
 #include <GenApi/GenApi.h>
 
@@ -338,8 +339,17 @@ void ExplorerWindowTest::letsValuesDrift()
                                             .value(0)
                                             .siblingAtColumn(1);
     QCOMPARE(lines.data().toString(), QStringLiteral("10lines"));
+    const auto *const dialogLines = window.configureMenu()
+                                        .windowNamed(QStringLiteral("frameab"))
+                                        ->findChild<QtOrvSpinBox *>(QStringLiteral("spBoxExposureLines"));
+    QCOMPARE(dialogLines->value(), 10);
+    bool isTold = false;
+    connect(model, &QAbstractItemModel::dataChanged, &window,
+            [&](const QModelIndex &index) { isTold = isTold || index.siblingAtColumn(1) == lines; });
     trigger(window, "drift");
-    QTRY_VERIFY(lines.data().toString() != QLatin1String("10lines"));
+    QTRY_VERIFY(isTold);
+    QVERIFY(lines.data().toString() != QLatin1String("10lines"));
+    QTRY_VERIFY(dialogLines->value() != 10);
     QTRY_VERIFY(exposure->text() != QLatin1String("105"));
 }
 
@@ -366,9 +376,12 @@ void ExplorerWindowTest::remembersItself()
     QVERIFY(!treeOf(window)->isExpanded(treeOf(window)->model()->index(0, 0)));
     QCOMPARE(window.findChild<QTabWidget *>()->currentIndex(), 1);
     QCOMPARE(window.configureMenu().windowNamed(QStringLiteral("pulse"))->pos(), QPoint(50, 60));
+    treeOf(window)->expandToDepth(0);
     for (const char *camera : {"ORV-USB3-0001", firstCamera}) { // each has its own tree
         window.showCamera(QLatin1String(camera));
-        QCOMPARE(treeOf(window)->isExpanded(treeOf(window)->model()->index(0, 0)), camera != firstCamera);
+        QVERIFY(treeOf(window)->isExpanded(treeOf(window)->model()->index(0, 0)));
+        if (camera != firstCamera)
+            treeOf(window)->collapseAll();
     }
 
     for (const QString &key : settings.allKeys())
