@@ -56,5 +56,18 @@ build_preset() {
     cmake --build --preset "$preset" ${1:+--target "$@"}
 }
 
+# Writes the blocks of language $1 in the page $2 to the files $3_1.$1, $3_2.$1...; compilers tell the page's lines.
+take_blocks() {
+    awk -v language="$1" -v prefix="$3" '
+        $0 == "```" language {
+            inside = 1
+            file = prefix "_" ++n "." language
+            printf "#line %d \"%s\"\n", NR + 1, FILENAME >file
+            next
+        }
+        /^```$/ { inside = 0; next }
+        inside { print >file }' "$2"
+}
+
 cd "$top" || exit 1
 mkdir -p "$top/build"

@@ -12,7 +12,7 @@ declare -A about=(
     [genicam]="library against installed GenICam headers and libraries"
     [consumers]="installed headers, examples by CMake and by pkg-config"
     [abi]="binary interface against the released one, which sees a virtual function more"
-    [docs]="Doxygen, links, examples in the pages"
+    [docs]="Doxygen, links, examples, pictures, the pages followed"
     [packages]="Debian packages and archive"
     [test]="release build and whole suite"
 )
@@ -21,7 +21,7 @@ stage_format() {
     install_packages clang-format shellcheck
     git ls-files -z '*.cpp' '*.h' | xargs -0 -n 40 clang-format --dry-run --Werror
     shellcheck -x run test .ci/run .ci/stages.sh .ci/common.sh .ci/consumers .ci/genicam-build .ci/genicam-prefix \
-        .ci/packages .ci/abi .ci/docs .ci/tidy .ci/fuzz .ci/bare-debian benchmarks/run
+        .ci/packages .ci/abi .ci/docs .ci/follow docs/pictures .ci/tidy .ci/fuzz .ci/bare-debian benchmarks/run
 }
 
 stage_tidy() {
@@ -61,7 +61,7 @@ stage_abi() {
 }
 
 stage_docs() {
-    install_packages doxygen graphviz
+    install_packages doxygen graphviz file pngquant
     [ -d build/stage ] || stage_consumers
     .ci/docs
 }
