@@ -42,6 +42,8 @@ install(DIRECTORY src/OrvCameraGuiApi/camera_api DESTINATION ${_orv_header_dir} 
     FILES_MATCHING PATTERN "*.h")
 install(TARGETS OrvCameraGuiApi EXPORT OrvCameraGuiApiTargets
     LIBRARY COMPONENT Runtime NAMELINK_COMPONENT Development)
+install(FILES ${ORV_TRANSLATIONS} COMPONENT Runtime
+    DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/OrvCameraGuiApi/translations)
 install(EXPORT OrvCameraGuiApiTargets NAMESPACE Orv:: DESTINATION ${_orv_package_dir} COMPONENT Development)
 
 if(ORV_STAND_INS)

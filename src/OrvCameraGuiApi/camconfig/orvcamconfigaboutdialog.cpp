@@ -26,7 +26,7 @@ OrvCamConfigAboutDialog::~OrvCamConfigAboutDialog() = default;
 void OrvCamConfigAboutDialog::adjustAbout(const CameraParams &params)
 {
     const auto show = [](QLabel *label, const std::optional<QString> &text) {
-        label->setText(text.value_or(QStringLiteral("N/A")));
+        label->setText(text.value_or(tr("N/A")));
     };
     const auto showNumber = [&](QLabel *label, OrvGenParam::Int *param) {
         const QString text = decimal(param);

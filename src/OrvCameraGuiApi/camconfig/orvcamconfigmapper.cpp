@@ -1,5 +1,6 @@
 #include <OrvCameraGuiApi/camconfig/orvcamconfigmapper.h>
 
+#include <OrvCameraGuiApi/camconfig/errortexts.h>
 #include <OrvCameraGuiApi/widgets/qtorvsliderspinbox.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinbox.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
