@@ -56,7 +56,8 @@ QString PseudoLanguage::translate(const char *context, const char *source, const
     }
     QStringList lines = text.split(QLatin1Char('\n'));
     for (QString &line : lines)
-        X.join(QLatin1Char('\n'));
+        line = doubled(line);
+    return lines.join(QLatin1Char('\n'));
 }
 
 } // namespace OrvTest
