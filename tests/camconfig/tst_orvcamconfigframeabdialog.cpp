@@ -382,7 +382,7 @@ void OrvCamConfigFrameABDialogTest::exposureTimeOfOddClocks()
     QFETCH(QString, shown);
     QFETCH(int, writes);
     plugInEditedCamera({{"<pMax>Frame_ExposureClocksMax</pMax>", "<Max>99999</Max>"},
-                         {"<pValue>PixelClockReg</pValue><Min>1</Min>", "<pValue>PixelClockReg</pValue>"}});
+                        {"<pValue>PixelClockReg</pValue><Min>1</Min>", "<pValue>PixelClockReg</pValue>"}});
     const Camera camera(changedCamera);
     QVERIFY(camera.set("Frame_FixedFramePeriodEnable", "false"));
     if (value.isNull())
@@ -561,8 +561,8 @@ void OrvCamConfigFrameABDialogTest::frameModeOfAnotherWindow()
 void OrvCamConfigFrameABDialogTest::pagesComeBack()
 {
     plugInEditedCamera({{"<EnumEntry Name=\"FrameB\" NameSpace=\"Custom\"><Value>1</Value></EnumEntry>\n"
-                          "    <pValue>FrameAB_SelectorReg</pValue>",
-                          "<pValue>FrameAB_SelectorReg</pValue>"}});
+                         "    <pValue>FrameAB_SelectorReg</pValue>",
+                         "<pValue>FrameAB_SelectorReg</pValue>"}});
     const Camera single(changedCamera);
     const Camera both;
     OrvCamConfigFrameABDialog dialog(single.device());
@@ -659,18 +659,20 @@ void OrvCamConfigFrameABDialogTest::tellsTheSizeOfTheImage()
 void OrvCamConfigFrameABDialogTest::captions()
 {
     const OrvCamConfigFrameABDialog dialog(nullptr);
-    const std::pair<const char *, QString> texts[] = {
-        {"spBoxDualLineTime", QStringLiteral("Dual Video\nLine Time [pclk]:")},
-        {"spBoxLineTime", QStringLiteral("Line Time [pclk]:")},
-        {"spBoxOffsetX", QStringLiteral("OffsetX:")},
-        {"spBoxOffsetY", QStringLiteral("OffsetY:")},
-        {"spBoxWidth", QStringLiteral("Width: ")},
-        {"spBoxHeight", QStringLiteral("Height:")},
-        {"gainDigital", QStringLiteral("Digital Gain:")},
-        {"spBoxBlackLevel", QStringLiteral("Black Level:")},
-        {"spBoxExposureTime", QStringLiteral("Exposure Time [\u03bcs]:")}};
-    for (const auto &[control, text] : texts)
-        QCOMPARE(part<QWidget>(dialog, control)->property("leftLabelText").toString(), text);
+    const std::pair<const char *, const char *> texts[] = {{"spBoxDualLineTime", "Dual Video\nLine Time [pclk]:"},
+                                                           {"spBoxLineTime", "Line Time [pclk]:"},
+                                                           {"spBoxOffsetX", "OffsetX:"},
+                                                           {"spBoxOffsetY", "OffsetY:"},
+                                                           {"spBoxWidth", "Width: "},
+                                                           {"spBoxHeight", "Height:"},
+                                                           {"gainDigital", "Digital Gain:"},
+                                                           {"spBoxBlackLevel", "Black Level:"},
+                                                           {"spBoxExposureTime", "Exposure Time [%1s]:"}};
+    for (const auto &[control, text] : texts) {
+        const QString expected = OrvTest::translated("OrvGui::OrvCamConfigFrameABDialog", text)
+                                     .replace(QLatin1String("%1"), QStringLiteral("\u03bc"));
+        QCOMPARE(part<QWidget>(dialog, control)->property("leftLabelText").toString(), expected);
+    }
 }
 
 void OrvCamConfigFrameABDialogTest::keepsTheRulesOfFeatureDialogs()
