@@ -499,7 +499,7 @@ void OrvCamConfigTest::asksForACamera()
         choose(selector, twoFrame);
     });
     {
-        const Camera camera(SimTest::stray);
+        const Camera camera(monochrome);
         OrvCamConfig window(nullptr);
         QCOMPARE(statusText(window), QStringLiteral("TF-2000C"));
         QCOMPARE(OrvSim::liveObjects().devices, std::size_t(2));
@@ -512,9 +512,9 @@ void OrvCamConfigTest::asksForACamera()
         QVERIFY(!isUsable(window, dialogs[5]));
         QCOMPARE(OrvSim::liveObjects().devices, std::size_t(1));
         QCOMPARE(OrvSim::liveObjects().systemReferences, std::size_t(0));
-        chooseWhenAsked(monochrome);
+        chooseWhenAsked(twoFrame);
         trigger(window, "actionConnect");
-        QTRY_COMPARE(column(window, "A"), monochromeFrame);
+        QTRY_COMPARE(column(window, "A"), frameA);
         window.SetDevice(camera.device());
         QCOMPARE(OrvSim::liveObjects().devices, std::size_t(1));
     }
