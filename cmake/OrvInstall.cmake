@@ -127,6 +127,7 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
     "liborvcameraguiapi1 ${_orv_same_version}, qtbase5-dev")
 set(CPACK_DEBIAN_DESIGNER_PACKAGE_DEPENDS "liborvcameraguiapi1 ${_orv_same_version}")
 set(CPACK_DEBIAN_EXPLORER_PACKAGE_DEPENDS "liborvcameraguiapi1 ${_orv_same_version}")
+set(CPACK_DEBIAN_EXPLORER_PACKAGE_RECOMMENDS "qttranslations5-l10n") # Qt's own texts in other languages
 if(ORV_STAND_INS)
     set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS "orvcameraguiapi-standins ${_orv_same_version}")
     string(APPEND CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS ", orvcameraguiapi-standins ${_orv_same_version}")

@@ -2,6 +2,7 @@
 #include "camerasource.h"
 #include "configuremenu.h"
 #include "explorerwindow.h"
+#include "languages.h"
 #include "options.h"
 
 #include <QApplication>
@@ -119,6 +120,7 @@ int runWindow(int argc, char **argv, const Options &options, std::unique_ptr<Cam
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication app(argc, argv);
+    speak(options.language);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/explorer/explorer.png")));
 
     if (!source)
