@@ -1,10 +1,24 @@
 #pragma once
 
+#include <QAbstractButton>
+#include <QLineEdit>
 #include <QWidget>
 
+#include <algorithm>
+
+/** Whether the text that an empty field shows in place of a value ends before the buttons in the field. */
+inline bool hasRoomForPlaceholder(const QLineEdit &field)
+{
+    int end = field.width();
+    const auto buttons = field.findChildren<QAbstractButton *>();
+    for (const QAbstractButton *const button : buttons)
+        end = std::min(end, button->x());
+    return field.fontMetrics().horizontalAdvance(field.placeholderText()) < end;
+}
+
 /**
- * A label, button, combo box or row of tabs that is seen with less than the size it asks for, or a group narrower than
- * its title; empty when there is none.
+ * A label, button, combo box or row of tabs that is seen with less than the size it asks for, a group narrower than its
+ * title, or a field that cuts what it says it is for; empty when there is none.
  */
 inline QString cutWidget(const QWidget &window)
 {
@@ -15,6 +29,9 @@ inline QString cutWidget(const QWidget &window)
             || widget->inherits("QComboBox") || widget->inherits("QTabBar");
         const QSize hint = isGroup ? widget->minimumSizeHint() : widget->sizeHint();
         if (hasText && widget->isVisible() && (widget->width() < hint.width() || widget->height() < hint.height()))
+            return widget->objectName();
+        const auto *const field = qobject_cast<const QLineEdit *>(widget);
+        if (field && field->isVisible() && !hasRoomForPlaceholder(*field))
             return widget->objectName();
     }
     return {};

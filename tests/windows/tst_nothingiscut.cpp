@@ -1,3 +1,6 @@
+#include <OrvCameraGuiApi/camconfig/camerastatus.h>
+#include <OrvCameraGuiApi/camconfig/orvcamconfig.h>
+#include <OrvCameraGuiApi/camconfig/orvcamconfigaboutdialog.h>
 #include <OrvCameraGuiApi/device_selection/orvcameraselectordialog.h>
 #include <OrvCameraGuiApi/device_selection/setipdialog.h>
 #include <OrvCameraGuiApi/feature_tree/filteroptions.h>
@@ -7,6 +10,8 @@
 #include <cutwidget.h>
 #include <orvtest.h>
 #include <simtest.h>
+
+#include <QTreeView>
 
 #include <functional>
 
@@ -34,6 +39,12 @@ private Q_SLOTS:
         row("camera selector", [](const Camera &) {
             return new OrvGui::OrvCameraSelectorDialog(SimTest::getSystem().get(), nullptr, false);
         });
+        row("camera configuration", [](const Camera &camera) { return new OrvGui::OrvCamConfig(camera.get()); });
+        row("about the camera", [](const Camera &camera) {
+            auto *const dialog = new OrvGui::OrvCamConfigAboutDialog(nullptr);
+            dialog->adjustAbout(OrvGui::CameraParams(*camera->GetCameraParameters(nullptr)));
+            return dialog;
+        });
         row("camera selector without a system",
             [](const Camera &) { return new OrvGui::OrvCameraSelectorDialog(nullptr, nullptr, false); });
         row("IP configuration", [](const Camera &) {
@@ -57,6 +68,28 @@ private Q_SLOTS:
         window->show();
         QVERIFY(QTest::qWaitForWindowExposed(window.get()));
         QTRY_COMPARE(cutWidget(*window), QString());
+    }
+
+    /** What the library says beside what a camera does: in the panes of the selector. */
+    void valuesInPanes()
+    {
+        const SimTest::Held<OrvCam::System> system = SimTest::getSystem();
+        OrvGui::OrvCameraSelectorDialog selector(system.get(), nullptr, false);
+        auto *const tree = selector.findChild<QTreeView *>(QStringLiteral("deviceTreeView"));
+        selector.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&selector));
+        QTest::keyClick(tree, Qt::Key_Home);
+        QTest::keyClick(tree, Qt::Key_Down);
+        const std::pair<const char *, const char *> values[] = {{"deviceInfoView", "Access status"},
+                                                                {"interfaceInfoView", "Type"}};
+        for (const auto &[name, label] : values) {
+            const auto *const pane = selector.findChild<QTreeView *>(QLatin1String(name));
+            const QModelIndexList labels = pane->model()->match(pane->model()->index(0, 0), Qt::DisplayRole,
+                                                                QLatin1String(label), 1, Qt::MatchExactly);
+            QCOMPARE(labels.size(), 1);
+            const QModelIndex value = labels.constFirst().siblingAtColumn(1);
+            QVERIFY2(pane->sizeHintForIndex(value).width() <= pane->columnWidth(1), label);
+        }
     }
 };
 
