@@ -14,7 +14,7 @@ set(ORV_LUPDATE_ARGUMENTS
     -I ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/src/OrvCameraGuiApi)
 
 # Not part of any build: it writes into the source tree.
-add_custom_target(update-translations
+add_custom_target(orv-update-translations
     COMMAND Qt5::lupdate ${ORV_LUPDATE_ARGUMENTS} -ts ${ORV_CATALOGUES}
     COMMENT "Bringing the catalogues up to date with the source texts; new entries are marked unfinished"
     VERBATIM)

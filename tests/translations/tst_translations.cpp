@@ -94,7 +94,7 @@ void TestTranslations::catalogue()
     QCOMPARE(same, listed);
 }
 
-/** The catalogues have every source text, and none that is gone; the target update-translations sees to that. */
+/** The catalogues have every source text, and none that is gone; the target orv-update-translations sees to that. */
 void TestTranslations::updating()
 {
     const QTemporaryDir copies;
