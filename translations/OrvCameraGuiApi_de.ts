@@ -29,6 +29,10 @@
         <source>No Errors</source>
         <translation>Keine Fehler</translation>
     </message>
+    <message>
+        <source>Errors</source>
+        <translation>Fehler</translation>
+    </message>
 </context>
 <context>
     <name>GenParamTreeModel</name>
@@ -196,6 +200,22 @@ Platzhalter sind möglich.</translation>
     <message>
         <source>Errors</source>
         <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Visibility</source>
+        <translation>Sichtbarkeit</translation>
+    </message>
+    <message>
+        <source>No errors</source>
+        <translation>Keine Fehler</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation>Merkmale</translation>
+    </message>
+    <message>
+        <source>Description of the feature</source>
+        <translation>Beschreibung des Merkmals</translation>
     </message>
 </context>
 <context>
@@ -378,6 +398,38 @@ Platzhalter sind möglich.</translation>
         <source>Blue coef.:</source>
         <translation>Koeff. Blau:</translation>
     </message>
+    <message>
+        <source>White balance</source>
+        <translation>Weißabgleich</translation>
+    </message>
+    <message>
+        <source>Tracking speed</source>
+        <translation>Nachführgeschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Red coefficient</source>
+        <translation>Koeffizient für Rot</translation>
+    </message>
+    <message>
+        <source>Set red to unity</source>
+        <translation>Rot auf eins setzen</translation>
+    </message>
+    <message>
+        <source>Green coefficient</source>
+        <translation>Koeffizient für Grün</translation>
+    </message>
+    <message>
+        <source>Set green to unity</source>
+        <translation>Grün auf eins setzen</translation>
+    </message>
+    <message>
+        <source>Blue coefficient</source>
+        <translation>Koeffizient für Blau</translation>
+    </message>
+    <message>
+        <source>Set blue to unity</source>
+        <translation>Blau auf eins setzen</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigFrameABDialog</name>
@@ -513,6 +565,126 @@ Platzhalter sind möglich.</translation>
         <source>Exposure 3:</source>
         <translation>Belichtung 3:</translation>
     </message>
+    <message>
+        <source>Frame mode</source>
+        <translation>Bildmodus</translation>
+    </message>
+    <message>
+        <source>Number of frames A in a row</source>
+        <translation>Anzahl der Bilder A in Folge</translation>
+    </message>
+    <message>
+        <source>Number of frames B in a row</source>
+        <translation>Anzahl der Bilder B in Folge</translation>
+    </message>
+    <message>
+        <source>Dual video line time in pixel clocks</source>
+        <translation>Zeilenzeit bei Doppelbild in Pixeltakten</translation>
+    </message>
+    <message>
+        <source>Exposure time in microseconds</source>
+        <translation>Belichtungszeit in Mikrosekunden</translation>
+    </message>
+    <message>
+        <source>Exposure lines</source>
+        <translation>Belichtung in Zeilen</translation>
+    </message>
+    <message>
+        <source>Exposure pixel clocks</source>
+        <translation>Belichtung in Pixeltakten</translation>
+    </message>
+    <message>
+        <source>Line time in pixel clocks</source>
+        <translation>Zeilenzeit in Pixeltakten</translation>
+    </message>
+    <message>
+        <source>Fixed frame period</source>
+        <translation>Feste Bildperiode</translation>
+    </message>
+    <message>
+        <source>Frame period in microseconds</source>
+        <translation>Bildperiode in Mikrosekunden</translation>
+    </message>
+    <message>
+        <source>Digital gain</source>
+        <translation>Digitale Verstärkung</translation>
+    </message>
+    <message>
+        <source>Black level</source>
+        <translation>Schwarzwert</translation>
+    </message>
+    <message>
+        <source>Horizontal offset</source>
+        <translation>Horizontaler Versatz</translation>
+    </message>
+    <message>
+        <source>Vertical offset</source>
+        <translation>Vertikaler Versatz</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Subsampling M</source>
+        <translation>Unterabtastung M</translation>
+    </message>
+    <message>
+        <source>Subsampling P</source>
+        <translation>Unterabtastung P</translation>
+    </message>
+    <message>
+        <source>Averaging</source>
+        <translation>Mittelung</translation>
+    </message>
+    <message>
+        <source>Wide dynamic range</source>
+        <translation>Erweiterter Dynamikbereich</translation>
+    </message>
+    <message>
+        <source>Level 1 of the wide dynamic range</source>
+        <translation>Pegel 1 des erweiterten Dynamikbereichs</translation>
+    </message>
+    <message>
+        <source>Exposure 1 of the wide dynamic range</source>
+        <translation>Belichtung 1 des erweiterten Dynamikbereichs</translation>
+    </message>
+    <message>
+        <source>Level 2 of the wide dynamic range</source>
+        <translation>Pegel 2 des erweiterten Dynamikbereichs</translation>
+    </message>
+    <message>
+        <source>Exposure 2 of the wide dynamic range</source>
+        <translation>Belichtung 2 des erweiterten Dynamikbereichs</translation>
+    </message>
+    <message>
+        <source>Level 3 of the wide dynamic range</source>
+        <translation>Pegel 3 des erweiterten Dynamikbereichs</translation>
+    </message>
+    <message>
+        <source>Exposure 3 of the wide dynamic range</source>
+        <translation>Belichtung 3 des erweiterten Dynamikbereichs</translation>
+    </message>
+    <message>
+        <source>Shutter mode</source>
+        <translation>Verschlussmodus</translation>
+    </message>
+    <message>
+        <source>Bit depth</source>
+        <translation>Bittiefe</translation>
+    </message>
+    <message>
+        <source>Exposure control</source>
+        <translation>Belichtungssteuerung</translation>
+    </message>
+    <message>
+        <source>Analog gain</source>
+        <translation>Analoge Verstärkung</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigMainWindow</name>
@@ -612,6 +784,49 @@ Platzhalter sind möglich.</translation>
         <source>About</source>
         <translation>Über</translation>
     </message>
+    <message>
+        <source>Size of frame A</source>
+        <translation>Größe von Bild A</translation>
+    </message>
+    <message>
+        <source>Size of frame B</source>
+        <translation>Größe von Bild B</translation>
+    </message>
+    <message>
+        <source>Frames per second of frame A</source>
+        <translation>Bildrate von Bild A</translation>
+    </message>
+    <message>
+        <source>Frames per second of frame B</source>
+        <translation>Bildrate von Bild B</translation>
+    </message>
+    <message>
+        <source>Frame time of frame A</source>
+        <translation>Bildzeit von Bild A</translation>
+    </message>
+    <message>
+        <source>Frame time of frame B</source>
+        <translation>Bildzeit von Bild B</translation>
+    </message>
+    <message>
+        <source>Exposure time of frame A</source>
+        <translation>Belichtungszeit von Bild A</translation>
+    </message>
+    <message>
+        <source>Exposure time of frame B</source>
+        <translation>Belichtungszeit von Bild B</translation>
+    </message>
+    <message>
+        <source>Temperature of the camera</source>
+        <translation>Temperatur der Kamera</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigMapper</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigOutputDialog</name>
@@ -679,6 +894,54 @@ Platzhalter sind möglich.</translation>
         <source>Test Pattern:</source>
         <translation>Testbild:</translation>
     </message>
+    <message>
+        <source>Taps</source>
+        <translation>Taps</translation>
+    </message>
+    <message>
+        <source>Depth</source>
+        <translation>Tiefe</translation>
+    </message>
+    <message>
+        <source>Pixel format</source>
+        <translation>Pixelformat</translation>
+    </message>
+    <message>
+        <source>Enable the look-up table</source>
+        <translation>Umsetzungstabelle aktivieren</translation>
+    </message>
+    <message>
+        <source>Look-up table</source>
+        <translation>Umsetzungstabelle</translation>
+    </message>
+    <message>
+        <source>Defect pixel correction</source>
+        <translation>Korrektur defekter Pixel</translation>
+    </message>
+    <message>
+        <source>Dynamic threshold of the defect pixel correction</source>
+        <translation>Dynamische Schwelle der Korrektur defekter Pixel</translation>
+    </message>
+    <message>
+        <source>Hot pixel correction</source>
+        <translation>Hotpixel-Korrektur</translation>
+    </message>
+    <message>
+        <source>Dynamic threshold of the hot pixel correction</source>
+        <translation>Dynamische Schwelle der Hotpixel-Korrektur</translation>
+    </message>
+    <message>
+        <source>Horizontal mirror</source>
+        <translation>Horizontal spiegeln</translation>
+    </message>
+    <message>
+        <source>Vertical mirror</source>
+        <translation>Vertikal spiegeln</translation>
+    </message>
+    <message>
+        <source>Test pattern</source>
+        <translation>Testbild</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigPulseDialog</name>
@@ -734,6 +997,26 @@ Platzhalter sind möglich.</translation>
         <source>Start</source>
         <translation>Starten</translation>
     </message>
+    <message>
+        <source>Granularity</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>Period in microseconds</source>
+        <translation>Periode in Mikrosekunden</translation>
+    </message>
+    <message>
+        <source>Width in microseconds</source>
+        <translation>Breite in Mikrosekunden</translation>
+    </message>
+    <message>
+        <source>Delay in microseconds</source>
+        <translation>Verzögerung in Mikrosekunden</translation>
+    </message>
+    <message>
+        <source>Frequency in hertz</source>
+        <translation>Frequenz in Hertz</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigStrobeDialog</name>
@@ -785,6 +1068,38 @@ Platzhalter sind möglich.</translation>
         <source>Signal on output 2</source>
         <translation>Signal an Ausgang 2</translation>
     </message>
+    <message>
+        <source>Mode of strobe 1</source>
+        <translation>Modus von Blitz 1</translation>
+    </message>
+    <message>
+        <source>Reference of strobe 1</source>
+        <translation>Bezug von Blitz 1</translation>
+    </message>
+    <message>
+        <source>Delay of strobe 1 in microseconds</source>
+        <translation>Verzögerung von Blitz 1 in Mikrosekunden</translation>
+    </message>
+    <message>
+        <source>Width of strobe 1 in microseconds</source>
+        <translation>Breite von Blitz 1 in Mikrosekunden</translation>
+    </message>
+    <message>
+        <source>Mode of strobe 2</source>
+        <translation>Modus von Blitz 2</translation>
+    </message>
+    <message>
+        <source>Reference of strobe 2</source>
+        <translation>Bezug von Blitz 2</translation>
+    </message>
+    <message>
+        <source>Delay of strobe 2 in microseconds</source>
+        <translation>Verzögerung von Blitz 2 in Mikrosekunden</translation>
+    </message>
+    <message>
+        <source>Width of strobe 2 in microseconds</source>
+        <translation>Breite von Blitz 2 in Mikrosekunden</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigTriggerDialog</name>
@@ -817,6 +1132,26 @@ Platzhalter sind möglich.</translation>
 Trigger</source>
         <translation>Software-
 Trigger</translation>
+    </message>
+    <message>
+        <source>Enable the trigger</source>
+        <translation>Trigger aktivieren</translation>
+    </message>
+    <message>
+        <source>Trigger source</source>
+        <translation>Triggerquelle</translation>
+    </message>
+    <message>
+        <source>Edge</source>
+        <translation>Flanke</translation>
+    </message>
+    <message>
+        <source>Debounce</source>
+        <translation>Entprellung</translation>
+    </message>
+    <message>
+        <source>Software trigger</source>
+        <translation>Software-Trigger</translation>
     </message>
 </context>
 <context>
@@ -1027,6 +1362,18 @@ Beschreibung: %2</translation>
         <source>Start</source>
         <translation>Starten</translation>
     </message>
+    <message>
+        <source>Pulses</source>
+        <translation>Pulse</translation>
+    </message>
+    <message>
+        <source>Pulses are generated</source>
+        <translation>Pulse werden erzeugt</translation>
+    </message>
+    <message>
+        <source>No pulses are generated</source>
+        <translation>Es werden keine Pulse erzeugt</translation>
+    </message>
 </context>
 <context>
     <name>OrvGui::OrvCamConfigStrobeDialog</name>
@@ -1094,12 +1441,24 @@ Press OK to skip the IP Configuration, or press Ignore to confirm</source>
         <source>Filter options</source>
         <translation>Filteroptionen</translation>
     </message>
+    <message>
+        <source>There are errors</source>
+        <translation>Es gibt Fehler</translation>
+    </message>
+    <message>
+        <source>No errors</source>
+        <translation>Keine Fehler</translation>
+    </message>
 </context>
 <context>
     <name>QtOrvSpinBox</name>
     <message>
         <source>Slider</source>
         <translation>Schieberegler</translation>
+    </message>
+    <message>
+        <source>%1 slider</source>
+        <translation>%1, Schieberegler</translation>
     </message>
 </context>
 <context>
@@ -1155,6 +1514,34 @@ Press OK to skip the IP Configuration, or press Ignore to confirm</source>
     <message>
         <source>Subnet IP mismatch!</source>
         <translation>IP-Adresse passt nicht zum Subnetz!</translation>
+    </message>
+    <message>
+        <source>MAC address of the network adapter</source>
+        <translation>MAC-Adresse des Netzwerkadapters</translation>
+    </message>
+    <message>
+        <source>IP address of the network adapter</source>
+        <translation>IP-Adresse des Netzwerkadapters</translation>
+    </message>
+    <message>
+        <source>Subnet mask of the network adapter</source>
+        <translation>Subnetzmaske des Netzwerkadapters</translation>
+    </message>
+    <message>
+        <source>MAC address of the camera</source>
+        <translation>MAC-Adresse der Kamera</translation>
+    </message>
+    <message>
+        <source>IP address of the camera</source>
+        <translation>IP-Adresse der Kamera</translation>
+    </message>
+    <message>
+        <source>Subnet mask of the camera</source>
+        <translation>Subnetzmaske der Kamera</translation>
+    </message>
+    <message>
+        <source>Default gateway of the camera</source>
+        <translation>Standard-Gateway der Kamera</translation>
     </message>
 </context>
 </TS>

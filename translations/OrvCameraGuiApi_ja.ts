@@ -29,6 +29,10 @@
         <source>No Errors</source>
         <translation>エラーなし</translation>
     </message>
+    <message>
+        <source>Errors</source>
+        <translation>エラー</translation>
+    </message>
 </context>
 <context>
     <name>GenParamTreeModel</name>
@@ -196,6 +200,22 @@ Using of wildcard is possible.</source>
     <message>
         <source>Errors</source>
         <translation>エラー</translation>
+    </message>
+    <message>
+        <source>Visibility</source>
+        <translation>表示レベル</translation>
+    </message>
+    <message>
+        <source>No errors</source>
+        <translation>エラーなし</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation>機能</translation>
+    </message>
+    <message>
+        <source>Description of the feature</source>
+        <translation>機能の説明</translation>
     </message>
 </context>
 <context>
@@ -378,6 +398,38 @@ Using of wildcard is possible.</source>
         <source>Blue coef.:</source>
         <translation>青係数:</translation>
     </message>
+    <message>
+        <source>White balance</source>
+        <translation>ホワイトバランス</translation>
+    </message>
+    <message>
+        <source>Tracking speed</source>
+        <translation>追従速度</translation>
+    </message>
+    <message>
+        <source>Red coefficient</source>
+        <translation>赤係数</translation>
+    </message>
+    <message>
+        <source>Set red to unity</source>
+        <translation>赤を等倍にする</translation>
+    </message>
+    <message>
+        <source>Green coefficient</source>
+        <translation>緑係数</translation>
+    </message>
+    <message>
+        <source>Set green to unity</source>
+        <translation>緑を等倍にする</translation>
+    </message>
+    <message>
+        <source>Blue coefficient</source>
+        <translation>青係数</translation>
+    </message>
+    <message>
+        <source>Set blue to unity</source>
+        <translation>青を等倍にする</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigFrameABDialog</name>
@@ -513,6 +565,126 @@ Using of wildcard is possible.</source>
         <source>Exposure 3:</source>
         <translation>露光 3:</translation>
     </message>
+    <message>
+        <source>Frame mode</source>
+        <translation>フレームモード</translation>
+    </message>
+    <message>
+        <source>Number of frames A in a row</source>
+        <translation>連続するフレーム A の数</translation>
+    </message>
+    <message>
+        <source>Number of frames B in a row</source>
+        <translation>連続するフレーム B の数</translation>
+    </message>
+    <message>
+        <source>Dual video line time in pixel clocks</source>
+        <translation>デュアルビデオのライン時間（ピクセルクロック）</translation>
+    </message>
+    <message>
+        <source>Exposure time in microseconds</source>
+        <translation>露光時間（マイクロ秒）</translation>
+    </message>
+    <message>
+        <source>Exposure lines</source>
+        <translation>露光ライン数</translation>
+    </message>
+    <message>
+        <source>Exposure pixel clocks</source>
+        <translation>露光ピクセルクロック数</translation>
+    </message>
+    <message>
+        <source>Line time in pixel clocks</source>
+        <translation>ライン時間（ピクセルクロック）</translation>
+    </message>
+    <message>
+        <source>Fixed frame period</source>
+        <translation>固定フレーム周期</translation>
+    </message>
+    <message>
+        <source>Frame period in microseconds</source>
+        <translation>フレーム周期（マイクロ秒）</translation>
+    </message>
+    <message>
+        <source>Digital gain</source>
+        <translation>デジタルゲイン</translation>
+    </message>
+    <message>
+        <source>Black level</source>
+        <translation>黒レベル</translation>
+    </message>
+    <message>
+        <source>Horizontal offset</source>
+        <translation>水平オフセット</translation>
+    </message>
+    <message>
+        <source>Vertical offset</source>
+        <translation>垂直オフセット</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>幅</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高さ</translation>
+    </message>
+    <message>
+        <source>Subsampling M</source>
+        <translation>サブサンプリング M</translation>
+    </message>
+    <message>
+        <source>Subsampling P</source>
+        <translation>サブサンプリング P</translation>
+    </message>
+    <message>
+        <source>Averaging</source>
+        <translation>平均化</translation>
+    </message>
+    <message>
+        <source>Wide dynamic range</source>
+        <translation>ワイドダイナミックレンジ</translation>
+    </message>
+    <message>
+        <source>Level 1 of the wide dynamic range</source>
+        <translation>ワイドダイナミックレンジのレベル 1</translation>
+    </message>
+    <message>
+        <source>Exposure 1 of the wide dynamic range</source>
+        <translation>ワイドダイナミックレンジの露光 1</translation>
+    </message>
+    <message>
+        <source>Level 2 of the wide dynamic range</source>
+        <translation>ワイドダイナミックレンジのレベル 2</translation>
+    </message>
+    <message>
+        <source>Exposure 2 of the wide dynamic range</source>
+        <translation>ワイドダイナミックレンジの露光 2</translation>
+    </message>
+    <message>
+        <source>Level 3 of the wide dynamic range</source>
+        <translation>ワイドダイナミックレンジのレベル 3</translation>
+    </message>
+    <message>
+        <source>Exposure 3 of the wide dynamic range</source>
+        <translation>ワイドダイナミックレンジの露光 3</translation>
+    </message>
+    <message>
+        <source>Shutter mode</source>
+        <translation>シャッターモード</translation>
+    </message>
+    <message>
+        <source>Bit depth</source>
+        <translation>ビット深度</translation>
+    </message>
+    <message>
+        <source>Exposure control</source>
+        <translation>露光制御</translation>
+    </message>
+    <message>
+        <source>Analog gain</source>
+        <translation>アナログゲイン</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigMainWindow</name>
@@ -612,6 +784,49 @@ Using of wildcard is possible.</source>
         <source>About</source>
         <translation>バージョン情報</translation>
     </message>
+    <message>
+        <source>Size of frame A</source>
+        <translation>フレーム A のサイズ</translation>
+    </message>
+    <message>
+        <source>Size of frame B</source>
+        <translation>フレーム B のサイズ</translation>
+    </message>
+    <message>
+        <source>Frames per second of frame A</source>
+        <translation>フレーム A のフレームレート</translation>
+    </message>
+    <message>
+        <source>Frames per second of frame B</source>
+        <translation>フレーム B のフレームレート</translation>
+    </message>
+    <message>
+        <source>Frame time of frame A</source>
+        <translation>フレーム A のフレーム時間</translation>
+    </message>
+    <message>
+        <source>Frame time of frame B</source>
+        <translation>フレーム B のフレーム時間</translation>
+    </message>
+    <message>
+        <source>Exposure time of frame A</source>
+        <translation>フレーム A の露光時間</translation>
+    </message>
+    <message>
+        <source>Exposure time of frame B</source>
+        <translation>フレーム B の露光時間</translation>
+    </message>
+    <message>
+        <source>Temperature of the camera</source>
+        <translation>カメラの温度</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigMapper</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigOutputDialog</name>
@@ -679,6 +894,54 @@ Using of wildcard is possible.</source>
         <source>Test Pattern:</source>
         <translation>テストパターン:</translation>
     </message>
+    <message>
+        <source>Taps</source>
+        <translation>タップ数</translation>
+    </message>
+    <message>
+        <source>Depth</source>
+        <translation>深度</translation>
+    </message>
+    <message>
+        <source>Pixel format</source>
+        <translation>ピクセルフォーマット</translation>
+    </message>
+    <message>
+        <source>Enable the look-up table</source>
+        <translation>ルックアップテーブルを有効にする</translation>
+    </message>
+    <message>
+        <source>Look-up table</source>
+        <translation>ルックアップテーブル</translation>
+    </message>
+    <message>
+        <source>Defect pixel correction</source>
+        <translation>欠陥画素補正</translation>
+    </message>
+    <message>
+        <source>Dynamic threshold of the defect pixel correction</source>
+        <translation>欠陥画素補正の動的しきい値</translation>
+    </message>
+    <message>
+        <source>Hot pixel correction</source>
+        <translation>ホットピクセル補正</translation>
+    </message>
+    <message>
+        <source>Dynamic threshold of the hot pixel correction</source>
+        <translation>ホットピクセル補正の動的しきい値</translation>
+    </message>
+    <message>
+        <source>Horizontal mirror</source>
+        <translation>左右反転</translation>
+    </message>
+    <message>
+        <source>Vertical mirror</source>
+        <translation>上下反転</translation>
+    </message>
+    <message>
+        <source>Test pattern</source>
+        <translation>テストパターン</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigPulseDialog</name>
@@ -734,6 +997,26 @@ Using of wildcard is possible.</source>
         <source>Start</source>
         <translation>開始</translation>
     </message>
+    <message>
+        <source>Granularity</source>
+        <translation>分解能</translation>
+    </message>
+    <message>
+        <source>Period in microseconds</source>
+        <translation>周期（マイクロ秒）</translation>
+    </message>
+    <message>
+        <source>Width in microseconds</source>
+        <translation>幅（マイクロ秒）</translation>
+    </message>
+    <message>
+        <source>Delay in microseconds</source>
+        <translation>遅延（マイクロ秒）</translation>
+    </message>
+    <message>
+        <source>Frequency in hertz</source>
+        <translation>周波数（ヘルツ）</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigStrobeDialog</name>
@@ -785,6 +1068,38 @@ Using of wildcard is possible.</source>
         <source>Signal on output 2</source>
         <translation>出力 2 の信号</translation>
     </message>
+    <message>
+        <source>Mode of strobe 1</source>
+        <translation>ストロボ 1 のモード</translation>
+    </message>
+    <message>
+        <source>Reference of strobe 1</source>
+        <translation>ストロボ 1 の基準</translation>
+    </message>
+    <message>
+        <source>Delay of strobe 1 in microseconds</source>
+        <translation>ストロボ 1 の遅延（マイクロ秒）</translation>
+    </message>
+    <message>
+        <source>Width of strobe 1 in microseconds</source>
+        <translation>ストロボ 1 の幅（マイクロ秒）</translation>
+    </message>
+    <message>
+        <source>Mode of strobe 2</source>
+        <translation>ストロボ 2 のモード</translation>
+    </message>
+    <message>
+        <source>Reference of strobe 2</source>
+        <translation>ストロボ 2 の基準</translation>
+    </message>
+    <message>
+        <source>Delay of strobe 2 in microseconds</source>
+        <translation>ストロボ 2 の遅延（マイクロ秒）</translation>
+    </message>
+    <message>
+        <source>Width of strobe 2 in microseconds</source>
+        <translation>ストロボ 2 の幅（マイクロ秒）</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigTriggerDialog</name>
@@ -817,6 +1132,26 @@ Using of wildcard is possible.</source>
 Trigger</source>
         <translation>ソフトウェア
 トリガー</translation>
+    </message>
+    <message>
+        <source>Enable the trigger</source>
+        <translation>トリガーを有効にする</translation>
+    </message>
+    <message>
+        <source>Trigger source</source>
+        <translation>トリガーソース</translation>
+    </message>
+    <message>
+        <source>Edge</source>
+        <translation>エッジ</translation>
+    </message>
+    <message>
+        <source>Debounce</source>
+        <translation>デバウンス</translation>
+    </message>
+    <message>
+        <source>Software trigger</source>
+        <translation>ソフトウェアトリガー</translation>
     </message>
 </context>
 <context>
@@ -1027,6 +1362,18 @@ Description: %2</source>
         <source>Start</source>
         <translation>開始</translation>
     </message>
+    <message>
+        <source>Pulses</source>
+        <translation>パルス</translation>
+    </message>
+    <message>
+        <source>Pulses are generated</source>
+        <translation>パルスを生成しています</translation>
+    </message>
+    <message>
+        <source>No pulses are generated</source>
+        <translation>パルスは生成されていません</translation>
+    </message>
 </context>
 <context>
     <name>OrvGui::OrvCamConfigStrobeDialog</name>
@@ -1094,12 +1441,24 @@ Press OK to skip the IP Configuration, or press Ignore to confirm</source>
         <source>Filter options</source>
         <translation>絞り込みのオプション</translation>
     </message>
+    <message>
+        <source>There are errors</source>
+        <translation>エラーがあります</translation>
+    </message>
+    <message>
+        <source>No errors</source>
+        <translation>エラーなし</translation>
+    </message>
 </context>
 <context>
     <name>QtOrvSpinBox</name>
     <message>
         <source>Slider</source>
         <translation>スライダー</translation>
+    </message>
+    <message>
+        <source>%1 slider</source>
+        <translation>%1 スライダー</translation>
     </message>
 </context>
 <context>
@@ -1155,6 +1514,34 @@ Press OK to skip the IP Configuration, or press Ignore to confirm</source>
     <message>
         <source>Subnet IP mismatch!</source>
         <translation>IP のサブネットが一致しません</translation>
+    </message>
+    <message>
+        <source>MAC address of the network adapter</source>
+        <translation>ネットワークアダプターの MAC アドレス</translation>
+    </message>
+    <message>
+        <source>IP address of the network adapter</source>
+        <translation>ネットワークアダプターの IP アドレス</translation>
+    </message>
+    <message>
+        <source>Subnet mask of the network adapter</source>
+        <translation>ネットワークアダプターのサブネットマスク</translation>
+    </message>
+    <message>
+        <source>MAC address of the camera</source>
+        <translation>カメラの MAC アドレス</translation>
+    </message>
+    <message>
+        <source>IP address of the camera</source>
+        <translation>カメラの IP アドレス</translation>
+    </message>
+    <message>
+        <source>Subnet mask of the camera</source>
+        <translation>カメラのサブネットマスク</translation>
+    </message>
+    <message>
+        <source>Default gateway of the camera</source>
+        <translation>カメラのデフォルトゲートウェイ</translation>
     </message>
 </context>
 </TS>

@@ -29,6 +29,10 @@
         <source>No Errors</source>
         <translation>无错误</translation>
     </message>
+    <message>
+        <source>Errors</source>
+        <translation>错误</translation>
+    </message>
 </context>
 <context>
     <name>GenParamTreeModel</name>
@@ -196,6 +200,22 @@ Using of wildcard is possible.</source>
     <message>
         <source>Errors</source>
         <translation>错误</translation>
+    </message>
+    <message>
+        <source>Visibility</source>
+        <translation>可见性</translation>
+    </message>
+    <message>
+        <source>No errors</source>
+        <translation>无错误</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation>特性</translation>
+    </message>
+    <message>
+        <source>Description of the feature</source>
+        <translation>特性说明</translation>
     </message>
 </context>
 <context>
@@ -378,6 +398,38 @@ Using of wildcard is possible.</source>
         <source>Blue coef.:</source>
         <translation>蓝色系数：</translation>
     </message>
+    <message>
+        <source>White balance</source>
+        <translation>白平衡</translation>
+    </message>
+    <message>
+        <source>Tracking speed</source>
+        <translation>跟踪速度</translation>
+    </message>
+    <message>
+        <source>Red coefficient</source>
+        <translation>红色系数</translation>
+    </message>
+    <message>
+        <source>Set red to unity</source>
+        <translation>将红色系数置一</translation>
+    </message>
+    <message>
+        <source>Green coefficient</source>
+        <translation>绿色系数</translation>
+    </message>
+    <message>
+        <source>Set green to unity</source>
+        <translation>将绿色系数置一</translation>
+    </message>
+    <message>
+        <source>Blue coefficient</source>
+        <translation>蓝色系数</translation>
+    </message>
+    <message>
+        <source>Set blue to unity</source>
+        <translation>将蓝色系数置一</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigFrameABDialog</name>
@@ -513,6 +565,126 @@ Using of wildcard is possible.</source>
         <source>Exposure 3:</source>
         <translation>曝光 3：</translation>
     </message>
+    <message>
+        <source>Frame mode</source>
+        <translation>帧模式</translation>
+    </message>
+    <message>
+        <source>Number of frames A in a row</source>
+        <translation>帧 A 的连续帧数</translation>
+    </message>
+    <message>
+        <source>Number of frames B in a row</source>
+        <translation>帧 B 的连续帧数</translation>
+    </message>
+    <message>
+        <source>Dual video line time in pixel clocks</source>
+        <translation>双视频行时间（像素时钟）</translation>
+    </message>
+    <message>
+        <source>Exposure time in microseconds</source>
+        <translation>曝光时间（微秒）</translation>
+    </message>
+    <message>
+        <source>Exposure lines</source>
+        <translation>曝光行数</translation>
+    </message>
+    <message>
+        <source>Exposure pixel clocks</source>
+        <translation>曝光像素时钟数</translation>
+    </message>
+    <message>
+        <source>Line time in pixel clocks</source>
+        <translation>行时间（像素时钟）</translation>
+    </message>
+    <message>
+        <source>Fixed frame period</source>
+        <translation>固定帧周期</translation>
+    </message>
+    <message>
+        <source>Frame period in microseconds</source>
+        <translation>帧周期（微秒）</translation>
+    </message>
+    <message>
+        <source>Digital gain</source>
+        <translation>数字增益</translation>
+    </message>
+    <message>
+        <source>Black level</source>
+        <translation>黑电平</translation>
+    </message>
+    <message>
+        <source>Horizontal offset</source>
+        <translation>水平偏移</translation>
+    </message>
+    <message>
+        <source>Vertical offset</source>
+        <translation>垂直偏移</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>宽度</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高度</translation>
+    </message>
+    <message>
+        <source>Subsampling M</source>
+        <translation>下采样 M</translation>
+    </message>
+    <message>
+        <source>Subsampling P</source>
+        <translation>下采样 P</translation>
+    </message>
+    <message>
+        <source>Averaging</source>
+        <translation>平均</translation>
+    </message>
+    <message>
+        <source>Wide dynamic range</source>
+        <translation>宽动态范围</translation>
+    </message>
+    <message>
+        <source>Level 1 of the wide dynamic range</source>
+        <translation>宽动态范围的电平 1</translation>
+    </message>
+    <message>
+        <source>Exposure 1 of the wide dynamic range</source>
+        <translation>宽动态范围的曝光 1</translation>
+    </message>
+    <message>
+        <source>Level 2 of the wide dynamic range</source>
+        <translation>宽动态范围的电平 2</translation>
+    </message>
+    <message>
+        <source>Exposure 2 of the wide dynamic range</source>
+        <translation>宽动态范围的曝光 2</translation>
+    </message>
+    <message>
+        <source>Level 3 of the wide dynamic range</source>
+        <translation>宽动态范围的电平 3</translation>
+    </message>
+    <message>
+        <source>Exposure 3 of the wide dynamic range</source>
+        <translation>宽动态范围的曝光 3</translation>
+    </message>
+    <message>
+        <source>Shutter mode</source>
+        <translation>快门模式</translation>
+    </message>
+    <message>
+        <source>Bit depth</source>
+        <translation>位深</translation>
+    </message>
+    <message>
+        <source>Exposure control</source>
+        <translation>曝光控制</translation>
+    </message>
+    <message>
+        <source>Analog gain</source>
+        <translation>模拟增益</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigMainWindow</name>
@@ -612,6 +784,49 @@ Using of wildcard is possible.</source>
         <source>About</source>
         <translation>关于</translation>
     </message>
+    <message>
+        <source>Size of frame A</source>
+        <translation>帧 A 的尺寸</translation>
+    </message>
+    <message>
+        <source>Size of frame B</source>
+        <translation>帧 B 的尺寸</translation>
+    </message>
+    <message>
+        <source>Frames per second of frame A</source>
+        <translation>帧 A 的帧率</translation>
+    </message>
+    <message>
+        <source>Frames per second of frame B</source>
+        <translation>帧 B 的帧率</translation>
+    </message>
+    <message>
+        <source>Frame time of frame A</source>
+        <translation>帧 A 的帧时间</translation>
+    </message>
+    <message>
+        <source>Frame time of frame B</source>
+        <translation>帧 B 的帧时间</translation>
+    </message>
+    <message>
+        <source>Exposure time of frame A</source>
+        <translation>帧 A 的曝光时间</translation>
+    </message>
+    <message>
+        <source>Exposure time of frame B</source>
+        <translation>帧 B 的曝光时间</translation>
+    </message>
+    <message>
+        <source>Temperature of the camera</source>
+        <translation>相机温度</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigMapper</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigOutputDialog</name>
@@ -679,6 +894,54 @@ Using of wildcard is possible.</source>
         <source>Test Pattern:</source>
         <translation>测试图案：</translation>
     </message>
+    <message>
+        <source>Taps</source>
+        <translation>抽头数</translation>
+    </message>
+    <message>
+        <source>Depth</source>
+        <translation>深度</translation>
+    </message>
+    <message>
+        <source>Pixel format</source>
+        <translation>像素格式</translation>
+    </message>
+    <message>
+        <source>Enable the look-up table</source>
+        <translation>启用查找表</translation>
+    </message>
+    <message>
+        <source>Look-up table</source>
+        <translation>查找表</translation>
+    </message>
+    <message>
+        <source>Defect pixel correction</source>
+        <translation>坏点校正</translation>
+    </message>
+    <message>
+        <source>Dynamic threshold of the defect pixel correction</source>
+        <translation>坏点校正的动态阈值</translation>
+    </message>
+    <message>
+        <source>Hot pixel correction</source>
+        <translation>热像素校正</translation>
+    </message>
+    <message>
+        <source>Dynamic threshold of the hot pixel correction</source>
+        <translation>热像素校正的动态阈值</translation>
+    </message>
+    <message>
+        <source>Horizontal mirror</source>
+        <translation>水平镜像</translation>
+    </message>
+    <message>
+        <source>Vertical mirror</source>
+        <translation>垂直镜像</translation>
+    </message>
+    <message>
+        <source>Test pattern</source>
+        <translation>测试图案</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigPulseDialog</name>
@@ -734,6 +997,26 @@ Using of wildcard is possible.</source>
         <source>Start</source>
         <translation>启动</translation>
     </message>
+    <message>
+        <source>Granularity</source>
+        <translation>粒度</translation>
+    </message>
+    <message>
+        <source>Period in microseconds</source>
+        <translation>周期（微秒）</translation>
+    </message>
+    <message>
+        <source>Width in microseconds</source>
+        <translation>宽度（微秒）</translation>
+    </message>
+    <message>
+        <source>Delay in microseconds</source>
+        <translation>延迟（微秒）</translation>
+    </message>
+    <message>
+        <source>Frequency in hertz</source>
+        <translation>频率（赫兹）</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigStrobeDialog</name>
@@ -785,6 +1068,38 @@ Using of wildcard is possible.</source>
         <source>Signal on output 2</source>
         <translation>输出 2 的信号</translation>
     </message>
+    <message>
+        <source>Mode of strobe 1</source>
+        <translation>频闪 1 的模式</translation>
+    </message>
+    <message>
+        <source>Reference of strobe 1</source>
+        <translation>频闪 1 的参考</translation>
+    </message>
+    <message>
+        <source>Delay of strobe 1 in microseconds</source>
+        <translation>频闪 1 的延迟（微秒）</translation>
+    </message>
+    <message>
+        <source>Width of strobe 1 in microseconds</source>
+        <translation>频闪 1 的宽度（微秒）</translation>
+    </message>
+    <message>
+        <source>Mode of strobe 2</source>
+        <translation>频闪 2 的模式</translation>
+    </message>
+    <message>
+        <source>Reference of strobe 2</source>
+        <translation>频闪 2 的参考</translation>
+    </message>
+    <message>
+        <source>Delay of strobe 2 in microseconds</source>
+        <translation>频闪 2 的延迟（微秒）</translation>
+    </message>
+    <message>
+        <source>Width of strobe 2 in microseconds</source>
+        <translation>频闪 2 的宽度（微秒）</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigTriggerDialog</name>
@@ -817,6 +1132,26 @@ Using of wildcard is possible.</source>
 Trigger</source>
         <translation>软件
 触发</translation>
+    </message>
+    <message>
+        <source>Enable the trigger</source>
+        <translation>启用触发</translation>
+    </message>
+    <message>
+        <source>Trigger source</source>
+        <translation>触发源</translation>
+    </message>
+    <message>
+        <source>Edge</source>
+        <translation>边沿</translation>
+    </message>
+    <message>
+        <source>Debounce</source>
+        <translation>去抖动</translation>
+    </message>
+    <message>
+        <source>Software trigger</source>
+        <translation>软件触发</translation>
     </message>
 </context>
 <context>
@@ -1027,6 +1362,18 @@ Description: %2</source>
         <source>Start</source>
         <translation>启动</translation>
     </message>
+    <message>
+        <source>Pulses</source>
+        <translation>脉冲</translation>
+    </message>
+    <message>
+        <source>Pulses are generated</source>
+        <translation>正在生成脉冲</translation>
+    </message>
+    <message>
+        <source>No pulses are generated</source>
+        <translation>未生成脉冲</translation>
+    </message>
 </context>
 <context>
     <name>OrvGui::OrvCamConfigStrobeDialog</name>
@@ -1094,12 +1441,24 @@ Press OK to skip the IP Configuration, or press Ignore to confirm</source>
         <source>Filter options</source>
         <translation>筛选选项</translation>
     </message>
+    <message>
+        <source>There are errors</source>
+        <translation>有错误</translation>
+    </message>
+    <message>
+        <source>No errors</source>
+        <translation>无错误</translation>
+    </message>
 </context>
 <context>
     <name>QtOrvSpinBox</name>
     <message>
         <source>Slider</source>
         <translation>滑块</translation>
+    </message>
+    <message>
+        <source>%1 slider</source>
+        <translation>%1 滑块</translation>
     </message>
 </context>
 <context>
@@ -1155,6 +1514,34 @@ Press OK to skip the IP Configuration, or press Ignore to confirm</source>
     <message>
         <source>Subnet IP mismatch!</source>
         <translation>IP 子网不匹配！</translation>
+    </message>
+    <message>
+        <source>MAC address of the network adapter</source>
+        <translation>网络适配器的 MAC 地址</translation>
+    </message>
+    <message>
+        <source>IP address of the network adapter</source>
+        <translation>网络适配器的 IP 地址</translation>
+    </message>
+    <message>
+        <source>Subnet mask of the network adapter</source>
+        <translation>网络适配器的子网掩码</translation>
+    </message>
+    <message>
+        <source>MAC address of the camera</source>
+        <translation>相机的 MAC 地址</translation>
+    </message>
+    <message>
+        <source>IP address of the camera</source>
+        <translation>相机的 IP 地址</translation>
+    </message>
+    <message>
+        <source>Subnet mask of the camera</source>
+        <translation>相机的子网掩码</translation>
+    </message>
+    <message>
+        <source>Default gateway of the camera</source>
+        <translation>相机的默认网关</translation>
     </message>
 </context>
 </TS>

@@ -16,6 +16,13 @@ inline bool hasRoomForPlaceholder(const QLineEdit &field)
     return field.fontMetrics().horizontalAdvance(field.placeholderText()) < end;
 }
 
+inline QSize spaceAskedBy(const QWidget &widget)
+{
+    if (widget.inherits("QGroupBox"))
+        return widget.minimumSizeHint();
+    return widget.hasHeightForWidth() ? QSize(0, widget.heightForWidth(widget.width())) : widget.sizeHint();
+}
+
 /**
  * A label, button, combo box or row of tabs that is seen with less than the size it asks for, a group narrower than its
  * title, or a field that cuts what it says it is for; empty when there is none.
@@ -24,10 +31,9 @@ inline QString cutWidget(const QWidget &window)
 {
     const auto widgets = window.findChildren<QWidget *>();
     for (const QWidget *const widget : widgets) {
-        const bool isGroup = widget->inherits("QGroupBox");
-        const bool hasText = isGroup || widget->inherits("QLabel") || widget->inherits("QAbstractButton")
-            || widget->inherits("QComboBox") || widget->inherits("QTabBar");
-        const QSize hint = isGroup ? widget->minimumSizeHint() : widget->sizeHint();
+        const bool hasText = widget->inherits("QLabel") || widget->inherits("QAbstractButton")
+            || widget->inherits("QComboBox") || widget->inherits("QTabBar") || widget->inherits("QGroupBox");
+        const QSize hint = spaceAskedBy(*widget);
         if (hasText && widget->isVisible() && (widget->width() < hint.width() || widget->height() < hint.height()))
             return widget->objectName();
         const auto *const field = qobject_cast<const QLineEdit *>(widget);

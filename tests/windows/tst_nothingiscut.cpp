@@ -1,68 +1,21 @@
-#include <OrvCameraGuiApi/camconfig/camerastatus.h>
-#include <OrvCameraGuiApi/camconfig/orvcamconfig.h>
-#include <OrvCameraGuiApi/camconfig/orvcamconfigaboutdialog.h>
-#include <OrvCameraGuiApi/device_selection/orvcameraselectordialog.h>
-#include <OrvCameraGuiApi/device_selection/setipdialog.h>
-#include <OrvCameraGuiApi/feature_tree/filteroptions.h>
-#include <OrvCameraGuiApi/feature_tree/generrorsdlg.h>
-#include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
+#include "allwindows.h"
 
 #include <cutwidget.h>
-#include <orvtest.h>
-#include <simtest.h>
 
-#include <QTreeView>
-
-#include <functional>
-
-Q_DECLARE_METATYPE(std::function<QWidget *(const SimTest::Held<OrvCam::Device> &)>)
-
-/** Every window that no other test looks at: what has a text has room for it, at the size the window opens with. */
+/** In every window what has a text has room for it, at the size the window opens with. */
 class TestNothingIsCut : public OrvTest::TestCase
 {
     Q_OBJECT
 
-    using Camera = SimTest::Held<OrvCam::Device>;
-
 private Q_SLOTS:
-    void windows_data()
-    {
-        QTest::addColumn<std::function<QWidget *(const Camera &)>>("make");
-        const auto row = [](const char *name, std::function<QWidget *(const Camera &)> make) {
-            QTest::newRow(name) << std::move(make);
-        };
-        row("feature tree",
-            [](const Camera &camera) { return new OrvGui::OrvGenParamTreeView(camera->GetCameraParameters(nullptr)); });
-        row("feature tree without a camera", [](const Camera &) { return new OrvGui::OrvGenParamTreeView; });
-        row("filter options", [](const Camera &) { return new FilterOptions(nullptr); });
-        row("errors", [](const Camera &) { return new GenErrorsDlg(QStringLiteral("Gain: out of range"), nullptr); });
-        row("camera selector", [](const Camera &) {
-            return new OrvGui::OrvCameraSelectorDialog(SimTest::getSystem().get(), nullptr, false);
-        });
-        row("camera configuration", [](const Camera &camera) { return new OrvGui::OrvCamConfig(camera.get()); });
-        row("about the camera", [](const Camera &camera) {
-            auto *const dialog = new OrvGui::OrvCamConfigAboutDialog(nullptr);
-            dialog->adjustAbout(OrvGui::CameraParams(*camera->GetCameraParameters(nullptr)));
-            return dialog;
-        });
-        row("camera selector without a system",
-            [](const Camera &) { return new OrvGui::OrvCameraSelectorDialog(nullptr, nullptr, false); });
-        row("IP configuration", [](const Camera &) {
-            auto *const dialog = new SetIpDialog;
-            dialog->setNicMACAddress(0xDDDDDDDDDDDDULL);
-            dialog->setMACAddress(0xDDDDDDDDDDDDULL);
-            dialog->setNicIPAddress(0xDEDEDEDE);
-            dialog->setIPAddress(0xDEDEDEDD);
-            return dialog;
-        });
-    }
+    void windows_data() { AllWindows::addRows(); }
 
     void windows()
     {
-        QFETCH(std::function<QWidget *(const Camera &)>, make);
+        QFETCH(AllWindows::Maker, make);
         const SimTest::Held<OrvCam::System> system = SimTest::getSystem();
-        const Camera camera = SimTest::open(SimTest::twoFrame);
-        const std::unique_ptr<QWidget> window(make(camera));
+        const SimTest::Held<OrvCam::Device> camera = SimTest::open(SimTest::twoFrame);
+        const std::unique_ptr<QWidget> window(make(*system, *camera));
         if (window->windowType() == Qt::Popup)
             expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
         window->show();

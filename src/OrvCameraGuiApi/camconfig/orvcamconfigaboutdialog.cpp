@@ -6,6 +6,8 @@
 
 #include <QDate>
 
+#include <algorithm>
+
 namespace OrvGui {
 
 OrvCamConfigAboutDialog::OrvCamConfigAboutDialog(QWidget *parent)
@@ -23,10 +25,20 @@ OrvCamConfigAboutDialog::OrvCamConfigAboutDialog(QWidget *parent)
 
 OrvCamConfigAboutDialog::~OrvCamConfigAboutDialog() = default;
 
+/** What stands before \a value. */
+QString OrvCamConfigAboutDialog::captionOf(const QLabel *value) const
+{
+    const auto labels = findChildren<QLabel *>();
+    const auto isCaption = [value](const QLabel *label) { return label->buddy() == value; };
+    const auto caption = std::find_if(labels.begin(), labels.end(), isCaption);
+    return caption != labels.end() ? (*caption)->text() : QString();
+}
+
 void OrvCamConfigAboutDialog::adjustAbout(const CameraParams &params)
 {
-    const auto show = [](QLabel *label, const std::optional<QString> &text) {
+    const auto show = [this](QLabel *label, const std::optional<QString> &text) {
         label->setText(text.value_or(tr("N/A")));
+        label->setAccessibleName((captionOf(label) + QLatin1Char(' ') + label->text()).simplified());
     };
     const auto showNumber = [&](QLabel *label, OrvGenParam::Int *param) {
         const QString text = decimal(param);

@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QScopedPointer>
 
+class QLabel;
 class Ui_OrvCamConfigAboutDialog;
 
 namespace OrvGui {
@@ -22,6 +23,8 @@ public:
     void adjustAbout(const CameraParams &params);
 
 private:
+    QString captionOf(const QLabel *value) const;
+
     const QScopedPointer<Ui_OrvCamConfigAboutDialog> ui;
 };
 

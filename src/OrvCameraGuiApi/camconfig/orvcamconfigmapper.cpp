@@ -31,6 +31,7 @@ namespace {
 using Kind = OrvGui::OrvCamConfigMapData::Kind;
 
 const char *const entryValueProperty = "orvEntryValue";
+const char *const groupNameProperty = "accessibleName";
 
 QString nameOf(OrvGenParam::Param *param)
 {
@@ -558,10 +559,18 @@ void OrvCamConfigMapper::nameRadioButtons(OrvGenParam::Enum *param, QButtonGroup
             continue;
         const std::int64_t value = entry->GetValue(nullptr);
         button->setText(nameOf(entry));
+        nameButton(button);
         button->setProperty(entryValueProperty, qlonglong(value));
         if (value == toInt(value))
             group->setId(button, int(value));
     }
+}
+
+void OrvCamConfigMapper::nameButton(QAbstractButton *button)
+{
+    const QString group = button->group() ? button->group()->property(groupNameProperty).toString() : QString();
+    if (!group.isEmpty())
+        button->setAccessibleName(tr("%1: %2").arg(group, button->text()));
 }
 
 void OrvCamConfigMapper::nameTabs(OrvGenParam::Enum *param, QTabWidget *tabWidget)

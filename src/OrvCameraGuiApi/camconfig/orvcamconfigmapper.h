@@ -160,6 +160,12 @@ public:
      */
     static void showErrorMessage(OrvCamErr err, QWidget *parent, OrvGenParam::Param *param);
 
+    /**
+     * Assistive tools meet \a button by its text and before that the name of its group, which is the group's dynamic
+     * property "accessibleName"; without one by the text alone. The mapper does so whenever it gives a button a text.
+     */
+    static void nameButton(QAbstractButton *button);
+
     /** Makes the pop-up slider as long as the field of the box is wide. */
     static void resizeVerticalSlider(QtOrvSpinBox *spinBox);
     static void resizeHorizontalSlider(QtOrvSpinBox *spinBox);

@@ -90,6 +90,7 @@ void OrvCamConfigPrivate::updateStatus()
     deviceName->setText(isConnected ? name : OrvCamConfig::tr("Disconnected"));
     connectionIcon->setPixmap(isConnected ? connected : disconnected);
     connectionIcon->setToolTip(isConnected ? OrvCamConfig::tr("Connected") : OrvCamConfig::tr("Disconnected"));
+    connectionIcon->setAccessibleName(connectionIcon->toolTip());
     ui.actionDisconnect->setEnabled(device);
 }
 

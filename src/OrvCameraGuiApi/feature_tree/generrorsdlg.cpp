@@ -14,6 +14,7 @@ GenErrorsDlg::GenErrorsDlg(const QString &errors, QWidget *parent)
     setWindowTitle(tr("Gen<i>Cam errors"));
 
     auto *const text = new QTextBrowser(this);
+    text->setAccessibleName(tr("Errors"));
     // Not rich text: a message of a camera may look like a tag.
     text->setPlainText(errors.isEmpty() ? tr("No Errors") : errors);
     auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Close, Qt::Horizontal, this);

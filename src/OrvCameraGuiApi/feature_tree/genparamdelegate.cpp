@@ -83,6 +83,17 @@ QVariant withoutWrapper(const QVariant &value)
     return value.userType() == qMetaTypeId<VariantData>() ? value.value<VariantData>().value : value;
 }
 
+/** For assistive tools; the line edit of a spin box is called like that. */
+void nameAfterFeature(QWidget *editor, const QModelIndex &index)
+{
+    if (!editor)
+        return;
+    const QString name = index.sibling(index.row(), GenParamTreeModel::NameColumn).data().toString();
+    editor->setAccessibleName(name);
+    if (QLineEdit *const field = textFieldOf(editor))
+        field->setAccessibleName(name);
+}
+
 bool isEnter(const QKeyEvent &event)
 {
     return event.key() == Qt::Key_Enter || event.key() == Qt::Key_Return;
@@ -271,10 +282,12 @@ QWidget *GenParamDelegate::createEditor(QWidget *parent, const QStyleOptionViewI
     const auto control = index.data(GenParamTreeModel::ControlDataRole).value<ControlData>();
     if (!control.editor) {
         QWidget *const editor = QStyledItemDelegate::createEditor(parent, option, index);
+        nameAfterFeature(editor, index);
         captureMouseForEditor(editor);
         return editor;
     }
     control.editor->setParent(parent);
+    nameAfterFeature(control.editor, index);
     // Else one without a cursor of its own takes over the viewport's, which may be that of a column's edge.
     if (!control.editor->testAttribute(Qt::WA_SetCursor))
         control.editor->setCursor(Qt::ArrowCursor);

@@ -1,9 +1,9 @@
 #include <OrvCameraGuiApi/feature_tree/genparameditor.h>
 
 #include <OrvCameraGuiApi/device_selection/ip4validator.h>
+#include <OrvCameraGuiApi/widgets/namedcombobox.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
 
-#include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QPushButton>
@@ -52,7 +52,7 @@ ControlData addressEditor()
 
 ControlData integerListEditor(GenApi::IInteger &number)
 {
-    auto box = makeFrameless<QComboBox>();
+    auto box = makeFrameless<NamedComboBox>();
     const GenApi::int64_autovector_t values = number.GetListOfValidValues(true);
     const QString unit = fromGenICam(number.GetUnit());
     for (size_t i = 0; i < values.size(); ++i) {
@@ -88,7 +88,7 @@ ControlData integerEditor(const GenParamFeature &feature)
 
 ControlData booleanEditor()
 {
-    auto box = makeFrameless<QComboBox>();
+    auto box = makeFrameless<NamedComboBox>();
     box->addItem(GenParamText::tr("True"), true);
     box->addItem(GenParamText::tr("False"), false);
     return {box.release(), ControlData::ComboBox};
@@ -106,7 +106,7 @@ ControlData commandEditor()
 
 ControlData floatListEditor(GenApi::IFloat &number)
 {
-    auto box = makeFrameless<QComboBox>();
+    auto box = makeFrameless<NamedComboBox>();
     const GenApi::double_autovector_t values = number.GetListOfValidValues(true);
     const QString unit = fromGenICam(number.GetUnit());
     for (size_t i = 0; i < values.size(); ++i)
@@ -137,7 +137,7 @@ ControlData floatEditor(const GenParamFeature &feature)
 
 ControlData enumerationEditor(const GenParamFeature &feature)
 {
-    auto box = makeFrameless<QComboBox>();
+    auto box = makeFrameless<NamedComboBox>();
     GenApi::NodeList_t entries;
     GenApi::CEnumerationPtr(feature.value())->GetEntries(entries);
     for (size_t i = 0; i < entries.size(); ++i) {

@@ -149,9 +149,11 @@ void OrvGenParamTreeViewPrivate::initFilter()
 {
     QAction *const clear =
         ui.filterLineEdit->addAction(iconOf(QStringLiteral("://images//clear_left.png")), QLineEdit::TrailingPosition);
+    clear->setText(OrvGenParamTreeView::tr("Clear filter")); // what assistive tools call the icon
     clear->setToolTip(OrvGenParamTreeView::tr("Clear filter"));
     QObject::connect(clear, &QAction::triggered, ui.filterLineEdit, &QLineEdit::clear);
     filterOptionsAction = ui.filterLineEdit->addAction(iconOf(filterOptions->iconPath()), QLineEdit::TrailingPosition);
+    filterOptionsAction->setText(OrvGenParamTreeView::tr("Filter options"));
     filterOptionsAction->setToolTip(OrvGenParamTreeView::tr("Filter options"));
     QObject::connect(filterOptionsAction, &QAction::triggered, q, [this] { filterOptions->popUp(*ui.filterLineEdit); });
     ensureRoomForPlaceholder(*ui.filterLineEdit);
@@ -323,6 +325,8 @@ void OrvGenParamTreeViewPrivate::showStatus()
 {
     if (std::exchange(statusShowsErrors, errors.hasErrors()) == errors.hasErrors())
         return;
+    ui.pbStatus->setAccessibleName(statusShowsErrors ? OrvGenParamTreeView::tr("There are errors")
+                                                     : OrvGenParamTreeView::tr("No errors"));
     ui.pbStatus->setIcon(
         iconOf(statusShowsErrors ? QStringLiteral("://images//err.png") : QStringLiteral("://images//ok.png")));
 }

@@ -1,6 +1,7 @@
 #include <OrvCameraGuiApi/widgets/qtorvdoublespinboxval.h>
 
 #include <OrvCameraGuiApi/widgets/stepgrid.h>
+#include <OrvCameraGuiApi/widgets/valueaccessible.h>
 
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -10,6 +11,7 @@
 QtOrvDoubleSpinBoxVal::QtOrvDoubleSpinBoxVal(QWidget *parent)
     : QDoubleSpinBox(parent)
 {
+    installValueAccessibility();
 }
 
 double QtOrvDoubleSpinBoxVal::doValidation(double value) const

@@ -4,7 +4,6 @@
 #include <OrvCameraGuiApi/widgets/compositefocus.h>
 #include <OrvCameraGuiApi/widgets/qtorvdoubleslider.h>
 #include <OrvCameraGuiApi/widgets/spinsliderlink.h>
-#include <OrvCameraGuiApi/widgets/valueaccessible.h>
 
 #include <QBoxLayout>
 
@@ -15,8 +14,9 @@ public:
     void init();
 
     QtOrvGainSlider *const q;
-    QtOrvDoubleSlider *const slider; // made first: Tab goes from the slider to the spin box
+    // Made first: Tab comes by the focus proxy, and would miss a slider before it.
     QtOrvDoubleSpinBoxVal *const spinBox;
+    QtOrvDoubleSlider *const slider;
     Captions captions;
     SpinSliderLink<QtOrvGainSlider, QtOrvDoubleSpinBoxVal, QtOrvDoubleSlider> link;
     CompositeFocus focus;
@@ -24,8 +24,8 @@ public:
 
 QtOrvGainSliderPrivate::QtOrvGainSliderPrivate(QtOrvGainSlider *owner)
     : q(owner)
-    , slider(new QtOrvDoubleSlider(Qt::Horizontal, owner))
     , spinBox(new QtOrvDoubleSpinBoxVal(owner))
+    , slider(new QtOrvDoubleSlider(Qt::Horizontal, owner))
     , captions(owner)
     , link(owner, spinBox, slider, WhileDragged::MovesSlider)
     , focus(owner)
@@ -34,7 +34,6 @@ QtOrvGainSliderPrivate::QtOrvGainSliderPrivate(QtOrvGainSlider *owner)
 
 void QtOrvGainSliderPrivate::init()
 {
-    installValueAccessibility();
     slider->setObjectName(QStringLiteral("slider"));
     spinBox->setObjectName(QStringLiteral("spinbox"));
     spinBox->setDecimals(slider->decimals());

@@ -4,7 +4,6 @@
 #include <OrvCameraGuiApi/widgets/compositefocus.h>
 #include <OrvCameraGuiApi/widgets/qtorvslider.h>
 #include <OrvCameraGuiApi/widgets/spinsliderlink.h>
-#include <OrvCameraGuiApi/widgets/valueaccessible.h>
 
 #include <QBoxLayout>
 
@@ -15,8 +14,9 @@ public:
     void init();
 
     QtOrvSliderSpinBox *const q;
-    QtOrvSlider *const slider; // made first: Tab goes from the slider to the spin box
+    // Made first: Tab comes by the focus proxy, and would miss a slider before it.
     QtOrvSpinBoxVal *const spinBox;
+    QtOrvSlider *const slider;
     Captions captions;
     SpinSliderLink<QtOrvSliderSpinBox, QtOrvSpinBoxVal, QtOrvSlider> link;
     CompositeFocus focus;
@@ -24,8 +24,8 @@ public:
 
 QtOrvSliderSpinBoxPrivate::QtOrvSliderSpinBoxPrivate(QtOrvSliderSpinBox *owner)
     : q(owner)
-    , slider(new QtOrvSlider(Qt::Horizontal, owner))
     , spinBox(new QtOrvSpinBoxVal(owner))
+    , slider(new QtOrvSlider(Qt::Horizontal, owner))
     , captions(owner)
     , link(owner, spinBox, slider, WhileDragged::Nothing)
     , focus(owner)
@@ -34,7 +34,6 @@ QtOrvSliderSpinBoxPrivate::QtOrvSliderSpinBoxPrivate(QtOrvSliderSpinBox *owner)
 
 void QtOrvSliderSpinBoxPrivate::init()
 {
-    installValueAccessibility();
     slider->setObjectName(QStringLiteral("slider"));
     spinBox->setObjectName(QStringLiteral("spinbox"));
     spinBox->setAccelerated(true);

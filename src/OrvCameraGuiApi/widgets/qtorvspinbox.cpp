@@ -4,7 +4,6 @@
 #include <OrvCameraGuiApi/widgets/compositefocus.h>
 #include <OrvCameraGuiApi/widgets/qtorvslider.h>
 #include <OrvCameraGuiApi/widgets/spinsliderlink.h>
-#include <OrvCameraGuiApi/widgets/valueaccessible.h>
 
 #include <QBoxLayout>
 #include <QToolButton>
@@ -44,7 +43,6 @@ QtOrvSpinBoxPrivate::QtOrvSpinBoxPrivate(QtOrvSpinBox *owner, Qt::Orientation or
 
 void QtOrvSpinBoxPrivate::init()
 {
-    installValueAccessibility();
     spinBox->setObjectName(QStringLiteral("spinbox"));
     spinBox->setAccelerated(true);
     captions.setSpinBox(spinBox);
@@ -64,7 +62,6 @@ void QtOrvSpinBoxPrivate::init()
 void QtOrvSpinBoxPrivate::initButton()
 {
     button->setObjectName(QStringLiteral("button"));
-    button->setAccessibleName(QtOrvSpinBox::tr("Slider"));
     button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored); // as high as the spin box
     QObject::connect(button, &QToolButton::clicked, q, [this] { openSlider(); });
 }

@@ -24,7 +24,9 @@ class QtOrvSpinBoxPrivate;
  * While the slider is dragged the spin box follows it, but valueChanged() waits for the release and is emitted once
  * then, also where nothing has changed. Keys, wheel and clicks beside the handle are announced at once.
  *
- * A caption names the spin box, for assistive tools too; "&" before a letter makes a mnemonic that leads there.
+ * "&" before a letter of a caption makes a mnemonic that leads to the spin box. For assistive tools the accessible name,
+ * else a caption, else the label whose buddy this widget is, names the spin box and, as its "... slider", button and slider.
+ * Tab goes from the spin box to the button.
  *
  * GUI thread only. A slot on a signal may change this widget but not delete it (QObject::deleteLater() does).
  */

@@ -1,6 +1,7 @@
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
 
 #include <OrvCameraGuiApi/widgets/stepgrid.h>
+#include <OrvCameraGuiApi/widgets/valueaccessible.h>
 
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -10,6 +11,7 @@
 QtOrvSpinBoxVal::QtOrvSpinBoxVal(QWidget *parent)
     : QSpinBox(parent)
 {
+    installValueAccessibility();
 }
 
 int QtOrvSpinBoxVal::doValidation(int value) const

@@ -1,6 +1,7 @@
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
 
 #include <OrvCameraGuiApi/widgets/int64validator.h>
+#include <OrvCameraGuiApi/widgets/valueaccessible.h>
 
 #include <QAccessible>
 #include <QEvent>
@@ -457,6 +458,7 @@ QtOrvSpinBoxVal64::QtOrvSpinBoxVal64(QWidget *parent)
     : QAbstractSpinBox(parent)
     , d(new QtOrvSpinBoxVal64Private(this))
 {
+    installValueAccessibility();
     d->init();
 }
 

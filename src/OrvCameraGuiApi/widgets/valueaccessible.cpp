@@ -1,9 +1,16 @@
 #include <OrvCameraGuiApi/widgets/valueaccessible.h>
 
+#include <OrvCameraGuiApi/widgets/accessiblefactory.h>
+#include <OrvCameraGuiApi/widgets/accessibletext.h>
+#include <OrvCameraGuiApi/widgets/qtorvspinbox.h>
 #include <OrvCameraGuiApi/widgets/sliderparts.h>
 
+#include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QLineEdit>
+#include <QRegularExpression>
+#include <QToolButton>
 
 #include <algorithm>
 #include <iterator>
@@ -12,13 +19,29 @@ namespace {
 
 constexpr const char *composites[] = {"QtOrvSlider", "QtOrvDoubleSlider", "QtOrvSpinBox", "QtOrvSliderSpinBox",
                                       "QtOrvGainSlider"};
+constexpr const char *sliders[] = {"QtOrvSlider", "QtOrvDoubleSlider"};
+constexpr const char *spinBoxes[] = {"QtOrvSpinBoxVal", "QtOrvDoubleSpinBoxVal", "QtOrvSpinBoxVal64"};
+
+template <std::size_t Size>
+bool isOneOf(const QWidget *widget, const char *const (&classes)[Size])
+{
+    const auto isIt = [widget](const char *name) { return widget->inherits(name); };
+    return std::any_of(std::begin(classes), std::end(classes), isIt);
+}
 
 /** The widget that \a part is a part of; null when it stands for itself. */
-QWidget *compositeOf(const QWidget *part)
+QWidget *wholeOf(const QWidget *part)
 {
     QWidget *const parent = part->parentWidget();
-    const auto isParent = [parent](const char *name) { return parent->inherits(name); };
-    return parent && std::any_of(std::begin(composites), std::end(composites), isParent) ? parent : nullptr;
+    return parent && (isOneOf(parent, composites) || isOneOf(parent, spinBoxes)) ? parent : nullptr;
+}
+
+/** What a label says, without what is only for the eye or the keyboard. */
+QString spoken(QString text)
+{
+    static const QRegularExpression mnemonic(QStringLiteral("&(.)"));
+    text = text.replace(mnemonic, QStringLiteral("\\1")).simplified();
+    return text.endsWith(QLatin1Char(':')) ? text.chopped(1).trimmed() : text;
 }
 
 /** What \a widget says it is called; empty when it does not. */
@@ -27,19 +50,47 @@ QString nameOf(const QWidget *widget)
     if (!widget->accessibleName().isEmpty())
         return widget->accessibleName();
     for (const char *caption : {"leftLabelText", "topLabelText"}) {
-        QString text = widget->property(caption).toString();
+        const QString text = spoken(widget->property(caption).toString());
         if (!text.isEmpty())
-            return text.remove(QLatin1Char('&'));
+            return text;
     }
     return {};
 }
 
-class ValueAccessible : public QAccessibleWidget, public QAccessibleValueInterface
+/** A widget that without a name of its own bears that of what it is a part of. */
+class PartAccessible : public QAccessibleWidget
+{
+public:
+    using QAccessibleWidget::QAccessibleWidget;
+
+    QString text(QAccessible::Text kind) const override
+    {
+        if (kind != QAccessible::Name)
+            return QAccessibleWidget::text(kind);
+        const QString name = nameOf(widget());
+        if (!name.isEmpty())
+            return name;
+        QWidget *const whole = wholeOf(widget());
+        return whole ? partName(QAccessible::queryAccessibleInterface(whole)->text(kind))
+                     : spoken(QAccessibleWidget::text(kind)); // of a label beside it
+    }
+
+private:
+    /** Beside a spin box the slider, and the button that opens it, are told apart from that. */
+    QString partName(const QString &whole) const
+    {
+        if (!isOneOf(widget(), sliders) && !widget()->inherits("QToolButton"))
+            return whole;
+        return whole.isEmpty() ? QtOrvSpinBox::tr("Slider") : QtOrvSpinBox::tr("%1 slider").arg(whole);
+    }
+};
+
+class ValueAccessible : public PartAccessible, public QAccessibleValueInterface
 {
 public:
     /** The numbers are properties of \a source, which outlives \a widget or is the same. */
     ValueAccessible(QWidget *widget, QAccessible::Role role, QObject *source)
-        : QAccessibleWidget(widget, role)
+        : PartAccessible(widget, role)
         , m_source(source)
     {
     }
@@ -48,20 +99,12 @@ public:
     {
         if (type == QAccessible::ValueInterface)
             return static_cast<QAccessibleValueInterface *>(this);
-        return QAccessibleWidget::interface_cast(type);
+        return PartAccessible::interface_cast(type);
     }
 
     QString text(QAccessible::Text kind) const override
     {
-        if (kind == QAccessible::Value)
-            return currentValue().toString();
-        if (kind != QAccessible::Name)
-            return QAccessibleWidget::text(kind);
-        QString name = nameOf(widget());
-        if (name.isEmpty())
-            name = QAccessibleWidget::text(kind); // of a label beside it
-        QWidget *const composite = name.isEmpty() ? compositeOf(widget()) : nullptr;
-        return composite ? QAccessible::queryAccessibleInterface(composite)->text(kind) : name;
+        return kind == QAccessible::Value ? currentValue().toString() : PartAccessible::text(kind);
     }
 
     QVariant currentValue() const override { return m_source->property("value"); }
@@ -74,28 +117,116 @@ private:
     QObject *const m_source;
 };
 
+/** A spin box with the text of its line edit, which is hidden from tools behind it. */
+class SpinBoxAccessible : public ValueAccessible
+{
+public:
+    explicit SpinBoxAccessible(QAbstractSpinBox *spinBox)
+        : ValueAccessible(spinBox, QAccessible::SpinBox, spinBox)
+        , m_text(spinBox)
+    {
+    }
+
+    void *interface_cast(QAccessible::InterfaceType type) override
+    {
+        if (type == QAccessible::TextInterface)
+            return static_cast<QAccessibleTextInterface *>(&m_text);
+        if (type == QAccessible::EditableTextInterface)
+            return static_cast<QAccessibleEditableTextInterface *>(&m_text);
+        return ValueAccessible::interface_cast(type);
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Value ? m_text.shownText() : ValueAccessible::text(kind);
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = ValueAccessible::state();
+        const bool isReadOnly = static_cast<QAbstractSpinBox *>(object())->isReadOnly();
+        state.readOnly = isReadOnly;
+        state.editable = !isReadOnly;
+        state.selectableText = true;
+        return state;
+    }
+
+private:
+    SpinBoxText m_text;
+};
+
+class ButtonAccessible : public PartAccessible
+{
+public:
+    explicit ButtonAccessible(QToolButton *button)
+        : PartAccessible(button, QAccessible::Button)
+    {
+    }
+
+    QStringList actionNames() const override
+    {
+        QStringList names = PartAccessible::actionNames();
+        if (widget()->isEnabled())
+            names.prepend(pressAction());
+        return names;
+    }
+
+    void doAction(const QString &action) override
+    {
+        if (action == pressAction())
+            static_cast<QToolButton *>(object())->click();
+        else
+            PartAccessible::doAction(action);
+    }
+};
+
+/** The line edit of a spin box, for who finds it all the same; what it shows is the spin box's. */
+class InnerEditAccessible : public PartAccessible
+{
+public:
+    explicit InnerEditAccessible(QWidget *edit)
+        : PartAccessible(edit, QAccessible::EditableText)
+    {
+    }
+
+    void *interface_cast(QAccessible::InterfaceType type) override
+    {
+        const bool isText = type == QAccessible::TextInterface || type == QAccessible::EditableTextInterface;
+        return isText ? spinBox()->interface_cast(type) : PartAccessible::interface_cast(type);
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Value ? spinBox()->text(kind) : PartAccessible::text(kind);
+    }
+
+private:
+    QAccessibleInterface *spinBox() const { return QAccessible::queryAccessibleInterface(widget()->parentWidget()); }
+};
+
 /** Asked for every class of an object in turn, the most derived first. */
 QAccessibleInterface *makeInterface(const QString &className, QObject *object)
 {
     if (auto *slider = qobject_cast<KeyAwareSlider *>(object))
         return slider->parent() ? new ValueAccessible(slider, QAccessible::Slider, slider->parent()) : nullptr;
-    const auto isAsked = [&className](const char *name) { return className == QLatin1String(name); };
-    if (!object->isWidgetType() || std::none_of(std::begin(composites), std::end(composites), isAsked))
+    if (!object->isWidgetType())
         return nullptr;
     auto *const widget = static_cast<QWidget *>(object);
-    return new ValueAccessible(widget, QAccessible::Grouping, widget);
+    if (auto *button = qobject_cast<QToolButton *>(object))
+        return wholeOf(button) ? new ButtonAccessible(button) : nullptr;
+    if (qobject_cast<QLineEdit *>(object))
+        return wholeOf(widget) ? new InnerEditAccessible(widget) : nullptr;
+    const auto isAsked = [&className](const char *name) { return className == QLatin1String(name); };
+    if (std::any_of(std::begin(composites), std::end(composites), isAsked))
+        return new ValueAccessible(widget, QAccessible::Grouping, widget);
+    if (std::any_of(std::begin(spinBoxes), std::end(spinBoxes), isAsked))
+        return new SpinBoxAccessible(static_cast<QAbstractSpinBox *>(object));
+    return nullptr;
 }
-
-struct Installation
-{
-    Installation() { QAccessible::installFactory(makeInterface); }
-    ~Installation() { QAccessible::removeFactory(makeInterface); }
-    Q_DISABLE_COPY(Installation)
-};
 
 } // namespace
 
 void installValueAccessibility()
 {
-    static const Installation installation;
+    static const AccessibleFactory factory(makeInterface);
 }

@@ -160,6 +160,9 @@ void OrvCamConfigFrameABDialogPrivate::build()
     ui.setupUi(q);
     FeatureDialogCamera::setUpDialog(q);
     setCaptions();
+    const auto radioButtons = q->findChildren<QRadioButton *>();
+    for (QRadioButton *const button : radioButtons)
+        OrvCamConfigMapper::nameButton(button);
     pageTitles = {ui.tabFrames->tabText(0), ui.tabFrames->tabText(1)};
     // The field that is typed in loses the focus, and with it the text, which would else go to the other frame.
     ui.tabFrames->tabBar()->setFocusPolicy(Qt::WheelFocus);

@@ -76,8 +76,11 @@ void OrvCamConfigPulseDialogPrivate::build()
         spinBox->setSliderOrientation(Qt::Horizontal);
     for (QtOrvSpinBox *const spinBox : {ui.spBoxPeriod, ui.spBoxWidth})
         spinBox->slider()->setScaleType(QtOrvSlider::Log10);
-    modes.addButton(ui.radioBtnContinious);
-    modes.addButton(ui.radioBtnSend);
+    modes.setProperty("accessibleName", OrvCamConfigPulseDialog::tr("Pulses"));
+    for (QRadioButton *const button : {ui.radioBtnContinious, ui.radioBtnSend}) {
+        modes.addButton(button);
+        OrvCamConfigMapper::nameButton(button);
+    }
     const QFontMetrics metrics = ui.lineEditFreq->fontMetrics();
     ui.lineEditFreq->setMinimumWidth(metrics.horizontalAdvance(frequencyText(pulseClock))
                                      + 3 * metrics.averageCharWidth());
@@ -131,6 +134,8 @@ void OrvCamConfigPulseDialogPrivate::setButtonState(bool on)
     ui.pushBtnPulseEnable->setShortcut(QKeySequence(keys, keys));
     const QString ball = on ? QStringLiteral(":/icons/greenball.ico") : QStringLiteral(":/icons/redball.ico");
     ui.lblPulseEnable->setPixmap(sharpPixmap(ball, q));
+    ui.lblPulseEnable->setAccessibleName(on ? OrvCamConfigPulseDialog::tr("Pulses are generated")
+                                            : OrvCamConfigPulseDialog::tr("No pulses are generated"));
 }
 
 OrvCamConfigPulseDialog::OrvCamConfigPulseDialog(OrvCam::Device *device, QWidget *parent)
