@@ -822,13 +822,6 @@ Platzhalter sind möglich.</translation>
     </message>
 </context>
 <context>
-    <name>OrvCamConfigMapper</name>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-</context>
-<context>
     <name>OrvCamConfigOutputDialog</name>
     <message>
         <source>Data Output</source>
@@ -1343,6 +1336,10 @@ Doppelbild [pclk]:</translation>
 Description: %2</source>
         <translation>Fehler bei der Arbeit mit dem Parameter „%1“!<byte value="xd"/>
 Beschreibung: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

@@ -822,13 +822,6 @@ Using of wildcard is possible.</source>
     </message>
 </context>
 <context>
-    <name>OrvCamConfigMapper</name>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1：%2</translation>
-    </message>
-</context>
-<context>
     <name>OrvCamConfigOutputDialog</name>
     <message>
         <source>Data Output</source>
@@ -1343,6 +1336,10 @@ Line Time [pclk]:</source>
 Description: %2</source>
         <translation>处理参数“%1”时出错！<byte value="xd"/>
 说明：%2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
     </message>
 </context>
 <context>

@@ -570,7 +570,7 @@ void OrvCamConfigMapper::nameButton(QAbstractButton *button)
 {
     const QString group = button->group() ? button->group()->property(groupNameProperty).toString() : QString();
     if (!group.isEmpty())
-        button->setAccessibleName(tr("%1: %2").arg(group, button->text()));
+        button->setAccessibleName(OrvGui::OrvCamConfigMapper::tr("%1: %2").arg(group, button->text()));
 }
 
 void OrvCamConfigMapper::nameTabs(OrvGenParam::Enum *param, QTabWidget *tabWidget)
