@@ -45,6 +45,8 @@ install(DIRECTORY src/OrvCameraGuiApi/camera_api DESTINATION ${_orv_header_dir} 
     FILES_MATCHING PATTERN "*.h")
 install(TARGETS OrvCameraGuiApi EXPORT OrvCameraGuiApiTargets
     LIBRARY COMPONENT Runtime NAMELINK_COMPONENT Development)
+install(FILES ${ORV_TRANSLATIONS} COMPONENT Runtime
+    DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/OrvCameraGuiApi/translations)
 install(EXPORT OrvCameraGuiApiTargets NAMESPACE Orv:: DESTINATION ${_orv_package_dir} COMPONENT Development)
 
 if(ORV_STAND_INS)
@@ -136,6 +138,7 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
     "liborvcameraguiapi1 ${_orv_same_version}, qtbase5-dev")
 set(CPACK_DEBIAN_DESIGNER_PACKAGE_DEPENDS "liborvcameraguiapi1 ${_orv_same_version}")
 set(CPACK_DEBIAN_EXPLORER_PACKAGE_DEPENDS "liborvcameraguiapi1 ${_orv_same_version}")
+set(CPACK_DEBIAN_EXPLORER_PACKAGE_RECOMMENDS "qttranslations5-l10n") # Qt's own texts in other languages
 if(ORV_STAND_INS)
     set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS "orvcameraguiapi-standins ${_orv_same_version}")
     string(APPEND CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS ", orvcameraguiapi-standins ${_orv_same_version}")

@@ -1,6 +1,7 @@
 #include "cameradialog.h"
 #include "camerasource.h"
 #include "explorerwindow.h"
+#include "languages.h"
 #include "options.h"
 #include "screenshots.h"
 
@@ -87,6 +88,7 @@ int runWindow(int argc, char **argv, const Options &options, std::unique_ptr<Cam
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication app(argc, argv);
     QGuiApplication::setDesktopFileName(QCoreApplication::applicationName());
+    speak(options.language);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/explorer/explorer.png")));
 
     if (!source)

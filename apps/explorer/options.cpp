@@ -1,5 +1,7 @@
 #include "options.h"
 
+#include "languages.h"
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
@@ -24,13 +26,17 @@ QString misuse(const QCommandLineParser &parser)
 {
     if (!parser.positionalArguments().isEmpty())
         return Text::tr("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst());
-    for (const char *name : {"xml", "camera", "screenshot"}) {
+    for (const char *name : {"xml", "camera", "screenshot", "language"}) {
         const QString option = QLatin1String(name);
         if (parser.isSet(option) && parser.value(option).isEmpty())
             return Text::tr("Empty value after '--%1'.").arg(option);
     }
     if (parser.isSet(QStringLiteral("xml")) && parser.isSet(QStringLiteral("camera")))
         return Text::tr("'--xml' and '--camera' exclude each other.");
+    const QString language = parser.value(QStringLiteral("language"));
+    if (!language.isEmpty() && !languages().contains(language))
+        return Text::tr("There is no language '%1'; there are: %2.")
+            .arg(language, languages().join(QLatin1String(", ")));
     return {};
 }
 
@@ -50,7 +56,12 @@ Options parseOptions(const QStringList &arguments)
     const QCommandLineOption screenshot(
         QStringLiteral("screenshot"),
         Text::tr("Draw the windows into PNG files in the directory DIR and end; needs no display."), Text::tr("DIR"));
-    parser.addOptions({help, version, xml, camera, screenshot});
+    const QCommandLineOption language(
+        QStringLiteral("language"),
+        Text::tr("Show the windows in the language LANGUAGE (%1) instead of the system's.")
+            .arg(languages().join(QLatin1String(", "))),
+        Text::tr("LANGUAGE"));
+    parser.addOptions({help, version, xml, camera, screenshot, language});
 
     const bool understood = parser.parse(arguments);
     if (understood && parser.isSet(help))
@@ -69,5 +80,6 @@ Options parseOptions(const QStringList &arguments)
     options.xmlFile = parser.value(xml);
     options.cameraId = parser.value(camera);
     options.screenshotDir = parser.value(screenshot);
+    options.language = parser.value(language);
     return options;
 }

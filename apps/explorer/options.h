@@ -17,6 +17,7 @@ struct Options
     QString xmlFile; ///< description to show instead of a camera; empty: a camera
     QString cameraId; ///< identifier of the camera to open; empty: ask, for a screenshot the first that can be opened
     QString screenshotDir; ///< where SaveScreenshot writes
+    QString language; ///< of the windows; empty: the one of the system
     QString text; ///< what PrintText prints; for Fail one line that says why
 };
 

@@ -70,6 +70,16 @@ inline QString statusText(const OrvCamConfig &window)
     return DialogTest::part<QLabel>(window, "lblDeviceName")->text();
 }
 
+inline QString disconnected()
+{
+    return OrvTest::translated("OrvGui::OrvCamConfig", "Disconnected");
+}
+
+inline QString unknown()
+{
+    return OrvTest::translated("OrvGui::OrvCamConfig", "Unknown");
+}
+
 const QString noInfo = QStringLiteral("   ");
 const QString frameA = QStringLiteral("1920x1080 50.00 20000 105");
 const QString frameB = QStringLiteral("640x480 200.00 5000 2000");

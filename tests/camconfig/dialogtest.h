@@ -1,5 +1,6 @@
 #pragma once
 
+#include "orvtest.h"
 #include "simtest.h"
 
 #include <OrvCameraGuiApi/widgets/qtorvsliderspinbox.h>
@@ -231,8 +232,9 @@ inline QString takeMessage()
 /** What a message tells about a feature that the camera refused. */
 inline QString refusal(const char *feature, const char *description)
 {
-    return QStringLiteral("Error while working with '%1' parameter!\r\nDescription: %2")
-        .arg(QLatin1String(feature), QLatin1String(description));
+    const char *const mapper = "OrvGui::OrvCamConfigMapper";
+    return OrvTest::translated(mapper, "Error while working with '%1' parameter!\r\nDescription: %2")
+        .arg(QString::fromUtf8(feature), OrvTest::translated(mapper, description));
 }
 
 } // namespace DialogTest

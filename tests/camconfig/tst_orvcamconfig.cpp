@@ -84,6 +84,11 @@ QString aboutText(const OrvCamConfig &window, const char *label)
     return part<QLabel>(*part<QDialog>(window, "OrvCamConfigAboutDialog"), label)->text();
 }
 
+QString fromForm(const char *text)
+{
+    return OrvTest::translated("OrvCamConfigMainWindow", text);
+}
+
 } // namespace
 
 void OrvCamConfigTest::initTestCase()
@@ -103,16 +108,20 @@ void OrvCamConfigTest::namesItsParts()
     const Camera camera;
     const OrvCamConfig window(camera.device());
     QCOMPARE(window.objectName(), QStringLiteral("OrvCamConfigMainWindow"));
-    QCOMPARE(window.windowTitle(), QStringLiteral("CamConfig"));
+    QCOMPARE(window.windowTitle(), fromForm("CamConfig"));
     QVERIFY(!window.windowIcon().isNull());
     QStringList menus;
     for (QAction *const action : part<QMenuBar>(window, "menubar")->actions())
         menus.append(action->menu()->objectName() + QLatin1Char('=') + action->text());
-    QCOMPARE(menus.join(QLatin1Char(' ')), QStringLiteral("menuMenu=Menu menuView=View menuHelp=Help"));
-    const std::pair<const char *, QString> labels[] = {
-        {"label", QStringLiteral("Size")},          {"label_8", QStringLiteral("PxL")},
-        {"label_7", QStringLiteral("fps")},         {"lblFrameTime", QStringLiteral("\u03bcs")},
-        {"lblExposure", QStringLiteral("\u03bcs")}, {"lblTemperature", QStringLiteral("\u00b0C")}};
+    QCOMPARE(menus.join(QLatin1Char(' ')),
+             QStringLiteral("menuMenu=%1 menuView=%2 menuHelp=%3")
+                 .arg(fromForm("Menu"), fromForm("View"), fromForm("Help")));
+    const std::pair<const char *, QString> labels[] = {{"label", fromForm("Size")},
+                                                       {"label_8", fromForm("PxL")},
+                                                       {"label_7", fromForm("fps")},
+                                                       {"lblFrameTime", QStringLiteral("\u03bcs")},
+                                                       {"lblExposure", QStringLiteral("\u03bcs")},
+                                                       {"lblTemperature", QStringLiteral("\u00b0C")}};
     for (const auto &[name, text] : labels)
         QCOMPARE(part<QLabel>(window, name)->text(), text);
     for (const Parts &parts : dialogs) {
@@ -273,7 +282,7 @@ void OrvCamConfigTest::leavesOutWhatCannotBeRead()
     const Camera camera(DialogTest::plugInChangedCamera({"CurrentExposureTime", "DeviceModelName", "FrameMode"}));
     const OrvCamConfig window(camera.device());
     QTRY_COMPARE(column(window, "A"), QStringLiteral("1920x1080 50.00 20000 "));
-    QCOMPARE(statusText(window), QStringLiteral("Unknown"));
+    QCOMPARE(statusText(window), unknown());
     QVERIFY(!temperature(window).isEmpty());
     for (const char *const feature : {"Frame_Height", "CurrentTemperature"})
         QVERIFY(OrvSim::setFault("CHANGED", feature, OrvSim::Fault::FailRead));
@@ -286,7 +295,7 @@ void OrvCamConfigTest::leavesOutWhatCannotBeRead()
     empty.show();
     waitForAStep();
     QCOMPARE(column(empty, "A") + temperature(empty), noInfo);
-    QCOMPARE(statusText(empty), QStringLiteral("Unknown"));
+    QCOMPARE(statusText(empty), unknown());
 }
 
 void OrvCamConfigTest::takesTheTemperatureWhenShown()
@@ -310,19 +319,20 @@ void OrvCamConfigTest::tellsOfTheCamera()
     QCOMPARE(aboutText(window, "lblAppVersion"), QStringLiteral("1.4.0 (build 2230) "));
     const QString year = QString::number(QDate::currentDate().year());
     QVERIFY(aboutText(window, "lblCopyright").contains(QChar(0xa9) + QStringLiteral(" ") + year));
+    const QString notAvailable = OrvTest::translated("OrvGui::OrvCamConfigAboutDialog", "N/A");
     const std::pair<const char *, const char *> values[] = {{"lblFirmwareVersion", "2.3.1"},
                                                             {"lblDeviceModelName", "TF-2000C"},
-                                                            {"lblDeviceUserDefinedName", "N/A"},
+                                                            {"lblDeviceUserDefinedName", nullptr},
                                                             {"lblDeviceManufacturerName", "Orv"},
                                                             {"lblFirmwareImage", "1"},
                                                             {"lblRgsID", "4660"},
-                                                            {"lblEpcsID", "N/A"},
+                                                            {"lblEpcsID", nullptr},
                                                             {"lblSensorType", "BayerRG"},
                                                             {"lblXmlVersion", "104"}};
     for (const auto &[label, text] : values)
-        QCOMPARE(aboutText(window, label), QLatin1String(text));
+        QCOMPARE(aboutText(window, label), text ? QString(QLatin1String(text)) : notAvailable);
     trigger(window, "actionDisconnect"); // while it is open
-    QCOMPARE(aboutText(window, "lblRgsID"), QStringLiteral("N/A"));
+    QCOMPARE(aboutText(window, "lblRgsID"), notAvailable);
     QTest::mouseClick(part<QPushButton>(*about, "okButton"), Qt::LeftButton);
     QVERIFY(!about->isVisible());
 }
@@ -379,7 +389,7 @@ void OrvCamConfigTest::losesAndFindsTheCamera()
     const std::size_t sinks = OrvSim::liveObjects().sinks;
 
     QVERIFY(OrvSim::unplug(twoFrame));
-    QTRY_COMPARE(statusText(window), QStringLiteral("Disconnected"));
+    QTRY_COMPARE(statusText(window), disconnected());
     QCOMPARE(column(window, "A") + column(window, "B") + temperature(window), noInfo + noInfo);
     QVERIFY(icon->pixmap(Qt::ReturnByValue).toImage() != connected);
     QCOMPARE(OrvSim::liveObjects().sinks, std::size_t(0));
@@ -448,7 +458,7 @@ void OrvCamConfigTest::keepsTheLastEvent()
     QCOMPARE(statusText(window), QStringLiteral("SF-1300M"));
     QVERIFY(OrvSim::unplug(monochrome));
     window.SetDevice(other.device()); // the same once more: what it told stands
-    QTRY_COMPARE(statusText(window), QStringLiteral("Disconnected"));
+    QTRY_COMPARE(statusText(window), disconnected());
 }
 
 void OrvCamConfigTest::leavesTheCallersDeviceAlone()
@@ -469,13 +479,13 @@ void OrvCamConfigTest::leavesTheCallersDeviceAlone()
             QCOMPARE(OrvSim::liveObjects().eventCallbacks, live.eventCallbacks);
         }
         trigger(window, "actionDisconnect");
-        QCOMPARE(statusText(window), QStringLiteral("Disconnected"));
+        QCOMPARE(statusText(window), disconnected());
         QCOMPARE(OrvSim::liveObjects().devices, std::size_t(2));
         window.SetDevice(camera.device());
         for (const auto answer : {OrvSim::Parameters::Null, OrvSim::Parameters::Error}) {
             OrvSim::setParameters(twoFrame, answer);
             window.SetDevice(camera.device());
-            QCOMPARE(statusText(window), QStringLiteral("Disconnected"));
+            QCOMPARE(statusText(window), disconnected());
         }
     }
     QVERIFY(isNothingHeld());
@@ -484,7 +494,7 @@ void OrvCamConfigTest::leavesTheCallersDeviceAlone()
 void OrvCamConfigTest::asksForACamera()
 {
     OrvTest::whenOpen<OrvCameraSelectorDialog>([](OrvCameraSelectorDialog &selector) {
-        QCOMPARE(selector.windowTitle(), QStringLiteral("Select a device"));
+        QCOMPARE(selector.windowTitle(), OrvTest::translated("OrvGui::OrvCamConfig", "Select a device"));
         QVERIFY(selector.isPollChecked());
         choose(selector, twoFrame);
     });
@@ -498,7 +508,7 @@ void OrvCamConfigTest::asksForACamera()
         trigger(window, "actionColor");
         QVERIFY(isUsable(window, dialogs[5]));
         trigger(window, "actionDisconnect");
-        QCOMPARE(statusText(window), QStringLiteral("Disconnected"));
+        QCOMPARE(statusText(window), disconnected());
         QVERIFY(!isUsable(window, dialogs[5]));
         QCOMPARE(OrvSim::liveObjects().devices, std::size_t(1));
         QCOMPARE(OrvSim::liveObjects().systemReferences, std::size_t(0));
@@ -533,7 +543,7 @@ void OrvCamConfigTest::staysWithoutACamera()
     window.show();
     waitForAStep();
     QVERIFY(window.isEnabled());
-    QCOMPARE(statusText(window), QStringLiteral("Disconnected"));
+    QCOMPARE(statusText(window), disconnected());
     QCOMPARE(column(window, "A") + temperature(window), noInfo);
     for (const Parts &parts : dialogs)
         trigger(window, parts.action);
@@ -566,7 +576,7 @@ void OrvCamConfigTest::connectsToAnotherCamera()
     OrvSim::refuseToOpen(monochrome, OrvCamErr_NoDevice);
     chooseWhenAsked(monochrome);
     trigger(window, "actionConnect");
-    QCOMPARE(statusText(window), QStringLiteral("Disconnected"));
+    QCOMPARE(statusText(window), disconnected());
     QVERIFY(isNothingHeld());
 }
 
@@ -603,7 +613,7 @@ void OrvCamConfigTest::survivesWhatHappensWhileItAsks()
         whenAsked([&](OrvCameraSelectorDialog &) { delete parent; });
         const OrvCamConfig orphan(nullptr, parent);
         QVERIFY(!orphan.parent());
-        QCOMPARE(statusText(orphan), QStringLiteral("Disconnected"));
+        QCOMPARE(statusText(orphan), disconnected());
     }
     QVERIFY(isNothingHeld());
 }

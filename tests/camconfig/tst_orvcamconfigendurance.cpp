@@ -64,7 +64,7 @@ void OrvCamConfigEnduranceTest::work(int round)
     QCOMPARE(OrvSim::writeCount(twoFrame), std::uint64_t(5));
 
     QVERIFY(OrvSim::unplug(twoFrame));
-    QTRY_COMPARE(statusText(window), QStringLiteral("Disconnected"));
+    QTRY_COMPARE(statusText(window), disconnected());
     QVERIFY(OrvSim::replug(twoFrame));
     QTRY_COMPARE(column(window, "B"), frameB);
     QCOMPARE(OrvSim::writeCount(twoFrame), std::uint64_t(7));

@@ -636,18 +636,20 @@ void OrvCamConfigFrameABDialogTest::tellsTheSizeOfTheImage()
 void OrvCamConfigFrameABDialogTest::captions()
 {
     const OrvCamConfigFrameABDialog dialog(nullptr);
-    const std::pair<const char *, QString> texts[] = {
-        {"spBoxDualLineTime", QStringLiteral("Dual Video\nLine Time [pclk]:")},
-        {"spBoxLineTime", QStringLiteral("Line Time [pclk]:")},
-        {"spBoxOffsetX", QStringLiteral("OffsetX:")},
-        {"spBoxOffsetY", QStringLiteral("OffsetY:")},
-        {"spBoxWidth", QStringLiteral("Width: ")},
-        {"spBoxHeight", QStringLiteral("Height:")},
-        {"gainDigital", QStringLiteral("Digital Gain:")},
-        {"spBoxBlackLevel", QStringLiteral("Black Level:")},
-        {"spBoxExposureTime", QStringLiteral("Exposure Time [\u03bcs]:")}};
-    for (const auto &[control, text] : texts)
-        QCOMPARE(part<QWidget>(dialog, control)->property("leftLabelText").toString(), text);
+    const std::pair<const char *, const char *> texts[] = {{"spBoxDualLineTime", "Dual Video\nLine Time [pclk]:"},
+                                                           {"spBoxLineTime", "Line Time [pclk]:"},
+                                                           {"spBoxOffsetX", "OffsetX:"},
+                                                           {"spBoxOffsetY", "OffsetY:"},
+                                                           {"spBoxWidth", "Width: "},
+                                                           {"spBoxHeight", "Height:"},
+                                                           {"gainDigital", "Digital Gain:"},
+                                                           {"spBoxBlackLevel", "Black Level:"},
+                                                           {"spBoxExposureTime", "Exposure Time [%1s]:"}};
+    for (const auto &[control, text] : texts) {
+        const QString expected = OrvTest::translated("OrvGui::OrvCamConfigFrameABDialog", text)
+                                     .replace(QLatin1String("%1"), QStringLiteral("\u03bc"));
+        QCOMPARE(part<QWidget>(dialog, control)->property("leftLabelText").toString(), expected);
+    }
 }
 
 void OrvCamConfigFrameABDialogTest::keepsTheRulesOfFeatureDialogs()

@@ -690,10 +690,7 @@ void OrvCamConfigMapperTest::describesErrors_data()
     QTest::addColumn<QString>("text");
     const auto row = [](int code, const char *name, const char *description) {
         QTest::addRow("%d", code) << code << QString::fromUtf8(name)
-                                  << (description ? QString::fromUtf8(
-                                                        "Error while working with '%1' parameter!\r\nDescription: %2")
-                                                        .arg(QString::fromUtf8(name), QLatin1String(description))
-                                                  : QString());
+                                  << (description ? refusal(name, description) : QString());
     };
     row(0, "Feature", nullptr);
     row(-40001, "Feature", "Unknown error");

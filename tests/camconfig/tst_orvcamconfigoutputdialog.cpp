@@ -74,7 +74,7 @@ void OrvCamConfigOutputDialogTest::thresholdsNeedTheirCorrection()
     for (const auto &[mode, threshold] : pairs) {
         auto *const box = part<QComboBox>(dialog, mode);
         auto *const spinBox = part<QtOrvSpinBox>(dialog, threshold);
-        QCOMPARE(spinBox->leftLabelText(), QStringLiteral("Dyn.Thres.:"));
+        QCOMPARE(spinBox->leftLabelText(), OrvTest::translated("OrvGui::OrvCamConfigOutputDialog", "Dyn.Thres.:"));
         QVERIFY(choose(box, "Dynamic"));
         QVERIFY(spinBox->isEnabled());
         QVERIFY(choose(box, "Off"));

@@ -44,8 +44,15 @@ QString generatorState(const QWidget &dialog)
     return text;
 }
 
-const QString running = QStringLiteral("Stop green");
-const QString resting = QStringLiteral("Start red");
+QString running()
+{
+    return OrvTest::translated("OrvGui::OrvCamConfigPulseDialog", "Stop") + QStringLiteral(" green");
+}
+
+QString resting()
+{
+    return OrvTest::translated("OrvGui::OrvCamConfigPulseDialog", "Start") + QStringLiteral(" red");
+}
 
 } // namespace
 
@@ -129,19 +136,19 @@ void OrvCamConfigPulseDialogTest::startsAndStops()
     QVERIFY(dialog.SetDevice(camera.device()));
     QVERIFY(show(dialog));
     auto *const button = part<QPushButton>(dialog, "pushBtnPulseEnable");
-    QCOMPARE(generatorState(dialog), resting);
+    QCOMPARE(generatorState(dialog), resting());
     QTest::mouseClick(button, Qt::LeftButton);
-    QCOMPARE(generatorState(dialog), running);
+    QCOMPARE(generatorState(dialog), running());
     QVERIFY(camera.set("PulseGenEnable", "false"));
-    QCOMPARE(generatorState(dialog), resting);
-    for (const QString &state : {running, resting, running}) {
+    QCOMPARE(generatorState(dialog), resting());
+    for (const QString &state : {running(), resting(), running()}) {
         for (int i = 0; i < 2; ++i)
             QTest::keyClick(&dialog, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
         QTRY_COMPARE(generatorState(dialog), state);
-        QCOMPARE(camera.value("PulseGenEnable"), QVariant(state == running).toString());
+        QCOMPARE(camera.value("PulseGenEnable"), QVariant(state == running()).toString());
     }
     QVERIFY(dialog.SetDevice(camera.device()));
-    QCOMPARE(generatorState(dialog), running);
+    QCOMPARE(generatorState(dialog), running());
 }
 
 void OrvCamConfigPulseDialogTest::pulsesAreCountedOnlyWhenSent()
@@ -196,7 +203,7 @@ void OrvCamConfigPulseDialogTest::survivesTheCameraWhileEdited()
     QVERIFY(OrvSim::replug(SimTest::twoFrame));
     QVERIFY(dialog.SetDevice(camera.device()));
     QCOMPARE(shownBy(period), QStringLiteral("1000"));
-    QCOMPARE(generatorState(dialog), resting);
+    QCOMPARE(generatorState(dialog), resting());
 }
 
 void OrvCamConfigPulseDialogTest::disablesWhatTheCameraLacks()
@@ -210,7 +217,7 @@ void OrvCamConfigPulseDialogTest::disablesWhatTheCameraLacks()
     for (const char *const name : {"cmBoxGranularity", "spBoxPeriod", "spBoxWidth", "spBoxNumPulses",
                                    "radioBtnContinious", "radioBtnSend", "pushBtnPulseEnable"})
         QVERIFY2(!part<QWidget>(dialog, name)->isEnabled(), name);
-    QCOMPARE(generatorState(dialog), resting);
+    QCOMPARE(generatorState(dialog), resting());
 }
 
 void OrvCamConfigPulseDialogTest::keepsTheRulesOfFeatureDialogs()

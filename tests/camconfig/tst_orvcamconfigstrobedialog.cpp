@@ -94,9 +94,10 @@ void OrvCamConfigStrobeDialogTest::sliderCoversShortAndLongTimes()
     OrvCamConfigStrobeDialog dialog(camera.device());
     QVERIFY(show(dialog));
     auto *const delay = part<QtOrvSliderSpinBox>(dialog, "spBoxStrobe1Delay");
-    QCOMPARE(delay->leftLabelText(), QStringLiteral("Delay [%1s]:").arg(QChar(0x3bc)));
+    QCOMPARE(delay->leftLabelText(),
+             OrvTest::translated("OrvGui::OrvCamConfigStrobeDialog", "Delay [%1s]:").arg(QChar(0x3bc)));
     QCOMPARE(part<QtOrvSliderSpinBox>(dialog, "spBoxStrobe2Width")->leftLabelText(),
-             QStringLiteral("Width [%1s]:").arg(QChar(0x3bc)));
+             OrvTest::translated("OrvGui::OrvCamConfigStrobeDialog", "Width [%1s]:").arg(QChar(0x3bc)));
     QSlider *const slider = delay->slider()->slider();
     camera.takeWrites();
     QTest::keyClick(slider, Qt::Key_Home);

@@ -106,7 +106,7 @@ void OrvCamConfigTriggerDialogTest::triggersBySoftware()
     QVERIFY(dialog.SetDevice(camera.device()));
     QVERIFY(show(dialog));
     auto *const button = part<QPushButton>(dialog, "pushBtnSoftwareTrigger");
-    QCOMPARE(button->text(), QStringLiteral("Software\nTrigger"));
+    QCOMPARE(button->text(), OrvTest::translated("OrvCamConfigTriggerDialog", "Software\nTrigger"));
     camera.takeWrites();
     QTest::mouseClick(button, Qt::LeftButton);
     QCOMPARE(camera.takeWrites(), 1);

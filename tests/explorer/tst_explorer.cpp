@@ -66,7 +66,8 @@ void ExplorerTest::printsWhatIsAskedFor()
     const Result help = explore({QStringLiteral("--help")});
     QCOMPARE(help.status, 0);
     QCOMPARE(help.err, QString());
-    for (const char *option : {"--xml <FILE>", "--camera <ID>", "--screenshot <DIR>", "--help", "--version"})
+    for (const char *option :
+         {"--xml <FILE>", "--camera <ID>", "--screenshot <DIR>", "--language <LANGUAGE>", "--help", "--version"})
         QVERIFY2(help.out.contains(QLatin1String(option)), option);
 
     const Result version = explore({QStringLiteral("--version")});
@@ -91,6 +92,7 @@ void ExplorerTest::rejectsInOneLine_data()
     row("unknown option", {QStringLiteral("--frobnicate")}, QStringLiteral("frobnicate"));
     row("option without value", {xml}, QStringLiteral("xml"));
     row("empty value", {QStringLiteral("--camera=")}, QStringLiteral("--camera"));
+    row("unknown language", {QStringLiteral("--language"), QStringLiteral("tlh")}, QStringLiteral("zh_CN"));
     row("stray argument", {QStringLiteral("camera.xml")}, QStringLiteral("camera.xml"));
     row("two sources", {xml, malformed, QStringLiteral("--camera"), QStringLiteral("X")}, QStringLiteral("--camera"));
     row("no display", {}, shot);

@@ -1,7 +1,11 @@
 #include "orvtest.h"
 
+#include "pseudolanguage.h"
+
 #include <QMutex>
 #include <QStringList>
+
+#include <optional>
 
 namespace OrvTest {
 
@@ -74,8 +78,16 @@ void TestCase::cleanup()
     QVERIFY2(missing.isEmpty(), qPrintable(QLatin1String("missing warning: ") + missing.join(QLatin1String(" | "))));
 }
 
+QString translated(const char *context, const char *text)
+{
+    return QCoreApplication::translate(context, text);
+}
+
 int runTests(QObject *test, int argc, char **argv)
 {
+    std::optional<PseudoLanguage> language;
+    if (qEnvironmentVariable("ORV_TEST_LANGUAGE") == QLatin1String("pseudo"))
+        QCoreApplication::installTranslator(&language.emplace(QStringLiteral(CATALOGUE)));
     const int failures = QTest::qExec(test, argc, argv);
     qInstallMessageHandler(nullptr);
     return failures;

@@ -24,7 +24,13 @@ protected Q_SLOTS:
     void cleanup();
 };
 
-/** Installs the warning watch around QTest::qExec(). */
+/**
+ * What the library says for \a text, in the language that the test runs in: the text itself but in a second run with
+ * the pseudo language (see orv_add_test()).
+ */
+QString translated(const char *context, const char *text);
+
+/** Installs the warning watch around QTest::qExec(), and the pseudo language when the environment asks for it. */
 int runTests(QObject *test, int argc, char **argv);
 
 } // namespace OrvTest

@@ -37,7 +37,7 @@ QString OrvCamConfigAboutDialog::captionOf(const QLabel *value) const
 void OrvCamConfigAboutDialog::adjustAbout(const CameraParams &params)
 {
     const auto show = [this](QLabel *label, const std::optional<QString> &text) {
-        label->setText(text.value_or(QStringLiteral("N/A")));
+        label->setText(text.value_or(tr("N/A")));
         label->setAccessibleName((captionOf(label) + QLatin1Char(' ') + label->text()).simplified());
     };
     const auto showNumber = [&](QLabel *label, OrvGenParam::Int *param) {

@@ -1,5 +1,6 @@
 #include <OrvCameraGuiApi/camconfig/orvcamconfigmapper.h>
 
+#include <OrvCameraGuiApi/camconfig/errortexts.h>
 #include <OrvCameraGuiApi/widgets/qtorvsliderspinbox.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinbox.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
@@ -589,7 +590,7 @@ void OrvCamConfigMapper::nameButton(QAbstractButton *button)
 {
     const QString group = button->group() ? button->group()->property(groupNameProperty).toString() : QString();
     if (!group.isEmpty())
-        button->setAccessibleName(tr("%1: %2").arg(group, button->text()));
+        button->setAccessibleName(OrvGui::OrvCamConfigMapper::tr("%1: %2").arg(group, button->text()));
 }
 
 void OrvCamConfigMapper::nameTabs(OrvGenParam::Enum *param, QTabWidget *tabWidget)

@@ -6,6 +6,9 @@
 #include <QBrush>
 #include <QHeaderView>
 #include <QStandardItemModel>
+#include <QStyle>
+
+#include <algorithm>
 
 #include <utility>
 
@@ -54,6 +57,19 @@ QString typeText(std::int32_t type)
     default:
         return InfoPane::tr("Custom");
     }
+}
+
+/** In pixels: of the longest text that the library itself shows as a value. */
+int widestOwnText(const QFontMetrics &metrics)
+{
+    int width = 0;
+    constexpr int unknown = 0;
+    for (const int status : {unknown, int(OrvCam::AccessStatusReadWrite), int(OrvCam::AccessStatusReadOnly),
+                             int(OrvCam::AccessStatusNoAccess), int(OrvCam::AccessStatusIpSubnetMismatch)})
+        width = std::max(width, metrics.horizontalAdvance(accessText(status)));
+    for (int type = unknown; type <= OrvCam::InterfaceTypeHdSdi; ++type)
+        width = std::max(width, metrics.horizontalAdvance(typeText(type)));
+    return width;
 }
 
 OrvGenParam::Array *parametersOf(OrvCam::Interface *transport)
@@ -123,6 +139,9 @@ InfoPane::InfoPane(QWidget *parent)
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setAlternatingRowColors(true);
+    // The values have half of it. What comes from a camera may be longer; its tool tip has it whole.
+    const int margins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1);
+    setMinimumWidth(2 * (widestOwnText(fontMetrics()) + margins + frameWidth()));
 }
 
 void InfoPane::showDevice(OrvCam::DeviceInfo &device, int row)

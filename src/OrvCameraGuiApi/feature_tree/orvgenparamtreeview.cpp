@@ -19,7 +19,9 @@
 #include <QSet>
 #include <QSplitter>
 #include <QTimer>
+#include <QToolButton>
 
+#include <algorithm>
 #include <limits>
 #include <utility>
 
@@ -47,6 +49,18 @@ QIcon iconOf(const QString &path)
     QIcon icon{QPixmap(path)};
     icon.addPixmap(QPixmap(QString(path).replace(QLatin1String(".png"), QLatin1String("@2x.png"))));
     return icon;
+}
+
+/** The buttons at the end of a field leave what it says when it is empty whole. */
+void ensureRoomForPlaceholder(QLineEdit &field)
+{
+    int end = field.width();
+    const auto buttons = field.findChildren<QToolButton *>();
+    for (const QToolButton *const button : buttons)
+        end = std::min(end, button->x());
+    const QFontMetrics metrics = field.fontMetrics();
+    const int text = metrics.horizontalAdvance(field.placeholderText()) + 2 * metrics.averageCharWidth();
+    field.setMinimumWidth(std::max(field.minimumWidth(), text + field.width() - end));
 }
 
 } // namespace
@@ -142,6 +156,7 @@ void OrvGenParamTreeViewPrivate::initFilter()
     filterOptionsAction->setText(OrvGenParamTreeView::tr("Filter options"));
     filterOptionsAction->setToolTip(OrvGenParamTreeView::tr("Filter options"));
     QObject::connect(filterOptionsAction, &QAction::triggered, q, [this] { filterOptions->popUp(*ui.filterLineEdit); });
+    ensureRoomForPlaceholder(*ui.filterLineEdit);
 
     QObject::connect(ui.filterLineEdit, &QLineEdit::textChanged, q, [this](const QString &text) {
         if (proxy)

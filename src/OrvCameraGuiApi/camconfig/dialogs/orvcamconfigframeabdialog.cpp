@@ -181,17 +181,15 @@ void OrvCamConfigFrameABDialogPrivate::build()
 
 void OrvCamConfigFrameABDialogPrivate::setCaptions()
 {
-    const auto tr = [](const char *text) { return OrvCamConfigFrameABDialog::tr(text); };
-    ui.spBoxDualLineTime->setLeftLabelText(tr("Dual Video\nLine Time [pclk]:"));
-    ui.spBoxLineTime->setLeftLabelText(tr("Line Time [pclk]:"));
-    ui.spBoxOffsetX->setLeftLabelText(tr("OffsetX:"));
-    ui.spBoxOffsetY->setLeftLabelText(tr("OffsetY:"));
-    ui.spBoxWidth->setLeftLabelText(tr("Width: ")); // intentionally with a blank at its end
-    ui.spBoxHeight->setLeftLabelText(tr("Height:"));
-    ui.gainDigital->setLeftLabelText(tr("Digital Gain:"));
-    ui.spBoxBlackLevel->setLeftLabelText(tr("Black Level:"));
-    const QString unit = tr("%1s").arg(QChar(0x03BC));
-    ui.spBoxExposureTime->setLeftLabelText(tr("Exposure Time ") + tr("[%1]:").arg(unit));
+    ui.spBoxDualLineTime->setLeftLabelText(OrvCamConfigFrameABDialog::tr("Dual Video\nLine Time [pclk]:"));
+    ui.spBoxLineTime->setLeftLabelText(OrvCamConfigFrameABDialog::tr("Line Time [pclk]:"));
+    ui.spBoxOffsetX->setLeftLabelText(OrvCamConfigFrameABDialog::tr("OffsetX:"));
+    ui.spBoxOffsetY->setLeftLabelText(OrvCamConfigFrameABDialog::tr("OffsetY:"));
+    ui.spBoxWidth->setLeftLabelText(OrvCamConfigFrameABDialog::tr("Width: ")); // intentionally with a blank at its end
+    ui.spBoxHeight->setLeftLabelText(OrvCamConfigFrameABDialog::tr("Height:"));
+    ui.gainDigital->setLeftLabelText(OrvCamConfigFrameABDialog::tr("Digital Gain:"));
+    ui.spBoxBlackLevel->setLeftLabelText(OrvCamConfigFrameABDialog::tr("Black Level:"));
+    ui.spBoxExposureTime->setLeftLabelText(OrvCamConfigFrameABDialog::tr("Exposure Time [%1s]:").arg(QChar(0x03BC)));
 }
 
 /** Nothing is left of the former camera that another one would take for its own. */
@@ -448,7 +446,7 @@ void OrvCamConfigFrameABDialogPrivate::showActualSize()
     const QString width = text(widthActualFeature);
     const QString height = text(heightActualFeature);
     const bool isKnown = !width.isEmpty() && !height.isEmpty();
-    ui.lblSizeActual->setText(isKnown ? OrvCamConfigFrameABDialog::tr("%1 × %2").arg(width, height) : QString());
+    ui.lblSizeActual->setText(isKnown ? QStringLiteral("%1 × %2").arg(width, height) : QString());
     ui.lblSizeActual->setEnabled(isKnown);
 }
 

@@ -47,7 +47,6 @@ public:
     OrvCamConfigPulseDialog *const q;
     Ui_OrvCamConfigPulseDialog ui;
     QButtonGroup modes;
-    QKeySequence enableShortcut; ///< which a new text takes from the button
     bool isBuilt = false;
     FeatureDialogCamera camera; ///< the last member: lets go before the others are gone
 };
@@ -86,7 +85,6 @@ void OrvCamConfigPulseDialogPrivate::build()
     const QFontMetrics metrics = ui.lineEditFreq->fontMetrics();
     ui.lineEditFreq->setMinimumWidth(metrics.horizontalAdvance(frequencyText(pulseClock))
                                      + 3 * metrics.averageCharWidth());
-    enableShortcut = ui.pushBtnPulseEnable->shortcut();
     setButtonState(false);
     isBuilt = true;
 }
@@ -128,7 +126,9 @@ void OrvCamConfigPulseDialogPrivate::updateDelayAndFrequency()
 void OrvCamConfigPulseDialogPrivate::setButtonState(bool on)
 {
     ui.pushBtnPulseEnable->setText(on ? OrvCamConfigPulseDialog::tr("Stop") : OrvCamConfigPulseDialog::tr("Start"));
-    ui.pushBtnPulseEnable->setShortcut(enableShortcut);
+    // Anew: with the former text went its keys. They are pressed twice, the same in every language.
+    constexpr int keys = Qt::CTRL + Qt::SHIFT + Qt::Key_S;
+    ui.pushBtnPulseEnable->setShortcut(QKeySequence(keys, keys));
     const QString ball = on ? QStringLiteral(":/icons/greenball.ico") : QStringLiteral(":/icons/redball.ico");
     ui.lblPulseEnable->setPixmap(sharpPixmap(ball, q));
     ui.lblPulseEnable->setAccessibleName(on ? OrvCamConfigPulseDialog::tr("Pulses are generated")

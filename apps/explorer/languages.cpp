@@ -1,0 +1,39 @@
+#include "languages.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+namespace {
+
+const QString libraryCatalogues = QStringLiteral(":/OrvCameraGuiApi/translations");
+
+void install(const QLocale &locale, const QString &catalogue, const QString &directory)
+{
+    auto *const translator = new QTranslator(QCoreApplication::instance());
+    if (translator->load(locale, catalogue, QStringLiteral("_"), directory))
+        QCoreApplication::installTranslator(translator);
+    else
+        delete translator;
+}
+
+} // namespace
+
+QStringList languages()
+{
+    QStringList names(QStringLiteral("en"));
+    const QStringList files = QDir(libraryCatalogues).entryList({QStringLiteral("*.qm")});
+    for (const QString &file : files)
+        names.append(file.section(QLatin1Char('_'), 1).section(QLatin1Char('.'), 0, 0));
+    names.sort();
+    return names;
+}
+
+void speak(const QString &language)
+{
+    const QLocale locale = language.isEmpty() ? QLocale::system() : QLocale(language);
+    install(locale, QStringLiteral("OrvCameraGuiApi"), libraryCatalogues);
+    install(locale, QStringLiteral("qtbase"), QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+#include <QVector>
+
+namespace OrvTest {
+
+/** An entry of a catalogue of translations. */
+struct CatalogueEntry
+{
+    QString context;
+    QString source;
+    QString translation;
+    QString state; ///< empty for one that is finished
+};
+
+/** What is in a .ts file; empty when it cannot be read. */
+QVector<CatalogueEntry> readCatalogue(const QString &path);
+
+} // namespace OrvTest
