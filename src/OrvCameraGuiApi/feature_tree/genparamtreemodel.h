@@ -20,6 +20,9 @@ Q_DECLARE_METATYPE(GenApi::IValue *)
  * parent() and the cell that is reported as changed are those of its first occurrence; this is intentional. Nothing but
  * names is kept: values are read when they are asked for, and only by the roles that need them.
  *
+ * There is an end to every tree: a category is a row without rows inside itself, below 1000 others, and where it is
+ * listed again when there are a million rows already.
+ *
  * What GenApi throws never leaves the model. A failed read of a value is recorded under the role that was read, a
  * failed write under ValueInterfaceRole, and announced once. Lives on one thread, the GUI's; nodes may change on any.
  */
