@@ -60,6 +60,7 @@ bool isUsable(OrvGenParam::Param *param)
 template <typename... Composites>
 void alignCaptions(Composites *...composites)
 {
+    (composites->leftLabel()->ensurePolished(), ...);
     const int width = std::max({composites->leftLabel()->sizeHint().width()...});
     (composites->leftLabel()->setMinimumWidth(width), ...);
 }
@@ -190,6 +191,10 @@ void OrvCamConfigFrameABDialogPrivate::setCaptions()
     ui.gainDigital->setLeftLabelText(OrvCamConfigFrameABDialog::tr("Digital Gain:"));
     ui.spBoxBlackLevel->setLeftLabelText(OrvCamConfigFrameABDialog::tr("Black Level:"));
     ui.spBoxExposureTime->setLeftLabelText(OrvCamConfigFrameABDialog::tr("Exposure Time [%1s]:").arg(QChar(0x03BC)));
+    alignCaptions(ui.spBoxExposureTime, ui.spBoxExposureLines, ui.spBoxExposureClocks, ui.spBoxLineTime);
+    alignCaptions(ui.gainDigital, ui.spBoxBlackLevel);
+    alignCaptions(ui.spBoxOffsetX, ui.spBoxWidth);
+    alignCaptions(ui.spBoxOffsetY, ui.spBoxHeight);
 }
 
 /** Nothing is left of the former camera that another one would take for its own. */
@@ -570,11 +575,6 @@ bool OrvCamConfigFrameABDialog::SetDevice(OrvCam::Device *device)
 
 void OrvCamConfigFrameABDialog::showEvent(QShowEvent *event)
 {
-    const auto &ui = d->ui;
-    alignCaptions(ui.spBoxExposureTime, ui.spBoxExposureLines, ui.spBoxLineTime);
-    alignCaptions(ui.gainDigital, ui.spBoxBlackLevel);
-    alignCaptions(ui.spBoxOffsetX, ui.spBoxWidth);
-    alignCaptions(ui.spBoxOffsetY, ui.spBoxHeight);
     const auto spinBoxes = findChildren<QtOrvSpinBox *>();
     for (QtOrvSpinBox *const spinBox : spinBoxes)
         OrvCamConfigMapper::resizeVerticalSlider(spinBox);
