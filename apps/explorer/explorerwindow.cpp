@@ -20,6 +20,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QSaveFile>
+#include <QScrollArea>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -106,11 +107,18 @@ void ExplorerWindow::createPages()
 {
     m_view->setWindowFlags(Qt::Widget);
     m_view->setObjectName(QStringLiteral("explorer"));
-    auto *const widgets = new WidgetsPage;
+    auto *const widgets = new QScrollArea; // for small screens
     widgets->setObjectName(QStringLiteral("widgets"));
+    widgets->setFrameShape(QFrame::NoFrame);
+    widgets->setWidgetResizable(true);
     m_pages->setDocumentMode(true);
     m_pages->addTab(m_view, tr("Features"));
     m_pages->addTab(widgets, tr("Widgets"));
+    // Made when it is first looked at, so that the window comes sooner.
+    connect(m_pages, &QTabWidget::currentChanged, widgets, [this, widgets] {
+        if (m_pages->currentWidget() == widgets && !widgets->widget())
+            widgets->setWidget(new WidgetsPage);
+    });
     setCentralWidget(m_pages);
 }
 
