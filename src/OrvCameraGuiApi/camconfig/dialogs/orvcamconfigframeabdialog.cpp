@@ -1,5 +1,6 @@
 #include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigframeabdialog.h>
 
+#include <OrvCameraGuiApi/camconfig/dialogs/dialogparts.h>
 #include <OrvCameraGuiApi/camconfig/dialogs/featuredialogcamera.h>
 #include <OrvCameraGuiApi/camconfig/dialogs/framearithmetic.h>
 #include <OrvCameraGuiApi/widgets/spinsliderlink.h>
@@ -190,7 +191,7 @@ void OrvCamConfigFrameABDialogPrivate::setCaptions()
     ui.spBoxHeight->setLeftLabelText(OrvCamConfigFrameABDialog::tr("Height:"));
     ui.gainDigital->setLeftLabelText(OrvCamConfigFrameABDialog::tr("Digital Gain:"));
     ui.spBoxBlackLevel->setLeftLabelText(OrvCamConfigFrameABDialog::tr("Black Level:"));
-    ui.spBoxExposureTime->setLeftLabelText(OrvCamConfigFrameABDialog::tr("Exposure Time [%1s]:").arg(QChar(0x03BC)));
+    ui.spBoxExposureTime->setLeftLabelText(OrvCamConfigFrameABDialog::tr("Exposure Time [%1s]:").arg(microSign));
     alignCaptions(ui.spBoxExposureTime, ui.spBoxExposureLines, ui.spBoxExposureClocks, ui.spBoxLineTime);
     alignCaptions(ui.gainDigital, ui.spBoxBlackLevel);
     alignCaptions(ui.spBoxOffsetX, ui.spBoxWidth);
@@ -370,13 +371,9 @@ void OrvCamConfigFrameABDialogPrivate::onFrameModeChanged(const QString &mode)
         return;
     enablePages();
     // The mapper has written what the user chose. What another window chose was but shown, yet what is edited from now
-    // on has to be the frame that is shown.
-    if (page >= 0 && camera.mapper.isRefreshing()) {
-        QTimer::singleShot(0, q, [this, isSame] {
-            if (isSame())
-                selectShownFrame();
-        });
-    }
+    // on has to be the frame that is shown; unless the camera is let go before.
+    if (page >= 0 && camera.mapper.isRefreshing())
+        QTimer::singleShot(0, camera.context(), [this] { selectShownFrame(); });
 }
 
 /** A feature has one control. The line time has two places: one for both frames, one in the settings of a single one.
