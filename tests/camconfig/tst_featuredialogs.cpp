@@ -262,7 +262,6 @@ private Q_SLOTS:
     void colorErrorOutlivesTheDialog();
     void outputThresholdsAndFormats();
     void outputHidesTheCameraLinkGroup();
-    void pulseDelayAndFrequency_data();
     void pulseDelayAndFrequency();
     void pulseStartsAndStops();
     void pulseSlidersLieAcross();
@@ -559,27 +558,8 @@ void FeatureDialogsTest::outputHidesTheCameraLinkGroup()
     QVERIFY(!part<QGroupBox>(dialog, "groupBox")->isVisible());
 }
 
-void FeatureDialogsTest::pulseDelayAndFrequency_data()
-{
-    QTest::addColumn<QByteArray>("period");
-    QTest::addColumn<QByteArray>("width");
-    QTest::addColumn<QString>("delay");
-    QTest::addColumn<QString>("frequency");
-    const auto row = [](const char *period, const char *width, const char *delay, const char *frequency) {
-        QTest::newRow(period) << QByteArray(period) << QByteArray(width) << QString::fromLatin1(delay)
-                              << QString::fromLatin1(frequency);
-    };
-    row("3", "1000000", "-999997", "333333.333333");
-    row("1000000", "1", "999999", "1.000000");
-    row("0", "5", "-5", "0.000000");
-    row("2147483647", "-2147483648", "2147483647", "0.000466");
-    row("-2147483648", "2147483647", "-2147483648", "-0.000466");
-}
-
 void FeatureDialogsTest::pulseDelayAndFrequency()
 {
-    QFETCH(QByteArray, period);
-    QFETCH(QByteArray, width);
     const auto ranged = [](const char *feature, const char *range) {
         return QByteArray("<pValue>PulseGen") + feature + "Reg</pValue>" + range;
     };
@@ -601,10 +581,18 @@ void FeatureDialogsTest::pulseDelayAndFrequency()
     const auto *const frequency = part<QLineEdit>(dialog, "lineEditFreq");
     QVERIFY(delay->isReadOnly() && frequency->isReadOnly());
     QCOMPARE(delay->text(), QStringLiteral("700"));
-    enterInto(part<QWidget>(dialog, "spBoxPeriod"), period);
-    QVERIFY(camera.set("PulseGenWidth", width));
-    QTEST(delay->text(), "delay");
-    QTEST(frequency->text(), "frequency");
+    const std::tuple<const char *, const char *, const char *, const char *> rows[] = {
+        {"3", "1000000", "-999997", "333333.333333"},
+        {"1000000", "1", "999999", "1.000000"},
+        {"0", "5", "-5", "0.000000"},
+        {"2147483647", "-2147483648", "2147483647", "0.000466"},
+        {"-2147483648", "2147483647", "-2147483648", "-0.000466"}};
+    for (const auto &[period, width, shownDelay, shownFrequency] : rows) {
+        enterInto(part<QWidget>(dialog, "spBoxPeriod"), period);
+        QVERIFY(camera.set("PulseGenWidth", width));
+        QCOMPARE(delay->text(), QLatin1String(shownDelay));
+        QCOMPARE(frequency->text(), QLatin1String(shownFrequency));
+    }
 }
 
 void FeatureDialogsTest::pulseStartsAndStops()

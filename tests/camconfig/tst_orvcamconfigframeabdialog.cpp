@@ -35,7 +35,6 @@ private Q_SLOTS:
     void exposureTimeIsSplitAndPutTogether();
     void exposureTimeShowsWhatTheCameraTakes();
     void exposureTimeNeedsLinesAndClocks();
-    void exposureTimeOfOddClocks_data();
     void exposureTimeOfOddClocks();
     void exposureTimesBeyond32Bits();
     void fixedPeriodFollowsTheClock();
@@ -100,7 +99,7 @@ void OrvCamConfigFrameABDialogTest::exposureTimeShowsWhatTheCameraTakes()
     OrvCamConfigFrameABDialog dialog(camera.device());
     QVERIFY(show(dialog));
     auto *const time = part<QtOrvSliderSpinBox>(dialog, "spBoxExposureTime");
-    for (int i = 0; i < 2; ++i) {
+    for (int i = 0; i < 2; ++i) { // each time
         enter(time->spinBox(), "20000");
         QCOMPARE(camera.value("Frame_ExposureLines"), QStringLiteral("1999"));
         QCOMPARE(camera.value("Frame_ExposureClocks"), QStringLiteral("0"));
@@ -125,40 +124,36 @@ void OrvCamConfigFrameABDialogTest::exposureTimeNeedsLinesAndClocks()
     }
 }
 
-void OrvCamConfigFrameABDialogTest::exposureTimeOfOddClocks_data()
-{
-    QTest::addColumn<QByteArray>("node");
-    QTest::addColumn<QByteArray>("value"); // none: reading fails
-    QTest::addColumn<QString>("shown");
-    QTest::addColumn<int>("writes"); // when 100 is entered
-    QTest::newRow("half the clock") << QByteArray("PixelClockReg") << QByteArray("80") << "210" << 2;
-    QTest::newRow("no clock") << QByteArray("PixelClockReg") << QByteArray("0") << "0" << 0;
-    QTest::newRow("a clock that cannot be read") << QByteArray("PixelClockReg") << QByteArray() << "105" << 1;
-    QTest::newRow("no line time") << QByteArray("Frame_LineTimeReg") << QByteArray("0") << "5" << 0;
-}
-
 void OrvCamConfigFrameABDialogTest::exposureTimeOfOddClocks()
 {
-    QFETCH(QByteArray, node);
-    QFETCH(QByteArray, value);
-    QFETCH(QString, shown);
-    QFETCH(int, writes);
-    const char *const id =
-        plugInChangedCamera({},
-                            {{"<pMax>Frame_ExposureClocksMax</pMax>", "<Max>99999</Max>"},
-                             {"<pValue>PixelClockReg</pValue><Min>1</Min>", "<pValue>PixelClockReg</pValue>"}});
-    const Camera camera(id);
-    QVERIFY(camera.set("Frame_FixedFramePeriodEnable", "false"));
-    if (value.isNull())
-        QVERIFY(OrvSim::setFault(id, node.toStdString(), OrvSim::Fault::FailRead));
-    else
-        QVERIFY(OrvSim::setRegister(id, node.toStdString(), value.toStdString()));
-    OrvCamConfigFrameABDialog dialog(camera.device());
-    QVERIFY(show(dialog));
-    QCOMPARE(shownTime(dialog), shown);
-    camera.takeWrites();
-    enterInto(part<QWidget>(dialog, "spBoxExposureTime"), "100");
-    QCOMPARE(camera.takeWrites(), writes);
+    struct Row
+    {
+        const char *node;
+        const char *value; // null: reading fails
+        const char *shown;
+        int writes; // when 100 is entered
+    };
+    const Row rows[] = {{"PixelClockReg", "80", "210", 2},
+                        {"PixelClockReg", "0", "0", 0},
+                        {"PixelClockReg", nullptr, "105", 1},
+                        {"Frame_LineTimeReg", "0", "5", 0}};
+    for (const Row &row : rows) {
+        OrvSim::reset();
+        const char *const id =
+            plugInChangedCamera({},
+                                {{"<pMax>Frame_ExposureClocksMax</pMax>", "<Max>99999</Max>"},
+                                 {"<pValue>PixelClockReg</pValue><Min>1</Min>", "<pValue>PixelClockReg</pValue>"}});
+        const Camera camera(id);
+        QVERIFY(camera.set("Frame_FixedFramePeriodEnable", "false"));
+        QVERIFY(row.value ? OrvSim::setRegister(id, row.node, row.value)
+                          : OrvSim::setFault(id, row.node, OrvSim::Fault::FailRead));
+        OrvCamConfigFrameABDialog dialog(camera.device());
+        QVERIFY(show(dialog));
+        QCOMPARE(shownTime(dialog), QLatin1String(row.shown));
+        camera.takeWrites();
+        enterInto(part<QWidget>(dialog, "spBoxExposureTime"), "100");
+        QCOMPARE(camera.takeWrites(), row.writes);
+    }
 }
 
 void OrvCamConfigFrameABDialogTest::exposureTimesBeyond32Bits()

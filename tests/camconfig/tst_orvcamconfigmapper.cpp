@@ -135,7 +135,6 @@ private Q_SLOTS:
     void nothingIsWrittenWhileAControlIsDetached();
     void nullBindsNothing();
     void controlsFollowTheirParameter();
-    void showsIntegers_data();
     void showsIntegers();
     void refreshesKindsThatOthersBind();
     void comboBoxPassesOverNullEntries();
@@ -321,56 +320,50 @@ void OrvCamConfigMapperTest::controlsFollowTheirParameter()
     QCOMPARE(panel.combo.count(), 3);
 }
 
-void OrvCamConfigMapperTest::showsIntegers_data()
-{
-    using Number = std::int64_t;
-    QTest::addColumn<QVector<Number>>("device"); // minimum, maximum, increment, value
-    QTest::addColumn<bool>("converts");
-    QTest::addColumn<QVector<int>>("shown");
-    const auto row = [](const char *name, const QVector<Number> &device, bool converts, const QVector<int> &shown) {
-        QTest::newRow(name) << device << converts << shown;
-    };
-    row("plain", {-5, 40, 5, 35}, false, {-5, 40, 5, 35});
-    row("between the steps", {1, 40, 10, 17}, false, {1, 40, 10, 17});
-    row("beyond an int", {0, 5000000000, 1, 4000000000}, false, {0, intMax, 1, intMax});
-    row("negative increment", {0, 10, -4, 3}, false, {0, 10, 1, 3});
-    row("all of 64 bits", {int64Min, int64Max, int64Max, int64Min}, false, {intMin, intMax, intMax, intMin});
-    row("converted", {1, 40, 2, 9}, true, {10, 400, 20, 90});
-    row("converted beyond an int", {0, 900000000, 0, 800000000}, true, {0, intMax, 1, intMax});
-}
-
 void OrvCamConfigMapperTest::showsIntegers()
 {
-    QFETCH(QVector<std::int64_t>, device);
-    QFETCH(bool, converts);
-    QFETCH(QVector<int>, shown);
-    FakeParams::Int param;
-    param.min = device[0];
-    param.max = device[1];
-    param.increment = device[2];
-    param.value = device[3];
-    TenTimes converter;
-    OrvCamConfigMapper mapper;
-    const auto check = [&](const auto &control) {
-        const QVector<int> now{control.minimum(), control.maximum(), control.singleStep(), control.value()};
-        QCOMPARE(now, shown);
+    struct Row
+    {
+        QVector<std::int64_t> device; // minimum, maximum, increment, value
+        QVector<int> shown;
+        bool converts = false;
     };
-    QtOrvSliderSpinBox sliderSpin;
-    mapper.mapIntParam(&param, &sliderSpin, converts ? &converter : nullptr);
-    check(sliderSpin);
-    QSlider slider;
-    mapper.updateSlider(&param, &slider, converts ? &converter : nullptr);
-    check(slider);
-    if (converts)
-        return;
-    QtOrvSpinBox spin;
-    mapper.mapIntParam(&param, &spin);
-    check(spin);
-    QSpinBox plain;
-    mapper.updateSpinBox(&param, &plain);
-    check(plain);
-    QCOMPARE(param.writes, Writes());
-    mapper.unmapAll();
+    const Row rows[] = {{{1, 40, 10, 17}, {1, 40, 10, 17}}, // between the steps
+                        {{0, 5000000000, 1, 4000000000}, {0, intMax, 1, intMax}},
+                        {{0, 10, -4, 3}, {0, 10, 1, 3}},
+                        {{int64Min, int64Max, int64Max, int64Min}, {intMin, intMax, intMax, intMin}},
+                        {{1, 40, 2, 9}, {10, 400, 20, 90}, true},
+                        {{0, 900000000, 0, 800000000}, {0, intMax, 1, intMax}, true}};
+    for (const Row &row : rows) {
+        FakeParams::Int param;
+        param.min = row.device[0];
+        param.max = row.device[1];
+        param.increment = row.device[2];
+        param.value = row.device[3];
+        TenTimes tenTimes;
+        TenTimes *const converter = row.converts ? &tenTimes : nullptr;
+        OrvCamConfigMapper mapper;
+        const auto check = [&](const auto &control) {
+            const QVector<int> now{control.minimum(), control.maximum(), control.singleStep(), control.value()};
+            QCOMPARE(now, row.shown);
+        };
+        QtOrvSliderSpinBox sliderSpin;
+        QtOrvSpinBox spin;
+        QSlider slider;
+        QSpinBox plain;
+        mapper.mapIntParam(&param, &sliderSpin, converter);
+        check(sliderSpin);
+        mapper.updateSlider(&param, &slider, converter);
+        check(slider);
+        if (!converter) {
+            mapper.mapIntParam(&param, &spin);
+            check(spin);
+            mapper.updateSpinBox(&param, &plain);
+            check(plain);
+        }
+        QCOMPARE(param.writes, Writes());
+        mapper.unmapAll();
+    }
 }
 
 void OrvCamConfigMapperTest::refreshesKindsThatOthersBind()
