@@ -143,6 +143,7 @@ private Q_SLOTS:
             window.composite.slider()->setTracking(false);
             window.press();
             window.drag(-40);
+            QCOMPARE(int(window.composite.spinBox()->value()), reached); // which follows no drag any more
             window.release();
             QVERIFY(window.inner()->value() < reached);
             QCOMPARE(window.takeEmitted(), window.announced(window.inner()->value()));
