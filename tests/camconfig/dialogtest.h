@@ -3,17 +3,14 @@
 #include "orvtest.h"
 #include "simtest.h"
 
-#include <OrvCameraGuiApi/widgets/qtorvsliderspinbox.h>
-#include <OrvCameraGuiApi/widgets/qtorvspinbox.h>
-#include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
-#include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
-
 #include <QAbstractButton>
 #include <QApplication>
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QMessageBox>
 #include <QPointer>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QtTest>
 
 #include <cstdint>
@@ -135,22 +132,11 @@ inline bool show(QWidget &window)
     return QTest::qWaitForWindowActive(&window);
 }
 
-/** Chooses the item with that text by keys, as a user does; false when it cannot be reached. */
-inline bool choose(QComboBox *box, const char *text)
+/** The control of that name; of a group of radio buttons the first. */
+inline QWidget *control(const QWidget &window, const char *name)
 {
-    const QString wanted = QLatin1String(text);
-    QTest::keyClick(box, Qt::Key_Home);
-    for (int i = 0; box->currentText() != wanted && i < box->count(); ++i)
-        QTest::keyClick(box, Qt::Key_Down);
-    return box->currentText() == wanted;
-}
-
-/** The same by one key: the item's initial. One user action. */
-inline bool chooseByInitial(QComboBox *box, const char *text)
-{
-    box->setFocus();
-    QTest::keyClick(box, *text);
-    return box->currentText() == QLatin1String(text);
+    auto *const group = window.findChild<QButtonGroup *>(QLatin1String(name));
+    return group ? group->buttons().first() : part<QWidget>(window, name);
 }
 
 /** Types a number over what \a field shows, without committing it. */
@@ -179,36 +165,42 @@ inline QString shownBy(const QWidget *control)
 {
     if (auto *const box = qobject_cast<const QComboBox *>(control))
         return box->currentText();
-    if (auto *const spinBox = qobject_cast<const QtOrvSpinBox *>(control))
-        return QString::number(spinBox->value());
-    if (auto *const spinBox = qobject_cast<const QtOrvSliderSpinBox *>(control))
-        return QString::number(spinBox->value());
+    if (auto *const tabs = qobject_cast<const QTabWidget *>(control))
+        return tabs->tabText(tabs->currentIndex());
     auto *const button = qobject_cast<const QAbstractButton *>(control);
-    if (button && button->group())
-        return button->group()->checkedButton() ? button->group()->checkedButton()->text() : QString();
-    return QVariant(button && button->isChecked()).toString();
+    if (!button)
+        return control->property("value").toString();
+    if (!button->group())
+        return QVariant(button->isChecked()).toString();
+    return button->group()->checkedButton() ? button->group()->checkedButton()->text() : QString();
 }
 
-/** Lets the user set a control, a list by its keys; a hidden one takes keys all the same. */
+/** Lets the user set a control, a list by its keys, by one to its ends; a hidden one takes keys all the same. */
 inline void enterInto(QWidget *control, const char *value)
 {
+    const QString text = QLatin1String(value);
     auto *const button = qobject_cast<QAbstractButton *>(control);
     if (auto *const box = qobject_cast<QComboBox *>(control)) {
-        const int target = box->findText(QLatin1String(value));
+        const int target = box->findText(text);
+        if (target == 0 || target == box->count() - 1)
+            return QTest::keyClick(box, target == 0 ? Qt::Key_Home : Qt::Key_End);
         for (int i = box->currentIndex(); target >= 0 && i != target; i += target > i ? 1 : -1)
             QTest::keyClick(box, target > i ? Qt::Key_Down : Qt::Key_Up);
-    } else if (auto *const spinBox = qobject_cast<QtOrvSpinBox *>(control)) {
-        enter(spinBox->spinBox(), value);
-    } else if (auto *const sliderSpinBox = qobject_cast<QtOrvSliderSpinBox *>(control)) {
-        enter(sliderSpinBox->spinBox(), value);
+    } else if (auto *const tabs = qobject_cast<QTabWidget *>(control)) {
+        for (int i = 0; i < tabs->count(); ++i) {
+            if (tabs->tabText(i) == text)
+                QTest::mouseClick(tabs->tabBar(), Qt::LeftButton, {}, tabs->tabBar()->tabRect(i).center());
+        }
     } else if (button && button->group()) {
         const auto buttons = button->group()->buttons();
         for (QAbstractButton *const other : buttons) {
-            if (other->text() == QLatin1String(value))
+            if (other->text() == text)
                 clickMark(other);
         }
+    } else if (button) {
+        QTest::keyClick(button, Qt::Key_Space);
     } else {
-        QTest::keyClick(control, Qt::Key_Space);
+        enter(part<QWidget>(*control, "spinbox"), value);
     }
 }
 

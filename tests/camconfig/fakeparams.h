@@ -46,6 +46,7 @@ public:
     OrvCamErr answer = OrvCamErr_Ok; ///< of the next writes
     std::function<void()> whileWriting;
     std::set<OrvGenParam::ParamEventSink *> sinks;
+    std::vector<std::int64_t> writes;
 
 protected:
     ~Fake() = default;
@@ -54,6 +55,7 @@ protected:
     template <typename Value>
     OrvCamErr take(Value &place, Value value)
     {
+        writes.push_back(std::int64_t(value));
         if (whileWriting)
             whileWriting();
         if (answer == OrvCamErr_Ok) {
@@ -68,11 +70,7 @@ class Int : public OrvGenParam::Int, public Fake
 {
 public:
     std::int32_t GetType() override { return OrvGenParam::ParamTypeInt; }
-    OrvCamErr SetValue(std::int64_t number) override
-    {
-        writes.push_back(number);
-        return take(value, number);
-    }
+    OrvCamErr SetValue(std::int64_t number) override { return take(value, number); }
     std::int64_t GetValue(OrvCamErr *) override { return value; }
     std::int64_t GetMin(OrvCamErr *) override { return min; }
     std::int64_t GetMax(OrvCamErr *) override { return max; }
@@ -82,21 +80,15 @@ public:
     std::int64_t min = 0;
     std::int64_t max = 100;
     std::int64_t increment = 1;
-    std::vector<std::int64_t> writes;
 };
 
 class Boolean : public OrvGenParam::Boolean, public Fake
 {
 public:
-    OrvCamErr SetValue(bool truth) override
-    {
-        writes.push_back(truth);
-        return take(value, truth);
-    }
+    OrvCamErr SetValue(bool truth) override { return take(value, truth); }
     bool GetValue(OrvCamErr *) override { return value; }
 
     bool value = false;
-    std::vector<std::int64_t> writes;
 };
 
 class Command : public OrvGenParam::Command, public Fake
@@ -105,11 +97,8 @@ public:
     OrvCamErr Execute() override
     {
         int done = 0;
-        writes.push_back(1);
         return take(done, 1);
     }
-
-    std::vector<std::int64_t> writes;
 };
 
 class Entry : public OrvGenParam::EnumEntry, public Fake
@@ -153,11 +142,7 @@ public:
         }
         return nullptr;
     }
-    OrvCamErr SetValue(std::int64_t number) override
-    {
-        writes.push_back(number);
-        return take(value, number);
-    }
+    OrvCamErr SetValue(std::int64_t number) override { return take(value, number); }
     OrvCamErr SetValueStr(const char *symbolic) override
     {
         for (const auto &entry : entries) {
@@ -170,7 +155,6 @@ public:
 
     std::vector<std::unique_ptr<Entry>> entries;
     std::int64_t value = 0;
-    std::vector<std::int64_t> writes;
 };
 
 } // namespace FakeParams

@@ -20,27 +20,20 @@ private Q_SLOTS:
     void initTestCase();
     void init();
     void namesItsParts();
-    void countsFrames_data();
     void countsFrames();
-    void followsTheFrameMode_data();
     void followsTheFrameMode();
     void followsTheSelector();
-    void readsBothFramesOnce_data();
     void readsBothFramesOnce();
-    void leavesTheOtherFrameOutThatCannotBeSelected();
     void survivesWhoeverHearsOfTheSelector();
     void hasOneColumnForOneFrame();
     void leavesOutWhatCannotBeRead();
-    void takesTheTemperatureWhenShown();
     void tellsOfTheCamera();
-    void opensAndClosesDialogs_data();
     void opensAndClosesDialogs();
     void losesAndFindsTheCamera();
     void hearsOfEventsFromOtherThreads();
     void keepsTheLastEvent();
     void leavesTheCallersDeviceAlone();
     void asksForACamera();
-    void staysWithoutACamera_data();
     void staysWithoutACamera();
     void connectsToAnotherCamera();
     void survivesWhatHappensWhileItAsks();
@@ -131,47 +124,38 @@ void OrvCamConfigTest::namesItsParts()
     }
 }
 
-void OrvCamConfigTest::countsFrames_data()
-{
-    QTest::addColumn<qint64>("frameTime");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("usual") << qint64(20000) << QStringLiteral("50.00");
-    QTest::newRow("rounded") << qint64(3) << QStringLiteral("333333.33");
-    QTest::newRow("none") << qint64(0) << QStringLiteral("0.00");
-    QTest::newRow("slow") << std::numeric_limits<qint64>::max() << QStringLiteral("0.00");
-    QTest::newRow("nonsense") << qint64(-500000) << QStringLiteral("-2.00");
-}
-
 void OrvCamConfigTest::countsFrames()
 {
-    QFETCH(qint64, frameTime);
-    QTEST(OrvGui::framesPerSecond(frameTime), "text");
-}
-
-void OrvCamConfigTest::followsTheFrameMode_data()
-{
-    QTest::addColumn<QByteArray>("mode");
-    QTest::addColumn<QByteArray>("selected");
-    QTest::addColumn<QString>("columnA");
-    QTest::addColumn<QString>("columnB");
-    QTest::newRow("A") << QByteArray("FrameA") << QByteArray("FrameA") << frameA << noInfo;
-    QTest::newRow("B") << QByteArray("FrameB") << QByteArray("FrameB") << noInfo << frameB;
-    QTest::newRow("both") << QByteArray("FrameAB") << QByteArray("FrameA") << frameA << frameB;
+    const std::pair<std::int64_t, const char *> rows[] = {{20000, "50.00"},
+                                                          {3, "333333.33"},
+                                                          {0, "0.00"},
+                                                          {std::numeric_limits<std::int64_t>::max(), "0.00"},
+                                                          {-500000, "-2.00"}};
+    for (const auto &[frameTime, text] : rows)
+        QCOMPARE(OrvGui::framesPerSecond(frameTime), QLatin1String(text));
 }
 
 void OrvCamConfigTest::followsTheFrameMode()
 {
-    QFETCH(QByteArray, mode);
-    QFETCH(QByteArray, selected);
+    const std::tuple<const char *, const char *, QString, QString> rows[] = {{"FrameA", "FrameA", frameA, noInfo},
+                                                                             {"FrameB", "FrameB", noInfo, frameB},
+                                                                             {"FrameAB", "FrameA", frameA, frameB}};
     const Camera camera;
-    QVERIFY(camera.set("FrameMode", mode));
-    QVERIFY(camera.set("FrameAB_Selector", selected));
-    OrvCamConfig window(camera.device());
-    window.show();
-    waitForAStep();
-    QTEST(column(window, "A"), "columnA");
-    QTEST(column(window, "B"), "columnB");
-    QVERIFY(part<QWidget>(window, "pushBtnFrameAB")->isVisible());
+    for (const auto &[mode, selected, columnA, columnB] : rows) {
+        QVERIFY(camera.set("FrameMode", mode));
+        QVERIFY(camera.set("FrameAB_Selector", selected));
+        OrvCamConfig window(camera.device());
+        window.show();
+        QVERIFY(temperature(window).toInt() >= 41); // taken when shown
+        waitForAStep();
+        QCOMPARE(column(window, "A"), columnA);
+        QCOMPARE(column(window, "B"), columnB);
+    }
+    QVERIFY(camera.refuse("FrameAB_Selector"));
+    const OrvCamConfig window(camera.device());
+    QTRY_COMPARE(column(window, "A"), frameA);
+    QCOMPARE(column(window, "B"), noInfo); // the other frame, which cannot be selected
+    QVERIFY(!DialogTest::shownMessage());
 }
 
 /** The frame that the selector shows is the one that is kept up to date, and nothing is written for it. */
@@ -190,40 +174,22 @@ void OrvCamConfigTest::followsTheSelector()
     QCOMPARE(camera.takeWrites(), 3);
 }
 
-void OrvCamConfigTest::readsBothFramesOnce_data()
-{
-    QTest::addColumn<QByteArray>("selected");
-    QTest::newRow("frame A selected") << QByteArray("FrameA");
-    QTest::newRow("frame B selected") << QByteArray("FrameB");
-}
-
 void OrvCamConfigTest::readsBothFramesOnce()
 {
-    QFETCH(QByteArray, selected);
     const Camera camera;
     const OrvCamConfig window(camera.device());
-    for (int i = 0; i < 2; ++i) {
+    for (const char *const selected : {"FrameA", "FrameB", "FrameA", "FrameB"}) {
         QVERIFY(camera.set("FrameMode", selected)); // selects that frame
-        QTRY_COMPARE(camera.value("FrameAB_Selector"), QString::fromLatin1(selected));
+        QTRY_COMPARE(camera.value("FrameAB_Selector"), QLatin1String(selected));
         waitForAStep();
         camera.takeWrites();
         QVERIFY(camera.set("FrameMode", "FrameAB"));
         waitForAStep();
         QCOMPARE(column(window, "A"), frameA);
         QCOMPARE(column(window, "B"), frameB);
-        QCOMPARE(camera.value("FrameAB_Selector"), QString::fromLatin1(selected));
+        QCOMPARE(camera.value("FrameAB_Selector"), QLatin1String(selected));
         QCOMPARE(camera.takeWrites(), 3); // the mode, and the selector to and fro
     }
-}
-
-void OrvCamConfigTest::leavesTheOtherFrameOutThatCannotBeSelected()
-{
-    const Camera camera;
-    QVERIFY(camera.refuse("FrameAB_Selector"));
-    const OrvCamConfig window(camera.device());
-    QTRY_COMPARE(column(window, "A"), frameA);
-    QCOMPARE(column(window, "B"), noInfo);
-    QVERIFY(!DialogTest::shownMessage());
 }
 
 void OrvCamConfigTest::survivesWhoeverHearsOfTheSelector()
@@ -298,15 +264,6 @@ void OrvCamConfigTest::leavesOutWhatCannotBeRead()
     QCOMPARE(statusText(empty), unknown());
 }
 
-void OrvCamConfigTest::takesTheTemperatureWhenShown()
-{
-    const Camera camera;
-    OrvCamConfig window(camera.device());
-    QCOMPARE(temperature(window), QString());
-    window.show();
-    QVERIFY(temperature(window).toInt() >= 41);
-}
-
 void OrvCamConfigTest::tellsOfTheCamera()
 {
     const Camera camera(DialogTest::plugInChangedCamera({"EpcsID", "DeviceUserID"}));
@@ -337,21 +294,12 @@ void OrvCamConfigTest::tellsOfTheCamera()
     QVERIFY(!about->isVisible());
 }
 
-void OrvCamConfigTest::opensAndClosesDialogs_data()
-{
-    QTest::addColumn<int>("index");
-    for (int i = 0; i < int(std::size(dialogs)); ++i)
-        QTest::newRow(dialogs[i].dialog) << i;
-}
-
 void OrvCamConfigTest::opensAndClosesDialogs()
 {
-    QFETCH(int, index);
-    const Parts parts = dialogs[index];
     const Camera camera;
     OrvCamConfig window(camera.device());
-    window.show();
-    QDialog *const dialog = dialogOf(window, parts);
+    Parts parts = {};
+    QDialog *dialog = nullptr;
     const auto click = [&] { QTest::mouseClick(part<QWidget>(window, parts.button), Qt::LeftButton); };
     const auto choose = [&] { trigger(window, parts.action); };
     const std::function<void()> openers[] = {click, choose, [&] { dialog->show(); }};
@@ -363,14 +311,18 @@ void OrvCamConfigTest::opensAndClosesDialogs()
                                              [&] { dialog->done(QDialog::Accepted); },
                                              [&] { window.close(); },
                                              [&] { trigger(window, "actionQuit"); }};
-    for (const auto &open : openers) {
-        for (const auto &close : closers) {
-            window.show();
-            open();
-            QCOMPARE(openParts(window, parts), QStringLiteral("dba"));
-            QVERIFY(isUsable(window, parts));
-            close();
-            QCOMPARE(openParts(window, parts), QString());
+    for (const Parts &each : dialogs) {
+        parts = each;
+        dialog = dialogOf(window, parts);
+        for (const auto &open : openers) {
+            for (const auto &close : closers) {
+                window.show();
+                open();
+                QCOMPARE(openParts(window, parts), QStringLiteral("dba"));
+                QVERIFY(isUsable(window, parts));
+                close();
+                QCOMPARE(openParts(window, parts), QString());
+            }
         }
     }
 }
@@ -413,30 +365,25 @@ void OrvCamConfigTest::hearsOfEventsFromOtherThreads()
     auto window = std::make_unique<OrvCamConfig>(camera.device());
     window->show();
     std::atomic<bool> isOver{false};
-    std::thread cables([&] {
+    const auto plugAgainAndAgain = [&] {
         for (int i = 0; i < 200; ++i) {
             OrvSim::unplug(twoFrame);
             OrvSim::replug(twoFrame);
         }
         OrvSim::waitForEvents();
         isOver = true;
-    });
+    };
+    std::thread cables(plugAgainAndAgain);
     QTRY_VERIFY_WITH_TIMEOUT(isOver, 30000);
     cables.join();
     QTRY_COMPARE(column(*window, "B"), frameB);
 
     // While the window goes.
-    std::thread others([&] {
-        for (int i = 0; i < 200; ++i) {
-            OrvSim::unplug(twoFrame);
-            OrvSim::replug(twoFrame);
-        }
-    });
+    cables = std::thread(plugAgainAndAgain);
     for (int i = 0; i < 10; ++i)
         window = std::make_unique<OrvCamConfig>(camera.device());
     window.reset();
-    others.join();
-    OrvSim::waitForEvents();
+    cables.join();
     QCOMPARE(OrvSim::liveObjects().eventCallbacks, std::size_t(0));
     QCOMPARE(OrvSim::liveObjects().sinks, std::size_t(0));
 }
@@ -521,35 +468,26 @@ void OrvCamConfigTest::asksForACamera()
     QVERIFY(isNothingHeld());
 }
 
-void OrvCamConfigTest::staysWithoutACamera_data()
-{
-    QTest::addColumn<int>("reason");
-    QTest::newRow("no camera system") << 0;
-    QTest::newRow("cancelled") << 1;
-    QTest::newRow("cannot be opened") << 2;
-}
-
 void OrvCamConfigTest::staysWithoutACamera()
 {
-    QFETCH(int, reason);
-    if (reason == 0)
-        OrvSim::setSystemAvailable(false);
-    else if (reason == 1)
-        cancelWhenAsked();
-    else
-        chooseWhenAsked(twoFrame);
-    OrvSim::refuseToOpen(twoFrame, OrvCamErr_NoDevice);
-    OrvCamConfig window(nullptr);
-    window.show();
-    waitForAStep();
-    QVERIFY(window.isEnabled());
-    QCOMPARE(statusText(window), disconnected());
-    QCOMPARE(column(window, "A") + temperature(window), noInfo);
-    for (const Parts &parts : dialogs)
-        trigger(window, parts.action);
-    trigger(window, "actionAbout");
-    trigger(window, "actionDisconnect");
-    QVERIFY(isNothingHeld());
+    const std::function<void()> reasons[] = {[] { OrvSim::setSystemAvailable(false); }, cancelWhenAsked,
+                                             [] { chooseWhenAsked(twoFrame); }}; // which cannot be opened
+    for (const auto &prepare : reasons) {
+        OrvSim::reset();
+        prepare();
+        OrvSim::refuseToOpen(twoFrame, OrvCamErr_NoDevice);
+        OrvCamConfig window(nullptr);
+        window.show();
+        waitForAStep();
+        QVERIFY(window.isEnabled());
+        QCOMPARE(statusText(window), disconnected());
+        QCOMPARE(column(window, "A") + temperature(window), noInfo);
+        for (const Parts &parts : dialogs)
+            trigger(window, parts.action);
+        trigger(window, "actionAbout");
+        trigger(window, "actionDisconnect");
+        QVERIFY(isNothingHeld());
+    }
 }
 
 void OrvCamConfigTest::connectsToAnotherCamera()

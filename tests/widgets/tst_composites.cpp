@@ -1,3 +1,5 @@
+#include "sliderhandle.h"
+
 #include <OrvCameraGuiApi/widgets/qtorvdoubleslider.h>
 #include <OrvCameraGuiApi/widgets/qtorvdoublespinboxval.h>
 #include <OrvCameraGuiApi/widgets/qtorvgainslider.h>
@@ -14,26 +16,12 @@
 #include <QDataWidgetMapper>
 #include <QLabel>
 #include <QLineEdit>
-#include <QSlider>
 #include <QStandardItemModel>
-#include <QStyleOptionSlider>
 #include <QToolButton>
 
 #include <limits>
 
 namespace {
-
-QPoint handle(const QSlider &slider)
-{
-    QStyleOptionSlider option;
-    option.initFrom(&slider);
-    option.orientation = slider.orientation();
-    option.minimum = slider.minimum();
-    option.maximum = slider.maximum();
-    option.sliderPosition = slider.sliderPosition();
-    option.upsideDown = slider.orientation() == Qt::Vertical;
-    return slider.style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, &slider).center();
-}
 
 /** A window with a composite of range 0 to 100 at 10, whose signals are noted, texts in quotes, and another widget. */
 template <typename Composite>
@@ -155,6 +143,7 @@ private Q_SLOTS:
             window.composite.slider()->setTracking(false);
             window.press();
             window.drag(-40);
+            QCOMPARE(int(window.composite.spinBox()->value()), reached); // which follows no drag any more
             window.release();
             QVERIFY(window.inner()->value() < reached);
             QCOMPARE(window.takeEmitted(), window.announced(window.inner()->value()));
