@@ -30,8 +30,7 @@ struct EditedTree : FeatureCamera
 {
     EditedTree();
 
-    /** The value cell of a feature. */
-    QModelIndex cell(const char *name) const;
+    QModelIndex cell(const char *name) const { return cellOf(*model, map->GetNode(name)); }
     QString text(const char *name) const { return cell(name).data().toString(); }
     /** The editor that is open, or null. */
     QWidget *editor() const;
@@ -76,16 +75,6 @@ EditedTree::EditedTree()
     window.activateWindow();
     if (!QTest::qWaitForWindowActive(&window))
         qFatal("The window does not become active");
-}
-
-QModelIndex EditedTree::cell(const char *name) const
-{
-    for (QModelIndex index = model->index(0, valueColumn); index.isValid(); index = view.indexBelow(index)) {
-        auto *const value = index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
-        if (GenApi::CNodePtr(value)->GetName() == name)
-            return index.siblingAtColumn(valueColumn);
-    }
-    return {};
 }
 
 QWidget *EditedTree::editor() const

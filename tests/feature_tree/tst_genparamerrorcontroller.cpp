@@ -7,18 +7,9 @@ class TestGenParamErrorController : public OrvTest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void keepsTheFirstMessage();
     void keepsANameWhileItHasErrors();
     void listsInOrder();
 };
-
-void TestGenParamErrorController::keepsTheFirstMessage()
-{
-    GenParamErrorController errors;
-    QVERIFY(errors.SetError(QStringLiteral("Gain"), QStringLiteral("first"), 0));
-    QVERIFY(!errors.SetError(QStringLiteral("Gain"), QStringLiteral("second"), 0));
-    QCOMPARE(errors.firstMessage(QStringLiteral("Gain")), QStringLiteral("first"));
-}
 
 void TestGenParamErrorController::keepsANameWhileItHasErrors()
 {
