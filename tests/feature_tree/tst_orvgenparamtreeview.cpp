@@ -64,7 +64,6 @@ private Q_SLOTS:
     void filters();
     void followsTheFilter();
     void keepsItsSettingsForANewNodeMap();
-    void walkingWritesNothing();
     void keysDoNoHarm();
     void polls();
     void savesItsState();
@@ -286,26 +285,6 @@ void TestOrvGenParamTreeView::keepsItsSettingsForANewNodeMap()
     QVERIFY(shown.cell("Device").isValid() && !shown.cell("Hidden").isValid());
     shown.view.setVisibility(OrvGui::Visibility(3));
     QCOMPARE(shown.view.visibility(), OrvGui::Guru);
-}
-
-/** Wherever the current item goes, with the keyboard and the mouse, an editor may open; none writes. */
-void TestOrvGenParamTreeView::walkingWritesNothing()
-{
-    ShownView shown;
-    QVERIFY(shown.show());
-    shown.view.enablePolling(true);
-    const QModelIndexList rows = shown.rows();
-    for (int column : {0, 1}) {
-        QTest::keyClick(shown.tree, Qt::Key_Home);
-        shown.click(rows.first().siblingAtColumn(column));
-        for (int i = 0; i < rows.size(); ++i)
-            QTest::keyClick(QApplication::focusWidget(), column ? Qt::Key_Tab : Qt::Key_Down);
-        for (const QModelIndex &index : rows) {
-            shown.click(index.siblingAtColumn(column));
-            QCoreApplication::processEvents();
-        }
-    }
-    QCOMPARE(shown.port.writeCount(), uint64_t(0));
 }
 
 void TestOrvGenParamTreeView::keysDoNoHarm()
