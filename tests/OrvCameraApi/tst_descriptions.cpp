@@ -22,7 +22,6 @@ private Q_SLOTS:
     void everyFeatureAnswers();
     void accessFollowsModes_data();
     void accessFollowsModes();
-    void framesHaveBanksOfTheirOwn();
     void timesFollowTheRegisters();
     void registersLiveByBeingRead();
     void interfaceFeaturesFollowTheSelector();
@@ -142,24 +141,6 @@ void TestDescriptions::accessFollowsModes()
         modeValue->FromString(qPrintable(opened ? open : closed));
         QCOMPARE(isWritable(), opened);
     }
-}
-
-void TestDescriptions::framesHaveBanksOfTheirOwn()
-{
-    const Held<OrvCam::Device> device = open(twoFrame);
-    OrvGenParam::Array *const array = device->GetCameraParameters(nullptr);
-    OrvGenParam::Enum *const selector = array->GetEnum("FrameAB_Selector", nullptr);
-    OrvGenParam::Int *const lines = array->GetInt("Frame_ExposureLines", nullptr);
-
-    QCOMPARE(selector->GetValueStr(nullptr), "FrameA");
-    QCOMPARE(lines->SetValue(20), OrvCamErr_Ok);
-    QCOMPARE(selector->SetValueStr("FrameB"), OrvCamErr_Ok);
-    QCOMPARE(lines->GetValue(nullptr), std::int64_t(200));
-    QCOMPARE(array->GetIntegerValue("Width", nullptr), std::int64_t(640));
-    QCOMPARE(lines->SetValue(300), OrvCamErr_Ok);
-    QCOMPARE(selector->SetValueStr("FrameA"), OrvCamErr_Ok);
-    QCOMPARE(lines->GetValue(nullptr), std::int64_t(20));
-    QCOMPARE(array->GetIntegerValue("Width", nullptr), std::int64_t(1920));
 }
 
 void TestDescriptions::timesFollowTheRegisters()
