@@ -577,49 +577,40 @@ private Q_SLOTS:
     }
 
     /** While it asks for an address, or shows a message, the dialog may be closed or destroyed. */
-    void endsWhileItAsks_data()
-    {
-        QTest::addColumn<bool>("inMessage");
-        QTest::addColumn<bool>("isDestroyed");
-        QTest::newRow("address") << false << true;
-        QTest::newRow("warning") << true << true;
-        QTest::newRow("address, closed") << false << false;
-        QTest::newRow("warning, closed") << true << false;
-    }
-
     void endsWhileItAsks()
     {
-        QFETCH(bool, inMessage);
-        QFETCH(bool, isDestroyed);
-        Shown shown;
-        shown.click(twoFrame);
-        bool isOver = false;
-        const auto end = [&] {
-            if (isDestroyed)
-                shown.dialog.reset();
-            else
-                shown.dialog->reject();
-            isOver = true;
-        };
-        OrvTest::whenOpen<SetIpDialog>([&](SetIpDialog &dialog) {
-            if (inMessage) {
-                edit(dialog, "ipEdit")->setText(QStringLiteral("10.1.2.3"));
-                OrvTest::whenOpen<QMessageBox>([&](QMessageBox &box) {
+        for (const auto &[inMessage, isDestroyed] :
+             {std::pair(false, true), std::pair(true, true), std::pair(false, false), std::pair(true, false)}) {
+            Shown shown;
+            shown.click(twoFrame);
+            bool isOver = false;
+            const auto end = [&, destroys = isDestroyed] {
+                if (destroys)
+                    shown.dialog.reset();
+                else
+                    shown.dialog->reject();
+                isOver = true;
+            };
+            OrvTest::whenOpen<SetIpDialog>([&, asksMore = inMessage, destroys = isDestroyed](SetIpDialog &dialog) {
+                if (asksMore) {
+                    edit(dialog, "ipEdit")->setText(QStringLiteral("10.1.2.3"));
+                    OrvTest::whenOpen<QMessageBox>([&end, destroys](QMessageBox &box) {
+                        end();
+                        if (!destroys)
+                            press(box, QMessageBox::Ignore);
+                    });
+                } else {
                     end();
-                    if (!isDestroyed)
-                        press(box, QMessageBox::Ignore);
-                });
-            } else {
-                end();
-            }
-            if (inMessage || !isDestroyed)
-                dialog.accept();
-        });
-        // Not by a click, whose sender would be destroyed under the test.
-        QMetaObject::invokeMethod(
-            shown.dialog.get(), [&] { shown.setIp()->click(); }, Qt::QueuedConnection);
-        QTRY_VERIFY(isOver);
-        QTRY_VERIFY(!QApplication::activeModalWidget());
+                }
+                if (asksMore || !destroys)
+                    dialog.accept();
+            });
+            // Not by a click, whose sender would be destroyed under the test.
+            QMetaObject::invokeMethod(
+                shown.dialog.get(), [&] { shown.setIp()->click(); }, Qt::QueuedConnection);
+            QTRY_VERIFY(isOver);
+            QTRY_VERIFY(!QApplication::activeModalWidget());
+        }
     }
 };
 

@@ -107,7 +107,6 @@ private Q_SLOTS:
     void walkingWritesNothing_data();
     void walkingWritesNothing();
     void followsTheValueUntilTouched();
-    void survivesItsEditorGoingWhileItWrites_data();
     void survivesItsEditorGoingWhileItWrites();
     void writesForeignEditors();
 };
@@ -300,40 +299,31 @@ void TestGenParamDelegate::followsTheValueUntilTouched()
     QCOMPARE(tree.writes, 1);
 }
 
-void TestGenParamDelegate::survivesItsEditorGoingWhileItWrites_data()
-{
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<QString>("keys");
-    QTest::newRow("combo box") << QByteArray("Flag") << QStringLiteral("^");
-    QTest::newRow("button") << QByteArray("Start") << QStringLiteral(" ");
-    QTest::newRow("line edit") << QByteArray("Label") << QStringLiteral("abc|");
-    QTest::newRow("spin box") << QByteArray("Exposure") << QStringLiteral("40\r");
-}
-
 /** An application that tells of the error in a dialog, and drops the features while that is open. */
 void TestGenParamDelegate::survivesItsEditorGoingWhileItWrites()
 {
-    QFETCH(QByteArray, name);
-    QFETCH(QString, keys);
-    EditedTree tree;
-    failGetter(*tree.map, name.toStdString(), name == "Start" ? "Execute" : "SetValue");
-    const QString text = tree.text(name);
-    const QPointer<QWidget> editor = tree.open<QWidget>(name);
-    QVERIFY(editor);
-    QObject::connect(tree.model, &GenParamTreeModel::errorAppeared, &tree.view, [&] {
-        QDialog dialog;
-        QTimer::singleShot(0, &dialog, [&] {
-            tree.view.clearParams();
-            QTimer::singleShot(0, &dialog, &QDialog::accept);
-        });
-        dialog.exec();
+    for (const auto &[name, keys] :
+         {std::pair("Flag", "^"), std::pair("Start", " "), std::pair("Label", "abc|"), std::pair("Exposure", "40\r")}) {
+        EditedTree tree;
+        failGetter(*tree.map, name, qstrcmp(name, "Start") ? "SetValue" : "Execute");
+        const QString text = tree.text(name);
+        const QPointer<QWidget> editor = tree.open<QWidget>(name);
         QVERIFY(editor);
-    });
-    tree.type(keys);
-    QTRY_VERIFY(!editor);
-    QCOMPARE(tree.failures, 1);
-    tree.view.setParams(tree.map.get());
-    QCOMPARE(tree.text(name), text);
+        QObject::connect(tree.model, &GenParamTreeModel::errorAppeared, &tree.view, [&tree, editor] {
+            QDialog dialog;
+            QTimer::singleShot(0, &dialog, [&] {
+                tree.view.clearParams();
+                QTimer::singleShot(0, &dialog, &QDialog::accept);
+            });
+            dialog.exec();
+            QVERIFY(editor);
+        });
+        tree.type(QLatin1String(keys));
+        QTRY_VERIFY(!editor);
+        QCOMPARE(tree.failures, 1);
+        tree.view.setParams(tree.map.get());
+        QCOMPARE(tree.text(name), text);
+    }
 }
 
 void TestGenParamDelegate::writesForeignEditors()

