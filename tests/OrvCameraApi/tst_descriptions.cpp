@@ -23,6 +23,7 @@ private Q_SLOTS:
     void accessFollowsModes_data();
     void accessFollowsModes();
     void timesFollowTheRegisters();
+    void versionsAreThere();
     void registersLiveByBeingRead();
     void interfaceFeaturesFollowTheSelector();
 };
@@ -157,6 +158,14 @@ void TestDescriptions::timesFollowTheRegisters()
     QCOMPARE(value("CurrentFrameTime"), std::int64_t(40000));
     QCOMPARE(array->GetBoolean("Frame_FixedFramePeriodEnable", nullptr)->SetValue(false), OrvCamErr_Ok);
     QCOMPARE(value("CurrentFrameTime"), std::int64_t((1080 + 20) * 1600 / 160));
+}
+
+/** What windows show of the device, and no test of theirs asks for by name. */
+void TestDescriptions::versionsAreThere()
+{
+    const Held<OrvCam::Device> device = open(twoFrame);
+    for (const char *name : {"RgsID", "FpgaID", "EpcsID", "FirmwareImage", "CustomerID", "FamilyID", "XmlVersion"})
+        QVERIFY2(device->GetCameraParameters(nullptr)->GetInt(name, nullptr), name);
 }
 
 void TestDescriptions::registersLiveByBeingRead()

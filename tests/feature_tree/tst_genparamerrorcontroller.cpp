@@ -16,7 +16,8 @@ void TestGenParamErrorController::keepsANameWhileItHasErrors()
     const QString name = QStringLiteral("Gain");
     GenParamErrorController errors;
     errors.SetError(name, QStringLiteral("written"), 256);
-    errors.SetError(name, QStringLiteral("read"), 0);
+    QVERIFY(errors.SetError(name, QStringLiteral("read"), 0));
+    QVERIFY(!errors.SetError(name, QStringLiteral("again"), 0));
     QCOMPARE(errors.firstMessage(name), QStringLiteral("read"));
     QVERIFY(!errors.ClearError(name, 2));
     QVERIFY(!errors.ClearError(QStringLiteral("Other"), 0));

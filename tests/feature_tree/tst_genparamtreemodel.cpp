@@ -1,12 +1,15 @@
 #include "featurecamera.h"
 
+#include <OrvCameraGuiApi/device_selection/ip4validator.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
+#include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
 #include <OrvGenApi/testing/faults.h>
 
 #include "orvtest.h"
 
 #include <QAbstractItemModelTester>
 #include <QComboBox>
+#include <QLineEdit>
 
 #include <atomic>
 #include <thread>
@@ -81,6 +84,7 @@ private Q_SLOTS:
     void whatsThis();
     void editors_data();
     void editors();
+    void editorsFollowTheFeature();
     void readsOnlyWhatARoleNeeds();
     void reportsAFailedReadOnce();
     void writes_data();
@@ -341,6 +345,22 @@ void TestGenParamTreeModel::editors()
         QCOMPARE(QString::fromLatin1(name) + QLatin1Char('=') + editor->property(name.constData()).toString(),
                  property);
     }
+}
+
+void TestGenParamTreeModel::editorsFollowTheFeature()
+{
+    const FeatureTree tree;
+    const auto editor = [&](const char *name) {
+        return std::unique_ptr<QWidget>(
+            tree.value(name, GenParamTreeModel::ControlDataRole).value<ControlData>().editor);
+    };
+    for (const auto &[name, steps] : {std::pair("Exposure", true), std::pair("Mask", false)}) {
+        const auto box = editor(name);
+        QCOMPARE(qobject_cast<QtOrvSpinBoxVal64 *>(box.get())->validateStepping(), steps);
+        QVERIFY(qobject_cast<QtOrvSpinBoxVal64 *>(box.get())->ignoreFocusOut());
+    }
+    const auto address = editor("GevSCDA");
+    QVERIFY(qobject_cast<const IP4Validator *>(qobject_cast<QLineEdit *>(address.get())->validator()));
 }
 
 void TestGenParamTreeModel::readsOnlyWhatARoleNeeds()
