@@ -43,15 +43,6 @@ void tst_Access::access_data()
            writeOnly + plain("<pIsAvailable>W</pIsAvailable>")
                + node("Integer", "M", "<Value>1</Value><pIsLocked>W</pIsLocked>"),
            "W=1 N? M?", "ok NA RW");
-    addRow("a lock below",
-           on + reg("IntReg", "R", "0", "<pIsLocked>On</pIsLocked>") + node("Float", "N", "<pValue>R</pValue>"),
-           "N? N=1 N", "RO !Access 0");
-    addRow("a converter needs its variables",
-           on + reg("IntReg", "R", "0") + node("Integer", "V", "<Value>2</Value><pIsAvailable>On</pIsAvailable>")
-               + node("IntConverter", "N",
-                      "<pVariable Name='V'>V</pVariable><FormulaTo>FROM / V</FormulaTo>"
-                      "<FormulaFrom>TO * V</FormulaFrom><pValue>R</pValue>"),
-           "N=6 R N? On=0 N? N=8", "ok 3 RW ok NA !Access");
     addRow(
         "an enumeration is as available as its entries",
         on
@@ -60,7 +51,6 @@ void tst_Access::access_data()
                    "<EnumEntry Name='B'><Value>1</Value><pIsImplemented>Z</pIsImplemented></EnumEntry><Value>0</Value>")
             + node("Integer", "Z", "<Value>0</Value>"),
         "E? EnumEntry_E_A? EnumEntry_E_B? E=B On=0 E? Z=1 E? E=A E=B E", "RW RO NI !Access ok NA ok RW !Access ok B");
-    addRow("limits of a node that cannot be written", writeOnly, "W? W W=5 W=-1", "WO !Access ok !OutOfRange");
     addRow("a limit that cannot be read", writeOnly + node("Integer", "N", "<Value>1</Value><pMax>W</pMax>"),
            "N N: N=1 N:=2 N", "1 !Access !Access ok 2");
     addRow("links to nothing",
@@ -122,10 +112,6 @@ void tst_Access::categories_data()
         absent + node("Category", "C", "<pFeature>A</pFeature><pFeature>D</pFeature>")
             + node("Category", "D", "<pFeature>C</pFeature>"),
         "NI", Beginner);
-    row("in itself",
-        guru + absent + node("Category", "C", "<pFeature>D</pFeature>")
-            + node("Category", "D", "<pFeature>C</pFeature><pFeature>A</pFeature><pFeature>G</pFeature>"),
-        "RO", Beginner);
     row("an inner one that is not implemented",
         expert + absent + node("Category", "C", "<pFeature>D</pFeature>")
             + node("Category", "D", "<pIsImplemented>Z</pIsImplemented><pFeature>X</pFeature>"),

@@ -31,13 +31,10 @@ void tst_Changes::caching_data()
     addRow("kept", cached("WriteThrough"), "R& R R& N N K K K& # N* # K* #",
            "unknown 0 kept 0 0 0 0 kept r1w0 0 r1w0 0 r1w0");
     addRow("a write is kept", cached("WriteThrough"), "N=5 R& N K K& #", "ok kept 5 10 kept r0w1");
-    addRow("a write is not kept", cached("WriteAround"), "R # N=5 R& N K N #", "0 r1w0 ok unknown 5 10 5 r1w1");
     addRow("nothing is kept", cached("NoCache"), "R # R N K # N=5 # N K K& #",
            "0 r1w0 0 0 0 r3w0 ok r0w1 5 10 unknown r2w0");
     addRow("a computed value is dropped with what it is made of", cached("WriteThrough"), "K # N=2 K& K # R- K& K #",
            "0 r1w0 ok unknown 4 r0w1 ok unknown 4 r1w0");
-    addRow("a write-only register keeps nothing", reg("IntReg", "R", "0", "<AccessMode>WO</AccessMode>"), "R=1 R& #",
-           "ok unknown r0w1");
     addRow("a field is written into what the device holds now",
            reg("MaskedIntReg", "A", "0", "<LSB>7</LSB><MSB>0</MSB>")
                + reg("MaskedIntReg", "B", "0", "<LSB>31</LSB><MSB>24</MSB>"),
@@ -74,10 +71,6 @@ void tst_Changes::callbacks_data()
                       "Index='1'>B</pValueIndexed>")
                + node("Integer", "M", "<pValue>A</pValue><pValueCopy>B</pValueCopy>"),
            "N=1 ^ M=2 ^ I=1 N ^", "ok A,B,M,N ok A,B,M,N ok 2 I,N");
-    addRow("what is selected, and what links the same constant",
-           node("Integer", "S", "<Value>0</Value><pSelected>T</pSelected>") + node("Integer", "T", "<Value>0</Value>")
-               + node("Integer", "A", "<pValue>S</pValue>") + node("Integer", "B", "<pValue>S</pValue>"),
-           "A=1 ^ B", "ok A,B,S,T 1");
     addRow("half a write is told",
            reg("IntReg", "A", "0") + reg("IntReg", "B", "0", "<AccessMode>RO</AccessMode>")
                + node("Integer", "N", "<pValue>A</pValue><pValueCopy>B</pValueCopy>"),

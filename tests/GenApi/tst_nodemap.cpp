@@ -80,14 +80,12 @@ class tst_NodeMap : public OrvTest::TestCase
 private Q_SLOTS:
     void callbacksKnowTheLock();
     void callbacksMayRemoveCallbacks();
-    void callbacksMayWrite();
     void callbacksMayThrow();
     void mapDestroysWhatIsRegistered();
     void portsMayFail();
     void connectsAnotherPort();
     void registersAsBytes();
     void severalThreads();
-    void faults();
 };
 
 void tst_NodeMap::callbacksKnowTheLock()
@@ -138,13 +136,6 @@ void tst_NodeMap::callbacksMayRemoveCallbacks()
     QCOMPARE(destroyed, 2);
     QVERIFY(!number->DeregisterCallback(first));
     QVERIFY_EXCEPTION_THROWN(number->RegisterCallback(nullptr), GenICam::InvalidArgumentException);
-}
-
-void tst_NodeMap::callbacksMayWrite()
-{
-    Session session(node("Integer", "N", "<Value>0</Value>") + node("Integer", "M", "<Value>0</Value>"));
-    Register(session.map->GetNode("N"), [&](INode *) { session.get<IInteger>("M")->SetValue(5); });
-    QCOMPARE(session.run("N=1 ^ M"), QByteArray("ok M,N 5"));
 }
 
 void tst_NodeMap::callbacksMayThrow()
@@ -259,24 +250,6 @@ void tst_NodeMap::severalThreads()
     QVERIFY(called >= 400);
     const int value = session.run("R").toInt();
     QVERIFY(value == 199 || value == 1199);
-}
-
-void tst_NodeMap::faults()
-{
-    Session session(reg("IntReg", "R", "0") + node("Integer", "N", "<pValue>R</pValue>"));
-    OrvGenApi::testing::failGetter(*session.map, "R", "GetValue", "on purpose");
-    OrvGenApi::testing::failGetter(*session.map, "N", "GetAccessMode");
-    OrvGenApi::testing::failGetter(*session.map, "N", "FromString");
-    try {
-        session.get<IInteger>("R")->GetValue();
-        QFAIL("no fault");
-    } catch (const GenICam::RuntimeException &error) {
-        QCOMPARE(error.GetDescription(), "on purpose");
-    }
-    QCOMPARE(session.get<IInteger>("N")->GetValue(), int64_t(0)); // only calls from outside fail
-    QCOMPARE(session.run("N? R? N=1 ^ N"), QByteArray("!Runtime RW !Runtime  0"));
-    OrvGenApi::testing::clearFaults(*session.map);
-    QCOMPARE(session.run("N? N=1"), QByteArray("RW ok"));
 }
 
 ORV_PLAIN_TEST_MAIN(tst_NodeMap)

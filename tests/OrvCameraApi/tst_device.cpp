@@ -27,7 +27,6 @@ private Q_SLOTS:
     void opening_data();
     void opening();
     void readOnlyDevices();
-    void parametersThatAreRefused();
     void outlivesTheSystem();
     void eventsOfUnpluggingAndReplugging();
     void eventsFromOtherThreads();
@@ -39,7 +38,6 @@ private Q_SLOTS:
     void registersThatFail();
     void registersThatHang();
     void unpluggingEndsAHangingAccess();
-    void accessesAreCounted();
 };
 
 namespace {
@@ -126,22 +124,6 @@ void TestDevice::readOnlyDevices()
     QVERIFY(!level->IsWritable());
     QCOMPARE(level->GetValue(nullptr), std::int64_t(16));
     QCOMPARE(level->SetValue(17), OrvCamErr_GenICamAccessError);
-}
-
-void TestDevice::parametersThatAreRefused()
-{
-    const Held<OrvCam::Device> device = open(twoFrame);
-    OrvCamErr err = OrvCamErr_UnknownError;
-    OrvGenParam::Array *const array = device->GetCameraParameters(&err);
-    QVERIFY(array && err == OrvCamErr_Ok);
-    QVERIFY(OrvSim::setParameters(twoFrame, OrvSim::Parameters::Error));
-    QVERIFY(!device->GetCameraParameters(&err));
-    QCOMPARE(err, OrvCamErr_GenICamTreeError);
-    QVERIFY(OrvSim::setParameters(twoFrame, OrvSim::Parameters::Null));
-    QVERIFY(!device->GetCameraParameters(&err));
-    QCOMPARE(err, OrvCamErr_Ok);
-    QVERIFY(OrvSim::setParameters(twoFrame, OrvSim::Parameters::Normal));
-    QCOMPARE(device->GetCameraParameters(nullptr), array);
 }
 
 void TestDevice::outlivesTheSystem()
@@ -398,22 +380,6 @@ void TestDevice::unpluggingEndsAHangingAccess()
     QCOMPARE(err, OrvCamErr_NoDevice);
     array->GetIntegerValue("CurrentTemperature", &err); // fails instead of hanging again
     QCOMPARE(err, OrvCamErr_NoDevice);
-}
-
-void TestDevice::accessesAreCounted()
-{
-    const Held<OrvCam::Device> device = open(twoFrame);
-    OrvGenParam::Int *const level = device->GetCameraParameters(nullptr)->GetInt("Frame_BlackLevel", nullptr);
-    level->GetValue(nullptr);
-    QVERIFY(OrvSim::readCount(twoFrame) > 0);
-    QVERIFY(OrvSim::resetCounts(twoFrame));
-    level->GetValue(nullptr); // is kept by the node map
-    QCOMPARE(OrvSim::readCount(twoFrame), std::uint64_t(0));
-    OrvSim::setRegister(twoFrame, "Frame_BlackLevel", "9"); // does not go through the port
-    QCOMPARE(level->SetValue(10), OrvCamErr_Ok);
-    QCOMPARE(OrvSim::writeCount(twoFrame), std::uint64_t(1));
-    QCOMPARE(OrvSim::writeCount("nobody"), std::uint64_t(0));
-    QVERIFY(!OrvSim::resetCounts("nobody"));
 }
 
 ORV_TEST_MAIN(TestDevice)

@@ -22,7 +22,6 @@ private Q_SLOTS:
 
     void lookupsTellWhatIsWrong_data();
     void lookupsTellWhatIsWrong();
-    void kindsAreReachedFromTheirBase();
     void integers();
     void enumerations();
     void textsStayWhereTheyAre();
@@ -90,17 +89,6 @@ void TestParameters::lookupsTellWhatIsWrong()
     }
     if (expected != OrvCamErr_Ok)
         QCOMPARE(int(m_array->SetIntegerValue(text, 64)), expected);
-}
-
-void TestParameters::kindsAreReachedFromTheirBase()
-{
-    OrvGenParam::Param *const integer = m_array->GetInt("Frame_Width", nullptr);
-    OrvGenParam::Param *const enumeration = m_array->GetEnum("FrameMode", nullptr);
-    QCOMPARE(integer->GetType(), 1);
-    QCOMPARE(enumeration->GetType(), 4);
-    QVERIFY(dynamic_cast<OrvGenParam::Int *>(integer));
-    QVERIFY(!dynamic_cast<OrvGenParam::Enum *>(integer));
-    QCOMPARE(dynamic_cast<OrvGenParam::Enum *>(enumeration), m_array->GetEnum("FrameMode", nullptr));
 }
 
 void TestParameters::integers()

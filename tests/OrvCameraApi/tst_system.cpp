@@ -4,8 +4,6 @@
 
 #include <GenApi/GenApi.h>
 
-#include <QTemporaryFile>
-
 #include <atomic>
 #include <thread>
 
@@ -26,21 +24,15 @@ private Q_SLOTS:
 
     void defaultSystem();
     void referencesAreCounted();
-    void listsAreWalkedForward();
     void listsThatAreNotThere();
-    void masksChooseTypes();
     void objectsOutliveWhatTheyDescribe();
     void addedAndRemoved();
-    void namesTellWhatThereIs();
-    void oddTextsAndTypes();
     void enumerationTellsChanges();
     void stalledEnumerationHoldsNoLock();
-    void enumerationBesideReading();
     void forcedAddresses_data();
     void forcedAddresses();
     void forceIpThatFails();
     void interfaceParameters();
-    void anyDescription();
     void unusableCameras_data();
     void unusableCameras();
 };
@@ -65,10 +57,6 @@ void TestSystem::defaultSystem()
     QCOMPARE(devicesOf(*interfaces[2]).size(), std::size_t(0));
 
     OrvCam::DeviceInfo *const camera = findDevice(*system, twoFrame);
-    QCOMPARE(camera->GetInterface(), interfaces[0]);
-    QCOMPARE(camera->GetAccessStatus(), std::int32_t(OrvCam::AccessStatusReadWrite));
-    QCOMPARE(camera->GetModel(), "TF-2000C");
-    QCOMPARE(camera->GetDisplayName(), "TF-2000C (SN0001)");
     OrvCamErr err = OrvCamErr_UnknownError;
     QCOMPARE(camera->GetIPAddress(&err), "192.168.10.11");
     QCOMPARE(err, OrvCamErr_Ok);
@@ -96,22 +84,6 @@ void TestSystem::referencesAreCounted()
     QCOMPARE(OrvSim::liveObjects().systemReferences, std::size_t(0));
 }
 
-void TestSystem::listsAreWalkedForward()
-{
-    const Held<OrvCam::System> system = getSystem();
-    OrvCam::InterfaceList *const list = system->GetInterfaceList(OrvCam::AllInterfaceTypes);
-    QCOMPARE(OrvSim::liveObjects().lists, std::size_t(1));
-    QCOMPARE(list->GetSize(), std::size_t(3));
-    OrvCam::Interface *const first = list->GetNext();
-    QVERIFY(list->GetNext());
-    QCOMPARE(list->GetFirst(), first);
-    QVERIFY(list->GetNext());
-    QVERIFY(list->GetNext());
-    QVERIFY(!list->GetNext());
-    QVERIFY(!list->GetNext());
-    list->Release();
-}
-
 void TestSystem::listsThatAreNotThere()
 {
     const Held<OrvCam::System> system = getSystem();
@@ -133,23 +105,6 @@ void TestSystem::listsThatAreNotThere()
     OrvSim::clear();
     QVERIFY(!system->GetInterfaceList(OrvCam::AllInterfaceTypes));
     QVERIFY(!OrvSim::setDeviceLists("ORV-ETH-0", OrvSim::Lists::Empty));
-}
-
-void TestSystem::masksChooseTypes()
-{
-    const Held<OrvCam::System> system = getSystem();
-    const auto count = [&](std::uint32_t mask) {
-        return entriesOf<OrvCam::Interface>(system->GetInterfaceList(mask)).size();
-    };
-    QCOMPARE(count(0), std::size_t(0));
-    QCOMPARE(count(1U << (OrvCam::InterfaceTypeGigEVision - 1)), std::size_t(1));
-    QCOMPARE(count(3), std::size_t(2));
-    OrvSim::InterfaceSpec custom;
-    custom.name = "custom";
-    custom.type = -7;
-    QVERIFY(OrvSim::addInterface(custom));
-    QCOMPARE(count(OrvCam::AllInterfaceTypes), std::size_t(4));
-    QCOMPARE(count(127), std::size_t(3));
 }
 
 void TestSystem::objectsOutliveWhatTheyDescribe()
@@ -197,62 +152,11 @@ void TestSystem::addedAndRemoved()
     spec.id = twoFrame; // the same identifier is a matter of the camera
     QVERIFY(!OrvSim::addDevice("ORV-CL-9", spec));
     QVERIFY(OrvSim::addDevice("ORV-ETH-0", spec));
-
-    OrvCam::Interface *const adapter = interfacesOf(*system).front();
-    std::vector<OrvCam::DeviceInfo *> before = devicesOf(*adapter);
-    QCOMPARE(before.size(), std::size_t(3));
-    QVERIFY(OrvSim::swapDevices(stray, "third"));
     QVERIFY(!OrvSim::swapDevices(stray, monochrome));
-    std::swap(before[1], before[2]);
-    QCOMPARE(devicesOf(*adapter), before);
+    OrvCam::DeviceInfo *const third = devicesOf(*interfacesOf(*system).front()).back();
     QVERIFY(OrvSim::remove(twoFrame));
     QVERIFY(!OrvSim::replug(twoFrame));
-    QCOMPARE(findDevice(*system, twoFrame), before[1]);
-    QVERIFY(OrvSim::remove("ORV-ETH-0"));
-    QVERIFY(!OrvSim::remove(stray));
-    QCOMPARE(interfacesOf(*system).size(), std::size_t(2));
-}
-
-void TestSystem::namesTellWhatThereIs()
-{
-    using Names = std::vector<std::string>;
-    OrvSim::unplug("ORV-ETH-0");
-    OrvSim::replug("ORV-ETH-0");
-    OrvSim::unplug(twoFrame);
-    OrvSim::unplug("ORV-XHCI-0");
-    QCOMPARE(OrvSim::interfaceNames(), (Names{"ORV-ETH-0", "ORV-XHCI-0", "ORV-CL-0"}));
-    QCOMPARE(OrvSim::deviceNames("ORV-ETH-0"), (Names{twoFrame, stray}));
-    QVERIFY(OrvSim::deviceNames("ORV-CL-0").empty());
-    QVERIFY(OrvSim::deviceNames(twoFrame).empty());
-    for (const char *name : {"ORV-ETH-0", stray, "ORV-CL-0"})
-        QVERIFY2(OrvSim::isPluggedIn(name), name);
-    for (const char *name : {twoFrame, "ORV-XHCI-0", monochrome, "nobody", ""})
-        QVERIFY2(!OrvSim::isPluggedIn(name), name);
-}
-
-void TestSystem::oddTextsAndTypes()
-{
-    const Held<OrvCam::System> system = getSystem();
-    OrvSim::clear();
-    OrvSim::InterfaceSpec host;
-    host.name = "host";
-    host.type = 6;
-    QVERIFY(OrvSim::addInterface(host));
-    OrvSim::DeviceSpec spec;
-    spec.name = "camera";
-    spec.accessStatus = 77;
-    spec.description = OrvSim::monochromeCamera().description;
-    QVERIFY(OrvSim::addDevice("host", spec));
-
-    OrvCam::Interface *const interface = interfacesOf(*system).front();
-    QCOMPARE(interface->GetType(), 6);
-    OrvCam::DeviceInfo *const camera = devicesOf(*interface).front();
-    QCOMPARE(camera->GetAccessStatus(), 77);
-    for (const char *text : {interface->GetID(), interface->GetDescription(), interface->GetVersion(), camera->GetID(),
-                             camera->GetVendor(), camera->GetModel(), camera->GetDisplayName(),
-                             camera->GetUserDefinedName(), camera->GetSerialNumber(), camera->GetVersion()})
-        QVERIFY(!text);
-    QVERIFY(Held<OrvCam::Device>(OrvCam_CreateDevice(camera, OrvCam::DeviceAccessControl, nullptr)));
+    QCOMPARE(findDevice(*system, twoFrame), third);
 }
 
 void TestSystem::enumerationTellsChanges()
@@ -287,34 +191,6 @@ void TestSystem::stalledEnumerationHoldsNoLock()
     QCOMPARE(adapter->GetParameters(nullptr)->SetIntegerValue("DeviceSelector", 0), OrvCamErr_Ok);
     OrvSim::release(OrvSim::Call::ReEnumerateDevices);
     poller.join();
-}
-
-void TestSystem::enumerationBesideReading()
-{
-    const Held<OrvCam::System> system = getSystem();
-    std::atomic<bool> stop{false};
-    std::thread poller([&] {
-        while (!stop) {
-            for (OrvCam::Interface *interface : interfacesOf(*system)) {
-                interface->ReEnumerateDevices(nullptr, 200);
-                for (OrvCam::DeviceInfo *device : devicesOf(*interface))
-                    device->GetID();
-            }
-        }
-    });
-    OrvCam::DeviceInfo *const camera = findDevice(*system, twoFrame);
-    OrvGenParam::Array *const array = camera->GetInterface()->GetParameters(nullptr);
-    for (int i = 0; i < 50; ++i) {
-        OrvSim::unplug(stray);
-        array->SetIntegerValue("DeviceSelector", 0);
-        array->GetIntegerValue("GevDeviceMACAddress", nullptr);
-        camera->GetIPAddress(nullptr);
-        camera->ForceIP(0xC0A80A00U + static_cast<std::uint32_t>(i), 0xFFFFFF00, 0);
-        OrvSim::replug(stray);
-    }
-    stop = true;
-    poller.join();
-    QCOMPARE(camera->GetIPAddress(nullptr), "192.168.10.49");
 }
 
 void TestSystem::forcedAddresses_data()
@@ -398,16 +274,6 @@ void TestSystem::interfaceParameters()
     QCOMPARE(answer(OrvSim::Parameters::Error), std::make_pair(false, OrvCamErr_GenICamTreeError));
     QCOMPARE(answer(OrvSim::Parameters::ArrayWithError), std::make_pair(true, OrvCamErr_GenICamTreeError));
     QCOMPARE(answer(OrvSim::Parameters::Normal), std::make_pair(true, OrvCamErr_Ok));
-
-    OrvGenParam::Array *const array = adapter->GetParameters(nullptr);
-    QVERIFY(OrvSim::setFault("ORV-ETH-0", "DeviceSelector", OrvSim::Fault::FailWrite));
-    QCOMPARE(array->SetIntegerValue("DeviceSelector", 0), OrvCamErr_GenICamGenericError);
-    QVERIFY(OrvSim::clearFaults("ORV-ETH-0"));
-    QVERIFY(OrvSim::setFault("ORV-ETH-0", "GevDeviceMACAddress", OrvSim::Fault::FailRead));
-    OrvCamErr err = OrvCamErr_Ok;
-    QCOMPARE(array->SetIntegerValue("DeviceSelector", 0), OrvCamErr_Ok);
-    QCOMPARE(array->GetIntegerValue("GevDeviceMACAddress", &err), std::int64_t(0));
-    QCOMPARE(err, OrvCamErr_GenICamGenericError);
 }
 
 namespace {
@@ -422,42 +288,20 @@ const char smallDescription[] = R"(<RegisterDescription ModelName="Small" Vendor
 
 } // namespace
 
-void TestSystem::anyDescription()
-{
-    QTemporaryFile file;
-    QVERIFY(file.open());
-    file.write(smallDescription);
-    file.close();
-    OrvSim::DeviceSpec spec = OrvSim::cameraFromFile(file.fileName().toStdString());
-    QCOMPARE(spec.vendor.value(), std::string("Somebody"));
-    QCOMPARE(spec.model.value(), std::string("Small"));
-    spec.name = "small";
-    spec.id = "small";
-    spec.powerUp = "# starts with\n\nset Level 12\n";
-    QVERIFY(OrvSim::addDevice("ORV-CL-0", spec));
-    const Held<OrvCam::Device> device = open("small");
-    OrvGenParam::Int *const level = device->GetCameraParameters(nullptr)->GetInt("Level", nullptr);
-    QCOMPARE(level->GetValue(nullptr), std::int64_t(12));
-    QCOMPARE(level->SetValue(13), OrvCamErr_Ok);
-    QCOMPARE(level->GetValue(nullptr), std::int64_t(13));
-    QVERIFY_EXCEPTION_THROWN(OrvSim::cameraFromFile("/nowhere/at/all.xml"), GenICam::RuntimeException);
-}
-
 void TestSystem::unusableCameras_data()
 {
-    QTest::addColumn<QByteArray>("description");
-    QTest::addColumn<QByteArray>("powerUp");
-    QTest::addColumn<QByteArray>("reason");
-
-    QTest::newRow("no description") << QByteArray() << QByteArray() << QByteArray();
-    QTest::newRow("no XML") << QByteArray("<half") << QByteArray() << QByteArray();
-    const QByteArray good(smallDescription);
-    QTest::newRow("verb") << good << QByteArray("\nsot Level 1") << QByteArray("power-up:2: unknown statement");
-    QTest::newRow("register") << good << QByteArray("set Depth 1") << QByteArray("power-up:1: no such register");
-    QTest::newRow("number") << good << QByteArray("drift Level 1 2") << QByteArray("power-up:1: a number is missing");
-    QTest::newRow("ends") << good << QByteArray("drift Level 2 1 1")
-                          << QByteArray("power-up:1: the ends are exchanged");
-    QTest::newRow("value") << good << QByteArray("set Level much") << QByteArray("power-up:1: ");
+    for (const char *column : {"description", "powerUp", "reason"})
+        QTest::addColumn<QByteArray>(column);
+    const auto row = [](const char *name, const char *description, const char *powerUp, const char *reason) {
+        QTest::newRow(name) << QByteArray(description) << QByteArray(powerUp) << QByteArray(reason);
+    };
+    row("no description", "", "", "");
+    row("no XML", "<half", "", "");
+    row("verb", smallDescription, "\nsot Level 1", "power-up:2: unknown statement");
+    row("register", smallDescription, "set Depth 1", "power-up:1: no such register");
+    row("number", smallDescription, "drift Level 1 2", "power-up:1: a number is missing");
+    row("ends", smallDescription, "drift Level 2 1 1", "power-up:1: the ends are exchanged");
+    row("value", smallDescription, "set Level much", "power-up:1: ");
 }
 
 void TestSystem::unusableCameras()

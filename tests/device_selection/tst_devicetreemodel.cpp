@@ -5,8 +5,6 @@
 
 #include <QAbstractItemModelTester>
 
-#include <thread>
-
 using namespace SimTest;
 
 namespace {
@@ -101,13 +99,7 @@ private Q_SLOTS:
         QVERIFY(transport && device);
         QCOMPARE(ethernet.data().toString(), QString::fromUtf8(transport->GetDescription()));
         QCOMPARE(camera.data().toString(), QString::fromUtf8(device->GetDisplayName()));
-        QCOMPARE(camera.data(Qt::UserRole).typeName(), "OrvCam::DeviceInfo*");
-        QCOMPARE(ethernet.data(Qt::UserRole).typeName(), "OrvCam::Interface*");
-        QVERIFY(!camera.data(Qt::ToolTipRole).isValid());
-        QCOMPARE(camera.parent(), ethernet);
         QCOMPARE(model.headerData(0, Qt::Horizontal).toString(), QStringLiteral("Name"));
-        QVERIFY(!model.headerData(0, Qt::Vertical).isValid() && !model.headerData(1, Qt::Horizontal).isValid());
-        QVERIFY(!model.index(0, 1, ethernet).isValid() && !model.index(2, 0, ethernet).isValid());
         QVERIFY(!model.hasChildren(camera) && !model.canFetchMore(camera));
 
         // An interface without a device can be expanded all the same, and asked again.
@@ -209,26 +201,6 @@ private Q_SLOTS:
         QCOMPARE(model.checkNew(), 0);
         model.rescan();
         QVERIFY(!model.getFirstIdx().isValid() && !model.getItemIdx(QString()).isValid());
-    }
-
-    /** A stalled enumeration keeps nobody from using the model. */
-    void isUsedWhileAThreadLooks()
-    {
-        Fixture fixture;
-        std::thread looking([&] {
-            for (int i = 0; i < 50; ++i)
-                fixture.model.checkNew();
-        });
-        for (int i = 0; i < 50; ++i) {
-            OrvSim::unplug(twoFrame);
-            fixture.model.updateModel();
-            fixture.ids();
-            OrvSim::replug(twoFrame);
-        }
-        looking.join();
-        fixture.model.checkNew();
-        fixture.model.updateModel();
-        QCOMPARE(fixture.ids(), wholeSystem);
     }
 };
 

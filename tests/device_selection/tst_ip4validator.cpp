@@ -34,13 +34,6 @@ private Q_SLOTS:
         QTEST(int(IP4Validator().validate(text, pos)), "state");
         QTEST(IP4Validator::getIp(text), "address");
     }
-
-    void writesAddresses()
-    {
-        QCOMPARE(IP4Validator::getIpStr(0), QStringLiteral("0.0.0.0"));
-        QCOMPARE(IP4Validator::getIpStr(0xC0A8010A), QStringLiteral("192.168.1.10"));
-        QCOMPARE(IP4Validator::getIpStr(0xFFFFFFFF), QStringLiteral("255.255.255.255"));
-    }
 };
 
 ORV_TEST_MAIN(tst_IP4Validator)

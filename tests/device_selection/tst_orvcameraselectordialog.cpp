@@ -126,7 +126,7 @@ private Q_SLOTS:
         SystemPolling::period = std::chrono::milliseconds(1000);
     }
 
-    void looksOnceASecond() { QCOMPARE(SystemPolling::period.count(), 1000); }
+    void initTestCase() { QCOMPARE(SystemPolling::period.count(), 1000); }
 
     void picksADevice()
     {
@@ -148,31 +148,22 @@ private Q_SLOTS:
         QCOMPARE(shown.dialog->selectedCamera(), camera);
     }
 
-    void refusesWhatCannotBeOpened_data()
-    {
-        QTest::addColumn<int>("status");
-        QTest::addColumn<bool>("isAccepted");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("read-write") << 1 << true << QStringLiteral("ReadWrite");
-        QTest::newRow("read-only") << 2 << true << QStringLiteral("ReadOnly");
-        QTest::newRow("no access") << 3 << false << QStringLiteral("NO ACCESS");
-        QTest::newRow("subnet") << 1001 << false << QStringLiteral("IP Subnet Mismatch");
-        QTest::newRow("any other") << 77 << true << QStringLiteral("Unknown");
-    }
-
     void refusesWhatCannotBeOpened()
     {
-        QFETCH(int, status);
-        QFETCH(bool, isAccepted);
-        QFETCH(QString, text);
-        OrvSim::setAccessStatus(monochrome, status);
-        Shown shown;
-        shown.doubleClick(monochrome);
-        QVERIFY(shown.devicePane().contains(QStringLiteral("Access status=") + text));
-        QCOMPARE(shown.dialog->result() == QDialog::Accepted, isAccepted);
-        QCOMPARE(shown.dialog->isVisible(), !isAccepted);
-        QTest::keyClick(shown.tree(), Qt::Key_Return);
-        QCOMPARE(shown.dialog->isVisible(), !isAccepted);
+        const std::tuple<int, bool, const char *> rows[] = {{1, true, "ReadWrite"},
+                                                            {2, true, "ReadOnly"},
+                                                            {3, false, "NO ACCESS"},
+                                                            {1001, false, "IP Subnet Mismatch"},
+                                                            {77, true, "Unknown"}};
+        for (const auto &[status, isAccepted, text] : rows) {
+            OrvSim::setAccessStatus(monochrome, status);
+            Shown shown;
+            shown.doubleClick(monochrome);
+            QVERIFY2(shown.devicePane().contains(QLatin1String("Access status=") + QLatin1String(text)), text);
+            QCOMPARE(shown.dialog->result() == QDialog::Accepted, isAccepted);
+            QTest::keyClick(shown.tree(), Qt::Key_Return);
+            QCOMPARE(shown.dialog->isVisible(), !isAccepted);
+        }
     }
 
     void showsWhatThereIsToKnow()
@@ -207,42 +198,35 @@ private Q_SLOTS:
         QCOMPARE(shown.interfacePane().size(), 3);
     }
 
-    void namesEachTypeOfInterface_data()
-    {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QString>("rows");
-        const auto row = [](int type, const char *rows) {
-            QTest::addRow("%d", type) << type << QStringLiteral("Description=Port ä,Type=") + QLatin1String(rows);
-        };
-        row(0, "Custom,Version=");
-        row(1, "USB3 Vision,Version=");
-        row(2, "GigE Vision,Version=,MAC Address=00:1A:2B:3C:4D:5E,IP Address=192.168.0.1,Netmask=255.0.0.0");
-        row(3, "CameraLink,Version=");
-        row(4, "CoaXPress,Version=");
-        row(5, "HD-SDI,Version=");
-        row(6, "Custom,Version=");
-    }
-
     void namesEachTypeOfInterface()
     {
-        QFETCH(int, type);
-        OrvSim::clear();
-        OrvSim::InterfaceSpec spec;
-        spec.name = "any";
-        spec.id = "any";
-        spec.description = "Port \xc3\xa4";
-        spec.type = type;
-        spec.macAddress = 0x1A2B3C4D5E;
-        spec.network = {0xC0A80001, 0xFF000000, 0};
-        OrvSim::addInterface(spec);
-        OrvSim::addDevice("any", cameraNamed("camera"));
-        Shown shown;
-        shown.click("any");
-        QTEST(shown.interfacePane().join(QLatin1Char(',')), "rows");
-        shown.click("camera");
-        QTEST(shown.interfacePane().join(QLatin1Char(',')), "rows");
-        QCOMPARE(shown.setIp()->isEnabled(), type == OrvCam::InterfaceTypeGigEVision);
-        QCOMPARE(shown.devicePane().size(), type == OrvCam::InterfaceTypeGigEVision ? 11 : 7);
+        const char *const types[] = {"Custom",    "USB3 Vision", "GigE Vision", "CameraLink",
+                                     "CoaXPress", "HD-SDI",      "Custom"};
+        for (int type = 0; type < 7; ++type) {
+            const bool isGigE = type == OrvCam::InterfaceTypeGigEVision;
+            OrvSim::clear();
+            OrvSim::InterfaceSpec spec;
+            spec.name = "any";
+            spec.id = "any";
+            spec.description = "Port \xc3\xa4";
+            spec.type = type;
+            spec.macAddress = 0x1A2B3C4D5E;
+            spec.network = {0xC0A80001, 0xFF000000, 0};
+            OrvSim::addInterface(spec);
+            OrvSim::addDevice("any", cameraNamed("camera"));
+            QStringList rows = {QStringLiteral("Description=Port ä"),
+                                QLatin1String("Type=") + QLatin1String(types[type]), QStringLiteral("Version=")};
+            if (isGigE)
+                rows << QStringLiteral("MAC Address=00:1A:2B:3C:4D:5E") << QStringLiteral("IP Address=192.168.0.1")
+                     << QStringLiteral("Netmask=255.0.0.0");
+            Shown shown;
+            for (const char *id : {"any", "camera"}) {
+                shown.click(id);
+                QCOMPARE(shown.interfacePane(), rows);
+            }
+            QCOMPARE(shown.setIp()->isEnabled(), isGigE);
+            QCOMPARE(shown.devicePane().size(), isGigE ? 11 : 7);
+        }
     }
 
     /** Where interfaces have one identifier, a device may stand below another than its own. */
@@ -269,10 +253,10 @@ private Q_SLOTS:
     void leavesOutWhatCannotBeRead()
     {
         OrvSim::setFault("ORV-ETH-0", "GevDeviceMACAddress", OrvSim::Fault::FailRead);
-        OrvSim::DeviceSpec nameless = cameraNamed("nameless");
-        for (OrvSim::Text *text : {&nameless.vendor, &nameless.model, &nameless.displayName, &nameless.userDefinedName,
-                                   &nameless.serialNumber, &nameless.version})
-            text->reset();
+        OrvSim::DeviceSpec nameless;
+        nameless.name = "nameless";
+        nameless.id = "nameless";
+        nameless.description = OrvSim::monochromeCamera().description;
         OrvSim::addDevice("ORV-CL-0", nameless);
         OrvSim::setParameters("ORV-CL-0", OrvSim::Parameters::Null);
         Shown shown;
@@ -486,91 +470,79 @@ private Q_SLOTS:
         QVERIFY(shown.ok()->isEnabled());
     }
 
-    void proposesANeighbour_data()
-    {
-        QTest::addColumn<uint>("adapter");
-        QTest::addColumn<QString>("proposed");
-        QTest::newRow("below") << 0xC0A80A0AU << QStringLiteral("192.168.10.11");
-        QTest::newRow("128") << 0xC0A80A80U << QStringLiteral("192.168.10.129");
-        QTest::newRow("200") << 0xC0A80AC8U << QStringLiteral("192.168.10.199");
-    }
-
     void proposesANeighbour()
     {
-        QFETCH(uint, adapter);
-        QFETCH(QString, proposed);
-        OrvSim::InterfaceSpec ethernet;
-        ethernet.name = "eth";
-        ethernet.id = "eth";
-        ethernet.network = {adapter, 0xFFFFFF00, 0};
-        OrvSim::addInterface(ethernet);
-        OrvSim::addDevice("eth", cameraNamed("camera"));
-        Shown shown;
-        shown.click("camera");
-        QString seen;
-        OrvTest::whenOpen<SetIpDialog>([&](SetIpDialog &dialog) {
-            seen = edit(dialog, "ipEdit")->text();
-            dialog.reject();
-        });
-        QTest::mouseClick(shown.setIp(), Qt::LeftButton);
-        QCOMPARE(seen, proposed);
-        QVERIFY(!QApplication::activeModalWidget()); // cancelled: no message
-    }
-
-    void warnsOfAWrongAddress_data()
-    {
-        QTest::addColumn<bool>("isIgnored");
-        QTest::newRow("ok") << false;
-        QTest::newRow("ignore") << true;
+        for (const auto &[adapter, proposed] :
+             {std::pair(0xC0A80A0AU, "192.168.10.11"), std::pair(0xC0A80A80U, "192.168.10.129"),
+              std::pair(0xC0A80AC8U, "192.168.10.199")}) {
+            OrvSim::clear();
+            OrvSim::InterfaceSpec ethernet;
+            ethernet.name = "eth";
+            ethernet.id = "eth";
+            ethernet.network = {adapter, 0xFFFFFF00, 0};
+            OrvSim::addInterface(ethernet);
+            OrvSim::addDevice("eth", cameraNamed("camera"));
+            Shown shown;
+            shown.click("camera");
+            QString seen;
+            OrvTest::whenOpen<SetIpDialog>([&](SetIpDialog &dialog) {
+                seen = edit(dialog, "ipEdit")->text();
+                dialog.reject();
+            });
+            QTest::mouseClick(shown.setIp(), Qt::LeftButton);
+            QCOMPARE(seen, QLatin1String(proposed));
+            QVERIFY(!QApplication::activeModalWidget()); // cancelled: no message
+        }
     }
 
     void warnsOfAWrongAddress()
     {
-        QFETCH(bool, isIgnored);
-        Shown shown;
-        shown.click(twoFrame);
-        const QStringList before = shown.devicePane();
-        OrvTest::whenOpen<SetIpDialog>([&](SetIpDialog &dialog) {
-            edit(dialog, "ipEdit")->setText(QStringLiteral("10.1.2.3"));
-            OrvTest::whenOpen<QMessageBox>([&](QMessageBox &box) {
-                QCOMPARE(box.windowTitle(), QStringLiteral("IP Configuration Warning"));
-                QCOMPARE(box.text(),
-                         QStringLiteral("Specified IP Configuraion is not correct, camera may become undiscoverable\n"
-                                        "Press OK to skip the IP Configuration, or press Ignore to confirm"));
-                QCOMPARE(box.icon(), QMessageBox::Critical);
-                press(box, isIgnored ? QMessageBox::Ignore : QMessageBox::Ok);
+        for (const auto answer : {QMessageBox::Ok, QMessageBox::Ignore}) {
+            const bool isIgnored = answer == QMessageBox::Ignore;
+            Shown shown;
+            shown.click(twoFrame);
+            const QStringList before = shown.devicePane();
+            OrvTest::whenOpen<SetIpDialog>([&](SetIpDialog &dialog) {
+                edit(dialog, "ipEdit")->setText(QStringLiteral("10.1.2.3"));
+                OrvTest::whenOpen<QMessageBox>([&](QMessageBox &box) {
+                    QCOMPARE(box.windowTitle(), QStringLiteral("IP Configuration Warning"));
+                    QCOMPARE(
+                        box.text(),
+                        QStringLiteral("Specified IP Configuraion is not correct, camera may become undiscoverable\n"
+                                       "Press OK to skip the IP Configuration, or press Ignore to confirm"));
+                    QCOMPARE(box.icon(), QMessageBox::Critical);
+                    press(box, answer);
+                });
+                dialog.accept();
             });
-            dialog.accept();
-        });
-        QTest::mouseClick(shown.setIp(), Qt::LeftButton);
-        QCOMPARE(shown.devicePane().contains(QStringLiteral("IP Address=10.1.2.3")), isIgnored);
-        QCOMPARE(shown.devicePane() == before, !isIgnored);
-        QCOMPARE(shown.ok()->isEnabled(), !isIgnored);
+            QTest::mouseClick(shown.setIp(), Qt::LeftButton);
+            QCOMPARE(shown.devicePane().contains(QStringLiteral("IP Address=10.1.2.3")), isIgnored);
+            QCOMPARE(shown.devicePane() == before, !isIgnored);
+            QCOMPARE(shown.ok()->isEnabled(), !isIgnored);
+        }
     }
 
     void tellsOfFailures_data()
     {
         QTest::addColumn<std::function<void()>>("fault");
         QTest::addColumn<bool>("isAsked");
-        const auto failRead = [](const char *node) {
-            return [node] { OrvSim::setFault("ORV-ETH-0", node, OrvSim::Fault::FailRead); };
+        const auto row = [](const char *name, const std::function<void()> &fault, bool isAsked) {
+            QTest::newRow(name) << fault << isAsked;
         };
-        QTest::newRow("parameters") << std::function<void()>([] {
-            OrvSim::setParameters("ORV-ETH-0", OrvSim::Parameters::Error);
-        }) << false;
-        QTest::newRow("no parameters") << std::function<void()>([] {
-            OrvSim::setParameters("ORV-ETH-0", OrvSim::Parameters::Null);
-        }) << false;
-        QTest::newRow("selector") << std::function<void()>([] {
-            OrvSim::setFault("ORV-ETH-0", "DeviceSelector", OrvSim::Fault::FailWrite);
-        }) << false;
+        const char *const adapter = "ORV-ETH-0";
+        row(
+            "parameters", [=] { OrvSim::setParameters(adapter, OrvSim::Parameters::Error); }, false);
+        row(
+            "no parameters", [=] { OrvSim::setParameters(adapter, OrvSim::Parameters::Null); }, false);
+        row(
+            "selector", [=] { OrvSim::setFault(adapter, "DeviceSelector", OrvSim::Fault::FailWrite); }, false);
         for (const char *node : {"GevInterfaceMACAddress", "GevInterfaceSubnetIPAddress", "GevInterfaceSubnetMask",
                                  "GevDeviceMACAddress", "GevDeviceForceGateway"})
-            QTest::newRow(node) << std::function<void()>(failRead(node)) << false;
-        QTest::newRow("refused") << std::function<void()>([] {
-            OrvSim::refuseForceIp(twoFrame, OrvCamErr_GenICamTreeError);
-        }) << true;
-        QTest::newRow("device gone") << std::function<void()>() << true;
+            row(
+                node, [=] { OrvSim::setFault(adapter, node, OrvSim::Fault::FailRead); }, false);
+        row(
+            "refused", [] { OrvSim::refuseForceIp(twoFrame, OrvCamErr_GenICamTreeError); }, true);
+        row("device gone", {}, true);
     }
 
     void tellsOfFailures()
@@ -605,58 +577,40 @@ private Q_SLOTS:
     }
 
     /** While it asks for an address, or shows a message, the dialog may be closed or destroyed. */
-    void endsWhileItAsks_data()
-    {
-        QTest::addColumn<bool>("inMessage");
-        QTest::addColumn<bool>("isDestroyed");
-        QTest::newRow("address") << false << true;
-        QTest::newRow("warning") << true << true;
-        QTest::newRow("address, closed") << false << false;
-        QTest::newRow("warning, closed") << true << false;
-    }
-
     void endsWhileItAsks()
     {
-        QFETCH(bool, inMessage);
-        QFETCH(bool, isDestroyed);
-        Shown shown;
-        shown.click(twoFrame);
-        bool isOver = false;
-        const auto end = [&] {
-            if (isDestroyed)
-                shown.dialog.reset();
-            else
-                shown.dialog->reject();
-            isOver = true;
-        };
-        OrvTest::whenOpen<SetIpDialog>([&](SetIpDialog &dialog) {
-            if (inMessage) {
-                edit(dialog, "ipEdit")->setText(QStringLiteral("10.1.2.3"));
-                OrvTest::whenOpen<QMessageBox>([&](QMessageBox &box) {
+        for (const auto &[inMessage, isDestroyed] :
+             {std::pair(false, true), std::pair(true, true), std::pair(false, false), std::pair(true, false)}) {
+            Shown shown;
+            shown.click(twoFrame);
+            bool isOver = false;
+            const auto end = [&, destroys = isDestroyed] {
+                if (destroys)
+                    shown.dialog.reset();
+                else
+                    shown.dialog->reject();
+                isOver = true;
+            };
+            OrvTest::whenOpen<SetIpDialog>([&, asksMore = inMessage, destroys = isDestroyed](SetIpDialog &dialog) {
+                if (asksMore) {
+                    edit(dialog, "ipEdit")->setText(QStringLiteral("10.1.2.3"));
+                    OrvTest::whenOpen<QMessageBox>([&end, destroys](QMessageBox &box) {
+                        end();
+                        if (!destroys)
+                            press(box, QMessageBox::Ignore);
+                    });
+                } else {
                     end();
-                    if (!isDestroyed)
-                        press(box, QMessageBox::Ignore);
-                });
-            } else {
-                end();
-            }
-            if (inMessage || !isDestroyed)
-                dialog.accept();
-        });
-        // Not by a click, whose sender would be destroyed under the test.
-        QMetaObject::invokeMethod(
-            shown.dialog.get(), [&] { shown.setIp()->click(); }, Qt::QueuedConnection);
-        QTRY_VERIFY(isOver);
-        QTRY_VERIFY(!QApplication::activeModalWidget());
-    }
-
-    void hasNoCamerasWithoutASystem()
-    {
-        OrvGui::OrvCameraSelectorDialog dialog(nullptr, nullptr, true);
-        dialog.show();
-        QVERIFY(!dialog.selectedCamera());
-        QTest::keyClick(&dialog, Qt::Key_Escape);
-        QCOMPARE(dialog.result(), int(QDialog::Rejected));
+                }
+                if (asksMore || !destroys)
+                    dialog.accept();
+            });
+            // Not by a click, whose sender would be destroyed under the test.
+            QMetaObject::invokeMethod(
+                shown.dialog.get(), [&] { shown.setIp()->click(); }, Qt::QueuedConnection);
+            QTRY_VERIFY(isOver);
+            QTRY_VERIFY(!QApplication::activeModalWidget());
+        }
     }
 };
 

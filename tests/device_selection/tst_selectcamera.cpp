@@ -48,16 +48,10 @@ class TestSelectCamera : public OrvTest::TestCase
 private Q_SLOTS:
     void init();
     void cleanup();
-    void makesTheApplicationItNeeds();
     void answersTheChosenCamera();
-    void answersNullWhenCancelled_data();
     void answersNullWhenCancelled();
-    void pollsWhenItIsTold();
     void standsInFrontOfAForeignWindow();
-    void doesWithoutAWindow_data();
-    void doesWithoutAWindow();
-    void belongsToAWidget();
-    void goesWithItsParent();
+    void belongsToAWidgetAndGoesWithIt();
 
 private:
     SimTest::Held<OrvCam::System> m_system;
@@ -78,12 +72,6 @@ void TestSelectCamera::cleanup()
     TestCase::cleanup();
 }
 
-void TestSelectCamera::makesTheApplicationItNeeds()
-{
-    QVERIFY(qobject_cast<QApplication *>(QCoreApplication::instance()));
-    QVERIFY(QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps));
-}
-
 void TestSelectCamera::answersTheChosenCamera()
 {
     const auto chooseFirst = [](OrvCameraSelectorDialog &dialog) {
@@ -102,45 +90,29 @@ void TestSelectCamera::answersTheChosenCamera()
     }
 }
 
-void TestSelectCamera::answersNullWhenCancelled_data()
-{
-    QTest::addColumn<bool>("wide");
-    QTest::addColumn<bool>("hasTitle");
-    QTest::addColumn<bool>("hasSystem");
-    QTest::newRow("narrow") << false << true << true;
-    QTest::newRow("wide") << true << true << true;
-    QTest::newRow("narrow, no title") << false << false << true;
-    QTest::newRow("wide, no title, no system") << true << false << false;
-}
-
 void TestSelectCamera::answersNullWhenCancelled()
 {
-    QFETCH(bool, wide);
-    QFETCH(bool, hasTitle);
-    QFETCH(bool, hasSystem);
-    QString title;
-    whenOpen([&](OrvCameraSelectorDialog &dialog) {
-        title = dialog.windowTitle();
-        QVERIFY(dialog.isModal() && !dialog.parent());
-        QCOMPARE(dialog.findChild<QTreeView *>(QStringLiteral("deviceTreeView"))->model()->rowCount() > 0, hasSystem);
-        // A camera is current, but the button is not clicked.
-        QTest::keyClick(dialog.focusWidget(), Qt::Key_Down);
-        cancel(dialog);
-    });
-    OrvCam::System *const system = hasSystem ? m_system.get() : nullptr;
-    QVERIFY(!(wide ? SelectCameraW(system, hasTitle ? L"\u00b5 \U0001F4F7" : nullptr, 0, false)
-                   : SelectCameraA(system, hasTitle ? "\xc2\xb5 \xf0\x9f\x93\xb7" : nullptr, 0, true)));
-    QCOMPARE(title, hasTitle ? QStringLiteral("µ 📷") : QString());
-}
-
-void TestSelectCamera::pollsWhenItIsTold()
-{
-    for (const bool poll : {false, true}) {
-        whenOpen([poll](OrvCameraSelectorDialog &dialog) {
-            QCOMPARE(dialog.isPollChecked(), poll);
+    const struct
+    {
+        bool wide, hasTitle, hasSystem, poll;
+    } rows[] = {
+        {false, true, true, true}, {true, true, true, false}, {false, false, true, false}, {true, false, false, true}};
+    for (const auto &row : rows) {
+        QString title;
+        whenOpen([&](OrvCameraSelectorDialog &dialog) {
+            title = dialog.windowTitle();
+            QVERIFY(dialog.isModal() && !dialog.parent());
+            QCOMPARE(dialog.isPollChecked(), row.poll);
+            QCOMPARE(dialog.findChild<QTreeView *>(QStringLiteral("deviceTreeView"))->model()->rowCount() > 0,
+                     row.hasSystem);
+            // A camera is current, but the button is not clicked.
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Down);
             cancel(dialog);
         });
-        QVERIFY(!SelectCameraA(m_system.get(), "Camera", 0, poll));
+        OrvCam::System *const system = row.hasSystem ? m_system.get() : nullptr;
+        QVERIFY(!(row.wide ? SelectCameraW(system, row.hasTitle ? L"\u00b5 \U0001F4F7" : nullptr, 0, row.poll)
+                           : SelectCameraA(system, row.hasTitle ? "\xc2\xb5 \xf0\x9f\x93\xb7" : nullptr, 0, row.poll)));
+        QCOMPARE(title, row.hasTitle ? QStringLiteral("µ 📷") : QString());
     }
 }
 
@@ -167,25 +139,10 @@ void TestSelectCamera::standsInFrontOfAForeignWindow()
     QVERIFY(SelectCameraA(m_system.get(), "Camera", foreign.id(), true));
 }
 
-void TestSelectCamera::doesWithoutAWindow_data()
+void TestSelectCamera::belongsToAWidgetAndGoesWithIt()
 {
-    QTest::addColumn<unsigned long>("id");
-    QTest::newRow("small") << 1UL;
-    QTest::newRow("nobody's") << 0x1ff00001UL;
-    QTest::newRow("more than a window can have") << ~0UL;
-}
-
-void TestSelectCamera::doesWithoutAWindow()
-{
-    QFETCH(unsigned long, id);
-    whenOpen([](OrvCameraSelectorDialog &dialog) { choose(dialog, QStringLiteral("TF-2000C (SN0001)")); });
-    QVERIFY(SelectCameraA(m_system.get(), "Camera", id, false));
-}
-
-void TestSelectCamera::belongsToAWidget()
-{
-    QWidget parent;
-    QWidget *const child = new QWidget(&parent);
+    auto parent = std::make_unique<QWidget>();
+    QWidget *const child = new QWidget(parent.get());
     whenOpen([&](OrvCameraSelectorDialog &dialog) {
         QCOMPARE(dialog.parentWidget(), child);
         QVERIFY(dialog.isWindow());
@@ -193,14 +150,8 @@ void TestSelectCamera::belongsToAWidget()
     });
     QVERIFY(!SelectCameraA(m_system.get(), "Camera", child->winId(), false));
     QVERIFY(child->children().isEmpty());
-    parent.hide();
-}
-
-void TestSelectCamera::goesWithItsParent()
-{
-    auto parent = std::make_unique<QWidget>();
     whenOpen([&parent](OrvCameraSelectorDialog &) { parent.reset(); });
-    QVERIFY(!SelectCameraA(m_system.get(), "Camera", parent->winId(), true));
+    QVERIFY(!SelectCameraA(m_system.get(), "Camera", child->winId(), true));
     QVERIFY(!parent);
 }
 

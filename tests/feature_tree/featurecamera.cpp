@@ -1,5 +1,7 @@
 #include "featurecamera.h"
 
+#include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
+
 namespace {
 
 /** A register of 8 bytes at \a address. */
@@ -65,4 +67,34 @@ QByteArray FeatureCamera::allKinds()
 )" + reg("ExposureReg", 0x00)
         + reg("AddressReg", 0x08) + reg("MacReg", 0x10) + reg("MaskReg", 0x18) + reg("FlagReg", 0x20)
         + reg("StartReg", 0x28, "WO") + reg("ModeReg", 0x30) + reg("KeyReg", 0x38, "WO") + reg("SerialReg", 0x40, "RO");
+}
+
+QModelIndexList rowsOf(const QAbstractItemModel &model, const QModelIndex &parent)
+{
+    QModelIndexList all;
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        all += model.index(row, GenParamTreeModel::NameColumn, parent);
+        all += rowsOf(model, all.last());
+    }
+    return all;
+}
+
+GenApi::INode *nodeOf(const QModelIndex &index)
+{
+    return dynamic_cast<GenApi::INode *>(index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>());
+}
+
+QString nodeName(const QModelIndex &index)
+{
+    return QString::fromUtf8(nodeOf(index)->GetName().c_str());
+}
+
+QModelIndex cellOf(const QAbstractItemModel &model, const GenApi::INode *node, int column)
+{
+    const QModelIndexList all = rowsOf(model);
+    for (const QModelIndex &index : all) {
+        if (nodeOf(index) == node)
+            return index.siblingAtColumn(column);
+    }
+    return {};
 }

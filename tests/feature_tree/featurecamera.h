@@ -4,6 +4,7 @@
 #include <OrvGenApi/memoryport.h>
 #include <OrvGenApi/nodemap.h>
 
+#include <QAbstractItemModel>
 #include <QByteArray>
 
 #include <memory>
@@ -26,3 +27,14 @@ struct FeatureCamera
     OrvGenApi::MemoryPort port;
     std::unique_ptr<OrvGenApi::NodeMap> map;
 };
+
+/** All rows under \a parent, depth first. */
+QModelIndexList rowsOf(const QAbstractItemModel &model, const QModelIndex &parent = QModelIndex());
+
+/** The node that the row shows. */
+GenApi::INode *nodeOf(const QModelIndex &index);
+
+QString nodeName(const QModelIndex &index);
+
+/** The cell of the first row that shows \a node; invalid when there is none. */
+QModelIndex cellOf(const QAbstractItemModel &model, const GenApi::INode *node, int column = 1);

@@ -60,16 +60,7 @@ struct ShownView : FeatureCamera
         return view.findChild<Widget *>(QLatin1String(name));
     }
 
-    /** All rows under \a parent, depth first. */
-    QModelIndexList rows(const QModelIndex &parent = QModelIndex()) const
-    {
-        QModelIndexList all;
-        for (int row = 0; row < tree->model()->rowCount(parent); ++row) {
-            all += tree->model()->index(row, GenParamTreeModel::NameColumn, parent);
-            all += rows(all.last());
-        }
-        return all;
-    }
+    QModelIndexList rows() const { return rowsOf(*tree->model()); }
 
     /** The cell of the row that shows \a name in its first column; invalid when there is none. */
     QModelIndex cell(const char *name, int column = GenParamTreeModel::ValueColumn) const

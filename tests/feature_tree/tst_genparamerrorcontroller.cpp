@@ -7,25 +7,17 @@ class TestGenParamErrorController : public OrvTest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void keepsTheFirstMessage();
     void keepsANameWhileItHasErrors();
     void listsInOrder();
 };
-
-void TestGenParamErrorController::keepsTheFirstMessage()
-{
-    GenParamErrorController errors;
-    QVERIFY(errors.SetError(QStringLiteral("Gain"), QStringLiteral("first"), 0));
-    QVERIFY(!errors.SetError(QStringLiteral("Gain"), QStringLiteral("second"), 0));
-    QCOMPARE(errors.firstMessage(QStringLiteral("Gain")), QStringLiteral("first"));
-}
 
 void TestGenParamErrorController::keepsANameWhileItHasErrors()
 {
     const QString name = QStringLiteral("Gain");
     GenParamErrorController errors;
     errors.SetError(name, QStringLiteral("written"), 256);
-    errors.SetError(name, QStringLiteral("read"), 0);
+    QVERIFY(errors.SetError(name, QStringLiteral("read"), 0));
+    QVERIFY(!errors.SetError(name, QStringLiteral("again"), 0));
     QCOMPARE(errors.firstMessage(name), QStringLiteral("read"));
     QVERIFY(!errors.ClearError(name, 2));
     QVERIFY(!errors.ClearError(QStringLiteral("Other"), 0));

@@ -1,6 +1,5 @@
 #include "featurecamera.h"
 #include "orvtest.h"
-#include "plainfilter.h"
 
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreevisibilityfilterproxymodel.h>
@@ -55,16 +54,6 @@ QString shape(const QAbstractItemModel &model, const QModelIndex &parent = QMode
         rows += index.data().toString() + (below.isEmpty() ? QString() : QLatin1Char('(') + below + QLatin1Char(')'));
     }
     return rows.join(QLatin1Char(','));
-}
-
-QModelIndexList allRows(const QAbstractItemModel &model, const QModelIndex &parent = QModelIndex())
-{
-    QModelIndexList rows;
-    for (int row = 0; row < model.rowCount(parent); ++row) {
-        rows += model.index(row, row % 2, parent);
-        rows += allRows(model, model.index(row, 0, parent));
-    }
-    return rows;
 }
 
 QString randomText(QRandomGenerator &random, const QString &letters, int longest)
@@ -139,63 +128,13 @@ private Q_SLOTS:
         }
     }
 
-    /** Random filters and changes beside Qt's own proxy: the same rows, and the same persistent indexes live on. */
-    void followsThePlainProxy()
-    {
-        const FeatureCamera camera(description());
-        GenParamTreeModel model(camera.map.get(), nullptr);
-        GenParamTreeVisibilityFilterProxyModel proxy(nullptr);
-        PlainFilter plain;
-        proxy.setSourceModel(&model);
-        plain.setSourceModel(&model);
-        const QAbstractItemModelTester tester(&proxy, QAbstractItemModelTester::FailureReportingMode::QtTest);
-        QRandomGenerator random(2);
-        const char *const texts[] = {"*", "", "gain", "G?in*", "expo", "nothing", "[", "Gamma"};
-        for (int round = 0; round < 400; ++round) {
-            const QModelIndexList rows = allRows(proxy);
-            QCOMPARE(allRows(plain).size(), rows.size());
-            QVector<QPersistentModelIndex> ours, theirs;
-            for (const QModelIndex &index : rows) {
-                ours.append(index);
-                theirs.append(plain.mapFromSource(proxy.mapToSource(index)));
-                QVERIFY(theirs.last().isValid());
-            }
-            switch (random.bounded(5)) {
-            case 0:
-                plain.level = random.bounded(3);
-                proxy.setFilterVisibility(plain.level);
-                break;
-            case 1:
-                plain.wholeWords = random.bounded(2);
-                proxy.setWholeWords(plain.wholeWords);
-                break;
-            case 2:
-                plain.pattern.setCaseSensitivity(random.bounded(2) ? Qt::CaseSensitive : Qt::CaseInsensitive);
-                proxy.setCaseSensitive(plain.pattern.caseSensitivity() == Qt::CaseSensitive);
-                break;
-            case 3:
-                camera.node<GenApi::CIntegerPtr>("Switch")->SetValue(random.bounded(2));
-                break;
-            default:
-                plain.pattern.setPattern(QString::fromLatin1(texts[random.bounded(8)]));
-                proxy.setFilterText(plain.pattern.pattern());
-            }
-            plain.refilter();
-            QCOMPARE(shape(proxy), shape(plain));
-            for (int i = 0; i < ours.size(); ++i) {
-                QCOMPARE(proxy.mapToSource(ours[i]), plain.mapToSource(theirs[i]));
-                QCOMPARE(QModelIndex(ours[i]), proxy.mapFromSource(proxy.mapToSource(ours[i])));
-            }
-        }
-    }
-
     void announcesOnlyWhatChanges()
     {
         const FeatureCamera camera(description());
         GenParamTreeModel model(camera.map.get(), nullptr);
         GenParamTreeVisibilityFilterProxyModel proxy(nullptr);
         proxy.setSourceModel(&model);
-        allRows(proxy);
+        rowsOf(proxy);
         int layouts = 0;
         connect(&proxy, &QAbstractItemModel::layoutChanged, this, [&layouts] { ++layouts; });
         QSignalSpy data(&proxy, &QAbstractItemModel::dataChanged);
@@ -239,7 +178,7 @@ private Q_SLOTS:
                            "Empty(Exposure Time,Gain Auto,Image(Exposure Time,Auto Exposure,Gain,Gain Auto),Gamma),"
                            "Deep(Top)"));
         QVector<QPair<QPersistentModelIndex, QString>> kept;
-        for (const QModelIndex &index : allRows(proxy))
+        for (const QModelIndex &index : rowsOf(proxy))
             kept.append({index, index.siblingAtColumn(0).data().toString()});
         for (const char *text : {"gain", "*", "top", "", "expo"}) {
             proxy.setFilterText(QString::fromLatin1(text));
@@ -258,7 +197,7 @@ private Q_SLOTS:
         GenParamTreeModel model(camera.map.get(), nullptr);
         GenParamTreeVisibilityFilterProxyModel proxy(nullptr);
         proxy.setSourceModel(&model);
-        allRows(proxy);
+        rowsOf(proxy);
         const QModelIndex second = proxy.index(0, 1, proxy.index(1, 0));
         QSignalSpy data(&proxy, &QAbstractItemModel::dataChanged);
         QVERIFY(proxy.setData(second, 7));
@@ -286,7 +225,7 @@ private Q_SLOTS:
         GenParamTreeModel model(camera.map.get(), nullptr);
         GenParamTreeVisibilityFilterProxyModel proxy(nullptr);
         proxy.setSourceModel(&model);
-        const QModelIndexList rows = allRows(proxy);
+        const QModelIndexList rows = rowsOf(proxy);
         for (const QModelIndex &index : rows) {
             const QModelIndex name = index.siblingAtColumn(0);
             QVERIFY(!name.parent().isValid() || rows.contains(name.parent())

@@ -173,14 +173,11 @@ QString nameOf(const QModelIndex &index)
     return index.siblingAtColumn(0).data().toString();
 }
 
-QStringList namesOf(const QAbstractItemModel &model, const QModelIndex &parent = QModelIndex())
+QStringList namesOf(const QAbstractItemModel &model)
 {
     QStringList names;
-    for (int row = 0; row < model.rowCount(parent); ++row) {
-        const QModelIndex index = model.index(row, 0, parent);
-        names += nameOf(index);
-        names += namesOf(model, index);
-    }
+    const QModelIndexList rows = rowsOf(model);
+    std::transform(rows.begin(), rows.end(), std::back_inserter(names), nameOf);
     return names;
 }
 

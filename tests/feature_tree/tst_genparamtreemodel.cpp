@@ -6,7 +6,6 @@
 #include <OrvGenApi/testing/faults.h>
 
 #include "orvtest.h"
-#include "simtest.h"
 
 #include <QAbstractItemModelTester>
 #include <QComboBox>
@@ -33,33 +32,11 @@ struct FeatureTree : FeatureCamera
     {
     }
 
-    static QString nodeName(const QModelIndex &index)
-    {
-        auto *const value = index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
-        return QString::fromUtf8(GenApi::CNodePtr(value)->GetName().c_str());
-    }
-
-    /** All rows under \a parent, depth first. */
-    QModelIndexList rows(const QModelIndex &parent = QModelIndex()) const
-    {
-        QModelIndexList all;
-        for (int row = 0; row < model->rowCount(parent); ++row) {
-            all += model->index(row, nameColumn, parent);
-            all += rows(all.last());
-        }
-        return all;
-    }
-
+    QModelIndexList rows() const { return rowsOf(*model); }
     QModelIndex cell(const char *name, int column = valueColumn) const
     {
-        const QModelIndexList all = rows();
-        for (const QModelIndex &index : all) {
-            if (nodeName(index) == QLatin1String(name))
-                return index.sibling(index.row(), column);
-        }
-        return {};
+        return cellOf(*model, map->GetNode(name), column);
     }
-
     QVariant value(const char *name, int role = Qt::DisplayRole) const { return cell(name).data(role); }
 
     std::unique_ptr<GenParamTreeModel> model;
@@ -81,7 +58,7 @@ QStringList changedFeatures(const QSignalSpy &dataChanged)
         const auto cell = arguments.first().toModelIndex();
         if (cell == arguments.at(1).toModelIndex() && cell.column() == valueColumn
             && !cell.model()->hasChildren(cell.siblingAtColumn(nameColumn)))
-            names += FeatureTree::nodeName(cell);
+            names += nodeName(cell);
     }
     return names;
 }
@@ -96,29 +73,24 @@ class TestGenParamTreeModel : public OrvTest::TestCase
 
 private Q_SLOTS:
     void showsTheTree();
-    void showsAParameterArray();
     void hasNoRowsWithoutFeatures();
     void keepsTheFirstPlaceOfAFeature();
     void endsCategoriesInsideThemselves();
     void boundsNestedCategories();
-    void texts_data();
     void texts();
     void declaredAddressesOverruleNames();
     void names();
     void colorsAndFlags();
-    void whatsThis_data();
     void whatsThis();
     void editors_data();
     void editors();
     void editorsFollowTheFeature();
     void readsOnlyWhatARoleNeeds();
     void reportsAFailedReadOnce();
-    void survivesFailingGetters();
     void writes_data();
     void writes();
     void reportsFailedWrites();
     void slotsMayCallBack();
-    void reportsChangesAtOnce();
     void queuesChangesOfOtherThreads();
     void dropsChangesWhenItGoes();
     void mayGoInASlot();
@@ -131,7 +103,7 @@ void TestGenParamTreeModel::showsTheTree()
     QStringList names;
     const QModelIndexList rows = tree.rows();
     for (const QModelIndex &index : rows)
-        names += FeatureTree::nodeName(index.parent().isValid() ? index.parent() : index);
+        names += nodeName(index.parent().isValid() ? index.parent() : index);
     QCOMPARE(names.join(QLatin1Char(' ')),
              QStringLiteral("Numbers Numbers Numbers Numbers Numbers Numbers Numbers Numbers Numbers "
                             "Others Others Others Others Others Others Access Access Access Access"));
@@ -144,30 +116,15 @@ void TestGenParamTreeModel::showsTheTree()
     QVERIFY(!tree.model->index(0, 2).isValid());
 }
 
-void TestGenParamTreeModel::showsAParameterArray()
-{
-    const auto device = SimTest::open(SimTest::monochrome);
-    OrvGenParam::Array *const params = device->GetCameraParameters(nullptr);
-    const GenParamTreeModel ofArray(params, nullptr);
-    const GenParamTreeModel ofMap(params->GetNodeMap(), nullptr);
-    QVERIFY(ofArray.rowCount() > 0);
-    QCOMPARE(ofArray.rowCount(), ofMap.rowCount());
-    QCOMPARE(ofArray.index(0, 0).data(), ofMap.index(0, 0).data());
-}
-
 void TestGenParamTreeModel::hasNoRowsWithoutFeatures()
 {
     const GenParamTreeModel withoutMap(static_cast<GenApi::INodeMap *>(nullptr), nullptr);
-    const GenParamTreeModel withoutArray(static_cast<OrvGenParam::Array *>(nullptr), nullptr);
     const FeatureTree withoutRoot("<Integer Name=\"Width\"><Value>1</Value></Integer>");
     const FeatureTree rootIsNoCategory("<Integer Name=\"Root\"><Value>1</Value></Integer>");
-    const FeatureTree withEmptyRoot("<Category Name=\"Root\"/>");
-    const GenParamTreeModel *const models[] = {&withoutMap, &withoutArray, withoutRoot.model.get(),
-                                               rootIsNoCategory.model.get(), withEmptyRoot.model.get()};
+    const GenParamTreeModel *const models[] = {&withoutMap, withoutRoot.model.get(), rootIsNoCategory.model.get()};
     for (const GenParamTreeModel *model : models) {
         QCOMPARE(model->rowCount(), 0);
         QVERIFY(!model->index(0, 0).isValid());
-        QCOMPARE(model->columnCount(), 2);
         QVERIFY(!model->data(QModelIndex()).isValid());
         QCOMPARE(model->flags(QModelIndex()), Qt::NoItemFlags);
     }
@@ -185,7 +142,7 @@ void TestGenParamTreeModel::keepsTheFirstPlaceOfAFeature()
     const QModelIndex left = tree.model->index(0, 0);
     const QModelIndex right = tree.model->index(1, 0);
     const QModelIndex again = tree.model->index(2, nameColumn, right);
-    QCOMPARE(FeatureTree::nodeName(again), QStringLiteral("Height"));
+    QCOMPARE(nodeName(again), QStringLiteral("Height"));
     QCOMPARE(again.row(), 2);
     QCOMPARE(again.parent(), left);
     QCOMPARE(tree.rows().size(), 8);
@@ -207,7 +164,7 @@ void TestGenParamTreeModel::endsCategoriesInsideThemselves()
     QStringList names;
     const QModelIndexList rows = tree.rows();
     for (const QModelIndex &index : rows)
-        names += FeatureTree::nodeName(index);
+        names += nodeName(index);
     QCOMPARE(names.join(QLatin1Char(' ')), QStringLiteral("Outer Inner Outer Root Inner Twice Width Twice Width"));
 }
 
@@ -236,53 +193,31 @@ void TestGenParamTreeModel::boundsNestedCategories()
     QVERIFY(rows > 10000 && rows <= 1000000 + 2 * 1000);
 }
 
-void TestGenParamTreeModel::texts_data()
-{
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<QByteArray>("value");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QVariant>("edit");
-    const auto row = [](const char *title, const char *name, const char *value, const char *text,
-                        const QVariant &edit) {
-        QTest::newRow(title) << QByteArray(name) << QByteArray(value) << QString::fromUtf8(text) << edit;
-    };
-    const auto same = [&](const char *title, const char *name, const char *value, const char *text) {
-        row(title, name, value, text, QString::fromUtf8(text));
-    };
-    row("unit", "Exposure", "1500", "1500us", qint64(1500));
-    same("address by name", "GevSCDA", "4022337802", "239.192.1.10");
-    same("only 32 bits", "GevSCDA", "-1", "255.255.255.255");
-    same("mac", "GevMACAddress", "0x0001A2B3C4D5", "00:01:A2:B3:C4:D5");
-    row("hex", "Mask", "0xbeef", "BEEF", qint64(0xbeef));
-    row("negative hex", "Mask", "-1", "FFFFFFFFFFFFFFFF", qint64(-1));
-    row("list", "Binning", "4", "4px", QVariant::fromValue(VariantData{qint64(4)}));
-    row("float", "Gain", "2", "2.000dB", 2.0);
-    row("float list", "Fraction", "5.5", "5.500000mm", QVariant::fromValue(VariantData{5.5}));
-    row("true", "Flag", "1", "True", true);
-    row("command", "Start", nullptr, "Execute", QVariant());
-    same("string", "Label", "Größe", "Größe");
-    row("entry", "Mode", "Continuous", "Continuous", quint64(10));
-    same("write only", "Key", nullptr, "<Value not readable>");
-    same("not available", "Gone", nullptr, "<Value not available>");
-    row("register", "Blob", nullptr, "", QVariant());
-    row("category", "Others", nullptr, "", QVariant());
-}
-
 void TestGenParamTreeModel::texts()
 {
-    QFETCH(QByteArray, name);
-    QFETCH(QByteArray, value);
-    QFETCH(QVariant, edit);
+    const std::tuple<const char *, const char *, const char *> rows[] = {
+        {"Exposure", "1500", "1500us"},
+        {"GevSCDA", "-1", "255.255.255.255"}, // only 32 bits count
+        {"GevMACAddress", "0x0001A2B3C4D5", "00:01:A2:B3:C4:D5"},
+        {"Mask", "-1", "FFFFFFFFFFFFFFFF"},
+        {"Binning", "4", "4px"},
+        {"Fraction", "5.5", "5.500000mm"},
+        {"Mode", "Continuous", "Continuous"},
+        {"Key", nullptr, "<Value not readable>"},
+        {"Gone", nullptr, "<Value not available>"},
+        {"Blob", nullptr, ""},
+        {"Others", nullptr, ""},
+    };
     const FeatureTree tree;
-    if (!value.isEmpty())
-        tree.node<GenApi::CValuePtr>(name.constData())->FromString(value.constData());
-    QTEST(tree.value(name.constData()).toString(), "text");
-    const QVariant actual = tree.value(name.constData(), Qt::EditRole);
-    QCOMPARE(actual.userType(), edit.userType());
-    if (actual.userType() == qMetaTypeId<VariantData>())
-        QCOMPARE(actual.value<VariantData>().value, edit.value<VariantData>().value);
-    else
-        QCOMPARE(actual, edit);
+    for (const auto &[name, value, text] : rows) {
+        if (value)
+            tree.node<GenApi::CValuePtr>(name)->FromString(value);
+        QCOMPARE(tree.value(name).toString(), QString::fromUtf8(text));
+    }
+    for (const char *name : {"Start", "Blob", "Others"})
+        QVERIFY(!tree.value(name, Qt::EditRole).isValid());
+    QCOMPARE(tree.value("Fraction", Qt::EditRole).value<VariantData>().value, QVariant(5.5));
+    QCOMPARE(tree.value("Mask", Qt::EditRole), QVariant(qint64(-1)));
 }
 
 void TestGenParamTreeModel::declaredAddressesOverruleNames()
@@ -337,41 +272,30 @@ void TestGenParamTreeModel::colorsAndFlags()
     QCOMPARE(tree.model->flags(tree.cell("Mode")), plain);
 }
 
-void TestGenParamTreeModel::whatsThis_data()
-{
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("integer") << QByteArray("Exposure")
-                             << "<i>Name:</i> Exposure|<i>Selectors:</i> Mode|<i>Type:</i> Integer|"
-                                "<i>Limits</i>: Min: -4, Max: 4000|<i>Increment</i>: 4|"
-                                "<i>Description:</i> Time &lt; one frame &amp; more|<i>Streamable:</i> True|"
-                                "<i>Cachable:</i> WriteThrough";
-    QTest::newRow("list") << QByteArray("Binning")
-                          << "<i>Name:</i> Binning|<i>Type:</i> Integer|<i>Limits</i>: Min: 1, Max: 5|"
-                             "<i>Valid values</i>: 1,2,4|<i>Description:</i> |<i>Streamable:</i> False|"
-                             "<i>Cachable:</i> WriteThrough";
-    QTest::newRow("float") << QByteArray("Gain")
-                           << "<i>Name:</i> Gain|<i>Type:</i> Float|<i>Limits</i>: Min: 0.25, Max: 8.25|"
-                              "<i>Increment</i>: 0.25|<i>Description:</i> |<i>Streamable:</i> False|"
-                              "<i>Cachable:</i> WriteAround";
-    QTest::newRow("enumeration") << QByteArray("Mode")
-                                 << "<i>Name:</i> Mode|<i>Type:</i> Enumeration|<i>Enumeration entries</i>:|"
-                                    "\"Off\": 0 (0x00000000)|\"Continuous\": 10 (0x0000000a)|"
-                                    "\"Never\": 3 (0x00000003)|<i>Description:</i> |<i>Streamable:</i> False|"
-                                    "<i>Cachable:</i> WriteThrough";
-    // Its limits cannot be had.
-    QTest::newRow("not available") << QByteArray("Gone")
-                                   << "<i>Name:</i> Gone|<i>Type:</i> Integer|<i>Description:</i> |"
-                                      "<i>Streamable:</i> False|<i>Cachable:</i> WriteThrough";
-}
-
 void TestGenParamTreeModel::whatsThis()
 {
-    QFETCH(QByteArray, name);
+    const std::pair<const char *, const char *> rows[] = {
+        {"Exposure",
+         "<i>Selectors:</i> Mode|<i>Type:</i> Integer|<i>Limits</i>: Min: -4, Max: 4000|<i>Increment</i>: 4|"
+         "<i>Description:</i> Time &lt; one frame &amp; more|<i>Streamable:</i> True|<i>Cachable:</i> WriteThrough"},
+        {"Binning",
+         "<i>Type:</i> Integer|<i>Limits</i>: Min: 1, Max: 5|<i>Valid values</i>: 1,2,4|<i>Description:</i> |"
+         "<i>Streamable:</i> False|<i>Cachable:</i> WriteThrough"},
+        {"Gain",
+         "<i>Type:</i> Float|<i>Limits</i>: Min: 0.25, Max: 8.25|<i>Increment</i>: 0.25|<i>Description:</i> |"
+         "<i>Streamable:</i> False|<i>Cachable:</i> WriteAround"},
+        {"Mode",
+         "<i>Type:</i> Enumeration|<i>Enumeration entries</i>:|\"Off\": 0 (0x00000000)|"
+         "\"Continuous\": 10 (0x0000000a)|\"Never\": 3 (0x00000003)|<i>Description:</i> |"
+         "<i>Streamable:</i> False|<i>Cachable:</i> WriteThrough"},
+        // Its limits cannot be had.
+        {"Gone", "<i>Type:</i> Integer|<i>Description:</i> |<i>Streamable:</i> False|<i>Cachable:</i> WriteThrough"},
+    };
     const FeatureTree tree;
-    QTEST(
-        tree.value(name.constData(), Qt::WhatsThisRole).toString().replace(QLatin1String("<br />"), QLatin1String("|")),
-        "text");
+    for (const auto &[name, text] : rows) {
+        QCOMPARE(tree.value(name, Qt::WhatsThisRole).toString().replace(QLatin1String("<br />"), QLatin1String("|")),
+                 QLatin1String("<i>Name:</i> ") + QLatin1String(name) + QLatin1Char('|') + QLatin1String(text));
+    }
 }
 
 void TestGenParamTreeModel::editors_data()
@@ -430,17 +354,13 @@ void TestGenParamTreeModel::editorsFollowTheFeature()
         return std::unique_ptr<QWidget>(
             tree.value(name, GenParamTreeModel::ControlDataRole).value<ControlData>().editor);
     };
-    const auto exposure = editor("Exposure");
-    QVERIFY(qobject_cast<QtOrvSpinBoxVal64 *>(exposure.get())->validateStepping());
-    QVERIFY(qobject_cast<QtOrvSpinBoxVal64 *>(exposure.get())->ignoreFocusOut());
-    const auto mask = editor("Mask");
-    QVERIFY(!qobject_cast<QtOrvSpinBoxVal64 *>(mask.get())->validateStepping());
+    for (const auto &[name, steps] : {std::pair("Exposure", true), std::pair("Mask", false)}) {
+        const auto box = editor(name);
+        QCOMPARE(qobject_cast<QtOrvSpinBoxVal64 *>(box.get())->validateStepping(), steps);
+        QVERIFY(qobject_cast<QtOrvSpinBoxVal64 *>(box.get())->ignoreFocusOut());
+    }
     const auto address = editor("GevSCDA");
     QVERIFY(qobject_cast<const IP4Validator *>(qobject_cast<QLineEdit *>(address.get())->validator()));
-    // The edit value is found among the items, whatever the integer types of both.
-    tree.node<GenApi::CEnumerationPtr>("Mode")->SetIntValue(10);
-    const auto mode = editor("Mode");
-    QCOMPARE(qobject_cast<QComboBox *>(mode.get())->findData(tree.value("Mode", Qt::EditRole)), 1);
 }
 
 void TestGenParamTreeModel::readsOnlyWhatARoleNeeds()
@@ -494,61 +414,6 @@ void TestGenParamTreeModel::reportsAFailedReadOnce()
     QCOMPARE(appeared.takeFirst().at(2).toString(), QStringLiteral("Unknown Error"));
 }
 
-void TestGenParamTreeModel::survivesFailingGetters()
-{
-    FeatureTree tree;
-    const int rowCount = tree.rows().size();
-    GenApi::NodeList_t nodes;
-    tree.map->GetNodes(nodes);
-    std::vector<std::string> names;
-    for (GenApi::INode *node : nodes)
-        names.emplace_back(node->GetName().c_str());
-    const int widgets = QApplication::allWidgets().size();
-    for (const char *getter : {"GetAccessMode",
-                               "GetName",
-                               "GetDisplayName",
-                               "GetToolTip",
-                               "GetDescription",
-                               "GetPrincipalInterfaceType",
-                               "GetValue",
-                               "GetMin",
-                               "GetMax",
-                               "GetInc",
-                               "GetIncMode",
-                               "HasInc",
-                               "GetListOfValidValues",
-                               "GetUnit",
-                               "GetRepresentation",
-                               "GetDisplayPrecision",
-                               "ToString",
-                               "GetNode",
-                               "GetEntries",
-                               "GetCurrentEntry",
-                               "GetSymbolic",
-                               "GetCachingMode",
-                               "IsStreamable",
-                               "GetSelectingFeatures",
-                               "RegisterCallback",
-                               "GetFeatures"}) {
-        tree.model.reset();
-        for (const std::string &name : names)
-            failGetter(*tree.map, name, getter);
-        tree.model.reset(new GenParamTreeModel(tree.map.get(), nullptr));
-        const QModelIndexList rows = tree.rows();
-        QCOMPARE(rows.size(), QByteArray(getter) == "GetFeatures" ? 0 : rowCount);
-        for (const QModelIndex &index : rows) {
-            for (const QModelIndex &each : {index, index.sibling(index.row(), valueColumn)}) {
-                for (int role = 0; role <= GenParamTreeModel::ControlDataRole; ++role)
-                    delete each.data(role).value<ControlData>().editor;
-                tree.model->flags(each);
-                tree.model->setData(each, 1);
-            }
-        }
-        clearFaults(*tree.map);
-        QCOMPARE(QApplication::allWidgets().size(), widgets);
-    }
-}
-
 void TestGenParamTreeModel::writes_data()
 {
     QTest::addColumn<QByteArray>("name");
@@ -558,8 +423,6 @@ void TestGenParamTreeModel::writes_data()
     const auto row = [](const char *title, const char *name, const QVariant &value, const char *text) {
         QTest::newRow(title) << QByteArray(name) << value << (text != nullptr) << QString::fromUtf8(text);
     };
-    row("integer", "Exposure", qint64(400), "400us");
-    row("listed", "Binning", QVariant::fromValue(VariantData{qint64(4)}), "4px");
     row("number as text", "Exposure", QStringLiteral("400"), "400us");
     row("address for a number", "Mask", QStringLiteral("0.0.1.2"), "102");
     row("no number", "Exposure", QStringLiteral("fast"), nullptr);
@@ -569,16 +432,10 @@ void TestGenParamTreeModel::writes_data()
     row("address", "GevSCDA", QStringLiteral("239.192.1.10"), "239.192.1.10");
     row("address as number", "GevSCDA", 258, "0.0.1.2");
     row("number for an address", "GevSCDA", QStringLiteral("258"), nullptr);
-    row("short address", "GevSCDA", QStringLiteral("1.2.3"), nullptr);
     row("large octet", "GevSCDA", QStringLiteral("1.2.3.256"), nullptr);
-    row("no address", "GevSCDA", QString(), nullptr);
     row("mac", "GevMACAddress", QStringLiteral("00:01:A2:B3:C4:D5"), nullptr);
-    row("boolean", "Flag", true, "True");
-    row("float", "Gain", 2.25, "2.250dB");
     row("no float", "Gain", QStringLiteral("loud"), nullptr);
-    row("not a number", "Gain", qQNaN(), nullptr);
     row("string", "Label", QStringLiteral("Größe"), "Größe");
-    row("entry", "Mode", quint64(10), "Continuous");
     row("entry by name", "Mode", QStringLiteral("Continuous"), "Continuous");
     row("no entry", "Mode", QVariant::fromValue(QSize(1, 1)), nullptr);
     row("register", "Blob", 1, nullptr);
@@ -618,20 +475,11 @@ void TestGenParamTreeModel::reportsFailedWrites()
 {
     const FeatureTree tree;
     const QModelIndex cell = tree.cell("Exposure");
-    const QModelIndex name = tree.cell("Exposure", nameColumn);
     QSignalSpy appeared(tree.model.get(), &GenParamTreeModel::errorAppeared);
     QVERIFY(!tree.model->setData(cell, 4001));
-    QVERIFY(!tree.model->setData(cell, -5));
     QCOMPARE(appeared.size(), 1);
-    QCOMPARE(appeared.first().at(0).toModelIndex(), cell);
-    QCOMPARE(appeared.first().at(1).toString(), QStringLiteral("Exposure"));
-    QVERIFY(!appeared.first().at(2).toString().isEmpty());
     QCOMPARE(appeared.first().at(3).toInt(), 256);
     QCOMPARE(tree.port.writeCount(), quint64(0));
-    QCOMPARE(cell.data().toString(), QStringLiteral("0us"));
-    QCOMPARE(name.data(Qt::ForegroundRole).value<QBrush>(), red);
-    QVERIFY(tree.model->setData(cell, 8));
-    QVERIFY(!name.data(Qt::ForegroundRole).isValid());
 }
 
 void TestGenParamTreeModel::slotsMayCallBack()
@@ -652,15 +500,6 @@ void TestGenParamTreeModel::slotsMayCallBack()
     cell.data();
     tree.model->setData(cell, 4);
     QCOMPARE(seen.join(QLatin1Char(' ')), QStringLiteral("ERROR 0us 4us 4us 4us"));
-}
-
-void TestGenParamTreeModel::reportsChangesAtOnce()
-{
-    const FeatureTree tree;
-    QSignalSpy changed(tree.model.get(), &QAbstractItemModel::dataChanged);
-    tree.node<GenApi::CIntegerPtr>("Exposure")->SetValue(8);
-    QCOMPARE(changedFeatures(changed), QStringList({QStringLiteral("Exposure")}));
-    QVERIFY(changed.first().at(2).value<QVector<int>>().isEmpty());
 }
 
 void TestGenParamTreeModel::queuesChangesOfOtherThreads()

@@ -96,8 +96,7 @@ QStringList shownTexts(const ShownView &shown, const GenApi::INode *skipped = nu
 {
     const auto isSkipped = [&](QModelIndex index) {
         for (; index.isValid(); index = index.parent()) {
-            const GenApi::CNodePtr node(index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>());
-            if (skipped && static_cast<GenApi::INode *>(node) == skipped)
+            if (skipped && nodeOf(index) == skipped)
                 return true;
         }
         return false;
@@ -119,18 +118,6 @@ void exercise(const ShownView &shown, const QModelIndex &row)
         QTest::keyClick(editor, Qt::Key_1);
         QTest::keyClick(editor, Qt::Key_Return);
     }
-}
-
-/** The row that shows the node, if there is one. */
-QModelIndex rowOf(const ShownView &shown, GenApi::INode *node)
-{
-    const QModelIndexList rows = shown.rows();
-    for (const QModelIndex &index : rows) {
-        auto *const value = index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
-        if (dynamic_cast<GenApi::INode *>(value) == node)
-            return index;
-    }
-    return {};
 }
 
 } // namespace
@@ -179,7 +166,7 @@ void TestOrvGenParamTreeViewLoad::survivesFailingGetters()
         shown.tree->expandAll();
         shown.tree->grab();
         QCOMPARE(shownTexts(shown, node), others);
-        if (const QModelIndex row = rowOf(shown, node); row.isValid())
+        if (const QModelIndex row = cellOf(*shown.tree->model(), node, 0); row.isValid())
             exercise(shown, row);
         shown.view.loadState(shown.view.saveState());
         QTest::mouseClick(shown.part<QToolButton>("pbExpandAll"), Qt::LeftButton);

@@ -48,20 +48,10 @@ class TestTreeViewResizer : public OrvTest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void tellsWhenTheViewIsShown();
     void findsEdges();
     void drags();
     void leavesOtherPressesToTheView();
 };
-
-void TestTreeViewResizer::tellsWhenTheViewIsShown()
-{
-    Tree tree;
-    QSignalSpy showed(&tree.resizer, &TreeViewResizer::showed);
-    tree.view.hide();
-    tree.view.show();
-    QCOMPARE(showed.size(), 1);
-}
 
 void TestTreeViewResizer::findsEdges()
 {
