@@ -10,10 +10,11 @@ namespace {
 
 const QString libraryCatalogues = QStringLiteral(":/OrvCameraGuiApi/translations");
 
+/** By name: a locale is looked for in all languages that the user knows, and for English there is no catalogue. */
 void install(const QLocale &locale, const QString &catalogue, const QString &directory)
 {
     auto *const translator = new QTranslator(QCoreApplication::instance());
-    if (translator->load(locale, catalogue, QStringLiteral("_"), directory))
+    if (translator->load(catalogue + QLatin1Char('_') + locale.name(), directory))
         QCoreApplication::installTranslator(translator);
     else
         delete translator;

@@ -59,6 +59,8 @@ private Q_SLOTS:
     void drawsItsWindow_data();
     void drawsItsWindow();
     void drawsWithoutAnyonesSettings();
+    void speaksTheFirstLanguage_data();
+    void speaksTheFirstLanguage();
 };
 
 void ExplorerTest::printsWhatIsAskedFor()
@@ -186,6 +188,37 @@ void ExplorerTest::drawsWithoutAnyonesSettings()
     QCOMPARE(draw(QStringLiteral("with")), size);
     QCOMPARE(files(), QStringList(file));
     QCOMPARE(contentOf(file), before);
+}
+
+void ExplorerTest::speaksTheFirstLanguage_data()
+{
+    QTest::addColumn<QByteArray>("system");
+    QTest::addColumn<QByteArray>("languages");
+    QTest::addColumn<QString>("spoken");
+    QTest::newRow("English before German")
+        << QByteArray("en_US.UTF-8") << QByteArray("en_US:de") << QStringLiteral("en");
+    QTest::newRow("of another country") << QByteArray("de_AT.UTF-8") << QByteArray() << QStringLiteral("de");
+}
+
+void ExplorerTest::speaksTheFirstLanguage()
+{
+    QFETCH(QByteArray, system);
+    QFETCH(QByteArray, languages);
+    QFETCH(QString, spoken);
+    const QTemporaryDir target;
+    const auto draw = [&](const QString &name, const QStringList &arguments) {
+        explore(arguments + QStringList{QStringLiteral("--screenshot"), target.filePath(name)});
+        return QImage(target.filePath(name + QStringLiteral("/trigger.png")));
+    };
+    const QImage expected = draw(QStringLiteral("asked"), {QStringLiteral("--language"), spoken});
+    qunsetenv("LC_ALL");
+    qunsetenv("LC_MESSAGES");
+    qputenv("LANG", system);
+    qputenv("LANGUAGE", languages);
+    const QImage drawn = draw(QStringLiteral("system"), {});
+    qputenv("LANG", "C.UTF-8");
+    QVERIFY(!expected.isNull());
+    QCOMPARE(drawn, expected);
 }
 
 ORV_TEST_MAIN(ExplorerTest)

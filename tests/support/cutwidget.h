@@ -2,6 +2,8 @@
 
 #include <QAbstractButton>
 #include <QLineEdit>
+#include <QStyle>
+#include <QStyleOptionFrame>
 #include <QWidget>
 
 #include <algorithm>
@@ -14,6 +16,17 @@ inline bool hasRoomForPlaceholder(const QLineEdit &field)
     for (const QAbstractButton *const button : buttons)
         end = std::min(end, button->x());
     return field.fontMetrics().horizontalAdvance(field.placeholderText()) < end;
+}
+
+/** Whether a field without buttons shows the whole of its text. */
+inline bool hasRoomForText(const QLineEdit &field)
+{
+    QStyleOptionFrame option;
+    option.initFrom(&field);
+    option.lineWidth = field.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, &field);
+    const QRect content = field.style()->subElementRect(QStyle::SE_LineEditContents, &option, &field);
+    constexpr int margins = 4; // which QLineEdit leaves beside its text
+    return field.fontMetrics().horizontalAdvance(field.text()) + margins <= content.width();
 }
 
 inline QSize spaceAskedBy(const QWidget &widget)

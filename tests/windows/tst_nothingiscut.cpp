@@ -2,6 +2,9 @@
 
 #include <cutwidget.h>
 
+#include <QLineEdit>
+#include <QScopedValueRollback>
+
 /** In every window what has a text has room for it, at the size the window opens with. */
 class TestNothingIsCut : public OrvTest::TestCase
 {
@@ -21,6 +24,23 @@ private Q_SLOTS:
         window->show();
         QVERIFY(QTest::qWaitForWindowExposed(window.get()));
         QTRY_COMPARE(cutWidget(*window), QString());
+    }
+
+    /** However small the window is made. */
+    void valuesInConfigurationWindow()
+    {
+        const SimTest::Held<OrvCam::Device> camera = SimTest::open(SimTest::twoFrame);
+        const QScopedValueRollback<std::chrono::milliseconds> period(OrvGui::CameraParams::period,
+                                                                     std::chrono::milliseconds(10));
+        OrvGui::OrvCamConfig window(camera.get());
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        const auto *const size = window.findChild<QLineEdit *>(QStringLiteral("lineEditSizeFrameA"));
+        QTRY_COMPARE(size->text(), QStringLiteral("1920x1080"));
+        window.resize(1, 1);
+        const auto fields = window.findChildren<QLineEdit *>();
+        for (const QLineEdit *const field : fields)
+            QVERIFY2(hasRoomForText(*field), qPrintable(field->objectName()));
     }
 
     /** What the library says beside what a camera does: in the panes of the selector. */

@@ -187,14 +187,15 @@ void OrvCamConfigPrivate::layOutButtons(bool withFrameAB)
 
 void OrvCamConfigPrivate::doLastAdjustment()
 {
-    const auto limit = [](QLineEdit *field) {
-        field->setMaximumWidth(field->fontMetrics().horizontalAdvance(QString(12, QLatin1Char('x'))));
+    // Nor narrower: beside the captions of another language a size would be cut.
+    const auto fixWidth = [](QLineEdit *field) {
+        field->setFixedWidth(field->fontMetrics().horizontalAdvance(QString(12, QLatin1Char('x'))));
     };
     for (const InfoFields &fields : info) {
         for (QLineEdit *const field : fields.all())
-            limit(field);
+            fixWidth(field);
     }
-    limit(ui.lineEditTemperature);
+    fixWidth(ui.lineEditTemperature);
     isShowFrameABStuff(hasFrameAB);
     about->adjustAbout(params);
     updateStatus();

@@ -9,7 +9,6 @@
 #include <QStyle>
 
 #include <algorithm>
-
 #include <utility>
 
 namespace {

@@ -77,4 +77,5 @@ NamedComboBox::NamedComboBox(QWidget *parent)
     : QComboBox(parent)
 {
     static const AccessibleFactory factory(makeInterface);
+    factory.install();
 }

@@ -229,4 +229,5 @@ QAccessibleInterface *makeInterface(const QString &className, QObject *object)
 void installValueAccessibility()
 {
     static const AccessibleFactory factory(makeInterface);
+    factory.install();
 }

@@ -1,9 +1,9 @@
 #pragma once
 
 /**
- * Makes assistive tools meet the spin boxes, sliders and composites as what they are, from the first call on. Their
- * "value", "minimum", "maximum" and "singleStep" are read and set where a tool asks for the value of the widget or of
- * the slider inside, whose own numbers are but positions.
+ * Makes assistive tools meet the spin boxes, sliders and composites as what they are; each calls this when it is made.
+ * Their "value", "minimum", "maximum" and "singleStep" are read and set where a tool asks for the value of the widget
+ * or of the slider inside, whose own numbers are but positions.
  *
  * A composite is called by its accessible name, else its caption, else the label whose buddy it is. Its parts, unless
  * they have accessible names of their own, are called like it, and so is the line edit of a spin box; the slider beside
