@@ -88,6 +88,15 @@ bool FeatureDialogCamera::setDevice(OrvCam::Device *device)
     return m_parameters != nullptr;
 }
 
+bool FeatureDialogCamera::setDevice(OrvCam::Device *device, QDialog *dialog)
+{
+    const bool hasParameters = setDevice(device);
+    dialog->setEnabled(hasParameters);
+    if (hasParameters)
+        clearControls(dialog);
+    return hasParameters;
+}
+
 void FeatureDialogCamera::letGo()
 {
     const auto sinks = std::exchange(m_sinks, {});

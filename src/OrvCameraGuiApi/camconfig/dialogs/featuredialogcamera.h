@@ -27,10 +27,8 @@ namespace OrvGui {
  *     {
  *         if (!isBuilt)
  *             build(); // the form, then FeatureDialogCamera::setUpDialog(q)
- *         q->setEnabled(camera.setDevice(device));
- *         if (!camera.parameters())
+ *         if (!camera.setDevice(device, q))
  *             return false;
- *         FeatureDialogCamera::clearControls(q);
  *         camera.mapper.mapEnumParam(camera.enumeration("TriggerSource"), ui.cmBoxSource);
  *         ...
  */
@@ -45,6 +43,9 @@ public:
      * \a device, which may be null, for its parameters; false when there are none or asking failed.
      */
     bool setDevice(OrvCam::Device *device);
+
+    /** The same for the whole of \a dialog: enabled where there are parameters, and then cleared for their binding. */
+    bool setDevice(OrvCam::Device *device, QDialog *dialog);
 
     /** Null unless there are parameters. */
     OrvCam::Device *device() const { return m_device; }

@@ -35,11 +35,8 @@ bool OrvCamConfigOutputDialogPrivate::init(OrvCam::Device *device)
 {
     if (!isBuilt)
         build();
-    const bool hasParameters = camera.setDevice(device);
-    q->setEnabled(hasParameters);
-    if (!hasParameters)
+    if (!camera.setDevice(device, q))
         return false;
-    FeatureDialogCamera::clearControls(q);
     initComboBoxes();
     initSpinBoxes();
     initCheckBoxes();

@@ -55,11 +55,8 @@ bool OrvCamConfigPulseDialogPrivate::init(OrvCam::Device *device)
 {
     if (!isBuilt)
         build();
-    const bool hasParameters = camera.setDevice(device);
-    q->setEnabled(hasParameters);
-    if (!hasParameters)
+    if (!camera.setDevice(device, q))
         return false;
-    FeatureDialogCamera::clearControls(q);
     bind();
     connectControls();
     updateDelayAndFrequency();

@@ -68,11 +68,8 @@ bool OrvCamConfigStrobeDialogPrivate::init(OrvCam::Device *device)
 {
     if (!isBuilt)
         build();
-    const bool hasParameters = camera.setDevice(device);
-    q->setEnabled(hasParameters);
-    if (!hasParameters)
+    if (!camera.setDevice(device, q))
         return false;
-    FeatureDialogCamera::clearControls(q);
     initComboBoxes();
     initSliders();
     alignSliders();

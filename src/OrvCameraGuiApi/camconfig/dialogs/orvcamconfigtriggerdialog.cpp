@@ -37,12 +37,8 @@ bool OrvCamConfigTriggerDialogPrivate::init(OrvCam::Device *device)
 {
     if (!isBuilt)
         build();
-    const bool hasParameters = camera.setDevice(device);
-    q->setEnabled(hasParameters);
-    if (!hasParameters)
+    if (!camera.setDevice(device, q))
         return false;
-    // A list without a feature may be enabled though: there is nothing to choose from then.
-    FeatureDialogCamera::clearControls(q);
     initCheckBox();
     initComboBoxes();
     initButton();
