@@ -9,6 +9,7 @@
 #include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreevisibilityfilterproxymodel.h>
+#include <OrvCameraGuiApi/feature_tree/nodemapclock.h>
 #include <OrvCameraGuiApi/feature_tree/treestate.h>
 #include <OrvCameraGuiApi/feature_tree/treeviewresizer.h>
 
@@ -97,6 +98,7 @@ public:
     void repaintSoon(GenApi::IValue *feature);
     void repaintRows();
     void poll();
+    void shareClock();
 
     OrvGenParamTreeView *const q;
     QSplitter *splitter = nullptr;
@@ -109,6 +111,7 @@ public:
     QAction *filterOptionsAction = nullptr;
     QTimer *pollTimer = nullptr;
     GenApi::INodeMap *nodeMap = nullptr;
+    NodeMapClock::Use clock; ///< while the view counts time for the node map
 
     GenParamTreeModel *model = nullptr;
     GenParamTreeVisibilityFilterProxyModel *proxy = nullptr; ///< null exactly when the model is
@@ -199,6 +202,7 @@ void OrvGenParamTreeViewPrivate::install(GenApi::INodeMap *map)
 {
     remove();
     nodeMap = map;
+    shareClock();
     model = new GenParamTreeModel(map, q);
     proxy = new GenParamTreeVisibilityFilterProxyModel(q);
     proxy->setFilterVisibility(ui.cbVisibility->currentIndex());
@@ -227,6 +231,7 @@ void OrvGenParamTreeViewPrivate::remove()
     proxy = nullptr;
     model = nullptr;
     nodeMap = nullptr;
+    clock = {};
     featuresToRepaint.clear();
     errors = GenParamErrorController();
     showStatus();
@@ -354,8 +359,16 @@ void OrvGenParamTreeViewPrivate::repaintRows()
 
 void OrvGenParamTreeViewPrivate::poll()
 {
+    clock.polls();
     if (nodeMap)
         failureOf([this] { nodeMap->Poll(pollTimer->interval()); });
+}
+
+/** Whoever else looks at the node map leaves the polling to this view. With an interval of 0 no time is counted. */
+void OrvGenParamTreeViewPrivate::shareClock()
+{
+    const bool countsTime = pollTimer && pollTimer->isActive() && pollTimer->interval() > 0;
+    clock = countsTime ? NodeMapClock::Use(nodeMap, NodeMapClock::PollsItself) : NodeMapClock::Use();
 }
 
 IOrvGenParamTreeView::~IOrvGenParamTreeView() = default;
@@ -435,6 +448,7 @@ void OrvGenParamTreeView::setPollingTime(unsigned long milliseconds)
 {
     constexpr unsigned long longest = std::numeric_limits<int>::max();
     d->pollTimer->setInterval(int(qMin(milliseconds, longest)));
+    d->shareClock();
 }
 
 unsigned long OrvGenParamTreeView::getPollingTime()
@@ -448,6 +462,7 @@ void OrvGenParamTreeView::enablePolling(bool on)
         d->pollTimer->start();
     else
         d->pollTimer->stop();
+    d->shareClock();
 }
 
 bool OrvGenParamTreeView::isPollingEnabled()

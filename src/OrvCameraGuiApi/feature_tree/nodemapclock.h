@@ -1,0 +1,68 @@
+#pragma once
+
+#include <GenApi/GenApi.h>
+
+#include <QElapsedTimer>
+#include <QTimer>
+
+#include <chrono>
+#include <memory>
+
+/**
+ * Polls a node map while somebody looks at it.
+ *
+ * There is one clock a node map, however many look: a map adds what each poll tells to the time that has passed, and
+ * two pollers would have its features read twice as often as they declare. A poll tells the real time since the last
+ * one. All of it belongs to the GUI thread, on which the features report then.
+ *
+ *     NodeMapClock::Use clock(nodeMap); // polled from now on
+ *     clock = {};                       // no longer
+ */
+class NodeMapClock : public std::enable_shared_from_this<NodeMapClock>
+{
+public:
+    enum Role {
+        Looks, ///< needs the map polled
+        PollsItself ///< does it: the clock stands still meanwhile
+    };
+
+    /** A part in a clock, as long as this lives. The map has to outlive it; nothing else has to. */
+    class Use
+    {
+    public:
+        Use() = default;
+
+        /** Does nothing when there is no \a map. */
+        explicit Use(GenApi::INodeMap *map, Role role = Looks);
+        ~Use();
+        Use(Use &&other) noexcept;
+        Use &operator=(Use &&other) noexcept;
+
+        /** Whoever polls itself does so now. */
+        void polls();
+
+    private:
+        std::shared_ptr<NodeMapClock> m_clock;
+        Role m_role = Looks;
+    };
+
+    /** How often a map is polled; for clocks that start afterwards. */
+    static std::chrono::milliseconds period;
+
+    ~NodeMapClock();
+
+private:
+    Q_DISABLE_COPY(NodeMapClock)
+
+    explicit NodeMapClock(GenApi::INodeMap *map);
+
+    static std::shared_ptr<NodeMapClock> of(GenApi::INodeMap *map);
+    void count(Role role, int difference);
+    void poll();
+
+    GenApi::INodeMap *const m_map;
+    int m_users[2] = {0, 0}; ///< by Role
+    bool m_isPolling = false;
+    QElapsedTimer m_sincePoll;
+    QTimer m_timer;
+};
