@@ -52,6 +52,9 @@ private Q_SLOTS:
     void numbersAreClamped();
     void gainsByHand();
     void gainsAreExact();
+    void fitsWhatIsRefused();
+    void gainsAreSteppedThrough();
+    void gainsGoOnToTheNext();
 };
 
 void FrameArithmeticTest::byHand()
@@ -186,6 +189,87 @@ void FrameArithmeticTest::gainsAreExact()
             QCOMPARE(parts.fine, fine);
         }
     }
+}
+
+void FrameArithmeticTest::fitsWhatIsRefused()
+{
+    struct Row
+    {
+        std::int64_t value;
+        IntRange range;
+        std::int64_t written;
+    };
+    const Row rows[] = {
+        {7, {0, 10, 1}, 7},
+        {-1, {0, 10, 1}, 0},
+        {11, {0, 10, 1}, 10},
+        {5, {1, 10, 4}, 5},
+        {6, {1, 10, 4}, 5},
+        {7, {1, 10, 4}, 9}, // the greater one of two
+        {10, {1, 10, 4}, 9}, // the maximum is not taken itself
+        {-5, {-7, 10, 4}, -3},
+        {6, {0, 10, 0}, 6},
+        {6, {0, 10, -3}, 6},
+        {6, {10, 0, 1}, 6}, // nothing is taken
+        {3, IntRange::only(8), 8},
+        {int64Min, {}, int64Min},
+        {int64Max, {}, int64Max},
+        {int64Max, {int64Min, int64Max, int64Max}, int64Max - 1},
+        {0, {int64Min, int64Max, int64Max}, -1},
+    };
+    for (const Row &row : rows)
+        QCOMPARE(fitted(row.value, row.range), row.written);
+    QCOMPARE(fitted(-5, nullptr), std::int64_t(-5));
+    QVERIFY(!rangeOf(nullptr));
+}
+
+/** As the slider does it, by 0.125: from one end to the other and back, with what each kind of camera takes. */
+void FrameArithmeticTest::gainsAreSteppedThrough()
+{
+    const GainRange ranges[] = {
+        {{0, 3, 1}, {-32, 63, 1}}, // all steps can be told apart
+        {{0, 7, 1}, {0, 63, 1}},        {{0, 5, 1}, {-64, 63, 4}},
+        {{1, 4, 1}, {-32, 63, 1}},      {{0, 3, 1}, {0, 31, 1}}, // gaps between the coarse gains
+        {{0, 2, 1}, {0, 127, 1}},       {{0, 6, 2}, {-63, 60, 5}},
+        {{0, 4, 1}, IntRange::only(0)}, {IntRange::only(0), {0, 63, 1}},
+    };
+    for (const GainRange &range : ranges) {
+        const Gain lowest{range.coarse.minimum, range.fine.minimum};
+        const Gain highest{fitted(range.coarse.maximum, range.coarse), fitted(range.fine.maximum, range.fine)};
+        Gain now = lowest;
+        for (const bool isUp : {true, false}) {
+            const double end = composedGain(isUp ? highest : lowest);
+            for (double gain = composedGain(now); gain != end; gain = composedGain(now)) {
+                const double wanted = isUp ? std::min(gain + 0.125, end) : std::max(gain - 0.125, end);
+                now = steppedGain(now, wanted, range);
+                QVERIFY(isUp ? composedGain(now) > gain : composedGain(now) < gain);
+                QCOMPARE(fitted(now.coarse, range.coarse), now.coarse);
+                QCOMPARE(fitted(now.fine, range.fine), now.fine);
+                if (&range == &ranges[0])
+                    QCOMPARE(composedGain(now), composedGain(splitGain(wanted)));
+            }
+        }
+    }
+}
+
+void FrameArithmeticTest::gainsGoOnToTheNext()
+{
+    const GainRange range{{0, 5, 1}, {0, 63, 1}};
+    const std::pair<Gain, Gain> pairs[] = {{{4, 0}, {4, 1}}, {{4, 63}, {5, 0}}, {{0, 63}, {1, 0}}, {{5, 62}, {5, 63}}};
+    for (const auto &[less, greater] : pairs) {
+        QCOMPARE(composedGain(nextGain(less, true, range)), composedGain(greater));
+        QCOMPARE(composedGain(nextGain(greater, false, range)), composedGain(less));
+    }
+    for (const auto &[end, isGreater] : {std::pair(Gain{5, 63}, true), std::pair(Gain{0, 0}, false)})
+        QCOMPARE(composedGain(nextGain(end, isGreater, range)), composedGain(end));
+    for (const std::int64_t extreme : {int64Min, int64Max}) {
+        for (const bool isGreater : {true, false}) {
+            nextGain({extreme, extreme}, isGreater, {{}, {}});
+            nextGain({extreme, extreme}, isGreater, range);
+            nextGain({3, extreme}, isGreater, {{0, 5, int64Max}, {int64Min, int64Max, int64Max}});
+        }
+    }
+    steppedGain({4, 5}, std::nan(""), {{4, 2, 1}, {9, 1, 1}});
 }
 
 ORV_PLAIN_TEST_MAIN(FrameArithmeticTest)
