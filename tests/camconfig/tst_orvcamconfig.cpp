@@ -2,6 +2,7 @@
 #include "orvtest.h"
 
 #include <QGridLayout>
+#include <QStatusBar>
 
 #include <thread>
 
@@ -23,29 +24,70 @@ private Q_SLOTS:
     void followsTheFrameMode();
     void followsTheSelector();
     void readsBothFramesOnce();
+    void countsRepeatedModesOnce();
+    void greysWhatIsNotRead();
     void survivesWhoeverHearsOfTheSelector();
     void hasOneColumnForOneFrame();
     void leavesOutWhatCannotBeRead();
     void tellsOfTheCamera();
     void opensAndClosesDialogs();
     void losesAndFindsTheCamera();
+    void waitsForTheParametersOfAReturn();
     void hearsOfEventsFromOtherThreads();
     void keepsTheLastEvent();
     void leavesTheCallersDeviceAlone();
     void asksForACamera();
     void staysWithoutACamera();
     void connectsToAnotherCamera();
+    void goesBackToTheFormerCamera();
     void survivesWhatHappensWhileItAsks();
 };
 
 namespace {
 
-/** Until the timer has been at work after whatever was done before. */
-void waitForAStep()
+QString fromForm(const char *text)
+{
+    return OrvTest::translated("OrvCamConfigMainWindow", text);
+}
+
+/** Until the timer has been at work so often after whatever was done before. */
+void waitForSteps(int count)
 {
     bool isOver = false;
-    QTimer::singleShot(4 * OrvGui::CameraParams::period, [&] { isOver = true; });
+    QTimer::singleShot((count + 3) * OrvGui::CameraParams::period, [&] { isOver = true; });
     QTRY_VERIFY(isOver);
+}
+
+void waitForAStep()
+{
+    waitForSteps(1);
+}
+
+/** The two-frame camera with something added to the register of its frame mode. */
+const char *plugInCameraWithMode(const char *addition)
+{
+    const QByteArray begin = "<IntReg Name=\"FrameModeReg\" NameSpace=\"Custom\">\n    <Address>0x400</Address>"
+                             "<Length>4</Length><AccessMode>RW</AccessMode><pPort>Device</pPort>";
+    return DialogTest::plugInChangedCamera({}, {{begin, begin + addition}});
+}
+
+/** "A", "B" or both: the frames whose column is kept up to date by what it looks like, and by what it says. */
+QString framesRead(const OrvCamConfig &window)
+{
+    const QColor grey = window.palette().color(QPalette::Disabled, QPalette::Text);
+    QString read;
+    for (const char *const frame : {"A", "B"}) {
+        for (const char *const name : {"Size", "Fps", "Ftm", "Exp"}) {
+            const QByteArray field = QByteArray("lineEdit") + name + "Frame" + frame;
+            const auto *const edit = part<QLineEdit>(window, field.constData());
+            const bool isGrey = edit->palette().color(QPalette::Text) == grey;
+            if (isGrey == edit->toolTip().isEmpty() || edit->accessibleDescription() != edit->toolTip())
+                return edit->objectName();
+            if (!isGrey && !read.contains(QLatin1String(frame)))
+                read += QLatin1String(frame);
+        }
+    }
+    return read;
 }
 
 /** Which of a dialog, its button and its menu entry are seen or checked. */
@@ -74,11 +116,6 @@ bool isUsable(const OrvCamConfig &window, const Parts &parts)
 QString aboutText(const OrvCamConfig &window, const char *label)
 {
     return part<QLabel>(*part<QDialog>(window, "OrvCamConfigAboutDialog"), label)->text();
-}
-
-QString fromForm(const char *text)
-{
-    return OrvTest::translated("OrvCamConfigMainWindow", text);
 }
 
 } // namespace
@@ -180,6 +217,63 @@ void OrvCamConfigTest::readsBothFramesOnce()
         QCOMPARE(camera.value("FrameAB_Selector"), QLatin1String(selected));
         QCOMPARE(camera.takeWrites(), 3); // the mode, and the selector to and fro
     }
+}
+
+/** A camera may report its mode with each poll, and with each write of the selector. */
+void OrvCamConfigTest::countsRepeatedModesOnce()
+{
+    for (const char *const addition : {"<PollingTime>1000</PollingTime>",
+                                       "<pInvalidator>FrameAB_SelectorReg</pInvalidator>"
+                                       "<PollingTime>1000</PollingTime>"}) {
+        OrvSim::reset();
+        const Camera camera(plugInCameraWithMode(addition));
+        SimTest::Sink reports;
+        camera.enumeration("FrameMode")->RegisterEvent(&reports);
+        const OrvCamConfig window(camera.device());
+        QTimer polls;
+        connect(&polls, &QTimer::timeout, &window, [&] { camera.params()->GetNodeMap()->Poll(1000); });
+        polls.start(OrvGui::CameraParams::period);
+        waitForSteps(100);
+        QVERIFY(reports.count > 50);
+        QCOMPARE(camera.takeWrites(), 2);
+        QVERIFY(camera.set("FrameMode", "FrameB"));
+        QVERIFY(camera.set("FrameMode", "FrameAB"));
+        waitForSteps(100);
+        QCOMPARE(camera.takeWrites(), 4);
+        polls.stop();
+
+        // After a while a report counts again, the next ones do not.
+        camera.set("FrameMode", "FrameA");
+        camera.set("FrameMode", "FrameAB");
+        waitForSteps(10);
+        for (const int writes : {3, 1, 1}) {
+            camera.takeWrites();
+            camera.set("FrameMode", "FrameAB");
+            waitForSteps(10);
+            QCOMPARE(camera.takeWrites(), writes);
+        }
+        camera.enumeration("FrameMode")->UnregisterEvent(&reports);
+    }
+}
+
+void OrvCamConfigTest::greysWhatIsNotRead()
+{
+    const Camera camera;
+    const Camera less(monochrome);
+    OrvCamConfig window(camera.device());
+    QTRY_COMPARE(column(window, "B"), frameB);
+    QCOMPARE(framesRead(window), QStringLiteral("A"));
+    const std::tuple<const char *, const char *, const char *> rows[] = {{"FrameAB_Selector", "FrameB", "B"},
+                                                                         {"FrameAB_Selector", "FrameA", "A"},
+                                                                         {"FrameMode", "FrameB", "B"},
+                                                                         {"FrameMode", "FrameA", "A"}};
+    for (const auto &[feature, value, frame] : rows) {
+        QVERIFY(camera.set(feature, value));
+        QTRY_COMPARE(framesRead(window), QLatin1String(frame));
+    }
+    QVERIFY(part<QLineEdit>(window, "lineEditSizeFrameB")->toolTip().contains(fromForm("Frame A")));
+    window.SetDevice(less.device());
+    QCOMPARE(framesRead(window), QStringLiteral("AB"));
 }
 
 void OrvCamConfigTest::survivesWhoeverHearsOfTheSelector()
@@ -324,8 +418,11 @@ void OrvCamConfigTest::losesAndFindsTheCamera()
     window.show();
     for (const Parts &parts : dialogs)
         trigger(window, parts.action);
+    trigger(window, "actionAbout");
     QTRY_COMPARE(column(window, "B"), frameB);
     QCOMPARE(statusText(window), QStringLiteral("TF-2000C"));
+    QCOMPARE(aboutText(window, "lblRgsID"), QStringLiteral("4660"));
+    QVERIFY(part<QWidget>(window, "groupBox")->isEnabled());
     auto *const icon = part<QLabel>(window, "lblConnectionIcon");
     const QImage connected = icon->pixmap(Qt::ReturnByValue).toImage();
     const std::size_t sinks = OrvSim::liveObjects().sinks;
@@ -334,6 +431,8 @@ void OrvCamConfigTest::losesAndFindsTheCamera()
     QTRY_COMPARE(statusText(window), disconnected());
     QCOMPARE(column(window, "A") + column(window, "B") + temperature(window), noInfo + noInfo);
     QVERIFY(icon->pixmap(Qt::ReturnByValue).toImage() != connected);
+    QCOMPARE(aboutText(window, "lblRgsID"), OrvTest::translated("OrvGui::OrvCamConfigAboutDialog", "N/A"));
+    QVERIFY(!part<QWidget>(window, "groupBox")->isEnabled());
     QCOMPARE(OrvSim::liveObjects().sinks, std::size_t(0));
     for (const Parts &parts : dialogs)
         QVERIFY(dialogOf(window, parts)->isVisible() && !isUsable(window, parts));
@@ -342,10 +441,49 @@ void OrvCamConfigTest::losesAndFindsTheCamera()
     QTRY_COMPARE(column(window, "B"), frameB);
     QCOMPARE(statusText(window), QStringLiteral("TF-2000C"));
     QCOMPARE(icon->pixmap(Qt::ReturnByValue).toImage(), connected);
+    QCOMPARE(aboutText(window, "lblRgsID"), QStringLiteral("4660"));
+    QVERIFY(part<QWidget>(window, "groupBox")->isEnabled());
     QCOMPARE(OrvSim::liveObjects().sinks, sinks);
     QCOMPARE(OrvSim::liveObjects().eventCallbacks, std::size_t(2));
     for (const Parts &parts : dialogs)
         QVERIFY(dialogOf(window, parts)->isVisible() && isUsable(window, parts));
+}
+
+/** The loss may have gone by unseen, between two steps. */
+void OrvCamConfigTest::waitsForTheParametersOfAReturn()
+{
+    const Camera camera;
+    OrvCamConfig window(camera.device());
+    window.show();
+    trigger(window, "actionColor");
+    const std::pair<bool, OrvSim::Parameters> rows[] = {{true, OrvSim::Parameters::Null},
+                                                        {false, OrvSim::Parameters::Null},
+                                                        {true, OrvSim::Parameters::Error},
+                                                        {false, OrvSim::Parameters::ArrayWithError}};
+    for (const auto &[isLossSeen, answer] : rows) {
+        QTRY_COMPARE(column(window, "B"), frameB);
+        QTRY_VERIFY(!temperature(window).isEmpty());
+        OrvSim::setParameters(twoFrame, answer);
+        QVERIFY(OrvSim::unplug(twoFrame));
+        if (isLossSeen)
+            QTRY_COMPARE(statusText(window), disconnected());
+        QVERIFY(OrvSim::replug(twoFrame));
+        waitForSteps(3);
+        QCOMPARE(statusText(window), disconnected());
+        QCOMPARE(column(window, "A") + column(window, "B") + temperature(window), noInfo + noInfo);
+        QVERIFY(!isUsable(window, dialogs[5]));
+        OrvSim::setParameters(twoFrame, OrvSim::Parameters::Normal);
+        QTRY_COMPARE(statusText(window), QStringLiteral("TF-2000C"));
+        QVERIFY(isUsable(window, dialogs[5]));
+    }
+    // Another event ends it.
+    OrvSim::setParameters(twoFrame, OrvSim::Parameters::Null);
+    QVERIFY(OrvSim::unplug(twoFrame) && OrvSim::replug(twoFrame));
+    waitForAStep();
+    QVERIFY(OrvSim::unplug(twoFrame));
+    OrvSim::setParameters(twoFrame, OrvSim::Parameters::Normal);
+    waitForSteps(3);
+    QCOMPARE(statusText(window), disconnected());
 }
 
 void OrvCamConfigTest::hearsOfEventsFromOtherThreads()
@@ -501,11 +639,52 @@ void OrvCamConfigTest::connectsToAnotherCamera()
         QCOMPARE(OrvSim::liveObjects().systemReferences, std::size_t(1));
         QCOMPARE(OrvSim::liveObjects().eventCallbacks, std::size_t(2));
     }
-    OrvSim::refuseToOpen(monochrome, OrvCamErr_NoDevice);
-    chooseWhenAsked(monochrome);
-    trigger(window, "actionConnect");
-    QCOMPARE(statusText(window), disconnected());
+    trigger(window, "actionDisconnect");
     QVERIFY(isNothingHeld());
+}
+
+/** When the chosen one cannot be opened. The status bar tells why, until the next thing happens. */
+void OrvCamConfigTest::goesBackToTheFormerCamera()
+{
+    enum Former { None, Callers, Own, OwnGone, OwnRefuses, Same };
+    const std::pair<Former, bool> rows[] = {{None, false},    {Callers, true},     {Own, true},
+                                            {OwnGone, false}, {OwnRefuses, false}, {Same, false}};
+    for (const auto &[former, isBack] : rows) {
+        OrvSim::reset();
+        {
+            const Camera camera;
+            if (former != Callers)
+                former == None ? cancelWhenAsked() : chooseWhenAsked(twoFrame);
+            OrvCamConfig window(former == Callers ? camera.device() : nullptr);
+            window.show();
+            if (former == OwnGone)
+                OrvSim::unplug(twoFrame);
+            if (former == OwnRefuses || former == Same)
+                OrvSim::refuseToOpen(twoFrame, OrvCamErr_InvalidState);
+            const OrvSim::LiveObjects live = OrvSim::liveObjects();
+            OrvSim::refuseToOpen(monochrome, OrvCamErr_InvalidState);
+            chooseWhenAsked(former == Same ? twoFrame : monochrome);
+            trigger(window, "actionConnect");
+            auto *const bar = part<QStatusBar>(window, "statusbar");
+            const QString reason = OrvTest::translated("OrvGui::OrvCamConfigMapper", "Invalid state");
+            QVERIFY(bar->currentMessage().contains(reason));
+            QVERIFY(bar->minimumWidth() > bar->fontMetrics().horizontalAdvance(bar->currentMessage()));
+            QVERIFY(!QApplication::activeModalWidget());
+            QCOMPARE(statusText(window), isBack ? QStringLiteral("TF-2000C") : disconnected());
+            if (isBack) {
+                QCOMPARE(OrvSim::liveObjects().sinks, live.sinks);
+                QCOMPARE(OrvSim::liveObjects().devices, live.devices);
+                QCOMPARE(OrvSim::liveObjects().systemReferences, live.systemReferences);
+                QTRY_COMPARE(column(window, "A"), frameA);
+            }
+            OrvSim::refuseToOpen(monochrome, OrvCamErr_Ok);
+            chooseWhenAsked(monochrome);
+            trigger(window, "actionConnect");
+            QTRY_COMPARE(column(window, "A"), monochromeFrame);
+            QCOMPARE(bar->currentMessage(), QString());
+        }
+        QVERIFY(isNothingHeld());
+    }
 }
 
 void OrvCamConfigTest::survivesWhatHappensWhileItAsks()

@@ -9,11 +9,14 @@
 #include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigtriggerdialog.h>
 #include <OrvCameraGuiApi/camconfig/orvcamconfigaboutdialog.h>
 #include <OrvCameraGuiApi/camconfig/orvcamconfigprivate.h>
+#include <OrvCameraGuiApi/device_selection/devicetreemodel.h>
 #include <OrvCameraGuiApi/device_selection/orvcameraselectordialog.h>
 
 #include <QEvent>
 #include <QLabel>
+#include <QScreen>
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -24,6 +27,32 @@ struct SystemReleaser
 {
     void operator()(OrvCam::System *system) const { system->Release(); }
 };
+
+/** The description of a device that was opened before, from a new enumeration; null when it is not there any more. */
+OrvCam::DeviceInfo *findAgain(const OrvGui::DeviceIdentity &identity, OrvCam::System *system)
+{
+    if (identity.device.isEmpty())
+        return nullptr;
+    const DeviceTreeModel model(system, nullptr);
+    for (OrvCam::DeviceInfo *const info : model.devicesOn(identity.transport)) {
+        if (identity.device == QString::fromLatin1(info->GetID()))
+            return info;
+    }
+    return nullptr;
+}
+
+OrvGui::DeviceIdentity identityOf(OrvCam::DeviceInfo *info)
+{
+    OrvCam::Interface *const transport = info->GetInterface();
+    return {transport ? QString::fromLatin1(transport->GetID()) : QString(), QString::fromLatin1(info->GetID())};
+}
+
+/** For people; such texts may be missing. */
+QString nameOf(OrvCam::DeviceInfo *info)
+{
+    const QString name = QString::fromUtf8(info->GetDisplayName());
+    return name.isEmpty() ? QString::fromLatin1(info->GetID()) : name;
+}
 
 /** Calls back whenever its parent is shown or hidden. */
 class VisibilityWatch : public QObject
@@ -104,6 +133,19 @@ void OrvCamConfigPrivate::buildStatusBar()
     connectionIcon->setPixmap(connected);
     ui.statusbar->addWidget(deviceName);
     ui.statusbar->addPermanentWidget(connectionIcon);
+    QObject::connect(ui.statusbar, &QStatusBar::messageChanged, q, [this](const QString &text) { makeRoomFor(text); });
+}
+
+/** A message that is wider than the window would be cut; the window becomes as wide, as far as the screen goes. */
+void OrvCamConfigPrivate::makeRoomFor(const QString &message)
+{
+    ui.statusbar->setToolTip(message);
+    if (message.isEmpty())
+        return ui.statusbar->setMinimumWidth(0);
+    const QFontMetrics metrics = ui.statusbar->fontMetrics();
+    const int beside = connectionIcon->sizeHint().width() + 8 * metrics.averageCharWidth(); // with the size grip
+    const int widest = q->screen()->availableGeometry().width();
+    ui.statusbar->setMinimumWidth(std::min(metrics.horizontalAdvance(message) + beside, widest));
 }
 
 template <typename Dialog>
@@ -169,16 +211,39 @@ void OrvCamConfigPrivate::askForCamera()
         openChosen(chosenFrom.release(), chosen);
 }
 
-/** Takes \a chosenFrom. A device that cannot be opened leaves the window without one. */
+/** Takes \a chosenFrom. When the device cannot be opened the window goes back to the former one, where it can. */
 void OrvCamConfigPrivate::openChosen(OrvCam::System *chosenFrom, OrvCam::DeviceInfo *chosen)
 {
+    const DeviceIdentity former = identity;
+    OrvCam::Device *const callers = ownsDevice ? nullptr : device;
+    const DeviceIdentity wanted = identityOf(chosen);
+    const QString name = nameOf(chosen);
     letGo();
     system = chosenFrom;
-    OrvCam::Device *const opened = OrvCam_CreateDevice(chosen, OrvCam::DeviceAccessControl, nullptr);
+    const OrvCamErr err = open(chosen, wanted);
+    if (err == OrvCamErr_Ok)
+        return;
+    OrvCam::DeviceInfo *const again = callers || former == wanted ? nullptr : findAgain(former, system);
+    if (!again || open(again, former) != OrvCamErr_Ok) {
+        onDisconnectAction();
+        if (callers)
+            adopt(callers);
+    }
+    ui.statusbar->showMessage(
+        OrvCamConfig::tr("\"%1\" cannot be opened: %2").arg(name, OrvCamConfigMapper::tr(orvCamErrDescription(err))));
+}
+
+/** Opens and adopts a device; otherwise tells why not, and nothing has changed. */
+OrvCamErr OrvCamConfigPrivate::open(OrvCam::DeviceInfo *chosen, const DeviceIdentity &asIdentity)
+{
+    OrvCamErr err = OrvCamErr_Ok;
+    OrvCam::Device *const opened = OrvCam_CreateDevice(chosen, OrvCam::DeviceAccessControl, &err);
     if (!opened)
-        return onDisconnectAction();
+        return err == OrvCamErr_Ok ? OrvCamErr_UnknownError : err;
     ownsDevice = true;
+    identity = asIdentity;
     adopt(opened);
+    return OrvCamErr_Ok;
 }
 
 /** After the former device has been let go, or with that once more. */
@@ -197,12 +262,12 @@ void OrvCamConfigPrivate::letGo()
     params = CameraParams();
     unregisterCallbacks();
     pendingEvent = NoEvent;
+    identity = DeviceIdentity();
     OrvCam::Device *const former = std::exchange(device, nullptr);
     if (std::exchange(ownsDevice, false))
         former->Release();
     if (OrvCam::System *const formerSystem = std::exchange(system, nullptr))
         formerSystem->Release();
-    clearStatus();
 }
 
 /** Reads the parameters of \a newDevice, which may be null, and starts anew. The callbacks stay as they are. */
@@ -210,6 +275,9 @@ void OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
 {
     device = newDevice;
     params = CameraParams();
+    awaitsParameters = false;
+    isSelecting = false;
+    clearStatus(); // which is read anew, or cannot be
     if (camera.setDevice(device)) // also unbinds the mapper
         getNeededParams();
     q->setEnabled(true);
@@ -230,6 +298,8 @@ void OrvCamConfigPrivate::getNeededParams()
     readSelector();
     camera.listen(params.frameMode, this);
     readFrameMode();
+    modeChanged = frameMode == BothFrames;
+    isModeRepeated = false;
 }
 
 /**

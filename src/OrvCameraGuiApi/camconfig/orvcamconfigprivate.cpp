@@ -7,11 +7,40 @@
 #include <QDialog>
 #include <QLabel>
 
+#include <algorithm>
 #include <utility>
 
 /*
  * What the configuration window shows: the status of the camera, once a second, and which dialogs are open.
  */
+
+namespace {
+
+/** After so many steps a report is about something else than what both frames were read for last. */
+const int forgetful = 3;
+
+bool hasParameters(OrvCam::Device *device)
+{
+    OrvCamErr err = OrvCamErr_Ok;
+    return device && device->GetCameraParameters(&err) && err == OrvCamErr_Ok;
+}
+
+/** In the color of what is disabled, for a person may still select and copy it. */
+void markField(QLineEdit *field, bool isRead, const QString &note)
+{
+    const QColor grey = field->window()->palette().color(QPalette::Disabled, QPalette::Text);
+    const bool isGrey = field->testAttribute(Qt::WA_SetPalette);
+    QPalette palette;
+    if (!isRead)
+        palette.setColor(QPalette::Text, grey);
+    if (isGrey == isRead || (isGrey && field->palette().color(QPalette::Text) != grey))
+        field->setPalette(palette);
+    field->setToolTip(note);
+    if (field->accessibleDescription() != note)
+        field->setAccessibleDescription(note);
+}
+
+} // namespace
 
 namespace OrvGui {
 
@@ -22,29 +51,42 @@ void OrvCamConfigPrivate::step()
     case Disconnected:
         return loseCamera();
     case Connected:
-        init(device);
-        return setDialogsDevice(device);
+        return takeBack();
     default:
         break;
     }
+    if (awaitsParameters && hasParameters(device))
+        return takeBack();
     if (params.temperature)
         updateTemperature();
-    if (frameMode != BothFrames)
-        updateInfo(frameMode == FrameBOnly ? FrameB : FrameA);
-    else if (std::exchange(modeChanged, false))
+    if (std::exchange(isModeReported, false) && readFrameMode())
+        modeChanged = true;
+    stepsSinceBoth = std::min(stepsSinceBoth + 1, forgetful);
+    markColumns();
+    if (frameMode == BothFrames && std::exchange(modeChanged, false))
         updateBoth();
     else
-        updateInfo(selectorIsB ? FrameB : FrameA);
+        updateInfo(frameBeingRead());
 }
 
 /** The device stays: it may come back. */
 void OrvCamConfigPrivate::loseCamera()
 {
+    awaitsParameters = false;
     setDialogsDevice(nullptr);
     camera.setDevice(nullptr);
     params = CameraParams();
     clearStatus();
+    about->adjustAbout(params);
     updateStatus();
+}
+
+/** A camera may need a while before it tells its parameters. */
+void OrvCamConfigPrivate::takeBack()
+{
+    init(device);
+    awaitsParameters = device && !camera.parameters();
+    setDialogsDevice(device);
 }
 
 void OrvCamConfigPrivate::OnParameterUpdate(OrvGenParam::Param *param)
@@ -57,7 +99,7 @@ void OrvCamConfigPrivate::OnParameterUpdate(OrvGenParam::Param *param)
     if (choice && choice == params.frameAbSelector)
         readSelector();
     else if (choice && choice == params.frameMode)
-        readFrameMode();
+        hearOfFrameMode();
 }
 
 /** False when it cannot be read; what was last known stands then. */
@@ -69,18 +111,39 @@ bool OrvCamConfigPrivate::readSelector()
     return frame.has_value();
 }
 
-void OrvCamConfigPrivate::readFrameMode()
+/** Whether it is another one than was last known, which stands when it cannot be read. */
+bool OrvCamConfigPrivate::readFrameMode()
 {
     const auto mode = valueOf(params.frameMode);
     if (!mode)
-        return;
+        return false;
+    const FrameMode former = frameMode;
     if (*mode == QLatin1String("FrameA"))
         frameMode = FrameAOnly;
     else if (*mode == QLatin1String("FrameB"))
         frameMode = FrameBOnly;
     else
         frameMode = BothFrames;
-    modeChanged = true;
+    if (frameMode == former)
+        return false;
+    isModeRepeated = false;
+    return true;
+}
+
+/**
+ * Reading both frames writes the selector, and may end in a report itself. So a mode that is reported again and again
+ * counts once; not at all when it has just been acted upon.
+ */
+void OrvCamConfigPrivate::hearOfFrameMode()
+{
+    if (isSelecting) {
+        isModeReported = true; // where it stays as it is nothing has happened
+        return;
+    }
+    if (readFrameMode())
+        modeChanged = true;
+    else if (!std::exchange(isModeRepeated, true) && stepsSinceBoth >= forgetful)
+        modeChanged = true;
 }
 
 void OrvCamConfigPrivate::updateStatus()
@@ -91,7 +154,10 @@ void OrvCamConfigPrivate::updateStatus()
     connectionIcon->setPixmap(isConnected ? connected : disconnected);
     connectionIcon->setToolTip(isConnected ? OrvCamConfig::tr("Connected") : OrvCamConfig::tr("Disconnected"));
     connectionIcon->setAccessibleName(connectionIcon->toolTip());
+    ui.statusbar->clearMessage();
+    ui.groupBox->setEnabled(isConnected);
     ui.actionDisconnect->setEnabled(device);
+    markColumns();
 }
 
 void OrvCamConfigPrivate::updateTemperature()
@@ -118,6 +184,7 @@ void OrvCamConfigPrivate::updateBoth()
         return;
     const bool isB = selectorIsB;
     const Frame other = isB ? FrameA : FrameB;
+    stepsSinceBoth = 0;
     updateInfo(isB ? FrameB : FrameA);
     clearInfo(other);
     if (!selectFrame(isB ? "FrameA" : "FrameB"))
@@ -134,7 +201,35 @@ bool OrvCamConfigPrivate::selectFrame(const char *frame)
 {
     const QPointer<OrvCamConfig> alive(q);
     OrvGenParam::Enum *const choice = params.frameAbSelector;
-    return choice->SetValueStr(frame) == OrvCamErr_Ok && alive && choice == params.frameAbSelector;
+    isSelecting = true;
+    const OrvCamErr err = choice->SetValueStr(frame);
+    if (!alive)
+        return false;
+    isSelecting = false;
+    return err == OrvCamErr_Ok && choice == params.frameAbSelector;
+}
+
+/** The column that is kept up to date. */
+OrvCamConfigPrivate::Frame OrvCamConfigPrivate::frameBeingRead() const
+{
+    if (frameMode == BothFrames)
+        return selectorIsB ? FrameB : FrameA;
+    return frameMode == FrameBOnly ? FrameB : FrameA;
+}
+
+/** What is not kept up to date is grey, and says so. */
+void OrvCamConfigPrivate::markColumns()
+{
+    const std::array<QLabel *, 2> headers = {ui.lblFrameA, ui.lblFrameB};
+    const bool areTwo = camera.parameters() && hasFrameAB;
+    const Frame read = frameBeingRead();
+    const QString note = OrvCamConfig::tr("Not read at present: the camera shows \"%1\"").arg(headers[read]->text());
+    for (const Frame frame : {FrameA, FrameB}) {
+        const bool isRead = !areTwo || frame == read;
+        headers[frame]->setEnabled(isRead);
+        for (QLineEdit *const field : info[frame].all())
+            markField(field, isRead, isRead ? QString() : note);
+    }
 }
 
 void OrvCamConfigPrivate::clearInfo(Frame frame)

@@ -23,12 +23,24 @@ namespace OrvGui {
 class OrvCamConfigAboutDialog;
 class OrvCameraSelectorDialog;
 
+/** By which a device is found again in another enumeration; both empty for none. */
+struct DeviceIdentity
+{
+    QString transport; ///< of its interface
+    QString device;
+
+    bool operator==(const DeviceIdentity &other) const
+    {
+        return transport == other.transport && device == other.device;
+    }
+};
+
 /**
  * The private part of OrvCamConfig.
  *
  * A camera's life here: adopt() takes a device, init() reads its parameters, letGo() gives it up. A lost device stays,
- * without parameters, until it comes back or is let go. Events of the device come on any thread and leave one word in
- * pendingEvent, upon which the timer's step() acts.
+ * without parameters, until it comes back and has them again, or is let go. Events of the device come on any thread and
+ * leave one word in pendingEvent, upon which the timer's step() acts.
  */
 class OrvCamConfigPrivate : public OrvGenParam::ParamEventSink
 {
@@ -45,6 +57,7 @@ public:
     void build();
     void connectActions();
     void buildStatusBar();
+    void makeRoomFor(const QString &message);
     void createDialogs();
     template <typename Dialog>
     void addDialog(QPushButton *button, QAction *action);
@@ -55,6 +68,7 @@ public:
     /** \name The camera @{ */
     void askForCamera();
     void openChosen(OrvCam::System *chosenFrom, OrvCam::DeviceInfo *chosen);
+    OrvCamErr open(OrvCam::DeviceInfo *chosen, const DeviceIdentity &asIdentity);
     void adopt(OrvCam::Device *newDevice);
     void letGo();
     void init(OrvCam::Device *newDevice);
@@ -67,16 +81,20 @@ public:
     static void CameraDisconnectCallback(const void *data, unsigned long size, void *context);
     void OnParameterUpdate(OrvGenParam::Param *param) override;
     bool readSelector();
-    void readFrameMode();
+    bool readFrameMode();
+    void hearOfFrameMode();
     /** @} */
 
     /** \name What is shown @{ */
     void step();
     void loseCamera();
+    void takeBack();
     void updateStatus();
     void updateTemperature();
     void updateInfo(Frame frame);
     void updateBoth();
+    Frame frameBeingRead() const;
+    void markColumns();
     bool selectFrame(const char *frame);
     void clearInfo(Frame frame);
     void clearStatus();
@@ -123,10 +141,16 @@ public:
     OrvCam::System *system = nullptr; ///< from which the device was chosen; held as long as that
     OrvCam::Device *device = nullptr;
     bool ownsDevice = false; ///< it was opened here
+    DeviceIdentity identity; ///< of what was opened here
+    bool awaitsParameters = false; ///< the device is back, and has not told them yet
     CameraParams params;
     bool hasFrameAB = false; ///< the camera, or the last one, has two frame settings
     FrameMode frameMode = FrameAOnly;
-    bool modeChanged = false; ///< both frames are in use and have not been read since
+    bool modeChanged = false; ///< both frames are to be read
+    bool isModeRepeated = false; ///< it has been reported once more since it changed
+    bool isModeReported = false; ///< while the selector was written here; not looked at yet
+    bool isSelecting = false; ///< the selector is being written here
+    int stepsSinceBoth = 0; ///< were read
     bool selectorIsB = false;
     std::atomic<std::uint32_t> pendingEvent{NoEvent};
     FeatureDialogCamera camera; ///< the last member: lets go before the others are gone

@@ -9,15 +9,53 @@
 #include <QButtonGroup>
 #include <QCloseEvent>
 #include <QKeySequence>
+#include <QRegularExpression>
+#include <QVector>
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <limits>
 #include <utility>
 
 namespace {
 
-const double pulseClock = 1'000'000; ///< Hz: the period counts microseconds
+const char *const granularityFeature = "PulseGenGranularity";
+
+/** What period and width count. */
+struct Granularity
+{
+    double perSecond = 1'000'000; ///< how many of the unit there are
+    QString prefix = OrvGui::microSign; ///< of the second, with the number before it unless that is 1
+    double number = 1; ///< of the unit
+
+    double hertz(std::int64_t period) const { return period == 0 ? 0 : perSecond / (number * double(period)); }
+};
+
+/**
+ * By the end of an entry's name: a number and "ns", "us", "ms" or "s". Any other name is intentionally taken for
+ * microseconds.
+ */
+Granularity granularityOf(const QString &entry)
+{
+    static const QRegularExpression ending(QStringLiteral("([0-9]+)([num]?)s$"));
+    static const std::pair<QString, Granularity> units[] = {{QStringLiteral("n"), {1'000'000'000, QStringLiteral("n")}},
+                                                            {QStringLiteral("u"), {}},
+                                                            {QStringLiteral("m"), {1000, QStringLiteral("m")}},
+                                                            {QString(), {1, QString()}}};
+    const QRegularExpressionMatch match = ending.match(entry);
+    const qulonglong number = match.captured(1).toULongLong(); // 0 also when it is too large
+    if (number == 0)
+        return {};
+    const auto unit = std::find_if(std::begin(units), std::end(units),
+                                   [&](const auto &each) { return each.first == match.captured(2); });
+    Granularity granularity = unit->second;
+    if (number > 1) {
+        granularity.prefix.prepend(QStringLiteral("%1 ").arg(number));
+        granularity.number = double(number);
+    }
+    return granularity;
+}
 
 QString frequencyText(double hertz)
 {
@@ -28,7 +66,7 @@ QString frequencyText(double hertz)
 
 namespace OrvGui {
 
-class OrvCamConfigPulseDialogPrivate
+class OrvCamConfigPulseDialogPrivate : public OrvGenParam::ParamEventSink
 {
 public:
     explicit OrvCamConfigPulseDialogPrivate(OrvCamConfigPulseDialog *dialog)
@@ -41,13 +79,20 @@ public:
     void build();
     void bind();
     void connectControls();
+    void makeRoomForUnits();
+    void updateGranularity();
     void updateDelayAndFrequency();
     void setButtonState(bool on);
+    void showNothing();
+    void fixMaximumSize();
+    void OnParameterUpdate(OrvGenParam::Param *param) override;
 
     OrvCamConfigPulseDialog *const q;
     Ui_OrvCamConfigPulseDialog ui;
     QButtonGroup modes;
     bool isBuilt = false;
+    std::array<std::pair<QLabel *, QString>, 3> times; ///< each with its text, in which the unit is left open
+    Granularity granularity;
     FeatureDialogCamera camera; ///< the last member: lets go before the others are gone
 };
 
@@ -55,11 +100,14 @@ bool OrvCamConfigPulseDialogPrivate::init(OrvCam::Device *device)
 {
     if (!isBuilt)
         build();
-    if (!camera.setDevice(device, q))
+    if (!camera.setDevice(device, q)) {
+        showNothing();
         return false;
+    }
     bind();
     connectControls();
-    updateDelayAndFrequency();
+    makeRoomForUnits();
+    updateGranularity();
     setButtonState(ui.pushBtnPulseEnable->isChecked());
     return true;
 }
@@ -68,8 +116,8 @@ void OrvCamConfigPulseDialogPrivate::build()
 {
     ui.setupUi(q);
     FeatureDialogCamera::setUpDialog(q);
-    for (QLabel *const label : {ui.lblWidth, ui.lblPeriod, ui.lblDelay})
-        label->setText(label->text().arg(microSign));
+    times = {
+        {{ui.lblWidth, ui.lblWidth->text()}, {ui.lblPeriod, ui.lblPeriod->text()}, {ui.lblDelay, ui.lblDelay->text()}}};
     for (QtOrvSpinBox *const spinBox : {ui.spBoxPeriod, ui.spBoxWidth, ui.spBoxNumPulses})
         spinBox->setSliderOrientation(Qt::Horizontal);
     for (QtOrvSpinBox *const spinBox : {ui.spBoxPeriod, ui.spBoxWidth})
@@ -79,9 +127,8 @@ void OrvCamConfigPulseDialogPrivate::build()
         modes.addButton(button);
         OrvCamConfigMapper::nameButton(button);
     }
-    const QFontMetrics metrics = ui.lineEditFreq->fontMetrics();
-    ui.lineEditFreq->setMinimumWidth(metrics.horizontalAdvance(frequencyText(pulseClock))
-                                     + 3 * metrics.averageCharWidth());
+    makeRoomForUnits();
+    updateGranularity();
     setButtonState(false);
     isBuilt = true;
 }
@@ -89,7 +136,7 @@ void OrvCamConfigPulseDialogPrivate::build()
 void OrvCamConfigPulseDialogPrivate::bind()
 {
     OrvCamConfigMapper &mapper = camera.mapper;
-    mapper.mapEnumParam(camera.enumeration("PulseGenGranularity"), ui.cmBoxGranularity);
+    mapper.mapEnumParam(camera.enumeration(granularityFeature), ui.cmBoxGranularity);
     const std::pair<const char *, QtOrvSpinBox *> numbers[] = {
         {"PulseGenPeriod", ui.spBoxPeriod}, {"PulseGenWidth", ui.spBoxWidth}, {"PulseGenNumPulses", ui.spBoxNumPulses}};
     for (const auto &[feature, spinBox] : numbers)
@@ -104,20 +151,74 @@ void OrvCamConfigPulseDialogPrivate::connectControls()
         QObject::connect(spinBox, QOverload<int>::of(&QtOrvSpinBox::valueChanged), camera.context(),
                          [this] { updateDelayAndFrequency(); });
     }
+    camera.listen(camera.enumeration(granularityFeature), this);
     QObject::connect(ui.pushBtnPulseEnable, &QPushButton::toggled, camera.context(),
                      [this](bool on) { setButtonState(on); });
 }
 
-/** Intentionally in microseconds whatever the granularity. */
+/** For all units that the camera has, so that nothing moves or is cut when another one is chosen. */
+void OrvCamConfigPulseDialogPrivate::makeRoomForUnits()
+{
+    OrvGenParam::Enum *const entries = camera.enumeration(granularityFeature);
+    const std::int32_t count = entries ? entries->GetEnumEntriesCount(nullptr) : 0;
+    QVector<Granularity> units = {Granularity()};
+    for (std::int32_t i = 0; i < count; ++i) {
+        if (OrvGenParam::EnumEntry *const entry = entries->GetEnumEntryByIndex(i, nullptr))
+            units.append(granularityOf(QString::fromUtf8(entry->GetValueStr(nullptr))));
+    }
+    const auto makeRoom = [&units](QWidget *widget, int margin, auto &&textIn) {
+        int widest = 0;
+        for (const Granularity &unit : qAsConst(units))
+            widest = std::max(widest, widget->fontMetrics().horizontalAdvance(textIn(unit)));
+        widget->setMinimumWidth(widest + margin * widget->fontMetrics().averageCharWidth());
+    };
+    for (const auto &[label, text] : times)
+        makeRoom(label, 0, [text = text](const Granularity &unit) { return text.arg(unit.prefix); });
+    makeRoom(ui.lineEditFreq, 3, [](const Granularity &unit) { return frequencyText(unit.hertz(1)); });
+    if (q->isVisible())
+        fixMaximumSize();
+}
+
+/** As the camera has it, whatever stands in the list. */
+void OrvCamConfigPulseDialogPrivate::updateGranularity()
+{
+    OrvGenParam::Enum *const param = camera.enumeration(granularityFeature);
+    const bool isKnown = param && param->IsReadable();
+    granularity = granularityOf(isKnown ? QString::fromUtf8(param->GetValueStr(nullptr)) : QString());
+    for (const auto &[label, text] : times)
+        label->setText(text.arg(granularity.prefix));
+    updateDelayAndFrequency();
+}
+
 void OrvCamConfigPulseDialogPrivate::updateDelayAndFrequency()
 {
     using Limits = std::numeric_limits<std::int32_t>;
     const std::int64_t period = ui.spBoxPeriod->value();
     const std::int64_t delay = period - ui.spBoxWidth->value();
     ui.lineEditDelay->setText(QString::number(std::clamp<std::int64_t>(delay, Limits::min(), Limits::max())));
-    const double frequency = period == 0 ? 0 : pulseClock / double(period);
-    ui.lineEditFreq->setText(frequencyText(frequency));
+    ui.lineEditFreq->setText(frequencyText(granularity.hertz(period)));
     ui.lineEditFreq->home(false);
+}
+
+/** Of a camera that is gone nothing is left. */
+void OrvCamConfigPulseDialogPrivate::showNothing()
+{
+    FeatureDialogCamera::clearControls(q);
+    updateGranularity();
+    ui.lineEditDelay->clear();
+    ui.lineEditFreq->clear();
+    setButtonState(false);
+}
+
+void OrvCamConfigPulseDialogPrivate::fixMaximumSize()
+{
+    q->setMaximumSize(q->size().expandedTo(q->sizeHint()));
+}
+
+void OrvCamConfigPulseDialogPrivate::OnParameterUpdate(OrvGenParam::Param *param)
+{
+    if (!camera.isForGuiThread(param, this))
+        updateGranularity();
 }
 
 void OrvCamConfigPulseDialogPrivate::setButtonState(bool on)
@@ -150,7 +251,7 @@ void OrvCamConfigPulseDialog::showEvent(QShowEvent *event)
 {
     for (QtOrvSpinBox *const spinBox : {d->ui.spBoxPeriod, d->ui.spBoxWidth, d->ui.spBoxNumPulses})
         OrvCamConfigMapper::resizeHorizontalSlider(spinBox);
-    setMaximumSize(size().expandedTo(sizeHint()));
+    d->fixMaximumSize();
     QDialog::showEvent(event);
 }
 
