@@ -9,6 +9,13 @@
     </message>
 </context>
 <context>
+    <name>EntryGuard</name>
+    <message>
+        <source>Enter a number from %1 to %2.</source>
+        <translation>Geben Sie eine Zahl von %1 bis %2 ein.</translation>
+    </message>
+</context>
+<context>
     <name>FilterOptions</name>
     <message>
         <source>Case Sensitive</source>
@@ -1191,6 +1198,21 @@ Trigger</translation>
     </message>
 </context>
 <context>
+    <name>OrvGui::ControlWatch</name>
+    <message>
+        <source>Not taken. The camera&apos;s value cannot be read.</source>
+        <translation>Nicht übernommen. Der Wert der Kamera kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Not taken. The camera has %1.</source>
+        <translation>Nicht übernommen. Die Kamera hat %1.</translation>
+    </message>
+    <message>
+        <source>The camera&apos;s value is %1.</source>
+        <translation>Der Wert der Kamera ist %1.</translation>
+    </message>
+</context>
+<context>
     <name>OrvGui::OrvCamConfig</name>
     <message>
         <source>Select a device</source>
@@ -1207,6 +1229,14 @@ Trigger</translation>
     <message>
         <source>Connected</source>
         <translation>Verbunden</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be opened: %2</source>
+        <translation>„%1“ kann nicht geöffnet werden: %2</translation>
+    </message>
+    <message>
+        <source>Not read at present: the camera shows &quot;%1&quot;</source>
+        <translation>Wird zurzeit nicht gelesen: Die Kamera zeigt „%1“</translation>
     </message>
 </context>
 <context>
@@ -1340,6 +1370,14 @@ Beschreibung: %2</translation>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>ein</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,13 @@
     </message>
 </context>
 <context>
+    <name>EntryGuard</name>
+    <message>
+        <source>Enter a number from %1 to %2.</source>
+        <translation>%1 から %2 までの数値を入力してください。</translation>
+    </message>
+</context>
+<context>
     <name>FilterOptions</name>
     <message>
         <source>Case Sensitive</source>
@@ -1191,6 +1198,21 @@ Trigger</source>
     </message>
 </context>
 <context>
+    <name>OrvGui::ControlWatch</name>
+    <message>
+        <source>Not taken. The camera&apos;s value cannot be read.</source>
+        <translation>反映されていません。カメラの値を読み取れません。</translation>
+    </message>
+    <message>
+        <source>Not taken. The camera has %1.</source>
+        <translation>反映されていません。カメラの値は %1 です。</translation>
+    </message>
+    <message>
+        <source>The camera&apos;s value is %1.</source>
+        <translation>カメラの値は %1 です。</translation>
+    </message>
+</context>
+<context>
     <name>OrvGui::OrvCamConfig</name>
     <message>
         <source>Select a device</source>
@@ -1207,6 +1229,14 @@ Trigger</source>
     <message>
         <source>Connected</source>
         <translation>接続済み</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be opened: %2</source>
+        <translation>「%1」を開けません: %2</translation>
+    </message>
+    <message>
+        <source>Not read at present: the camera shows &quot;%1&quot;</source>
+        <translation>現在は読み取られていません。カメラは「%1」を表示しています</translation>
     </message>
 </context>
 <context>
@@ -1340,6 +1370,14 @@ Description: %2</source>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>オフ</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,13 @@
     </message>
 </context>
 <context>
+    <name>EntryGuard</name>
+    <message>
+        <source>Enter a number from %1 to %2.</source>
+        <translation>请输入 %1 到 %2 之间的数值。</translation>
+    </message>
+</context>
+<context>
     <name>FilterOptions</name>
     <message>
         <source>Case Sensitive</source>
@@ -1191,6 +1198,21 @@ Trigger</source>
     </message>
 </context>
 <context>
+    <name>OrvGui::ControlWatch</name>
+    <message>
+        <source>Not taken. The camera&apos;s value cannot be read.</source>
+        <translation>未生效。无法读取相机的值。</translation>
+    </message>
+    <message>
+        <source>Not taken. The camera has %1.</source>
+        <translation>未生效。相机的值为 %1。</translation>
+    </message>
+    <message>
+        <source>The camera&apos;s value is %1.</source>
+        <translation>相机的值为 %1。</translation>
+    </message>
+</context>
+<context>
     <name>OrvGui::OrvCamConfig</name>
     <message>
         <source>Select a device</source>
@@ -1207,6 +1229,14 @@ Trigger</source>
     <message>
         <source>Connected</source>
         <translation>已连接</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be opened: %2</source>
+        <translation>无法打开“%1”：%2</translation>
+    </message>
+    <message>
+        <source>Not read at present: the camera shows &quot;%1&quot;</source>
+        <translation>当前未读取：相机显示“%1”</translation>
     </message>
 </context>
 <context>
@@ -1340,6 +1370,14 @@ Description: %2</source>
     <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>关</translation>
     </message>
 </context>
 <context>

@@ -1,17 +1,22 @@
 #include "dialogtest.h"
 #include "orvtest.h"
 
+#include <OrvCameraGuiApi/camconfig/controlwatch.h>
 #include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigframeabdialog.h>
+#include <OrvCameraGuiApi/widgets/qtorvdoubleslider.h>
 #include <OrvCameraGuiApi/widgets/qtorvdoublespinboxval.h>
 #include <OrvCameraGuiApi/widgets/qtorvgainslider.h>
+#include <OrvCameraGuiApi/widgets/qtorvslider.h>
 #include <OrvCameraGuiApi/widgets/qtorvsliderspinbox.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinbox.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
 
 #include <QLabel>
+#include <QSlider>
 #include <QTabWidget>
 
+#include <cmath>
 #include <thread>
 
 using namespace DialogTest;
@@ -39,6 +44,7 @@ private Q_SLOTS:
     void exposureTimesBeyond32Bits();
     void fixedPeriodFollowsTheClock();
     void digitalGain();
+    void digitalGainIsSteppedThrough();
     void digitalGainWithOneFeature();
     void frameModeOfTheUser();
     void frameModeOfAnotherWindow();
@@ -117,10 +123,13 @@ void OrvCamConfigFrameABDialogTest::exposureTimeNeedsLinesAndClocks()
     const QByteArray name = "<DisplayName>Frame Exposure Clocks</DisplayName>";
     const Camera camera(plugInChangedCamera({}, {{name, name + "<pIsLocked>Frame_WdrIsOff</pIsLocked>"}}));
     OrvCamConfigFrameABDialog dialog(camera.device());
-    const auto *const time = part<QWidget>(dialog, "spBoxExposureTime");
+    const auto *const time = part<QtOrvSliderSpinBox>(dialog, "spBoxExposureTime");
     for (const char *const isUnlocked : {"false", "true", "false"}) {
         QVERIFY(camera.set("Frame_WdrEnable", isUnlocked));
-        QCOMPARE(QVariant(time->isEnabled()).toString(), QLatin1String(isUnlocked));
+        QCOMPARE(QVariant(!time->spinBox()->isReadOnly()).toString(), QLatin1String(isUnlocked));
+        QCOMPARE(QVariant(time->slider()->isEnabled()).toString(), QLatin1String(isUnlocked));
+        QVERIFY(time->isEnabled());
+        QCOMPARE(time->value(), 105); // shown all the same
     }
 }
 
@@ -233,6 +242,41 @@ void OrvCamConfigFrameABDialogTest::digitalGain()
     enter(gain->spinBox(), "7");
     QVERIFY(!shownMessage());
     QCOMPARE(camera.value("Frame_DigitalFineGain"), QStringLiteral("48"));
+    QCOMPARE(gain->value(), 3.5); // the half that was taken
+    QVERIFY(OrvGui::ControlWatch::of(gain)->isMarked());
+    QVERIFY(gain->toolTip().contains(QStringLiteral("3.5")));
+    camera.takeWrites();
+    enter(gain->spinBox(), "3.5"); // as the camera has it
+    QCOMPARE(camera.takeWrites(), 0);
+    QVERIFY(!OrvGui::ControlWatch::of(gain)->isMarked());
+}
+
+/** From a gain of 16 on a step of 0.125 is less than what the camera can tell apart. */
+void OrvCamConfigFrameABDialogTest::digitalGainIsSteppedThrough()
+{
+    const Camera camera(plugInChangedCamera({},
+                                            {{"<pValue>Frame_DigitalCourseGainReg</pValue><Min>0</Min><Max>3</Max>",
+                                              "<pValue>Frame_DigitalCourseGainReg</pValue><Min>0</Min><Max>5</Max>"}}));
+    OrvCamConfigFrameABDialog dialog(camera.device());
+    QVERIFY(show(dialog));
+    auto *const gain = part<QtOrvGainSlider>(dialog, "gainDigital");
+    const auto parts = [&] {
+        return std::ldexp(64 + camera.value("Frame_DigitalFineGain").toInt(),
+                          camera.value("Frame_DigitalCourseGain").toInt());
+    };
+    QVERIFY(camera.set("Frame_DigitalCourseGain", "3"));
+    for (QWidget *const stepped :
+         {static_cast<QWidget *>(gain->spinBox()), static_cast<QWidget *>(gain->slider()->slider())}) {
+        stepped->setFocus();
+        for (const auto &[key, end] : {std::pair(Qt::Key_Up, (1 + 63 / 64.0) * 32), {Qt::Key_Down, 0.5}}) {
+            for (int presses = 0; gain->value() != end; ++presses) {
+                const double before = parts();
+                QTest::keyClick(stepped, key);
+                QVERIFY2(key == Qt::Key_Up ? parts() > before : parts() < before, qPrintable(QString::number(before)));
+                QVERIFY(presses < 1000);
+            }
+        }
+    }
 }
 
 void OrvCamConfigFrameABDialogTest::digitalGainWithOneFeature()

@@ -1,7 +1,9 @@
 #include "dialogtest.h"
 #include "fakeparams.h"
 #include "orvtest.h"
+#include "sliderhandle.h"
 
+#include <OrvCameraGuiApi/camconfig/controlwatch.h>
 #include <OrvCameraGuiApi/camconfig/orvcamconfigmapper.h>
 #include <OrvCameraGuiApi/widgets/qtorvslider.h>
 #include <OrvCameraGuiApi/widgets/qtorvsliderspinbox.h>
@@ -9,6 +11,7 @@
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
 
+#include <QAbstractItemView>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QIntValidator>
@@ -122,7 +125,12 @@ struct Panel
     std::unique_ptr<OrvCamConfigMapper> mapper = std::make_unique<OrvCamConfigMapper>();
 };
 
+/** Ends the showing of a refused entry. */
+using GivingUp = std::function<void(Panel &, FakeParams::Fake &)>;
+
 } // namespace
+
+Q_DECLARE_METATYPE(GivingUp)
 
 class OrvCamConfigMapperTest : public OrvTest::TestCase
 {
@@ -131,6 +139,11 @@ class OrvCamConfigMapperTest : public OrvTest::TestCase
 private Q_SLOTS:
     void aUserActionWritesOnce();
     void aRefusedWriteTellsAndKeepsTheEntry();
+    void aRefusedEntryIsMarkedUntilItGoes_data();
+    void aRefusedEntryIsMarkedUntilItGoes();
+    void whatIsNewsIsDecidedByTheCamera();
+    void aDroppedEntryIsTakenBack();
+    void aLockEndsADrag();
     void aRefreshShowsAndSignalsButWritesNothing();
     void nothingIsWrittenWhileAControlIsDetached();
     void nullBindsNothing();
@@ -211,6 +224,171 @@ void OrvCamConfigMapperTest::aRefusedWriteTellsAndKeepsTheEntry()
     QCOMPARE(takeMessage(), refusal("Spin", "GenICam: Parameter is out of range"));
     QVERIFY(!panel.spin.slider()->isVisible());
     QCOMPARE(panel.writes(), (Writes{9, 42, 1}));
+}
+
+void OrvCamConfigMapperTest::aRefusedEntryIsMarkedUntilItGoes_data()
+{
+    QTest::addColumn<GivingUp>("giveUp");
+    QTest::newRow("Escape") << GivingUp(
+        [](Panel &, FakeParams::Fake &) { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape); });
+    QTest::newRow("leave") << GivingUp([](Panel &panel, FakeParams::Fake &) { panel.command.setFocus(); });
+    QTest::newRow("report") << GivingUp([](Panel &, FakeParams::Fake &param) { param.notify(); });
+}
+
+void OrvCamConfigMapperTest::aRefusedEntryIsMarkedUntilItGoes()
+{
+    QFETCH(GivingUp, giveUp);
+    Panel panel;
+    panel.toggle.setCheckable(true);
+    panel.groupParam.value = 5;
+    panel.bind();
+    QVERIFY(DialogTest::show(panel.window));
+    const auto chooseLast = [&] {
+        panel.combo.setFocus();
+        expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
+        panel.combo.showPopup();
+        QTest::keyClick(panel.combo.view(), Qt::Key_End);
+        QTest::keyClick(panel.combo.view(), Qt::Key_Return);
+    };
+    struct Row
+    {
+        FakeParams::Fake &param;
+        QWidget *marked;
+        std::function<void()> enter;
+        QString entered;
+        QString cameras;
+        bool isWrittenAgain; ///< when entered again; a click on a check box enters the opposite
+    };
+    const Row rows[] = {
+        {panel.comboParam, &panel.combo, chooseLast, QStringLiteral("Weiß"), QStringLiteral("Aus"), true},
+        {panel.checkParam, &panel.check, [&] { DialogTest::clickMark(&panel.check); }, QStringLiteral("true"),
+         QStringLiteral("Off"), false},
+        {panel.groupParam, panel.buttons[2], [&] { DialogTest::clickMark(panel.buttons[2]); }, QStringLiteral("High"),
+         QStringLiteral("Low"), true},
+        {panel.toggleParam, &panel.toggle, [&] { QTest::mouseClick(&panel.toggle, Qt::LeftButton); },
+         QStringLiteral("true"), OrvTest::translated("OrvGui::OrvCamConfigMapper", "off"), false},
+        {panel.spinParam, &panel.spin, [&] { DialogTest::enter(panel.spin.spinBox(), "42"); }, QStringLiteral("42"),
+         QStringLiteral("0"), true},
+        {panel.sliderParam, &panel.sliderSpin, [&] { DialogTest::enter(panel.sliderSpin.spinBox(), "42"); },
+         QStringLiteral("42"), QStringLiteral("0"), true}};
+    for (const Row &row : rows) {
+        row.param.answer = OrvCamErr_GenICamOutOfRange;
+        const ControlWatch *const watch = ControlWatch::of(row.marked);
+        row.marked->setFocus();
+        row.enter();
+        QVERIFY(!takeMessage().isEmpty()); // whose focus is no leaving
+        QVERIFY(watch->isMarked());
+        QVERIFY2(row.marked->toolTip().contains(row.cameras), qPrintable(row.marked->toolTip()));
+        QCOMPARE(DialogTest::shownBy(row.marked), row.entered);
+        if (row.isWrittenAgain) {
+            row.enter();
+            QVERIFY(!takeMessage().isEmpty());
+            QVERIFY(watch->isMarked());
+        }
+        QCOMPARE(row.param.writes.size(), std::size_t(row.isWrittenAgain ? 2 : 1));
+        panel.window.activateWindow();
+        QTRY_VERIFY(QApplication::focusWidget());
+        giveUp(panel, row.param);
+        QVERIFY(!watch->isMarked());
+        QVERIFY(row.marked->toolTip().isEmpty());
+        QVERIFY(DialogTest::shownBy(row.marked) != row.entered);
+        QVERIFY(panel.window.isVisible());
+    }
+    // A page would keep controls for an entry that is not the camera's.
+    panel.tabParam.answer = OrvCamErr_GenICamOutOfRange;
+    QTest::mouseClick(panel.tabs.tabBar(), Qt::LeftButton, {}, panel.tabs.tabBar()->tabRect(1).center());
+    QVERIFY(!takeMessage().isEmpty());
+    QCOMPARE(panel.tabs.currentIndex(), 0);
+}
+
+/** Not by what the control shows, which the camera may have left behind. */
+void OrvCamConfigMapperTest::whatIsNewsIsDecidedByTheCamera()
+{
+    Panel panel;
+    panel.toggle.setCheckable(true);
+    panel.bind();
+    QVERIFY(DialogTest::show(panel.window));
+    panel.spinParam.value = 20; // of which nothing is said
+    panel.sliderParam.value = 20;
+    panel.groupParam.value = 7;
+    panel.toggleParam.value = true;
+    DialogTest::enter(panel.spin.spinBox(), "0"); // as shown
+    DialogTest::enter(panel.sliderSpin.spinBox(), "20"); // as the camera has it
+    DialogTest::clickMark(panel.buttons[1]);
+    QTest::mouseClick(&panel.toggle, Qt::LeftButton);
+    QCOMPARE(panel.writes(), Writes{0});
+    QCOMPARE(panel.sliderSpin.value(), 20);
+    QVERIFY(panel.toggle.isChecked() && panel.buttons[1]->isChecked());
+
+    panel.spinParam.readable = false; // then nothing can be compared
+    panel.spin.setValue(5);
+    panel.spin.setValue(0);
+    panel.toggle.setChecked(false); // what the program says
+    panel.combo.setCurrentIndex(1);
+    QCOMPARE(panel.writes(), (Writes{1, 0, 0, 5, 0}));
+
+    panel.spinParam.readable = true;
+    panel.groupParam.value = 1234; // without a button
+    panel.groupParam.notify();
+    QVERIFY(!panel.group.checkedButton());
+    QVERIFY(panel.buttons[0]->toolTip().contains(QStringLiteral("1234")));
+    panel.spinParam.max = panel.spinParam.value = 5000000000; // beyond what the box can show
+    panel.spinParam.notify();
+    QVERIFY(panel.spin.toolTip().contains(QStringLiteral("5000000000")));
+    panel.spinParam.value = 5;
+    panel.spinParam.notify();
+    QVERIFY(panel.spin.toolTip().isEmpty());
+    panel.sliderParam.value = 150; // beyond the maximum, which it shows
+    panel.sliderParam.notify();
+    panel.sliderParam.writes.clear();
+    DialogTest::enter(panel.sliderSpin.spinBox(), "100");
+    QCOMPARE(panel.sliderParam.writes, Writes{100});
+}
+
+void OrvCamConfigMapperTest::aDroppedEntryIsTakenBack()
+{
+    Panel panel;
+    panel.bind();
+    for (FakeParams::Fake *const param : panel.params())
+        param->writable = false; // of which nothing was said yet
+    panel.spin.setValue(7);
+    panel.combo.setCurrentIndex(2);
+    panel.tabs.setCurrentIndex(1);
+    QCOMPARE(panel.spin.value() + panel.combo.currentIndex() + panel.tabs.currentIndex(), 0);
+    QVERIFY(!panel.spin.isEnabled());
+
+    panel.sliderParam.readable = false;
+    panel.sliderSpin.setValue(7); // for which there is nothing in its place
+    QVERIFY(ControlWatch::of(&panel.sliderSpin)->isMarked());
+
+    // During a refresh nothing is written; whoever insists is not asked for ever.
+    panel.spinParam.writable = true;
+    QObject::connect(&panel.combo, &QComboBox::currentTextChanged, &panel.combo, [&] { panel.spin.setValue(3); });
+    QObject::connect(&panel.spin, QOverload<int>::of(&QtOrvSpinBox::valueChanged), &panel.spin,
+                     [&] { panel.spin.setValue(3); });
+    panel.comboParam.value = 1;
+    panel.comboParam.notify();
+    QTRY_VERIFY(panel.spin.value() == 0 || ControlWatch::of(&panel.spin)->isMarked());
+    QCOMPARE(panel.writes(), Writes());
+}
+
+void OrvCamConfigMapperTest::aLockEndsADrag()
+{
+    Panel panel;
+    panel.bind();
+    QVERIFY(DialogTest::show(panel.window));
+    QSlider *const slider = panel.sliderSpin.slider()->slider();
+    QWindow *const window = panel.window.windowHandle();
+    const QPoint from = slider->mapTo(&panel.window, handle(*slider));
+    QTest::mousePress(window, Qt::LeftButton, {}, from);
+    QTest::mouseMove(window, from + QPoint(30, 0));
+    QTRY_VERIFY(panel.sliderSpin.value() > 0);
+    panel.sliderParam.writable = false;
+    panel.sliderParam.notify();
+    QTest::mouseRelease(window, Qt::LeftButton, {}, from + QPoint(30, 0));
+    QCOMPARE(panel.sliderSpin.value(), 0);
+    QCOMPARE(slider->value(), 0);
+    QCOMPARE(panel.writes(), Writes());
 }
 
 void OrvCamConfigMapperTest::aRefreshShowsAndSignalsButWritesNothing()
@@ -327,11 +505,12 @@ void OrvCamConfigMapperTest::showsIntegers()
         QVector<std::int64_t> device; // minimum, maximum, increment, value
         QVector<int> shown;
         bool converts = false;
+        int plainSliderMaximum = 0; ///< where a QSlider cannot take the whole range
     };
     const Row rows[] = {{{1, 40, 10, 17}, {1, 40, 10, 17}}, // between the steps
                         {{0, 5000000000, 1, 4000000000}, {0, intMax, 1, intMax}},
                         {{0, 10, -4, 3}, {0, 10, 1, 3}},
-                        {{int64Min, int64Max, int64Max, int64Min}, {intMin, intMax, intMax, intMin}},
+                        {{int64Min, int64Max, int64Max, int64Min}, {intMin, intMax, intMax, intMin}, false, -1},
                         {{1, 40, 2, 9}, {10, 400, 20, 90}, true},
                         {{0, 900000000, 0, 800000000}, {0, intMax, 1, intMax}, true}};
     for (const Row &row : rows) {
@@ -354,7 +533,11 @@ void OrvCamConfigMapperTest::showsIntegers()
         mapper.mapIntParam(&param, &sliderSpin, converter);
         check(sliderSpin);
         mapper.updateSlider(&param, &slider, converter);
-        check(slider);
+        if (row.plainSliderMaximum)
+            QCOMPARE(slider.maximum(), row.plainSliderMaximum);
+        else
+            check(slider);
+        QCOMPARE(slider.value(), row.shown[3]);
         if (!converter) {
             mapper.mapIntParam(&param, &spin);
             check(spin);
@@ -551,8 +734,10 @@ void OrvCamConfigMapperTest::unboundControlsAreLeftAlone()
     FakeParams::Int namesake;
     namesake.name = "Slider";
     namesake.value = 50;
-    panel.mapper->OnParameterUpdate(&namesake);
-    QCOMPARE(panel.sliderSpin.value(), 0);
+    panel.mapper->OnParameterUpdate(&namesake); // what is reported is shown
+    QCOMPARE(panel.sliderSpin.value(), 50);
+    panel.mapper->unmapParam(&namesake, &panel.sliderSpin);
+    QVERIFY(panel.sliderParam.sinks.empty()); // of the one that was bound
 }
 
 void OrvCamConfigMapperTest::aRefreshMayUnbindAndDestroy()
@@ -600,7 +785,8 @@ void OrvCamConfigMapperTest::otherThreadsAreHeardOnTheGuiThread()
     panel.spinParam.value = 55;
     panel.sliderParam.value = 66;
     std::thread([&] {
-        panel.spinParam.notify();
+        for (int i = 0; i < 100000; ++i)
+            panel.spinParam.notify(); // put together
         panel.sliderParam.notify();
     }).join();
     QCOMPARE(panel.spin.value(), 0);

@@ -1,6 +1,9 @@
 #include <OrvCameraGuiApi/camconfig/orvcamconfigmapper.h>
 
+#include <OrvCameraGuiApi/camconfig/controlwatch.h>
 #include <OrvCameraGuiApi/camconfig/errortexts.h>
+#include <OrvCameraGuiApi/widgets/entryguard.h>
+#include <OrvCameraGuiApi/widgets/qtorvslider.h>
 #include <OrvCameraGuiApi/widgets/qtorvsliderspinbox.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinbox.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
@@ -13,6 +16,7 @@
 #include <QIntValidator>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QMessageBox>
 #include <QMetaMethod>
 #include <QPushButton>
@@ -20,10 +24,10 @@
 #include <QSpinBox>
 #include <QStandardItemModel>
 #include <QTabWidget>
-#include <QThread>
 #include <QTimer>
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 namespace {
@@ -32,6 +36,7 @@ using Kind = OrvGui::OrvCamConfigMapData::Kind;
 
 const char *const entryValueProperty = "orvEntryValue";
 const char *const groupNameProperty = "accessibleName";
+const int entryIndexRole = Qt::UserRole + 0x4f52; ///< of the items of a combo box: which entry they stand for
 
 QString nameOf(OrvGenParam::Param *param)
 {
@@ -63,6 +68,50 @@ void disconnectOwnSignals(QObject *control)
         if (meta->method(i).methodType() == QMetaMethod::Signal)
             QObject::disconnect(control, meta->method(i), nullptr, QMetaMethod());
     }
+}
+
+/** Where one action of the user makes two signals: both together are one entry. */
+class OneEntry
+{
+public:
+    /** The second signal is still to come, if at all, before the event loop runs. */
+    void begin(QObject *context) const
+    {
+        *m_begun = true;
+        QTimer::singleShot(0, context, [begun = m_begun] { *begun = false; });
+    }
+    bool isSecondSignal() const { return std::exchange(*m_begun, false); }
+
+private:
+    const std::shared_ptr<bool> m_begun = std::make_shared<bool>(false);
+};
+
+void showRange(QtOrvSpinBox *spinBox, int minimum, int maximum, int)
+{
+    spinBox->setRange(minimum, maximum);
+}
+
+void showRange(QtOrvSliderSpinBox *spinBox, int minimum, int maximum, int)
+{
+    spinBox->setRange(minimum, maximum);
+}
+
+void showRange(QSpinBox *spinBox, int minimum, int maximum, int)
+{
+    spinBox->setRange(minimum, maximum);
+}
+
+/** A QSlider can take no range of 2^31 or more: the bound that is farther from the value moves inwards. */
+void showRange(QSlider *slider, int minimum, int maximum, int value)
+{
+    constexpr std::int64_t widest = std::numeric_limits<int>::max();
+    if (std::int64_t(maximum) - minimum > widest) {
+        if (std::int64_t(maximum) - value <= widest)
+            minimum = int(maximum - widest);
+        else
+            maximum = int(minimum + widest);
+    }
+    slider->setRange(minimum, maximum);
 }
 
 template <typename Control>
@@ -132,6 +181,15 @@ QAbstractButton *buttonOf(QButtonGroup *group, std::int64_t value)
     return found == buttons.end() ? nullptr : *found;
 }
 
+void uncheckAll(QButtonGroup *group)
+{
+    const bool isExclusive = group->exclusive();
+    group->setExclusive(false);
+    if (QAbstractButton *const button = group->checkedButton())
+        button->setChecked(false);
+    group->setExclusive(isExclusive);
+}
+
 void enableButtons(OrvGenParam::Enum *param, QButtonGroup *group, bool enabled)
 {
     const QList<QAbstractButton *> buttons = group->buttons();
@@ -145,6 +203,84 @@ void enableButtons(OrvGenParam::Enum *param, QButtonGroup *group, bool enabled)
             button->setEnabled(entry->IsAvailable());
     }
 }
+
+/** What emits the signals of a binding's control; null for one that has gone. */
+QObject *controlOf(const OrvGui::OrvCamConfigMapData &record)
+{
+    QButtonGroup *const group = groupOf(record);
+    return group ? static_cast<QObject *>(group) : record.control.data();
+}
+
+void clearMarks(const OrvGui::OrvCamConfigMapData &record)
+{
+    QWidgetList marked{record.control};
+    if (QButtonGroup *const group = groupOf(record)) {
+        const QList<QAbstractButton *> buttons = group->buttons();
+        marked = QWidgetList(buttons.begin(), buttons.end());
+    }
+    for (QWidget *const control : qAsConst(marked)) {
+        if (OrvGui::ControlWatch *const watch = OrvGui::ControlWatch::of(control))
+            watch->clear();
+    }
+}
+
+/** What is being dragged when its feature is locked would show a number that is nobody's. */
+void endDrag(const OrvGui::OrvCamConfigMapData &record)
+{
+    const auto *const spinBox = qobject_cast<QtOrvSpinBox *>(record.control);
+    const auto *const slider = qobject_cast<QtOrvSliderSpinBox *>(record.control);
+    if (spinBox)
+        spinBox->slider()->slider()->setSliderDown(false);
+    if (slider)
+        slider->slider()->slider()->setSliderDown(false);
+}
+
+/** As the field of \a control writes it. */
+QString numberText(std::int64_t number, const QWidget *control)
+{
+    QLocale locale = control->locale();
+    locale.setNumberOptions(locale.numberOptions() | QLocale::OmitGroupSeparator);
+    return locale.toString(qlonglong(number));
+}
+
+/** The control shows the camera's value; its tool tip gives \a value, if there is one, for what it cannot show. */
+void noteValue(const QWidget *control, const QString &value)
+{
+    OrvGui::ControlWatch *const watch = OrvGui::ControlWatch::of(control);
+    if (!watch)
+        return;
+    watch->clear();
+    if (!value.isEmpty())
+        watch->note(OrvGui::ControlWatch::valueText(value));
+}
+
+/** Whether the camera's value is another one than that of an entry, or cannot be read. @{ */
+bool differs(OrvGenParam::Int *param, std::int64_t value)
+{
+    OrvCamErr err = OrvCamErr_Ok;
+    return !param->IsReadable() || param->GetValue(&err) != value || err != OrvCamErr_Ok;
+}
+
+bool differs(OrvGenParam::Enum *param, std::int64_t value)
+{
+    OrvCamErr err = OrvCamErr_Ok;
+    return !param->IsReadable() || param->GetValue(&err) != value || err != OrvCamErr_Ok;
+}
+
+bool differs(OrvGenParam::Enum *param, const QByteArray &symbolic)
+{
+    OrvCamErr err = OrvCamErr_Ok;
+    return !param->IsReadable() || symbolic != param->GetValueStr(&err) || err != OrvCamErr_Ok;
+}
+
+/** A check box stands for every value but 0. */
+template <typename Param>
+bool differs(Param *param, bool value)
+{
+    OrvCamErr err = OrvCamErr_Ok;
+    return !param->IsReadable() || (param->GetValue(&err) != 0) != value || err != OrvCamErr_Ok;
+}
+/** @} */
 
 /** A message on the screen. It can be answered whatever becomes of its parent, which a lost camera disables. */
 class ErrorBox : public QMessageBox
@@ -209,7 +345,7 @@ bool OrvCamConfigMapData::operator==(const OrvCamConfigMapData &other) const
     return type == other.type && control == other.control && extra == other.extra;
 }
 
-/** While one lives, what happens in controls is not written. It may outlive the mapper. */
+/** While one lives, entries are not written. It may outlive the mapper. */
 class OrvCamConfigMapper::RefreshGuard
 {
 public:
@@ -225,6 +361,15 @@ private:
     const std::shared_ptr<int> m_refreshing;
 };
 
+/** What the user entered into a control. */
+struct OrvCamConfigMapper::Entry
+{
+    OrvGenParam::Param *param;
+    QWidget *control; ///< that was used; of a group the button
+    std::function<bool()> isNews; ///< whether the camera's value differs, or cannot be read
+    std::function<OrvCamErr()> write;
+};
+
 /** An integer feature as a widget shows it. */
 struct OrvCamConfigMapper::IntView
 {
@@ -232,11 +377,17 @@ struct OrvCamConfigMapper::IntView
     int maximum;
     int step;
     int value;
+    std::int64_t trueValue; ///< not limited to what the control can show
+    bool isKnown; ///< the value could be read
 };
 
 OrvCamConfigMapper::OrvCamConfigMapper(std::int64_t upperClamp)
     : m_upperClamp(upperClamp)
     , m_refreshing(std::make_shared<int>(0))
+    , m_reports([this](OrvGenParam::Param *param) {
+        if (std::find(m_params.cbegin(), m_params.cend(), param) != m_params.cend()) // else unbound meanwhile
+            show(param);
+    })
 {
 }
 
@@ -256,7 +407,7 @@ bool OrvCamConfigMapper::prepare(OrvGenParam::Param *param, const OrvCamConfigMa
         return false;
     }
     param->UnregisterEvent(this);
-    disconnectOwnSignals(group ? static_cast<QObject *>(group) : record.control.data());
+    disconnectOwnSignals(controlOf(record));
     setEnabled(record, param, isUsable(param));
     const QString name = nameOf(param);
     const Records former = std::exchange(m_bindings[name], Records{record});
@@ -266,29 +417,130 @@ bool OrvCamConfigMapper::prepare(OrvGenParam::Param *param, const OrvCamConfigMa
     return true;
 }
 
+/** The context for the connections of one binding; those of the control's former binding end. */
+QObject *OrvCamConfigMapper::newContext(const OrvCamConfigMapData &record)
+{
+    QSharedPointer<QObject> &context = m_contexts[controlOf(record)];
+    context.reset(new QObject);
+    return context.data();
+}
+
+/** Has \a control marked where that is needed. A refused entry is given up for the camera's value. */
+void OrvCamConfigMapper::watch(OrvGenParam::Param *param, QWidget *control)
+{
+    ControlWatch *const watch = ControlWatch::install(control);
+    watch->clear();
+    QObject::disconnect(watch, &ControlWatch::entryGivenUp, nullptr, nullptr);
+    QObject::connect(watch, &ControlWatch::entryGivenUp, &m_context, [this, param, name = nameOf(param)] {
+        if (m_params.value(name) == param)
+            show(param);
+    });
+}
+
 void OrvCamConfigMapper::registerAt(OrvGenParam::Param *param)
 {
     OrvGenParam::Param *&registered = m_params[nameOf(param)];
     if (registered && registered != param)
         registered->UnregisterEvent(this);
     registered = param;
+    param->UnregisterEvent(this);
     param->RegisterEvent(this);
 }
 
 /*
- * What the user did. While the camera is told, anything may happen: it may report, and what hangs on that may unbind
- * the parameter or destroy the control and the mapper. A message needs none of them but the control.
+ * While the camera is told, anything may happen: it may report, and what hangs on that may unbind the parameter or
+ * destroy the control and the mapper. A message needs none of them but the control.
  */
-template <typename Write>
-void OrvCamConfigMapper::write(OrvGenParam::Param *param, QWidget *control, Write write) const
+void OrvCamConfigMapper::enter(const Entry &entry)
 {
-    if (isRefreshing() || !param->IsWritable())
+    if (isRefreshing())
+        return dropWhileRefreshing(entry);
+    if (!entry.param->IsWritable() || !entry.isNews())
+        return takeBack(entry.param, entry.control);
+    const QString name = nameOf(entry.param);
+    const unsigned timesShown = m_timesShown.value(name);
+    const QPointer<QWidget> control(entry.control);
+    const QPointer<QObject> alive(&m_context);
+    const OrvCamErr err = entry.write();
+    // A report that came meanwhile has shown what the camera took.
+    const bool isUnheard = alive && m_params.value(name) == entry.param && m_timesShown.value(name) == timesShown;
+    if (isUnheard && err == OrvCamErr_Ok) {
+        if (!show(entry.param) && ControlWatch::of(control))
+            ControlWatch::of(control)->clear();
+    } else if (isUnheard && control) {
+        mark(entry.param, control);
+    }
+    if (control)
+        showError(err, control, name);
+}
+
+/**
+ * The control's own echo is no entry. Anything else is taken back after the refresh, and marked if it comes again while
+ * that is done: whoever insists on it would be asked for ever.
+ */
+void OrvCamConfigMapper::dropWhileRefreshing(const Entry &entry)
+{
+    if (!entry.isNews())
         return;
-    const QString name = nameOf(param);
-    const QPointer<QWidget> parent(control);
-    const OrvCamErr err = write();
-    if (parent)
-        showError(err, parent, name);
+    if (m_isSettling)
+        return mark(entry.param, entry.control);
+    if (m_dropped.isEmpty())
+        QTimer::singleShot(0, &m_context, [this] { settle(); });
+    m_dropped.insert(nameOf(entry.param), entry.control);
+}
+
+void OrvCamConfigMapper::settle()
+{
+    const QPointer<QObject> alive(&m_context);
+    const auto dropped = std::exchange(m_dropped, {});
+    for (auto it = dropped.begin(); it != dropped.end() && alive; ++it) {
+        OrvGenParam::Param *const param = m_params.value(it.key());
+        if (!param)
+            continue;
+        m_isSettling = true;
+        takeBack(param, it.value());
+        if (alive)
+            m_isSettling = false;
+    }
+}
+
+/** Shows the camera's value in the place of what was entered; where it cannot be read the entry is marked. */
+void OrvCamConfigMapper::takeBack(OrvGenParam::Param *param, QWidget *control)
+{
+    const QPointer<QWidget> entered(control);
+    const QPointer<QObject> alive(&m_context);
+    if (!show(param) && alive && entered)
+        mark(param, entered);
+}
+
+/** A page is never left with the entry of another one: what is edited there would go to the camera's. */
+void OrvCamConfigMapper::mark(OrvGenParam::Param *param, QWidget *control)
+{
+    if (qobject_cast<QTabWidget *>(control))
+        show(param);
+    else if (ControlWatch *const watch = ControlWatch::of(control))
+        watch->mark(cameraText(param, control));
+}
+
+/** The camera's value as \a control would show it; empty when it cannot be read. */
+QString OrvCamConfigMapper::cameraText(OrvGenParam::Param *param, const QWidget *control) const
+{
+    OrvCamErr err = OrvCamErr_Ok;
+    QString text;
+    if (!param->IsReadable())
+        return text;
+    if (auto *const number = dynamic_cast<OrvGenParam::Int *>(param)) {
+        const Records records = m_bindings.value(nameOf(param));
+        const bool converts = !records.isEmpty() && records.first().type == Kind::SliderSpinBox;
+        auto *const converter = converts ? static_cast<IOrvCamConfigIntConverter *>(records.first().extra) : nullptr;
+        const std::int64_t value = number->GetValue(&err);
+        text = numberText(converter ? converter->ToControl(value, number) : value, control);
+    } else if (auto *const choice = dynamic_cast<OrvGenParam::Enum *>(param)) {
+        text = QString::fromUtf8(choice->GetValueStr(&err));
+    } else if (auto *const truth = dynamic_cast<OrvGenParam::Boolean *>(param)) {
+        text = truth->GetValue(&err) ? OrvGui::OrvCamConfigMapper::tr("on") : OrvGui::OrvCamConfigMapper::tr("off");
+    }
+    return err == OrvCamErr_Ok ? text : QString();
 }
 
 int OrvCamConfigMapper::mapIntParam(OrvGenParam::Int *param, QtOrvSpinBox *spinBox)
@@ -300,36 +552,62 @@ int OrvCamConfigMapper::mapIntParam(OrvGenParam::Int *param, QtOrvSpinBox *spinB
                                     const QVector<QWidget *> &companions)
 {
     const RefreshGuard guard(this);
-    const bool isBound = prepare(param, {Kind::SpinBox, spinBox, nullptr});
+    const bool isBound = bindNumber(param, spinBox, {Kind::SpinBox, spinBox, nullptr});
     for (QWidget *const companion : companions) {
         const OrvCamConfigMapData record{Kind::Companion, companion, nullptr};
         setEnabled(record, param, param && isUsable(param));
         if (isBound)
             m_bindings[nameOf(param)].append(record);
     }
-    if (!isBound)
-        return 0;
-    spinBox->setValidate(true);
-    spinBox->setValidateTyping(false);
-    updateSpinBox(param, spinBox);
-    QObject::connect(spinBox, QOverload<int>::of(&QtOrvSpinBox::valueChanged), &m_context,
-                     [=](int value) { write(param, spinBox, [=] { return param->SetValue(value); }); });
-    registerAt(param);
-    return 1;
+    return isBound;
 }
 
 int OrvCamConfigMapper::mapIntParam(OrvGenParam::Int *param, QtOrvSliderSpinBox *spinBox,
                                     IOrvCamConfigIntConverter *converter)
 {
     const RefreshGuard guard(this);
-    if (!prepare(param, {Kind::SliderSpinBox, spinBox, converter}))
+    return bindNumber(param, spinBox, {Kind::SliderSpinBox, spinBox, converter});
+}
+
+/*
+ * The slider's release says the number once more, moved or not, and so does a typed number that stands there already.
+ * Only what was moved or typed is an entry.
+ */
+template <typename Composite>
+int OrvCamConfigMapper::bindNumber(OrvGenParam::Int *param, Composite *composite, const OrvCamConfigMapData &record)
+{
+    if (!prepare(param, record))
         return 0;
-    spinBox->setValidate(true);
-    spinBox->setValidateTyping(false);
-    updateSliderSpinBox(param, spinBox, converter);
-    QObject::connect(spinBox, QOverload<int>::of(&QtOrvSliderSpinBox::valueChanged), &m_context, [=](int value) {
-        write(param, spinBox, [=] { return param->SetValue(converter ? converter->ToDevice(value, param) : value); });
+    composite->setValidate(true);
+    composite->setValidateTyping(false);
+    composite->spinBox()->blockSignals(false);
+    EntryGuard::install(composite->spinBox());
+    watch(param, composite);
+    refresh(param, record);
+
+    auto *const converter = static_cast<IOrvCamConfigIntConverter *>(record.extra);
+    const auto enterNumber = [=](int value) {
+        const auto toDevice = [=] { return converter ? converter->ToDevice(value, param) : value; };
+        enter({param, composite, [=] { return differs(param, toDevice()); },
+               [=] { return param->SetValue(toDevice()); }});
+    };
+    struct Said
+    {
+        int value;
+        bool isMoved;
+    };
+    const auto said = std::make_shared<Said>(Said{composite->value(), false});
+    QObject *const context = newContext(record);
+    QObject::connect(composite, QOverload<int>::of(&Composite::valueChanged), context, [=](int value) {
+        const bool isSaidAgain = value == said->value && !said->isMoved;
+        *said = {value, false};
+        if (!isSaidAgain)
+            enterNumber(value);
     });
+    QObject::connect(composite->slider(), &QtOrvSlider::sliderPressed, context, [=] { said->isMoved = false; });
+    QObject::connect(composite->slider(), &QtOrvSlider::sliderMoved, context, [=] { said->isMoved = true; });
+    QObject::connect(EntryGuard::of(composite->spinBox()), &EntryGuard::entered, context,
+                     [=] { enterNumber(composite->value()); });
     registerAt(param);
     return 1;
 }
@@ -337,18 +615,35 @@ int OrvCamConfigMapper::mapIntParam(OrvGenParam::Int *param, QtOrvSliderSpinBox 
 int OrvCamConfigMapper::mapEnumParam(OrvGenParam::Enum *param, QComboBox *comboBox)
 {
     const RefreshGuard guard(this);
-    if (!prepare(param, {Kind::ComboBox, comboBox, nullptr}))
+    const OrvCamConfigMapData record{Kind::ComboBox, comboBox, nullptr};
+    if (!prepare(param, record))
         return 0;
     comboBox->clear();
     const int entries = param->GetEnumEntriesCount(nullptr);
     for (int i = 0; i < entries; ++i) {
-        if (OrvGenParam::EnumEntry *const entry = param->GetEnumEntryByIndex(i, nullptr))
-            comboBox->addItem(nameOf(entry), i);
+        if (OrvGenParam::EnumEntry *const entry = param->GetEnumEntryByIndex(i, nullptr)) {
+            comboBox->addItem(nameOf(entry));
+            comboBox->setItemData(comboBox->count() - 1, i, entryIndexRole);
+        }
     }
+    watch(param, comboBox);
     updateComboBox(param, comboBox);
-    QObject::connect(comboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), &m_context, [=](int index) {
+    const auto choose = [=](int index) {
+        const QByteArray text = comboBox->itemText(index).toUtf8();
+        enter({param, comboBox, [=] { return differs(param, text); },
+               [=] { return param->SetValueStr(text.constData()); }});
+    };
+    QObject *const context = newContext(record);
+    const OneEntry oneEntry;
+    QObject::connect(comboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), context, [=](int index) {
+        oneEntry.begin(context);
         if (index >= 0)
-            write(param, comboBox, [=] { return param->SetValueStr(comboBox->itemText(index).toUtf8().constData()); });
+            choose(index);
+    });
+    // Says that an item was chosen which the box shows already.
+    QObject::connect(comboBox, QOverload<int>::of(&QComboBox::activated), context, [=](int index) {
+        if (!oneEntry.isSecondSignal())
+            choose(index);
     });
     registerAt(param);
     return 1;
@@ -357,15 +652,33 @@ int OrvCamConfigMapper::mapEnumParam(OrvGenParam::Enum *param, QComboBox *comboB
 int OrvCamConfigMapper::mapEnumParam(OrvGenParam::Enum *param, QButtonGroup *group)
 {
     const RefreshGuard guard(this);
-    if (!group || group->buttons().isEmpty() || !prepare(param, {Kind::RadioButtons, nullptr, group}))
+    const OrvCamConfigMapData record{Kind::RadioButtons, nullptr, group};
+    if (!group || group->buttons().isEmpty() || !prepare(param, record))
         return 0;
     nameRadioButtons(param, group);
+    const QList<QAbstractButton *> buttons = group->buttons();
+    for (QAbstractButton *const button : buttons)
+        watch(param, button);
     updateRadioButtons(param, group);
+    const auto choose = [=](QAbstractButton *button) {
+        const std::int64_t value = valueOf(group, button);
+        enter({param, button, [=] { return differs(param, value); }, [=] { return param->SetValue(value); }});
+    };
+    QObject *const context = newContext(record);
+    const OneEntry oneEntry;
     const auto toggled = QOverload<QAbstractButton *, bool>::of(&QButtonGroup::buttonToggled);
-    QObject::connect(group, toggled, &m_context, [=](QAbstractButton *button, bool checked) {
-        if (checked)
-            write(param, button, [=] { return param->SetValue(valueOf(group, button)); });
+    QObject::connect(group, toggled, context, [=](QAbstractButton *button, bool checked) {
+        if (!checked)
+            return;
+        oneEntry.begin(context);
+        choose(button);
     });
+    // Says that a button was chosen which is checked already.
+    QObject::connect(group, QOverload<QAbstractButton *>::of(&QButtonGroup::buttonClicked), context,
+                     [=](QAbstractButton *button) {
+                         if (!oneEntry.isSecondSignal() && button->isChecked())
+                             choose(button);
+                     });
     registerAt(param);
     return 1;
 }
@@ -373,13 +686,18 @@ int OrvCamConfigMapper::mapEnumParam(OrvGenParam::Enum *param, QButtonGroup *gro
 int OrvCamConfigMapper::mapEnumParam(OrvGenParam::Enum *param, QTabWidget *tabWidget)
 {
     const RefreshGuard guard(this);
-    if (!prepare(param, {Kind::TabWidget, tabWidget, nullptr}))
+    const OrvCamConfigMapData record{Kind::TabWidget, tabWidget, nullptr};
+    if (!prepare(param, record))
         return 0;
     nameTabs(param, tabWidget);
+    watch(param, tabWidget);
     updateTabWidget(param, tabWidget);
-    QObject::connect(tabWidget, &QTabWidget::currentChanged, &m_context, [=](int index) {
-        if (index >= 0)
-            write(param, tabWidget, [=] { return param->SetValueStr(tabWidget->tabText(index).toUtf8().constData()); });
+    QObject::connect(tabWidget, &QTabWidget::currentChanged, newContext(record), [=](int index) {
+        if (index < 0)
+            return;
+        const QByteArray text = tabWidget->tabText(index).toUtf8();
+        enter({param, tabWidget, [=] { return differs(param, text); },
+               [=] { return param->SetValueStr(text.constData()); }});
     });
     registerAt(param);
     return 1;
@@ -400,11 +718,25 @@ template <typename Param>
 int OrvCamConfigMapper::mapButton(Param *param, QAbstractButton *button, std::int32_t type)
 {
     const RefreshGuard guard(this);
-    if (!prepare(param, {type, button, nullptr}))
+    const OrvCamConfigMapData record{type, button, nullptr};
+    if (!prepare(param, record))
         return 0;
+    watch(param, button);
     button->setChecked(param->GetValue(nullptr) != 0);
-    QObject::connect(button, &QAbstractButton::clicked, &m_context,
-                     [=](bool checked) { write(param, button, [=] { return param->SetValue(checked); }); });
+    const auto set = [=](bool checked) {
+        enter({param, button, [=] { return differs(param, checked); }, [=] { return param->SetValue(checked); }});
+    };
+    QObject *const context = newContext(record);
+    const OneEntry oneEntry;
+    // The program's setChecked() makes no click.
+    QObject::connect(button, &QAbstractButton::toggled, context, [=](bool checked) {
+        oneEntry.begin(context);
+        set(checked);
+    });
+    QObject::connect(button, &QAbstractButton::clicked, context, [=](bool checked) {
+        if (!oneEntry.isSecondSignal())
+            set(checked);
+    });
     registerAt(param);
     return 1;
 }
@@ -412,18 +744,26 @@ int OrvCamConfigMapper::mapButton(Param *param, QAbstractButton *button, std::in
 int OrvCamConfigMapper::mapCommandParam(OrvGenParam::Command *param, QPushButton *button, QTimer *timer)
 {
     const RefreshGuard guard(this);
-    if (!prepare(param, {Kind::PushButton, button, nullptr}))
+    const OrvCamConfigMapData record{Kind::PushButton, button, nullptr};
+    if (!prepare(param, record))
         return 0;
-    const auto execute = [param, hasTimer = timer != nullptr, sender = QPointer<QWidget>(button),
-                          waiting = QPointer<QTimer>(timer)] {
+    const auto execute = [param, sender = QPointer<QWidget>(button), waiting = QPointer<QTimer>(timer)] {
         const OrvCamErr err = param->Execute();
-        if (hasTimer && sender)
+        if (waiting && sender)
             sender->setEnabled(false);
         if (waiting)
             waiting->start();
         return err;
     };
-    QObject::connect(button, &QAbstractButton::clicked, &m_context, [=] { write(param, button, execute); });
+    QObject::connect(button, &QAbstractButton::clicked, newContext(record), [=] {
+        if (isRefreshing() || !param->IsWritable())
+            return;
+        const QString name = nameOf(param);
+        const QPointer<QWidget> parent(button);
+        const OrvCamErr err = execute();
+        if (parent)
+            showError(err, parent, name);
+    });
     registerAt(param);
     return 1;
 }
@@ -451,7 +791,9 @@ void OrvCamConfigMapper::unmapParam(OrvGenParam::Param *param, QWidget *widget)
     if (records.isEmpty())
         return;
     m_tabs.remove(name);
-    m_params.remove(name);
+    // Another object of the name may be the one that is bound.
+    if (OrvGenParam::Param *const registered = m_params.take(name))
+        registered->UnregisterEvent(this);
     param->UnregisterEvent(this);
     unmapControl(records.first());
 }
@@ -460,6 +802,8 @@ void OrvCamConfigMapper::unmapControl(const OrvCamConfigMapData &record)
 {
     // A spin box may commit what is being typed when it loses the focus.
     const RefreshGuard guard(this);
+    m_contexts.remove(controlOf(record));
+    clearMarks(record);
     if (QButtonGroup *const group = groupOf(record)) {
         disconnectOwnSignals(group);
         enableButtons(nullptr, group, false);
@@ -475,6 +819,7 @@ void OrvCamConfigMapper::unmapAll()
     const auto bindings = std::exchange(m_bindings, {});
     const auto params = std::exchange(m_params, {});
     m_tabs.clear();
+    m_dropped.clear();
     for (OrvGenParam::Param *const param : params)
         param->UnregisterEvent(this);
     for (const Records &records : bindings) {
@@ -488,26 +833,22 @@ QVector<OrvCamConfigMapData> OrvCamConfigMapper::bindings(const QString &feature
     return m_bindings.value(feature);
 }
 
-/*
- * Walks a copy and looks at each record again: what hangs on the control's signals may bind and unbind, and destroy the
- * mapper.
- */
 void OrvCamConfigMapper::OnParameterUpdate(OrvGenParam::Param *param)
 {
-    if (!param)
-        return;
+    if (param && !m_reports.passOn(param))
+        show(param);
+}
+
+/*
+ * Walks a copy and looks at each record again: what hangs on the control's signals may bind and unbind, and destroy the
+ * mapper. False when there is no value to show.
+ */
+bool OrvCamConfigMapper::show(OrvGenParam::Param *param)
+{
     const QString name = nameOf(param);
-    if (QThread::currentThread() != m_context.thread()) {
-        const auto update = [=] {
-            if (m_params.value(name) == param)
-                OnParameterUpdate(param);
-        };
-        QMetaObject::invokeMethod(&m_context, update, Qt::QueuedConnection);
-        return;
-    }
-    if (m_params.value(name, param) != param)
-        return;
     const Records records = m_bindings.value(name);
+    if (records.isEmpty())
+        return false;
     const RefreshGuard guard(this);
     const QPointer<QObject> alive(&m_context);
     const auto isBound = [&](const OrvCamConfigMapData &record) {
@@ -515,14 +856,24 @@ void OrvCamConfigMapper::OnParameterUpdate(OrvGenParam::Param *param)
     };
     const bool isAvailable = param->IsAvailable();
     const bool isShown = isAvailable && param->IsReadable();
+    const bool isUsable = isAvailable && param->IsWritable();
+    if (isShown)
+        ++m_timesShown[name];
     for (const OrvCamConfigMapData &record : records) {
-        if (isShown && isBound(record))
-            refresh(param, record);
+        if (!isUsable)
+            endDrag(record);
+        if (!isShown || !isBound(record))
+            continue;
+        clearMarks(record);
+        refresh(param, record);
     }
     for (const OrvCamConfigMapData &record : records) {
         if (isBound(record))
-            setEnabled(record, param, isAvailable && param->IsWritable());
+            setEnabled(record, param, isUsable);
     }
+    if (const auto rule = alive ? m_afterShow : nullptr)
+        rule(param);
+    return isShown;
 }
 
 void OrvCamConfigMapper::refresh(OrvGenParam::Param *param, const OrvCamConfigMapData &record)
@@ -608,6 +959,7 @@ void OrvCamConfigMapper::nameTabs(OrvGenParam::Enum *param, QTabWidget *tabWidge
     for (int i = 0; i < std::min(tabs, entries); ++i) {
         OrvGenParam::EnumEntry *const entry = param->GetEnumEntryByIndex(i, nullptr);
         tabWidget->setTabVisible(i, entry != nullptr);
+        tabWidget->setTabEnabled(i, entry != nullptr);
         if (entry) {
             tabWidget->setTabText(i, nameOf(entry));
             places.insert(nameOf(entry), i);
@@ -623,7 +975,7 @@ void OrvCamConfigMapper::updateComboBox(OrvGenParam::Enum *param, QComboBox *com
         return;
     const RefreshGuard guard(this);
     for (int i = 0; i < comboBox->count(); ++i) {
-        const QVariant index = comboBox->itemData(i);
+        const QVariant index = comboBox->itemData(i, entryIndexRole);
         OrvGenParam::EnumEntry *const entry = param->GetEnumEntryByIndex(index.isValid() ? index.toInt() : i, nullptr);
         model->item(i, comboBox->modelColumn())->setEnabled(entry && entry->IsAvailable());
     }
@@ -636,8 +988,19 @@ void OrvCamConfigMapper::updateRadioButtons(OrvGenParam::Enum *param, QButtonGro
     if (!param || !group)
         return;
     const RefreshGuard guard(this);
-    if (QAbstractButton *const button = buttonOf(group, param->GetValue(nullptr)))
+    OrvCamErr err = OrvCamErr_Ok;
+    const std::int64_t value = param->GetValue(&err);
+    QAbstractButton *const button = buttonOf(group, value);
+    QString unseen = button || err != OrvCamErr_Ok ? QString() : QString::fromUtf8(param->GetValueStr(nullptr));
+    if (unseen.isEmpty() && !button && err == OrvCamErr_Ok)
+        unseen = QString::number(value);
+    const QList<QAbstractButton *> buttons = group->buttons();
+    for (QAbstractButton *const other : buttons)
+        noteValue(other, unseen);
+    if (button)
         button->setChecked(true);
+    else
+        uncheckAll(group);
     enableButtons(param, group, isUsable(param));
 }
 
@@ -655,6 +1018,8 @@ void OrvCamConfigMapper::updateTabWidget(OrvGenParam::Enum *param, QTabWidget *t
         const int place = entry ? places.value(nameOf(entry), -1) : -1;
         if (place >= 0)
             tabWidget->setTabEnabled(place, entry->IsAvailable());
+        else if (!entry)
+            tabWidget->setTabEnabled(i, false); // a hidden tab would be reached by the cursor keys
     }
 }
 
@@ -684,9 +1049,15 @@ OrvCamConfigMapper::IntView OrvCamConfigMapper::viewOf(OrvGenParam::Int *param,
                                                        IOrvCamConfigIntConverter *converter) const
 {
     const auto shown = [=](std::int64_t value) { return converter ? converter->ToControl(value, param) : value; };
-    const auto clamped = [=](std::int64_t value) { return toInt(std::min(shown(value), m_upperClamp)); };
-    return {toInt(shown(param->GetMin(nullptr))), clamped(param->GetMax(nullptr)),
-            std::max(1, toInt(shown(param->GetIncrement(nullptr)))), clamped(param->GetValue(nullptr))};
+    OrvCamErr err = OrvCamErr_Ok;
+    IntView view;
+    view.minimum = toInt(shown(param->GetMin(nullptr)));
+    view.maximum = std::max(view.minimum, toInt(std::min(shown(param->GetMax(nullptr)), m_upperClamp)));
+    view.step = std::max(1, toInt(shown(param->GetIncrement(nullptr))));
+    view.trueValue = shown(param->GetValue(&err));
+    view.isKnown = err == OrvCamErr_Ok;
+    view.value = std::clamp(toInt(std::min(view.trueValue, m_upperClamp)), view.minimum, view.maximum);
+    return view;
 }
 
 template <typename Control>
@@ -697,11 +1068,13 @@ void OrvCamConfigMapper::showInt(OrvGenParam::Int *param, Control *control, IOrv
     const RefreshGuard guard(this);
     const QPointer<Control> alive(control);
     const IntView view = viewOf(param, converter);
-    control->setRange(view.minimum, view.maximum);
+    const bool isBeyond = view.isKnown && view.trueValue != view.value;
+    noteValue(control, isBeyond ? numberText(view.trueValue, control) : QString());
+    showRange(control, view.minimum, view.maximum, view.value);
     if (alive)
         control->setSingleStep(view.step);
     if (alive)
-        showValue(control, std::clamp(view.value, view.minimum, std::max(view.minimum, view.maximum)));
+        showValue(control, view.value);
 }
 
 void OrvCamConfigMapper::updateSpinBox(OrvGenParam::Int *param, QtOrvSpinBox *spinBox)

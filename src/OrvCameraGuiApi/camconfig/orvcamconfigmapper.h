@@ -1,17 +1,20 @@
 #pragma once
 
 #include <OrvCameraGuiApi/camconfig/iorvcamconfigintconverter.h>
+#include <OrvCameraGuiApi/camconfig/reportrelay.h>
 #include <OrvCameraGuiApi/camera_api/orvgenparam.h>
 
 #include <QCoreApplication>
 #include <QHash>
 #include <QObject>
 #include <QPointer>
+#include <QSharedPointer>
 #include <QString>
 #include <QVector>
 #include <QWidget>
 
 #include <cstdint>
+#include <functional>
 #include <limits>
 #include <memory>
 
@@ -67,14 +70,28 @@ struct OrvCamConfigMapData
  * not unregister itself. A widget may go at any time, a button group and a converter only after unmapping.
  *
  * Binding takes all connections off the control's own signals; those of the owner are made after it, and again after
- * each new binding. A refresh never writes to the camera, but the control's signals are emitted as always: what hangs
- * on them may bind and unbind, and destroy the mapper, but what it sets in bound controls is shown and not written.
+ * each new binding.
+ *
+ * ## What is written
+ *
+ * An entry: a text that was changed and committed, a step, a drag that moved, a choice; and what the program sets in a
+ * bound control. It is written if it differs from the camera's value, whatever the control shows, or if that value
+ * cannot be read. Nothing else is: a refresh, a change of range, Return in an untouched field or the wheel over a
+ * control without the focus. What hangs on a control's signals during a refresh may bind and unbind, and destroy the
+ * mapper, but what it sets in bound controls is not written.
+ *
+ * ## What is shown
+ *
+ * The camera's value. An entry that is dropped without a write makes way for it at once, one that came during a refresh
+ * when the event loop runs next. A refused entry stays, with a message and a mark (see ControlWatch), until the
+ * camera's next report, Escape, or the focus leaves the control; choosing it again writes it again. A tab widget, whose
+ * pages belong to the entries, goes back at once.
  *
  * Values, maxima and steps are limited to the upper clamp where a widget shows them, minima only to what an int can
- * hold. What is entered is moved to a step of the parameter, what the camera reports is shown as it is. Failed reads
- * show as 0 or as nothing; failed writes show a message, and the control keeps what was entered.
+ * hold; the tool tip gives a value that is beyond. What is entered is moved to a step of the parameter, what the camera
+ * reports is shown as it is. Failed reads show as 0 or as nothing.
  *
- * GUI thread only, but for OnParameterUpdate().
+ * GUI thread only, except OnParameterUpdate().
  */
 class OrvCamConfigMapper : public OrvGenParam::ParamEventSink
 {
@@ -133,12 +150,19 @@ public:
     /** What \a feature is bound to, the main control first; empty when it is not bound. */
     QVector<OrvCamConfigMapData> bindings(const QString &feature) const;
 
-    /** Whether a refresh is going on: what happens in bound controls then is not written. */
+    /**
+     * \a rule is called whenever a bound parameter has been shown, last, and may do what it likes: for rules of the
+     * owner that decide after the mapper.
+     */
+    void setAfterShow(const std::function<void(OrvGenParam::Param *param)> &rule) { m_afterShow = rule; }
+
+    /** Whether a refresh is going on: entries into bound controls are not written then. */
     bool isRefreshing() const { return *m_refreshing > 0; }
 
     /**
-     * Shows the state of \a param in all that it is bound to. A notification that comes on another thread than the one
-     * the mapper was made on is acted upon when that thread's event loop runs next, if the parameter is still bound.
+     * Shows the state of \a param in all that a parameter of its name is bound to. Notifications that come on another
+     * thread than the one the mapper was made on are acted upon when that thread's event loop runs next, once however
+     * many there were, if the parameter is still bound.
      */
     void OnParameterUpdate(OrvGenParam::Param *param) override;
 
@@ -173,16 +197,27 @@ public:
 
 private:
     class RefreshGuard;
+    struct Entry;
     struct IntView;
     using Records = QVector<OrvCamConfigMapData>;
 
     bool prepare(OrvGenParam::Param *param, const OrvCamConfigMapData &record);
+    QObject *newContext(const OrvCamConfigMapData &record);
+    void watch(OrvGenParam::Param *param, QWidget *control);
     void registerAt(OrvGenParam::Param *param);
-    template <typename Write>
-    void write(OrvGenParam::Param *param, QWidget *control, Write write) const;
+    template <typename Composite>
+    int bindNumber(OrvGenParam::Int *param, Composite *composite, const OrvCamConfigMapData &record);
     template <typename Param>
     int mapButton(Param *param, QAbstractButton *button, std::int32_t type);
 
+    void enter(const Entry &entry);
+    void dropWhileRefreshing(const Entry &entry);
+    void settle();
+    void takeBack(OrvGenParam::Param *param, QWidget *control);
+    void mark(OrvGenParam::Param *param, QWidget *control);
+    QString cameraText(OrvGenParam::Param *param, const QWidget *control) const;
+
+    bool show(OrvGenParam::Param *param);
     void refresh(OrvGenParam::Param *param, const OrvCamConfigMapData &record);
     template <typename Param>
     void updateButton(Param *param, QAbstractButton *button);
@@ -198,8 +233,14 @@ private:
     QHash<QString, QHash<QString, int>> m_tabs; ///< by feature name: from an entry's symbolic name to its tab
     const std::int64_t m_upperClamp;
     QHash<QString, OrvGenParam::Param *> m_params; ///< by feature name: where this is registered
+    QHash<const QObject *, QSharedPointer<QObject>> m_contexts; ///< by control: receives its entries while it is bound
+    QHash<QString, unsigned> m_timesShown; ///< by feature name
+    QHash<QString, QPointer<QWidget>> m_dropped; ///< by feature name: entered during a refresh, to be taken back
+    std::function<void(OrvGenParam::Param *)> m_afterShow;
+    bool m_isSettling = false; ///< dropped entries are being taken back
     std::shared_ptr<int> m_refreshing; ///< how many refreshes are going on; outlives the mapper while one is
-    QObject m_context; ///< receives what other threads report and what the user does
+    QObject m_context; ///< lives as long as the mapper
+    ReportRelay<OrvGenParam::Param *> m_reports;
 };
 
 } // namespace OrvGui

@@ -4,12 +4,12 @@
 #include <OrvCameraGuiApi/widgets/qtorvspinbox.h>
 
 #include <QAbstractButton>
+#include <QButtonGroup>
 #include <QComboBox>
 #include <QDialog>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QThread>
 
 #include <utility>
 
@@ -72,6 +72,34 @@ private:
 
 namespace OrvGui {
 
+/** Tells whether the dialog is on the screen. */
+class FeatureDialogCamera::ShownWatch : public QObject
+{
+public:
+    explicit ShownWatch(FeatureDialogCamera *camera)
+        : m_camera(camera)
+    {
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Show || event->type() == QEvent::Hide)
+            m_camera->pollWhileShown(event->type() == QEvent::Show);
+        return false;
+    }
+
+private:
+    FeatureDialogCamera *const m_camera;
+};
+
+FeatureDialogCamera::FeatureDialogCamera()
+    : m_reports([this](const Listener &listener) {
+        if (m_sinks.contains(listener))
+            listener.second->OnParameterUpdate(listener.first);
+    })
+{
+}
+
 FeatureDialogCamera::~FeatureDialogCamera()
 {
     letGo();
@@ -85,20 +113,27 @@ bool FeatureDialogCamera::setDevice(OrvCam::Device *device)
     OrvGenParam::Array *const parameters = device ? device->GetCameraParameters(&err) : nullptr;
     m_device = device;
     m_parameters = err == OrvCamErr_Ok ? parameters : nullptr;
+    pollWhileShown(m_isShown);
     return m_parameters != nullptr;
 }
 
 bool FeatureDialogCamera::setDevice(OrvCam::Device *device, QDialog *dialog)
 {
     const bool hasParameters = setDevice(device);
+    clearControls(dialog);
     dialog->setEnabled(hasParameters);
-    if (hasParameters)
-        clearControls(dialog);
     return hasParameters;
+}
+
+void FeatureDialogCamera::pollWhileShown(bool isShown)
+{
+    m_isShown = isShown;
+    m_clock = NodeMapClock::Use(isShown && m_parameters ? m_parameters->GetNodeMap() : nullptr);
 }
 
 void FeatureDialogCamera::letGo()
 {
+    m_clock = {};
     const auto sinks = std::exchange(m_sinks, {});
     for (const auto &[param, sink] : sinks)
         param->UnregisterEvent(sink);
@@ -145,28 +180,16 @@ void FeatureDialogCamera::stopListening(OrvGenParam::Param *param, OrvGenParam::
     m_sinks.removeAll({param, sink});
 }
 
-void FeatureDialogCamera::listenBeforeMapper(OrvGenParam::Param *param, OrvGenParam::ParamEventSink *sink)
-{
-    listen(param, sink);
-    if (param)
-        param->UnregisterEvent(&mapper);
-}
-
 bool FeatureDialogCamera::isForGuiThread(OrvGenParam::Param *param, OrvGenParam::ParamEventSink *sink)
 {
-    if (QThread::currentThread() == m_context.thread())
-        return false;
-    const auto notify = [this, param, sink] {
-        if (m_sinks.contains({param, sink}))
-            sink->OnParameterUpdate(param);
-    };
-    QMetaObject::invokeMethod(&m_context, notify, Qt::QueuedConnection);
-    return true;
+    return m_reports.passOn({param, sink});
 }
 
 void FeatureDialogCamera::setUpDialog(QDialog *dialog)
 {
     new DialogKeys(dialog);
+    m_shownWatch.reset(new ShownWatch(this));
+    dialog->installEventFilter(m_shownWatch.data());
     const auto labels = dialog->findChildren<QLabel *>();
     for (QLabel *const label : labels) {
         if (label->buddy())
@@ -185,8 +208,15 @@ void FeatureDialogCamera::clearControls(QDialog *dialog)
     for (QComboBox *const comboBox : comboBoxes)
         comboBox->clear();
     const auto buttons = dialog->findChildren<QAbstractButton *>();
-    for (QAbstractButton *const button : buttons)
+    for (QAbstractButton *const button : buttons) {
+        QButtonGroup *const group = button->group();
+        const bool isExclusive = group && group->exclusive();
+        if (isExclusive)
+            group->setExclusive(false); // else one would stay checked
         button->setChecked(false);
+        if (isExclusive)
+            group->setExclusive(true);
+    }
     const auto spinBoxes = dialog->findChildren<QtOrvSpinBox *>();
     for (QtOrvSpinBox *const spinBox : spinBoxes)
         spinBox->setValue(spinBox->minimum());

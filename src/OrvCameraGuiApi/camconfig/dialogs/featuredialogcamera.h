@@ -3,6 +3,7 @@
 #include <OrvCameraGuiApi/camconfig/orvcamconfigmapper.h>
 #include <OrvCameraGuiApi/camera_api/orvcam.h>
 #include <OrvCameraGuiApi/camera_api/orvgenparam.h>
+#include <OrvCameraGuiApi/feature_tree/nodemapclock.h>
 
 #include <QObject>
 #include <QScopedPointer>
@@ -26,7 +27,7 @@ namespace OrvGui {
  *     bool OrvCamConfigXDialogPrivate::init(OrvCam::Device *device)
  *     {
  *         if (!isBuilt)
- *             build(); // the form, then FeatureDialogCamera::setUpDialog(q)
+ *             build(); // the form, then camera.setUpDialog(q)
  *         if (!camera.setDevice(device, q))
  *             return false;
  *         camera.mapper.mapEnumParam(camera.enumeration("TriggerSource"), ui.cmBoxSource);
@@ -35,7 +36,7 @@ namespace OrvGui {
 class FeatureDialogCamera
 {
 public:
-    FeatureDialogCamera() = default;
+    FeatureDialogCamera();
     ~FeatureDialogCamera();
 
     /**
@@ -44,7 +45,7 @@ public:
      */
     bool setDevice(OrvCam::Device *device);
 
-    /** The same for the whole of \a dialog: enabled where there are parameters, and then cleared for their binding. */
+    /** The same for the whole of \a dialog: cleared of the former camera, and enabled where there are parameters. */
     bool setDevice(OrvCam::Device *device, QDialog *dialog);
 
     /** Null unless there are parameters. */
@@ -69,28 +70,22 @@ public:
     void stopListening(OrvGenParam::Param *param, OrvGenParam::ParamEventSink *sink);
 
     /**
-     * The same for a bound parameter, in the mapper's place: for a dialog whose own rules have to come after the
-     * mapper's. The sink passes each notification on to the mapper's OnParameterUpdate() and then applies its rules.
-     */
-    void listenBeforeMapper(OrvGenParam::Param *param, OrvGenParam::ParamEventSink *sink);
-
-    /**
      * For the head of the dialog's OnParameterUpdate(): false on the GUI thread. On any other thread answers true, and
-     * the sink is called on the GUI thread as soon as that gets to it, if it still listens.
+     * the sink is called on the GUI thread as soon as that gets to it, once however many reports there were, if it
+     * still listens.
      */
     bool isForGuiThread(OrvGenParam::Param *param, OrvGenParam::ParamEventSink *sink);
 
     /**
      * To be called once, after the form is built. No button is a default one, so that Enter commits a value and does
      * nothing else; Escape closes the dialog like its title bar does, through closeEvent(), also while it is disabled.
-     * A label is enabled while its buddy is.
+     * A label is enabled while its buddy is. Features that declare a polling time are polled while the dialog is shown.
      */
-    static void setUpDialog(QDialog *dialog);
+    void setUpDialog(QDialog *dialog);
 
     /**
-     * To be called before binding, while the controls have no connections: where the camera has no feature for a
-     * control nothing of a former camera is left. Lists become empty, numbers the least, buttons unchecked; of a group
-     * of radio buttons one stays checked.
+     * To be called before binding, while the controls have no connections: nothing of a former camera is left. Lists
+     * become empty, numbers the least, buttons unchecked.
      */
     static void clearControls(QDialog *dialog);
 
@@ -99,13 +94,20 @@ public:
 private:
     Q_DISABLE_COPY(FeatureDialogCamera)
 
+    class ShownWatch;
+
     void letGo();
+    void pollWhileShown(bool isShown);
 
     OrvCam::Device *m_device = nullptr;
     OrvGenParam::Array *m_parameters = nullptr;
-    QVector<std::pair<OrvGenParam::Param *, OrvGenParam::ParamEventSink *>> m_sinks;
+    using Listener = std::pair<OrvGenParam::Param *, OrvGenParam::ParamEventSink *>;
+    QVector<Listener> m_sinks;
     QScopedPointer<QObject> m_connections;
-    QObject m_context; ///< receives what other threads report
+    ReportRelay<Listener> m_reports;
+    NodeMapClock::Use m_clock;
+    QScopedPointer<QObject> m_shownWatch; ///< on the dialog
+    bool m_isShown = false;
 };
 
 } // namespace OrvGui

@@ -51,9 +51,7 @@ bool OrvCamConfigColorDialogPrivate::init(OrvCam::Device *device)
 {
     if (!isBuilt)
         build();
-    const bool hasParameters = camera.setDevice(device);
-    if (hasParameters)
-        FeatureDialogCamera::clearControls(q);
+    const bool hasParameters = camera.setDevice(device, q);
     camera.mapper.mapEnumParam(camera.enumeration("BalanceWhiteAuto"), ui.cmBoxWhiteBalance);
     camera.mapper.mapEnumParam(camera.enumeration("AutoTrackingSpeed"), ui.cmBoxTrackingSpeed);
     bool hasCoefficients = false;
@@ -67,7 +65,7 @@ bool OrvCamConfigColorDialogPrivate::init(OrvCam::Device *device)
 void OrvCamConfigColorDialogPrivate::build()
 {
     ui.setupUi(q);
-    FeatureDialogCamera::setUpDialog(q);
+    camera.setUpDialog(q);
     coefficients = {{{"RedCoefficient", ui.spBoxRed, ui.pushBtnRedUnity, ui.lblRedCoef},
                      {"GreenCoefficient", ui.spBoxGreen, ui.pushBtnGreenUnity, ui.lblGreenCoef},
                      {"BlueCoefficient", ui.spBoxBlue, ui.pushBtnBlueUnity, ui.lblBlueCoef}}};

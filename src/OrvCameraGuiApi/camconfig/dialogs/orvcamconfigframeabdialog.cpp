@@ -1,21 +1,28 @@
 #include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigframeabdialog.h>
 
+#include <OrvCameraGuiApi/camconfig/controlwatch.h>
 #include <OrvCameraGuiApi/camconfig/dialogs/dialogparts.h>
 #include <OrvCameraGuiApi/camconfig/dialogs/featuredialogcamera.h>
 #include <OrvCameraGuiApi/camconfig/dialogs/framearithmetic.h>
+#include <OrvCameraGuiApi/widgets/entryguard.h>
+#include <OrvCameraGuiApi/widgets/qtorvdoubleslider.h>
+#include <OrvCameraGuiApi/widgets/qtorvslider.h>
 #include <OrvCameraGuiApi/widgets/spinsliderlink.h>
 
 #include "ui_orvcamconfigframeabdialog.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMutex>
 #include <QMutexLocker>
 #include <QPointer>
 #include <QScopedValueRollback>
+#include <QSignalBlocker>
 #include <QTabBar>
 #include <QTimer>
 
 #include <algorithm>
+#include <initializer_list>
 #include <limits>
 #include <utility>
 
@@ -57,6 +64,57 @@ bool isUsable(OrvGenParam::Param *param)
     return param && param->IsAvailable() && param->IsWritable();
 }
 
+/** Tells the steps of a gain slider from what is typed, dragged or set. */
+class StepWatch : public QObject
+{
+public:
+    /** For the life of \a gain; the watch goes first. */
+    void watch(QtOrvGainSlider *gain)
+    {
+        gain->spinBox()->installEventFilter(this);
+        connect(gain->slider()->slider(), &QSlider::actionTriggered, this, [this](int action) {
+            m_isStep = action != QSlider::SliderMove;
+            forgetSoon();
+        });
+    }
+
+    bool isStep() const { return m_isStep; }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        switch (event->type()) {
+        case QEvent::KeyPress: {
+            const int key = static_cast<QKeyEvent *>(event)->key();
+            m_isStep = key != Qt::Key_Return && key != Qt::Key_Enter;
+            break;
+        }
+        case QEvent::MouseButtonPress: // of an arrow, which repeats until the release
+            m_isStep = true;
+            break;
+        case QEvent::Wheel:
+            m_isStep = true;
+            forgetSoon();
+            break;
+        case QEvent::KeyRelease:
+        case QEvent::MouseButtonRelease:
+        case QEvent::FocusOut:
+            m_isStep = false;
+            break;
+        default:
+            break;
+        }
+        return false;
+    }
+
+private:
+    void forgetSoon()
+    {
+        QTimer::singleShot(0, this, [this] { m_isStep = false; });
+    }
+
+    bool m_isStep = false;
+};
+
 /** Lets the fields of composites that stand above each other begin at the same place. */
 template <typename... Composites>
 void alignCaptions(Composites *...composites)
@@ -83,6 +141,8 @@ public:
 
     bool init(OrvCam::Device *device);
     void build();
+    void buildExposureTime();
+    void buildGain();
     void setCaptions();
     void reset();
     void getNeededParams();
@@ -96,7 +156,7 @@ public:
     void initDigitalGain();
 
     Cached cached() const;
-    void cache(OrvGenParam::Int *param);
+    bool cache(OrvGenParam::Int *param);
     bool isBound(const char *feature, const QWidget *control) const;
     auto sameCamera() const;
 
@@ -110,7 +170,12 @@ public:
     void showFixedPeriod();
     void showActualSize();
     void updateExposureTime();
+    void showTime(std::int64_t microseconds, std::int64_t longest);
     void setExposureTime(int microseconds);
+    bool setHalf(const char *feature, QtOrvSpinBox *spinBox, std::int64_t value);
+    bool readBack(std::initializer_list<const char *> features);
+    Gain partsOf(double entered) const;
+    bool isNews(const Gain &parts) const;
     void updateGain();
     void setGain(double gain);
 
@@ -121,6 +186,7 @@ public:
     OrvCamConfigFrameABDialog *const q;
     Ui_OrvCamConfigFrameABDialog ui;
     std::pair<QString, QString> pageTitles;
+    StepWatch gainSteps;
     bool isBuilt = false;
     bool isShowing = false; ///< exposure time and gain follow the camera, and are not the user's
     int session = 0; ///< counts the cameras
@@ -140,7 +206,7 @@ bool OrvCamConfigFrameABDialogPrivate::init(OrvCam::Device *device)
     if (!isBuilt)
         build();
     ++session;
-    const bool hasParameters = camera.setDevice(device);
+    const bool hasParameters = camera.setDevice(device, q);
     reset();
     getNeededParams();
     initComboBoxes();
@@ -161,7 +227,7 @@ bool OrvCamConfigFrameABDialogPrivate::init(OrvCam::Device *device)
 void OrvCamConfigFrameABDialogPrivate::build()
 {
     ui.setupUi(q);
-    FeatureDialogCamera::setUpDialog(q);
+    camera.setUpDialog(q);
     setCaptions();
     const auto radioButtons = q->findChildren<QRadioButton *>();
     for (QRadioButton *const button : radioButtons)
@@ -169,16 +235,42 @@ void OrvCamConfigFrameABDialogPrivate::build()
     pageTitles = {ui.tabFrames->tabText(0), ui.tabFrames->tabText(1)};
     // The field that is typed in loses the focus, and with it the text, which would else go to the other frame.
     ui.tabFrames->tabBar()->setFocusPolicy(Qt::WheelFocus);
-    ui.spBoxExposureTime->setValidate(true);
-    ui.spBoxExposureTime->setValidateTyping(false);
-    QObject::connect(ui.spBoxExposureTime, QOverload<int>::of(&QtOrvSliderSpinBox::valueChanged), q,
-                     [this](int microseconds) { setExposureTime(microseconds); });
-    ui.gainDigital->setValidate(true);
-    ui.gainDigital->setValidateTyping(false);
-    ui.gainDigital->setSingleStep(gainStep);
-    QObject::connect(ui.gainDigital, QOverload<double>::of(&QtOrvGainSlider::valueChanged), q,
-                     [this](double gain) { setGain(gain); });
+    buildExposureTime();
+    buildGain();
+    camera.mapper.setAfterShow([this](OrvGenParam::Param *param) {
+        if (qstrcmp(param->GetName(), selectorFeature) == 0)
+            enablePages(); // the mapper enables them by their entries alone
+    });
     isBuilt = true;
+}
+
+/** Not bound to one feature, but it takes entries as the mapper's controls do. */
+void OrvCamConfigFrameABDialogPrivate::buildExposureTime()
+{
+    QtOrvSliderSpinBox *const time = ui.spBoxExposureTime;
+    time->setValidate(true);
+    time->setValidateTyping(false);
+    time->spinBox()->setEntryGuarded(true);
+    ControlWatch::install(time);
+    QObject::connect(time, QOverload<int>::of(&QtOrvSliderSpinBox::valueChanged), q,
+                     [this](int microseconds) { setExposureTime(microseconds); });
+    QObject::connect(EntryGuard::of(time->spinBox()), &EntryGuard::entered, q,
+                     [this, time] { setExposureTime(time->value()); });
+}
+
+void OrvCamConfigFrameABDialogPrivate::buildGain()
+{
+    QtOrvGainSlider *const gain = ui.gainDigital;
+    gain->setValidate(true);
+    gain->setValidateTyping(false);
+    gain->setSingleStep(gainStep);
+    gain->spinBox()->setEntryGuarded(true);
+    gainSteps.watch(gain);
+    QObject::connect(gain, QOverload<double>::of(&QtOrvGainSlider::valueChanged), q,
+                     [this](double entered) { setGain(entered); });
+    QObject::connect(EntryGuard::of(gain->spinBox()), &EntryGuard::entered, q,
+                     [this, gain] { setGain(gain->value()); });
+    QObject::connect(ControlWatch::install(gain), &ControlWatch::entryGivenUp, q, [this] { updateGain(); });
 }
 
 void OrvCamConfigFrameABDialogPrivate::setCaptions()
@@ -203,9 +295,10 @@ void OrvCamConfigFrameABDialogPrivate::reset()
 {
     {
         const QScopedValueRollback<bool> guard(isShowing, true);
-        FeatureDialogCamera::clearControls(q);
         ui.gainDigital->setValue(ui.gainDigital->minimum());
     }
+    ControlWatch::of(ui.gainDigital)->clear();
+    ControlWatch::of(ui.spBoxExposureTime)->clear();
     for (QWidget *const control :
          {static_cast<QWidget *>(ui.spBoxLineTime), static_cast<QWidget *>(ui.spBoxDualLineTime),
           static_cast<QWidget *>(ui.spBoxNumFrameAs), static_cast<QWidget *>(ui.spBoxNumFrameBs)})
@@ -290,10 +383,7 @@ void OrvCamConfigFrameABDialogPrivate::initSliders()
 
 void OrvCamConfigFrameABDialogPrivate::initTabWidget()
 {
-    OrvGenParam::Enum *const selector = camera.enumeration(selectorFeature);
-    // Tells after the mapper, which enables the pages by their entries alone.
-    if (camera.mapper.mapEnumParam(selector, ui.tabFrames))
-        camera.listen(selector, this);
+    camera.mapper.mapEnumParam(camera.enumeration(selectorFeature), ui.tabFrames);
 }
 
 void OrvCamConfigFrameABDialogPrivate::initCheckBoxes()
@@ -327,8 +417,11 @@ Cached OrvCamConfigFrameABDialogPrivate::cached() const
     return values;
 }
 
-/** Takes what the camera says of \a param, and of it alone: others may be about to be written. */
-void OrvCamConfigFrameABDialogPrivate::cache(OrvGenParam::Int *param)
+/**
+ * Takes what the camera says of \a param, and of it alone: others may be about to be written. False when it says
+ * nothing.
+ */
+bool OrvCamConfigFrameABDialogPrivate::cache(OrvGenParam::Int *param)
 {
     const QLatin1String name(param->GetName());
     OrvCamErr err = OrvCamErr_Ok;
@@ -350,6 +443,7 @@ void OrvCamConfigFrameABDialogPrivate::cache(OrvGenParam::Int *param)
     } else if (name == QLatin1String(fineGainFeature)) {
         values.gain.fine = value;
     }
+    return err == OrvCamErr_Ok;
 }
 
 bool OrvCamConfigFrameABDialogPrivate::isBound(const char *feature, const QWidget *control) const
@@ -363,16 +457,18 @@ void OrvCamConfigFrameABDialogPrivate::onFrameModeChanged(const QString &mode)
     const int page = onlyPage(mode);
     bindForMode(page >= 0);
     const auto isSame = sameCamera();
+    const bool isReported = camera.mapper.isRefreshing();
     if (page >= 0) {
+        const QSignalBlocker blocker(isReported ? ui.tabFrames : nullptr);
         ui.tabFrames->setTabEnabled(page, true);
         ui.tabFrames->setCurrentIndex(page);
     }
     if (!isSame())
         return;
     enablePages();
-    // The mapper has written what the user chose. What another window chose was but shown, yet what is edited from now
-    // on has to be the frame that is shown; unless the camera is let go before.
-    if (page >= 0 && camera.mapper.isRefreshing())
+    // The mapper has selected the frame of a mode that the user chose. After a report the frame on show is selected
+    // when that is over, for it is the one that is edited from now on; unless the camera is let go before.
+    if (page >= 0 && isReported)
         QTimer::singleShot(0, camera.context(), [this] { selectShownFrame(); });
 }
 
@@ -406,7 +502,7 @@ bool OrvCamConfigFrameABDialogPrivate::canShow(int page) const
     OrvGenParam::Enum *const selector = camera.enumeration(selectorFeature);
     OrvGenParam::EnumEntry *const entry = selector ? selector->GetEnumEntryByIndex(page, nullptr) : nullptr;
     const int only = onlyPage(ui.cmBoxFrameMode->currentText());
-    return (only < 0 || only == page) && (!entry || entry->IsAvailable());
+    return (only < 0 || only == page) && (!selector || (entry && entry->IsAvailable()));
 }
 
 /** The page that is shown stays enabled: disabling it would show, and so select, another one. */
@@ -452,41 +548,85 @@ void OrvCamConfigFrameABDialogPrivate::showActualSize()
     ui.lblSizeActual->setEnabled(isKnown);
 }
 
+/** While lines or clocks are locked the time is shown all the same, and cannot be changed. */
 void OrvCamConfigFrameABDialogPrivate::updateExposureTime()
 {
-    const bool isEnabled = isUsable(camera.integer(linesFeature)) && isUsable(camera.integer(clocksFeature));
+    OrvGenParam::Int *const lines = camera.integer(linesFeature);
+    OrvGenParam::Int *const clocks = camera.integer(clocksFeature);
+    const bool isKnown = lines && clocks && lines->IsAvailable() && clocks->IsAvailable();
     const QScopedValueRollback<bool> guard(isShowing, true);
-    ui.spBoxExposureTime->setEnabled(isEnabled);
-    if (!isEnabled)
+    ui.spBoxExposureTime->setEnabled(isKnown);
+    if (!isKnown)
         return;
+    const bool isLocked = !lines->IsWritable() || !clocks->IsWritable();
+    ui.spBoxExposureTime->spinBox()->setReadOnly(isLocked);
+    ui.spBoxExposureTime->slider()->setEnabled(!isLocked);
     const Cached now = cached();
     const std::int64_t longest =
         ui.chBoxFixedPeriod->isChecked() ? ui.spBoxFixedPeriod->value() : exposureTime(now.longestExposure, now.clock);
-    ui.spBoxExposureTime->setRange(0, toInt(longest));
-    ui.spBoxExposureTime->setValue(toInt(exposureTime(now.exposure, now.clock)));
+    showTime(exposureTime(now.exposure, now.clock), longest);
 }
 
-/** The spin boxes of lines and clocks write. What they do not take, the time does not show either. */
+/** What shows already is left alone, and with it what is being typed. A time beyond the range is told in words. */
+void OrvCamConfigFrameABDialogPrivate::showTime(std::int64_t microseconds, std::int64_t longest)
+{
+    QtOrvSliderSpinBox *const time = ui.spBoxExposureTime;
+    time->setRange(0, toInt(longest));
+    const int shown = std::clamp(toInt(microseconds), time->minimum(), time->maximum());
+    if (time->value() != shown)
+        time->spinBox()->QSpinBox::setValue(shown);
+    ControlWatch *const watch = ControlWatch::of(time);
+    watch->clear();
+    if (shown != microseconds)
+        watch->note(ControlWatch::valueText(time->locale().toString(qlonglong(microseconds))));
+}
+
+/** The spin boxes of lines and clocks write, and tell what is refused. The time then shows what the camera has. */
 void OrvCamConfigFrameABDialogPrivate::setExposureTime(int microseconds)
 {
     if (isShowing)
         return;
-    const std::optional<Exposure> parts = splitExposure(microseconds, cached().clock);
-    if (!parts)
-        return;
-    const auto store = [this](const Exposure &exposure) {
-        const QMutexLocker locker(&mutex);
-        values.exposure = exposure;
-    };
-    store(*parts);
+    readBack({linesFeature, clocksFeature});
+    const Cached now = cached();
+    const std::optional<Exposure> parts = splitExposure(microseconds, now.clock);
     const auto isSame = sameCamera();
-    ui.spBoxExposureLines->setValue(toInt(parts->lines));
-    if (isSame())
-        ui.spBoxExposureClocks->setValue(toInt(parts->clocks));
+    if (parts && exposureTime(now.exposure, now.clock) != microseconds) {
+        if (!setHalf(linesFeature, ui.spBoxExposureLines, parts->lines) || !isSame())
+            return;
+        setHalf(clocksFeature, ui.spBoxExposureClocks, parts->clocks);
+    }
     if (!isSame())
         return;
-    store({ui.spBoxExposureLines->value(), ui.spBoxExposureClocks->value()});
+    for (const char *const feature : {linesFeature, clocksFeature}) {
+        if (OrvGenParam::Int *const half = camera.integer(feature))
+            camera.mapper.OnParameterUpdate(half);
+        if (!isSame())
+            return;
+    }
+    readBack({linesFeature, clocksFeature});
     updateExposureTime();
+}
+
+/** By its spin box, which shows the camera's value before, so that it says whatever differs from that. */
+bool OrvCamConfigFrameABDialogPrivate::setHalf(const char *feature, QtOrvSpinBox *spinBox, std::int64_t value)
+{
+    const auto isSame = sameCamera();
+    if (OrvGenParam::Int *const half = camera.integer(feature))
+        camera.mapper.updateSpinBox(half, spinBox);
+    if (isSame())
+        spinBox->setValue(toInt(value));
+    return isSame();
+}
+
+/** False when one that the camera has cannot be read. */
+bool OrvCamConfigFrameABDialogPrivate::readBack(std::initializer_list<const char *> features)
+{
+    bool isRead = true;
+    for (const char *const feature : features) {
+        if (OrvGenParam::Int *const param = camera.integer(feature))
+            isRead &= cache(param);
+    }
+    return isRead;
 }
 
 void OrvCamConfigFrameABDialogPrivate::updateGain()
@@ -505,24 +645,52 @@ void OrvCamConfigFrameABDialogPrivate::updateGain()
     const double gain = composedGain(cached().gain);
     if (!SpinSlider::shows(field, gain))
         field->QDoubleSpinBox::setValue(gain);
+    ControlWatch::of(ui.gainDigital)->clear();
 }
 
-/** A refused write is intentionally not told. */
+/** A step leads on where it is less than what the camera can tell apart. */
+Gain OrvCamConfigFrameABDialogPrivate::partsOf(double entered) const
+{
+    if (!gainSteps.isStep())
+        return splitGain(entered);
+    GainRange range;
+    if (const auto coarse = rangeOf(camera.integer(coarseGainFeature)))
+        range.coarse = *coarse;
+    if (const auto fine = rangeOf(camera.integer(fineGainFeature)))
+        range.fine = *fine;
+    return steppedGain(cached().gain, entered, range);
+}
+
+/** Whether a part that the camera has is another one there. */
+bool OrvCamConfigFrameABDialogPrivate::isNews(const Gain &parts) const
+{
+    const Gain now = cached().gain;
+    return (camera.integer(coarseGainFeature) && parts.coarse != now.coarse)
+        || (camera.integer(fineGainFeature) && parts.fine != now.fine);
+}
+
+/** A refused half intentionally brings no message: both are read back, and the control is marked. */
 void OrvCamConfigFrameABDialogPrivate::setGain(double gain)
 {
     if (isShowing)
         return;
-    const Gain parts = splitGain(gain);
-    {
-        const QMutexLocker locker(&mutex);
-        values.gain = parts;
-    }
+    const bool isKnown = readBack({coarseGainFeature, fineGainFeature});
+    const Gain parts = partsOf(gain);
     const auto isSame = sameCamera();
-    if (OrvGenParam::Int *const coarse = camera.integer(coarseGainFeature))
-        coarse->SetValue(parts.coarse);
-    OrvGenParam::Int *const fine = isSame() ? camera.integer(fineGainFeature) : nullptr;
-    if (fine)
-        fine->SetValue(parts.fine);
+    OrvCamErr coarseErr = OrvCamErr_Ok;
+    OrvCamErr fineErr = OrvCamErr_Ok;
+    if (!isKnown || isNews(parts)) {
+        if (OrvGenParam::Int *const coarse = camera.integer(coarseGainFeature))
+            coarseErr = coarse->SetValue(parts.coarse);
+        if (OrvGenParam::Int *const fine = isSame() ? camera.integer(fineGainFeature) : nullptr)
+            fineErr = fine->SetValue(parts.fine);
+    }
+    if (!isSame())
+        return;
+    const bool isRead = readBack({coarseGainFeature, fineGainFeature});
+    updateGain();
+    if (coarseErr != OrvCamErr_Ok || fineErr != OrvCamErr_Ok)
+        ControlWatch::of(ui.gainDigital)->mark(isRead ? ui.gainDigital->spinBox()->text() : QString());
 }
 
 std::int64_t OrvCamConfigFrameABDialogPrivate::ToControl(std::int64_t deviceValue, OrvGenParam::Int *)
@@ -530,9 +698,10 @@ std::int64_t OrvCamConfigFrameABDialogPrivate::ToControl(std::int64_t deviceValu
     return microsecondsOfLines(deviceValue, cached().clock);
 }
 
-std::int64_t OrvCamConfigFrameABDialogPrivate::ToDevice(std::int64_t controlValue, OrvGenParam::Int *)
+/** Changed only where the camera would refuse it. */
+std::int64_t OrvCamConfigFrameABDialogPrivate::ToDevice(std::int64_t controlValue, OrvGenParam::Int *param)
 {
-    return linesOfMicroseconds(controlValue, cached().clock);
+    return fitted(linesOfMicroseconds(controlValue, cached().clock), param);
 }
 
 void OrvCamConfigFrameABDialogPrivate::OnParameterUpdate(OrvGenParam::Param *param)
@@ -540,8 +709,6 @@ void OrvCamConfigFrameABDialogPrivate::OnParameterUpdate(OrvGenParam::Param *par
     if (camera.isForGuiThread(param, this) || !camera.parameters())
         return;
     const QLatin1String name(param->GetName());
-    if (name == QLatin1String(selectorFeature))
-        return enablePages();
     auto *const number =
         param->GetType() == OrvGenParam::ParamTypeInt ? dynamic_cast<OrvGenParam::Int *>(param) : nullptr;
     if (!number)

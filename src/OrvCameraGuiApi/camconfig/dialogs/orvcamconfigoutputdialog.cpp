@@ -46,7 +46,7 @@ bool OrvCamConfigOutputDialogPrivate::init(OrvCam::Device *device)
 void OrvCamConfigOutputDialogPrivate::build()
 {
     ui.setupUi(q);
-    FeatureDialogCamera::setUpDialog(q);
+    camera.setUpDialog(q);
     for (QtOrvSpinBox *const spinBox : {ui.spBoxDpcDynThres, ui.spBoxHpcDynThres})
         spinBox->setLeftLabelText(OrvCamConfigOutputDialog::tr("Dyn.Thres.:"));
     // Its features stay bound all the same.

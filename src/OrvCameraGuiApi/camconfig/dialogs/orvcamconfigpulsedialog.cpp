@@ -115,7 +115,7 @@ bool OrvCamConfigPulseDialogPrivate::init(OrvCam::Device *device)
 void OrvCamConfigPulseDialogPrivate::build()
 {
     ui.setupUi(q);
-    FeatureDialogCamera::setUpDialog(q);
+    camera.setUpDialog(q);
     times = {
         {{ui.lblWidth, ui.lblWidth->text()}, {ui.lblPeriod, ui.lblPeriod->text()}, {ui.lblDelay, ui.lblDelay->text()}}};
     for (QtOrvSpinBox *const spinBox : {ui.spBoxPeriod, ui.spBoxWidth, ui.spBoxNumPulses})

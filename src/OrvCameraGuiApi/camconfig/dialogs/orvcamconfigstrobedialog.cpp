@@ -8,7 +8,6 @@
 #include "ui_orvcamconfigstrobedialog.h"
 
 #include <QCloseEvent>
-#include <QPointer>
 
 #include <algorithm>
 #include <utility>
@@ -38,7 +37,7 @@ const Picture pictures[2][2] = {
 
 namespace OrvGui {
 
-class OrvCamConfigStrobeDialogPrivate : public OrvGenParam::ParamEventSink
+class OrvCamConfigStrobeDialogPrivate
 {
 public:
     explicit OrvCamConfigStrobeDialogPrivate(OrvCamConfigStrobeDialog *dialog)
@@ -51,12 +50,10 @@ public:
     void build();
     void initCaptions();
     void initComboBoxes();
-    void initReference(const char *feature, QComboBox *comboBox);
     void initSliders();
     void alignSliders();
     void setImageState();
     void show(const Picture &picture);
-    void OnParameterUpdate(OrvGenParam::Param *param) override;
 
     OrvCamConfigStrobeDialog *const q;
     Ui_OrvCamConfigStrobeDialog ui;
@@ -68,7 +65,9 @@ bool OrvCamConfigStrobeDialogPrivate::init(OrvCam::Device *device)
 {
     if (!isBuilt)
         build();
-    if (!camera.setDevice(device, q))
+    const bool hasParameters = camera.setDevice(device, q);
+    show(pictures[true][true]);
+    if (!hasParameters)
         return false;
     initComboBoxes();
     initSliders();
@@ -79,10 +78,11 @@ bool OrvCamConfigStrobeDialogPrivate::init(OrvCam::Device *device)
 void OrvCamConfigStrobeDialogPrivate::build()
 {
     ui.setupUi(q);
-    FeatureDialogCamera::setUpDialog(q);
+    camera.setUpDialog(q);
     initCaptions();
     alignSliders();
-    show(pictures[true][true]);
+    // A reference box that has just been enabled again shows in the picture.
+    camera.mapper.setAfterShow([this](OrvGenParam::Param *) { setImageState(); });
     isBuilt = true;
 }
 
@@ -104,15 +104,9 @@ void OrvCamConfigStrobeDialogPrivate::initComboBoxes()
     for (const auto &[feature, comboBox] : bindings) {
         camera.mapper.mapEnumParam(camera.enumeration(feature), comboBox);
         if (comboBox == ui.cmBoxStrobe1Ref || comboBox == ui.cmBoxStrobe2Ref)
-            initReference(feature, comboBox);
+            QObject::connect(comboBox, &QComboBox::currentTextChanged, camera.context(), [this] { setImageState(); });
     }
     setImageState();
-}
-
-void OrvCamConfigStrobeDialogPrivate::initReference(const char *feature, QComboBox *comboBox)
-{
-    camera.listenBeforeMapper(camera.enumeration(feature), this);
-    QObject::connect(comboBox, &QComboBox::currentTextChanged, camera.context(), [this] { setImageState(); });
 }
 
 void OrvCamConfigStrobeDialogPrivate::initSliders()
@@ -159,17 +153,6 @@ void OrvCamConfigStrobeDialogPrivate::show(const Picture &picture)
 {
     ui.lblStrobeImage->setPixmap(sharpPixmap(QLatin1String(picture.path), q));
     ui.lblStrobeImage->setAccessibleName(OrvCamConfigStrobeDialog::tr(picture.meaning));
-}
-
-/** A reference box that has just been enabled again shows in the picture. */
-void OrvCamConfigStrobeDialogPrivate::OnParameterUpdate(OrvGenParam::Param *param)
-{
-    if (camera.isForGuiThread(param, this))
-        return;
-    const QPointer<OrvCamConfigStrobeDialog> alive(q);
-    camera.mapper.OnParameterUpdate(param);
-    if (alive)
-        setImageState();
 }
 
 OrvCamConfigStrobeDialog::OrvCamConfigStrobeDialog(OrvCam::Device *device, QWidget *parent)

@@ -5,11 +5,10 @@
 #include "ui_orvcamconfigtriggerdialog.h"
 
 #include <QCloseEvent>
-#include <QPointer>
 
 namespace OrvGui {
 
-class OrvCamConfigTriggerDialogPrivate : public OrvGenParam::ParamEventSink
+class OrvCamConfigTriggerDialogPrivate
 {
 public:
     explicit OrvCamConfigTriggerDialogPrivate(OrvCamConfigTriggerDialog *dialog)
@@ -25,7 +24,6 @@ public:
     void initButton();
     void applyEnableRule();
     void applySoftwareRule();
-    void OnParameterUpdate(OrvGenParam::Param *param) override;
 
     OrvCamConfigTriggerDialog *const q;
     Ui_OrvCamConfigTriggerDialog ui;
@@ -49,15 +47,14 @@ bool OrvCamConfigTriggerDialogPrivate::init(OrvCam::Device *device)
 void OrvCamConfigTriggerDialogPrivate::build()
 {
     ui.setupUi(q);
-    FeatureDialogCamera::setUpDialog(q);
+    camera.setUpDialog(q);
+    camera.mapper.setAfterShow([this](OrvGenParam::Param *) { applyEnableRule(); });
     isBuilt = true;
 }
 
 void OrvCamConfigTriggerDialogPrivate::initCheckBox()
 {
-    OrvGenParam::Enum *const param = camera.enumeration("TriggerMode");
-    camera.mapper.mapEnumParam(param, ui.chBoxEnable);
-    camera.listenBeforeMapper(param, this);
+    camera.mapper.mapEnumParam(camera.enumeration("TriggerMode"), ui.chBoxEnable);
     QObject::connect(ui.chBoxEnable, &QCheckBox::stateChanged, camera.context(), [this] { applyEnableRule(); });
 }
 
@@ -65,21 +62,16 @@ void OrvCamConfigTriggerDialogPrivate::initComboBoxes()
 {
     const std::pair<const char *, QComboBox *> bindings[] = {
         {"TriggerSource", ui.cmBoxSource}, {"TriggerActivation", ui.cmBoxEdge}, {"TriggerDebounce", ui.cmBoxDebounce}};
-    for (const auto &[feature, comboBox] : bindings) {
-        OrvGenParam::Enum *const param = camera.enumeration(feature);
-        camera.mapper.mapEnumParam(param, comboBox);
-        camera.listenBeforeMapper(param, this);
-    }
+    for (const auto &[feature, comboBox] : bindings)
+        camera.mapper.mapEnumParam(camera.enumeration(feature), comboBox);
     QObject::connect(ui.cmBoxSource, QOverload<int>::of(&QComboBox::currentIndexChanged), camera.context(),
                      [this] { applySoftwareRule(); });
 }
 
 void OrvCamConfigTriggerDialogPrivate::initButton()
 {
-    OrvGenParam::Command *const param = camera.command("TriggerSoftware");
-    if (param)
+    if (OrvGenParam::Command *const param = camera.command("TriggerSoftware"))
         camera.mapper.mapCommandParam(param, ui.pushBtnSoftwareTrigger, nullptr);
-    camera.listenBeforeMapper(param, this);
 }
 
 /** Decides alone, whatever the features themselves allow, and also for those that the camera does not have. */
@@ -94,16 +86,6 @@ void OrvCamConfigTriggerDialogPrivate::applySoftwareRule()
 {
     const bool isBySoftware = ui.cmBoxSource->currentText() == QLatin1String("Software");
     ui.pushBtnSoftwareTrigger->setEnabled(ui.chBoxEnable->isChecked() && isBySoftware);
-}
-
-void OrvCamConfigTriggerDialogPrivate::OnParameterUpdate(OrvGenParam::Param *param)
-{
-    if (camera.isForGuiThread(param, this))
-        return;
-    const QPointer<OrvCamConfigTriggerDialog> alive(q);
-    camera.mapper.OnParameterUpdate(param);
-    if (alive && camera.parameters())
-        applyEnableRule();
 }
 
 OrvCamConfigTriggerDialog::OrvCamConfigTriggerDialog(OrvCam::Device *device, QWidget *parent)
