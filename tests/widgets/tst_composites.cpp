@@ -437,6 +437,36 @@ private Q_SLOTS:
         check(gain);
     }
 
+    /** As it is shown, digits and decimal sign of the locale; what is not touched is no entry. */
+    void returnReadsBetweenPrefixAndSuffix()
+    {
+        for (const char *name : {"C", "de_DE", "ar_EG"}) {
+            forEachComposite([name](auto &window) {
+                auto &composite = window.composite;
+                using Number = decltype(composite.value());
+                const Number number = std::is_same_v<Number, double> ? Number(3.5) : Number(35);
+                composite.setLocale(QLocale(QLatin1String(name)));
+                composite.setRange(0, 5000);
+                composite.setValidateTyping(false);
+                composite.spinBox()->setPrefix(QStringLiteral("< "));
+                composite.spinBox()->setSuffix(QStringLiteral(" us >"));
+                composite.setValue(number);
+                const QString shown = composite.spinBox()->text();
+                composite.setValue(7);
+                window.takeEmitted();
+                QTest::keyClick(composite.spinBox(), Qt::Key_Return);
+                QCOMPARE(window.takeEmitted(), QString());
+                composite.spinBox()->selectAll();
+                type(composite.spinBox(), shown.mid(2).chopped(5));
+                QCOMPARE(window.takeEmitted(), QString());
+                QTest::keyClick(composite.spinBox(), Qt::Key_Enter);
+                QCOMPARE(composite.value(), number);
+                QCOMPARE(composite.spinBox()->text(), shown);
+                QCOMPARE(window.takeEmitted().count(shown), 1);
+            });
+        }
+    }
+
     /** Where the spin box shows a bound rounded, its end is the bound. */
     void nothingBeyondTheBoundsIsTold()
     {

@@ -1,5 +1,7 @@
 #include <OrvCameraGuiApi/widgets/int64validator.h>
 
+#include <OrvCameraGuiApi/widgets/numbertext.h>
+
 #include <QLocale>
 
 #include <limits>
@@ -8,6 +10,17 @@ namespace {
 
 constexpr long long Smallest = std::numeric_limits<long long>::min();
 constexpr long long Largest = std::numeric_limits<long long>::max();
+
+/** A single separator that does not cut off a group: it could be meant for a decimal sign. */
+bool isAmbiguous(const QString &text, const QLocale &locale)
+{
+    constexpr int group = 3; // digits
+    const QChar separator = locale.groupSeparator();
+    const int place = text.indexOf(separator);
+    if (place < 0 || !NumberText::hasGroups(locale) || text.count(separator) > 1)
+        return false;
+    return place == 0 || text.size() - place - 1 != group;
+}
 
 } // namespace
 
@@ -73,28 +86,26 @@ QValidator::State Int64Validator::validate(QString &text, int &pos) const
     Q_UNUSED(pos)
     if (text.isEmpty())
         return Intermediate;
-    if (text == QLatin1String("-") || (m_base == 10 && text == locale().negativeSign()))
+    const bool isLocalSign = m_base == 10 && text.size() == 1 && NumberText::isNegative(text, locale());
+    if (isLocalSign || text == QLatin1String("-"))
         return m_bottom < 0 ? Intermediate : Invalid;
 
     bool ok = false;
     const long long number = toInt64(text, &ok);
-    return ok ? judge(number) : Invalid;
+    if (ok)
+        return judge(number);
+    const bool isGroupBegun = m_base == 10 && isAmbiguous(text, locale()) && NumberText::toInteger(text, locale());
+    return isGroupBegun ? Intermediate : Invalid;
 }
 
 long long Int64Validator::toInt64(const QString &text, bool *ok) const
 {
-    bool isNumber = false;
-    long long number = text.toLongLong(&isNumber, m_base);
-    if (!isNumber && m_base == 10) {
-        // A spin box shows base 10 in the digits and groups of its locale, and has to read what it shows.
-        QString digits = text;
-        if (!(locale().numberOptions() & QLocale::OmitGroupSeparator))
-            digits.remove(locale().groupSeparator());
-        number = locale().toLongLong(digits, &isNumber);
-    }
+    std::optional<qint64> number;
+    if (m_base != 10 || !isAmbiguous(text, locale()))
+        number = NumberText::toInteger(text, locale(), m_base);
     if (ok)
-        *ok = isNumber;
-    return isNumber ? number : 0;
+        *ok = number.has_value();
+    return number.value_or(0);
 }
 
 QValidator::State Int64Validator::judge(long long number) const

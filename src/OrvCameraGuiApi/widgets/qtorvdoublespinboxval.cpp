@@ -1,5 +1,6 @@
 #include <OrvCameraGuiApi/widgets/qtorvdoublespinboxval.h>
 
+#include <OrvCameraGuiApi/widgets/boxreading.h>
 #include <OrvCameraGuiApi/widgets/stepgrid.h>
 #include <OrvCameraGuiApi/widgets/valueaccessible.h>
 
@@ -19,6 +20,19 @@ double QtOrvDoubleSpinBoxVal::doValidation(double value) const
     return snappedToGrid(value, minimum(), maximum(), singleStep());
 }
 
+bool QtOrvDoubleSpinBoxVal::isEntryGuarded() const
+{
+    return EntryGuard::of(this);
+}
+
+void QtOrvDoubleSpinBoxVal::setEntryGuarded(bool guarded)
+{
+    if (guarded)
+        EntryGuard::install(this);
+    else
+        EntryGuard::remove(this);
+}
+
 void QtOrvDoubleSpinBoxVal::setLineEditText(const QString &text)
 {
     lineEdit()->setText(text);
@@ -32,8 +46,18 @@ void QtOrvDoubleSpinBoxVal::stepBy(int steps)
 
 QValidator::State QtOrvDoubleSpinBoxVal::validate(QString &text, int &pos) const
 {
-    const QValidator::State state = QDoubleSpinBox::validate(text, pos);
-    return m_validateTyping ? state : qMin(state, QValidator::Intermediate);
+    return BoxReading::validate(*this, text, pos);
+}
+
+void QtOrvDoubleSpinBoxVal::fixup(QString &text) const
+{
+    BoxReading::fixup(*this, text, prefix() + textFromValue(value()) + suffix());
+}
+
+double QtOrvDoubleSpinBoxVal::valueFromText(const QString &text) const
+{
+    const bool isUntouched = text == prefix() + textFromValue(value()) + suffix();
+    return isUntouched ? value() : BoxReading::valueFromText(*this, text);
 }
 
 void QtOrvDoubleSpinBoxVal::setValue(double value)
@@ -44,12 +68,14 @@ void QtOrvDoubleSpinBoxVal::setValue(double value)
 
 void QtOrvDoubleSpinBoxVal::keyPressEvent(QKeyEvent *event)
 {
-    const bool commits = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (commits && !m_validateTyping && !isReadOnly() && singleStep() != 0) {
-        bool isNumber = false;
-        const double number = lineEdit()->text().toDouble(&isNumber);
-        if (isNumber && !std::isnan(number)) {
-            setValue(number);
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool isWhole = prefix().isEmpty() && suffix().isEmpty();
+    if (isReturn && isWhole && !m_validateTyping && !isReadOnly() && singleStep() != 0) {
+        // What shows the value is that, also in another base.
+        const bool isUntouched = text() == textFromValue(value());
+        const std::optional<double> number = isUntouched ? value() : NumberText::typedNumber(*this);
+        if (number) {
+            setValue(*number);
             event->accept();
             return;
         }

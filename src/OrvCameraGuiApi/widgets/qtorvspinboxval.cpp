@@ -1,5 +1,6 @@
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
 
+#include <OrvCameraGuiApi/widgets/boxreading.h>
 #include <OrvCameraGuiApi/widgets/stepgrid.h>
 #include <OrvCameraGuiApi/widgets/valueaccessible.h>
 
@@ -19,6 +20,19 @@ int QtOrvSpinBoxVal::doValidation(int value) const
     return snappedToGrid(value, minimum(), maximum(), singleStep());
 }
 
+bool QtOrvSpinBoxVal::isEntryGuarded() const
+{
+    return EntryGuard::of(this);
+}
+
+void QtOrvSpinBoxVal::setEntryGuarded(bool guarded)
+{
+    if (guarded)
+        EntryGuard::install(this);
+    else
+        EntryGuard::remove(this);
+}
+
 void QtOrvSpinBoxVal::setLineEditText(const QString &text)
 {
     lineEdit()->setText(text);
@@ -34,8 +48,18 @@ void QtOrvSpinBoxVal::stepBy(int steps)
 
 QValidator::State QtOrvSpinBoxVal::validate(QString &text, int &pos) const
 {
-    const QValidator::State state = QSpinBox::validate(text, pos);
-    return m_validateTyping ? state : qMin(state, QValidator::Intermediate);
+    return BoxReading::validate(*this, text, pos);
+}
+
+void QtOrvSpinBoxVal::fixup(QString &text) const
+{
+    BoxReading::fixup(*this, text, prefix() + textFromValue(value()) + suffix());
+}
+
+int QtOrvSpinBoxVal::valueFromText(const QString &text) const
+{
+    const bool isUntouched = text == prefix() + textFromValue(value()) + suffix();
+    return isUntouched ? value() : BoxReading::valueFromText(*this, text);
 }
 
 void QtOrvSpinBoxVal::setValue(int value)
@@ -45,12 +69,14 @@ void QtOrvSpinBoxVal::setValue(int value)
 
 void QtOrvSpinBoxVal::keyPressEvent(QKeyEvent *event)
 {
-    const bool commits = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (commits && !m_validateTyping && !isReadOnly()) {
-        bool isNumber = false;
-        const int number = lineEdit()->text().toInt(&isNumber, 10);
-        if (isNumber) {
-            setValue(number);
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool isWhole = prefix().isEmpty() && suffix().isEmpty();
+    if (isReturn && isWhole && !m_validateTyping && !isReadOnly()) {
+        // What shows the value is that, also in another base.
+        const bool isUntouched = text() == textFromValue(value());
+        const std::optional<int> number = isUntouched ? value() : NumberText::typedNumber(*this);
+        if (number) {
+            setValue(*number);
             event->accept();
             return;
         }

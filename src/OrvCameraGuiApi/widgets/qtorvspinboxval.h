@@ -34,6 +34,15 @@ public:
     void setValidateTyping(bool validate) { m_validateTyping = validate; }
 
     /**
+     * Whether the box takes entries as a whole only; off by default. After a key was refused it then tells its limits
+     * and commits nothing until the text is put right. Return leaves an untouched box alone, and what is no number of
+     * the range is replaced by the value, never by another number. Neither the wheel over a box without the focus nor
+     * another locale, range or state commits anything.
+     */
+    bool isEntryGuarded() const;
+    void setEntryGuarded(bool guarded);
+
+    /**
      * \a value moved to the nearest grid point, at most the maximum; minimum and maximum themselves stay, on the grid
      * or off it. Half a step (rounded down) above a point goes to the next. With a single step of 0 nothing moves.
      */
@@ -49,8 +58,13 @@ public:
      */
     void stepBy(int steps) override;
 
-    /** The base class's verdict, but without validateTyping() nothing is better than Intermediate. */
+    /**
+     * The base class's verdict on \a text read as below, but without validateTyping() nothing is better than
+     * Intermediate.
+     */
     QValidator::State validate(QString &text, int &pos) const override;
+    /** Offers the value's text where the base class would correct a text that is no number to another number. */
+    void fixup(QString &text) const override;
 
 public Q_SLOTS:
     /** Sets \a value, snapped with validate(), then limited to the range. Hides the base class's slot, which only
@@ -59,8 +73,15 @@ public Q_SLOTS:
 
 protected:
     /**
-     * Without validateTyping() Return and Enter set the whole text, read as a plain base-10 integer. They go no further
-     * then. A text that is none, which includes any with prefix or suffix, intentionally, is left to the base class.
+     * The number in \a text, which has prefix and suffix. It may be written plainly or as the locale writes it; group
+     * separators are refused unless they are shown.
+     */
+    int valueFromText(const QString &text) const override;
+
+    /**
+     * Without validateTyping() Return and Enter set the whole text, read as an integer: plainly first, then in the
+     * widget's locale without group separators. They go no further then. A text that is none, which includes any beside
+     * a prefix or suffix, intentionally, is left to the base class: nothing is committed.
      */
     void keyPressEvent(QKeyEvent *event) override;
 

@@ -1,6 +1,9 @@
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
 
+#include <OrvCameraGuiApi/widgets/entryguard.h>
+#include <OrvCameraGuiApi/widgets/guardedfield.h>
 #include <OrvCameraGuiApi/widgets/int64validator.h>
+#include <OrvCameraGuiApi/widgets/numbertext.h>
 #include <OrvCameraGuiApi/widgets/valueaccessible.h>
 
 #include <QAccessible>
@@ -13,6 +16,7 @@
 #include <QStyleOptionSpinBox>
 
 #include <limits>
+#include <optional>
 #include <utility>
 
 namespace {
@@ -78,17 +82,44 @@ public:
 
     private:
         const QtOrvSpinBoxVal64Private *const m_d;
+        mutable bool m_wasOutside = false; ///< the last text let through is a number outside the range
+    };
+
+    /** What the box is for its EntryGuard. */
+    class Field : public GuardedField
+    {
+    public:
+        explicit Field(QtOrvSpinBoxVal64 *box)
+            : m_d(box->d.data())
+        {
+        }
+
+        Entry entry() const override;
+        bool commit() override;
+        void restore() override { m_d->show(m_d->value); }
+        bool commitsOnLeaving() const override { return m_d->q->keyboardTracking() || !m_d->ignoreFocusOut; }
+        int numberStart() const override { return m_d->prefix.size(); }
+        int numberEnd() const override { return m_d->numberEnd(); }
+        int base() const override { return m_d->displayIntegerBase; }
+        bool hasExponent() const override { return false; }
+        QString minimumText() const override { return m_d->displayText(m_d->minimum); }
+        QString maximumText() const override { return m_d->displayText(m_d->maximum); }
+        void whenChanged(QObject *context, const std::function<void()> &slot) const override;
+
+    private:
+        QtOrvSpinBoxVal64Private *const m_d;
     };
 
     explicit QtOrvSpinBoxVal64Private(QtOrvSpinBoxVal64 *owner);
     void init();
 
     QLineEdit *edit() const { return q->lineEdit(); }
-    QLocale numberLocale() const;
     const Int64Validator &localizedValidator();
 
     QString displayText(long long number) const;
     QString numberPart(const QString &text) const;
+    QString ungrouped(QString number) const;
+    std::optional<long long> shownNumber();
     bool hasAffixes(const QString &text) const;
     int numberEnd() const;
 
@@ -97,6 +128,7 @@ public:
     long long snapped(long long number) const;
 
     void show(long long number);
+    void refresh();
     void commit(long long number);
     void accept(long long number);
     void recommit();
@@ -162,19 +194,10 @@ void QtOrvSpinBoxVal64Private::init()
                      [this](int oldPosition, int newPosition) { keepCursorInNumber(oldPosition, newPosition); });
 }
 
-/** The widget's locale, in which base 10 is written and read; it writes groups only if the box shows them. */
-QLocale QtOrvSpinBoxVal64Private::numberLocale() const
-{
-    QLocale locale = q->locale();
-    if (!q->isGroupSeparatorShown())
-        locale.setNumberOptions(locale.numberOptions() | QLocale::OmitGroupSeparator);
-    return locale;
-}
-
 /** A widget is not told when its group separators are switched, so the validator gets the locale when it is asked. */
 const Int64Validator &QtOrvSpinBoxVal64Private::localizedValidator()
 {
-    validator.setLocale(numberLocale());
+    validator.setLocale(NumberText::localeOf(*q));
     return validator;
 }
 
@@ -187,6 +210,27 @@ QString QtOrvSpinBoxVal64Private::displayText(long long number) const
 QString QtOrvSpinBoxVal64Private::numberPart(const QString &text) const
 {
     return text.mid(prefix.size(), qMax(0, text.size() - prefix.size() - suffix.size()));
+}
+
+/** Separators of a box that shows them fall in place later: while the text is edited they may stand anywhere. */
+QString QtOrvSpinBoxVal64Private::ungrouped(QString number) const
+{
+    return q->isGroupSeparatorShown() && displayIntegerBase == 10 ? number.remove(q->locale().groupSeparator())
+                                                                  : number;
+}
+
+/** The number of the range that stands in the box. */
+std::optional<long long> QtOrvSpinBoxVal64Private::shownNumber()
+{
+    const QString text = edit()->text();
+    bool isNumber = true;
+    long long number = pendingValue;
+    // A text that nobody touched is not read back: it may be from before a change of the base.
+    if (edited || text != shownText) {
+        number = localizedValidator().toInt64(ungrouped(numberPart(text)), &isNumber);
+        isNumber = isNumber && hasAffixes(text);
+    }
+    return isNumber && isInRange(number) ? std::optional<long long>(number) : std::nullopt;
 }
 
 bool QtOrvSpinBoxVal64Private::hasAffixes(const QString &text) const
@@ -234,6 +278,17 @@ void QtOrvSpinBoxVal64Private::show(long long number)
     edit()->setCursorPosition(numberEnd());
 }
 
+/** Makes up an untouched text anew where the base or the group separators have changed since. */
+void QtOrvSpinBoxVal64Private::refresh()
+{
+    if (edited || edit()->text() != shownText || displayText(pendingValue) == shownText)
+        return;
+    const bool wasSelected = edit()->hasSelectedText();
+    show(pendingValue);
+    if (wasSelected)
+        q->selectAll();
+}
+
 void QtOrvSpinBoxVal64Private::commit(long long number)
 {
     if (isInRange(number))
@@ -269,16 +324,9 @@ void QtOrvSpinBoxVal64Private::recommit()
 
 void QtOrvSpinBoxVal64Private::commitText(bool discard)
 {
-    const QString text = edit()->text();
-    bool isNumber = true;
-    long long number = pendingValue;
-    // A text that nobody touched is not read back: it may be from before a change of the base.
-    if (edited || text != shownText) {
-        number = localizedValidator().toInt64(numberPart(text), &isNumber);
-        isNumber = isNumber && hasAffixes(text);
-    }
-    if (isNumber && isInRange(number) && !discard)
-        accept(number);
+    const std::optional<long long> number = discard ? std::nullopt : shownNumber();
+    if (number)
+        accept(*number);
     else
         show(value);
 }
@@ -295,8 +343,11 @@ void QtOrvSpinBoxVal64Private::stopHolding()
     if (!buttonHeld)
         return;
     buttonHeld = false;
-    if (!buttonTracking)
-        commit(pendingValue); // refused outside the range; the shown number then stays, intentionally
+    if (buttonTracking)
+        return;
+    commit(pendingValue); // refused outside the range; the shown number then stays, intentionally
+    if (pendingValue != value && EntryGuard::of(q))
+        show(value);
 }
 
 void QtOrvSpinBoxVal64Private::focusLost()
@@ -370,6 +421,9 @@ void QtOrvSpinBoxVal64Private::onTextEdited()
     edited = true;
     if (!q->keyboardTracking())
         return;
+    const EntryGuard *const guard = EntryGuard::of(q);
+    if (guard && (guard->isBlocked() || !shownNumber()))
+        return; // waits to be put right or completed
     const QString typed = edit()->text();
     const int behindCursor = numberEnd() - edit()->cursorPosition();
     commitText(false);
@@ -409,6 +463,9 @@ void QtOrvSpinBoxVal64Private::keepSelectionInNumber()
 bool QtOrvSpinBoxVal64Private::EventAnalyzer::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
+    case QEvent::Paint:
+        m_d->refresh();
+        break;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick: // the second press of two quick ones
         m_d->startHolding();
@@ -423,6 +480,7 @@ bool QtOrvSpinBoxVal64Private::EventAnalyzer::eventFilter(QObject *watched, QEve
         keyReleased(static_cast<QKeyEvent *>(event));
         break;
     case QEvent::FocusIn:
+        m_d->refresh();
         if (m_d->selectWhenStepping)
             m_d->q->selectAll();
         break;
@@ -437,6 +495,7 @@ bool QtOrvSpinBoxVal64Private::EventAnalyzer::eventFilter(QObject *watched, QEve
 
 void QtOrvSpinBoxVal64Private::EventAnalyzer::keyPressed(const QKeyEvent *event)
 {
+    m_d->refresh();
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         m_d->commitText(false);
     else if (isStepKey(event->key()) && !event->isAutoRepeat())
@@ -451,7 +510,45 @@ void QtOrvSpinBoxVal64Private::EventAnalyzer::keyReleased(const QKeyEvent *event
 
 QValidator::State QtOrvSpinBoxVal64Private::AffixGuard::validate(QString &text, int &pos) const
 {
-    return m_d->hasAffixes(text) ? m_d->q->validate(text, pos) : Invalid;
+    if (!m_d->hasAffixes(text))
+        return Invalid;
+    State state = m_d->q->validate(text, pos);
+    bool isOutside = false;
+    // A value that a new range has left outside is shown, and edited digit by digit. Were it Invalid, the line edit
+    // would let everything pass from then on.
+    if (state == Invalid && (m_wasOutside || text == m_d->shownText)) {
+        m_d->validator.toInt64(m_d->ungrouped(m_d->numberPart(text)), &isOutside);
+        state = isOutside || text == m_d->shownText ? Intermediate : Invalid;
+    }
+    if (state != Invalid)
+        m_wasOutside = isOutside;
+    return state;
+}
+
+GuardedField::Entry QtOrvSpinBoxVal64Private::Field::entry() const
+{
+    if (m_d->numberPart(m_d->edit()->text()).isEmpty())
+        return Entry::Nothing;
+    return m_d->shownNumber() ? Entry::Number : Entry::NoNumber;
+}
+
+bool QtOrvSpinBoxVal64Private::Field::commit()
+{
+    bool isAnnounced = false;
+    QObject context;
+    whenChanged(&context, [&isAnnounced] { isAnnounced = true; });
+    m_d->commitText(false);
+    return isAnnounced;
+}
+
+void QtOrvSpinBoxVal64Private::Field::whenChanged(QObject *context, const std::function<void()> &slot) const
+{
+    QObject::connect(m_d->q, QOverload<long long>::of(&QtOrvSpinBoxVal64::valueChanged), context, slot);
+}
+
+std::unique_ptr<GuardedField> makeGuardedField(QtOrvSpinBoxVal64 *box)
+{
+    return std::make_unique<QtOrvSpinBoxVal64Private::Field>(box);
 }
 
 QtOrvSpinBoxVal64::QtOrvSpinBoxVal64(QWidget *parent)
@@ -555,6 +652,7 @@ void QtOrvSpinBoxVal64::setDisplayIntegerBase(int base)
 {
     d->validator.setBase(base);
     d->displayIntegerBase = d->validator.base(); // the former one if it could not be used
+    update();
 }
 
 bool QtOrvSpinBoxVal64::selectWhenStepping() const
@@ -597,6 +695,19 @@ void QtOrvSpinBoxVal64::setButtonTracking(bool track)
     d->buttonTracking = track;
 }
 
+bool QtOrvSpinBoxVal64::isEntryGuarded() const
+{
+    return EntryGuard::of(this);
+}
+
+void QtOrvSpinBoxVal64::setEntryGuarded(bool guarded)
+{
+    if (guarded)
+        EntryGuard::install(this);
+    else
+        EntryGuard::remove(this);
+}
+
 QSize QtOrvSpinBoxVal64::sizeHint() const
 {
     return d->sizeHint(d->cachedSizeHint);
@@ -609,7 +720,7 @@ QSize QtOrvSpinBoxVal64::minimumSizeHint() const
 
 QValidator::State QtOrvSpinBoxVal64::validate(QString &text, int &pos) const
 {
-    QString number = d->numberPart(text);
+    QString number = d->ungrouped(d->numberPart(text));
     return d->localizedValidator().validate(number, pos);
 }
 
@@ -648,7 +759,7 @@ QAbstractSpinBox::StepEnabled QtOrvSpinBoxVal64::stepEnabled() const
 QString QtOrvSpinBoxVal64::textFromValue(long long value) const
 {
     if (d->displayIntegerBase == 10)
-        return d->numberLocale().toString(value);
+        return NumberText::localeOf(*this).toString(value);
     // Negated without a sign: the smallest 64-bit integer has no positive counterpart.
     const auto bits = static_cast<quint64>(value);
     const QString digits = QString::number(value < 0 ? 0 - bits : bits, d->displayIntegerBase);
@@ -657,7 +768,7 @@ QString QtOrvSpinBoxVal64::textFromValue(long long value) const
 
 long long QtOrvSpinBoxVal64::valueFromText(const QString &text) const
 {
-    QString number = d->numberPart(text);
+    QString number = d->ungrouped(d->numberPart(text));
     int pos = 0;
     const Int64Validator &validator = d->localizedValidator();
     return validator.validate(number, pos) == QValidator::Acceptable ? validator.toInt64(number) : d->minimum;
@@ -674,6 +785,14 @@ void QtOrvSpinBoxVal64::clear()
 {
     lineEdit()->setText(d->prefix + d->suffix);
     lineEdit()->setCursorPosition(d->prefix.size());
+}
+
+void QtOrvSpinBoxVal64::interpretText()
+{
+    if (EntryGuard *const guard = EntryGuard::of(this))
+        guard->commit();
+    else if (d->edited || lineEdit()->text() != d->shownText)
+        d->commitText(false);
 }
 
 void QtOrvSpinBoxVal64::changeEvent(QEvent *event)

@@ -92,7 +92,7 @@ public:
 
     /**
      * Base of the number shown and typed, 2 to 36; 10 by default. Another base is ignored. The shown text is,
-     * intentionally, not rebuilt at once but by the next commit.
+     * intentionally, not rebuilt at once but before it is next painted, edited or committed.
      */
     int displayIntegerBase() const;
     void setDisplayIntegerBase(int base);
@@ -116,6 +116,15 @@ public:
     /** Whether every step of a held button or key is committed, not just the last on release; on by default. */
     bool buttonTracking() const;
     void setButtonTracking(bool track);
+
+    /**
+     * Whether the box takes entries as a whole only; off by default. After a key was refused it then tells its limits
+     * and commits nothing until the text is put right. Return leaves an untouched box alone, and typed text that is no
+     * number of the range waits for it, with keyboardTracking() too, and is replaced by the value. Neither the wheel
+     * over a box without the focus nor another locale, range or state commits anything.
+     */
+    bool isEntryGuarded() const;
+    void setEntryGuarded(bool guarded);
 
     /**
      * Both hints, in pixels, have room for the wider bound (of its first 20 characters) or the special value text, each
@@ -150,6 +159,11 @@ public Q_SLOTS:
     void selectAll();
     /** Empties the number on show; the value stays. */
     void clear() override;
+    /**
+     * Commits typed text as Return does. Hides the base class's slot, which does nothing for a class that is none of
+     * Qt's own; so it must be called through this class, or by its name.
+     */
+    void interpretText();
 
 Q_SIGNALS:
     void valueChanged(long long value);

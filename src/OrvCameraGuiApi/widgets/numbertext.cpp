@@ -1,0 +1,265 @@
+#include <OrvCameraGuiApi/widgets/numbertext.h>
+
+#include <QDoubleSpinBox>
+#include <QSpinBox>
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+constexpr QChar MinusSign(0x2212);
+
+bool isMinus(QChar c, const QLocale &locale)
+{
+    return c == QLatin1Char('-') || c == MinusSign || c == locale.negativeSign();
+}
+
+bool isPlus(QChar c, const QLocale &locale)
+{
+    return c == QLatin1Char('+') || c == locale.positiveSign();
+}
+
+bool isDecimalSign(QChar c, const QLocale &locale)
+{
+    return c == QLatin1Char('.') || c == locale.decimalPoint();
+}
+
+/** \a c in the plain notation if it is a digit or a sign of \a locale; separators stay what they are. */
+QChar plain(QChar c, const QLocale &locale)
+{
+    const int digit = c.unicode() - locale.zeroDigit().unicode();
+    if (digit >= 0 && digit <= 9)
+        return QLatin1Char(char('0' + digit));
+    if (isMinus(c, locale))
+        return QLatin1Char('-');
+    return isPlus(c, locale) ? QLatin1Char('+') : c;
+}
+
+QString plain(const QString &text, const QLocale &locale)
+{
+    QString result = text.trimmed();
+    for (QChar &c : result)
+        c = plain(c, locale);
+    return result;
+}
+
+/** Nothing but digits, signs and exponents is read: no words for what is not a finite number. */
+std::optional<double> plainDouble(const QString &text)
+{
+    for (const QChar c : text) {
+        if (!QStringLiteral("0123456789+-.eE").contains(c))
+            return std::nullopt;
+    }
+    bool isNumber = false;
+    const double number = text.toDouble(&isNumber);
+    return isNumber && std::isfinite(number) ? std::optional<double>(number) : std::nullopt;
+}
+
+int digitsBehindPoint(const QString &text, QChar point)
+{
+    const int place = text.indexOf(point);
+    return place < 0 ? 0 : text.size() - place - 1;
+}
+
+/** \a text with the decimal sign of the locale made plain; none when it has a point that cannot be that sign. */
+std::optional<double> localDouble(QString text, const QLocale &locale)
+{
+    const QChar point = locale.decimalPoint();
+    if (point != QLatin1Char('.') && text.contains(QLatin1Char('.')))
+        return std::nullopt;
+    return plainDouble(text.replace(point, QLatin1Char('.')));
+}
+
+/** With groups where the locale would put them. */
+std::optional<double> groupedDouble(const QString &text, const QLocale &locale)
+{
+    QLocale strict = locale;
+    strict.setNumberOptions(QLocale::DefaultNumberOptions);
+    bool isNumber = false;
+    const double number = strict.toDouble(text.trimmed(), &isNumber);
+    return isNumber && std::isfinite(number) ? std::optional<double>(number) : std::nullopt;
+}
+
+template <typename Box>
+QString withoutAffixes(const Box &box, const QString &text)
+{
+    const int first = text.startsWith(box.prefix()) ? box.prefix().size() : 0;
+    const bool hasSuffix = text.size() - first >= box.suffix().size() && text.endsWith(box.suffix());
+    const int end = text.size() - (hasSuffix ? box.suffix().size() : 0);
+    return text.mid(first, end - first);
+}
+
+template <typename Box>
+bool isSpecial(const Box &box, const QString &text)
+{
+    return !box.specialValueText().isEmpty() && text == box.specialValueText();
+}
+
+/** A sign is no beginning where no number of the range has it. */
+template <typename Box>
+QValidator::State judgeUnfinished(const Box &box, const QString &number, const QLocale &locale, bool mayBeNegative)
+{
+    const bool isForbidden = (NumberText::isNegative(number, locale) && !mayBeNegative)
+        || (!number.isEmpty() && isPlus(number.at(0), locale) && box.maximum() < 0);
+    return isForbidden || box.minimum() == box.maximum() ? QValidator::Invalid : QValidator::Intermediate;
+}
+
+template <typename Box, typename Number>
+QValidator::State judgeNumber(const Box &box, Number number)
+{
+    if (box.minimum() <= number && number <= box.maximum())
+        return QValidator::Acceptable;
+    const bool isTooFar = number >= 0 ? number > box.maximum() : number < box.minimum();
+    return isTooFar || box.minimum() == box.maximum() ? QValidator::Invalid : QValidator::Intermediate;
+}
+
+/** As the base class does: what stood outside the affixes is inside now, and \a pos moves along. */
+template <typename Box>
+QString takeNumber(const Box &box, QString &text, int &pos)
+{
+    const QString bare = withoutAffixes(box, text);
+    if (!text.startsWith(box.prefix()))
+        pos += box.prefix().size();
+    const QString number = bare.trimmed();
+    const int blanksBefore = bare.indexOf(number);
+    pos -= qBound(0, pos - box.prefix().size(), blanksBefore);
+    text = box.prefix() + number + box.suffix();
+    pos = qMin(pos, text.size());
+    return number;
+}
+
+/** A decimal sign typed where one stands already only moves the cursor behind it. */
+void mergeDecimalSigns(const QDoubleSpinBox &box, const QLocale &locale, QString &text, int pos)
+{
+    const int first = box.prefix().size();
+    const int end = text.size() - box.suffix().size();
+    if (pos > first && pos < end && isDecimalSign(text.at(pos), locale) && isDecimalSign(text.at(pos - 1), locale))
+        text.remove(pos, 1);
+}
+
+int fractionDigits(const QString &number, const QLocale &locale)
+{
+    const int local = digitsBehindPoint(number, locale.decimalPoint());
+    return local > 0 || NumberText::hasGroups(locale) ? local : digitsBehindPoint(number, QLatin1Char('.'));
+}
+
+} // namespace
+
+bool NumberText::hasGroups(const QLocale &locale)
+{
+    return !(locale.numberOptions() & QLocale::OmitGroupSeparator);
+}
+
+QLocale NumberText::localeOf(const QAbstractSpinBox &box)
+{
+    QLocale locale = box.locale();
+    if (!box.isGroupSeparatorShown())
+        locale.setNumberOptions(locale.numberOptions() | QLocale::OmitGroupSeparator);
+    return locale;
+}
+
+std::optional<qint64> NumberText::toInteger(const QString &text, const QLocale &locale, int base)
+{
+    bool isNumber = false;
+    qint64 number = text.toLongLong(&isNumber, base);
+    if (!isNumber && base == 10) {
+        QString digits = plain(text, locale);
+        if (hasGroups(locale))
+            digits.remove(locale.groupSeparator());
+        number = digits.toLongLong(&isNumber, base);
+    }
+    return isNumber ? std::optional<qint64>(number) : std::nullopt;
+}
+
+std::optional<double> NumberText::toDouble(const QString &text, const QLocale &locale, int decimals)
+{
+    const QString number = plain(text, locale);
+    const bool isGrouped = hasGroups(locale) && digitsBehindPoint(number, QLatin1Char('.')) > decimals;
+    std::optional<double> result = isGrouped ? std::nullopt : plainDouble(number);
+    if (!result)
+        result = localDouble(number, locale);
+    if (!result && hasGroups(locale)) {
+        result = groupedDouble(text, locale);
+        if (!result && (isGrouped || number.contains(locale.decimalPoint())))
+            result = localDouble(QString(number).remove(locale.groupSeparator()), locale); // being edited
+    }
+    return result;
+}
+
+bool NumberText::isUnfinished(const QString &text, const QLocale &locale, int decimals)
+{
+    QString rest = text.trimmed();
+    if (!rest.isEmpty() && (isMinus(rest.at(0), locale) || isPlus(rest.at(0), locale)))
+        rest.remove(0, 1);
+    if (decimals > 0 && !rest.isEmpty() && isDecimalSign(rest.at(0), locale))
+        rest.remove(0, 1);
+    return rest.isEmpty();
+}
+
+bool NumberText::isNegative(const QString &text, const QLocale &locale)
+{
+    return !text.isEmpty() && isMinus(text.at(0), locale);
+}
+
+QString NumberText::numberPart(const QSpinBox &box, const QString &text)
+{
+    return withoutAffixes(box, text).trimmed();
+}
+
+QString NumberText::numberPart(const QDoubleSpinBox &box, const QString &text)
+{
+    return withoutAffixes(box, text).trimmed();
+}
+
+std::optional<int> NumberText::typedNumber(const QSpinBox &box, const QString &text)
+{
+    if (isSpecial(box, text))
+        return box.minimum();
+    using Limits = std::numeric_limits<int>;
+    const auto number = toInteger(numberPart(box, text), localeOf(box), box.displayIntegerBase());
+    const bool fits = number && *number >= Limits::min() && *number <= Limits::max();
+    return fits ? std::optional<int>(int(*number)) : std::nullopt;
+}
+
+std::optional<double> NumberText::typedNumber(const QDoubleSpinBox &box, const QString &text)
+{
+    return isSpecial(box, text) ? box.minimum() : toDouble(numberPart(box, text), localeOf(box), box.decimals());
+}
+
+std::optional<int> NumberText::typedNumber(const QSpinBox &box)
+{
+    return typedNumber(box, box.text());
+}
+
+std::optional<double> NumberText::typedNumber(const QDoubleSpinBox &box)
+{
+    return typedNumber(box, box.text());
+}
+
+QValidator::State NumberText::judge(const QSpinBox &box, QString &text, int &pos)
+{
+    const QLocale locale = localeOf(box);
+    const QString number = takeNumber(box, text, pos);
+    if (isUnfinished(number, locale))
+        return judgeUnfinished(box, number, locale, box.minimum() < 0);
+    const auto typed = toInteger(number, locale, box.displayIntegerBase());
+    // A minus sign is refused before a zero, too.
+    if (!typed || (isNegative(number, locale) && box.minimum() >= 0))
+        return QValidator::Invalid;
+    return judgeNumber(box, *typed);
+}
+
+QValidator::State NumberText::judge(const QDoubleSpinBox &box, QString &text, int &pos)
+{
+    const QLocale locale = localeOf(box);
+    takeNumber(box, text, pos);
+    mergeDecimalSigns(box, locale, text, pos);
+    const QString number = numberPart(box, text);
+    if (isUnfinished(number, locale, box.decimals()))
+        return judgeUnfinished(box, number, locale, box.minimum() <= 0); // also a negative zero
+    const auto typed = toDouble(number, locale, box.decimals());
+    if (!typed || fractionDigits(number, locale) > box.decimals())
+        return QValidator::Invalid;
+    return judgeNumber(box, *typed);
+}
