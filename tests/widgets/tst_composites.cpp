@@ -16,6 +16,7 @@
 #include <QDataWidgetMapper>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRandomGenerator>
 #include <QStandardItemModel>
 #include <QToolButton>
 
@@ -99,6 +100,47 @@ void openSlider(Window<QtOrvSpinBox> &window)
 template <typename AnyWindow>
 void openSlider(AnyWindow &)
 {
+}
+
+/** Also what no key of QTest stands for. */
+void type(QWidget *widget, const QString &text)
+{
+    for (const QChar character : text) {
+        for (const auto kind : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent key(kind, 0, Qt::NoModifier, character);
+            QApplication::sendEvent(widget, &key);
+        }
+    }
+}
+
+template <typename Composite>
+void setScale(Composite &composite, QtOrvSlider::ScaleType type)
+{
+    composite.slider()->setScaleType(type);
+}
+
+void setScale(QtOrvGainSlider &, QtOrvSlider::ScaleType) { }
+
+/** Has the composite show a number that the slider has no position for. */
+template <typename Composite>
+void putBetweenPositions(Window<Composite> &window)
+{
+    setScale(window.composite, QtOrvSlider::Log10);
+    window.composite.setRange(0, 1000);
+    window.composite.spinBox()->setValue(450);
+    QVERIFY(window.composite.slider()->value() != window.composite.value());
+    QCoreApplication::processEvents(); // wider numbers change the layout
+    window.takeEmitted();
+}
+
+template <>
+void putBetweenPositions(Window<QtOrvGainSlider> &window)
+{
+    window.composite.setRange(0, 1000);
+    window.composite.spinBox()->setValue(450.25);
+    QVERIFY(window.composite.slider()->value() != window.composite.value());
+    QCoreApplication::processEvents(); // wider numbers change the layout
+    window.takeEmitted();
 }
 
 /** Calls \a check with a window for each of the three. */
@@ -280,6 +322,242 @@ private Q_SLOTS:
         QTest::keyClick(gain.inner(), Qt::Key_End);
         QCOMPARE(gain.composite.slider()->value(), 0.12345);
         QCOMPARE(gain.composite.value(), 0.123);
+    }
+
+    void aHandleThatIsNotMovedLeavesTheNumber()
+    {
+        forEachComposite([](auto &window) {
+            putBetweenPositions(window);
+            const QString shown = window.composite.spinBox()->text();
+            const auto number = window.composite.value();
+            openSlider(window);
+            for (int i = 0; i < 2; ++i) {
+                window.press();
+                const QPoint place = window.inner()->mapTo(window.inner()->window(), handle(*window.inner()));
+                QTest::mouseMove(window.inner()->window()->windowHandle(), place); // of a hand that is not still
+                QCoreApplication::processEvents();
+                window.release();
+                QCOMPARE(window.composite.spinBox()->text(), shown);
+                QCOMPARE(window.composite.value(), number);
+                QCOMPARE(window.takeEmitted().count(QLatin1Char('\'')), 2); // once
+            }
+            window.press();
+            window.drag(-40);
+            window.drag(40);
+            window.release();
+            QCOMPARE(window.composite.value(), window.composite.slider()->value());
+        });
+    }
+
+    /** Which nobody lets go of then: what it has come to is no entry. */
+    void aDragEndsWithoutANumberWhenTheSliderIsDisabled()
+    {
+        for (const bool tracks : {true, false}) {
+            for (const bool toldMeanwhile : {false, true}) { // by a camera
+                forEachComposite([=](auto &window) {
+                    openSlider(window);
+                    window.composite.slider()->setTracking(tracks);
+                    window.press();
+                    window.drag(40);
+                    if (toldMeanwhile)
+                        window.composite.spinBox()->setValue(30);
+                    window.composite.setEnabled(false);
+                    QCOMPARE(window.composite.value(), toldMeanwhile ? 30 : 10);
+                    QCOMPARE(window.inner()->value(), toldMeanwhile ? 30 : 10);
+                    QCOMPARE(window.takeEmitted(), QString());
+                });
+            }
+        }
+    }
+
+    void anotherRangeMovesOnlyANumberOutside()
+    {
+        forEachComposite([](auto &window) {
+            auto &composite = window.composite;
+            putBetweenPositions(window);
+            const auto number = composite.value();
+            composite.setRange(-50, 2000);
+            composite.setRange(1, 1500);
+            QCOMPARE(window.takeEmitted(), QStringLiteral("-50..2000 1..1500"));
+            QCOMPARE(composite.value(), number);
+            composite.setRange(0, 8);
+            QCOMPARE(window.takeEmitted().remove(QStringLiteral("0..8")).simplified(), window.announced(8));
+        });
+        Window<QtOrvSliderSpinBox> window;
+        window.composite.setValue(55);
+        window.takeEmitted();
+        for (const auto type : {QtOrvSlider::Sqrt, QtOrvSlider::Log10, QtOrvSlider::Linear})
+            window.composite.slider()->setScaleType(type);
+        QCOMPARE(window.composite.value(), 55);
+        QCOMPARE(window.takeEmitted(), QString());
+    }
+
+    void setValueIsNotMovedToAPosition()
+    {
+        forEachComposite([](auto &window) {
+            putBetweenPositions(window);
+            const auto number = window.composite.value();
+            window.composite.setValue(0);
+            window.takeEmitted();
+            window.composite.setValue(number);
+            QCOMPARE(window.composite.value(), number);
+            QVERIFY(!window.takeEmitted().isEmpty());
+            window.composite.setSingleStep(4);
+            window.composite.setValidate(true);
+            window.composite.setValue(11);
+            QCOMPARE(window.takeEmitted(), window.announced(12));
+        });
+    }
+
+    /** Typing goes on undisturbed, but nothing off the grid is told; what a program shows off the grid stays. */
+    void typedNumbersAreSnappedToTheGridNotToPositions()
+    {
+        const auto check = [](auto &window) {
+            auto &composite = window.composite;
+            composite.setSingleStep(4);
+            composite.setValidate(true);
+            composite.spinBox()->selectAll();
+            window.takeEmitted();
+            QTest::keyClicks(composite.spinBox(), QStringLiteral("57"));
+            QCOMPARE(composite.spinBox()->text(), QStringLiteral("57"));
+            QCOMPARE(composite.value(), 56);
+            QVERIFY(window.takeEmitted().endsWith(QStringLiteral("'57' 56")));
+            window.other.setFocus();
+            QCOMPARE(int(composite.spinBox()->text().toDouble()), 56);
+            QCOMPARE(window.takeEmitted(), QString());
+        };
+        Window<QtOrvSliderSpinBox> window;
+        QVERIFY(window.isReady());
+        check(window);
+        window.composite.slider()->setScaleType(QtOrvSlider::Sqrt);
+        window.composite.spinBox()->QSpinBox::setValue(58);
+        QCOMPARE(window.composite.value(), 58);
+        Window<QtOrvGainSlider> gain;
+        QVERIFY(gain.isReady());
+        check(gain);
+    }
+
+    /** As it is shown, digits and decimal sign of the locale; what is not touched is no entry. */
+    void returnReadsBetweenPrefixAndSuffix()
+    {
+        for (const char *name : {"C", "de_DE", "ar_EG"}) {
+            forEachComposite([name](auto &window) {
+                auto &composite = window.composite;
+                using Number = decltype(composite.value());
+                const Number number = std::is_same_v<Number, double> ? Number(3.5) : Number(35);
+                composite.setLocale(QLocale(QLatin1String(name)));
+                composite.setRange(0, 5000);
+                composite.setValidateTyping(false);
+                composite.spinBox()->setPrefix(QStringLiteral("< "));
+                composite.spinBox()->setSuffix(QStringLiteral(" us >"));
+                composite.setValue(number);
+                const QString shown = composite.spinBox()->text();
+                composite.setValue(7);
+                window.takeEmitted();
+                QTest::keyClick(composite.spinBox(), Qt::Key_Return);
+                QCOMPARE(window.takeEmitted(), QString());
+                composite.spinBox()->selectAll();
+                type(composite.spinBox(), shown.mid(2).chopped(5));
+                QCOMPARE(window.takeEmitted(), QString());
+                QTest::keyClick(composite.spinBox(), Qt::Key_Enter);
+                QCOMPARE(composite.value(), number);
+                QCOMPARE(composite.spinBox()->text(), shown);
+                QCOMPARE(window.takeEmitted().count(shown), 1);
+            });
+        }
+    }
+
+    /** Where the spin box shows a bound rounded, its end is the bound. */
+    void nothingBeyondTheBoundsIsTold()
+    {
+        for (const char *locale : {"C", "de_DE", "ar_EG"}) {
+            Window<QtOrvGainSlider> window;
+            QVERIFY(window.isReady());
+            QtOrvGainSlider &gain = window.composite;
+            gain.setLocale(QLocale(QLatin1String(locale)));
+            QCOMPARE(gain.slider()->maxLabel()->text(), gain.locale().toString(100.0, 'f', 3));
+            gain.setRange(0.0004, 16.1267);
+            gain.setSingleStep(0.5);
+            const QString lowest = gain.locale().toString(0.0, 'f', 3);
+            const QString highest = gain.locale().toString(16.127, 'f', 3);
+            window.takeEmitted();
+            QTest::keyClick(window.inner(), Qt::Key_End);
+            QCOMPARE(window.takeEmitted(), QStringLiteral("'%1' 16.1267").arg(highest));
+            QTest::keyClick(window.inner(), Qt::Key_Home);
+            QCOMPARE(window.takeEmitted(), QStringLiteral("'%1' 0.0004").arg(lowest));
+            gain.spinBox()->selectAll();
+            type(gain.spinBox(), highest);
+            QCOMPARE(gain.value(), 16.1267);
+            window.takeEmitted();
+            gain.setRange(0.0004, 16.12675); // which is shown alike
+            QCOMPARE(gain.value(), 16.1267);
+            gain.setRange(0.0004, 16.1266);
+            QVERIFY(window.takeEmitted().endsWith(QStringLiteral("'%1' 16.1266").arg(highest)));
+            gain.setValue(16.1266);
+            QTest::keyClick(gain.spinBox(), Qt::Key_Up);
+            QCOMPARE(window.takeEmitted(), QString());
+        }
+    }
+
+    /** A number between the last two positions has the slider at its end already. */
+    void keysLeadOnToTheBound()
+    {
+        for (const Qt::Key key : {Qt::Key_Up, Qt::Key_PageUp, Qt::Key_End}) {
+            Window<QtOrvSliderSpinBox> window;
+            window.composite.setRange(0, 1000);
+            window.composite.slider()->setScaleType(QtOrvSlider::Log10);
+            window.composite.setValue(999);
+            window.takeEmitted();
+            QTest::keyClick(window.inner(), key);
+            QCOMPARE(window.takeEmitted(), QStringLiteral("'1000' 1000"));
+        }
+    }
+
+    void whatIsToldIsTheValueWithinTheRange()
+    {
+        forEachComposite([](auto &window) {
+            auto &composite = window.composite;
+            using Number = decltype(composite.value());
+            QVector<Number> numbers = {
+                0, 1, 3, 1000, -1, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()};
+            if (std::is_same_v<Number, double>)
+                numbers += {Number(0.1), Number(16.1267), Number(-3.00049)};
+            Number told = composite.value();
+            connect(&composite, QOverload<Number>::of(&std::decay_t<decltype(composite)>::valueChanged), &window,
+                    [&told](Number number) { told = number; });
+            const Qt::Key keys[] = {Qt::Key_Up, Qt::Key_Down,      Qt::Key_PageUp, Qt::Key_End,  Qt::Key_Home,
+                                    Qt::Key_5,  Qt::Key_Backspace, Qt::Key_Return, Qt::Key_Minus};
+            QRandomGenerator random(20230802);
+            const auto any = [&random](const auto &list) { return list[random.bounded(int(std::size(list)))]; };
+            for (int i = 0; i < 1500; ++i) {
+                switch (random.bounded(8)) {
+                case 0:
+                    composite.setRange(any(numbers), any(numbers));
+                    break;
+                case 1:
+                    composite.setValue(any(numbers));
+                    break;
+                case 2:
+                    composite.setSingleStep(any(numbers));
+                    break;
+                case 3:
+                    composite.setValidate(random.bounded(2));
+                    composite.setValidateTyping(random.bounded(2));
+                    break;
+                case 4:
+                    setScale(composite, QtOrvSlider::ScaleType(random.bounded(3)));
+                    break;
+                case 5:
+                    QTest::keyClick(window.inner(), any(keys));
+                    break;
+                default:
+                    QTest::keyClick(composite.spinBox(), any(keys));
+                    break;
+                }
+                QVERIFY(composite.value() >= composite.minimum() && composite.value() <= composite.maximum());
+                QCOMPARE(told, composite.value());
+            }
+        });
     }
 
     void decimalsReachBothParts()

@@ -9,6 +9,8 @@
 #include <QDataWidgetMapper>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRandomGenerator>
+#include <QSet>
 #include <QStandardItemModel>
 #include <QVBoxLayout>
 
@@ -51,7 +53,9 @@ const Setting settings[] = {
     {Log10, 100, 0, 1000, 51, false}, {Sqrt, 100, 0, 10, 1, false},
     {Sqrt, 100, -7, 1000, 30, true},  {Sqrt, 100, Smallest, Largest, 1, false},
     {Sqrt, 100, 5, 6, 1, true},       {Sqrt, 100, 0, 2, 5, true},
-    {Sqrt, 100, -3, -3, 5, false},
+    {Sqrt, 100, -3, -3, 5, false},    {Linear, 100, -50, 43, 10, true},
+    {Log10, 2, 0, 2000, 50, true},    {Log10, 100, 0, 1003, 10, true},
+    {Sqrt, 100, 0, 1003, 20, true},   {Linear, 100, -1, Largest, 1, false},
 };
 
 bool isOnGrid(const Setting &setting, int value)
@@ -133,6 +137,107 @@ void walk(const Setting &setting, Qt::Key upKey, Qt::Key downKey, Qt::LayoutDire
 
 constexpr double Huge = std::numeric_limits<double>::max();
 constexpr double Tiny = std::numeric_limits<double>::denorm_min();
+
+/** What the keys come by on the way from one bound to the other, the bounds included. */
+QSet<int> stops(const Setting &setting, bool up)
+{
+    QtOrvSlider slider;
+    apply(slider, setting);
+    slider.setValue(up ? setting.minimum : setting.maximum);
+    QSet<int> values{slider.value()};
+    const int bound = up ? setting.maximum : setting.minimum;
+    while (slider.value() != bound && values.size() < 8000) {
+        QTest::keyClick(slider.slider(), up ? Qt::Key_Up : Qt::Key_Down);
+        if (values.contains(slider.value()))
+            return {};
+        values.insert(slider.value());
+    }
+    return values;
+}
+
+void turnWheel(QSlider *slider, int steps)
+{
+    const QPoint place = slider->rect().center();
+    QWheelEvent wheel(place, slider->mapToGlobal(place), {}, {0, 120 * steps}, Qt::NoButton, {}, Qt::NoScrollPhase,
+                      false);
+    QApplication::sendEvent(slider, &wheel);
+}
+
+/** What a person may do to a slider, and a program. */
+template <typename Slider>
+void doAnything(Slider &slider, QRandomGenerator &random, const QVector<typename Recorder<Slider>::Number> &numbers)
+{
+    static const Qt::Key keys[] = {Qt::Key_Up,   Qt::Key_Down,   Qt::Key_Left,     Qt::Key_Right,
+                                   Qt::Key_Home, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_End};
+    const auto any = [&random](const auto &list) { return list[random.bounded(int(std::size(list)))]; };
+    QSlider *const inner = slider.slider();
+    const auto place = [&] { return QPoint(random.bounded(inner->width()), random.bounded(inner->height())); };
+    switch (random.bounded(9)) {
+    case 0:
+        slider.setRange(any(numbers), any(numbers));
+        break;
+    case 1:
+        slider.setValue(any(numbers));
+        break;
+    case 2:
+        slider.setSingleStep(any(numbers));
+        break;
+    case 3:
+        slider.setValidate(random.bounded(2));
+        break;
+    case 4: {
+        const QPoint start = random.bounded(2) ? handle(*inner) : place(); // or beside it
+        QTest::mousePress(inner, Qt::LeftButton, {}, start);
+        QTest::mouseMove(inner, place());
+        QTest::mouseRelease(inner, Qt::LeftButton, {}, place());
+        break;
+    }
+    case 5:
+        turnWheel(inner, random.bounded(-3, 4));
+        break;
+    case 6:
+        slider.setLayoutDirection(Qt::LayoutDirection(random.bounded(2)));
+        inner->setInvertedAppearance(random.bounded(2));
+        inner->setInvertedControls(random.bounded(2));
+        break;
+    default:
+        QTest::keyClick(inner, any(keys));
+        break;
+    }
+}
+
+/** After each of many random acts the value is in the range and was told, and the keys for the bounds lead there. */
+template <typename Slider, typename Act>
+void runRandomly(const QVector<typename Recorder<Slider>::Number> &numbers, const Act &act)
+{
+    for (const auto orientation : {Qt::Horizontal, Qt::Vertical}) {
+        QRandomGenerator random(20230801);
+        Slider slider(orientation);
+        slider.resize(220, 220);
+        slider.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&slider));
+        Recorder recorder(slider);
+        for (int i = 0; i < 1500; ++i) {
+            recorder.values.clear();
+            const bool snapsAlike = slider.validate();
+            const auto step = slider.singleStep();
+            doAnything(slider, random, numbers);
+            act(slider, random);
+            const auto value = slider.value();
+            QVERIFY(value >= slider.minimum() && value <= slider.maximum());
+            QVERIFY(qint64(slider.slider()->maximum()) - slider.slider()->minimum() < (qint64(1) << 31));
+            if (!recorder.values.isEmpty() && snapsAlike == slider.validate() && step == slider.singleStep())
+                QCOMPARE(recorder.values.last(), value);
+            if (i % 50 == 0) {
+                slider.grab(); // to be painted is a danger of its own
+                QTest::keyClick(slider.slider(), Qt::Key_End);
+                QCOMPARE(slider.value(), slider.maximum());
+                QTest::keyClick(slider.slider(), Qt::Key_Home);
+                QCOMPARE(slider.value(), slider.minimum());
+            }
+        }
+    }
+}
 
 /** In thousandths, so that what is expected can be computed without error. */
 struct Thousandths
@@ -254,6 +359,104 @@ private Q_SLOTS:
         }
     }
 
+    /** Whatever is between the positions, the grid and the bounds. */
+    void aKeyLeadsAtLeastAStepOn()
+    {
+        for (const Setting &setting : settings) {
+            for (const int start : spread(setting.minimum, setting.maximum, 40)) {
+                for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown}) {
+                    QtOrvSlider slider;
+                    apply(slider, setting);
+                    slider.setValue(start);
+                    const int before = slider.value();
+                    QTest::keyClick(slider.slider(), key);
+                    const bool up = key == Qt::Key_Up || key == Qt::Key_PageUp;
+                    const qint64 way = up ? qint64(slider.value()) - before : before - qint64(slider.value());
+                    const bool isAtBound = slider.value() == (up ? setting.maximum : setting.minimum);
+                    const bool fromOffGrid = setting.validate && (qint64(before) - setting.minimum) % setting.step != 0;
+                    QVERIFY(isAtBound || way >= setting.step || (fromOffGrid && way > 0));
+                    QVERIFY(isOnGrid(setting, slider.value()));
+                }
+            }
+        }
+    }
+
+    void keysComeByTheSamePointsOfTheGridEitherWay()
+    {
+        for (const Setting &setting : settings) {
+            if (!setting.validate)
+                continue;
+            const QSet<int> upward = stops(setting, true);
+            QVERIFY(!upward.isEmpty());
+            QCOMPARE(stops(setting, false), upward);
+            if (setting.type == Linear) { // where that is all of them
+                const qint64 width = qint64(setting.maximum) - setting.minimum;
+                QCOMPARE(qint64(upward.size()), width / setting.step + 1 + (width % setting.step ? 1 : 0));
+            }
+        }
+    }
+
+    /** More values than a slider takes positions: from 2^31 on, Qt divides by zero or loses the handle. */
+    void aRangeOfMoreThanHalfTheIntegersIsScaled()
+    {
+        const std::pair<int, int> ranges[] = {
+            {-1, Largest}, {Smallest, Largest}, {Smallest, 0}, {Smallest, Largest - 1}};
+        for (const auto &[minimum, maximum] : ranges) {
+            QtOrvSlider slider(Qt::Horizontal);
+            slider.resize(300, 60);
+            slider.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&slider));
+            slider.setMinimum(minimum);
+            slider.setMaximum(maximum);
+            QCOMPARE(slider.minimum(), minimum);
+            QCOMPARE(slider.maximum(), maximum);
+            for (const int value : {minimum, minimum + 1, 12345, -1, maximum - 1, maximum}) {
+                slider.setValue(value);
+                QCOMPARE(slider.value(), qBound(minimum, value, maximum));
+            }
+            slider.setValue(12345);
+            QTest::keyClick(slider.slider(), Qt::Key_Right);
+            QCOMPARE(slider.value(), qBound(minimum, 12346, maximum));
+            slider.setValue(minimum / 2 + maximum / 2);
+            QVERIFY(qAbs(handle(*slider.slider()).x() - slider.slider()->width() / 2) < 3);
+            slider.setMinimum(0);
+            QCOMPARE(slider.maximum(), qMax(0, maximum));
+        }
+        QtOrvSlider widest; // that stays as it is
+        widest.setRange(-1, Largest - 1);
+        QCOMPARE(widest.slider()->minimum(), -1);
+        QCOMPARE(widest.slider()->maximum(), Largest - 1);
+    }
+
+    void aPageFollowsTheRange()
+    {
+        QtOrvSlider slider;
+        slider.setRange(0, 50000);
+        QTest::keyClick(slider.slider(), Qt::Key_PageUp);
+        QCOMPARE(slider.value(), 5000);
+        slider.setRange(0, 30);
+        slider.setSingleStep(4);
+        QTest::keyClick(slider.slider(), Qt::Key_Home);
+        QTest::keyClick(slider.slider(), Qt::Key_PageUp);
+        QCOMPARE(slider.value(), 4);
+        slider.slider()->setPageStep(8);
+        slider.setRange(0, 1000);
+        QTest::keyClick(slider.slider(), Qt::Key_PageUp);
+        QCOMPARE(slider.value(), 12);
+    }
+
+    void nothingThatIsDoneToItDoesHarm()
+    {
+        const QVector<int> numbers = {Smallest, Smallest + 1, Smallest / 2, -1,          0,      1,
+                                      7,        1000,         Largest / 2,  Largest - 1, Largest};
+        runRandomly<QtOrvSlider>(numbers, [](QtOrvSlider &slider, QRandomGenerator &random) {
+            if (random.bounded(10) == 0)
+                slider.setScaleType(QtOrvSlider::ScaleType(random.bounded(3)));
+            if (random.bounded(50) == 0)
+                slider.setLog10Coef(std::pow(10, random.bounded(-3, 9)));
+        });
+    }
+
     void keysFollowInvertedControls()
     {
         QtOrvSlider slider;
@@ -355,6 +558,29 @@ private Q_SLOTS:
         QCOMPARE(slider.log10Coef(), 100.0);
         slider.setScaleType(QtOrvSlider::ScaleType(3));
         QCOMPARE(slider.scaleType(), Linear);
+    }
+
+    void labelsAreWrittenAsTheLocaleHasIt()
+    {
+        const struct
+        {
+            const char *locale, *minimum, *maximum, *doubleMaximum;
+        } rows[] = {{"C", "-1500", "20000", "1234.500"},
+                    {"de_DE", "-1500", "20000", "1234,500"},
+                    {"ar_EG", "-\u0661\u0665\u0660\u0660", "\u0662\u0660\u0660\u0660\u0660",
+                     "\u0661\u0662\u0663\u0664\u066b\u0665\u0660\u0660"}};
+        QtOrvSlider slider;
+        slider.setRange(-1500, 20000);
+        QtOrvDoubleSlider doubleSlider;
+        doubleSlider.setRange(0, 1234.5);
+        doubleSlider.setDecimals(1); // which the labels take up with the next range
+        for (const auto &row : rows) {
+            slider.setLocale(QLocale(QLatin1String(row.locale)));
+            doubleSlider.setLocale(slider.locale());
+            QCOMPARE(slider.minLabel()->text(), QString::fromUtf8(row.minimum));
+            QCOMPARE(slider.maxLabel()->text(), QString::fromUtf8(row.maximum));
+            QCOMPARE(doubleSlider.maxLabel()->text(), QString::fromUtf8(row.doubleMaximum));
+        }
     }
 
     void mouseDrags()
@@ -537,6 +763,12 @@ private Q_SLOTS:
         QTest::keyClick(slider.slider(), Qt::Key_Right);
         QTest::keyClick(slider.slider(), Qt::Key_Home);
         QCOMPARE(recorder.takeLog(), QStringLiteral("0.9 0"));
+    }
+
+    void nothingThatIsDoneToItDoesHarm()
+    {
+        runRandomly<QtOrvDoubleSlider>({-Huge, Huge, -1, 0, Tiny, 0.1, 0.25, 1, 1000, 1e12, qQNaN(), qInf()},
+                                       [](QtOrvDoubleSlider &, QRandomGenerator &) {});
     }
 
     void settersKeepTheValueAndTellOnce()

@@ -16,12 +16,14 @@ public:
     void init();
 
     void rescale(const DoubleScale &changed);
+    void showBounds();
     void positionChanged();
-    QString labelText(double bound) const { return QString::number(bound, 'f', decimals); }
+    QString labelText(double bound) const { return parts.locale().toString(bound, 'f', labelDecimals); }
 
     QtOrvDoubleSlider *const q;
     SliderParts parts;
     int decimals = 3;
+    int labelDecimals = 3; ///< those of the time when the range was set
     DoubleScale scale;
     bool settling = false; ///< the inner slider moves on the way to a value that is announced later, if at all
 };
@@ -50,16 +52,23 @@ void QtOrvDoubleSliderPrivate::rescale(const DoubleScale &changed)
     scale = changed;
     {
         const QScopedValueRollback<bool> guard(settling, true);
-        parts.slider->setRange(0, scale.lastPosition());
+        parts.slider->setPositions(0, scale.lastPosition(), 1);
         parts.slider->setValue(scale.positionOf(kept));
     }
     const bool moved = parts.slider->value() != keptPosition || q->value() != kept;
     if (otherRange) {
-        parts.setBounds(labelText(scale.minimum()), labelText(scale.maximum()));
+        labelDecimals = decimals;
+        showBounds();
         Q_EMIT q->rangeChanged(scale.minimum(), scale.maximum());
     }
+    const Rescaling rescaling(parts.slider);
     if (moved)
         Q_EMIT q->valueChanged(q->value());
+}
+
+void QtOrvDoubleSliderPrivate::showBounds()
+{
+    parts.setBounds(labelText(scale.minimum()), labelText(scale.maximum()));
 }
 
 /** Every other position is told, also one that snapping gives the same value. */
@@ -218,6 +227,8 @@ QSlider *QtOrvDoubleSlider::slider() const
 
 bool QtOrvDoubleSlider::eventFilter(QObject *watched, QEvent *event)
 {
+    if (d->parts.changesLocale(watched, event))
+        d->showBounds();
     if (!d->parts.takesFocusOut(watched, event))
         return QFrame::eventFilter(watched, event);
     Q_EMIT focusOut();

@@ -18,6 +18,9 @@ class QtOrvDoubleSliderPrivate;
  * carries the position of the inner slider, not a value. focusOut() tells that the inner slider, which has the focus in
  * place of this widget, has lost it; the inner slider itself never learns that.
  *
+ * The labels show the bounds as the widget's locale() writes them, without group separators. A page is a tenth of the
+ * positions, unless the inner slider is given another page step.
+ *
  * Assistive tools meet a slider that has "value", "minimum", "maximum" and "singleStep" of this widget and its
  * accessible name.
  *

@@ -2,6 +2,7 @@
 
 #include <OrvCameraGuiApi/widgets/captions.h>
 #include <OrvCameraGuiApi/widgets/compositefocus.h>
+#include <OrvCameraGuiApi/widgets/innerboxes.h>
 #include <OrvCameraGuiApi/widgets/qtorvdoubleslider.h>
 #include <OrvCameraGuiApi/widgets/spinsliderlink.h>
 
@@ -24,7 +25,7 @@ public:
 
 QtOrvGainSliderPrivate::QtOrvGainSliderPrivate(QtOrvGainSlider *owner)
     : q(owner)
-    , spinBox(new QtOrvDoubleSpinBoxVal(owner))
+    , spinBox(new InnerDoubleSpinBox(owner))
     , slider(new QtOrvDoubleSlider(Qt::Horizontal, owner))
     , captions(owner)
     , link(owner, spinBox, slider, WhileDragged::MovesSlider)

@@ -7,6 +7,7 @@
 #include <QScopedValueRollback>
 
 #include <cmath>
+#include <optional>
 
 class QtOrvSliderPrivate
 {
@@ -15,9 +16,11 @@ public:
     void init();
 
     void rescale(const IntegerScale &changed);
+    void showBounds();
     void move(int value);
+    void place(const IntegerScale::Stop &stop);
     void positionChanged(int position);
-    void step(int value, bool up);
+    void act(int action);
     void announce(int value);
     int value() const;
 
@@ -26,7 +29,8 @@ public:
     IntegerScale scale;
     int sliderValue = 0; ///< the inner slider's position when it was last looked at
     int lastValue = 0; ///< as last announced
-    bool stepped = false; ///< a key has led to lastValue, which is what the position stands for until it changes
+    /** What the position stands for until it changes, where that is another value than its own: a key led there. */
+    std::optional<int> held;
     bool settling = false; ///< the inner slider moves on the way to a value that is announced later, if at all
 };
 
@@ -39,6 +43,7 @@ QtOrvSliderPrivate::QtOrvSliderPrivate(QtOrvSlider *owner, Qt::Orientation orien
 void QtOrvSliderPrivate::init()
 {
     QObject::connect(parts.slider, &QSlider::valueChanged, q, [this](int position) { positionChanged(position); });
+    QObject::connect(parts.slider, &QSlider::actionTriggered, q, [this](int action) { act(action); });
     QObject::connect(parts.slider, &QSlider::sliderPressed, q, &QtOrvSlider::sliderPressed);
     QObject::connect(parts.slider, &QSlider::sliderMoved, q, &QtOrvSlider::sliderMoved);
     QObject::connect(parts.slider, &QSlider::sliderReleased, q, &QtOrvSlider::sliderReleased);
@@ -53,53 +58,67 @@ void QtOrvSliderPrivate::rescale(const IntegerScale &changed)
     scale = changed;
     {
         const QScopedValueRollback<bool> guard(settling, true);
-        parts.slider->setRange(scale.firstPosition(), scale.lastPosition());
-        parts.slider->setSingleStep(scale.type() == QtOrvSlider::Linear ? scale.singleStep() : 1);
+        parts.slider->setPositions(scale.firstPosition(), scale.lastPosition(), scale.positionStep());
     }
     move(kept);
     if (otherRange) {
-        parts.setBounds(QString::number(scale.minimum()), QString::number(scale.maximum()));
+        showBounds();
         Q_EMIT q->rangeChanged(scale.minimum(), scale.maximum());
     }
+    const Rescaling rescaling(parts.slider);
     announce(value());
+}
+
+void QtOrvSliderPrivate::showBounds()
+{
+    const QLocale locale = parts.locale();
+    parts.setBounds(locale.toString(scale.minimum()), locale.toString(scale.maximum()));
 }
 
 int QtOrvSliderPrivate::value() const
 {
-    return stepped ? scale.snapped(lastValue) : scale.valueAt(sliderValue);
+    return held ? scale.snapped(*held) : scale.valueAt(sliderValue);
 }
 
 void QtOrvSliderPrivate::move(int value)
 {
+    const int position = scale.positionOf(value);
+    const bool isExact = scale.type() == QtOrvSlider::Linear;
+    place(
+        {position, isExact ? scale.snapped(qBound(scale.minimum(), value, scale.maximum())) : scale.valueAt(position)});
+}
+
+void QtOrvSliderPrivate::place(const IntegerScale::Stop &stop)
+{
     const QScopedValueRollback<bool> guard(settling, true);
-    parts.slider->setValue(scale.positionOf(value));
+    parts.slider->setValue(stop.position);
     sliderValue = parts.slider->value();
-    stepped = false;
+    held.reset();
+    if (sliderValue == stop.position && scale.valueAt(sliderValue) != stop.value)
+        held = stop.value;
 }
 
 void QtOrvSliderPrivate::positionChanged(int position)
 {
     if (settling)
         return;
-    const int before = value();
-    // Which way the slider went tells more than the key: layout direction and inversion turn some of them round.
-    const bool up = position > sliderValue;
     sliderValue = position;
-    stepped = false;
-    if (value() == before && parts.slider->isSteppedByKey())
-        step(before, up);
-    else
-        announce(value());
+    held.reset();
+    announce(value());
 }
 
-/** Leads on from \a value, from which a key alone has not come away. */
-void QtOrvSliderPrivate::step(int value, bool up)
+/** Keys lead on from the value, where the position alone would not lead to another, or not by a whole step. */
+void QtOrvSliderPrivate::act(int action)
 {
-    const int target = scale.stepped(value, up);
-    move(target);
-    // No key leads on from an end, so that has to be the bound.
-    stepped = sliderValue != scale.firstPosition() && sliderValue != scale.lastPosition();
-    announce(stepped ? target : scale.valueAt(sliderValue));
+    using Way = KeyAwareSlider::Way;
+    const Way way = KeyAwareSlider::wayOf(action);
+    if (way == Way::None)
+        return;
+    if (way == Way::ToMinimum || way == Way::ToMaximum)
+        move(way == Way::ToMinimum ? scale.minimum() : scale.maximum());
+    else
+        place(scale.next(value(), way == Way::Up, parts.slider->positionsOf(action)));
+    announce(value());
 }
 
 void QtOrvSliderPrivate::announce(int value)
@@ -131,7 +150,8 @@ int QtOrvSlider::minimum() const
 
 void QtOrvSlider::setMinimum(int minimum)
 {
-    setRange(minimum, d->parts.slider->maximum()); // intentionally a position, see the header
+    // Intentionally a position, see the header.
+    setRange(minimum, d->scale.isCrowded() ? maximum() : d->parts.slider->maximum());
 }
 
 int QtOrvSlider::maximum() const
@@ -141,7 +161,8 @@ int QtOrvSlider::maximum() const
 
 void QtOrvSlider::setMaximum(int maximum)
 {
-    setRange(d->parts.slider->minimum(), maximum); // intentionally a position, see the header
+    // Intentionally a position, see the header.
+    setRange(d->scale.isCrowded() ? minimum() : d->parts.slider->minimum(), maximum);
 }
 
 int QtOrvSlider::value() const
@@ -151,7 +172,7 @@ int QtOrvSlider::value() const
 
 void QtOrvSlider::setValue(int value)
 {
-    if (!d->stepped || value != d->value()) // else the position alone would stand for another value
+    if (!d->held || value != d->value()) // else the position alone would stand for another value
         d->move(value);
     d->announce(d->value());
 }
@@ -176,8 +197,7 @@ void QtOrvSlider::setSingleStep(int step)
     if (step <= 0)
         return;
     d->scale.setSingleStep(step);
-    if (scaleType() == Linear)
-        d->parts.slider->setSingleStep(step);
+    d->parts.slider->setPositions(d->scale.firstPosition(), d->scale.lastPosition(), d->scale.positionStep());
 }
 
 bool QtOrvSlider::validate() const
@@ -275,6 +295,8 @@ QSlider *QtOrvSlider::slider() const
 
 bool QtOrvSlider::eventFilter(QObject *watched, QEvent *event)
 {
+    if (d->parts.changesLocale(watched, event))
+        d->showBounds();
     if (!d->parts.takesFocusOut(watched, event))
         return QFrame::eventFilter(watched, event);
     Q_EMIT focusOut();

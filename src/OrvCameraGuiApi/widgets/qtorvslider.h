@@ -14,13 +14,17 @@ class QtOrvSliderPrivate;
  *
  * A scale other than Linear gives a wide range fine control at its low end. It maps the values to the positions of an
  * inner slider, of which there are fewer: what value() gives back may then be off by up to the width of a position from
- * what was set. The bounds themselves are always met.
+ * what was set. The bounds themselves are always met. On a Linear scale positions are values; only a range of 2^31 or
+ * wider, which a QSlider cannot take, is scaled to its positions, and a drag then skips every other value or so.
+ *
+ * The labels show the bounds as the widget's locale() writes them, without group separators.
  *
  * ## Signals
  *
- * valueChanged() tells of a change of the value, however it came about, once. A key that steps always changes the
- * value, until the bound: where a single position makes no difference, it moves the slider on by singleStep(), or as
- * much more as the next position or grid point takes.
+ * valueChanged() tells of a change of the value, however it came about, once. A key that steps, or a click beside the
+ * handle, changes the value by at least singleStep(), until the bound, or by as much more as the next position takes.
+ * With validate() keys come by the same points of the grid in either direction; from a bound off the grid the step to
+ * the next point is shorter. A page is a tenth of the positions, unless the inner slider is given another page step.
  *
  * sliderPressed(), sliderMoved(), sliderReleased() and rangeChanged() are as of a QSlider, except that sliderMoved()
  * carries the position of the inner slider, not a value. focusOut() tells that the inner slider, which has the focus in
@@ -51,7 +55,7 @@ class ORV_CAMERAGUIAPI_EXPORT QtOrvSlider : public QFrame
 public:
     /** How values lie along the slider. */
     enum ScaleType {
-        Linear, ///< a position for every value
+        Linear, ///< a position for every value, as far as there are positions
         Log10, ///< positions grow with the logarithm of the distance from the minimum, plus 10
         Sqrt ///< positions grow with the square root of the distance from the minimum
     };
@@ -66,7 +70,7 @@ public:
     int maximum() const;
     /**
      * Like setRange() with \a minimum and the \e inner slider's maximum, intentionally: with a scale other than Linear
-     * that is a position, so set both bounds by setRange() then.
+     * that is a position, so set both bounds by setRange() then. With a scaled one it is maximum().
      */
     void setMinimum(int minimum);
     /** Like setRange() with the \e inner slider's minimum, intentionally, and \a maximum: see setMinimum(). */

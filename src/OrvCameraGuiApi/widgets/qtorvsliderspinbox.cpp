@@ -2,6 +2,7 @@
 
 #include <OrvCameraGuiApi/widgets/captions.h>
 #include <OrvCameraGuiApi/widgets/compositefocus.h>
+#include <OrvCameraGuiApi/widgets/innerboxes.h>
 #include <OrvCameraGuiApi/widgets/qtorvslider.h>
 #include <OrvCameraGuiApi/widgets/spinsliderlink.h>
 
@@ -24,7 +25,7 @@ public:
 
 QtOrvSliderSpinBoxPrivate::QtOrvSliderSpinBoxPrivate(QtOrvSliderSpinBox *owner)
     : q(owner)
-    , spinBox(new QtOrvSpinBoxVal(owner))
+    , spinBox(new InnerSpinBox(owner))
     , slider(new QtOrvSlider(Qt::Horizontal, owner))
     , captions(owner)
     , link(owner, spinBox, slider, WhileDragged::Nothing)

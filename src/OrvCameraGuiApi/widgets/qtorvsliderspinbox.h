@@ -14,11 +14,15 @@ class QtOrvSliderSpinBoxPrivate;
 /**
  * A slider and a spin box side by side for one integer, with an optional caption to the left and above.
  *
- * setValue() and the range act on the slider, whose positions the value comes from; what is typed may lie between them.
- * value() is what the spin box shows.
+ * Both parts show one number: the spin box as it is, the slider at the nearest of its positions. Whoever moves the
+ * slider sets the number to what that position stands for; setValue() and typing set it to any in the range, with
+ * validate() to the nearest on the grid (a typed one is shown there when typing ends).
+ * A new range moves a number only if it lies outside, and another scale moves none.
  *
  * While the slider is dragged the spin box follows it, but valueChanged() waits for the release and is emitted once
- * then, also where nothing has changed. Keys, wheel and clicks beside the handle are announced at once.
+ * then, also where nothing has changed: a handle that is let go where it was pressed leaves the number as it is. A drag
+ * that ends because the slider is disabled is forgotten. Keys, wheel and clicks beside the handle are announced at
+ * once.
  *
  * "&" before a letter of a caption makes a mnemonic that leads to the spin box. For assistive tools the accessible
  * name, else a caption, else the label whose buddy this widget is, names the spin box and, as its "... slider", the

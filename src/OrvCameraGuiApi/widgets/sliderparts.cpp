@@ -6,31 +6,67 @@
 #include <QCoreApplication>
 #include <QFocusEvent>
 #include <QFrame>
-#include <QKeyEvent>
-#include <QScopedValueRollback>
+#include <QMouseEvent>
+
+#include <algorithm>
 
 KeyAwareSlider::KeyAwareSlider(Qt::Orientation orientation, QWidget *parent)
     : QSlider(orientation, parent)
+    , m_ownPageStep(pageStep())
 {
 }
 
-void KeyAwareSlider::keyPressEvent(QKeyEvent *event)
+KeyAwareSlider::Way KeyAwareSlider::wayOf(int action)
 {
-    bool steps = false;
-    switch (event->key()) {
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-        steps = true;
-        break;
+    switch (action) {
+    case SliderSingleStepAdd:
+    case SliderPageStepAdd:
+        return Way::Up;
+    case SliderSingleStepSub:
+    case SliderPageStepSub:
+        return Way::Down;
+    case SliderToMaximum:
+        return Way::ToMaximum;
+    case SliderToMinimum:
+        return Way::ToMinimum;
     default:
-        break;
+        return Way::None;
     }
-    const QScopedValueRollback<bool> stepping(m_steppedByKey, steps);
-    QSlider::keyPressEvent(event);
+}
+
+int KeyAwareSlider::positionsOf(int action) const
+{
+    return action == SliderPageStepAdd || action == SliderPageStepSub ? pageStep() : singleStep();
+}
+
+void KeyAwareSlider::setPositions(int first, int last, int step)
+{
+    constexpr int pages = 10;
+    setRange(first, last);
+    setSingleStep(step);
+    if (pageStep() != m_ownPageStep)
+        return;
+    m_ownPageStep = int(std::max<qint64>(step, (qint64(last) - first) / pages));
+    setPageStep(m_ownPageStep);
+}
+
+void KeyAwareSlider::mousePressEvent(QMouseEvent *event)
+{
+    m_pressedAt = along(event->pos());
+    m_dragged = false;
+    QSlider::mousePressEvent(event);
+}
+
+/** Where a pixel is more than a position, a mouse that has not moved along the slider would move it all the same. */
+void KeyAwareSlider::mouseMoveEvent(QMouseEvent *event)
+{
+    if (isSliderDown() && !m_dragged && along(event->pos()) == m_pressedAt) {
+        event->accept();
+        return;
+    }
+    const int before = sliderPosition();
+    QSlider::mouseMoveEvent(event);
+    m_dragged = m_dragged || sliderPosition() != before;
 }
 
 SliderParts::SliderParts(Qt::Orientation orientation, QFrame *parent)
@@ -60,6 +96,18 @@ void SliderParts::setBounds(const QString &minimum, const QString &maximum)
 {
     minLabel->setText(minimum);
     maxLabel->setText(maximum);
+}
+
+bool SliderParts::changesLocale(const QObject *watched, const QEvent *event) const
+{
+    return watched == slider && event->type() == QEvent::LocaleChange;
+}
+
+QLocale SliderParts::locale() const
+{
+    QLocale locale = slider->locale();
+    locale.setNumberOptions(locale.numberOptions() | QLocale::OmitGroupSeparator);
+    return locale;
 }
 
 bool SliderParts::takesFocusOut(const QObject *watched, QEvent *event)

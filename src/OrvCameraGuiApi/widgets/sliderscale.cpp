@@ -19,6 +19,12 @@ double rounded(double number)
     return std::trunc(number + 0.5);
 }
 
+/** \a number * \a to / \a from, rounded. None is above 2^32, and one of \a number and \a to is below 2^31. */
+quint64 scaled(quint64 number, quint64 to, quint64 from)
+{
+    return (number * to + from / 2) / from;
+}
+
 /** (\a to - \a from) / \a unit, also where the difference alone would be infinite. */
 double quotient(double from, double to, double unit)
 {
@@ -49,24 +55,42 @@ void IntegerScale::setLog10Coef(double positions)
 
 void IntegerScale::update()
 {
-    const auto width = double(qint64(m_maximum) - m_minimum);
+    const auto distance = double(width());
     if (m_type == QtOrvSlider::Linear) {
-        m_first = m_minimum;
-        m_last = m_maximum;
+        m_first = isCrowded() ? 0 : m_minimum;
+        m_last = isCrowded() ? std::numeric_limits<int>::max() : m_maximum;
         return;
     }
     if (m_type == QtOrvSlider::Log10) {
-        const double decades = std::log10(width + logOffset);
+        const double decades = std::log10(distance + logOffset);
         m_positionsPerDecade = std::min(m_log10Coef, mostPositions / decades);
         m_first = int(m_positionsPerDecade); // the minimum lies at logOffset, one decade up
         m_last = int(rounded(decades * m_positionsPerDecade));
     } else {
         m_first = 0;
-        m_last = int(rounded(std::sqrt(width)));
+        m_last = int(rounded(std::sqrt(distance)));
     }
     // Where the last position falls short of the maximum, or there is just one for two values, one more reaches it.
-    if (width > distanceAt(m_last) || (width > 0 && m_last == m_first))
+    if (distance > distanceAt(m_last) || (distance > 0 && m_last == m_first))
         ++m_last;
+}
+
+quint64 IntegerScale::width() const
+{
+    return quint64(qint64(m_maximum) - m_minimum);
+}
+
+bool IntegerScale::isCrowded() const
+{
+    return m_type == QtOrvSlider::Linear && width() > quint64(std::numeric_limits<int>::max());
+}
+
+int IntegerScale::positionStep() const
+{
+    if (m_type != QtOrvSlider::Linear)
+        return 1;
+    return isCrowded() ? int(std::max<quint64>(1, scaled(quint64(m_singleStep), quint64(m_last), width())))
+                       : m_singleStep;
 }
 
 /** What a position between the ends adds to the minimum; for the logarithm plus logOffset. */
@@ -89,6 +113,10 @@ int IntegerScale::positionOf(int value) const
         return m_last;
     if (value == m_minimum)
         return m_first;
+    if (isCrowded()) {
+        const quint64 position = scaled(quint64(qint64(value) - m_minimum), quint64(m_last), width());
+        return int(qBound<quint64>(1, position, quint64(m_last) - 1)); // the ends are for the bounds
+    }
     if (m_type == QtOrvSlider::Linear)
         return value;
     const auto distance = double(qint64(value) - m_minimum);
@@ -103,19 +131,62 @@ int IntegerScale::valueAt(int position) const
         return m_maximum;
     if (position <= m_first)
         return m_minimum;
+    if (isCrowded())
+        return snapped(int(m_minimum + qint64(scaled(quint64(position), width(), quint64(m_last)))));
     if (m_type == QtOrvSlider::Linear)
         return snapped(position);
     const double distance = distanceAt(position) - (m_type == QtOrvSlider::Log10 ? logOffset : 0);
     return snapped(int(qBound(double(m_minimum), m_minimum + distance, double(m_maximum))));
 }
 
+/** The end of a whole step from \a value, on the grid if values are; at most the bound. */
 int IntegerScale::stepped(int value, bool up) const
 {
+    const qint64 beyondGrid = m_validate ? (qint64(value) - m_minimum) % m_singleStep : 0;
     if (up)
-        return int(std::min(qint64(value) + m_singleStep, qint64(m_maximum)));
-    const qint64 target = std::max(qint64(value) - m_singleStep, qint64(m_minimum));
-    // Only the maximum can lie off the grid here, so the way up needs no such correction.
-    return int(m_validate ? target - (target - m_minimum) % m_singleStep : target);
+        return int(std::min<qint64>(value - beyondGrid + m_singleStep, m_maximum));
+    return int(std::max<qint64>(beyondGrid > 0 ? value - beyondGrid : qint64(value) - m_singleStep, m_minimum));
+}
+
+/** The position nearest to \a value of those that stand for more, or for less; at most the end. */
+int IntegerScale::firstBeyond(int value, bool up) const
+{
+    qint64 near = up ? qint64(m_first) - 1 : qint64(m_last) + 1;
+    qint64 beyond = up ? m_last : m_first;
+    while (qAbs(beyond - near) > 1) {
+        const qint64 middle = near + (beyond - near) / 2;
+        const int reached = valueAt(int(middle));
+        const bool isBeyond = up ? reached > value : reached < value;
+        (isBeyond ? beyond : near) = middle;
+    }
+    return int(beyond);
+}
+
+/** The ends are for the bounds, where there is room: whoever goes on to an end is to get somewhere. */
+IntegerScale::Stop IntegerScale::stopAt(int value) const
+{
+    const int position = positionOf(value);
+    const bool isBound = value == m_minimum || value == m_maximum;
+    if (isBound || qint64(m_last) - m_first < 2)
+        return {position, value};
+    return {qBound(m_first + 1, position, m_last - 1), value};
+}
+
+IntegerScale::Stop IntegerScale::next(int value, bool up, int positions) const
+{
+    Stop stop = stopAt(stepped(value, up));
+    const auto leadOnTo = [&](int position) {
+        const int reached = valueAt(position);
+        if (up ? reached >= stop.value : reached <= stop.value)
+            stop = {position, reached};
+    };
+    if (m_type != QtOrvSlider::Linear)
+        leadOnTo(firstBeyond(value, up));
+    if (positions > positionStep()) {
+        const qint64 position = qint64(positionOf(value)) + (up ? positions : -qint64(positions));
+        leadOnTo(int(qBound<qint64>(m_first, position, m_last)));
+    }
+    return stop;
 }
 
 void DoubleScale::setRange(double minimum, double maximum)

@@ -25,6 +25,13 @@ public:
 
     int firstPosition() const { return m_first; }
     int lastPosition() const { return m_last; }
+    int positionStep() const; ///< the positions of a single step
+
+    /**
+     * Whether there are more values on a linear scale than a slider can take positions: two neighbours may share one
+     * then. A slider's range has to be narrower than 2^31, see QStyle::sliderPositionFromValue().
+     */
+    bool isCrowded() const;
 
     /** Of the value in the range that is nearest to \a value, snapped if values are. */
     int positionOf(int value) const;
@@ -33,12 +40,26 @@ public:
     /** A value of the range, on the grid if values are. */
     int snapped(int value) const;
 
-    /** The first value a whole step or more above or below \a value, on the grid if values are; at most the bound. */
-    int stepped(int value, bool up) const;
+    struct Stop
+    {
+        int position;
+        int value; ///< which need not be what the position alone stands for
+    };
+
+    /**
+     * Where a key leads from \a value: \a positions on, but at least a whole step, on the grid if values are, or to the
+     * bound. From a value off the grid the next point of the grid is a whole step, so that keys in either direction
+     * come by the same points.
+     */
+    Stop next(int value, bool up, int positions) const;
 
 private:
     void update();
     double distanceAt(int position) const;
+    quint64 width() const;
+    int stepped(int value, bool up) const;
+    int firstBeyond(int value, bool up) const;
+    Stop stopAt(int value) const;
 
     int m_minimum = 0;
     int m_maximum = 0;

@@ -3,10 +3,12 @@
 #include <OrvCameraGuiApi/widgets/qtorvdoublespinboxval.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
+#include <OrvCameraGuiApi/widgets/sliderparts.h>
+#include <OrvCameraGuiApi/widgets/stepgrid.h>
 
+#include <QEvent>
 #include <QObject>
 #include <QScopedValueRollback>
-#include <QSlider>
 
 #include <cmath>
 #include <limits>
@@ -73,6 +75,48 @@ inline bool shows(const QtOrvDoubleSpinBoxVal *spinBox, double value)
     return std::abs(spinBox->value() - value) <= halfAndError * std::pow(10.0, -spinBox->decimals());
 }
 
+/** Whether setValue() with \a value, which is within the range, would change nothing. */
+inline bool hasTaken(const QtOrvSpinBoxVal64 *spinBox, int value)
+{
+    if (!spinBox->validateStepping())
+        return spinBox->value() == value;
+    const auto number = [spinBox](long long bound) { return numberFor(spinBox, bound); };
+    return spinBox->value()
+        == snappedToGrid(value, number(spinBox->minimum()), number(spinBox->maximum()), number(spinBox->singleStep()));
+}
+
+inline bool hasTaken(const QtOrvSpinBoxVal *spinBox, int value)
+{
+    return spinBox->value() == (spinBox->validate() ? spinBox->doValidation(value) : value);
+}
+
+inline bool hasTaken(const QtOrvDoubleSpinBoxVal *spinBox, double value)
+{
+    if (spinBox->validate())
+        value = spinBox->doValidation(value);
+    const double rounded = QString::number(value, 'f', spinBox->decimals()).toDouble(); // as the spin box does
+    return spinBox->value() == qBound(spinBox->minimum(), rounded, spinBox->maximum());
+}
+
+/** Shows \a value as it is, on the grid or off it. */
+inline void showUnmoved(QtOrvSpinBoxVal64 *spinBox, long long value)
+{
+    const bool snaps = spinBox->validateStepping();
+    spinBox->setValidateStepping(false);
+    spinBox->setValue(value);
+    spinBox->setValidateStepping(snaps);
+}
+
+inline void showUnmoved(QtOrvSpinBoxVal *spinBox, int value)
+{
+    spinBox->QSpinBox::setValue(value);
+}
+
+inline void showUnmoved(QtOrvDoubleSpinBoxVal *spinBox, double value)
+{
+    spinBox->QDoubleSpinBox::setValue(value);
+}
+
 } // namespace SpinSlider
 
 /** What the spin box still does while the slider is dragged. */
@@ -82,46 +126,60 @@ enum class WhileDragged { Nothing, MovesSlider };
  * Keeps a spin box and a slider of a composite in step, and speaks for the composite: with the voice of the spin box,
  * but while the slider is dragged not at all, and once when it is released.
  *
- * Whatever moves the slider sets the spin box. What changes the spin box in another way moves the slider to the nearest
- * position, which does not change the spin box again: a value between the positions can be typed.
+ * The number is the spin box's. Whoever moves the slider sets it to what the slider says. What changes the number in
+ * another way moves the slider to the nearest position, which does not change the number again: that may lie between
+ * the positions. Nor does another range or scale of the slider change it, unless it is outside.
+ *
+ * A bound with more decimals than the spin box shows may be rounded to a number beyond it. That end of the spin box
+ * then stands for the bound.
  */
 template <typename Composite, typename SpinBox, typename Slider>
-class SpinSliderLink
+class SpinSliderLink : public QObject
 {
 public:
     using SpinNumber = decltype(std::declval<SpinBox>().value());
     using Number = decltype(std::declval<Slider>().value());
 
+    /** Not a child of \a composite: the connections end with this link, and the parts outlive it by a focus-out. */
     SpinSliderLink(Composite *composite, SpinBox *spinBox, Slider *slider, WhileDragged whileDragged);
 
-    /** What the spin box shows, and what was announced last unless the slider is being dragged. */
-    Number value() const { return SpinSlider::numberFor(m_spinBox, m_spinBox->value()); }
+    /** What the spin box shows or stands for, and what was announced last unless the slider is being dragged. */
+    Number value() const;
     void setValue(Number value);
 
     Number singleStep() const { return SpinSlider::numberFor(m_spinBox, m_spinBox->singleStep()); }
     void setSingleStep(Number step);
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void connectSlider();
-    void speak();
-    void keepSilent();
-    void keepInRange();
-    void setSpinBox(Number value);
-    void moveSlider(SpinNumber value);
+    void connectSpinBox();
+    Number bounded(Number value) const { return qBound(m_slider->minimum(), value, m_slider->maximum()); }
+    Number standsFor(SpinNumber shown) const { return bounded(SpinSlider::numberFor(m_spinBox, shown)); }
+    KeyAwareSlider *inner() const { return static_cast<KeyAwareSlider *>(m_slider->slider()); }
+
+    void keep();
+    void stand(Number value);
+    void enter(Number value);
+    void fitRange();
+    void sliderChanged();
+    void goOnToBound(int action);
+    void moveSlider();
     void pressed();
     void released();
-
-    static constexpr auto numberSignal = QOverload<SpinNumber>::of(&SpinBox::valueChanged);
+    void dropDrag();
 
     Composite *const q;
     SpinBox *const m_spinBox;
     Slider *const m_slider;
     const WhileDragged m_whileDragged;
-    QObject m_context; ///< whose end is the connections' end: the parts outlive this link by a focus-out
+    SpinNumber m_shown{}; ///< in the spin box when it was last looked at
+    Number m_value{}; ///< what that stands for
+    SpinNumber m_beforeDrag{};
+    SpinNumber m_dragged{}; ///< what the slider has last set while it is dragged
+    bool m_isDragged = false;
     bool m_movingSlider = false;
-    QMetaObject::Connection m_mover;
-    QMetaObject::Connection m_numbers;
-    QMetaObject::Connection m_texts;
 };
 
 template <typename Composite, typename SpinBox, typename Slider>
@@ -133,86 +191,150 @@ SpinSliderLink<Composite, SpinBox, Slider>::SpinSliderLink(Composite *composite,
     , m_whileDragged(whileDragged)
 {
     m_spinBox->setRange(m_slider->minimum(), m_slider->maximum());
+    keep();
+    m_spinBox->installEventFilter(this);
     connectSlider();
-    speak();
+    connectSpinBox();
 }
 
 template <typename Composite, typename SpinBox, typename Slider>
 void SpinSliderLink<Composite, SpinBox, Slider>::connectSlider()
 {
-    QObject::connect(m_slider, &Slider::rangeChanged, m_spinBox, &SpinBox::setRange);
-    QObject::connect(m_slider, &Slider::rangeChanged, q, &Composite::rangeChanged);
-    QObject::connect(m_slider, &Slider::rangeChanged, &m_context, [this] { keepInRange(); });
-    QObject::connect(m_slider, &Slider::valueChanged, &m_context, [this](Number value) { setSpinBox(value); });
-    QObject::connect(m_slider, &Slider::sliderPressed, &m_context, [this] { pressed(); });
-    QObject::connect(m_slider, &Slider::sliderReleased, &m_context, [this] { released(); });
+    connect(m_slider, &Slider::rangeChanged, m_spinBox, &SpinBox::setRange);
+    connect(m_slider, &Slider::rangeChanged, q, &Composite::rangeChanged);
+    connect(m_slider, &Slider::rangeChanged, this, [this] { fitRange(); });
+    connect(m_slider, &Slider::valueChanged, this, [this] { sliderChanged(); });
+    connect(m_slider, &Slider::sliderPressed, this, [this] { pressed(); });
+    connect(m_slider, &Slider::sliderReleased, this, [this] { released(); });
+    connect(inner(), &QSlider::actionTriggered, this, [this](int action) { goOnToBound(action); });
 }
 
 template <typename Composite, typename SpinBox, typename Slider>
-void SpinSliderLink<Composite, SpinBox, Slider>::speak()
+void SpinSliderLink<Composite, SpinBox, Slider>::connectSpinBox()
 {
-    keepSilent();
-    if (!m_mover)
-        m_mover =
-            QObject::connect(m_spinBox, numberSignal, &m_context, [this](SpinNumber value) { moveSlider(value); });
-    m_numbers = QObject::connect(m_spinBox, numberSignal, &m_context, [this](SpinNumber value) {
-        Q_EMIT q->valueChanged(SpinSlider::numberFor(m_spinBox, value));
+    connect(m_spinBox, QOverload<SpinNumber>::of(&SpinBox::valueChanged), this, [this] {
+        keep();
+        if (!m_isDragged || m_whileDragged == WhileDragged::MovesSlider)
+            moveSlider();
+        if (!m_isDragged)
+            Q_EMIT q->valueChanged(value());
     });
-    m_texts = QObject::connect(m_spinBox, SpinSlider::textSignal(m_spinBox), &m_context,
-                               [this](const QString &text) { Q_EMIT q->valueChanged(text); });
+    connect(m_spinBox, SpinSlider::textSignal(m_spinBox), this, [this](const QString &text) {
+        keep();
+        if (!m_isDragged)
+            Q_EMIT q->valueChanged(text);
+    });
 }
 
 template <typename Composite, typename SpinBox, typename Slider>
-void SpinSliderLink<Composite, SpinBox, Slider>::keepSilent()
+auto SpinSliderLink<Composite, SpinBox, Slider>::value() const -> Number
 {
-    QObject::disconnect(m_numbers);
-    QObject::disconnect(m_texts);
+    const SpinNumber shown = m_spinBox->value();
+    return shown == m_shown ? m_value : standsFor(shown);
 }
 
-/** The spin box for 64 bits does not limit its value, and the slider need not have moved for a typed one to be outside.
- */
 template <typename Composite, typename SpinBox, typename Slider>
-void SpinSliderLink<Composite, SpinBox, Slider>::keepInRange()
+void SpinSliderLink<Composite, SpinBox, Slider>::keep()
+{
+    m_value = value();
+    m_shown = m_spinBox->value();
+}
+
+/** From now on, what is shown stands for \a value. */
+template <typename Composite, typename SpinBox, typename Slider>
+void SpinSliderLink<Composite, SpinBox, Slider>::stand(Number value)
+{
+    if (value == m_value)
+        return;
+    m_value = value;
+    SpinSlider::announce(m_spinBox);
+}
+
+template <typename Composite, typename SpinBox, typename Slider>
+void SpinSliderLink<Composite, SpinBox, Slider>::enter(Number value)
+{
+    m_spinBox->setValue(value);
+    stand(standsFor(m_spinBox->value()));
+}
+
+/** The spin box for 64 bits does not limit its value itself. */
+template <typename Composite, typename SpinBox, typename Slider>
+void SpinSliderLink<Composite, SpinBox, Slider>::fitRange()
 {
     if (m_spinBox->value() < m_spinBox->minimum() || m_spinBox->value() > m_spinBox->maximum())
-        m_spinBox->setValue(m_slider->value());
+        m_spinBox->setValue(standsFor(m_spinBox->value()));
+    stand(bounded(m_value));
+    if (!m_isDragged || m_whileDragged == WhileDragged::MovesSlider)
+        moveSlider();
 }
 
 template <typename Composite, typename SpinBox, typename Slider>
-void SpinSliderLink<Composite, SpinBox, Slider>::setSpinBox(Number value)
+void SpinSliderLink<Composite, SpinBox, Slider>::sliderChanged()
 {
-    if (!m_movingSlider)
-        m_spinBox->setValue(value);
+    if (m_movingSlider)
+        return;
+    if (inner()->isRescaled()) {
+        moveSlider();
+        return;
+    }
+    enter(m_slider->value());
+    m_dragged = m_spinBox->value();
+}
+
+/** A number between the last positions has the slider at its end, where a key or a page would not move it. */
+template <typename Composite, typename SpinBox, typename Slider>
+void SpinSliderLink<Composite, SpinBox, Slider>::goOnToBound(int action)
+{
+    using Way = KeyAwareSlider::Way;
+    const Way way = KeyAwareSlider::wayOf(action);
+    const bool up = way == Way::Up || way == Way::ToMaximum;
+    const Number bound = up ? m_slider->maximum() : m_slider->minimum();
+    if (way != Way::None && m_slider->value() == bound && value() != bound)
+        enter(bound);
 }
 
 template <typename Composite, typename SpinBox, typename Slider>
-void SpinSliderLink<Composite, SpinBox, Slider>::moveSlider(SpinNumber value)
+void SpinSliderLink<Composite, SpinBox, Slider>::moveSlider()
 {
     if (SpinSlider::shows(m_spinBox, m_slider->value()))
         return; // wherever in its position the slider stands
     const QScopedValueRollback<bool> guard(m_movingSlider, true);
-    m_slider->setValue(SpinSlider::numberFor(m_spinBox, value));
+    m_slider->setValue(value());
 }
 
 template <typename Composite, typename SpinBox, typename Slider>
 void SpinSliderLink<Composite, SpinBox, Slider>::pressed()
 {
-    keepSilent();
-    if (m_whileDragged == WhileDragged::Nothing)
-        QObject::disconnect(m_mover);
+    m_isDragged = true;
+    m_beforeDrag = m_spinBox->value();
+    m_dragged = m_beforeDrag;
 }
 
 template <typename Composite, typename SpinBox, typename Slider>
 void SpinSliderLink<Composite, SpinBox, Slider>::released()
 {
-    QSlider *const inner = m_slider->slider();
-    inner->setValue(inner->sliderPosition()); // without tracking the value would follow only after this signal
-    speak();
+    if (!inner()->isEnabled()) {
+        dropDrag();
+        return;
+    }
+    inner()->setValue(inner()->sliderPosition()); // without tracking the value would follow only after this signal
+    m_isDragged = false;
     const SpinNumber before = m_spinBox->value();
-    if (!SpinSlider::shows(m_spinBox, m_slider->value()))
-        m_spinBox->setValue(m_slider->value());
+    if (inner()->isDragged() && !SpinSlider::shows(m_spinBox, m_slider->value()))
+        enter(m_slider->value());
     if (m_spinBox->value() == before) // has not said anything
         SpinSlider::announce(m_spinBox);
+}
+
+/** Nobody has let go of the handle: the slider was disabled under the hand. */
+template <typename Composite, typename SpinBox, typename Slider>
+void SpinSliderLink<Composite, SpinBox, Slider>::dropDrag()
+{
+    if (m_spinBox->value() == m_dragged) // else somebody has set another number meanwhile
+        SpinSlider::showUnmoved(m_spinBox, m_beforeDrag);
+    m_isDragged = false;
+    inner()->setSliderPosition(inner()->value()); // without tracking it would still become the value
+    moveSlider();
 }
 
 template <typename Composite, typename SpinBox, typename Slider>
@@ -220,9 +342,12 @@ void SpinSliderLink<Composite, SpinBox, Slider>::setValue(Number value)
 {
     if (std::isnan(double(value)))
         return;
-    m_slider->setValue(value);
-    if (!SpinSlider::shows(m_spinBox, m_slider->value()))
-        m_spinBox->setValue(m_slider->value()); // a typed one between the positions, where the slider stood already
+    value = bounded(value);
+    if (!SpinSlider::hasTaken(m_spinBox, value)) // else what is being typed stays
+        m_spinBox->setValue(value);
+    if (value != this->value())
+        stand(standsFor(m_spinBox->value()));
+    moveSlider();
 }
 
 template <typename Composite, typename SpinBox, typename Slider>
@@ -235,5 +360,13 @@ void SpinSliderLink<Composite, SpinBox, Slider>::setSingleStep(Number step)
         const QScopedValueRollback<bool> guard(m_movingSlider, true);
         m_slider->setSingleStep(step);
     }
-    moveSlider(m_spinBox->value()); // finer positions may meet a typed value better
+    moveSlider(); // finer positions may meet a typed value better
+}
+
+template <typename Composite, typename SpinBox, typename Slider>
+bool SpinSliderLink<Composite, SpinBox, Slider>::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_spinBox && event->type() == QEvent::LocaleChange)
+        m_slider->setLocale(m_spinBox->locale()); // its bounds look like the number
+    return QObject::eventFilter(watched, event);
 }
