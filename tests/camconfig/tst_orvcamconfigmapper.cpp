@@ -675,22 +675,32 @@ void OrvCamConfigMapperTest::tabsAreNamedRemovedAndEnabled()
     QCOMPARE(panel.tabs.count(), 4);
     QVERIFY(!panel.tabs.isTabVisible(0));
     QCOMPARE(panel.tabs.currentIndex(), 2);
+    QVERIFY(DialogTest::show(panel.window));
+    panel.tabs.tabBar()->setFocus();
+    for (int i = 0; i < 3; ++i)
+        QTest::keyClick(panel.tabs.tabBar(), Qt::Key_Left); // not as far as the hidden one
+    QCOMPARE(holed.writes, Writes{1});
     panel.mapper->unmapAll();
 }
 
 void OrvCamConfigMapperTest::aCommandWaitsForItsTimer()
 {
     Panel panel;
-    QTimer timer;
-    timer.setInterval(3600000);
+    auto timer = std::make_unique<QTimer>();
+    timer->setInterval(3600000);
     panel.commandParam.answer = OrvCamErr_InvalidState;
-    panel.mapper->mapCommandParam(&panel.commandParam, &panel.command, &timer);
+    panel.mapper->mapCommandParam(&panel.commandParam, &panel.command, timer.get());
     QVERIFY(DialogTest::show(panel.window));
     QTest::mouseClick(&panel.command, Qt::LeftButton);
     QVERIFY(!panel.command.isEnabled());
-    QVERIFY(timer.isActive());
+    QVERIFY(timer->isActive());
     QCOMPARE(takeMessage(), refusal("Feature", "Invalid state"));
     QCOMPARE(panel.commandParam.writes, Writes{1});
+    panel.command.setEnabled(true);
+    timer.reset();
+    QTest::mouseClick(&panel.command, Qt::LeftButton);
+    QVERIFY(panel.command.isEnabled()); // nobody would enable it again
+    QCOMPARE(takeMessage(), refusal("Feature", "Invalid state"));
     panel.mapper->unmapAll();
 }
 
