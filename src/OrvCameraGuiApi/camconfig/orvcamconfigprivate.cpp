@@ -140,9 +140,7 @@ void OrvCamConfigPrivate::hearOfFrameMode()
         isModeReported = true; // where it stays as it is nothing has happened
         return;
     }
-    if (readFrameMode())
-        modeChanged = true;
-    else if (!std::exchange(isModeRepeated, true) && stepsSinceBoth >= forgetful)
+    if (readFrameMode() || (!std::exchange(isModeRepeated, true) && stepsSinceBoth >= forgetful))
         modeChanged = true;
 }
 
