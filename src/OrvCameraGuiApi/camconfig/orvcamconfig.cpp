@@ -273,12 +273,13 @@ void OrvCamConfigPrivate::letGo()
 /** Reads the parameters of \a newDevice, which may be null, and starts anew. The callbacks stay as they are. */
 void OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
 {
-    device = newDevice;
+    const bool isSame = std::exchange(device, newDevice) == newDevice;
     params = CameraParams();
-    awaitsParameters = false;
     isSelecting = false;
     clearStatus(); // which is read anew, or cannot be
-    if (camera.setDevice(device)) // also unbinds the mapper
+    const bool hasParameters = camera.setDevice(device); // also unbinds the mapper
+    awaitsParameters = awaitsParameters && isSame && !hasParameters;
+    if (hasParameters)
         getNeededParams();
     q->setEnabled(true);
     timer.start(CameraParams::period);

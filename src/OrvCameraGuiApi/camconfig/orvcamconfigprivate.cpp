@@ -25,21 +25,6 @@ bool hasParameters(OrvCam::Device *device)
     return device && device->GetCameraParameters(&err) && err == OrvCamErr_Ok;
 }
 
-/** In the color of what is disabled, for a person may still select and copy it. */
-void markField(QLineEdit *field, bool isRead, const QString &note)
-{
-    const QColor grey = field->window()->palette().color(QPalette::Disabled, QPalette::Text);
-    const bool isGrey = field->testAttribute(Qt::WA_SetPalette);
-    QPalette palette;
-    if (!isRead)
-        palette.setColor(QPalette::Text, grey);
-    if (isGrey == isRead || (isGrey && field->palette().color(QPalette::Text) != grey))
-        field->setPalette(palette);
-    field->setToolTip(note);
-    if (field->accessibleDescription() != note)
-        field->setAccessibleDescription(note);
-}
-
 } // namespace
 
 namespace OrvGui {
@@ -140,9 +125,7 @@ void OrvCamConfigPrivate::hearOfFrameMode()
         isModeReported = true; // where it stays as it is nothing has happened
         return;
     }
-    if (readFrameMode())
-        modeChanged = true;
-    else if (!std::exchange(isModeRepeated, true) && stepsSinceBoth >= forgetful)
+    if (readFrameMode() || (!std::exchange(isModeRepeated, true) && stepsSinceBoth >= forgetful))
         modeChanged = true;
 }
 
@@ -227,9 +210,25 @@ void OrvCamConfigPrivate::markColumns()
     for (const Frame frame : {FrameA, FrameB}) {
         const bool isRead = !areTwo || frame == read;
         headers[frame]->setEnabled(isRead);
-        for (QLineEdit *const field : info[frame].all())
-            markField(field, isRead, isRead ? QString() : note);
+        setColumnColor(frame, isRead ? QColor() : q->palette().color(QPalette::Disabled, QPalette::Text));
+        for (QLineEdit *const field : info[frame].all()) {
+            field->setToolTip(isRead ? QString() : note);
+            if (field->accessibleDescription() != field->toolTip())
+                field->setAccessibleDescription(field->toolTip());
+        }
     }
+}
+
+/** The usual one when it is not valid. The fields are not disabled: a person may select and copy what they show. */
+void OrvCamConfigPrivate::setColumnColor(Frame frame, const QColor &color)
+{
+    if (std::exchange(columnColors[frame], color) == color)
+        return;
+    QPalette palette;
+    if (color.isValid())
+        palette.setColor(QPalette::Text, color);
+    for (QLineEdit *const field : info[frame].all())
+        field->setPalette(palette);
 }
 
 void OrvCamConfigPrivate::clearInfo(Frame frame)

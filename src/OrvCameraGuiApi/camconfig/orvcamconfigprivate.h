@@ -6,6 +6,7 @@
 
 #include "ui_orvcamconfigmainwindow.h"
 
+#include <QColor>
 #include <QPixmap>
 #include <QPointer>
 #include <QTimer>
@@ -95,6 +96,7 @@ public:
     void updateBoth();
     Frame frameBeingRead() const;
     void markColumns();
+    void setColumnColor(Frame frame, const QColor &color);
     bool selectFrame(const char *frame);
     void clearInfo(Frame frame);
     void clearStatus();
@@ -132,6 +134,7 @@ public:
     QPointer<OrvCameraSelectorDialog> selector; ///< while the user is asked
     QVector<DialogLink> dialogs;
     std::array<InfoFields, 2> info{}; ///< by Frame
+    std::array<QColor, 2> columnColors; ///< by Frame; none for the usual one
     QLabel *deviceName = nullptr;
     QLabel *connectionIcon = nullptr;
     QPixmap connected;
