@@ -9,6 +9,7 @@
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
 
+#include <QAbstractSpinBox>
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -144,6 +145,15 @@ void checkCameraThatGoes()
         return all;
     };
     const QStringList before = shown();
+    dialog.SetDevice(nullptr); // of whose numbers and choices nothing is left
+    for (QWidget *const widget : widgets) {
+        const auto *const field = qobject_cast<QAbstractSpinBox *>(widget);
+        QVERIFY(!field || (field->text().isEmpty() && !field->isEnabled()));
+        QVERIFY(!widget->inherits("QComboBox") || shownBy(widget).isEmpty());
+        QVERIFY(!widget->inherits("QGroupBox") || !widget->isEnabled());
+    }
+    QVERIFY(dialog.SetDevice(camera.device()));
+    QCOMPARE(shown(), before);
     camera.takeWrites();
     QVERIFY(OrvSim::unplug(SimTest::twoFrame));
     for (QWidget *const widget : widgets) {

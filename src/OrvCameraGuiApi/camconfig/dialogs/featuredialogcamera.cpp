@@ -1,7 +1,11 @@
 #include <OrvCameraGuiApi/camconfig/dialogs/featuredialogcamera.h>
 
+#include <OrvCameraGuiApi/widgets/qtorvdoublespinboxval.h>
+#include <OrvCameraGuiApi/widgets/qtorvgainslider.h>
 #include <OrvCameraGuiApi/widgets/qtorvsliderspinbox.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinbox.h>
+#include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
+#include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
 
 #include <QAbstractButton>
 #include <QButtonGroup>
@@ -68,6 +72,22 @@ private:
     QLabel *const m_caption;
 };
 
+template <typename Composite, typename Action>
+void forEach(QDialog *dialog, const Action &action)
+{
+    const auto composites = dialog->findChildren<Composite *>();
+    for (Composite *const composite : composites)
+        action(composite);
+}
+
+template <typename Action>
+void forEachComposite(QDialog *dialog, const Action &action)
+{
+    forEach<QtOrvSpinBox>(dialog, action);
+    forEach<QtOrvSliderSpinBox>(dialog, action);
+    forEach<QtOrvGainSlider>(dialog, action);
+}
+
 } // namespace
 
 namespace OrvGui {
@@ -119,8 +139,10 @@ bool FeatureDialogCamera::setDevice(OrvCam::Device *device)
 
 bool FeatureDialogCamera::setDevice(OrvCam::Device *device, QDialog *dialog)
 {
-    const bool hasParameters = setDevice(device);
+    letGo();
     clearControls(dialog);
+    const bool hasParameters = setDevice(device);
+    showNumbers(dialog, hasParameters);
     dialog->setEnabled(hasParameters);
     return hasParameters;
 }
@@ -217,12 +239,19 @@ void FeatureDialogCamera::clearControls(QDialog *dialog)
         if (isExclusive)
             group->setExclusive(true);
     }
-    const auto spinBoxes = dialog->findChildren<QtOrvSpinBox *>();
-    for (QtOrvSpinBox *const spinBox : spinBoxes)
-        spinBox->setValue(spinBox->minimum());
-    const auto sliders = dialog->findChildren<QtOrvSliderSpinBox *>();
-    for (QtOrvSliderSpinBox *const slider : sliders)
-        slider->setValue(slider->minimum());
+    forEachComposite(dialog, [](auto *composite) { composite->setValue(composite->minimum()); });
+}
+
+/** A camera that is not there has no numbers. Those of a camera are shown anew, for they may have been taken away. */
+void FeatureDialogCamera::showNumbers(QDialog *dialog, bool isShown)
+{
+    forEachComposite(dialog, [isShown](auto *composite) {
+        auto *const field = composite->spinBox();
+        if (isShown)
+            field->setValue(field->value());
+        else
+            field->clear();
+    });
 }
 
 } // namespace OrvGui

@@ -45,7 +45,11 @@ public:
      */
     bool setDevice(OrvCam::Device *device);
 
-    /** The same for the whole of \a dialog: cleared of the former camera, and enabled where there are parameters. */
+    /**
+     * The same for the whole of \a dialog, which is enabled where there are parameters. Nothing of a former camera is
+     * left: lists become empty, numbers the least or, without parameters, nothing at all; buttons are unchecked. The
+     * controls must have no connections but those made by the mapper or with context().
+     */
     bool setDevice(OrvCam::Device *device, QDialog *dialog);
 
     /** Null unless there are parameters. */
@@ -83,12 +87,6 @@ public:
      */
     void setUpDialog(QDialog *dialog);
 
-    /**
-     * To be called before binding, while the controls have no connections: nothing of a former camera is left. Lists
-     * become empty, numbers the least, buttons unchecked.
-     */
-    static void clearControls(QDialog *dialog);
-
     OrvCamConfigMapper mapper;
 
 private:
@@ -96,6 +94,8 @@ private:
 
     class ShownWatch;
 
+    static void clearControls(QDialog *dialog);
+    static void showNumbers(QDialog *dialog, bool isShown);
     void letGo();
     void pollWhileShown(bool isShown);
 

@@ -91,7 +91,8 @@ void OrvCamConfigColorDialogPrivate::initStatistics()
         const QString widest = QString::number(ui.spBoxRed->maximum());
         coefficient.statistics->setFixedWidth(metrics.horizontalAdvance(widest)
                                               + metrics.horizontalAdvance(QLatin1Char(' ')));
-        coefficient.statistics->setText(QString::number(coefficient.spinBox->value()));
+        const bool isKnown = camera.parameters();
+        coefficient.statistics->setText(isKnown ? QString::number(coefficient.spinBox->value()) : QString());
     }
 }
 

@@ -140,6 +140,7 @@ public:
     Q_DISABLE_COPY(OrvCamConfigFrameABDialogPrivate)
 
     bool init(OrvCam::Device *device);
+    bool setDevice(OrvCam::Device *device);
     void build();
     void buildExposureTime();
     void buildGain();
@@ -206,7 +207,7 @@ bool OrvCamConfigFrameABDialogPrivate::init(OrvCam::Device *device)
     if (!isBuilt)
         build();
     ++session;
-    const bool hasParameters = camera.setDevice(device, q);
+    const bool hasParameters = setDevice(device);
     reset();
     getNeededParams();
     initComboBoxes();
@@ -222,6 +223,12 @@ bool OrvCamConfigFrameABDialogPrivate::init(OrvCam::Device *device)
     if (isSame())
         updateExposureTime();
     return hasParameters;
+}
+
+bool OrvCamConfigFrameABDialogPrivate::setDevice(OrvCam::Device *device)
+{
+    const QScopedValueRollback<bool> guard(isShowing, true);
+    return camera.setDevice(device, q);
 }
 
 void OrvCamConfigFrameABDialogPrivate::build()
@@ -293,10 +300,6 @@ void OrvCamConfigFrameABDialogPrivate::setCaptions()
 /** Nothing is left of the former camera that another one would take for its own. */
 void OrvCamConfigFrameABDialogPrivate::reset()
 {
-    {
-        const QScopedValueRollback<bool> guard(isShowing, true);
-        ui.gainDigital->setValue(ui.gainDigital->minimum());
-    }
     ControlWatch::of(ui.gainDigital)->clear();
     ControlWatch::of(ui.spBoxExposureTime)->clear();
     for (QWidget *const control :

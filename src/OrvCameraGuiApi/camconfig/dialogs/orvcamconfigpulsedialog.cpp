@@ -203,7 +203,6 @@ void OrvCamConfigPulseDialogPrivate::updateDelayAndFrequency()
 /** Of a camera that is gone nothing is left. */
 void OrvCamConfigPulseDialogPrivate::showNothing()
 {
-    FeatureDialogCamera::clearControls(q);
     updateGranularity();
     ui.lineEditDelay->clear();
     ui.lineEditFreq->clear();
