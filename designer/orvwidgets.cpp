@@ -1,5 +1,8 @@
 #include "orvwidgets.h"
 
+#include "widgetedits.h"
+#include "widgetsheet.h"
+
 #include <OrvCameraGuiApi/widgets/qtorvdoubleslider.h>
 #include <OrvCameraGuiApi/widgets/qtorvdoublespinboxval.h>
 #include <OrvCameraGuiApi/widgets/qtorvgainslider.h>
@@ -49,6 +52,18 @@ QString OrvWidget::includeFile() const
 QIcon OrvWidget::icon() const
 {
     return QIcon(QStringLiteral(":/orvwidgets/%1.png").arg(m_className.toLower()));
+}
+
+QWidget *OrvWidget::createWidget(QWidget *parent)
+{
+    QWidget *const widget = m_create(parent);
+    followDynamicProperties(widget);
+    return widget;
+}
+
+void OrvWidget::initialize(QDesignerFormEditorInterface *core)
+{
+    WidgetSheetFactory::registerAt(core);
 }
 
 QString OrvWidget::domXml() const

@@ -25,7 +25,8 @@ public:
     QString includeFile() const override;
     QIcon icon() const override;
     bool isContainer() const override { return false; }
-    QWidget *createWidget(QWidget *parent) override { return m_create(parent); }
+    QWidget *createWidget(QWidget *parent) override;
+    void initialize(QDesignerFormEditorInterface *core) override;
     QString domXml() const override;
 
 private:

@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRandomGenerator>
+#include <QScreen>
 #include <QStandardItemModel>
 #include <QToolButton>
 
@@ -680,6 +681,63 @@ private Q_SLOTS:
         }
     }
 
+    /** Right where it belongs at first, and all of it seen once the click is over. */
+    void thePopUpComesOntoTheScreen()
+    {
+        const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+        const struct
+        {
+            Qt::Orientation orientation;
+            QPoint corner;
+        } rows[] = {{Qt::Vertical, room.topLeft()}, {Qt::Horizontal, room.topRight() - QPoint(405, 0)}};
+        for (const auto &row : rows) {
+            Window<QtOrvSpinBox> window;
+            QVERIFY(window.isReady());
+            window.move(row.corner);
+            window.composite.setSliderOrientation(row.orientation);
+            window.composite.resizeSlider(150, 150);
+            QVERIFY(QTest::qWaitForWindowExposed(&window));
+            QtOrvSlider *const slider = window.composite.slider();
+            QToolButton *const button = window.composite.toolButton();
+            expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
+            QTest::mousePress(button, Qt::LeftButton);
+            button->setDown(false);
+            button->click();
+            const QPoint place = slider->pos() - button->mapToGlobal(QPoint());
+            QCOMPARE(place, row.orientation == Qt::Vertical ? QPoint(0, -150) : QPoint(button->width(), 0));
+            QVERIFY(!room.contains(slider->geometry()));
+            QTRY_VERIFY(room.contains(slider->geometry()));
+        }
+    }
+
+    void keysOpenThePopUp()
+    {
+        const struct
+        {
+            Qt::Key key;
+            Qt::KeyboardModifiers modifiers;
+            bool opens;
+        } rows[] = {{Qt::Key_F4, Qt::NoModifier, true},
+                    {Qt::Key_Down, Qt::AltModifier, true},
+                    {Qt::Key_F4, Qt::AltModifier, false},
+                    {Qt::Key_Up, Qt::AltModifier, false}};
+        for (const auto &row : rows) {
+            for (const bool isReadOnly : {false, true}) {
+                Window<QtOrvSpinBox> window;
+                QVERIFY(window.isReady());
+                window.composite.setReadOnly(isReadOnly);
+                const bool opens = row.opens && !isReadOnly;
+                if (opens)
+                    expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
+                QTest::keyClick(window.composite.spinBox(), row.key, row.modifiers);
+                QCOMPARE(window.composite.slider()->isVisible(), opens);
+                QCOMPARE(window.inner()->hasFocus(), opens);
+                if (opens)
+                    QCOMPARE(window.takeEmitted(), QString());
+            }
+        }
+    }
+
     /** Whose press is an outside one for the pop-up. */
     void theButtonClosesThePopUpAgain()
     {
@@ -695,6 +753,29 @@ private Q_SLOTS:
         expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
         QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, window.mapFromGlobal(place));
         QVERIFY(slider->isVisible());
+    }
+
+    void readOnlyLeavesNothingToEnter()
+    {
+        forEachComposite([](auto &window) {
+            auto &composite = window.composite;
+            openSlider(window);
+            window.press();
+            window.drag(40);
+            composite.setReadOnly(true);
+            QVERIFY(composite.isReadOnly());
+            QTest::keyClick(window.inner(), Qt::Key_Up);
+            QTest::keyClick(composite.spinBox(), Qt::Key_Up);
+            QTest::keyClicks(composite.spinBox(), QStringLiteral("5"));
+            QCOMPARE(composite.value(), 10);
+            QCOMPARE(window.takeEmitted(), QString());
+            composite.setValue(12); // a program may
+            QCOMPARE(window.takeEmitted(), window.announced(12));
+            composite.setReadOnly(false);
+            QTest::keyClick(window.inner(), Qt::Key_Up);
+            QTest::keyClick(composite.spinBox(), Qt::Key_Up);
+            QCOMPARE(composite.value(), 14);
+        });
     }
 
     void readOnlyHidesTheButton()

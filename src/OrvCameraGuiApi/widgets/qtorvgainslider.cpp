@@ -120,6 +120,37 @@ void QtOrvGainSlider::setValidateTyping(bool validate)
     d->spinBox->setValidateTyping(validate);
 }
 
+QString QtOrvGainSlider::prefix() const
+{
+    return d->spinBox->prefix();
+}
+
+void QtOrvGainSlider::setPrefix(const QString &prefix)
+{
+    d->spinBox->setPrefix(prefix);
+}
+
+QString QtOrvGainSlider::suffix() const
+{
+    return d->spinBox->suffix();
+}
+
+void QtOrvGainSlider::setSuffix(const QString &suffix)
+{
+    d->spinBox->setSuffix(suffix);
+}
+
+bool QtOrvGainSlider::isReadOnly() const
+{
+    return d->spinBox->isReadOnly();
+}
+
+void QtOrvGainSlider::setReadOnly(bool readOnly)
+{
+    d->spinBox->setReadOnly(readOnly);
+    d->slider->setEnabled(!readOnly);
+}
+
 QString QtOrvGainSlider::leftLabelText() const
 {
     return d->captions.leftText();

@@ -43,8 +43,11 @@ class ORV_CAMERAGUIAPI_EXPORT QtOrvGainSlider : public QWidget
     Q_PROPERTY(double singleStep READ singleStep WRITE setSingleStep)
     Q_PROPERTY(bool validate READ validate WRITE setValidate)
     Q_PROPERTY(bool validateTyping READ validateTyping WRITE setValidateTyping)
+    Q_PROPERTY(QString prefix READ prefix WRITE setPrefix)
+    Q_PROPERTY(QString suffix READ suffix WRITE setSuffix)
     Q_PROPERTY(QString leftLabelText READ leftLabelText WRITE setLeftLabelText)
     Q_PROPERTY(QString topLabelText READ topLabelText WRITE setTopLabelText)
+    Q_PROPERTY(bool readOnly READ isReadOnly WRITE setReadOnly)
     Q_PROPERTY(double value READ value WRITE setValue NOTIFY valueChanged USER true)
 
 public:
@@ -76,12 +79,25 @@ public:
     bool validateTyping() const;
     void setValidateTyping(bool validate);
 
+    /** Text before and after the number in the spin box; empty by default. */
+    QString prefix() const;
+    void setPrefix(const QString &prefix);
+    QString suffix() const;
+    void setSuffix(const QString &suffix);
+
     /** Caption before the parts; empty, and then not shown, by default. */
     QString leftLabelText() const;
     void setLeftLabelText(const QString &text);
     /** Caption above the parts; empty, and then not shown, by default. */
     QString topLabelText() const;
     void setTopLabelText(const QString &text);
+
+    /**
+     * Whether the value is but shown: the spin box is read-only then, and the slider disabled. What a drag that this
+     * ends has come to is forgotten.
+     */
+    bool isReadOnly() const;
+    void setReadOnly(bool readOnly);
 
     /** The parts, which stay this widget's. A label is null until its text is first set. */
     QLabel *leftLabel() const;

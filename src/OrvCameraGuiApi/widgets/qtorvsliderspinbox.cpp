@@ -120,6 +120,47 @@ void QtOrvSliderSpinBox::setValidateTyping(bool validate)
     d->spinBox->setValidateTyping(validate);
 }
 
+QtOrvSlider::ScaleType QtOrvSliderSpinBox::scaleType() const
+{
+    return d->slider->scaleType();
+}
+
+void QtOrvSliderSpinBox::setScaleType(QtOrvSlider::ScaleType type)
+{
+    d->slider->setScaleType(type);
+}
+
+QString QtOrvSliderSpinBox::prefix() const
+{
+    return d->spinBox->prefix();
+}
+
+void QtOrvSliderSpinBox::setPrefix(const QString &prefix)
+{
+    d->spinBox->setPrefix(prefix);
+}
+
+QString QtOrvSliderSpinBox::suffix() const
+{
+    return d->spinBox->suffix();
+}
+
+void QtOrvSliderSpinBox::setSuffix(const QString &suffix)
+{
+    d->spinBox->setSuffix(suffix);
+}
+
+bool QtOrvSliderSpinBox::isReadOnly() const
+{
+    return d->spinBox->isReadOnly();
+}
+
+void QtOrvSliderSpinBox::setReadOnly(bool readOnly)
+{
+    d->spinBox->setReadOnly(readOnly);
+    d->slider->setEnabled(!readOnly);
+}
+
 QString QtOrvSliderSpinBox::leftLabelText() const
 {
     return d->captions.leftText();

@@ -1,13 +1,13 @@
 #pragma once
 
 #include <OrvCameraGuiApi/export.h>
+#include <OrvCameraGuiApi/widgets/qtorvslider.h>
 
 #include <QScopedPointer>
 #include <QString>
 #include <QWidget>
 
 class QLabel;
-class QtOrvSlider;
 class QtOrvSpinBoxVal;
 class QtOrvSliderSpinBoxPrivate;
 
@@ -37,10 +37,14 @@ class ORV_CAMERAGUIAPI_EXPORT QtOrvSliderSpinBox : public QWidget
     Q_PROPERTY(int minimum READ minimum WRITE setMinimum)
     Q_PROPERTY(int maximum READ maximum WRITE setMaximum)
     Q_PROPERTY(int singleStep READ singleStep WRITE setSingleStep)
+    Q_PROPERTY(QtOrvSlider::ScaleType scaleType READ scaleType WRITE setScaleType)
     Q_PROPERTY(bool validate READ validate WRITE setValidate)
     Q_PROPERTY(bool validateTyping READ validateTyping WRITE setValidateTyping)
+    Q_PROPERTY(QString prefix READ prefix WRITE setPrefix)
+    Q_PROPERTY(QString suffix READ suffix WRITE setSuffix)
     Q_PROPERTY(QString leftLabelText READ leftLabelText WRITE setLeftLabelText)
     Q_PROPERTY(QString topLabelText READ topLabelText WRITE setTopLabelText)
+    Q_PROPERTY(bool readOnly READ isReadOnly WRITE setReadOnly)
     Q_PROPERTY(int value READ value WRITE setValue NOTIFY valueChanged USER true)
 
 public:
@@ -68,12 +72,29 @@ public:
     bool validateTyping() const;
     void setValidateTyping(bool validate);
 
+    /** The slider's scale, see QtOrvSlider::setScaleType(); Linear by default. The number stays as it is. */
+    QtOrvSlider::ScaleType scaleType() const;
+    void setScaleType(QtOrvSlider::ScaleType type);
+
+    /** Text before and after the number in the spin box; empty by default. */
+    QString prefix() const;
+    void setPrefix(const QString &prefix);
+    QString suffix() const;
+    void setSuffix(const QString &suffix);
+
     /** Caption before the parts; empty, and then not shown, by default. */
     QString leftLabelText() const;
     void setLeftLabelText(const QString &text);
     /** Caption above the parts; empty, and then not shown, by default. */
     QString topLabelText() const;
     void setTopLabelText(const QString &text);
+
+    /**
+     * Whether the value is but shown: the spin box is read-only then, and the slider disabled. What a drag that this
+     * ends has come to is forgotten.
+     */
+    bool isReadOnly() const;
+    void setReadOnly(bool readOnly);
 
     /** The parts, which stay this widget's. A label is null until its text is first set. */
     QLabel *leftLabel() const;

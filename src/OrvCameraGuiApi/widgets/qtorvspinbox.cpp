@@ -6,19 +6,45 @@
 #include <OrvCameraGuiApi/widgets/spinsliderlink.h>
 
 #include <QBoxLayout>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QScreen>
 #include <QToolButton>
 
-class QtOrvSpinBoxPrivate
+namespace {
+
+/** As a combo box has it. */
+bool opensPopUp(const QKeyEvent &event)
+{
+    const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    return (event.key() == Qt::Key_F4 && modifiers == Qt::NoModifier)
+        || (event.key() == Qt::Key_Down && modifiers == Qt::AltModifier);
+}
+
+/** Where there is not room enough, the beginning is seen. */
+QRect pulledInto(const QRect &room, QRect place)
+{
+    place.moveRight(qMin(place.right(), room.right()));
+    place.moveBottom(qMin(place.bottom(), room.bottom()));
+    place.moveTopLeft({qMax(place.left(), room.left()), qMax(place.top(), room.top())});
+    return place;
+}
+
+} // namespace
+
+class QtOrvSpinBoxPrivate : public QObject
 {
 public:
     QtOrvSpinBoxPrivate(QtOrvSpinBox *owner, Qt::Orientation orientation);
     void init();
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void initButton();
     void initSlider();
 
     void fitOrientation();
     void showButton();
     void openSlider();
+    void moveSliderOntoScreen();
 
     QtOrvSpinBox *const q;
     QtOrvSpinBoxVal64 *const spinBox; // made first: Tab goes from the spin box to the button
@@ -45,6 +71,7 @@ void QtOrvSpinBoxPrivate::init()
 {
     spinBox->setObjectName(QStringLiteral("spinbox"));
     spinBox->setAccelerated(true);
+    spinBox->installEventFilter(this);
     captions.setSpinBox(spinBox);
     initButton();
     initSlider();
@@ -103,6 +130,40 @@ void QtOrvSpinBoxPrivate::openSlider()
     slider->setGeometry(QRect(place, slider->size()));
     slider->show();
     slider->setFocus(Qt::PopupFocusReason);
+    // The place is as told until whoever opened the slider has seen it.
+    QMetaObject::invokeMethod(
+        this, [this] { moveSliderOntoScreen(); }, Qt::QueuedConnection);
+}
+
+/** If it would cover the button, a press on which closes it, it goes to the other side, where there is room for that.
+ */
+void QtOrvSpinBoxPrivate::moveSliderOntoScreen()
+{
+    const QRect opener(button->mapToGlobal(QPoint(0, 0)), button->size());
+    const QScreen *const found = QGuiApplication::screenAt(opener.center());
+    const QScreen *const screen = found ? found : q->screen();
+    if (!screen || !slider->isVisible())
+        return;
+    const QRect room = screen->availableGeometry();
+    const QRect place = pulledInto(room, slider->geometry());
+    QRect opposite = place;
+    if (slider->orientation() == Qt::Vertical)
+        opposite.moveTop(opener.bottom() + 1);
+    else if (slider->x() > opener.x())
+        opposite.moveRight(opener.left() - 1);
+    else
+        opposite.moveLeft(opener.right() + 1);
+    opposite = pulledInto(room, opposite);
+    slider->move(place.intersects(opener) && !opposite.intersects(opener) ? opposite.topLeft() : place.topLeft());
+}
+
+bool QtOrvSpinBoxPrivate::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isOpening = watched == spinBox && event->type() == QEvent::KeyPress && !button->isHidden()
+        && opensPopUp(*static_cast<QKeyEvent *>(event));
+    if (isOpening)
+        openSlider();
+    return isOpening || QObject::eventFilter(watched, event);
 }
 
 QtOrvSpinBox::QtOrvSpinBox(QWidget *parent)
@@ -185,6 +246,36 @@ void QtOrvSpinBox::setValidateTyping(bool validate)
     d->spinBox->setKeyboardTracking(validate);
 }
 
+QtOrvSlider::ScaleType QtOrvSpinBox::scaleType() const
+{
+    return d->slider->scaleType();
+}
+
+void QtOrvSpinBox::setScaleType(QtOrvSlider::ScaleType type)
+{
+    d->slider->setScaleType(type);
+}
+
+QString QtOrvSpinBox::prefix() const
+{
+    return d->spinBox->prefix();
+}
+
+void QtOrvSpinBox::setPrefix(const QString &prefix)
+{
+    d->spinBox->setPrefix(prefix);
+}
+
+QString QtOrvSpinBox::suffix() const
+{
+    return d->spinBox->suffix();
+}
+
+void QtOrvSpinBox::setSuffix(const QString &suffix)
+{
+    d->spinBox->setSuffix(suffix);
+}
+
 QString QtOrvSpinBox::leftLabelText() const
 {
     return d->captions.leftText();
@@ -257,6 +348,7 @@ bool QtOrvSpinBox::isReadOnly() const
 void QtOrvSpinBox::setReadOnly(bool readOnly)
 {
     d->spinBox->setReadOnly(readOnly);
+    d->slider->setEnabled(!readOnly); // which ends a drag before the slider is hidden, and forgets it
     d->showButton();
     if (readOnly)
         d->slider->hide();

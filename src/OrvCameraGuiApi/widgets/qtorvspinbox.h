@@ -1,6 +1,7 @@
 #pragma once
 
 #include <OrvCameraGuiApi/export.h>
+#include <OrvCameraGuiApi/widgets/qtorvslider.h>
 
 #include <QScopedPointer>
 #include <QString>
@@ -8,7 +9,6 @@
 
 class QLabel;
 class QToolButton;
-class QtOrvSlider;
 class QtOrvSpinBoxVal64;
 class QtOrvSpinBoxPrivate;
 
@@ -16,7 +16,8 @@ class QtOrvSpinBoxPrivate;
  * A spin box for one integer with a button that opens a slider, and an optional caption to the left and above.
  *
  * The slider is a pop-up without labels. It opens above the button when vertical and beside it, on the side where the
- * line ends, when horizontal, and closes when it loses the focus.
+ * line ends, when horizontal, and closes when it loses the focus. A part of it that lies outside the screen is moved
+ * onto it right afterwards. Alt+Down and F4 in the spin box open it, too, where the button is shown.
  *
  * Both parts show one number: the spin box as it is, the slider at the nearest of its positions. Whoever moves the
  * slider sets the number to what that position stands for; setValue() and typing set it to any in the range, with
@@ -41,8 +42,11 @@ class ORV_CAMERAGUIAPI_EXPORT QtOrvSpinBox : public QWidget
     Q_PROPERTY(int minimum READ minimum WRITE setMinimum)
     Q_PROPERTY(int maximum READ maximum WRITE setMaximum)
     Q_PROPERTY(int singleStep READ singleStep WRITE setSingleStep)
+    Q_PROPERTY(QtOrvSlider::ScaleType scaleType READ scaleType WRITE setScaleType)
     Q_PROPERTY(bool validate READ validate WRITE setValidate)
     Q_PROPERTY(bool validateTyping READ validateTyping WRITE setValidateTyping)
+    Q_PROPERTY(QString prefix READ prefix WRITE setPrefix)
+    Q_PROPERTY(QString suffix READ suffix WRITE setSuffix)
     Q_PROPERTY(QString leftLabelText READ leftLabelText WRITE setLeftLabelText)
     Q_PROPERTY(QString topLabelText READ topLabelText WRITE setTopLabelText)
     Q_PROPERTY(bool readOnly READ isReadOnly WRITE setReadOnly)
@@ -80,6 +84,16 @@ public:
     bool validateTyping() const;
     void setValidateTyping(bool validate);
 
+    /** The slider's scale, see QtOrvSlider::setScaleType(); Linear by default. The number stays as it is. */
+    QtOrvSlider::ScaleType scaleType() const;
+    void setScaleType(QtOrvSlider::ScaleType type);
+
+    /** Text before and after the number in the spin box; empty by default. */
+    QString prefix() const;
+    void setPrefix(const QString &prefix);
+    QString suffix() const;
+    void setSuffix(const QString &suffix);
+
     /** Caption before the parts; empty, and then not shown, by default. */
     QString leftLabelText() const;
     void setLeftLabelText(const QString &text);
@@ -99,7 +113,10 @@ public:
     Qt::Orientation sliderOrientation() const;
     void setSliderOrientation(Qt::Orientation orientation);
 
-    /** Whether the value is but shown. There is no button to change it then. */
+    /**
+     * Whether the value is but shown. There is no button to change it then, and the pop-up is closed and disabled. What
+     * a drag that this ends has come to is forgotten.
+     */
     bool isReadOnly() const;
     void setReadOnly(bool readOnly);
 
