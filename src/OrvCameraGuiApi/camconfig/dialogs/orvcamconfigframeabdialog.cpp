@@ -562,8 +562,7 @@ void OrvCamConfigFrameABDialogPrivate::updateExposureTime()
     if (!isKnown)
         return;
     const bool isLocked = !lines->IsWritable() || !clocks->IsWritable();
-    ui.spBoxExposureTime->spinBox()->setReadOnly(isLocked);
-    ui.spBoxExposureTime->slider()->setEnabled(!isLocked);
+    ui.spBoxExposureTime->setReadOnly(isLocked);
     const Cached now = cached();
     const std::int64_t longest =
         ui.chBoxFixedPeriod->isChecked() ? ui.spBoxFixedPeriod->value() : exposureTime(now.longestExposure, now.clock);
