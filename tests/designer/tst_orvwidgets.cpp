@@ -161,6 +161,13 @@ class tst_OrvWidgets : public OrvTest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    /** Qt Designer leaves settings behind. */
+    void initTestCase()
+    {
+        QVERIFY(m_home.isValid());
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_home.path());
+    }
+
     void everyWidgetHasAnEntryThatWorks()
     {
         QPluginLoader plugin(QStringLiteral(PLUGIN));
@@ -345,6 +352,8 @@ private Q_SLOTS:
     }
 
 private:
+    QTemporaryDir m_home;
+
     static QString elementFor(const QString &text)
     {
         bool isNumber = false;
