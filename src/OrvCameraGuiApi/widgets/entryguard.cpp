@@ -68,10 +68,11 @@ bool isDeletion(const QKeyEvent *event)
     return event->key() == Qt::Key_Backspace || event->key() == Qt::Key_Delete;
 }
 
-/** The key puts characters into the text, which are its own. */
+/** By the rule of a line edit: with Ctrl and Alt, which are AltGr, a key types as well. */
 bool isCharacter(const QKeyEvent *event)
 {
-    return !event->text().isEmpty() && event->text().at(0).isPrint();
+    const bool isCommand = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == Qt::ControlModifier;
+    return !isCommand && !event->text().isEmpty() && event->text().at(0).isPrint();
 }
 
 bool isSelecting(const QKeyEvent *event)
@@ -81,6 +82,13 @@ bool isSelecting(const QKeyEvent *event)
     const bool moves = event->key() == Qt::Key_Left || event->key() == Qt::Key_Right || event->key() == Qt::Key_Home
         || event->key() == Qt::Key_End;
     return moves && (event->modifiers() & Qt::ShiftModifier);
+}
+
+/** What an edit of the text may come of. */
+bool isInput(QEvent::Type type)
+{
+    return type == QEvent::KeyPress || type == QEvent::InputMethod || type == QEvent::ContextMenu
+        || type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease;
 }
 
 /** Whether \a text is \a former but for one piece that was taken away. */
@@ -188,6 +196,7 @@ bool EntryGuard::commit()
     }
     withdrawLimits();
     m_isTouched = false;
+    m_typedText.clear();
     const QPointer<EntryGuard> alive(this);
     if (!m_field->commit() && alive)
         Q_EMIT entered();
@@ -208,6 +217,8 @@ bool EntryGuard::eventFilter(QObject *watched, QEvent *event)
 {
     if (!m_edit)
         return false;
+    if (isInput(event->type()))
+        m_textBefore = m_edit->text();
     if (watched == m_box)
         return filterBox(event);
     switch (event->type()) {
@@ -297,6 +308,9 @@ bool EntryGuard::filterReturn(QKeyEvent *event)
         return true;
     }
     event->setAccepted(isTouched());
+    // What keyboard tracking has committed may stand there in another form than the value's.
+    if (!isTouched() && m_edit->text() == m_typedText)
+        m_field->restore();
     const QPointer<EntryGuard> alive(this);
     commit();
     if (!alive)
@@ -359,12 +373,13 @@ void EntryGuard::beforeStep()
         drop();
 }
 
+/** Who goes to a menu, a modal window or another program comes back to what was typed. */
 bool EntryGuard::isLeaving(Qt::FocusReason reason) const
 {
-    if (reason == Qt::PopupFocusReason)
-        return false;
-    const QWidget *const modal = QApplication::activeModalWidget();
-    return reason != Qt::ActiveWindowFocusReason || !modal || modal == m_box->window();
+    if (reason != Qt::ActiveWindowFocusReason)
+        return reason != Qt::PopupFocusReason;
+    const QWidget *const window = QApplication::activeWindow();
+    return window && !window->isModal() && !QApplication::activeModalWidget();
 }
 
 bool EntryGuard::filterFocusOut(QFocusEvent *event)
@@ -411,17 +426,13 @@ void EntryGuard::leave()
 
 void EntryGuard::onTextEdited(const QString &text)
 {
-    m_typedText = text;
+    const bool isPutRight = m_isUndoing || (m_hadSelection && m_hasNewSelection) || isShortened(m_textBefore, text);
+    m_typedText = m_textBefore = text;
     m_isTouched = !m_isAnnounced;
-    if (m_isBlocked && !isPutRight(text))
+    if (m_isBlocked && !isPutRight)
         return;
     m_isBlocked = false;
     withdrawLimits();
-}
-
-bool EntryGuard::isPutRight(const QString &text) const
-{
-    return m_isUndoing || (m_hadSelection && m_hasNewSelection) || isShortened(m_blockedText, text);
 }
 
 void EntryGuard::onInputRejected()
@@ -429,7 +440,6 @@ void EntryGuard::onInputRejected()
     if (!m_isRefusalOfNumber || m_box->isReadOnly())
         return;
     m_isBlocked = true;
-    m_blockedText = m_edit->text();
     m_hasNewSelection = false;
     tellLimits();
 }

@@ -25,8 +25,9 @@ class QValidator;
  * Return and Enter commit a typed number within the range. For any other text they show the value again and tell the
  * limits, for no text they show the value again. An untouched box they leave as it is, and go on to the dialog. Escape
  * shows the value again and goes on only where nothing was typed. Leaving the box commits what its class commits then,
- * as a whole too; a menu or a modal window that takes the focus is no leaving. Another locale, and being disabled, made
- * read-only or hidden, drop what was typed. The wheel over a box without the focus is left to what is around it.
+ * as a whole too; it is no leaving when a menu, a modal window or another program takes the focus. Another locale, and
+ * being disabled, made read-only or hidden, drop what was typed. The wheel over a box without the focus is left to what
+ * is around it.
  *
  * A child of its box, which is for numbers, also one of Qt's own: such a box reads by NumberText as long as it has the
  * guard, and has no keyboard tracking then.
@@ -82,7 +83,6 @@ private:
     void onTextEdited(const QString &text);
     void onInputRejected();
     void onValueChanged();
-    bool isPutRight(const QString &text) const;
     bool concernsNumber(const QKeyEvent *event) const;
     bool isOfNumber(QChar c) const;
 
@@ -101,7 +101,7 @@ private:
     QString m_typedText;
     bool m_isAnnounced = false; ///< the value has changed by the key that is going on
     bool m_isBlocked = false;
-    QString m_blockedText;
+    QString m_textBefore; ///< the edit that is going on
     bool m_isRefusalOfNumber = true; ///< a refusal of the input that is going on concerns the number
     bool m_isUndoing = false;
     bool m_hadSelection = false; ///< before the edit that is going on

@@ -1,0 +1,566 @@
+#include <OrvCameraGuiApi/widgets/entryguard.h>
+#include <OrvCameraGuiApi/widgets/qtorvdoublespinboxval.h>
+#include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
+#include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
+
+#include <orvtest.h>
+
+#include <QAccessible>
+#include <QClipboard>
+#include <QDateTimeEdit>
+#include <QDialog>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRandomGenerator>
+#include <QShortcut>
+#include <QToolTip>
+#include <QVBoxLayout>
+
+#include <functional>
+
+namespace {
+
+enum Kind { Int, Double, Wide, TrackedInt, TrackedWide, PlainInt, PlainDouble };
+constexpr const char *kinds[] = {"int", "double", "wide", "tracked int", "tracked wide", "plain int", "plain double"};
+
+bool isTracked(int kind)
+{
+    return kind == TrackedInt || kind == TrackedWide;
+}
+
+QAbstractSpinBox *makeBox(int kind)
+{
+    if (kind == PlainInt)
+        return new QSpinBox;
+    if (kind == PlainDouble)
+        return new QDoubleSpinBox;
+    if (kind == Double) {
+        auto *const box = new QtOrvDoubleSpinBoxVal;
+        box->setValidateTyping(false);
+        return box;
+    }
+    if (kind == Wide || kind == TrackedWide) {
+        auto *const box = new QtOrvSpinBoxVal64;
+        box->setKeyboardTracking(kind == TrackedWide);
+        return box;
+    }
+    auto *const box = new QtOrvSpinBoxVal;
+    box->setValidateTyping(kind == TrackedInt);
+    return box;
+}
+
+/** A dialog with a focused, guarded box that shows "42 us" of 10 to 1920, and a default button. */
+class Window : public QDialog
+{
+public:
+    explicit Window(int kind, const QLocale &locale = QLocale::c())
+        : box(makeBox(kind))
+        , isFraction(kind == Double || kind == PlainDouble)
+    {
+        auto *const layout = new QVBoxLayout(this);
+        layout->addWidget(box);
+        layout->addWidget(&other);
+        layout->addWidget(&button);
+        button.setDefault(true);
+        box->setLocale(locale);
+        box->setProperty("maximum", 1920);
+        box->setProperty("minimum", 10);
+        box->setProperty("singleStep", 5);
+        box->setProperty("suffix", QStringLiteral(" us"));
+        box->setProperty("value", 42);
+        guard = EntryGuard::install(box);
+        const QMetaObject *const meta = box->metaObject();
+        changes = new QSignalSpy(box, meta->property(meta->indexOfProperty("value")).notifySignal());
+        connect(guard, &EntryGuard::entered, this, [this] { ++entered; });
+        connect(&button, &QPushButton::clicked, this, [this] { ++clicked; });
+        show();
+        box->setFocus(Qt::TabFocusReason);
+    }
+    ~Window() override { delete changes; }
+
+    bool isReady() { return QTest::qWaitForWindowActive(this) && box->hasFocus(); }
+    double value() const { return box->property("value").toDouble(); }
+    QString textOf(double number) const
+    {
+        QLocale locale = box->locale();
+        locale.setNumberOptions(QLocale::OmitGroupSeparator);
+        const QString text = isFraction ? locale.toString(number, 'f', 2) : locale.toString(qlonglong(number));
+        return text + QLatin1String(" us");
+    }
+    bool shows(double number) const { return box->text() == textOf(number); }
+    void type(const QString &keys) { box->selectAll(), typeOn(keys); }
+    void typeOn(const QString &keys)
+    {
+        for (const QChar c : keys) {
+            QKeyEvent press(QEvent::KeyPress, c.isDigit() ? 0 : c.unicode(), Qt::NoModifier, QString(c));
+            if (c == QLatin1Char('\b'))
+                this->press(Qt::Key_Backspace);
+            else
+                QApplication::sendEvent(box, &press);
+        }
+    }
+    /** What assistive tools tell of the box besides its name and text. */
+    QString spoken() const { return QAccessible::queryAccessibleInterface(box)->text(QAccessible::Description); }
+    void press(int key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(box, Qt::Key(key), modifiers); }
+    void reset()
+    {
+        guard->drop();
+        box->setProperty("value", 42);
+        box->setFocus();
+        changes->clear();
+        entered = clicked = 0;
+    }
+
+    QAbstractSpinBox *const box;
+    const bool isFraction;
+    EntryGuard *guard;
+    QLineEdit other;
+    QPushButton button;
+    QLineEdit *const edit = box->findChild<QLineEdit *>();
+    QSignalSpy *changes;
+    int entered = 0;
+    int clicked = 0;
+};
+
+using Action = std::function<void(Window &)>;
+
+void pressReturn(Window &window)
+{
+    window.press(Qt::Key_Return);
+}
+
+void leaveByTab(Window &window)
+{
+    window.press(Qt::Key_Tab);
+}
+
+void clickElsewhere(Window &window)
+{
+    QTest::mouseClick(&window.other, Qt::LeftButton);
+}
+
+void boxes()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QLocale>("locale");
+    for (int kind = Int; kind <= PlainDouble; ++kind) {
+        for (const QLocale &locale : {QLocale::c(), QLocale(QLocale::German), QLocale(QLocale::Arabic)})
+            QTest::addRow("%s %s", kinds[kind], qPrintable(locale.name())) << kind << locale;
+    }
+}
+
+#define FETCH_WINDOW(window)                                                                                           \
+    QFETCH(int, kind);                                                                                                 \
+    QFETCH(QLocale, locale);                                                                                           \
+    Window window(kind, locale);                                                                                       \
+    QVERIFY(window.isReady())
+
+} // namespace
+
+class tst_EntryGuard : public OrvTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isInstalledOnce()
+    {
+        QtOrvSpinBoxVal64 box;
+        QVERIFY(!box.isEntryGuarded());
+        QCOMPARE(EntryGuard::of(nullptr), nullptr);
+        EntryGuard::remove(&box);
+        box.setEntryGuarded(true);
+        QVERIFY(box.isEntryGuarded());
+        QCOMPARE(EntryGuard::install(&box), EntryGuard::of(&box));
+        QCOMPARE(box.focusPolicy(), Qt::StrongFocus);
+        box.setEntryGuarded(false);
+        QVERIFY(!box.isEntryGuarded());
+        QCOMPARE(box.focusPolicy(), Qt::WheelFocus);
+        QDateTimeEdit date;
+        QCOMPARE(EntryGuard::install(&date), nullptr);
+    }
+
+    void refusedKeysBlock_data() { boxes(); }
+    void refusedKeysBlock()
+    {
+        FETCH_WINDOW(window);
+        const QString keys[] = {QStringLiteral("2592"), QStringLiteral("-5"), QStringLiteral("20000"),
+                                window.isFraction ? QStringLiteral("50.125") : QStringLiteral("12.5"),
+                                window.isFraction ? QStringLiteral("50.5.5") : QStringLiteral(",5")};
+        for (const QString &typed : keys) {
+            for (const Action &end : {Action(pressReturn), Action(leaveByTab), Action(clickElsewhere)}) {
+                window.reset();
+                window.type(typed);
+                const double tracked = window.value(); // what was taken while it was typed
+                QVERIFY2(isTracked(kind) || tracked == 42, qPrintable(typed));
+                const QString limits = window.spoken();
+                QVERIFY(window.guard->isBlocked());
+                QVERIFY2(limits.contains(window.textOf(10)) && limits.contains(window.textOf(1920)),
+                         qPrintable(limits));
+                QCOMPARE(QToolTip::text(), limits);
+                window.changes->clear();
+                window.typeOn(QStringLiteral("7"));
+                end(window);
+                QCOMPARE(window.value(), tracked);
+                QCOMPARE(window.changes->size() + window.entered + window.clicked, 0);
+                QCOMPARE(window.guard->isBlocked(), window.box->hasFocus());
+                QVERIFY(window.box->hasFocus() || window.shows(tracked));
+                QCOMPARE(window.spoken().isEmpty(), !window.box->hasFocus());
+            }
+        }
+    }
+
+    void isPutRight_data() { boxes(); }
+    void isPutRight()
+    {
+        FETCH_WINDOW(window);
+        const struct
+        {
+            Action action;
+            const char *text;
+        } rows[] = {
+            {[](Window &w) { w.press(Qt::Key_Backspace); }, "25"},
+            {[](Window &w) { w.edit->setCursorPosition(1), w.press(Qt::Key_Delete); }, "29"},
+            {[](Window &w) { w.press(Qt::Key_A, Qt::ControlModifier), w.typeOn(QStringLiteral("57")); }, "57"},
+            {[](Window &w) { w.press(Qt::Key_Left, Qt::ShiftModifier), w.typeOn(QStringLiteral("8")); }, "258"},
+            {[](Window &w) {
+                 QTest::mouseDClick(w.edit, Qt::LeftButton, {}, QPoint(6, 8)), w.typeOn(QStringLiteral("61"));
+             },
+             "61"},
+        };
+        for (const auto &row : rows) {
+            window.reset();
+            window.type(QStringLiteral("2592"));
+            row.action(window);
+            QVERIFY2(!window.guard->isBlocked(), row.text);
+            QVERIFY(window.spoken().isEmpty());
+            pressReturn(window);
+            QCOMPARE(window.value(), QByteArray(row.text).toDouble());
+            QVERIFY(window.shows(window.value()));
+            QVERIFY(window.clicked == 0 || isTracked(kind)); // where it was committed before
+        }
+        window.reset();
+        window.type(QStringLiteral("2592"));
+        const double before = window.value();
+        QShortcut shortcut(Qt::Key_Escape, &window);
+        QSignalSpy shortcuts(&shortcut, &QShortcut::activated);
+        window.press(Qt::Key_Escape); // the box's before anybody else's
+        QVERIFY(!window.guard->isBlocked() && window.shows(before) && window.isVisible());
+        QVERIFY(shortcuts.isEmpty());
+        shortcut.setEnabled(false);
+        if (!isTracked(kind)) {
+            window.type(QStringLiteral("2592"));
+            window.press(Qt::Key_Z, Qt::ControlModifier);
+            QVERIFY(!window.guard->isBlocked());
+            window.press(Qt::Key_Escape);
+        }
+        QVERIFY(window.isVisible());
+        window.press(Qt::Key_Escape); // nothing to restore
+        QVERIFY(!window.isVisible());
+    }
+
+    /** What was selected when a key was refused does not make room for the rest of the number. */
+    void restOfARefusedNumberIsNotTaken()
+    {
+        Window window(Int);
+        QVERIFY(window.isReady());
+        window.type(QStringLiteral("-57"));
+        QVERIFY(window.shows(42));
+        QApplication::clipboard()->setText(QStringLiteral("57"));
+        window.press(Qt::Key_V, Qt::ControlModifier);
+        pressReturn(window);
+        QVERIFY(window.shows(42) && window.guard->isBlocked());
+        window.reset();
+        QApplication::clipboard()->setText(QStringLiteral("5000"));
+        window.press(Qt::Key_V, Qt::ControlModifier);
+        QVERIFY(window.guard->isBlocked());
+        window.reset();
+        window.type(QStringLiteral("5x7")); // no part of any number
+        QVERIFY(!window.guard->isBlocked());
+        window.edit->setCursorPosition(0);
+        window.press(Qt::Key_Backspace);
+        QVERIFY(!window.guard->isBlocked());
+        pressReturn(window);
+        QCOMPARE(window.value(), 57.0);
+    }
+
+    void committedIsWhatWasEntered_data() { boxes(); }
+    void committedIsWhatWasEntered()
+    {
+        FETCH_WINDOW(window);
+        const struct
+        {
+            QString keys;
+            double value;
+            bool isTold;
+        } rows[] = {
+            {QStringLiteral("57"), 57, false},
+            {QStringLiteral("\b"), 42, false},
+            {QStringLiteral("5"), 42, true}, // too small
+            {locale.toString(57), 57, false}, // in its own digits
+            {window.isFraction ? QStringLiteral("57.5") : QStringLiteral("57"), window.isFraction ? 57.5 : 57, false},
+            {window.isFraction ? QLatin1String("57") + locale.decimalPoint() : QStringLiteral("57"), 57, false},
+        };
+        for (const auto &row : rows) {
+            window.reset();
+            window.type(row.keys);
+            pressReturn(window);
+            QVERIFY2(window.value() == row.value, qPrintable(row.keys));
+            QVERIFY(window.shows(row.value));
+            QCOMPARE(!window.spoken().isEmpty(), row.isTold);
+            QVERIFY(window.clicked == 0 || isTracked(kind));
+            QVERIFY(window.changes->isEmpty() == (row.value == 42) && !window.guard->isTouched());
+        }
+        window.reset();
+        pressReturn(window); // untouched: the dialog's
+        QCOMPARE(window.clicked, 1);
+        QCOMPARE(window.changes->size() + window.entered, 0);
+        if (isTracked(kind))
+            return;
+        window.type(QStringLiteral("42"));
+        pressReturn(window);
+        QCOMPARE(window.entered, 1);
+        QVERIFY(window.changes->isEmpty());
+        window.type(QStringLiteral("57"));
+        window.box->setProperty("value", 60); // of the program
+        QVERIFY(!window.guard->isTouched());
+        pressReturn(window);
+        QVERIFY(window.shows(60));
+    }
+
+    /** The boxes of the documentation: snapped on Return only, beside a suffix. */
+    void returnReadsBesideASuffix()
+    {
+        for (const QLocale &locale : {QLocale::c(), QLocale(QLocale::German)}) {
+            Window ints(Int, locale);
+            QVERIFY(ints.isReady());
+            auto *const box = static_cast<QtOrvSpinBoxVal *>(ints.box);
+            box->setRange(0, 2048);
+            box->setSingleStep(8);
+            box->setValidate(true);
+            ints.type(QStringLiteral("1277"));
+            QVERIFY(ints.changes->isEmpty());
+            pressReturn(ints);
+            QCOMPARE(box->text(), QStringLiteral("1280 us"));
+
+            Window doubles(Double, locale);
+            QVERIFY(doubles.isReady());
+            auto *const gain = static_cast<QtOrvDoubleSpinBoxVal *>(doubles.box);
+            gain->setRange(-6, 24);
+            gain->setSingleStep(0.25);
+            gain->setValidate(true);
+            doubles.type(locale.toString(3.3));
+            pressReturn(doubles);
+            QCOMPARE(gain->value(), 3.25);
+            doubles.type(QStringLiteral("-3.3"));
+            pressReturn(doubles);
+            QCOMPARE(gain->value(), -3.25);
+        }
+        Window wide(Wide);
+        QVERIFY(wide.isReady());
+        auto *const box = static_cast<QtOrvSpinBoxVal64 *>(wide.box);
+        box->setPrefix(QStringLiteral("0x"));
+        box->setDisplayIntegerBase(16);
+        wide.type(QStringLiteral("7fg")); // no digit
+        pressReturn(wide);
+        QCOMPARE(box->text(), QStringLiteral("0x7f us"));
+        wide.type(QStringLiteral("-f"));
+        QVERIFY(wide.guard->isBlocked());
+    }
+
+    /** A value off the grid or beyond the range, and one in another base, stay as the program has set them. */
+    void untouchedStaysAsItIs()
+    {
+        Window ints(Int);
+        QVERIFY(ints.isReady());
+        auto *const box = static_cast<QtOrvSpinBoxVal *>(ints.box);
+        box->setValidate(true);
+        box->setDisplayIntegerBase(16);
+        pressReturn(ints);
+        QCOMPARE(box->text(), QStringLiteral("2a us"));
+        ints.type(QStringLiteral("2b"));
+        pressReturn(ints);
+        QCOMPARE(box->value(), 45); // snapped
+        ints.reset();
+        ints.box->setProperty("value", 45);
+        ints.changes->clear();
+        ints.type(QStringLiteral("2b"));
+        pressReturn(ints);
+        QCOMPARE(ints.entered, 1); // which is the value already
+
+        Window wide(Wide);
+        QVERIFY(wide.isReady());
+        auto *const wideBox = static_cast<QtOrvSpinBoxVal64 *>(wide.box);
+        wideBox->setValidateStepping(true);
+        wideBox->setRange(0, 20);
+        wideBox->setDisplayIntegerBase(16);
+        pressReturn(wide);
+        QCOMPARE(wideBox->value(), 42);
+        QVERIFY(wide.changes->isEmpty());
+        wideBox->setButtonTracking(false);
+        wideBox->setRange(0, 50);
+        wide.press(Qt::Key_PageUp); // too far
+        QCOMPARE(wideBox->text(), QStringLiteral("2a us"));
+    }
+
+    void onlyAPersonCommits_data() { boxes(); }
+    void onlyAPersonCommits()
+    {
+        FETCH_WINDOW(window);
+        const struct
+        {
+            Action action;
+            bool keepsText;
+        } rows[] = {
+            {[](Window &w) { w.box->setLocale(QLocale(QLocale::French)); }, false},
+            {[](Window &w) { w.box->setEnabled(false), w.box->setEnabled(true); }, false},
+            {[](Window &w) { w.box->setReadOnly(true), w.box->setReadOnly(false); }, false},
+            {[](Window &w) { w.box->hide(), w.box->show(); }, false},
+            {[](Window &w) { w.box->setProperty("maximum", 1000); }, true},
+            {[](Window &w) {
+                 QFocusEvent menu(QEvent::FocusOut, Qt::PopupFocusReason); // as one that opens sends it
+                 QApplication::sendEvent(w.box, &menu);
+             },
+             true},
+            {[](Window &w) {
+                 QDialog message(&w);
+                 message.setModal(true);
+                 message.show();
+                 QTRY_VERIFY(!w.isActiveWindow());
+                 QVERIFY(QApplication::focusWidget() != w.box);
+             },
+             true},
+        };
+        for (const char *const keys : {"57", "5", "2592"}) {
+            for (const auto &row : rows) {
+                window.box->setLocale(locale);
+                window.box->setProperty("maximum", 1920);
+                window.reset();
+                window.activateWindow();
+                QVERIFY(window.isReady());
+                window.type(QString::fromLatin1(keys));
+                const double before = window.value();
+                const QString text = window.box->text();
+                window.changes->clear();
+                row.action(window);
+                QCOMPARE(window.value(), before);
+                QVERIFY(window.changes->isEmpty() && window.entered == 0);
+                if (!isTracked(kind)) // else it is committed already, in the form that it was typed in
+                    QCOMPARE(window.box->text(), row.keepsText ? text : window.textOf(before));
+            }
+        }
+    }
+
+    void wheelNeedsTheFocus_data() { boxes(); }
+    void wheelNeedsTheFocus()
+    {
+        FETCH_WINDOW(window);
+        const auto turn = [&window] {
+            const QPoint place = window.box->rect().center();
+            QWheelEvent wheel(place, window.box->mapToGlobal(place), QPoint(), QPoint(0, -120), Qt::NoButton,
+                              Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(window.box, &wheel);
+            return wheel.isAccepted();
+        };
+        QVERIFY(turn());
+        QCOMPARE(window.value(), 37.0);
+        window.other.setFocus();
+        QVERIFY(!turn());
+        QCOMPARE(window.value(), 37.0);
+        QCOMPARE(window.box->focusPolicy(), Qt::StrongFocus); // which the wheel does not give
+    }
+
+    void tellsNothingOverAHiddenWindow()
+    {
+        QToolTip::hideText();
+        QTRY_VERIFY(!QToolTip::isVisible());
+        QtOrvSpinBoxVal box;
+        box.setEntryGuarded(true);
+        QTest::keyClicks(&box, QStringLiteral("-"));
+        QVERIFY(EntryGuard::of(&box)->isBlocked());
+        QVERIFY(!QToolTip::isVisible() && box.accessibleDescription().isEmpty());
+    }
+
+    /** Whatever is done with the keys, the value is a number that was typed to its end, or stepped to. */
+    void randomKeys_data() { boxes(); }
+    void randomKeys()
+    {
+        FETCH_WINDOW(window);
+        window.box->setProperty("minimum", -500);
+        window.reset();
+        QLineEdit whole; // what the keys make where none is refused
+        const auto shown = [&window] { return window.box->text().chopped(3); };
+        const auto follow = [&] {
+            whole.setText(shown());
+            whole.setCursorPosition(window.edit->cursorPosition());
+            if (window.edit->hasSelectedText())
+                whole.setSelection(window.edit->selectionStart(), window.edit->selectedText().size());
+        };
+        const auto read = [&](const QString &text, bool *ok = nullptr) {
+            QString plain;
+            for (const QChar c : text) {
+                const bool isPoint = window.isFraction && c == locale.decimalPoint();
+                plain += isPoint ? QLatin1Char('.') : c.isDigit() ? QLatin1Char(char('0' + c.digitValue())) : c;
+            }
+            return window.isFraction ? plain.toDouble(ok) : double(plain.toInt(ok));
+        };
+        const QString characters = QStringLiteral("01234567890123456789012345678901234567895-.,+x\u0663\u0665");
+        const int others[] = {Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Left, Qt::Key_Right, Qt::Key_Home,
+                              Qt::Key_End,       Qt::Key_Escape, Qt::Key_Up,   Qt::Key_Down,  Qt::Key_Return,
+                              Qt::Key_Enter,     Qt::Key_Tab,    Qt::Key_A};
+        QRandomGenerator random(2592 + uint(kind));
+        bool isSelectedAnew = false;
+        follow();
+        for (int i = 0; i < 500; ++i) {
+            const double before = window.value();
+            const QString typed = whole.text();
+            const bool wasBlocked = window.guard->isBlocked();
+            const bool isCharacter = random.bounded(4) > 0;
+            const int key = isCharacter ? 0 : others[random.bounded(int(std::size(others)))];
+            bool isRepair = key == Qt::Key_Backspace || key == Qt::Key_Delete || key == Qt::Key_Escape;
+            if (isCharacter) {
+                const QString text(characters.at(random.bounded(characters.size())));
+                const QString next = whole.text().mid(whole.cursorPosition(), 1);
+                const bool isBeforePoint = next == QString(locale.decimalPoint()) || next == QLatin1String(".");
+                if (isBeforePoint && (text == QLatin1String(".") || text == QLatin1String(",")))
+                    continue; // only moves the cursor
+                isRepair = isSelectedAnew && window.edit->hasSelectedText();
+                window.typeOn(text);
+                if (text != QLatin1String("x"))
+                    whole.insert(text);
+            } else {
+                window.press(key, key == Qt::Key_A ? Qt::ControlModifier : Qt::NoModifier);
+                if (key == Qt::Key_Backspace)
+                    whole.backspace();
+                else if (key == Qt::Key_Delete)
+                    whole.del();
+            }
+            isSelectedAnew = key == Qt::Key_A || (isSelectedAnew && !isCharacter);
+
+            const bool isLeft = !window.box->hasFocus();
+            window.box->setFocus();
+            const QString trace = QStringLiteral("%1: %2 for %3").arg(i).arg(shown(), whole.text());
+            if (window.value() != before) {
+                const bool ends = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Tab;
+                const bool isStep = key == Qt::Key_Up || key == Qt::Key_Down;
+                bool isNumber = true;
+                const double entered = read(isTracked(kind) ? shown() : typed, &isNumber);
+                const bool isEntry = (ends || isTracked(kind)) && isNumber && entered == window.value();
+                QVERIFY2(isStep || (isEntry && (!wasBlocked || isRepair)), qPrintable(trace));
+                if (isStep)
+                    QVERIFY2(qAbs(window.value() - before) < 5.001, qPrintable(trace));
+            }
+            const bool isLifted = wasBlocked && !window.guard->isBlocked();
+            QVERIFY2(!isLifted || isRepair || isLeft || key == Qt::Key_Up || key == Qt::Key_Down, qPrintable(trace));
+            if (isLifted || key == Qt::Key_Escape || (!isCharacter && !isRepair && !window.guard->isBlocked()))
+                follow();
+            const bool isWhole = shown() == whole.text() || (isTracked(kind) && read(shown()) == read(whole.text()));
+            QVERIFY2(isWhole || window.guard->isBlocked(), qPrintable(trace));
+            if (isWhole)
+                follow();
+        }
+    }
+};
+
+ORV_TEST_MAIN(tst_EntryGuard)
+
+#include "tst_entryguard.moc"
