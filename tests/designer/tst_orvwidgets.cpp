@@ -83,7 +83,8 @@ class Designer
 public:
     explicit Designer(const QString &className)
     {
-        QCoreApplication::addLibraryPath(QFileInfo(QStringLiteral(PLUGIN)).dir().filePath(QStringLiteral("..")));
+        // No other plug-ins, whatever is installed.
+        QCoreApplication::setLibraryPaths({QFileInfo(QStringLiteral(PLUGIN)).dir().filePath(QStringLiteral(".."))});
         m_core.reset(QDesignerComponents::createFormEditor(nullptr));
         m_core->setSettingsManager(new DesignerSettings);
         m_core->setPropertyEditor(QDesignerComponents::createPropertyEditor(m_core.data(), &m_window));
