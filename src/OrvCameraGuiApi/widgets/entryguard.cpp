@@ -215,7 +215,7 @@ void EntryGuard::drop()
 
 bool EntryGuard::eventFilter(QObject *watched, QEvent *event)
 {
-    if (!m_edit)
+    if (m_edit.isNull()) // asked so, as it may be just a widget by now
         return false;
     if (isInput(event->type()))
         m_textBefore = m_edit->text();
