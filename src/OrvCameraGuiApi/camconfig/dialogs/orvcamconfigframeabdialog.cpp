@@ -588,11 +588,11 @@ void OrvCamConfigFrameABDialogPrivate::setExposureTime(int microseconds)
 {
     if (isShowing)
         return;
-    readBack({linesFeature, clocksFeature});
+    const bool isKnown = readBack({linesFeature, clocksFeature});
     const Cached now = cached();
     const std::optional<Exposure> parts = splitExposure(microseconds, now.clock);
     const auto isSame = sameCamera();
-    if (parts && exposureTime(now.exposure, now.clock) != microseconds) {
+    if (parts && (!isKnown || exposureTime(now.exposure, now.clock) != microseconds)) {
         if (!setHalf(linesFeature, ui.spBoxExposureLines, parts->lines) || !isSame())
             return;
         setHalf(clocksFeature, ui.spBoxExposureClocks, parts->clocks);
