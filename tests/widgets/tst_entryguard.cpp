@@ -179,6 +179,20 @@ private Q_SLOTS:
         QCOMPARE(EntryGuard::install(&date), nullptr);
     }
 
+    void goesWithItsBox_data() { boxes(); }
+    void goesWithItsBox()
+    {
+        FETCH_WINDOW(window);
+        window.type(QStringLiteral("2592"));
+        const double before = window.value();
+        EntryGuard::remove(window.box);
+        pressReturn(window);
+        QCOMPARE(window.value(), before);
+        EntryGuard::install(window.box);
+        window.type(QStringLiteral("57"));
+        delete window.box; // with the focus, and in the midst of an entry
+    }
+
     void refusedKeysBlock_data() { boxes(); }
     void refusedKeysBlock()
     {
