@@ -8,6 +8,7 @@
 #include <OrvCameraGuiApi/widgets/qtorvspinbox.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
+#include <OrvCameraGuiApi/widgets/spinsliderlink.h>
 
 #include <QApplication>
 #include <QButtonGroup>
@@ -120,20 +121,6 @@ void showValue(Control *control, int value)
     control->setValue(value);
 }
 
-/** What the camera says is shown as it is: only entries are moved to a step. */
-void showUnmoved(QtOrvSpinBoxVal *field, int value)
-{
-    field->QSpinBox::setValue(value);
-}
-
-void showUnmoved(QtOrvSpinBoxVal64 *field, int value)
-{
-    const bool moves = field->validateStepping();
-    field->setValidateStepping(false);
-    field->setValue(value);
-    field->setValidateStepping(moves);
-}
-
 /** Nothing stands between prefix and suffix, and it was not the user who took it away. */
 template <typename Field>
 bool isEmptied(const Field *field)
@@ -142,12 +129,15 @@ bool isEmptied(const Field *field)
     return field->text() == field->prefix() + field->suffix() && !(guard && guard->isTouched());
 }
 
-/** A composite's own setValue() snaps. What shows already is left alone, and with it what is being typed. */
+/**
+ * What the camera says is shown as it is: only entries are moved to a step. What shows already is left alone, and with
+ * it what is being typed.
+ */
 template <typename Composite>
 void showInComposite(Composite *composite, int value)
 {
     if (composite->value() != value || isEmptied(composite->spinBox()))
-        showUnmoved(composite->spinBox(), value);
+        SpinSlider::showUnmoved(composite->spinBox(), value);
 }
 
 void showValue(QtOrvSpinBox *spinBox, int value)

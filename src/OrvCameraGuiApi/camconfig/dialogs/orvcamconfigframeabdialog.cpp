@@ -576,7 +576,7 @@ void OrvCamConfigFrameABDialogPrivate::showTime(std::int64_t microseconds, std::
     time->setRange(0, toInt(longest));
     const int shown = std::clamp(toInt(microseconds), time->minimum(), time->maximum());
     if (time->value() != shown)
-        time->spinBox()->QSpinBox::setValue(shown);
+        SpinSlider::showUnmoved(time->spinBox(), shown);
     ControlWatch *const watch = ControlWatch::of(time);
     watch->clear();
     if (shown != microseconds)
@@ -646,7 +646,7 @@ void OrvCamConfigFrameABDialogPrivate::updateGain()
     QtOrvDoubleSpinBoxVal *const field = ui.gainDigital->spinBox();
     const double gain = composedGain(cached().gain);
     if (!SpinSlider::shows(field, gain))
-        field->QDoubleSpinBox::setValue(gain);
+        SpinSlider::showUnmoved(field, gain);
     ControlWatch::of(ui.gainDigital)->clear();
 }
 
