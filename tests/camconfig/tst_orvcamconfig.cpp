@@ -235,7 +235,7 @@ void OrvCamConfigTest::countsRepeatedModesOnce()
         connect(&polls, &QTimer::timeout, &window, [&] { camera.params()->GetNodeMap()->Poll(1000); });
         polls.start(OrvGui::CameraParams::period);
         waitForSteps(100);
-        QVERIFY(reports.count > 50);
+        QTRY_VERIFY(reports.count > 50);
         QCOMPARE(camera.takeWrites(), 2);
         QVERIFY(camera.set("FrameMode", "FrameB"));
         QVERIFY(camera.set("FrameMode", "FrameAB"));
