@@ -42,6 +42,8 @@ private Q_SLOTS:
     void showsBothSides();
     void judges_data();
     void judges();
+    void remarks_data();
+    void remarks();
     void lastOctetIsReplaced();
     void anyConfigurationCanBeAccepted();
 };
@@ -114,6 +116,60 @@ void tst_SetIpDialog::judges()
     QTEST(dialog.isMaskValid(), "maskValid");
     QCOMPARE(dialog.status()->text(), text);
     QCOMPARE(dialog.status()->styleSheet(), text.endsWith(QLatin1String("OK")) ? green : red);
+}
+
+void tst_SetIpDialog::remarks_data()
+{
+    QTest::addColumn<uint>("mask");
+    QTest::addColumn<QString>("address");
+    QTest::addColumn<QString>("typedMask");
+    QTest::addColumn<QString>("gateway");
+    QTest::addColumn<QString>("remark");
+    const auto row = [](const char *name, uint mask, const char *address, const char *typedMask, const char *gateway,
+                        const char *remark) {
+        QTest::newRow(name) << mask << QString::fromLatin1(address) << QString::fromLatin1(typedMask)
+                            << QString::fromLatin1(gateway) << QString::fromLatin1(remark);
+    };
+    const uint wide = 0xFFFFFF00;
+    const char *const mask = "255.255.255.0";
+    row("nothing", wide, "192.168.1.12", mask, "192.168.1.254", "");
+    row("no gateway", wide, "192.168.1.12", mask, "", "");
+    row("gateway 0", wide, "192.168.1.12", mask, "0.0.0.0", "");
+    row("network", wide, "192.168.1.0", mask, "", "This is the address of the subnet itself.");
+    row("broadcast", wide, "192.168.1.255", mask, "", "This is the subnet's broadcast address.");
+    row("broadcast of a small subnet", 0xFFFFFFFC, "192.168.1.11", "255.255.255.252", "",
+        "This is the subnet's broadcast address.");
+    row("subnet of two", 0xFFFFFFFE, "192.168.1.11", "255.255.255.254", "", "");
+    row("gateway", wide, "192.168.1.12", mask, "192.168.1.12", "This is the gateway's address.");
+    row("half an address", wide, "192.168.1.", mask, "", "The IP address is not complete.");
+    row("half a mask", wide, "192.168.1.12", "255.255", "", "The subnet mask is not complete.");
+    row("half a gateway", wide, "192.168.1.12", mask, "192.168", "The default gateway is not complete.");
+    row("other subnet", wide, "10.0.0.255", mask, "", "");
+}
+
+/** Beside what is said of the subnet, which stays. */
+void tst_SetIpDialog::remarks()
+{
+    QFETCH(uint, mask);
+    QFETCH(QString, remark);
+    Dialog dialog;
+    dialog.setNicNetmask(mask);
+    dialog.setNetmask(mask);
+    dialog.show();
+    const auto *const line = dialog.findChild<QLabel *>(QStringLiteral("remarkLabel"));
+    QCOMPARE(line->text(), dialog.remark());
+    const QSize size = dialog.size();
+    for (const auto &[name, column] :
+         {std::pair("ipEdit", "address"), std::pair("netmaskEdit", "typedMask"), std::pair("gatewayEdit", "gateway")}) {
+        dialog.edit(name)->clear();
+        QTest::keyClicks(dialog.edit(name), *static_cast<QString *>(QTest::qData(column, qMetaTypeId<QString>())));
+    }
+    QCOMPARE(dialog.remark(), remark);
+    QCOMPARE(line->text(), remark);
+    QCOMPARE(dialog.status()->text() == QLatin1String("IP Configuration OK"),
+             dialog.isAddressValid() && dialog.isMaskValid());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    QCOMPARE(dialog.size(), size); // it has its place
 }
 
 void tst_SetIpDialog::lastOctetIsReplaced()

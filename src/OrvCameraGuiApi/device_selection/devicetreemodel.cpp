@@ -140,6 +140,38 @@ QModelIndex DeviceTreeModel::getItemIdx(const QString &id) const
     return {};
 }
 
+DeviceTreeModel::Key DeviceTreeModel::keyOf(const QModelIndex &index) const
+{
+    const QVariant object = data(index, Qt::UserRole);
+    if (auto *const transport = object.value<OrvCam::Interface *>())
+        return {true, false, QByteArray(transport->GetID()), QByteArray()};
+    auto *const device = object.value<OrvCam::DeviceInfo *>();
+    if (!device)
+        return {};
+    return {true, true, keyOf(index.parent()).transport, QByteArray(device->GetID())};
+}
+
+QModelIndex DeviceTreeModel::indexOf(const Key &key) const
+{
+    QModelIndex elsewhere;
+    for (int row = 0; key.isItem && row < m_root->childCount(); ++row) {
+        auto *const transport = static_cast<InterfaceNode *>(m_root->child(row));
+        const bool isBelow = key.transport == transport->object()->GetID();
+        if (!key.isDevice && isBelow)
+            return index(transport);
+        for (int below = 0; key.isDevice && below < transport->childCount(); ++below) {
+            auto *const device = static_cast<DeviceInfoNode *>(transport->child(below));
+            if (key.device != device->object()->GetID())
+                continue;
+            if (isBelow)
+                return index(device);
+            if (!elsewhere.isValid())
+                elsewhere = index(device);
+        }
+    }
+    return elsewhere;
+}
+
 QModelIndex DeviceTreeModel::getFirstIdx() const
 {
     return index(0, 0);

@@ -3,6 +3,7 @@
 #include <OrvCameraGuiApi/camera_api/orvcam.h>
 
 #include <QAbstractItemModel>
+#include <QByteArray>
 #include <QStringList>
 
 #include <map>
@@ -39,6 +40,15 @@ public:
     /** By the identifier of the interface. */
     using Devices = std::map<QString, std::vector<OrvCam::DeviceInfo *>>;
 
+    /** Tells an item from all others by the bytes of the identifiers, in whatever list it stands; by default none. */
+    struct Key
+    {
+        bool isItem = false;
+        bool isDevice = false;
+        QByteArray transport; ///< of the interface, which the item itself may be
+        QByteArray device;
+    };
+
     /** Enumerates \a system, which outlives the model; null has no interfaces. */
     DeviceTreeModel(OrvCam::System *system, QObject *parent);
     ~DeviceTreeModel() override;
@@ -66,6 +76,14 @@ public:
      * been fetched is searched. Interfaces and devices share one space of identifiers.
      */
     QModelIndex getItemIdx(const QString &id) const;
+
+    Key keyOf(const QModelIndex &index) const;
+
+    /**
+     * The item of that key, or the device below another interface if it has gone there; invalid when there is none.
+     * Unlike texts, bytes are never alike where identifiers differ. Only what has been fetched is searched.
+     */
+    QModelIndex indexOf(const Key &key) const;
 
     /** The first interface, or an invalid index. */
     QModelIndex getFirstIdx() const;

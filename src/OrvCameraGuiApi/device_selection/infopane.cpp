@@ -2,11 +2,14 @@
 
 #include <OrvCameraGuiApi/device_selection/ip4validator.h>
 #include <OrvCameraGuiApi/device_selection/mactext.h>
+#include <OrvCameraGuiApi/windows/plaintooltip.h>
 
 #include <QBrush>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QStandardItemModel>
 #include <QStyle>
+#include <QToolTip>
 
 #include <algorithm>
 #include <utility>
@@ -77,12 +80,35 @@ OrvGenParam::Array *parametersOf(OrvCam::Interface *transport)
     return transport ? transport->GetParameters(&err) : nullptr;
 }
 
+constexpr std::int64_t missing = -1;
+
+/**
+ * Where the device stands in the list that its interface has now; the interface is not told to look again. The object
+ * itself counts before another of the same identifier.
+ */
+std::int64_t placeOf(OrvCam::DeviceInfo &device)
+{
+    OrvCam::Interface *const transport = device.GetInterface();
+    OrvCam::DeviceInfoList *const list = transport ? transport->GetDeviceInfoList() : nullptr;
+    if (!list)
+        return missing;
+    const QByteArray id(device.GetID());
+    std::int64_t place = missing;
+    std::int64_t i = 0;
+    for (auto *entry = list->GetSize() != 0 ? list->GetFirst() : nullptr; entry; entry = list->GetNext(), ++i) {
+        if (id == entry->GetID() && (place == missing || entry == &device))
+            place = i;
+    }
+    list->Release();
+    return place;
+}
+
 /** Red where the camera has fewer than the bandwidth of USB 3. */
-void addUsbVersion(QStandardItemModel &rows, OrvGenParam::Array *params, int row)
+void addUsbVersion(QStandardItemModel &rows, OrvGenParam::Array *params, OrvCam::DeviceInfo &device)
 {
     const char *const feature = "DeviceUSBVersionDetected";
     OrvCamErr err = OrvCamErr_Ok;
-    if (!params || !params->GetInt(feature, &err) || !selectDevice(params, row))
+    if (!params || !params->GetInt(feature, &err) || !selectDevice(params, device))
         return;
     const std::int64_t version = integerOf(params, feature).value_or(0);
     if (version == 0)
@@ -124,9 +150,10 @@ std::optional<std::int64_t> integerOf(OrvGenParam::Array *params, const char *na
     return params && err == OrvCamErr_Ok ? std::optional<std::int64_t>(value) : std::nullopt;
 }
 
-bool selectDevice(OrvGenParam::Array *params, int row)
+bool selectDevice(OrvGenParam::Array *params, OrvCam::DeviceInfo &device)
 {
-    return params && params->SetIntegerValue("DeviceSelector", row) == OrvCamErr_Ok;
+    const std::int64_t place = params ? placeOf(device) : missing;
+    return place != missing && params->SetIntegerValue("DeviceSelector", place) == OrvCamErr_Ok;
 }
 
 InfoPane::InfoPane(QWidget *parent)
@@ -143,7 +170,7 @@ InfoPane::InfoPane(QWidget *parent)
     setMinimumWidth(2 * (widestOwnText(fontMetrics()) + margins + frameWidth()));
 }
 
-void InfoPane::showDevice(OrvCam::DeviceInfo &device, int row)
+void InfoPane::showDevice(OrvCam::DeviceInfo &device)
 {
     auto *const rows = new QStandardItemModel(this);
     OrvCam::Interface *const transport = device.GetInterface();
@@ -155,10 +182,10 @@ void InfoPane::showDevice(OrvCam::DeviceInfo &device, int row)
     addRow(*rows, "Serial number", QString::fromUtf8(device.GetSerialNumber()));
     addRow(*rows, "Version", QString::fromUtf8(device.GetVersion()));
     addRow(*rows, "User name", QString::fromUtf8(device.GetUserDefinedName()));
-    addUsbVersion(*rows, params, row);
+    addUsbVersion(*rows, params, device);
     addRow(*rows, "Access status", accessText(device.GetAccessStatus()));
     if (isGigE) {
-        if (selectDevice(params, row))
+        if (selectDevice(params, device))
             addMac(*rows, params, "GevDeviceMACAddress");
         addText(*rows, "IP Address", device, &OrvCam::DeviceInfo::GetIPAddress);
         addText(*rows, "Netmask", device, &OrvCam::DeviceInfo::GetSubnetMask);
@@ -207,4 +234,15 @@ void InfoPane::showEvent(QShowEvent *event)
     QTreeView::showEvent(event);
     if (const int unseenWidth = std::exchange(m_unseenWidth, 0); unseenWidth != 0 && unseenWidth == columnWidth(0))
         setColumnWidth(0, viewport()->width() / 2);
+}
+
+bool InfoPane::viewportEvent(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QTreeView::viewportEvent(event);
+    const auto *const help = static_cast<QHelpEvent *>(event);
+    const QModelIndex index = indexAt(help->pos());
+    QToolTip::showText(help->globalPos(), plainToolTip(index.data(Qt::ToolTipRole).toString()), viewport(),
+                       visualRect(index));
+    return true;
 }

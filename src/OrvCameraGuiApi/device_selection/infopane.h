@@ -11,8 +11,11 @@
 /** The value of an integer feature; nothing where there are no parameters or the feature cannot be read. */
 std::optional<std::int64_t> integerOf(OrvGenParam::Array *params, const char *name);
 
-/** Whether the features that speak of a device now speak of that in \a row of the interface. */
-bool selectDevice(OrvGenParam::Array *params, int row);
+/**
+ * Whether the features of the device's interface that speak of a device now speak of that. What is shown may be older
+ * than what the interface lists, so its place is looked up there; false when it is missing.
+ */
+bool selectDevice(OrvGenParam::Array *params, OrvCam::DeviceInfo &device);
 
 /** A table of what there is to know about one object: labels and values. */
 class InfoPane : public QTreeView
@@ -22,8 +25,8 @@ class InfoPane : public QTreeView
 public:
     explicit InfoPane(QWidget *parent = nullptr);
 
-    /** \a row: where the device stands on its interface. Both are asked now and not kept. */
-    void showDevice(OrvCam::DeviceInfo &device, int row);
+    /** Both are asked now and not kept. */
+    void showDevice(OrvCam::DeviceInfo &device);
     void showInterface(OrvCam::Interface &transport);
 
     /** From now on the width of the label column survives what is shown next. */
@@ -31,6 +34,8 @@ public:
 
 protected:
     void showEvent(QShowEvent *event) override;
+    /** Shows tool tips as plain text: a camera's texts might look like HTML. */
+    bool viewportEvent(QEvent *event) override;
 
 private:
     void showRows(class QStandardItemModel *rows);

@@ -16,7 +16,7 @@ class OrvCameraSelectorDialogPrivate;
  * A tree shows the interfaces and their devices; two panes show what there is to know about the current ones. What
  * cannot be opened (no access, or an address in another subnet) cannot be chosen either; a GigE Vision camera can be
  * given an address that works. While "Polling" is checked a thread looks once a second for devices that have come or
- * gone; otherwise the button "Rescan" does.
+ * gone; otherwise the button "Rescan" does. Where the system has no thread to give, "Polling" is not checked.
  *
  * The result is read by selectedCamera() after the dialog has been accepted and before it is destroyed:
  * \code
@@ -39,7 +39,10 @@ public:
     /** Waits for an enumeration that is going on in the thread. */
     ~OrvCameraSelectorDialog() override;
 
-    /** The device that is current in the tree, or null. Belongs to the camera system. */
+    /**
+     * The device that is current in the tree, or null; once the dialog has been accepted, the one that was so then,
+     * until it is shown again. Belongs to the camera system.
+     */
     OrvCam::DeviceInfo *selectedCamera() const;
 
     /** Intentionally does nothing. */

@@ -1,9 +1,13 @@
 #include <OrvCameraGuiApi/device_selection/setipdialog.h>
 
+#include <OrvCameraGuiApi/device_selection/ip4proposal.h>
 #include <OrvCameraGuiApi/device_selection/ip4validator.h>
 #include <OrvCameraGuiApi/device_selection/mactext.h>
+#include <OrvCameraGuiApi/windows/fitscreen.h>
 
 #include <ui_setipdialog.h>
+
+#include <algorithm>
 
 class SetIpDialogPrivate
 {
@@ -11,6 +15,7 @@ public:
     void showAsInactive(const QPalette &palette);
     void makeRoom();
     void showStatus(bool sameSubnet);
+    QLineEdit *unfinished() const;
 
     Ui_SetIpDialog ui;
     bool addressValid = false;
@@ -59,6 +64,7 @@ void SetIpDialogPrivate::makeRoom()
         const int text = edit->fontMetrics().horizontalAdvance(QStringLiteral("DD:DD:DD:DD:DD:DD"));
         edit->setMinimumWidth(text + edit->sizeHint().height());
     }
+    ui.remarkLabel->setMinimumHeight(ui.remarkLabel->fontMetrics().lineSpacing());
 }
 
 void SetIpDialogPrivate::showStatus(bool sameSubnet)
@@ -74,6 +80,16 @@ void SetIpDialogPrivate::showStatus(bool sameSubnet)
     ui.statusLabel->setStyleSheet(maskValid && addressValid ? good() : bad());
 }
 
+/** The first such field. */
+QLineEdit *SetIpDialogPrivate::unfinished() const
+{
+    for (QLineEdit *edit : {ui.ipEdit, ui.netmaskEdit, ui.gatewayEdit}) {
+        if (!edit->hasAcceptableInput())
+            return edit;
+    }
+    return nullptr;
+}
+
 SetIpDialog::SetIpDialog(QWidget *parent)
     : QDialog(parent)
     , d(new SetIpDialogPrivate)
@@ -81,10 +97,13 @@ SetIpDialog::SetIpDialog(QWidget *parent)
     d->ui.setupUi(this);
     d->showAsInactive(palette());
     d->makeRoom();
+    openWithinScreen(*this);
     for (QLineEdit *edit : {d->ui.ipEdit, d->ui.netmaskEdit, d->ui.gatewayEdit})
         edit->setValidator(new IP4Validator(edit));
     for (QLineEdit *edit : {d->ui.ipEdit, d->ui.netmaskEdit})
         connect(edit, &QLineEdit::textChanged, this, &SetIpDialog::checkSubnet);
+    for (QLineEdit *edit : {d->ui.nicIpEdit, d->ui.nicNetmaskEdit, d->ui.ipEdit, d->ui.netmaskEdit, d->ui.gatewayEdit})
+        connect(edit, &QLineEdit::textChanged, this, [this] { d->ui.remarkLabel->setText(remark()); });
 }
 
 SetIpDialog::~SetIpDialog() = default;
@@ -147,6 +166,23 @@ bool SetIpDialog::isAddressValid() const
 bool SetIpDialog::isMaskValid() const
 {
     return d->maskValid;
+}
+
+QString SetIpDialog::remark() const
+{
+    if (const QLineEdit *const edit = d->unfinished()) {
+        if (edit == d->ui.ipEdit)
+            return tr("The IP address is not complete.");
+        return edit == d->ui.gatewayEdit ? tr("The default gateway is not complete.")
+                                         : tr("The subnet mask is not complete.");
+    }
+    const unsigned int mask = addressIn(d->ui.nicNetmaskEdit);
+    const bool sameSubnet = ((ipAddress() ^ addressIn(d->ui.nicIpEdit)) & mask) == 0;
+    if (sameSubnet && isNetworkAddress(ipAddress(), mask))
+        return tr("This is the address of the subnet itself.");
+    if (sameSubnet && isBroadcastAddress(ipAddress(), mask))
+        return tr("This is the subnet's broadcast address.");
+    return Gateway() != 0 && ipAddress() == Gateway() ? tr("This is the gateway's address.") : QString();
 }
 
 void SetIpDialog::setMACLineEdit(QLineEdit *edit, unsigned long long mac)

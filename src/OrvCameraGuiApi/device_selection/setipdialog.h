@@ -52,6 +52,13 @@ public:
     /** Whether the camera's mask is the adapter's. False until the first checkSubnet(). */
     bool isMaskValid() const;
 
+    /**
+     * What is wrong with entries that the two do not judge: an unfinished one, of which the missing octets count as 0,
+     * or a camera's address that is its gateway's or, in the adapter's subnet, stands for that or for all in it. Shown
+     * in a line of its own; empty when there is nothing.
+     */
+    QString remark() const;
+
     /** Writes \a mac as macText(). */
     void setMACLineEdit(QLineEdit *edit, unsigned long long mac);
 

@@ -1,5 +1,7 @@
 #include <OrvCameraGuiApi/device_selection/systempolling.h>
 
+#include <system_error>
+
 std::chrono::milliseconds SystemPolling::period(1000);
 
 SystemPolling::SystemPolling(std::function<void()> step)
@@ -12,12 +14,17 @@ SystemPolling::~SystemPolling()
     stop();
 }
 
-void SystemPolling::start()
+bool SystemPolling::start()
 {
     if (m_thread.joinable())
-        return;
+        return true;
     m_isOn = true;
-    m_thread = std::thread([this, pause = period] { run(pause); });
+    try {
+        m_thread = std::thread([this, pause = period] { run(pause); });
+    } catch (const std::system_error &) {
+        m_isOn = false;
+    }
+    return m_thread.joinable();
 }
 
 void SystemPolling::stop()

@@ -21,8 +21,8 @@ public:
     ~SystemPolling();
     Q_DISABLE_COPY(SystemPolling)
 
-    /** Does nothing while it is running. */
-    void start();
+    /** Does nothing while it is running. False when there is no thread to be had. */
+    bool start();
 
     /** Returns when the step that is running has ended, at once during a pause. */
     void stop();

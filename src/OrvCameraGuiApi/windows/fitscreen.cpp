@@ -1,0 +1,124 @@
+#include <OrvCameraGuiApi/windows/fitscreen.h>
+
+#include <QApplication>
+#include <QEvent>
+#include <QLayout>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyle>
+#include <QVBoxLayout>
+#include <QWindow>
+
+namespace {
+
+/** Around a window; before there is one, what the style takes for usual. */
+QMargins frameOf(const QWidget &window)
+{
+    const QMargins known = window.windowHandle() ? window.windowHandle()->frameMargins() : QMargins();
+    if (!known.isNull() || (window.windowFlags() & Qt::FramelessWindowHint))
+        return known;
+    const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window);
+    const int side = window.style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth, nullptr, &window);
+    return {side, title, side, side};
+}
+
+class WithinScreen : public QObject
+{
+public:
+    explicit WithinScreen(QWidget *window)
+        : QObject(window)
+    {
+        window->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        auto *const window = static_cast<QWidget *>(watched);
+        constexpr auto whole = Qt::WindowMaximized | Qt::WindowFullScreen;
+        if (!window->isWindow() || (window->windowState() & whole))
+            return false;
+        // What is in the window is shown before the window, so it learns a given size when that is polished.
+        if (event->type() == QEvent::Polish && window->testAttribute(Qt::WA_Resized))
+            fit(*window);
+        else if (event->type() == QEvent::Show && !event->spontaneous())
+            fit(*window);
+        return false;
+    }
+
+private:
+    static void fit(QWidget &window)
+    {
+        // Else the window would change its size under the eyes of people, and scroll bars would flash.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        const bool isGiven = window.testAttribute(Qt::WA_Resized);
+        // Qt gives a window no more than two thirds of the screen, unless its layout insists.
+        const QSize wanted = isGiven ? window.size() : window.size().expandedTo(window.sizeHint());
+        window.resize(wanted.boundedTo(roomOnScreen(window)));
+        window.setAttribute(Qt::WA_Resized, isGiven);
+    }
+};
+
+/** Needs as much as what is in it, as far as there is room on the screen. */
+class ContentsArea : public QScrollArea
+{
+public:
+    explicit ContentsArea(QWidget *parent)
+        : QScrollArea(parent)
+    {
+        setObjectName(QStringLiteral("scrollArea"));
+        setFrameShape(NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+        setWidgetResizable(true);
+        // Tab alone is followed by the area itself.
+        connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
+            if (now && widget()->isAncestorOf(now))
+                ensureWidgetVisible(now);
+        });
+    }
+
+    QSize sizeHint() const override { return withinRoom(widget()->sizeHint()); }
+    QSize minimumSizeHint() const override { return withinRoom(widget()->minimumSizeHint()); }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched == widget() && event->type() == QEvent::LayoutRequest)
+            updateGeometry();
+        return QScrollArea::eventFilter(watched, event);
+    }
+
+private:
+    /** With the width of a scroll bar where one is needed. */
+    QSize withinRoom(QSize size) const
+    {
+        const QSize room = roomOnScreen(*window());
+        if (size.height() > room.height())
+            size.rwidth() += verticalScrollBar()->sizeHint().width();
+        return size.boundedTo(room);
+    }
+};
+
+} // namespace
+
+QSize roomOnScreen(const QWidget &window)
+{
+    return window.screen()->availableGeometry().marginsRemoved(frameOf(window)).size();
+}
+
+void openWithinScreen(QWidget &window)
+{
+    new WithinScreen(&window);
+}
+
+void scrollWhereTooSmall(QWidget &window)
+{
+    openWithinScreen(window);
+    auto *const area = new ContentsArea(&window);
+    auto *const contents = new QWidget(area);
+    contents->setObjectName(QStringLiteral("scrollAreaContents"));
+    contents->setLayout(window.layout()); // which the window gives away, with the widgets
+    area->setWidget(contents);
+    auto *const layout = new QVBoxLayout(&window);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(area);
+}
