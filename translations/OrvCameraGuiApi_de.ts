@@ -1578,5 +1578,29 @@ Press OK to skip the IP Configuration, or press Ignore to confirm</source>
         <source>Default gateway of the camera</source>
         <translation>Standard-Gateway der Kamera</translation>
     </message>
+    <message>
+        <source>The IP address is not complete.</source>
+        <translation>Die IP-Adresse ist nicht vollständig.</translation>
+    </message>
+    <message>
+        <source>The default gateway is not complete.</source>
+        <translation>Das Standardgateway ist nicht vollständig.</translation>
+    </message>
+    <message>
+        <source>The subnet mask is not complete.</source>
+        <translation>Die Subnetzmaske ist nicht vollständig.</translation>
+    </message>
+    <message>
+        <source>This is the address of the subnet itself.</source>
+        <translation>Das ist die Adresse des Subnetzes selbst.</translation>
+    </message>
+    <message>
+        <source>This is the subnet&apos;s broadcast address.</source>
+        <translation>Das ist die Broadcast-Adresse des Subnetzes.</translation>
+    </message>
+    <message>
+        <source>This is the gateway&apos;s address.</source>
+        <translation>Das ist die Adresse des Gateways.</translation>
+    </message>
 </context>
 </TS>

@@ -1578,5 +1578,29 @@ Press OK to skip the IP Configuration, or press Ignore to confirm</source>
         <source>Default gateway of the camera</source>
         <translation>カメラのデフォルトゲートウェイ</translation>
     </message>
+    <message>
+        <source>The IP address is not complete.</source>
+        <translation>IP アドレスが完全ではありません。</translation>
+    </message>
+    <message>
+        <source>The default gateway is not complete.</source>
+        <translation>デフォルトゲートウェイが完全ではありません。</translation>
+    </message>
+    <message>
+        <source>The subnet mask is not complete.</source>
+        <translation>サブネットマスクが完全ではありません。</translation>
+    </message>
+    <message>
+        <source>This is the address of the subnet itself.</source>
+        <translation>これはサブネット自体のアドレスです。</translation>
+    </message>
+    <message>
+        <source>This is the subnet&apos;s broadcast address.</source>
+        <translation>これはサブネットのブロードキャストアドレスです。</translation>
+    </message>
+    <message>
+        <source>This is the gateway&apos;s address.</source>
+        <translation>これはゲートウェイのアドレスです。</translation>
+    </message>
 </context>
 </TS>

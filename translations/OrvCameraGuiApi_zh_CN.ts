@@ -1578,5 +1578,29 @@ Press OK to skip the IP Configuration, or press Ignore to confirm</source>
         <source>Default gateway of the camera</source>
         <translation>相机的默认网关</translation>
     </message>
+    <message>
+        <source>The IP address is not complete.</source>
+        <translation>IP 地址不完整。</translation>
+    </message>
+    <message>
+        <source>The default gateway is not complete.</source>
+        <translation>默认网关不完整。</translation>
+    </message>
+    <message>
+        <source>The subnet mask is not complete.</source>
+        <translation>子网掩码不完整。</translation>
+    </message>
+    <message>
+        <source>This is the address of the subnet itself.</source>
+        <translation>这是子网本身的地址。</translation>
+    </message>
+    <message>
+        <source>This is the subnet&apos;s broadcast address.</source>
+        <translation>这是子网的广播地址。</translation>
+    </message>
+    <message>
+        <source>This is the gateway&apos;s address.</source>
+        <translation>这是网关的地址。</translation>
+    </message>
 </context>
 </TS>
