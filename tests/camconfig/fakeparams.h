@@ -46,6 +46,8 @@ public:
     OrvCamErr answer = OrvCamErr_Ok; ///< of the next writes
     OrvCamErr readAnswer = OrvCamErr_Ok; ///< of the next reads of an integer
     std::function<void()> whileWriting;
+    std::function<void()> afterWriting; ///< a value that is taken
+    bool reports = true; ///< what was written
     std::set<OrvGenParam::ParamEventSink *> sinks;
     std::vector<std::int64_t> writes;
 
@@ -61,7 +63,10 @@ protected:
             whileWriting();
         if (answer == OrvCamErr_Ok) {
             place = value;
-            notify();
+            if (afterWriting)
+                afterWriting();
+            if (reports)
+                notify();
         }
         return answer;
     }

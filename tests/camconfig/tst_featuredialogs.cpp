@@ -378,7 +378,7 @@ void FeatureDialogsTest::colorFollowsTheBalance()
     enterInto(balance, "Auto");
     QVERIFY(!part<QWidget>(dialog, "spBoxRed")->isEnabled());
     QVERIFY(OrvSim::setRegister(SimTest::twoFrame, "BalanceWhiteAuto", "0"));
-    QTRY_COMPARE(balance->currentText(), QStringLiteral("Off"));
+    QTRY_COMPARE_WITH_TIMEOUT(balance->currentText(), QStringLiteral("Off"), 20000);
     QVERIFY(part<QWidget>(dialog, "spBoxRed")->isEnabled());
 }
 
@@ -515,6 +515,10 @@ void FeatureDialogsTest::pulseStartsAndStops()
         QTRY_COMPARE(generatorState(dialog), state);
         QCOMPARE(camera.value("PulseGenEnable"), QVariant(state == running()).toString());
     }
+    QVERIFY(camera.refuse("PulseGenEnable"));
+    QTest::mouseClick(part<QWidget>(dialog, "pushBtnPulseEnable"), Qt::LeftButton);
+    QVERIFY(!takeMessage().isEmpty());
+    QCOMPARE(generatorState(dialog), running());
     QVERIFY(dialog.SetDevice(camera.device()));
     QCOMPARE(generatorState(dialog), running());
     const Camera bare(plugInBareCamera());

@@ -46,6 +46,8 @@ private Q_SLOTS:
     void digitalGain();
     void digitalGainIsSteppedThrough();
     void digitalGainWithOneFeature();
+    void whatCannotBeReadIsNotShown();
+    void aRefusedModeSelectsNothing();
     void frameModeOfTheUser();
     void frameModeOfAnotherWindow();
     void pagesComeBack();
@@ -245,10 +247,21 @@ void OrvCamConfigFrameABDialogTest::digitalGain()
     QCOMPARE(gain->value(), 3.5); // the half that was taken
     QVERIFY(OrvGui::ControlWatch::of(gain)->isMarked());
     QVERIFY(gain->toolTip().contains(QStringLiteral("3.5")));
-    camera.takeWrites();
-    enter(gain->spinBox(), "3.5"); // as the camera has it
-    QCOMPARE(camera.takeWrites(), 0);
+    QTest::keyClick(gain->spinBox(), Qt::Key_Escape);
+    QVERIFY(!OrvGui::ControlWatch::of(gain)->isMarked() && dialog.isVisible());
+    enter(gain->spinBox(), "3"); // for which the half that can be written is enough
     QVERIFY(!OrvGui::ControlWatch::of(gain)->isMarked());
+    OrvSim::clearFaults(SimTest::twoFrame);
+
+    QVERIFY(camera.set("Frame_DigitalCourseGain", "0"));
+    for (int fine = -32; fine < 64; ++fine) { // what is shown can be typed, and is what the camera has
+        QVERIFY(camera.set("Frame_DigitalFineGain", QByteArray::number(fine)));
+        const QString shown = gain->spinBox()->text();
+        camera.takeWrites();
+        enter(gain->spinBox(), shown.toUtf8());
+        QCOMPARE(camera.takeWrites(), 0);
+        QCOMPARE(gain->spinBox()->text(), shown);
+    }
 }
 
 /** From a gain of 16 on a step of 0.125 is less than what the camera can tell apart. */
@@ -296,6 +309,40 @@ void OrvCamConfigFrameABDialogTest::digitalGainWithOneFeature()
         enterInto(gain, entered);
         QCOMPARE(camera.value(other), QLatin1String(written));
     }
+}
+
+/** Neither 0 nor what was last known is the camera's. */
+void OrvCamConfigFrameABDialogTest::whatCannotBeReadIsNotShown()
+{
+    const Camera camera;
+    const char *const features[] = {"Frame_ExposureLines", "Frame_ExposureClocks", "Frame_DigitalCourseGain"};
+    for (const char *const feature : features)
+        QVERIFY(OrvSim::setFault(SimTest::twoFrame, feature, OrvSim::Fault::FailRead));
+    QVERIFY(camera.set("Frame_FixedFramePeriodEnable", "false"));
+    OrvCamConfigFrameABDialog dialog(camera.device());
+    QVERIFY(show(dialog));
+    auto *const time = part<QtOrvSliderSpinBox>(dialog, "spBoxExposureTime");
+    QCOMPARE(time->spinBox()->text(), QString());
+    QCOMPARE(part<QtOrvGainSlider>(dialog, "gainDigital")->spinBox()->text(), QString());
+    camera.takeWrites();
+    enter(time->spinBox(), "0"); // written, as nothing can be compared
+    QCOMPARE(camera.takeWrites(), 2);
+}
+
+/** The mode that stays decides, not the one that was refused. */
+void OrvCamConfigFrameABDialogTest::aRefusedModeSelectsNothing()
+{
+    const Camera camera;
+    OrvCamConfigFrameABDialog dialog(camera.device());
+    QVERIFY(show(dialog));
+    QVERIFY(camera.refuse("FrameMode"));
+    camera.takeWrites();
+    QTest::keyClick(part<QComboBox>(dialog, "cmBoxFrameMode"), Qt::Key_Up);
+    QVERIFY(!takeMessage().isEmpty());
+    QCOMPARE(camera.takeWrites(), 1); // the refused one
+    QCOMPARE(camera.value("FrameAB_Selector"), QStringLiteral("FrameA"));
+    QCOMPARE(part<QTabWidget>(dialog, "tabFrames")->currentIndex(), 0);
+    QVERIFY(part<QWidget>(dialog, "spBoxNumFrameAs")->isEnabled());
 }
 
 void OrvCamConfigFrameABDialogTest::frameModeOfTheUser()

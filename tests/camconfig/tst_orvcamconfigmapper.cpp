@@ -158,6 +158,8 @@ private Q_SLOTS:
     void unboundControlsAreLeftAlone();
     void aRefreshMayUnbindAndDestroy();
     void aWriteMayDestroyTheMapper();
+    void unbindingMayDestroyTheMapper();
+    void aNestedLoopMakesNoSecondEntry();
     void otherThreadsAreHeardOnTheGuiThread();
     void describesErrors();
     void aMessageSurvivesWhatHappensToItsParent();
@@ -276,6 +278,7 @@ void OrvCamConfigMapperTest::aRefusedEntryIsMarkedUntilItGoes()
         const ControlWatch *const watch = ControlWatch::of(row.marked);
         row.marked->setFocus();
         row.enter();
+        QTRY_VERIFY(shownMessage() && shownMessage()->isAncestorOf(QApplication::focusWidget()));
         QVERIFY(!takeMessage().isEmpty()); // whose focus is no leaving
         QVERIFY(watch->isMarked());
         QVERIFY2(row.marked->toolTip().contains(row.cameras), qPrintable(row.marked->toolTip()));
@@ -294,6 +297,18 @@ void OrvCamConfigMapperTest::aRefusedEntryIsMarkedUntilItGoes()
         QVERIFY(DialogTest::shownBy(row.marked) != row.entered);
         QVERIFY(panel.window.isVisible());
     }
+    panel.sliderParam.writes.clear(); // a press on the handle enters nothing, marked or not
+    DialogTest::enter(panel.sliderSpin.spinBox(), "42");
+    QVERIFY(!takeMessage().isEmpty());
+    QSlider *const slider = panel.sliderSpin.slider()->slider();
+    QTest::mouseClick(slider, Qt::LeftButton, {}, handle(*slider));
+    QCOMPARE(panel.sliderParam.writes, Writes{42});
+    panel.sliderParam.whileWriting = [&] { panel.sliderParam.notify(); }; // of the value that stays
+    DialogTest::enter(panel.sliderSpin.spinBox(), "43");
+    QVERIFY(!takeMessage().isEmpty());
+    QVERIFY(!ControlWatch::of(&panel.sliderSpin)->isMarked());
+    QCOMPARE(panel.sliderSpin.value(), 0);
+
     // A page would keep controls for an entry that is not the camera's.
     panel.tabParam.answer = OrvCamErr_GenICamOutOfRange;
     QTest::mouseClick(panel.tabs.tabBar(), Qt::LeftButton, {}, panel.tabs.tabBar()->tabRect(1).center());
@@ -347,9 +362,21 @@ void OrvCamConfigMapperTest::whatIsNewsIsDecidedByTheCamera()
     panel.sliderParam.readAnswer = OrvCamErr_GenICamAccessError; // neither 0 nor any other number is the camera's
     panel.sliderParam.notify();
     QCOMPARE(panel.sliderSpin.spinBox()->text(), QString());
+    DialogTest::enter(panel.sliderSpin.spinBox(), "0"); // which a failed read gives, too
+    QCOMPARE(panel.sliderParam.writes, (Writes{100, 0}));
+    panel.sliderParam.value = 100;
     panel.sliderParam.readAnswer = OrvCamErr_Ok;
     panel.sliderParam.notify();
     QCOMPARE(panel.sliderSpin.spinBox()->text(), QStringLiteral("100"));
+
+    panel.sliderParam.reports = false; // a camera that says nothing of what it made of the entry
+    panel.sliderParam.afterWriting = [&] { panel.sliderParam.value = 40; };
+    DialogTest::enter(panel.sliderSpin.spinBox(), "42");
+    QCOMPARE(panel.sliderSpin.value(), 40);
+
+    panel.comboParam.value = 77; // without an item
+    panel.comboParam.notify();
+    QVERIFY(panel.combo.toolTip().contains(QStringLiteral("77")));
 }
 
 void OrvCamConfigMapperTest::aDroppedEntryIsTakenBack()
@@ -704,9 +731,13 @@ void OrvCamConfigMapperTest::aCommandWaitsForItsTimer()
     QCOMPARE(takeMessage(), refusal("Feature", "Invalid state"));
     QCOMPARE(panel.commandParam.writes, Writes{1});
     panel.command.setEnabled(true);
-    timer.reset();
     QTest::mouseClick(&panel.command, Qt::LeftButton);
+    QVERIFY(!panel.command.isEnabled());
+    QCOMPARE(takeMessage(), refusal("Feature", "Invalid state"));
+    timer.reset();
     QVERIFY(panel.command.isEnabled()); // nobody would enable it again
+    QTest::mouseClick(&panel.command, Qt::LeftButton);
+    QVERIFY(panel.command.isEnabled());
     QCOMPARE(takeMessage(), refusal("Feature", "Invalid state"));
     panel.mapper->unmapAll();
 }
@@ -728,6 +759,10 @@ void OrvCamConfigMapperTest::aFeatureHasOneControl()
     QCOMPARE(param.sinks.size(), std::size_t(1));
     mapper.mapIntParam(&param, &second);
     QVERIFY(second.isEnabled());
+    FakeParams::Int namesake;
+    mapper.mapIntParam(&namesake, &second);
+    QVERIFY(param.sinks.empty());
+    mapper.mapIntParam(&param, &second);
     first.reset();
     QCOMPARE(destroyed.size(), 1); // no user signal
     mapper.unmapAll();
@@ -793,6 +828,43 @@ void OrvCamConfigMapperTest::aWriteMayDestroyTheMapper()
     };
     DialogTest::enter(panel.spin.spinBox(), "42");
     QCOMPARE(takeMessage(), refusal("Spin", "No device"));
+}
+
+/** A field that is disabled says that editing is over. */
+void OrvCamConfigMapperTest::unbindingMayDestroyTheMapper()
+{
+    Panel panel;
+    panel.bind();
+    QVERIFY(DialogTest::show(panel.window));
+    panel.spin.spinBox()->setFocus();
+    QObject::connect(panel.spin.spinBox(), &QAbstractSpinBox::editingFinished, &panel.window, [&] {
+        if (panel.mapper)
+            panel.mapper->unmapAll();
+        panel.mapper.reset();
+    });
+    panel.mapper->unmapAll();
+    QVERIFY(!panel.mapper);
+}
+
+/** Two signals, between which a slot runs an event loop, are still one entry. */
+void OrvCamConfigMapperTest::aNestedLoopMakesNoSecondEntry()
+{
+    Panel panel;
+    panel.bind();
+    QVERIFY(DialogTest::show(panel.window));
+    panel.checkParam.answer = OrvCamErr_GenICamAccessError;
+    panel.checkParam.whileWriting = [&] {
+        QEventLoop loop;
+        QTimer::singleShot(5, &loop, [&] {
+            DialogTest::enter(panel.spin.spinBox(), "42"); // what is entered meanwhile is
+            loop.quit();
+        });
+        loop.exec();
+    };
+    DialogTest::clickMark(&panel.check);
+    QCOMPARE(panel.checkParam.writes, Writes{1});
+    QCOMPARE(panel.spinParam.writes, Writes{42});
+    QVERIFY(!takeMessage().isEmpty());
 }
 
 void OrvCamConfigMapperTest::otherThreadsAreHeardOnTheGuiThread()

@@ -15,6 +15,7 @@
 #include <QComboBox>
 #include <QFocusFrame>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QMessageBox>
 #include <QPainter>
 #include <QScrollBar>
@@ -150,6 +151,13 @@ void ControlWatch::clear()
     tell(QString());
 }
 
+QString ControlWatch::numberText(std::int64_t number, const QWidget *control)
+{
+    QLocale locale = control->locale();
+    locale.setNumberOptions(locale.numberOptions() | QLocale::OmitGroupSeparator);
+    return locale.toString(qlonglong(number));
+}
+
 QString ControlWatch::valueText(const QString &cameraValue)
 {
     return tr("The camera's value is %1.").arg(cameraValue);
@@ -210,7 +218,7 @@ bool ControlWatch::eventFilter(QObject *watched, QEvent *event)
         event->accept();
         if (event->type() == QEvent::KeyPress)
             giveUp();
-        return true;
+        return event->type() == QEvent::ShortcutOverride || !isMarked(); // else the key goes on, to close the window
     default:
         return false;
     }

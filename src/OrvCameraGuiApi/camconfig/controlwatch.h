@@ -6,6 +6,8 @@
 #include <QString>
 #include <QWidget>
 
+#include <cstdint>
+
 namespace OrvGui {
 
 /**
@@ -37,6 +39,9 @@ public:
     void note(const QString &text);
     /** The control shows the camera's value, no more and no less. */
     void clear();
+
+    /** \a number as the field of \a control writes it. */
+    static QString numberText(std::int64_t number, const QWidget *control);
 
     /** What note() is given for a value that the control cannot show. */
     static QString valueText(const QString &cameraValue);

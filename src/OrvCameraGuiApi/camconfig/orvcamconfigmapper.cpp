@@ -17,7 +17,6 @@
 #include <QIntValidator>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QMessageBox>
 #include <QMetaMethod>
 #include <QPushButton>
@@ -25,6 +24,7 @@
 #include <QSpinBox>
 #include <QStandardItemModel>
 #include <QTabWidget>
+#include <QThread>
 #include <QTimer>
 
 #include <algorithm>
@@ -79,11 +79,23 @@ public:
     void begin(QObject *context) const
     {
         *m_begun = true;
-        QTimer::singleShot(0, context, [begun = m_begun] { *begun = false; });
+        endSoon(context, m_begun, QThread::currentThread()->loopLevel());
     }
     bool isSecondSignal() const { return std::exchange(*m_begun, false); }
 
 private:
+    /** Not by an event loop that a slot runs between the two signals. */
+    static void endSoon(QObject *context, const std::shared_ptr<bool> &begun, int level)
+    {
+        const bool isNested = QThread::currentThread()->loopLevel() > level;
+        QTimer::singleShot(isNested ? 20 : 0, context, [=] {
+            if (QThread::currentThread()->loopLevel() > level)
+                endSoon(context, begun, level);
+            else
+                *begun = false;
+        });
+    }
+
     const std::shared_ptr<bool> m_begun = std::make_shared<bool>(false);
 };
 
@@ -121,14 +133,6 @@ void showValue(Control *control, int value)
     control->setValue(value);
 }
 
-/** Nothing stands between prefix and suffix, and it was not the user who took it away. */
-template <typename Field>
-bool isEmptied(const Field *field)
-{
-    const EntryGuard *const guard = EntryGuard::of(field);
-    return field->text() == field->prefix() + field->suffix() && !(guard && guard->isTouched());
-}
-
 /**
  * What the camera says is shown as it is: only entries are moved to a step. What shows already is left alone, and with
  * it what is being typed.
@@ -136,7 +140,7 @@ bool isEmptied(const Field *field)
 template <typename Composite>
 void showInComposite(Composite *composite, int value)
 {
-    if (composite->value() != value || isEmptied(composite->spinBox()))
+    if (composite->value() != value || SpinSlider::isEmptied(composite->spinBox()))
         SpinSlider::showUnmoved(composite->spinBox(), value);
 }
 
@@ -233,23 +237,15 @@ void clearMarks(const OrvGui::OrvCamConfigMapData &record)
     }
 }
 
-/** What is being dragged when its feature is locked would show a number that is nobody's. */
-void endDrag(const OrvGui::OrvCamConfigMapData &record)
+/** The symbolic value, else the number; empty when it cannot be read. */
+QString valueInWords(OrvGenParam::Enum *param)
 {
-    const auto *const spinBox = qobject_cast<QtOrvSpinBox *>(record.control);
-    const auto *const slider = qobject_cast<QtOrvSliderSpinBox *>(record.control);
-    if (spinBox)
-        spinBox->slider()->slider()->setSliderDown(false);
-    if (slider)
-        slider->slider()->slider()->setSliderDown(false);
-}
-
-/** As the field of \a control writes it. */
-QString numberText(std::int64_t number, const QWidget *control)
-{
-    QLocale locale = control->locale();
-    locale.setNumberOptions(locale.numberOptions() | QLocale::OmitGroupSeparator);
-    return locale.toString(qlonglong(number));
+    OrvCamErr err = OrvCamErr_Ok;
+    const std::int64_t value = param->GetValue(&err);
+    if (err != OrvCamErr_Ok)
+        return {};
+    const QString symbolic = QString::fromUtf8(param->GetValueStr(nullptr));
+    return symbolic.isEmpty() ? QString::number(value) : symbolic;
 }
 
 /** The control shows the camera's value; its tool tip gives \a value, if there is one, for what it cannot show. */
@@ -359,15 +355,15 @@ class OrvCamConfigMapper::RefreshGuard
 {
 public:
     explicit RefreshGuard(const OrvCamConfigMapper *mapper)
-        : m_refreshing(mapper->m_refreshing)
+        : m_refreshes(mapper->m_refreshes)
     {
-        ++*m_refreshing;
+        m_refreshes->append(QThread::currentThread()->loopLevel());
     }
-    ~RefreshGuard() { --*m_refreshing; }
+    ~RefreshGuard() { m_refreshes->removeLast(); }
     Q_DISABLE_COPY(RefreshGuard)
 
 private:
-    const std::shared_ptr<int> m_refreshing;
+    const std::shared_ptr<QVector<int>> m_refreshes;
 };
 
 /** What the user entered into a control. */
@@ -392,7 +388,7 @@ struct OrvCamConfigMapper::IntView
 
 OrvCamConfigMapper::OrvCamConfigMapper(std::int64_t upperClamp)
     : m_upperClamp(upperClamp)
-    , m_refreshing(std::make_shared<int>(0))
+    , m_refreshes(std::make_shared<QVector<int>>())
     , m_reports([this](OrvGenParam::Param *param) {
         if (std::find(m_params.cbegin(), m_params.cend(), param) != m_params.cend()) // else unbound meanwhile
             show(param);
@@ -456,13 +452,19 @@ void OrvCamConfigMapper::registerAt(OrvGenParam::Param *param)
     param->RegisterEvent(this);
 }
 
+/** In an event loop that a slot of a refresh runs, the user enters as always. */
+bool OrvCamConfigMapper::isBarred() const
+{
+    return isRefreshing() && m_refreshes->last() >= QThread::currentThread()->loopLevel();
+}
+
 /*
  * While the camera is told, anything may happen: it may report, and what hangs on that may unbind the parameter or
  * destroy the control and the mapper. A message needs none of them but the control.
  */
 void OrvCamConfigMapper::enter(const Entry &entry)
 {
-    if (isRefreshing())
+    if (isBarred())
         return dropWhileRefreshing(entry);
     if (!entry.param->IsWritable() || !entry.isNews())
         return takeBack(entry.param, entry.control);
@@ -543,7 +545,7 @@ QString OrvCamConfigMapper::cameraText(OrvGenParam::Param *param, const QWidget 
         const bool converts = !records.isEmpty() && records.first().type == Kind::SliderSpinBox;
         auto *const converter = converts ? static_cast<IOrvCamConfigIntConverter *>(records.first().extra) : nullptr;
         const std::int64_t value = number->GetValue(&err);
-        text = numberText(converter ? converter->ToControl(value, number) : value, control);
+        text = ControlWatch::numberText(converter ? converter->ToControl(value, number) : value, control);
     } else if (auto *const choice = dynamic_cast<OrvGenParam::Enum *>(param)) {
         text = QString::fromUtf8(choice->GetValueStr(&err));
     } else if (auto *const truth = dynamic_cast<OrvGenParam::Boolean *>(param)) {
@@ -764,8 +766,11 @@ int OrvCamConfigMapper::mapCommandParam(OrvGenParam::Command *param, QPushButton
             waiting->start();
         return err;
     };
-    QObject::connect(button, &QAbstractButton::clicked, newContext(record), [=] {
-        if (isRefreshing() || !param->IsWritable())
+    QObject *const context = newContext(record);
+    if (timer) // without it nobody would enable the button again
+        QObject::connect(timer, &QObject::destroyed, context, [=] { button->setEnabled(isUsable(param)); });
+    QObject::connect(button, &QAbstractButton::clicked, context, [=] {
+        if (isBarred() || !param->IsWritable())
             return;
         const QString name = nameOf(param);
         const QPointer<QWidget> parent(button);
@@ -831,9 +836,13 @@ void OrvCamConfigMapper::unmapAll()
     m_dropped.clear();
     for (OrvGenParam::Param *const param : params)
         param->UnregisterEvent(this);
+    // A field that loses the focus may tell somebody who destroys the mapper.
+    const QPointer<QObject> alive(&m_context);
     for (const Records &records : bindings) {
-        for (const OrvCamConfigMapData &record : records)
-            unmapControl(record);
+        for (const OrvCamConfigMapData &record : records) {
+            if (alive)
+                unmapControl(record);
+        }
     }
 }
 
@@ -869,8 +878,6 @@ bool OrvCamConfigMapper::show(OrvGenParam::Param *param)
     if (isShown)
         ++m_timesShown[name];
     for (const OrvCamConfigMapData &record : records) {
-        if (!isUsable)
-            endDrag(record);
         if (!isShown || !isBound(record))
             continue;
         clearMarks(record);
@@ -988,8 +995,10 @@ void OrvCamConfigMapper::updateComboBox(OrvGenParam::Enum *param, QComboBox *com
         OrvGenParam::EnumEntry *const entry = param->GetEnumEntryByIndex(index.isValid() ? index.toInt() : i, nullptr);
         model->item(i, comboBox->modelColumn())->setEnabled(entry && entry->IsAvailable());
     }
-    // A value that is not in the list shows as nothing.
-    comboBox->setCurrentIndex(comboBox->findText(QString::fromUtf8(param->GetValueStr(nullptr))));
+    // A value that is not in the list shows as nothing, and in the tool tip.
+    const int index = comboBox->findText(QString::fromUtf8(param->GetValueStr(nullptr)));
+    noteValue(comboBox, index < 0 ? valueInWords(param) : QString());
+    comboBox->setCurrentIndex(index);
 }
 
 void OrvCamConfigMapper::updateRadioButtons(OrvGenParam::Enum *param, QButtonGroup *group)
@@ -997,12 +1006,8 @@ void OrvCamConfigMapper::updateRadioButtons(OrvGenParam::Enum *param, QButtonGro
     if (!param || !group)
         return;
     const RefreshGuard guard(this);
-    OrvCamErr err = OrvCamErr_Ok;
-    const std::int64_t value = param->GetValue(&err);
-    QAbstractButton *const button = buttonOf(group, value);
-    QString unseen = button || err != OrvCamErr_Ok ? QString() : QString::fromUtf8(param->GetValueStr(nullptr));
-    if (unseen.isEmpty() && !button && err == OrvCamErr_Ok)
-        unseen = QString::number(value);
+    QAbstractButton *const button = buttonOf(group, param->GetValue(nullptr));
+    const QString unseen = button ? QString() : valueInWords(param);
     const QList<QAbstractButton *> buttons = group->buttons();
     for (QAbstractButton *const other : buttons)
         noteValue(other, unseen);
@@ -1021,7 +1026,11 @@ void OrvCamConfigMapper::updateTabWidget(OrvGenParam::Enum *param, QTabWidget *t
     const QPointer<QTabWidget> alive(tabWidget);
     const QHash<QString, int> places = m_tabs[nameOf(param)];
     const int tabs = std::min(tabWidget->count(), param->GetEnumEntriesCount(nullptr));
-    tabWidget->setCurrentIndex(places.value(QString::fromUtf8(param->GetValueStr(nullptr)), 0));
+    const QString shown = QString::fromUtf8(param->GetValueStr(nullptr));
+    const int current = places.value(shown, 0);
+    const QString unseen = places.contains(shown) ? QString() : valueInWords(param);
+    tabWidget->setTabToolTip(current, unseen.isEmpty() ? QString() : ControlWatch::valueText(unseen));
+    tabWidget->setCurrentIndex(current);
     for (int i = 0; alive && i < tabs; ++i) {
         OrvGenParam::EnumEntry *const entry = param->GetEnumEntryByIndex(i, nullptr);
         const int place = entry ? places.value(nameOf(entry), -1) : -1;
@@ -1080,7 +1089,7 @@ void OrvCamConfigMapper::showInt(OrvGenParam::Int *param, Control *control, IOrv
     const QPointer<Control> alive(control);
     const IntView view = viewOf(param, converter);
     const bool isBeyond = view.isKnown && view.trueValue != view.value;
-    noteValue(control, isBeyond ? numberText(view.trueValue, control) : QString());
+    noteValue(control, isBeyond ? ControlWatch::numberText(view.trueValue, control) : QString());
     showRange(control, view.minimum, view.maximum, view.value);
     if (alive)
         control->setSingleStep(view.step);

@@ -157,7 +157,7 @@ public:
     void setAfterShow(const std::function<void(OrvGenParam::Param *param)> &rule) { m_afterShow = rule; }
 
     /** Whether a refresh is going on: entries into bound controls are not written then. */
-    bool isRefreshing() const { return *m_refreshing > 0; }
+    bool isRefreshing() const { return !m_refreshes->isEmpty(); }
 
     /**
      * Shows the state of \a param in all that a parameter of its name is bound to. Notifications that come on another
@@ -210,6 +210,7 @@ private:
     template <typename Param>
     int mapButton(Param *param, QAbstractButton *button, std::int32_t type);
 
+    bool isBarred() const;
     void enter(const Entry &entry);
     void dropWhileRefreshing(const Entry &entry);
     void settle();
@@ -238,7 +239,7 @@ private:
     QHash<QString, QPointer<QWidget>> m_dropped; ///< by feature name: entered during a refresh, to be taken back
     std::function<void(OrvGenParam::Param *)> m_afterShow;
     bool m_isSettling = false; ///< dropped entries are being taken back
-    std::shared_ptr<int> m_refreshing; ///< how many refreshes are going on; outlives the mapper while one is
+    std::shared_ptr<QVector<int>> m_refreshes; ///< those going on, by their event loops; outlive the mapper
     QObject m_context; ///< lives as long as the mapper
     ReportRelay<OrvGenParam::Param *> m_reports;
 };

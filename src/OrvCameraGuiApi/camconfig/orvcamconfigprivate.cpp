@@ -3,7 +3,9 @@
 #include <OrvCameraGuiApi/camconfig/dialogs/dialogparts.h>
 #include <OrvCameraGuiApi/camconfig/orvcamconfigaboutdialog.h>
 #include <OrvCameraGuiApi/device_selection/orvcameraselectordialog.h>
+#include <OrvCameraGuiApi/widgets/entryguard.h>
 
+#include <QAbstractSpinBox>
 #include <QDialog>
 #include <QLabel>
 
@@ -48,10 +50,22 @@ void OrvCamConfigPrivate::step()
         modeChanged = true;
     stepsSinceBoth = std::min(stepsSinceBoth + 1, forgetful);
     markColumns();
-    if (frameMode == BothFrames && std::exchange(modeChanged, false))
+    if (frameMode == BothFrames && modeChanged && !isTextBeingTyped()) {
+        modeChanged = false;
         updateBoth();
-    else
+    } else {
         updateInfo(frameBeingRead());
+    }
+}
+
+/** To read the other frame refreshes all fields of the dialogs, and what is typed in one of them would be lost. */
+bool OrvCamConfigPrivate::isTextBeingTyped() const
+{
+    return std::any_of(dialogs.begin(), dialogs.end(), [](const DialogLink &link) {
+        const auto *const field = qobject_cast<QAbstractSpinBox *>(link.dialog->focusWidget());
+        const EntryGuard *const guard = field ? EntryGuard::of(field) : nullptr;
+        return guard && (guard->isTouched() || guard->isBlocked());
+    });
 }
 
 /** The device stays: it may come back. */

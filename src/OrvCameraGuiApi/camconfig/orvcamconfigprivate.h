@@ -95,6 +95,7 @@ public:
     void updateTemperature();
     void updateInfo(Frame frame);
     void updateBoth();
+    bool isTextBeingTyped() const;
     Frame frameBeingRead() const;
     void markColumns();
     void setColumnColor(Frame frame, const QColor &color);

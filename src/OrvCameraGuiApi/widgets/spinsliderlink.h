@@ -1,5 +1,6 @@
 #pragma once
 
+#include <OrvCameraGuiApi/widgets/entryguard.h>
 #include <OrvCameraGuiApi/widgets/qtorvdoublespinboxval.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
@@ -115,6 +116,14 @@ inline void showUnmoved(QtOrvSpinBoxVal *spinBox, int value)
 inline void showUnmoved(QtOrvDoubleSpinBoxVal *spinBox, double value)
 {
     spinBox->QDoubleSpinBox::setValue(value);
+}
+
+/** Nothing stands between prefix and suffix, and it was not the user who took it away. */
+template <typename Field>
+bool isEmptied(const Field *field)
+{
+    const EntryGuard *const guard = EntryGuard::of(field);
+    return field->text() == field->prefix() + field->suffix() && !(guard && guard->isTouched());
 }
 
 } // namespace SpinSlider

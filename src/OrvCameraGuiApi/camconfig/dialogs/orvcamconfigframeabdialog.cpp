@@ -5,6 +5,7 @@
 #include <OrvCameraGuiApi/camconfig/dialogs/featuredialogcamera.h>
 #include <OrvCameraGuiApi/camconfig/dialogs/framearithmetic.h>
 #include <OrvCameraGuiApi/widgets/entryguard.h>
+#include <OrvCameraGuiApi/widgets/numbertext.h>
 #include <OrvCameraGuiApi/widgets/qtorvdoubleslider.h>
 #include <OrvCameraGuiApi/widgets/qtorvslider.h>
 #include <OrvCameraGuiApi/widgets/spinsliderlink.h>
@@ -24,6 +25,7 @@
 #include <algorithm>
 #include <initializer_list>
 #include <limits>
+#include <optional>
 #include <utility>
 
 namespace {
@@ -71,7 +73,8 @@ public:
     /** For the life of \a gain; the watch goes first. */
     void watch(QtOrvGainSlider *gain)
     {
-        gain->spinBox()->installEventFilter(this);
+        m_field = gain->spinBox();
+        m_field->installEventFilter(this);
         connect(gain->slider()->slider(), &QSlider::actionTriggered, this, [this](int action) {
             m_isStep = action != QSlider::SliderMove;
             forgetSoon();
@@ -80,12 +83,16 @@ public:
 
     bool isStep() const { return m_isStep; }
 
+    /** The number that Return has just committed, as it was typed; none for any other entry. */
+    std::optional<double> typed() const { return m_typed; }
+
     bool eventFilter(QObject *, QEvent *event) override
     {
         switch (event->type()) {
         case QEvent::KeyPress: {
             const int key = static_cast<QKeyEvent *>(event)->key();
             m_isStep = key != Qt::Key_Return && key != Qt::Key_Enter;
+            m_typed = m_isStep ? std::nullopt : NumberText::typedNumber(*m_field);
             break;
         }
         case QEvent::MouseButtonPress: // of an arrow, which repeats until the release
@@ -99,6 +106,7 @@ public:
         case QEvent::MouseButtonRelease:
         case QEvent::FocusOut:
             m_isStep = false;
+            m_typed.reset();
             break;
         default:
             break;
@@ -112,7 +120,9 @@ private:
         QTimer::singleShot(0, this, [this] { m_isStep = false; });
     }
 
+    QtOrvDoubleSpinBoxVal *m_field = nullptr;
     bool m_isStep = false;
+    std::optional<double> m_typed;
 };
 
 /** Lets the fields of composites that stand above each other begin at the same place. */
@@ -161,7 +171,8 @@ public:
     bool isBound(const char *feature, const QWidget *control) const;
     auto sameCamera() const;
 
-    void onFrameModeChanged(const QString &mode);
+    QString frameMode() const;
+    void onFrameModeChanged();
     void bindForMode(bool isSingle);
     static int onlyPage(const QString &mode);
     bool canShow(int page) const;
@@ -173,10 +184,11 @@ public:
     void updateExposureTime();
     void showTime(std::int64_t microseconds, std::int64_t longest);
     void setExposureTime(int microseconds);
-    bool setHalf(const char *feature, QtOrvSpinBox *spinBox, std::int64_t value);
+    bool setHalf(const char *feature, QtOrvSpinBox *spinBox, std::int64_t value, bool isKnown);
     bool readBack(std::initializer_list<const char *> features);
     Gain partsOf(double entered) const;
     bool isNews(const Gain &parts) const;
+    bool isRetyped() const;
     void updateGain();
     void setGain(double gain);
 
@@ -189,6 +201,8 @@ public:
     std::pair<QString, QString> pageTitles;
     StepWatch gainSteps;
     bool isBuilt = false;
+    bool isExposureKnown = true; ///< lines and clocks could be read
+    bool isGainKnown = true; ///< both parts could be read, as far as the camera has them
     bool isShowing = false; ///< exposure time and gain follow the camera, and are not the user's
     int session = 0; ///< counts the cameras
     Cached values;
@@ -219,7 +233,7 @@ bool OrvCamConfigFrameABDialogPrivate::init(OrvCam::Device *device)
     initActualSize();
     initDigitalGain();
     const auto isSame = sameCamera();
-    onFrameModeChanged(ui.cmBoxFrameMode->currentText());
+    onFrameModeChanged();
     if (isSame())
         updateExposureTime();
     return hasParameters;
@@ -328,6 +342,7 @@ void OrvCamConfigFrameABDialogPrivate::getNeededParams()
             camera.listen(param, this);
         }
     }
+    isExposureKnown = readBack({linesFeature, clocksFeature});
     camera.listen(camera.integer(fixedPeriodFeature), this);
     OrvGenParam::Enum *const triggerMode = camera.enumeration(triggerModeFeature);
     camera.listen(triggerMode, this);
@@ -347,8 +362,7 @@ void OrvCamConfigFrameABDialogPrivate::initComboBoxes()
     for (const auto &[feature, comboBox] : bindings)
         camera.mapper.mapEnumParam(camera.enumeration(feature), comboBox);
     if (camera.mapper.mapEnumParam(camera.enumeration("FrameMode"), ui.cmBoxFrameMode)) {
-        QObject::connect(ui.cmBoxFrameMode, &QComboBox::currentTextChanged, q,
-                         [this](const QString &mode) { onFrameModeChanged(mode); });
+        QObject::connect(ui.cmBoxFrameMode, &QComboBox::currentTextChanged, q, [this] { onFrameModeChanged(); });
     }
 }
 
@@ -406,11 +420,10 @@ void OrvCamConfigFrameABDialogPrivate::initActualSize()
 void OrvCamConfigFrameABDialogPrivate::initDigitalGain()
 {
     for (const char *const feature : {coarseGainFeature, fineGainFeature}) {
-        if (OrvGenParam::Int *const param = camera.integer(feature)) {
-            cache(param);
+        if (OrvGenParam::Int *const param = camera.integer(feature))
             camera.listen(param, this);
-        }
     }
+    isGainKnown = readBack({coarseGainFeature, fineGainFeature});
     updateGain();
 }
 
@@ -455,9 +468,18 @@ bool OrvCamConfigFrameABDialogPrivate::isBound(const char *feature, const QWidge
     return !records.isEmpty() && records.first().control == control;
 }
 
-void OrvCamConfigFrameABDialogPrivate::onFrameModeChanged(const QString &mode)
+/** The camera's, as the box may show one that was refused; the box's where that cannot be read. */
+QString OrvCamConfigFrameABDialogPrivate::frameMode() const
 {
-    const int page = onlyPage(mode);
+    OrvGenParam::Enum *const param = camera.enumeration("FrameMode");
+    OrvCamErr err = OrvCamErr_Ok;
+    const char *const mode = param && param->IsReadable() ? param->GetValueStr(&err) : nullptr;
+    return mode && err == OrvCamErr_Ok ? QString::fromUtf8(mode) : ui.cmBoxFrameMode->currentText();
+}
+
+void OrvCamConfigFrameABDialogPrivate::onFrameModeChanged()
+{
+    const int page = onlyPage(frameMode());
     bindForMode(page >= 0);
     const auto isSame = sameCamera();
     const bool isReported = camera.mapper.isRefreshing();
@@ -504,7 +526,7 @@ bool OrvCamConfigFrameABDialogPrivate::canShow(int page) const
 {
     OrvGenParam::Enum *const selector = camera.enumeration(selectorFeature);
     OrvGenParam::EnumEntry *const entry = selector ? selector->GetEnumEntryByIndex(page, nullptr) : nullptr;
-    const int only = onlyPage(ui.cmBoxFrameMode->currentText());
+    const int only = onlyPage(frameMode());
     return (only < 0 || only == page) && (!selector || (entry && entry->IsAvailable()));
 }
 
@@ -519,7 +541,7 @@ void OrvCamConfigFrameABDialogPrivate::selectShownFrame()
 {
     OrvGenParam::Enum *const selector = camera.enumeration(selectorFeature);
     const int page = ui.tabFrames->currentIndex();
-    if (page != onlyPage(ui.cmBoxFrameMode->currentText()) || !isUsable(selector))
+    if (page != onlyPage(frameMode()) || !isUsable(selector))
         return;
     const QByteArray frame = ui.tabFrames->tabText(page).toUtf8();
     if (frame == selector->GetValueStr(nullptr))
@@ -575,12 +597,14 @@ void OrvCamConfigFrameABDialogPrivate::showTime(std::int64_t microseconds, std::
     QtOrvSliderSpinBox *const time = ui.spBoxExposureTime;
     time->setRange(0, toInt(longest));
     const int shown = std::clamp(toInt(microseconds), time->minimum(), time->maximum());
-    if (time->value() != shown)
+    if (time->value() != shown || SpinSlider::isEmptied(time->spinBox()))
         SpinSlider::showUnmoved(time->spinBox(), shown);
+    if (!isExposureKnown)
+        time->spinBox()->clear(); // there is no number to show
     ControlWatch *const watch = ControlWatch::of(time);
     watch->clear();
     if (shown != microseconds)
-        watch->note(ControlWatch::valueText(time->locale().toString(qlonglong(microseconds))));
+        watch->note(ControlWatch::valueText(ControlWatch::numberText(microseconds, time)));
 }
 
 /** The spin boxes of lines and clocks write, and tell what is refused. The time then shows what the camera has. */
@@ -593,9 +617,9 @@ void OrvCamConfigFrameABDialogPrivate::setExposureTime(int microseconds)
     const std::optional<Exposure> parts = splitExposure(microseconds, now.clock);
     const auto isSame = sameCamera();
     if (parts && (!isKnown || exposureTime(now.exposure, now.clock) != microseconds)) {
-        if (!setHalf(linesFeature, ui.spBoxExposureLines, parts->lines) || !isSame())
+        if (!setHalf(linesFeature, ui.spBoxExposureLines, parts->lines, isKnown) || !isSame())
             return;
-        setHalf(clocksFeature, ui.spBoxExposureClocks, parts->clocks);
+        setHalf(clocksFeature, ui.spBoxExposureClocks, parts->clocks, isKnown);
     }
     if (!isSame())
         return;
@@ -605,17 +629,27 @@ void OrvCamConfigFrameABDialogPrivate::setExposureTime(int microseconds)
         if (!isSame())
             return;
     }
-    readBack({linesFeature, clocksFeature});
+    isExposureKnown = readBack({linesFeature, clocksFeature});
     updateExposureTime();
 }
 
-/** By its spin box, which shows the camera's value before, so that it says whatever differs from that. */
-bool OrvCamConfigFrameABDialogPrivate::setHalf(const char *feature, QtOrvSpinBox *spinBox, std::int64_t value)
+/**
+ * By its spin box, which shows the camera's value before, so that it says whatever differs from that. Where the camera
+ * does not tell its value, the spin box says nothing for the number that it has meanwhile; then it is written all the
+ * same.
+ */
+bool OrvCamConfigFrameABDialogPrivate::setHalf(const char *feature, QtOrvSpinBox *spinBox, std::int64_t value,
+                                               bool isKnown)
 {
     const auto isSame = sameCamera();
-    if (OrvGenParam::Int *const half = camera.integer(feature))
+    OrvGenParam::Int *const half = camera.integer(feature);
+    if (half)
         camera.mapper.updateSpinBox(half, spinBox);
-    if (isSame())
+    if (!isSame())
+        return false;
+    if (half && !isKnown && spinBox->value() == value && half->IsWritable())
+        OrvCamConfigMapper::showErrorMessage(half->SetValue(value), spinBox, half);
+    else
         spinBox->setValue(toInt(value));
     return isSame();
 }
@@ -645,8 +679,10 @@ void OrvCamConfigFrameABDialogPrivate::updateGain()
     // As the camera has it, which may lie between the steps of the entries; what shows already is left alone.
     QtOrvDoubleSpinBoxVal *const field = ui.gainDigital->spinBox();
     const double gain = composedGain(cached().gain);
-    if (!SpinSlider::shows(field, gain))
+    if (!SpinSlider::shows(field, gain) || SpinSlider::isEmptied(field))
         SpinSlider::showUnmoved(field, gain);
+    if (!isGainKnown)
+        field->clear();
     ControlWatch::of(ui.gainDigital)->clear();
 }
 
@@ -663,12 +699,20 @@ Gain OrvCamConfigFrameABDialogPrivate::partsOf(double entered) const
     return steppedGain(cached().gain, entered, range);
 }
 
-/** Whether a part that the camera has is another one there. */
+/** Whether the camera has another gain; of two pairs for one gain it may have either. */
 bool OrvCamConfigFrameABDialogPrivate::isNews(const Gain &parts) const
 {
-    const Gain now = cached().gain;
-    return (camera.integer(coarseGainFeature) && parts.coarse != now.coarse)
-        || (camera.integer(fineGainFeature) && parts.fine != now.fine);
+    const Gain settable{camera.integer(coarseGainFeature) ? parts.coarse : 0,
+                        camera.integer(fineGainFeature) ? parts.fine : 0};
+    return composedGain(settable) != composedGain(cached().gain);
+}
+
+/** What the field shows of the camera's gain, which lies between its steps, was typed again. */
+bool OrvCamConfigFrameABDialogPrivate::isRetyped() const
+{
+    const QtOrvDoubleSpinBoxVal *const field = ui.gainDigital->spinBox();
+    const QString shown = QString::number(composedGain(cached().gain), 'f', field->decimals());
+    return gainSteps.typed() == shown.toDouble();
 }
 
 /** A refused half intentionally brings no message: both are read back, and the control is marked. */
@@ -676,12 +720,12 @@ void OrvCamConfigFrameABDialogPrivate::setGain(double gain)
 {
     if (isShowing)
         return;
-    const bool isKnown = readBack({coarseGainFeature, fineGainFeature});
+    isGainKnown = readBack({coarseGainFeature, fineGainFeature});
     const Gain parts = partsOf(gain);
     const auto isSame = sameCamera();
     OrvCamErr coarseErr = OrvCamErr_Ok;
     OrvCamErr fineErr = OrvCamErr_Ok;
-    if (!isKnown || isNews(parts)) {
+    if (!isGainKnown || (isNews(parts) && !isRetyped())) {
         if (OrvGenParam::Int *const coarse = camera.integer(coarseGainFeature))
             coarseErr = coarse->SetValue(parts.coarse);
         if (OrvGenParam::Int *const fine = isSame() ? camera.integer(fineGainFeature) : nullptr)
@@ -689,10 +733,11 @@ void OrvCamConfigFrameABDialogPrivate::setGain(double gain)
     }
     if (!isSame())
         return;
-    const bool isRead = readBack({coarseGainFeature, fineGainFeature});
+    isGainKnown = readBack({coarseGainFeature, fineGainFeature});
     updateGain();
-    if (coarseErr != OrvCamErr_Ok || fineErr != OrvCamErr_Ok)
-        ControlWatch::of(ui.gainDigital)->mark(isRead ? ui.gainDigital->spinBox()->text() : QString());
+    const bool isRefused = coarseErr != OrvCamErr_Ok || fineErr != OrvCamErr_Ok;
+    if (isRefused && (!isGainKnown || isNews(parts))) // else the half that was taken was all that differed
+        ControlWatch::of(ui.gainDigital)->mark(isGainKnown ? ui.gainDigital->spinBox()->text() : QString());
 }
 
 std::int64_t OrvCamConfigFrameABDialogPrivate::ToControl(std::int64_t deviceValue, OrvGenParam::Int *)
@@ -703,7 +748,8 @@ std::int64_t OrvCamConfigFrameABDialogPrivate::ToControl(std::int64_t deviceValu
 /** Changed only where the camera would refuse it. */
 std::int64_t OrvCamConfigFrameABDialogPrivate::ToDevice(std::int64_t controlValue, OrvGenParam::Int *param)
 {
-    return fitted(linesOfMicroseconds(controlValue, cached().clock), param);
+    const Clock clock = cached().clock;
+    return clock.lineTime == 0 ? 0 : fitted(linesOfMicroseconds(controlValue, clock), param);
 }
 
 void OrvCamConfigFrameABDialogPrivate::OnParameterUpdate(OrvGenParam::Param *param)
@@ -716,6 +762,10 @@ void OrvCamConfigFrameABDialogPrivate::OnParameterUpdate(OrvGenParam::Param *par
     if (!number)
         return;
     cache(number);
+    if (name == QLatin1String(linesFeature) || name == QLatin1String(clocksFeature))
+        isExposureKnown = readBack({linesFeature, clocksFeature});
+    if (name == QLatin1String(coarseGainFeature) || name == QLatin1String(fineGainFeature))
+        isGainKnown = readBack({coarseGainFeature, fineGainFeature});
     if (name == QLatin1String(coarseGainFeature) || name == QLatin1String(fineGainFeature))
         return updateGain();
     if (name == QLatin1String(widthActualFeature) || name == QLatin1String(heightActualFeature))

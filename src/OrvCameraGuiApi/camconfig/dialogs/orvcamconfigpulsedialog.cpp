@@ -153,7 +153,7 @@ void OrvCamConfigPulseDialogPrivate::connectControls()
     }
     camera.listen(camera.enumeration(granularityFeature), this);
     QObject::connect(ui.pushBtnPulseEnable, &QPushButton::toggled, camera.context(),
-                     [this](bool on) { setButtonState(on); });
+                     [this] { setButtonState(ui.pushBtnPulseEnable->isChecked()); }); // which may be back already
 }
 
 /** For all units that the camera has, so that nothing moves or is cut when another one is chosen. */
