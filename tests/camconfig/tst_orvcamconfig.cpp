@@ -1,6 +1,9 @@
 #include "configwindow.h"
 #include "orvtest.h"
 
+#include <OrvCameraGuiApi/widgets/qtorvspinbox.h>
+#include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
+
 #include <QGridLayout>
 #include <QScreen>
 #include <QStatusBar>
@@ -25,6 +28,7 @@ private Q_SLOTS:
     void followsTheFrameMode();
     void followsTheSelector();
     void readsBothFramesOnce();
+    void whatIsTypedOutlivesAReport();
     void countsRepeatedModesOnce();
     void greysWhatIsNotRead();
     void survivesWhoeverHearsOfTheSelector();
@@ -218,6 +222,29 @@ void OrvCamConfigTest::readsBothFramesOnce()
         QCOMPARE(camera.value("FrameAB_Selector"), QLatin1String(selected));
         QCOMPARE(camera.takeWrites(), 3); // the mode, and the selector to and fro
     }
+}
+
+/** To read both frames refreshes all that is shown of them. */
+void OrvCamConfigTest::whatIsTypedOutlivesAReport()
+{
+    const Camera camera;
+    OrvCamConfig window(camera.device());
+    window.show();
+    trigger(window, "actionFrame_A_B");
+    QDialog *const frames = dialogOf(window, dialogs[0]);
+    QVERIFY(QTest::qWaitForWindowActive(frames));
+    auto *const lines = part<QtOrvSpinBox>(*frames, "spBoxExposureLines")->spinBox();
+    waitForSteps(10);
+    DialogTest::type(lines, "25");
+    camera.takeWrites();
+    QVERIFY(camera.set("FrameMode", "FrameAB")); // as it is
+    waitForSteps(5);
+    QCOMPARE(lines->text(), QStringLiteral("25"));
+    QCOMPARE(camera.takeWrites(), 1);
+    QTest::keyClick(lines, Qt::Key_Return);
+    QCOMPARE(camera.value("Frame_ExposureLines"), QStringLiteral("25"));
+    waitForSteps(5);
+    QCOMPARE(camera.takeWrites(), 3); // now the selector has gone to and fro
 }
 
 /** A camera may report its mode with each poll, and with each write of the selector. */
