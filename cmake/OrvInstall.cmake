@@ -28,6 +28,7 @@ set(ORV_PUBLIC_HEADERS
     widgets/qtorvspinbox.h
     widgets/qtorvspinboxval.h
     widgets/qtorvspinboxval64.h
+    windows/processevents.h
 )
 
 set(_orv_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/OrvCameraGuiApi)

@@ -3,8 +3,7 @@
 
 #include <OrvCameraGuiApi/device_selection/selectcamera.h>
 #include <OrvCameraGuiApi/feature_tree/creategenparamtreeview.h>
-
-#include <QCoreApplication>
+#include <OrvCameraGuiApi/windows/processevents.h>
 
 namespace {
 
@@ -15,13 +14,17 @@ int show(OrvCam::DeviceInfo &info)
         return 1;
     OrvGui::IOrvGenParamTreeView *const view =
         CreateGenParamTreeViewForArrayA(camera->GetCameraParameters(nullptr), info.GetDisplayName(), 0);
+    if (!view) // no display
+        return 1;
     view->setVisibility(OrvGui::Expert);
     view->setPollingTime(500);
     view->enablePolling(true);
-    const int result = QCoreApplication::exec();
+    while (OrvProcessEvents(100)) {
+        // What the program does besides; here nothing. The view is open as long as the user wants.
+    }
     DestroyGenParamTreeView(view);
     camera->Release();
-    return result;
+    return 0;
 }
 
 } // namespace

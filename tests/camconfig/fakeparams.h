@@ -44,6 +44,7 @@ public:
     bool writable = true;
     bool readable = true;
     OrvCamErr answer = OrvCamErr_Ok; ///< of the next writes
+    OrvCamErr readAnswer = OrvCamErr_Ok; ///< of the next reads of an integer
     std::function<void()> whileWriting;
     std::set<OrvGenParam::ParamEventSink *> sinks;
     std::vector<std::int64_t> writes;
@@ -71,7 +72,12 @@ class Int : public OrvGenParam::Int, public Fake
 public:
     std::int32_t GetType() override { return OrvGenParam::ParamTypeInt; }
     OrvCamErr SetValue(std::int64_t number) override { return take(value, number); }
-    std::int64_t GetValue(OrvCamErr *) override { return value; }
+    std::int64_t GetValue(OrvCamErr *err) override
+    {
+        if (err)
+            *err = readAnswer;
+        return readAnswer == OrvCamErr_Ok ? value : 0;
+    }
     std::int64_t GetMin(OrvCamErr *) override { return min; }
     std::int64_t GetMax(OrvCamErr *) override { return max; }
     std::int64_t GetIncrement(OrvCamErr *) override { return increment; }

@@ -242,6 +242,7 @@ private Q_SLOTS:
     void keepsTheRules_data();
     void keepsTheRules();
     void colorUnity();
+    void colorFollowsTheBalance();
     void colorStatistics();
     void colorErrorOutlivesTheDialog();
     void outputThresholdsAndFormats();
@@ -365,6 +366,20 @@ void FeatureDialogsTest::colorUnity()
             QCOMPARE(part<QWidget>(dialog, "cmBoxTrackingSpeed")->isEnabled(), !isManual);
         }
     }
+}
+
+/** The camera says that it is done only if it is asked. */
+void FeatureDialogsTest::colorFollowsTheBalance()
+{
+    const Camera camera;
+    OrvCamConfigColorDialog dialog(camera.device());
+    QVERIFY(show(dialog));
+    auto *const balance = part<QComboBox>(dialog, "cmBoxWhiteBalance");
+    enterInto(balance, "Auto");
+    QVERIFY(!part<QWidget>(dialog, "spBoxRed")->isEnabled());
+    QVERIFY(OrvSim::setRegister(SimTest::twoFrame, "BalanceWhiteAuto", "0"));
+    QTRY_COMPARE(balance->currentText(), QStringLiteral("Off"));
+    QVERIFY(part<QWidget>(dialog, "spBoxRed")->isEnabled());
 }
 
 void FeatureDialogsTest::colorStatistics()

@@ -235,7 +235,7 @@ void OrvCamConfigTest::countsRepeatedModesOnce()
         connect(&polls, &QTimer::timeout, &window, [&] { camera.params()->GetNodeMap()->Poll(1000); });
         polls.start(OrvGui::CameraParams::period);
         waitForSteps(100);
-        QVERIFY(reports.count > 50);
+        QTRY_VERIFY(reports.count > 50);
         QCOMPARE(camera.takeWrites(), 2);
         QVERIFY(camera.set("FrameMode", "FrameB"));
         QVERIFY(camera.set("FrameMode", "FrameAB"));
@@ -626,8 +626,14 @@ void OrvCamConfigTest::connectsToAnotherCamera()
     window.show();
     trigger(window, "actionStrobe");
     const OrvSim::LiveObjects live = OrvSim::liveObjects();
+    QVector<OrvCam::Device *> announced;
+    QObject::connect(&window, &OrvCamConfig::deviceChanged, &window, [&](OrvCam::Device *device) {
+        announced.append(device);
+        QCOMPARE(window.device(), device);
+    });
     cancelWhenAsked();
     trigger(window, "actionConnect");
+    QVERIFY(announced.isEmpty());
     QCOMPARE(statusText(window), QStringLiteral("SF-1300M"));
     QCOMPARE(OrvSim::liveObjects().systemReferences, live.systemReferences);
     QCOMPARE(OrvSim::liveObjects().sinks, live.sinks);
@@ -642,6 +648,7 @@ void OrvCamConfigTest::connectsToAnotherCamera()
     }
     trigger(window, "actionDisconnect");
     QVERIFY(isNothingHeld());
+    QVERIFY(announced.size() >= 2 && announced.first() && !announced.last()); // the same address may come again
 }
 
 /** When the chosen one cannot be opened. The status bar tells why, until the next thing happens. */

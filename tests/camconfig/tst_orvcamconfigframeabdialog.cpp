@@ -356,7 +356,12 @@ void OrvCamConfigFrameABDialogTest::frameModeOfAnotherWindow()
 
     QVERIFY(!dialog.SetDevice(nullptr));
     QVERIFY(camera.set("FrameMode", "FrameA"));
-    QVERIFY(dialog.SetDevice(camera.device())); // begins with the mode that it finds
+    QVERIFY(camera.set("FrameAB_Selector", "FrameB"));
+    camera.takeWrites();
+    for (const int writes : {1, 0}) { // begins with the mode that it finds, and selects its frame once
+        QVERIFY(dialog.SetDevice(camera.device()));
+        QCOMPARE(camera.takeWrites(), writes);
+    }
     QVERIFY(tabs->isTabEnabled(0) && !tabs->isTabEnabled(1));
     QVERIFY(part<QWidget>(dialog, "spBoxLineTime")->isEnabled());
 }

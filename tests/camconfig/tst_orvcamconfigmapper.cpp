@@ -343,6 +343,13 @@ void OrvCamConfigMapperTest::whatIsNewsIsDecidedByTheCamera()
     panel.sliderParam.writes.clear();
     DialogTest::enter(panel.sliderSpin.spinBox(), "100");
     QCOMPARE(panel.sliderParam.writes, Writes{100});
+
+    panel.sliderParam.readAnswer = OrvCamErr_GenICamAccessError; // neither 0 nor any other number is the camera's
+    panel.sliderParam.notify();
+    QCOMPARE(panel.sliderSpin.spinBox()->text(), QString());
+    panel.sliderParam.readAnswer = OrvCamErr_Ok;
+    panel.sliderParam.notify();
+    QCOMPARE(panel.sliderSpin.spinBox()->text(), QStringLiteral("100"));
 }
 
 void OrvCamConfigMapperTest::aDroppedEntryIsTakenBack()

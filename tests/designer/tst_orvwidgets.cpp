@@ -83,7 +83,8 @@ class Designer
 public:
     explicit Designer(const QString &className)
     {
-        QCoreApplication::addLibraryPath(QFileInfo(QStringLiteral(PLUGIN)).dir().filePath(QStringLiteral("..")));
+        // No other plug-ins, whatever is installed.
+        QCoreApplication::setLibraryPaths({QFileInfo(QStringLiteral(PLUGIN)).dir().filePath(QStringLiteral(".."))});
         m_core.reset(QDesignerComponents::createFormEditor(nullptr));
         m_core->setSettingsManager(new DesignerSettings);
         m_core->setPropertyEditor(QDesignerComponents::createPropertyEditor(m_core.data(), &m_window));
@@ -161,6 +162,13 @@ class tst_OrvWidgets : public OrvTest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    /** Qt Designer leaves settings behind. */
+    void initTestCase()
+    {
+        QVERIFY(m_home.isValid());
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_home.path());
+    }
+
     void everyWidgetHasAnEntryThatWorks()
     {
         QPluginLoader plugin(QStringLiteral(PLUGIN));
@@ -345,6 +353,8 @@ private Q_SLOTS:
     }
 
 private:
+    QTemporaryDir m_home;
+
     static QString elementFor(const QString &text)
     {
         bool isNumber = false;

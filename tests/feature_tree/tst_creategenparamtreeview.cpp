@@ -6,10 +6,14 @@
 #include <OrvCameraGuiApi/camera_api/orvcam.h>
 #include <OrvCameraGuiApi/camera_api/orvgenparam.h>
 #include <OrvCameraGuiApi/feature_tree/creategenparamtreeview.h>
+#include <OrvCameraGuiApi/windows/processevents.h>
 
 #include <QDialog>
+#include <QPointer>
+#include <QTimer>
 #include <QTreeView>
 
+#include <clocale>
 #include <memory>
 #include <utility>
 
@@ -36,6 +40,7 @@ class TestCreateGenParamTreeView : public OrvTest::TestCase
 private Q_SLOTS:
     void makesTheApplicationItNeeds();
     void createsWindows();
+    void livesWithoutAnEventLoop();
     void standsInFrontOfAForeignWindow();
     void doesWithoutAWindow();
     void outlivesItsParent();
@@ -71,6 +76,31 @@ void TestCreateGenParamTreeView::createsWindows()
         QCOMPARE(windowOf(view)->findChild<QTreeView *>()->model()->rowCount() > 0, !isLast);
     }
     DestroyGenParamTreeView(nullptr);
+}
+
+void TestCreateGenParamTreeView::livesWithoutAnEventLoop()
+{
+    QVERIFY(!OrvProcessEvents(0));
+    const View view(CreateGenParamTreeViewForNodemapA(m_camera.map.get(), "Features", 0));
+    auto *const tree = windowOf(view)->findChild<QTreeView *>();
+    QSignalSpy changed(tree->selectionModel(), &QItemSelectionModel::currentChanged);
+    QTimer::singleShot(20, tree, [tree] { tree->setCurrentIndex(tree->model()->index(0, 0)); });
+    for (int i = 0; i < 1000 && changed.isEmpty(); ++i)
+        QVERIFY(OrvProcessEvents(100)); // each waits for what comes next
+    QCOMPARE(changed.size(), 1);
+    const QPointer<QObject> later = new QObject;
+    later->deleteLater();
+    QVERIFY(OrvProcessEvents(0));
+    QVERIFY(!later);
+
+    QVERIFY(IsGenParamTreeViewOpen(view.get()));
+    windowOf(view)->close();
+    QVERIFY(!IsGenParamTreeViewOpen(view.get()));
+    QVERIFY(!OrvProcessEvents(1));
+    ShowGenParamTreeView(view.get());
+    QVERIFY(IsGenParamTreeViewOpen(view.get()) && OrvProcessEvents(0));
+    ShowGenParamTreeView(nullptr);
+    QVERIFY(!IsGenParamTreeViewOpen(nullptr));
 }
 
 void TestCreateGenParamTreeView::standsInFrontOfAForeignWindow()
@@ -122,7 +152,18 @@ int main(int argc, char **argv)
         if (CreateGenParamTreeViewForNodemapA(nullptr, "", 0))
             qFatal("a view without widgets");
     }
+    const QByteArray display = qgetenv("DISPLAY");
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    qunsetenv("DISPLAY");
+    qunsetenv("QT_QPA_PLATFORM");
+    if (CreateGenParamTreeViewForNodemapA(nullptr, "", 0) || OrvProcessEvents(1))
+        qFatal("a view without a display");
+    qputenv("DISPLAY", display);
+    qputenv("QT_QPA_PLATFORM", platform);
+    std::setlocale(LC_NUMERIC, "C"); // the environment of the tests says another one
     DestroyGenParamTreeView(CreateGenParamTreeViewForNodemapA(nullptr, "", 0));
+    if (qstrcmp(std::setlocale(LC_NUMERIC, nullptr), "C") != 0)
+        qFatal("numbers are the caller's");
     TestCreateGenParamTreeView test;
     return OrvTest::runTests(&test, argc, argv);
 }

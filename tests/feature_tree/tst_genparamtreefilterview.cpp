@@ -109,9 +109,24 @@ struct OurStack : Stack
     ShownView shown;
 };
 
-/** Leaves no editor behind whose row went with its category, after which Qt's tree would open no other. */
+/**
+ * Leaves no editor behind whose row went with its category, after which Qt's tree would open no other, and no current
+ * item in a category that is closed.
+ */
 class PlainTree : public QTreeView
 {
+public:
+    PlainTree()
+    {
+        connect(this, &QTreeView::collapsed, this, [this](const QModelIndex &closed) {
+            QModelIndex above = currentIndex().parent();
+            while (above.isValid() && above != closed)
+                above = above.parent();
+            if (above.isValid())
+                setCurrentIndex(above);
+        });
+    }
+
 protected:
     void rowsAboutToBeRemoved(const QModelIndex &parent, int first, int last) override
     {

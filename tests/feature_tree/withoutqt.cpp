@@ -2,3 +2,4 @@
 #include <OrvCameraGuiApi/camconfig/showcamconfigdialog.h>
 #include <OrvCameraGuiApi/device_selection/selectcamera.h>
 #include <OrvCameraGuiApi/feature_tree/creategenparamtreeview.h>
+#include <OrvCameraGuiApi/windows/processevents.h>

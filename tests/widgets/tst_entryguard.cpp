@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRandomGenerator>
+#include <QShortcut>
 #include <QToolTip>
 #include <QVBoxLayout>
 
@@ -178,6 +179,20 @@ private Q_SLOTS:
         QCOMPARE(EntryGuard::install(&date), nullptr);
     }
 
+    void goesWithItsBox_data() { boxes(); }
+    void goesWithItsBox()
+    {
+        FETCH_WINDOW(window);
+        window.type(QStringLiteral("2592"));
+        const double before = window.value();
+        EntryGuard::remove(window.box);
+        pressReturn(window);
+        QCOMPARE(window.value(), before);
+        EntryGuard::install(window.box);
+        window.type(QStringLiteral("57"));
+        delete window.box; // with the focus, and in the midst of an entry
+    }
+
     void refusedKeysBlock_data() { boxes(); }
     void refusedKeysBlock()
     {
@@ -240,9 +255,13 @@ private Q_SLOTS:
         window.reset();
         window.type(QStringLiteral("2592"));
         const double before = window.value();
-        window.press(Qt::Key_Escape);
+        QShortcut shortcut(Qt::Key_Escape, &window);
+        QSignalSpy shortcuts(&shortcut, &QShortcut::activated);
+        window.press(Qt::Key_Escape); // the box's before anybody else's
         QVERIFY(!window.guard->isBlocked() && window.shows(before) && window.isVisible());
-        if (!isTracked(kind) && kind != TrackedWide) {
+        QVERIFY(shortcuts.isEmpty());
+        shortcut.setEnabled(false);
+        if (!isTracked(kind)) {
             window.type(QStringLiteral("2592"));
             window.press(Qt::Key_Z, Qt::ControlModifier);
             QVERIFY(!window.guard->isBlocked());
@@ -320,6 +339,46 @@ private Q_SLOTS:
         QVERIFY(!window.guard->isTouched());
         pressReturn(window);
         QVERIFY(window.shows(60));
+    }
+
+    /** The boxes of the documentation: snapped on Return only, beside a suffix. */
+    void returnReadsBesideASuffix()
+    {
+        for (const QLocale &locale : {QLocale::c(), QLocale(QLocale::German)}) {
+            Window ints(Int, locale);
+            QVERIFY(ints.isReady());
+            auto *const box = static_cast<QtOrvSpinBoxVal *>(ints.box);
+            box->setRange(0, 2048);
+            box->setSingleStep(8);
+            box->setValidate(true);
+            ints.type(QStringLiteral("1277"));
+            QVERIFY(ints.changes->isEmpty());
+            pressReturn(ints);
+            QCOMPARE(box->text(), QStringLiteral("1280 us"));
+
+            Window doubles(Double, locale);
+            QVERIFY(doubles.isReady());
+            auto *const gain = static_cast<QtOrvDoubleSpinBoxVal *>(doubles.box);
+            gain->setRange(-6, 24);
+            gain->setSingleStep(0.25);
+            gain->setValidate(true);
+            doubles.type(locale.toString(3.3));
+            pressReturn(doubles);
+            QCOMPARE(gain->value(), 3.25);
+            doubles.type(QStringLiteral("-3.3"));
+            pressReturn(doubles);
+            QCOMPARE(gain->value(), -3.25);
+        }
+        Window wide(Wide);
+        QVERIFY(wide.isReady());
+        auto *const box = static_cast<QtOrvSpinBoxVal64 *>(wide.box);
+        box->setPrefix(QStringLiteral("0x"));
+        box->setDisplayIntegerBase(16);
+        wide.type(QStringLiteral("7fg")); // no digit
+        pressReturn(wide);
+        QCOMPARE(box->text(), QStringLiteral("0x7f us"));
+        wide.type(QStringLiteral("-f"));
+        QVERIFY(wide.guard->isBlocked());
     }
 
     /** A value off the grid or beyond the range, and one in another base, stay as the program has set them. */

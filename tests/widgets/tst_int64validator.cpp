@@ -72,6 +72,16 @@ private Q_SLOTS:
         QCOMPARE(validator.toInt64(QStringLiteral("1.5"), &ok), 0); // no decimal fraction to be taken for 15
         QVERIFY(!ok);
 
+        validator.setLocale(
+            QLocale(QLocale::German)); // writes groups, and yet one separator alone may be meant otherwise
+        for (const char *const text : {"1.5", ".5", "1234.56"}) {
+            QVERIFY(validator.toInt64(QLatin1String(text), &ok) == 0 && !ok);
+            QString typed = QLatin1String(text);
+            int cursor = 0;
+            QCOMPARE(validator.validate(typed, cursor), QValidator::Intermediate);
+        }
+        QCOMPARE(validator.toInt64(QStringLiteral("1.234")), 1234);
+
         const QLocale swedish(QLocale::Swedish); // a minus sign of its own
         validator.setLocale(swedish);
         QString minus(swedish.negativeSign());

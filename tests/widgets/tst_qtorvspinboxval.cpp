@@ -37,6 +37,17 @@ public:
 using IntWindow = Window<QtOrvSpinBoxVal, int>;
 using DoubleWindow = Window<QtOrvDoubleSpinBoxVal, double>;
 
+/** Types any characters, over all that is there, and presses Return. */
+void enter(QAbstractSpinBox &box, const QString &text)
+{
+    box.selectAll();
+    for (const QChar c : text) {
+        QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
+        QApplication::sendEvent(&box, &key);
+    }
+    QTest::keyClick(&box, Qt::Key_Return);
+}
+
 /** Typing and Return by the rule that both classes share. */
 template <typename AnyWindow>
 void typeAndReturn(bool validateTyping)
@@ -155,6 +166,179 @@ private Q_SLOTS:
         doubles.box.setLineEditText(QStringLiteral("57.5"));
         QTest::keyClick(&doubles.box, Qt::Key_Return);
         QCOMPARE(doubles.edit->text(), QStringLiteral("57,50"));
+    }
+
+    void readsNumbersByLocale()
+    {
+        const QString arabic = QStringLiteral("\u0663\u066b\u0665");
+        const struct
+        {
+            QLocale::Language language;
+            QString text;
+            double value; // of 42
+            bool groups;
+        } rows[] = {
+            {QLocale::C, QStringLiteral("3.5"), 3.5, false},
+            {QLocale::C, QStringLiteral("3,5"), 42, false}, // no 35
+            {QLocale::C, QStringLiteral("1,234.5"), 42, false},
+            {QLocale::English, QStringLiteral("1,234.5"), 1234.5, true},
+            {QLocale::C, QStringLiteral("-1e3"), -1000, false},
+            {QLocale::German, QStringLiteral("3,5"), 3.5, false},
+            {QLocale::German, QStringLiteral("3.5"), 3.5, false},
+            {QLocale::German, QStringLiteral("3.5"), 3.5, true},
+            {QLocale::German, QStringLiteral("1.234,5"), 42, false},
+            {QLocale::German, QStringLiteral("1.234,5"), 1234.5, true},
+            {QLocale::German, QStringLiteral("1.234"), 1234, true},
+            {QLocale::German, QStringLiteral("12.34,5"), 1234.5, true}, // being edited
+            {QLocale::French, QStringLiteral("1 234"), 42, false},
+            {QLocale::French, QStringLiteral("-3,5"), -3.5, false},
+            {QLocale::Swedish, QStringLiteral("\u22123.5"), -3.5, false},
+            {QLocale::Arabic, arabic, 3.5, false},
+            {QLocale::Arabic, QStringLiteral("3.5"), 3.5, false},
+            {QLocale::Arabic, QStringLiteral("\u0663.\u0665"), 3.5, false},
+            {QLocale::German, QStringLiteral("inf"), 42, false},
+        };
+        for (const auto &row : rows) {
+            for (const bool validateTyping : {true, false}) {
+                DoubleWindow window;
+                window.box.setRange(-5000, 5000);
+                window.box.setLocale(QLocale(row.language));
+                window.box.setGroupSeparatorShown(row.groups);
+                window.box.setValidateTyping(validateTyping);
+                window.box.setKeyboardTracking(false);
+                window.box.setLineEditText(row.text);
+                QTest::keyClick(&window.box, Qt::Key_Return);
+                QVERIFY2(window.box.value() == row.value, qPrintable(row.text));
+                QCOMPARE(window.box.text(), window.box.textFromValue(row.value));
+            }
+        }
+    }
+
+    void readsIntegersByLocale()
+    {
+        const struct
+        {
+            QLocale::Language language;
+            QString text;
+            int value; // of 42
+            bool groups;
+            int base;
+        } rows[] = {
+            {QLocale::German, QStringLiteral("1.5"), 42, false, 10},
+            {QLocale::German, QStringLiteral(",5"), 42, false, 10},
+            {QLocale::German, QStringLiteral("1.234"), 42, false, 10},
+            {QLocale::German, QStringLiteral("1.234"), 1234, true, 10},
+            {QLocale::C, QStringLiteral("1,5"), 42, false, 10},
+            {QLocale::French, QStringLiteral("1 234"), 42, false, 10},
+            {QLocale::Swedish, QStringLiteral("\u22125"), -5, false, 10},
+            {QLocale::Arabic, QStringLiteral("\u0665\u0667"), 57, false, 10},
+            {QLocale::Arabic, QStringLiteral("57"), 57, false, 10},
+            {QLocale::C, QStringLiteral("1f"), 31, false, 16},
+            {QLocale::C, QStringLiteral("20"), 32, false, 16},
+        };
+        for (const auto &row : rows) {
+            for (const bool validateTyping : {true, false}) {
+                IntWindow window;
+                window.box.setRange(-5000, 5000);
+                window.box.setLocale(QLocale(row.language));
+                window.box.setGroupSeparatorShown(row.groups);
+                window.box.setDisplayIntegerBase(row.base);
+                window.box.setValidateTyping(validateTyping);
+                window.box.setKeyboardTracking(false);
+                QTest::keyClick(&window.box, Qt::Key_Return); // untouched, in whatever base
+                QCOMPARE(window.box.value(), 42);
+                window.box.setLineEditText(row.text);
+                QTest::keyClick(&window.box, Qt::Key_Return);
+                QVERIFY2(window.box.value() == row.value, qPrintable(row.text));
+            }
+        }
+    }
+
+    /** Neither while it is typed nor when the box is left a group separator makes another number. */
+    void baseClassReadsByTheSameRules()
+    {
+        DoubleWindow window;
+        QVERIFY(window.isReady());
+        QLineEdit other(&window);
+        other.show();
+        window.box.setMaximum(5000);
+        window.box.setSuffix(QStringLiteral(" ms"));
+        window.box.setLocale(QLocale(QLocale::German));
+        window.type("3.25");
+        QCOMPARE(window.emitted, (QVector<double>{3, 3.2, 3.25}));
+        window.emitted.clear();
+        window.box.setKeyboardTracking(false);
+        window.type("1.5");
+        other.setFocus();
+        QCOMPARE(window.emitted, (QVector<double>{1.5}));
+        QCOMPARE(window.edit->text(), QStringLiteral("1,50 ms"));
+        window.edit->setCursorPosition(1);
+        QTest::keyClicks(&window.box, QStringLiteral(".")); // where one is already: behind that
+        QCOMPARE(window.edit->text(), QStringLiteral("1.50 ms"));
+        QCOMPARE(window.edit->cursorPosition(), 2);
+        window.edit->selectAll();
+        QTest::keyClicks(&window.box, QStringLiteral("5")); // over the suffix, too
+        QCOMPARE(window.edit->text(), QStringLiteral("5 ms"));
+    }
+
+    void whatIsShownCanBeTypedInEveryLocale()
+    {
+        DoubleWindow doubles;
+        IntWindow ints;
+        doubles.box.setRange(-5000, 5000);
+        ints.box.setRange(-5000, 5000);
+        for (QAbstractSpinBox *const box :
+             {static_cast<QAbstractSpinBox *>(&doubles.box), static_cast<QAbstractSpinBox *>(&ints.box)})
+            box->setKeyboardTracking(false);
+        doubles.box.setValidateTyping(false);
+        ints.box.setValidateTyping(false);
+        const auto locales = QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry);
+        for (const QLocale &locale : locales) {
+            doubles.box.setLocale(locale);
+            ints.box.setLocale(locale);
+            for (const double number : {-1234.5, 0.25, 1920.0}) {
+                enter(doubles.box, doubles.box.textFromValue(number));
+                QVERIFY2(doubles.box.value() == number, qPrintable(locale.name()));
+                enter(doubles.box, QString::number(-number));
+                QVERIFY2(doubles.box.value() == -number, qPrintable(locale.name()));
+                const int whole = int(number);
+                ints.box.setValue(whole);
+                const QString text = ints.box.text();
+                ints.box.setValue(7);
+                enter(ints.box, text);
+                QVERIFY2(ints.box.value() == whole, qPrintable(locale.name()));
+            }
+        }
+    }
+
+    /** The base class takes the bound nearest to 0 for whatever is no number. */
+    void correctsNothingToAnotherNumber()
+    {
+        for (const bool validateTyping : {true, false}) {
+            for (const char *const text : {"", "-", "1e", "57"}) {
+                const double corrected = validateTyping && *text == '5' ? 57 : 42;
+                DoubleWindow doubles;
+                IntWindow ints;
+                doubles.box.setMinimum(-99);
+                doubles.box.setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
+                doubles.box.setValidateTyping(validateTyping);
+                doubles.box.setKeyboardTracking(false);
+                doubles.box.setLineEditText(QLatin1String(text));
+                doubles.box.interpretText();
+                QCOMPARE(doubles.box.value(), corrected);
+                QCOMPARE(doubles.box.text(), doubles.box.textFromValue(corrected));
+                ints.box.setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
+                ints.box.setMinimum(10);
+                ints.box.setValidateTyping(validateTyping);
+                ints.box.setKeyboardTracking(false);
+                ints.box.setLineEditText(QLatin1String(text));
+                ints.box.interpretText();
+                QCOMPARE(ints.box.value(), int(corrected));
+                ints.box.setLineEditText(QStringLiteral("5")); // a number, though one outside the range
+                ints.box.interpretText();
+                QCOMPARE(ints.box.value(), validateTyping ? 10 : int(corrected));
+            }
+        }
     }
 
     void stepsAreSnappedAndEndAtTheBounds()

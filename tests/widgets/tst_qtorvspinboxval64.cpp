@@ -176,6 +176,108 @@ private Q_SLOTS:
         }
     }
 
+    /** As in a form, which may set base and separators after the value. */
+    void showsANewBaseBeforeTheNextEdit()
+    {
+        const std::function<void(Window &)> looks[] = {
+            [](Window &window) { window.box.grab(); },
+            [](Window &window) { QTest::keyClick(&window.box, Qt::Key_Left); },
+            [](Window &window) { window.other.setFocus(), window.box.setFocus(); },
+        };
+        for (const auto &look : looks) {
+            Window window;
+            QVERIFY(window.isReady());
+            window.box.setMaximum(99999);
+            window.box.setValue(66666);
+            window.box.grab();
+            window.box.setDisplayIntegerBase(16);
+            QCOMPARE(window.box.text(), QStringLiteral("66666"));
+            look(window);
+            QCOMPARE(window.box.text(), QStringLiteral("1046a"));
+            window.takeEmitted();
+            window.edit->end(false);
+            QTest::keyClick(&window.box, Qt::Key_Backspace);
+            QCOMPARE(window.takeEmitted(), QStringLiteral("4166 '1046'"));
+            window.box.setLocale(QLocale(QLocale::German));
+            window.box.setDisplayIntegerBase(10);
+            window.box.setGroupSeparatorShown(true);
+            window.edit->selectAll();
+            look(window);
+            QCOMPARE(window.box.text(), QStringLiteral("4.166"));
+        }
+    }
+
+    void typesIntegersByLocale()
+    {
+        const struct
+        {
+            QLocale::Language language;
+            QString text;
+            long long value; // of 42
+        } rows[] = {
+            {QLocale::German, QStringLiteral("1.5"), 42},          {QLocale::German, QStringLiteral(",5"), 42},
+            {QLocale::German, QStringLiteral("1.500"), 42},        {QLocale::C, QStringLiteral("1,5"), 42},
+            {QLocale::Swedish, QStringLiteral("\u221257"), -57},   {QLocale::Swedish, QStringLiteral("-57"), -57},
+            {QLocale::Arabic, QStringLiteral("\u0665\u0667"), 57}, {QLocale::Arabic, QStringLiteral("-57"), -57},
+            {QLocale::French, QStringLiteral("1 500"), 42},
+        };
+        for (const auto &row : rows) {
+            Window window;
+            QVERIFY(window.isReady());
+            window.box.setRange(-9999, 9999);
+            window.box.setLocale(QLocale(row.language));
+            window.box.setKeyboardTracking(false);
+            window.edit->setText(row.text);
+            QTest::keyClick(&window.box, Qt::Key_Return);
+            QVERIFY2(window.box.value() == row.value, qPrintable(row.text));
+        }
+    }
+
+    void interpretsTypedText()
+    {
+        Window window;
+        QVERIFY(window.isReady());
+        window.box.setKeyboardTracking(false);
+        window.box.setSingleStep(10);
+        window.box.setValidateStepping(true);
+        window.box.interpretText(); // nothing was typed: off the grid it stays
+        QCOMPARE(window.takeEmitted(), QString());
+        window.type("57");
+        window.box.interpretText();
+        QCOMPARE(window.takeEmitted(), announced(60));
+        window.type("57");
+        QVERIFY(QMetaObject::invokeMethod(&window.box, "interpretText"));
+        QCOMPARE(window.box.text(), QStringLiteral("60"));
+        window.edit->setText(QStringLiteral("570"));
+        window.box.interpretText();
+        QCOMPARE(window.box.text(), QStringLiteral("60"));
+    }
+
+    /** The line edit would let everything pass once it shows what its validator does not accept. */
+    void guardsAffixesOfAValueOutsideTheRange()
+    {
+        Window window;
+        QVERIFY(window.isReady());
+        window.box.setKeyboardTracking(false);
+        window.box.setMaximum(9999);
+        window.box.setValue(4242);
+        window.box.setMaximum(20);
+        window.box.setSuffix(QStringLiteral(" us"));
+        window.edit->setCursorPosition(4);
+        QTest::keyClick(&window.box, Qt::Key_Delete);
+        QTest::keyClicks(&window.box, QStringLiteral("x"));
+        QCOMPARE(window.box.text(), QStringLiteral("4242 us"));
+        QTest::keyClick(&window.box, Qt::Key_Backspace);
+        QTest::keyClick(&window.box, Qt::Key_Backspace);
+        QTest::keyClick(&window.box, Qt::Key_Backspace);
+        QTest::keyClick(&window.box, Qt::Key_Delete);
+        QCOMPARE(window.box.text(), QStringLiteral("4 us")); // digit by digit
+        QTest::keyClicks(&window.box, QStringLiteral("2"));
+        QCOMPARE(window.box.text(), QStringLiteral("4 us")); // within the range since
+        QTest::keyClick(&window.box, Qt::Key_Return);
+        QCOMPARE(window.takeEmitted(), QStringLiteral("4242 '4242' 4 '4 us'"));
+    }
+
     void keepsUntouchedTextApartFromTyped()
     {
         Window window;

@@ -122,7 +122,10 @@ void OrvCamConfigPrivate::connectActions()
 {
     QObject::connect(ui.actionQuit, &QAction::triggered, q, &QWidget::close);
     QObject::connect(ui.actionConnect, &QAction::triggered, q, [this] { askForCamera(); });
-    QObject::connect(ui.actionDisconnect, &QAction::triggered, q, [this] { onDisconnectAction(); });
+    QObject::connect(ui.actionDisconnect, &QAction::triggered, q, [this] {
+        onDisconnectAction();
+        announceDevice();
+    });
     QObject::connect(ui.actionAbout, &QAction::triggered, q, [this] { showAbout(); });
 }
 
@@ -225,7 +228,7 @@ void OrvCamConfigPrivate::openChosen(OrvCam::System *chosenFrom, OrvCam::DeviceI
     system = chosenFrom;
     const OrvCamErr err = open(chosen, wanted);
     if (err == OrvCamErr_Ok)
-        return;
+        return announceDevice();
     OrvCam::DeviceInfo *const again = callers || former == wanted ? nullptr : findAgain(former, system);
     if (!again || open(again, former) != OrvCamErr_Ok) {
         onDisconnectAction();
@@ -234,6 +237,14 @@ void OrvCamConfigPrivate::openChosen(OrvCam::System *chosenFrom, OrvCam::DeviceI
     }
     ui.statusbar->showMessage(
         OrvCamConfig::tr("\"%1\" cannot be opened: %2").arg(name, OrvCamConfigMapper::tr(orvCamErrDescription(err))));
+    announceDevice();
+}
+
+/** The last thing that is done: a slot may destroy the window. */
+void OrvCamConfigPrivate::announceDevice()
+{
+    if (std::exchange(announced, device) != device)
+        Q_EMIT q->deviceChanged(device);
 }
 
 /** Opens and adopts a device; otherwise tells why not, and nothing has changed. */
@@ -356,6 +367,7 @@ OrvCamConfig::OrvCamConfig(OrvCam::Device *device, QWidget *parent, Qt::WindowFl
 {
     d->build();
     d->adopt(device);
+    d->announceDevice();
     if (device)
         return;
     // A parent that goes while the user is asked must not take along what is still being made.
@@ -373,6 +385,12 @@ void OrvCamConfig::SetDevice(OrvCam::Device *device)
     if (device != d->device)
         d->letGo();
     d->adopt(device);
+    d->announceDevice();
+}
+
+OrvCam::Device *OrvCamConfig::device() const
+{
+    return d->device;
 }
 
 void OrvCamConfig::showEvent(QShowEvent *event)

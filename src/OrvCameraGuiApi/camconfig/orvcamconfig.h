@@ -47,6 +47,16 @@ public:
      */
     void SetDevice(OrvCam::Device *device);
 
+    /** The device that is shown, which may be lost at present; null when there is none. */
+    OrvCam::Device *device() const;
+
+Q_SIGNALS:
+    /**
+     * Another device is shown, or none (null), by SetDevice() or by the user's choice. The former one may be released
+     * already. A camera that is lost and comes back stays the same device. A slot may destroy the window.
+     */
+    void deviceChanged(OrvCam::Device *device);
+
 protected:
     void showEvent(QShowEvent *event) override;
 

@@ -8,6 +8,7 @@
 #include <OrvCameraGuiApi/widgets/qtorvspinbox.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
+#include <OrvCameraGuiApi/widgets/spinsliderlink.h>
 
 #include <QApplication>
 #include <QButtonGroup>
@@ -120,29 +121,23 @@ void showValue(Control *control, int value)
     control->setValue(value);
 }
 
-/** What the camera says is shown as it is: only entries are moved to a step. */
-void showUnmoved(QtOrvSpinBoxVal *field, int value)
+/** Nothing stands between prefix and suffix, and it was not the user who took it away. */
+template <typename Field>
+bool isEmptied(const Field *field)
 {
-    field->QSpinBox::setValue(value);
-}
-
-void showUnmoved(QtOrvSpinBoxVal64 *field, int value)
-{
-    const bool moves = field->validateStepping();
-    field->setValidateStepping(false);
-    field->setValue(value);
-    field->setValidateStepping(moves);
+    const EntryGuard *const guard = EntryGuard::of(field);
+    return field->text() == field->prefix() + field->suffix() && !(guard && guard->isTouched());
 }
 
 /**
- * A composite's own setValue() goes by the positions of its slider, and the camera's value may lie between them: a
- * converted one mostly does. What shows already is left alone, and with it what is being typed.
+ * What the camera says is shown as it is: only entries are moved to a step. What shows already is left alone, and with
+ * it what is being typed.
  */
 template <typename Composite>
 void showInComposite(Composite *composite, int value)
 {
-    if (composite->value() != value)
-        showUnmoved(composite->spinBox(), value);
+    if (composite->value() != value || isEmptied(composite->spinBox()))
+        SpinSlider::showUnmoved(composite->spinBox(), value);
 }
 
 void showValue(QtOrvSpinBox *spinBox, int value)
@@ -153,6 +148,20 @@ void showValue(QtOrvSpinBox *spinBox, int value)
 void showValue(QtOrvSliderSpinBox *spinBox, int value)
 {
     showInComposite(spinBox, value);
+}
+
+/** Where there is no number to show, a field shows none. */
+void showNothing(QSlider *) { }
+
+void showNothing(QSpinBox *spinBox)
+{
+    spinBox->clear();
+}
+
+template <typename Composite>
+void showNothing(Composite *composite)
+{
+    composite->spinBox()->clear();
 }
 
 QButtonGroup *groupOf(const OrvGui::OrvCamConfigMapData &record)
@@ -1042,7 +1051,9 @@ void OrvCamConfigMapper::updateEditBox(OrvGenParam::Int *param, QLineEdit *lineE
         const std::int64_t maximum = std::min(param->GetMax(nullptr), m_upperClamp);
         validator->setRange(toInt(param->GetMin(nullptr)), toInt(maximum));
     }
-    lineEdit->setText(QString::number(std::min(param->GetValue(nullptr), m_upperClamp)));
+    OrvCamErr err = OrvCamErr_Ok;
+    const std::int64_t value = std::min(param->GetValue(&err), m_upperClamp);
+    lineEdit->setText(err == OrvCamErr_Ok ? QString::number(value) : QString());
 }
 
 OrvCamConfigMapper::IntView OrvCamConfigMapper::viewOf(OrvGenParam::Int *param,
@@ -1075,6 +1086,8 @@ void OrvCamConfigMapper::showInt(OrvGenParam::Int *param, Control *control, IOrv
         control->setSingleStep(view.step);
     if (alive)
         showValue(control, view.value);
+    if (alive && !view.isKnown)
+        showNothing(control);
 }
 
 void OrvCamConfigMapper::updateSpinBox(OrvGenParam::Int *param, QtOrvSpinBox *spinBox)

@@ -77,6 +77,7 @@ public:
     void unregisterCallbacks();
     void getNeededParams();
     void onDisconnectAction();
+    void announceDevice();
     void setDialogsDevice(OrvCam::Device *dialogsDevice);
     static void CameraConnectCallback(const void *data, unsigned long size, void *context);
     static void CameraDisconnectCallback(const void *data, unsigned long size, void *context);
@@ -143,6 +144,7 @@ public:
 
     OrvCam::System *system = nullptr; ///< from which the device was chosen; held as long as that
     OrvCam::Device *device = nullptr;
+    OrvCam::Device *announced = nullptr; ///< by deviceChanged()
     bool ownsDevice = false; ///< it was opened here
     DeviceIdentity identity; ///< of what was opened here
     bool awaitsParameters = false; ///< the device is back, and has not told them yet

@@ -61,6 +61,22 @@ IOrvGenParamTreeView *CreateGenParamTreeViewForArrayW(OrvGenParam::Array *params
     return CreateGenParamTreeView(params, titleFrom(title), parentWindowId);
 }
 
+bool IsGenParamTreeViewOpen(IOrvGenParamTreeView *view)
+{
+    const auto *const window = dynamic_cast<QWidget *>(view);
+    return window && window->isVisible();
+}
+
+void ShowGenParamTreeView(IOrvGenParamTreeView *view)
+{
+    if (auto *const window = dynamic_cast<QWidget *>(view)) {
+        window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+        window->show();
+        window->raise();
+        window->activateWindow();
+    }
+}
+
 void DestroyGenParamTreeView(IOrvGenParamTreeView *view)
 {
     delete view;

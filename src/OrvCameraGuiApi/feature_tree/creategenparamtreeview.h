@@ -17,9 +17,11 @@
  * is; the view outlives it.
  *
  * Where there is no Qt application object yet, one is made, with Qt::AA_UseHighDpiPixmaps, and never destroyed; its
- * events have to be processed by whoever calls. An application that makes its own should set that attribute for icons
- * that are sharp on every screen. Where there is one without widgets (QGuiApplication, QCoreApplication) the functions
- * answer null. All calls come from the GUI thread; none of them throws.
+ * events have to be processed by whoever calls, see OrvProcessEvents(). LC_NUMERIC stays as it was. An application that
+ * makes its own should set that attribute for icons that are sharp on every screen. Where there is one without widgets
+ * (QGuiApplication, QCoreApplication), or no display is set (DISPLAY, WAYLAND_DISPLAY, QT_QPA_PLATFORM), the functions
+ * answer null. A display that is set but cannot be reached makes Qt end the process, with a message on standard error.
+ * All calls come from the GUI thread; none of them throws.
  */
 extern "C" {
 
@@ -34,6 +36,12 @@ CreateGenParamTreeViewForArrayA(OrvGenParam::Array *params, const char *title, u
 
 ORV_CAMERAGUIAPI_EXPORT OrvGui::IOrvGenParamTreeView *
 CreateGenParamTreeViewForArrayW(OrvGenParam::Array *params, const wchar_t *title, unsigned long parentWindowId);
+
+/** Whether the view is shown, or minimized: the user has not closed it. False for null. */
+ORV_CAMERAGUIAPI_EXPORT bool IsGenParamTreeViewOpen(OrvGui::IOrvGenParamTreeView *view);
+
+/** Shows a view that the user has closed, or brings one that is open to the front; null does nothing. */
+ORV_CAMERAGUIAPI_EXPORT void ShowGenParamTreeView(OrvGui::IOrvGenParamTreeView *view);
 
 /** Closes and destroys the view; null does nothing. */
 ORV_CAMERAGUIAPI_EXPORT void DestroyGenParamTreeView(OrvGui::IOrvGenParamTreeView *view);

@@ -1,8 +1,10 @@
 #include <OrvCameraGuiApi/feature_tree/featuretree.h>
 
 #include <QAccessible>
+#include <QApplication>
 #include <QHeaderView>
 #include <QPointer>
+#include <QScopedValueRollback>
 
 namespace {
 
@@ -12,6 +14,12 @@ QPair<quintptr, int> identityOf(const QModelIndex &index)
 }
 
 } // namespace
+
+FeatureTree::FeatureTree(QWidget *parent)
+    : QTreeView(parent)
+{
+    connect(this, &QTreeView::collapsed, this, [this] { moveCurrentIntoSight(); });
+}
 
 /**
  * By their places and not each as the one below the last: a category that stands in several places has the same rows in
@@ -42,6 +50,47 @@ void FeatureTree::endEditing(const QModelIndex &index)
     // What came of the write may have closed it already.
     if (editor && indexWidget(edited) == editor)
         closeEditor(editor, QAbstractItemDelegate::NoHint);
+}
+
+bool FeatureTree::hasFocusInside() const
+{
+    const QWidget *widget = QApplication::focusWidget();
+    while (widget && widget != this)
+        widget = widget->parentWidget(); // of a pop-up too
+    return widget;
+}
+
+void FeatureTree::moveCurrentTo(const QModelIndex &index)
+{
+    const QScopedValueRollback<bool> quiet(m_opensNothing, true);
+    setCurrentIndex(index);
+}
+
+bool FeatureTree::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
+{
+    if (m_opensNothing && trigger == CurrentChanged)
+        return false;
+    return QTreeView::edit(index, trigger, event);
+}
+
+/** To the outermost category that is closed: the tree opens those above the current item by itself. */
+void FeatureTree::moveCurrentIntoSight()
+{
+    const auto inSight = [this] {
+        QModelIndex visible = currentIndex();
+        for (QModelIndex above = visible.parent(); above.isValid() && above != rootIndex(); above = above.parent()) {
+            if (!isExpanded(above))
+                visible = above;
+        }
+        return visible;
+    };
+    if (inSight() == currentIndex())
+        return;
+    // By itself, as the write may change which rows there are.
+    endEditing(currentIndex());
+    const QModelIndex visible = inSight();
+    if (visible != currentIndex())
+        moveCurrentTo(visible);
 }
 
 void FeatureTree::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight, const QVector<int> &roles)

@@ -11,13 +11,15 @@
  * longer than all else that is done about a change.
  *
  * For rows of one height; with others it is a QTreeView.
+ *
+ * The current item is never inside a category that is closed: it moves to that, without opening an editor.
  */
 class FeatureTree : public QTreeView
 {
     Q_OBJECT
 
 public:
-    using QTreeView::QTreeView;
+    explicit FeatureTree(QWidget *parent = nullptr);
 
     /** A row that can be seen, at least in part. */
     struct Row
@@ -32,13 +34,23 @@ public:
     /** Writes what is entered in the editor that is open at \a index, if it counts, and closes the editor. */
     void endEditing(const QModelIndex &index);
 
+    /** Whether the keys go to the tree or to an editor in it, with all that this has opened. */
+    bool hasFocusInside() const;
+
+    /** Makes \a index the current one, whatever the edit triggers are, without opening an editor there. */
+    void moveCurrentTo(const QModelIndex &index);
+
+    using QTreeView::edit;
+
     void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                      const QVector<int> &roles = QVector<int>()) override;
 
 protected:
+    bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void moveCurrentIntoSight();
     void findRowsOnScreen();
     bool concerns(const QModelIndex &topLeft, const QModelIndex &bottomRight) const;
     bool isElsewhereToo(const QModelIndex &index) const;
@@ -48,4 +60,5 @@ private:
      * anyhow, or will be.
      */
     QHash<QPair<quintptr, int>, int> m_rowsOnScreen;
+    bool m_opensNothing = false; ///< the current item moves by itself
 };

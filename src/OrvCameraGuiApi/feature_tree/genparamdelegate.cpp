@@ -1,7 +1,9 @@
 #include <OrvCameraGuiApi/feature_tree/genparamdelegate.h>
 
 #include <OrvCameraGuiApi/feature_tree/controldata.h>
+#include <OrvCameraGuiApi/feature_tree/editorfit.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
+#include <OrvCameraGuiApi/widgets/entryguard.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
 
 #include <QApplication>
@@ -10,11 +12,13 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMetaProperty>
+#include <QPersistentModelIndex>
 #include <QPointer>
 #include <QPushButton>
 #include <QSignalBlocker>
 
 #include <cmath>
+#include <memory>
 
 namespace {
 
@@ -99,6 +103,23 @@ bool isEnter(const QKeyEvent &event)
     return event.key() == Qt::Key_Enter || event.key() == Qt::Key_Return;
 }
 
+/** What a box of Qt's own steps from: it would read what is typed in its own way. */
+bool isStep(const QEvent &event)
+{
+    if (event.type() == QEvent::MouseButtonPress)
+        return true;
+    if (event.type() != QEvent::KeyPress)
+        return false;
+    const int key = static_cast<const QKeyEvent &>(event).key();
+    return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
+}
+
+/** Of a number; null for every other editor. */
+EntryGuard *guardOf(const QWidget *editor)
+{
+    return EntryGuard::of(qobject_cast<const QAbstractSpinBox *>(editor));
+}
+
 /** What an editor was loaded with and what the user has done to it since; a child of the editor. */
 class EditorSession : public QObject
 {
@@ -120,9 +141,12 @@ public:
     static EditorSession *find(const QWidget *editor);
     static EditorSession &of(QWidget *editor);
 
-    bool isTouched() const { return m_isTouched; }
+    bool isTouched() const;
+    bool isLoaded() const { return m_isLoaded; }
     bool isLoadedWith(const QVariant &value) const { return m_isLoaded && isSame(m_loadedValue, value); }
-    void setLoaded(const QVariant &value);
+    void setLoaded(const QModelIndex &index, const QVariant &value);
+    /** Of what was loaded last; invalid when that has gone. */
+    QModelIndex index() const { return m_index; }
 
     /** \a confirmed: the user has ended the entry with Enter. */
     void setConfirmed(bool confirmed) { m_isConfirmed = confirmed && m_isTouched; }
@@ -135,6 +159,7 @@ private:
     explicit EditorSession(QWidget *editor);
 
     QWidget *const m_editor;
+    QPersistentModelIndex m_index;
     QVariant m_loadedValue; ///< the feature's
     QVariant m_loadedContent; ///< what the editor made of it
     int m_commits = 0; ///< that are going on, one inside the other
@@ -149,7 +174,10 @@ EditorSession::EditorSession(QWidget *editor)
     , m_editor(editor)
 {
     const auto touch = [this] { m_isTouched = true; };
-    if (const QLineEdit *const field = textFieldOf(editor))
+    // What is typed into a number is the guard's to tell: it may come to nothing again.
+    if (const EntryGuard *const guard = guardOf(editor))
+        connect(guard, &EntryGuard::entered, this, [this] { m_isTouched = m_isConfirmed = true; });
+    else if (const QLineEdit *const field = textFieldOf(editor))
         connect(field, &QLineEdit::textEdited, this, touch);
     // Loading keeps the editor quiet: what it emits is the user's doing.
     if (const auto *const box = qobject_cast<QtOrvSpinBoxVal64 *>(editor))
@@ -169,8 +197,15 @@ EditorSession &EditorSession::of(QWidget *editor)
     return session ? *session : *new EditorSession(editor);
 }
 
-void EditorSession::setLoaded(const QVariant &value)
+bool EditorSession::isTouched() const
 {
+    const EntryGuard *const guard = guardOf(m_editor);
+    return m_isTouched || (guard && (guard->isTouched() || guard->isBlocked()));
+}
+
+void EditorSession::setLoaded(const QModelIndex &index, const QVariant &value)
+{
+    m_index = index;
     m_loadedValue = value;
     m_loadedContent = contentOf(m_editor);
     m_isLoaded = true;
@@ -315,8 +350,10 @@ void GenParamDelegate::connectEditor(QWidget *editor, int kind) const
         });
     } else {
         // Typing alone changes no value: a text that is no number would leave behind what its beginning stood for.
-        if (auto *const number = qobject_cast<QDoubleSpinBox *>(editor))
+        if (auto *const number = qobject_cast<QAbstractSpinBox *>(editor)) {
             number->setKeyboardTracking(false);
+            EntryGuard::install(number);
+        }
         captureMouseForEditor(editor);
     }
 }
@@ -343,9 +380,10 @@ void GenParamDelegate::setEditorData(QWidget *editor, const QModelIndex &index) 
     EditorSession &session = EditorSession::of(editor);
     if (session.isTouched())
         return;
+    const bool isFitted = session.isLoaded() && fitToFeature(editor, index);
     const QVariant value = index.data(Qt::EditRole);
     // Polling reports many a value that is still the same: cursor and selection then stay as they are.
-    if (session.isLoadedWith(withoutWrapper(value)))
+    if (!isFitted && session.isLoadedWith(withoutWrapper(value)))
         return;
     QLineEdit *const field = textFieldOf(editor);
     const bool isSelected = field && field->hasSelectedText();
@@ -357,7 +395,22 @@ void GenParamDelegate::setEditorData(QWidget *editor, const QModelIndex &index) 
     // What is typed next is to replace the new value as it would have replaced the old one.
     if (isSelected)
         field->selectAll();
-    session.setLoaded(withoutWrapper(value));
+    session.setLoaded(index, withoutWrapper(value));
+}
+
+/** With the value its range, increment, choices and unit may have changed. Whether anything had to be changed here. */
+bool GenParamDelegate::fitToFeature(QWidget *editor, const QModelIndex &index) const
+{
+    const std::unique_ptr<QWidget> fresh(index.data(GenParamTreeModel::ControlDataRole).value<ControlData>().editor);
+    const QSignalBlocker quiet(editor);
+    const EditorFit fit = fitEditor(editor, fresh.get());
+    if (fit != EditorFit::OtherClass)
+        return fit == EditorFit::Changed;
+    // Not at once: whoever reports the change goes on using the editor.
+    auto *const self = const_cast<GenParamDelegate *>(this);
+    QMetaObject::invokeMethod(
+        editor, [self, editor] { Q_EMIT self->closeEditor(editor, NoHint); }, Qt::QueuedConnection);
+    return false;
 }
 
 void GenParamDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
@@ -374,8 +427,7 @@ void GenParamDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, 
         model->setData(index, true, Qt::EditRole);
         return;
     }
-    if (auto *const number = qobject_cast<QDoubleSpinBox *>(editor); number && session.isTouched())
-        number->interpretText();
+    commitTyped(editor);
     if (hasBadEntry(editor) || !session.hasEntry(index))
         return;
     const EditorSession::Commit commit(session);
@@ -383,6 +435,18 @@ void GenParamDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, 
         model->setData(index, valueOf(editor), Qt::EditRole);
     else
         QStyledItemDelegate::setModelData(editor, model, index);
+}
+
+/** An integer that is typed counts with Enter only, a fraction always; what is left of a cut-off number never does. */
+void GenParamDelegate::commitTyped(QWidget *editor) const
+{
+    auto *const number = qobject_cast<QDoubleSpinBox *>(editor);
+    if (!number || !EditorSession::of(editor).isTouched())
+        return;
+    if (EntryGuard *const guard = guardOf(editor))
+        guard->commit();
+    else
+        number->interpretText();
 }
 
 void GenParamDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
@@ -411,6 +475,8 @@ bool GenParamDelegate::eventFilter(QObject *watched, QEvent *event)
         event->ignore();
         return true;
     }
+    if (editor && isStep(*event) && guardOf(editor))
+        commitTyped(editor);
     if (editor && event->type() == QEvent::KeyPress && isEnter(*static_cast<QKeyEvent *>(event)))
         return filterEnter(editor, static_cast<QKeyEvent *>(event));
     return QStyledItemDelegate::eventFilter(watched, event);
@@ -423,8 +489,26 @@ bool GenParamDelegate::filterEnter(QWidget *editor, QKeyEvent *event)
             button->click();
         return true;
     }
+    if (guardOf(editor))
+        return filterEnterOfNumber(editor, event);
     EditorSession::of(editor).setConfirmed(hasAcceptableText(editor));
     return QStyledItemDelegate::eventFilter(editor, event);
+}
+
+/** What cannot be entered leaves the editor open, with the limits beside it. */
+bool GenParamDelegate::filterEnterOfNumber(QWidget *editor, QKeyEvent *event)
+{
+    EntryGuard &guard = *guardOf(editor);
+    if (guard.isBlocked())
+        return false;
+    if (guard.isTouched() && !guard.commit()) {
+        const QModelIndex index = EditorSession::of(editor).index();
+        if (index.isValid())
+            setEditorData(editor, index);
+        return true;
+    }
+    QStyledItemDelegate::eventFilter(editor, event); // commits and closes when the event loop runs next
+    return true;
 }
 
 #include "genparamdelegate.moc"

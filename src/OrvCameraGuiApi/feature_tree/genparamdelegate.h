@@ -10,7 +10,8 @@ class QKeyEvent;
  * Nothing is written that the user did not enter, so a view may open editors wherever the current item goes. An editor
  * that still shows what was loaded closes without writing, and so does a combo box without current item, a text that
  * its validator does not accept and a button that was not clicked. While an editor is untouched it follows the value of
- * its feature; what the user has begun to enter is neither replaced nor written when the value changes meanwhile.
+ * its feature, and with it range, increment, choices and unit; what the user has begun to enter is neither replaced nor
+ * written when the value changes meanwhile.
  *
  * When an entry is written:
  * - a combo box: as soon as another item becomes current; it closes then;
@@ -18,8 +19,12 @@ class QKeyEvent;
  * - everything else: at Enter, and when the editor loses the focus, for which a click anywhere outside is enough. An
  *   integer that was typed counts only with Enter; one that was stepped to counts always.
  *
- * An entry equal to what was loaded is written too if it was confirmed with Enter and the feature has another value by
- * then, or one that the editor could not show. The mouse wheel changes no value: it scrolls the view.
+ * Numbers are read as EntryGuard tells: in the locale and with both decimal signs, as a whole or not at all. Enter on
+ * what is no number in the range leaves the editor open, shows the value again and tells the limits.
+ *
+ * An entry equal to what was loaded is written too if it was confirmed and the feature has another value by then, or
+ * one that the editor could not show: with Enter, and a fraction also by leaving its editor. The mouse wheel changes no
+ * value: it scrolls the view.
  *
  * A write that fails is the model's to report; the editor closes all the same and the view shows the value as it is.
  */
@@ -63,6 +68,9 @@ private:
     class MouseTracker;
 
     void connectEditor(QWidget *editor, int kind) const;
+    bool fitToFeature(QWidget *editor, const QModelIndex &index) const;
+    void commitTyped(QWidget *editor) const;
     bool filterEnter(QWidget *editor, QKeyEvent *event);
+    bool filterEnterOfNumber(QWidget *editor, QKeyEvent *event);
     void releaseFocus(QWidget *editor) const;
 };

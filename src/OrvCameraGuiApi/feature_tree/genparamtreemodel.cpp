@@ -457,6 +457,14 @@ QModelIndex GenParamTreeModel::parent(const QModelIndex &index) const
     return parent ? createIndex(parent->second.row, NameColumn, parent) : QModelIndex();
 }
 
+QModelIndex GenParamTreeModel::sibling(int row, int column, const QModelIndex &index) const
+{
+    if (!index.isValid() || row != index.row())
+        return QAbstractItemModel::sibling(row, column, index);
+    const bool isCell = column >= 0 && column < columnCount();
+    return isCell ? createIndex(row, column, index.internalPointer()) : QModelIndex();
+}
+
 int GenParamTreeModel::rowCount(const QModelIndex &parent) const
 {
     if (!parent.isValid())

@@ -33,6 +33,7 @@ struct SourceRow
     bool isCategory;
     bool hasRowsBelow;
     bool isCheckQueued = false;
+    int firstRow; ///< in which the category lists the feature first
 };
 
 /** The rows below one source index that pass the filter; the internal pointer of their proxy indexes. */
@@ -142,11 +143,16 @@ public:
 
 /**
  * A feature in several places is one to the source model, which knows only the first as its parent's child. The others
- * are told apart by their row, which then belongs to something else, or to nothing, among that parent's children.
+ * are told apart by their row, which then belongs to something else, or to nothing, among that parent's children, or to
+ * the same feature, listed once more.
  */
 QModelIndex GenParamTreeVisibilityFilterProxyModelPrivate::firstOccurrence(const QModelIndex &index) const
 {
     const QModelIndex parent = source->parent(index);
+    if (const Branch *const branch = branches.value(parent.internalId()); has(branch, index)) {
+        const int row = branch->sourceRows[size_t(index.row())].firstRow;
+        return row == index.row() ? index : source->index(row, index.column(), branch->source);
+    }
     const auto isHere = [&](int row) { return source->index(row, 0, parent).internalId() == index.internalId(); };
     if (isHere(index.row()))
         return index;
@@ -232,16 +238,21 @@ void GenParamTreeVisibilityFilterProxyModelPrivate::readSourceRows(Branch &branc
         auto *const value = source->data(index, GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
         GenApi::INode *node = nullptr;
         failureOf([&] { node = nodeOf(value); });
-        branch.sourceRows.push_back({index.internalId(), node, nullptr, isCategory(value), source->hasChildren(index)});
+        branch.sourceRows.push_back(
+            {index.internalId(), node, nullptr, isCategory(value), source->hasChildren(index), false, row});
     }
 }
 
 void GenParamTreeVisibilityFilterProxyModelPrivate::findListedAgain(Branch &branch)
 {
     const int count = source->rowCount(branch.source);
+    QHash<quintptr, int> firstRows;
+    firstRows.reserve(count);
     for (int row = 0; row < count; ++row) {
         const QModelIndex index = source->index(row, 0, branch.source);
-        if (source->parent(index) == branch.source)
+        const int firstRow = *firstRows.insert(index.internalId(), firstRows.value(index.internalId(), row));
+        branch.sourceRows[size_t(row)].firstRow = firstRow;
+        if (firstRow == row && source->parent(index) == branch.source)
             continue;
         furtherPlaces[index.internalId()].append({&branch, row});
         if (Branch *const listed = branches.value(index.internalId()))
@@ -686,6 +697,7 @@ QModelIndex GenParamTreeVisibilityFilterProxyModel::mapFromSource(const QModelIn
 {
     if (!sourceIndex.isValid() || sourceIndex.model() != d->source)
         return {};
+    d->branchOf(d->source->parent(sourceIndex));
     const QModelIndex first = d->firstOccurrence(sourceIndex);
     const std::optional<Place> place = first.isValid() ? d->shownPlace(first) : std::nullopt;
     if (!place)

@@ -306,10 +306,16 @@ void OrvGenParamTreeViewPrivate::moveCurrentFromGoing()
     };
     if (survivorOfCurrent() == ui.treeView->currentIndex())
         return;
+    const bool hadFocus = ui.treeView->hasFocusInside();
     ui.treeView->endEditing(ui.treeView->currentIndex());
     const QModelIndex survivor = survivorOfCurrent();
-    if (survivor != ui.treeView->currentIndex())
+    if (survivor == ui.treeView->currentIndex())
+        return;
+    // Who types elsewhere goes on typing there.
+    if (hadFocus)
         ui.treeView->setCurrentIndex(survivor);
+    else
+        ui.treeView->moveCurrentTo(survivor);
 }
 
 void OrvGenParamTreeViewPrivate::errorAppeared(const QModelIndex &index, const QString &name, const QString &message,

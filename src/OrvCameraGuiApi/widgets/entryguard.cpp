@@ -129,6 +129,7 @@ void EntryGuard::remove(QAbstractSpinBox *box)
     EntryGuard *const guard = of(box);
     if (!guard)
         return;
+    guard->drop();
     guard->withdrawLimits();
     guard->handBackReading();
     if (box->focusPolicy() == Qt::StrongFocus)
@@ -215,7 +216,10 @@ void EntryGuard::drop()
 
 bool EntryGuard::eventFilter(QObject *watched, QEvent *event)
 {
-    if (!m_edit)
+    // Events come until the end, when what is left of the box or of its line edit is but a widget.
+    const bool isWhole =
+        watched == m_box ? bool(qobject_cast<QAbstractSpinBox *>(watched)) : watched->inherits("QLineEdit");
+    if (!isWhole || !m_edit)
         return false;
     if (isInput(event->type()))
         m_textBefore = m_edit->text();

@@ -121,7 +121,7 @@ QString takeNumber(const Box &box, QString &text, int &pos)
     const QString bare = withoutAffixes(box, text);
     if (!text.startsWith(box.prefix()))
         pos += box.prefix().size();
-    const QString number = bare.trimmed();
+    QString number = bare.trimmed();
     const int blanksBefore = bare.indexOf(number);
     pos -= qBound(0, pos - box.prefix().size(), blanksBefore);
     text = box.prefix() + number + box.suffix();

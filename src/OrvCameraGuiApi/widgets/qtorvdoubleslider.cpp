@@ -52,7 +52,7 @@ void QtOrvDoubleSliderPrivate::rescale(const DoubleScale &changed)
     scale = changed;
     {
         const QScopedValueRollback<bool> guard(settling, true);
-        parts.slider->setPositions(0, scale.lastPosition(), 1);
+        parts.slider->setPositions(0, scale.lastPosition(), parts.slider->singleStep());
         parts.slider->setValue(scale.positionOf(kept));
     }
     const bool moved = parts.slider->value() != keptPosition || q->value() != kept;

@@ -197,7 +197,8 @@ void QtOrvSlider::setSingleStep(int step)
     if (step <= 0)
         return;
     d->scale.setSingleStep(step);
-    d->parts.slider->setPositions(d->scale.firstPosition(), d->scale.lastPosition(), d->scale.positionStep());
+    if (scaleType() == Linear)
+        d->parts.slider->setPositions(d->scale.firstPosition(), d->scale.lastPosition(), d->scale.positionStep());
 }
 
 bool QtOrvSlider::validate() const

@@ -215,8 +215,10 @@ QString QtOrvSpinBoxVal64Private::numberPart(const QString &text) const
 /** Separators of a box that shows them fall in place later: while the text is edited they may stand anywhere. */
 QString QtOrvSpinBoxVal64Private::ungrouped(QString number) const
 {
-    return q->isGroupSeparatorShown() && displayIntegerBase == 10 ? number.remove(q->locale().groupSeparator())
-                                                                  : number;
+    const QLocale locale = NumberText::localeOf(*q);
+    if (displayIntegerBase == 10 && NumberText::hasGroups(locale))
+        number.remove(locale.groupSeparator());
+    return number;
 }
 
 /** The number of the range that stands in the box. */

@@ -4,11 +4,37 @@
 #include <QWidget>
 #include <QWindow>
 
+#include <clocale>
 #include <memory>
+#include <string>
+
+namespace {
+
+/** What Qt chooses its platform by; without any it would end the process. */
+bool isDisplaySet()
+{
+    const auto isSet = [](const char *variable) { return !qEnvironmentVariableIsEmpty(variable); };
+    return isSet("QT_QPA_PLATFORM") || isSet("DISPLAY") || isSet("WAYLAND_DISPLAY");
+}
+
+/** Puts the locale of numbers back. */
+class NumericLocaleKeeper
+{
+public:
+    NumericLocaleKeeper() = default;
+    ~NumericLocaleKeeper() { std::setlocale(LC_NUMERIC, m_former.c_str()); }
+    Q_DISABLE_COPY(NumericLocaleKeeper)
+
+private:
+    const std::string m_former = std::setlocale(LC_NUMERIC, nullptr);
+};
+
+} // namespace
 
 bool ensureApplication()
 {
-    if (!QCoreApplication::instance()) {
+    if (!QCoreApplication::instance() && isDisplaySet()) {
+        const NumericLocaleKeeper keeper;
         // Both have to last as long as the application object, which is never destroyed.
         static int argumentCount = 0;
         static char *arguments[] = {nullptr};

@@ -10,7 +10,10 @@ class QWidget;
  * and the native window that ours are to belong to.
  */
 
-/** Whether widgets can be made; makes the application object that they need if there is none at all. */
+/**
+ * Whether widgets can be made; makes the application object that they need if there is none at all. None is made where
+ * no display is set. The caller's LC_NUMERIC stays as it is: Qt would set it, and with it the caller's decimal sign.
+ */
 bool ensureApplication();
 
 /** The title that a caller gave, as UTF-8 or as 32-bit characters; null is an empty one. */

@@ -576,7 +576,7 @@ void OrvCamConfigFrameABDialogPrivate::showTime(std::int64_t microseconds, std::
     time->setRange(0, toInt(longest));
     const int shown = std::clamp(toInt(microseconds), time->minimum(), time->maximum());
     if (time->value() != shown)
-        time->spinBox()->QSpinBox::setValue(shown);
+        SpinSlider::showUnmoved(time->spinBox(), shown);
     ControlWatch *const watch = ControlWatch::of(time);
     watch->clear();
     if (shown != microseconds)
@@ -588,11 +588,11 @@ void OrvCamConfigFrameABDialogPrivate::setExposureTime(int microseconds)
 {
     if (isShowing)
         return;
-    readBack({linesFeature, clocksFeature});
+    const bool isKnown = readBack({linesFeature, clocksFeature});
     const Cached now = cached();
     const std::optional<Exposure> parts = splitExposure(microseconds, now.clock);
     const auto isSame = sameCamera();
-    if (parts && exposureTime(now.exposure, now.clock) != microseconds) {
+    if (parts && (!isKnown || exposureTime(now.exposure, now.clock) != microseconds)) {
         if (!setHalf(linesFeature, ui.spBoxExposureLines, parts->lines) || !isSame())
             return;
         setHalf(clocksFeature, ui.spBoxExposureClocks, parts->clocks);
@@ -646,7 +646,7 @@ void OrvCamConfigFrameABDialogPrivate::updateGain()
     QtOrvDoubleSpinBoxVal *const field = ui.gainDigital->spinBox();
     const double gain = composedGain(cached().gain);
     if (!SpinSlider::shows(field, gain))
-        field->QDoubleSpinBox::setValue(gain);
+        SpinSlider::showUnmoved(field, gain);
     ControlWatch::of(ui.gainDigital)->clear();
 }
 

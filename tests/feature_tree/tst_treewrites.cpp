@@ -1,0 +1,297 @@
+#include "orvtest.h"
+#include "shownview.h"
+#include "windowmouse.h"
+
+#include <OrvCameraGuiApi/feature_tree/genparamdelegate.h>
+#include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
+
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLineEdit>
+#include <QToolButton>
+#include <QToolTip>
+#include <QVBoxLayout>
+
+namespace {
+
+using Step = std::function<void(ShownView &)>;
+
+/** Features whose range, choices and presence others decide; two that their category lists twice. */
+QByteArray changingNodes()
+{
+    return R"(<Category Name="Root"><pFeature>Plain</pFeature></Category>
+<Category Name="Plain"><pFeature>Width</pFeature><pFeature>Ratio</pFeature><pFeature>Mode</pFeature>
+  <pFeature>Twice</pFeature><pFeature>Other</pFeature><pFeature>Twice</pFeature><pFeature>Before</pFeature>
+  <pFeature>Passing</pFeature><pFeature>Kind</pFeature></Category>
+<Integer Name="Width"><Value>50</Value><Min>0</Min><pMax>Most</pMax><pInc>Grain</pInc></Integer>
+<Float Name="Ratio"><Value>0.5</Value><Min>0</Min><pMax>Most</pMax></Float>
+<Enumeration Name="Mode"><EnumEntry Name="Off"><Value>0</Value></EnumEntry>
+  <EnumEntry Name="Rare"><pIsAvailable>There</pIsAvailable><Value>1</Value></EnumEntry><Value>0</Value></Enumeration>
+<Integer Name="Twice"><pIsImplemented>There</pIsImplemented><Value>5</Value></Integer>
+<Integer Name="Other"><Value>7</Value></Integer>
+<Integer Name="Before"><Value>1</Value></Integer>
+<Integer Name="Passing"><pIsImplemented>Here</pIsImplemented><Value>3</Value></Integer>
+<Enumeration Name="Kind"><EnumEntry Name="Left"><Value>0</Value></EnumEntry>
+  <EnumEntry Name="Right"><Value>1</Value></EnumEntry><Value>0</Value></Enumeration>
+<Integer Name="Most"><Value>100</Value></Integer><Integer Name="Grain"><Value>1</Value></Integer>
+<Integer Name="There"><Value>1</Value></Integer><Integer Name="Here"><Value>1</Value></Integer>)";
+}
+
+/** Of all features but the one that comes and goes. */
+QStringList valuesOf(const ShownView &shown)
+{
+    QStringList values;
+    const QModelIndexList rows = rowsOf(*static_cast<QAbstractProxyModel *>(shown.tree->model())->sourceModel());
+    for (const QModelIndex &row : rows) {
+        if (nodeName(row) != QLatin1String("Passing"))
+            values += row.siblingAtColumn(1).data().toString();
+    }
+    return values;
+}
+
+void set(const ShownView &shown, const char *name, qint64 value)
+{
+    shown.node<GenApi::CIntegerPtr>(name)->SetValue(value);
+}
+
+QWidget *editorIn(const ShownView &shown)
+{
+    const auto children = shown.tree->viewport()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    const auto open = std::find_if(children.begin(), children.end(), [](QWidget *child) { return child->isVisible(); });
+    return open == children.end() ? nullptr : *open;
+}
+
+/** As a user would: into whatever has the focus now. */
+void typeAnywhere(const QString &text)
+{
+    for (const QChar key : text)
+        QTest::keyClick(QApplication::focusWidget(), key.toLatin1());
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Step)
+
+class TestTreeWrites : public OrvTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keysStayWhereTheyAreTyped_data();
+    void keysStayWhereTheyAreTyped();
+    void leavesClosedCategories_data();
+    void leavesClosedCategories();
+    void fitsUntouchedEditors();
+    void knowsWhatIsListedTwice();
+    void readsNumbersAsAWhole_data();
+    void readsNumbersAsAWhole();
+};
+
+/** The row with the current item goes, by what is done elsewhere. */
+void TestTreeWrites::keysStayWhereTheyAreTyped_data()
+{
+    QTest::addColumn<Step>("step");
+    const auto row = [](const char *name, const Step &step) { QTest::newRow(name) << step; };
+    row("filter", [](ShownView &shown) {
+        shown.part<QLineEdit>("filterLineEdit")->setFocus();
+        typeAnywhere(QStringLiteral("kind1"));
+        QCOMPARE(shown.part<QLineEdit>("filterLineEdit")->text(), QStringLiteral("kind1"));
+    });
+    row("a report", [](ShownView &shown) {
+        auto *const host = shown.view.findChild<QLineEdit *>(QStringLiteral("host"));
+        host->setFocus();
+        typeAnywhere(QStringLiteral("1"));
+        set(shown, "Here", 0);
+        typeAnywhere(QStringLiteral("23\r"));
+        QCOMPARE(host->text(), QStringLiteral("123"));
+    });
+    row("level", [](ShownView &shown) {
+        auto *const level = shown.part<QComboBox>("cbVisibility");
+        level->setFocus();
+        for (int i = 0; i < 4; ++i)
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+        QCOMPARE(level->currentIndex(), 0);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    });
+}
+
+void TestTreeWrites::keysStayWhereTheyAreTyped()
+{
+    QFETCH(Step, step);
+    for (const int column : {0, 1}) {
+        ShownView shown(changingNodes().replace("<Value>3</Value>", "<Visibility>Guru</Visibility><Value>3</Value>"));
+        auto *const host = new QLineEdit(&shown.view);
+        host->setObjectName(QStringLiteral("host"));
+        shown.view.layout()->addWidget(host);
+        QVERIFY(shown.show());
+        shown.click(shown.cell("Passing", column));
+        const QStringList values = valuesOf(shown);
+        step(shown);
+        QVERIFY(!shown.cell("Passing").isValid());
+        QVERIFY(shown.tree->currentIndex().isValid());
+        QVERIFY(!editorIn(shown));
+        QCOMPARE(valuesOf(shown), values);
+        // What the user does in the tree opens editors as ever.
+        shown.part<QLineEdit>("filterLineEdit")->clear();
+        shown.click(shown.cell("Mode"));
+        QVERIFY(editorIn(shown));
+    }
+}
+
+void TestTreeWrites::leavesClosedCategories_data()
+{
+    QTest::addColumn<Step>("step");
+    const auto row = [](const char *name, const Step &step) { QTest::newRow(name) << step; };
+    row("button",
+        [](ShownView &shown) { QTest::mouseClick(shown.part<QToolButton>("pbCollapseAll"), Qt::LeftButton); });
+    row("mouse", [](ShownView &shown) {
+        const QRect name = shown.tree->visualRect(shown.cell("Plain", 0));
+        QTest::mouseClick(shown.tree->viewport(), Qt::LeftButton, {}, {name.left() - 8, name.center().y()});
+    });
+    row("state", [](ShownView &shown) { shown.view.loadState("&amp;V2"); });
+    row("program", [](ShownView &shown) { shown.tree->collapse(shown.cell("Plain", 0)); });
+}
+
+void TestTreeWrites::leavesClosedCategories()
+{
+    QFETCH(Step, step);
+    ShownView shown(changingNodes());
+    QVERIFY(shown.show());
+    shown.click(shown.cell("Width"));
+    QVERIFY(editorIn(shown));
+    const QStringList values = valuesOf(shown);
+    step(shown);
+    QVERIFY(!shown.tree->isExpanded(shown.cell("Plain", 0)));
+    QCOMPARE(shown.tree->currentIndex(), shown.cell("Plain", 0));
+    QVERIFY(!editorIn(shown));
+    shown.tree->setFocus();
+    QTest::keyClick(shown.tree, Qt::Key_F2);
+    QVERIFY(!editorIn(shown));
+    typeAnywhere(QStringLiteral("12\r"));
+    QCOMPARE(valuesOf(shown), values);
+}
+
+void TestTreeWrites::fitsUntouchedEditors()
+{
+    ShownView shown(changingNodes());
+    QVERIFY(shown.show());
+    shown.click(shown.cell("Width"));
+    const QPointer<QWidget> width = editorIn(shown);
+    QVERIFY(width);
+    set(shown, "Most", 1000);
+    set(shown, "Grain", 10);
+    set(shown, "Width", 500);
+    QTest::keyClick(width, Qt::Key_Up);
+    QTest::keyClick(width, Qt::Key_Return);
+    QTRY_VERIFY(!width);
+    QCOMPARE(shown.cell("Width").data().toString(), QStringLiteral("510"));
+
+    shown.click(shown.cell("Ratio"));
+    auto *const ratio = qobject_cast<QDoubleSpinBox *>(editorIn(shown));
+    QVERIFY(ratio);
+    QCOMPARE(ratio->maximum(), 1000.);
+    set(shown, "Most", 2000);
+    QCOMPARE(ratio->maximum(), 2000.);
+    typeAnywhere(QStringLiteral("7"));
+    set(shown, "Most", 3000);
+    QCOMPARE(ratio->maximum(), 2000.); // touched
+    QTest::keyClick(ratio, Qt::Key_Escape);
+
+    shown.click(shown.cell("Mode"));
+    auto *const mode = qobject_cast<QComboBox *>(editorIn(shown));
+    QVERIFY(mode);
+    QCOMPARE(mode->count(), 2);
+    set(shown, "There", 0);
+    shown.node("Mode")->InvalidateNode();
+    QCOMPARE(mode->count(), 1);
+    QCOMPARE(mode->currentText(), QStringLiteral("Off"));
+    QCOMPARE(editorIn(shown), mode);
+}
+
+void TestTreeWrites::knowsWhatIsListedTwice()
+{
+    ShownView shown(changingNodes());
+    QVERIFY(shown.show());
+    const QModelIndex plain = shown.cell("Plain", 0);
+    const QPersistentModelIndex second = plain.model()->index(5, 1, plain);
+    shown.click(second);
+    const auto *const box = qobject_cast<QtOrvSpinBoxVal64 *>(editorIn(shown));
+    QVERIFY(box);
+    set(shown, "Twice", 9);
+    QCOMPARE(box->value(), 9);
+    QTest::keyClick(editorIn(shown), Qt::Key_Up);
+    QTest::keyClick(editorIn(shown), Qt::Key_Return);
+    QTRY_VERIFY(!editorIn(shown));
+    QCOMPARE(shown.node<GenApi::CIntegerPtr>("Twice")->GetValue(), 10);
+    set(shown, "There", 0);
+    QVERIFY(!second.isValid() && !shown.cell("Twice").isValid());
+    set(shown, "There", 1);
+    QCOMPARE(shown.tree->model()->rowCount(shown.cell("Plain", 0)), 9);
+
+    // Without the filter.
+    GenParamTreeModel model(shown.map.get(), nullptr);
+    const QModelIndex listed = model.index(5, 0, model.index(0, 0));
+    QCOMPARE(listed.siblingAtColumn(1).data().toString(), QStringLiteral("10"));
+    QCOMPARE(nodeName(listed.siblingAtColumn(1)), QStringLiteral("Twice"));
+    QVERIFY(!listed.siblingAtColumn(2).isValid());
+    QTreeView tree;
+    GenParamDelegate delegate;
+    tree.setModel(&model);
+    tree.setItemDelegateForColumn(1, &delegate);
+    const std::unique_ptr<QWidget> editor(delegate.createEditor(&tree, {}, listed.siblingAtColumn(1)));
+    delegate.setEditorData(editor.get(), listed.siblingAtColumn(1));
+    static_cast<QtOrvSpinBoxVal64 *>(editor.get())->setValue(12);
+    delegate.setModelData(editor.get(), &model, listed.siblingAtColumn(1));
+    QCOMPARE(shown.node<GenApi::CIntegerPtr>("Twice")->GetValue(), 12);
+    QCOMPARE(shown.node<GenApi::CIntegerPtr>("Other")->GetValue(), 7);
+}
+
+void TestTreeWrites::readsNumbersAsAWhole_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char *locale, const char *name, const char *keys, const char *text) {
+        QTest::addRow("%s %s %s", locale, name, QByteArray(keys).replace('\r', "Enter").replace('\t', "Tab").data())
+            << QString::fromLatin1(locale) << QByteArray(name) << QString::fromLatin1(keys)
+            << QString::fromLatin1(text);
+    };
+    row("de", "Gain", "3.5\r", "3.500dB");
+    row("de", "Gain", "3,5\r", "3.500dB");
+    row("C", "Gain", "3,5\r", "1.500dB");
+    for (const char *end : {"\r", "\t", "|"}) {
+        row("de", "Gain", (QByteArray("3.5555") + end).constData(), "1.500dB"); // a decimal too many
+        row("C", "Exposure Time", (QByteArray("40000") + end).constData(), "0us");
+    }
+    row("C", "Exposure Time", "40000\b8\r", "4008us");
+    row("C", "Exposure Time", "40000\b\b8\r", "408us");
+    row("C", "Gain", "3.7555\b\r", "3.750dB");
+}
+
+void TestTreeWrites::readsNumbersAsAWhole()
+{
+    QFETCH(QString, locale);
+    QFETCH(QByteArray, name);
+    QFETCH(QString, keys);
+    QFETCH(QString, text);
+    QLocale::setDefault(QLocale(locale));
+    ShownView shown(FeatureCamera::allKinds().replace("<Max>4000</Max>", "<Max>4996</Max>"));
+    QLocale::setDefault(QLocale::c());
+    QVERIFY(shown.show());
+    shown.click(shown.cell(name.constData()));
+    QVERIFY(editorIn(shown));
+    for (const QChar key : keys) {
+        if (key == QLatin1Char('|'))
+            WindowMouse::click(shown.part<QWidget>("whatsThisLabel"), QPoint(5, 5));
+        else
+            typeAnywhere(key);
+    }
+    QCoreApplication::processEvents();
+    shown.tree->setCurrentIndex(QModelIndex());
+    QToolTip::hideText();
+    QCOMPARE(shown.cell(name.constData()).data().toString(), text);
+}
+
+ORV_TEST_MAIN(TestTreeWrites)
+#include "tst_treewrites.moc"
