@@ -117,5 +117,10 @@ private Q_SLOTS:
     }
 };
 
-ORV_TEST_MAIN(TestFitScreen)
+int main(int argc, char **argv)
+{
+    new QApplication(argc, argv); // for good: what the X11 platform leaves behind could not be told once it is unloaded
+    TestFitScreen test;
+    return OrvTest::runTests(&test, argc, argv);
+}
 #include "tst_fitscreen.moc"
