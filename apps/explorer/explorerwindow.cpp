@@ -8,6 +8,7 @@
 #include "widgetspage.h"
 
 #include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
+#include <OrvCameraGuiApi/windows/fitscreen.h>
 
 #include <GenApi/GenApi.h>
 
@@ -71,6 +72,7 @@ ExplorerWindow::ExplorerWindow(std::unique_ptr<CameraSource> source, QWidget *pa
     , m_pollingLabel(new QLabel(this))
 {
     resize(780, 760);
+    openWithinScreen(*this);
     m_view->setPollingTime(defaultPollingTime);
     m_tools->setObjectName(QStringLiteral("tools"));
     createPages();

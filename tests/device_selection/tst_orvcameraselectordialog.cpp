@@ -97,6 +97,9 @@ struct Shown
     std::unique_ptr<OrvGui::OrvCameraSelectorDialog> dialog;
 };
 
+/** What the user or the world does. */
+using Step = std::function<void(const Shown &)>;
+
 /** A camera to be added, whose control name is its identifier. */
 OrvSim::DeviceSpec cameraNamed(const char *name)
 {
@@ -119,7 +122,7 @@ void press(QMessageBox &box, QMessageBox::StandardButton button)
 } // namespace
 
 Q_DECLARE_METATYPE(std::function<void()>)
-Q_DECLARE_METATYPE(std::function<void(const Shown &)>)
+Q_DECLARE_METATYPE(Step)
 
 class TestOrvCameraSelectorDialog : public OrvTest::TestCase
 {
@@ -335,10 +338,14 @@ private Q_SLOTS:
         const QPointer<QMenu> menu(shown.dialog->findChild<QMenu *>());
         expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
         menu->popup(QPoint());
-        OrvTest::whenOpen<SetIpDialog>([&](SetIpDialog &) { shown.dialog.reset(); });
+        bool isThere = false;
+        OrvTest::whenOpen<SetIpDialog>([&](SetIpDialog &) {
+            shown.dialog.reset();
+            isThere = menu;
+        });
         QTest::mouseClick(menu.data(), Qt::LeftButton, Qt::NoModifier,
                           menu->actionGeometry(menu->actions().constFirst()).center());
-        QVERIFY(!shown.dialog);
+        QVERIFY(!shown.dialog && isThere);
         QTRY_VERIFY(!menu);
     }
 
@@ -512,9 +519,9 @@ private Q_SLOTS:
 
     void goesBackToACameraThatReturns_data()
     {
-        QTest::addColumn<std::function<void(const Shown &)>>("meanwhile");
+        QTest::addColumn<Step>("meanwhile");
         QTest::addColumn<QString>("then");
-        const auto row = [](const char *name, std::function<void(const Shown &)> meanwhile, const char *then) {
+        const auto row = [](const char *name, Step meanwhile, const char *then) {
             QTest::newRow(name) << std::move(meanwhile) << QString::fromLatin1(then);
         };
         const auto key = [](Qt::Key pressed) {
@@ -534,7 +541,7 @@ private Q_SLOTS:
 
     void goesBackToACameraThatReturns()
     {
-        QFETCH(const std::function<void(const Shown &)>, meanwhile);
+        QFETCH(Step, meanwhile);
         QFETCH(QString, then);
         SystemPolling::period = shortPeriod;
         Shown shown(true);

@@ -19,6 +19,7 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QScreen>
 #include <QSettings>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -95,7 +96,20 @@ private Q_SLOTS:
     void remembersItself();
     void savesAndLoadsTheState();
     void listsTheSignalsOfTheWidgets();
+    void opensWithinTheScreen();
 };
+
+void ExplorerWindowTest::opensWithinTheScreen()
+{
+    ExplorerWindow window(openCamera(QString()));
+    const std::shared_ptr<OrvCam::System> system = cameraSystem();
+    CameraDialog dialog(system.get());
+    for (QWidget *const shown : {static_cast<QWidget *>(&window), static_cast<QWidget *>(&dialog)}) {
+        shown->show();
+        QVERIFY(QTest::qWaitForWindowExposed(shown));
+        QVERIFY(shown->screen()->availableGeometry().contains(shown->frameGeometry()));
+    }
+}
 
 void ExplorerWindowTest::init()
 {

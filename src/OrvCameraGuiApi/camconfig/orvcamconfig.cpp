@@ -11,6 +11,8 @@
 #include <OrvCameraGuiApi/camconfig/orvcamconfigprivate.h>
 #include <OrvCameraGuiApi/device_selection/devicetreemodel.h>
 #include <OrvCameraGuiApi/device_selection/orvcameraselectordialog.h>
+#include <OrvCameraGuiApi/windows/fitscreen.h>
+#include <OrvCameraGuiApi/windows/plaintooltip.h>
 
 #include <QEvent>
 #include <QLabel>
@@ -99,6 +101,7 @@ OrvCamConfigPrivate::~OrvCamConfigPrivate()
 void OrvCamConfigPrivate::build()
 {
     ui.setupUi(q);
+    openWithinScreen(*q);
     info = {{{ui.lineEditSizeFrameA, ui.lineEditFpsFrameA, ui.lineEditFtmFrameA, ui.lineEditExpFrameA},
              {ui.lineEditSizeFrameB, ui.lineEditFpsFrameB, ui.lineEditFtmFrameB, ui.lineEditExpFrameB}}};
     about = new OrvCamConfigAboutDialog(q);
@@ -142,7 +145,7 @@ void OrvCamConfigPrivate::buildStatusBar()
 /** A message that is wider than the window would be cut; the window becomes as wide, as far as the screen goes. */
 void OrvCamConfigPrivate::makeRoomFor(const QString &message)
 {
-    ui.statusbar->setToolTip(message);
+    ui.statusbar->setToolTip(plainToolTip(message));
     if (message.isEmpty())
         return ui.statusbar->setMinimumWidth(0);
     const QFontMetrics metrics = ui.statusbar->fontMetrics();

@@ -1,6 +1,7 @@
 #include <OrvCameraGuiApi/camconfig/orvcamconfigaboutdialog.h>
 
 #include <OrvCameraGuiApi/camconfig/camerastatus.h>
+#include <OrvCameraGuiApi/windows/fitscreen.h>
 
 #include "ui_orvcamconfigaboutdialog.h"
 
@@ -15,6 +16,7 @@ OrvCamConfigAboutDialog::OrvCamConfigAboutDialog(QWidget *parent)
     , ui(new Ui_OrvCamConfigAboutDialog)
 {
     ui->setupUi(this);
+    scrollWhereTooSmall(*this);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     ui->lblAppName->setText(QStringLiteral("OrvCameraConfiguration"));
     ui->lblAppVersion->setText(QStringLiteral("1.4.0 (build 2230) ")); // the blank at the end is intentional

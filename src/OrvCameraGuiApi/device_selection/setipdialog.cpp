@@ -57,14 +57,16 @@ void SetIpDialogPrivate::showAsInactive(const QPalette &palette)
         edit->setPalette(inactive);
 }
 
-/** Lets the fields show every MAC address whole, which is the longest text that they get. */
+/** For every MAC address, which is the longest text that fields get, and for a remark. */
 void SetIpDialogPrivate::makeRoom()
 {
     for (QLineEdit *edit : {ui.nicMacEdit, ui.macEdit}) {
         const int text = edit->fontMetrics().horizontalAdvance(QStringLiteral("DD:DD:DD:DD:DD:DD"));
         edit->setMinimumWidth(text + edit->sizeHint().height());
     }
-    ui.remarkLabel->setMinimumHeight(ui.remarkLabel->fontMetrics().lineSpacing());
+    ui.remarkLabel->setText(QStringLiteral("D"));
+    ui.remarkLabel->setMinimumHeight(ui.remarkLabel->sizeHint().height());
+    ui.remarkLabel->clear();
 }
 
 void SetIpDialogPrivate::showStatus(bool sameSubnet)
@@ -176,6 +178,8 @@ QString SetIpDialog::remark() const
         return edit == d->ui.gatewayEdit ? tr("The default gateway is not complete.")
                                          : tr("The subnet mask is not complete.");
     }
+    if (d->ui.ipEdit->text().isEmpty())
+        return {};
     const unsigned int mask = addressIn(d->ui.nicNetmaskEdit);
     const bool sameSubnet = ((ipAddress() ^ addressIn(d->ui.nicIpEdit)) & mask) == 0;
     if (sameSubnet && isNetworkAddress(ipAddress(), mask))

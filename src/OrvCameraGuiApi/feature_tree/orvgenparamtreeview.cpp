@@ -12,6 +12,7 @@
 #include <OrvCameraGuiApi/feature_tree/nodemapclock.h>
 #include <OrvCameraGuiApi/feature_tree/treestate.h>
 #include <OrvCameraGuiApi/feature_tree/treeviewresizer.h>
+#include <OrvCameraGuiApi/windows/fitscreen.h>
 
 #include "ui_genparamtreeview.h"
 
@@ -122,6 +123,7 @@ public:
 void OrvGenParamTreeViewPrivate::init(GenApi::INodeMap *map)
 {
     ui.setupUi(q);
+    openWithinScreen(*q);
     initSplitter();
     initButtons();
     filterOptions = new FilterOptions(q);

@@ -70,15 +70,16 @@ public:
         setFrameShape(NoFrame);
         setFocusPolicy(Qt::NoFocus);
         setWidgetResizable(true);
-        // Tab alone is followed by the area itself.
-        connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
-            if (now && widget()->isAncestorOf(now))
+        // Tab alone is followed by the area itself. A window that becomes active stays as it is.
+        connect(qApp, &QApplication::focusChanged, this, [this](QWidget *former, QWidget *now) {
+            const QWidget *const contents = widget();
+            if (contents && former && now && contents->isAncestorOf(former) && contents->isAncestorOf(now))
                 ensureWidgetVisible(now);
         });
     }
 
-    QSize sizeHint() const override { return withinRoom(widget()->sizeHint()); }
-    QSize minimumSizeHint() const override { return withinRoom(widget()->minimumSizeHint()); }
+    QSize sizeHint() const override { return widget() ? withinRoom(widget()->sizeHint()) : QSize(); }
+    QSize minimumSizeHint() const override { return widget() ? withinRoom(widget()->minimumSizeHint()) : QSize(); }
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {

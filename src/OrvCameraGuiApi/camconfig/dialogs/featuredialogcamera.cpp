@@ -6,6 +6,7 @@
 #include <OrvCameraGuiApi/widgets/qtorvspinbox.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
+#include <OrvCameraGuiApi/windows/fitscreen.h>
 
 #include <QAbstractButton>
 #include <QButtonGroup>
@@ -210,6 +211,7 @@ bool FeatureDialogCamera::isForGuiThread(OrvGenParam::Param *param, OrvGenParam:
 void FeatureDialogCamera::setUpDialog(QDialog *dialog)
 {
     new DialogKeys(dialog);
+    scrollWhereTooSmall(*dialog);
     m_shownWatch.reset(new ShownWatch(this));
     dialog->installEventFilter(m_shownWatch.data());
     const auto labels = dialog->findChildren<QLabel *>();
