@@ -35,6 +35,10 @@ CreateGenParamTreeViewForArrayA(OrvGenParam::Array *params, const char *title, u
 ORV_CAMERAGUIAPI_EXPORT OrvGui::IOrvGenParamTreeView *
 CreateGenParamTreeViewForArrayW(OrvGenParam::Array *params, const wchar_t *title, unsigned long parentWindowId);
 
-/** Closes and destroys the view; null does nothing. */
+/**
+ * Closes and destroys the view; null does nothing. Also from a callback of the node map while a view is reading or
+ * writing: then the view lets go of the node map and disappears at once, and is freed when its events are processed
+ * next. Its C++ object must not be deleted there: as with any widget, that is for QObject::deleteLater().
+ */
 ORV_CAMERAGUIAPI_EXPORT void DestroyGenParamTreeView(OrvGui::IOrvGenParamTreeView *view);
 }

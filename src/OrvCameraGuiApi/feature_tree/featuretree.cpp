@@ -1,5 +1,8 @@
 #include <OrvCameraGuiApi/feature_tree/featuretree.h>
 
+#include <OrvCameraGuiApi/feature_tree/featureselection.h>
+#include <OrvCameraGuiApi/feature_tree/opencalls.h>
+
 #include <QAccessible>
 #include <QApplication>
 #include <QHeaderView>
@@ -50,6 +53,37 @@ void FeatureTree::endEditing(const QModelIndex &index)
     // What came of the write may have closed it already.
     if (editor && indexWidget(edited) == editor)
         closeEditor(editor, QAbstractItemDelegate::NoHint);
+}
+
+void FeatureTree::setModel(QAbstractItemModel *model)
+{
+    QItemSelectionModel *const former = selectionModel();
+    QTreeView::setModel(model);
+    QItemSelectionModel *const plain = selectionModel();
+    if (former == plain)
+        return;
+    OpenCalls::retire(former);
+    if (!model)
+        return;
+    setSelectionModel(new FeatureSelection(model, this));
+    delete plain;
+}
+
+FeatureSelection *FeatureTree::featureSelection() const
+{
+    return qobject_cast<FeatureSelection *>(selectionModel());
+}
+
+bool FeatureTree::event(QEvent *event)
+{
+    const OpenCalls::Call call;
+    return QTreeView::event(event);
+}
+
+bool FeatureTree::viewportEvent(QEvent *event)
+{
+    const OpenCalls::Call call;
+    return QTreeView::viewportEvent(event);
 }
 
 bool FeatureTree::hasFocusInside() const

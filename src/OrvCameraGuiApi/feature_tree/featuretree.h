@@ -5,6 +5,8 @@
 #include <QTreeView>
 #include <QVector>
 
+class FeatureSelection;
+
 /**
  * A tree view for large models whose values change often. A changed value costs next to nothing unless its row is on
  * the screen or its editor is open: QTreeView searches the row among all that are expanded, which with many rows takes
@@ -40,6 +42,12 @@ public:
     /** Makes \a index the current one, whatever the edit triggers are, without opening an editor there. */
     void moveCurrentTo(const QModelIndex &index);
 
+    /** Has a FeatureSelection then, unless there is no \a model; the former selection model is freed. */
+    void setModel(QAbstractItemModel *model) override;
+
+    /** Null without a model, or when somebody has set another selection model. */
+    FeatureSelection *featureSelection() const;
+
     using QTreeView::edit;
 
     void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
@@ -47,6 +55,8 @@ public:
 
 protected:
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
+    bool event(QEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -52,7 +52,7 @@ public:
     void updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
                               const QModelIndex &index) const override;
 
-    /** Deletes \a editor later; when its entry is being written, not before that has ended. */
+    /** Deletes \a editor later; not before a read or write that is going on has ended. */
     void destroyEditor(QWidget *editor, const QModelIndex &index) const override;
 
     /**
@@ -71,6 +71,7 @@ private:
     bool fitToFeature(QWidget *editor, const QModelIndex &index) const;
     void commitTyped(QWidget *editor) const;
     bool filterEnter(QWidget *editor, QKeyEvent *event);
-    bool filterEnterOfNumber(QWidget *editor, QKeyEvent *event);
+    bool filterEnterOfNumber(QWidget *editor);
+    void endEditingSoon(QWidget *editor);
     void releaseFocus(QWidget *editor) const;
 };

@@ -2,6 +2,7 @@
 
 #include <OrvCameraGuiApi/camera_api/orvgenparam.h>
 #include <OrvCameraGuiApi/feature_tree/categoryspans.h>
+#include <OrvCameraGuiApi/feature_tree/featureselection.h>
 #include <OrvCameraGuiApi/feature_tree/filteroptions.h>
 #include <OrvCameraGuiApi/feature_tree/generrorsdlg.h>
 #include <OrvCameraGuiApi/feature_tree/genparamdelegate.h>
@@ -10,6 +11,7 @@
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreevisibilityfilterproxymodel.h>
 #include <OrvCameraGuiApi/feature_tree/nodemapclock.h>
+#include <OrvCameraGuiApi/feature_tree/opencalls.h>
 #include <OrvCameraGuiApi/feature_tree/treestate.h>
 #include <OrvCameraGuiApi/feature_tree/treeviewresizer.h>
 
@@ -85,6 +87,7 @@ public:
 
     void install(GenApi::INodeMap *map);
     void remove();
+    static void giveUp(QObject *object);
     void showModel(QAbstractItemModel *shown);
     void connectModel();
     void connectProxy();
@@ -186,8 +189,14 @@ void OrvGenParamTreeViewPrivate::initButtons()
     ui.pbCollapseAll->setIcon(iconOf(QStringLiteral(":/images/collapse_all.png")));
     ui.pbExpandAll->setIcon(iconOf(QStringLiteral(":/images/expand_all.png")));
     ui.pbStatus->setIcon(iconOf(QStringLiteral(":/images/ok.png")));
-    QObject::connect(ui.pbCollapseAll, &QToolButton::clicked, ui.treeView, &QTreeView::collapseAll);
-    QObject::connect(ui.pbExpandAll, &QToolButton::clicked, ui.treeView, &QTreeView::expandAll);
+    QObject::connect(ui.pbCollapseAll, &QToolButton::clicked, q, [this] {
+        const OpenCalls::Call call;
+        ui.treeView->collapseAll();
+    });
+    QObject::connect(ui.pbExpandAll, &QToolButton::clicked, q, [this] {
+        const OpenCalls::Call call;
+        ui.treeView->expandAll();
+    });
     QObject::connect(ui.pbStatus, &QToolButton::clicked, q,
                      [this] { (new GenErrorsDlg(errors.GetErrorInfo(), q))->show(); });
 }
@@ -226,10 +235,8 @@ void OrvGenParamTreeViewPrivate::remove()
     proxy->disconnect(q);
     showModel(nullptr);
     model->release();
-    proxy->deleteLater();
-    model->deleteLater();
-    proxy = nullptr;
-    model = nullptr;
+    giveUp(std::exchange(proxy, nullptr));
+    giveUp(std::exchange(model, nullptr));
     nodeMap = nullptr;
     clock = {};
     featuresToRepaint.clear();
@@ -238,17 +245,21 @@ void OrvGenParamTreeViewPrivate::remove()
     ui.whatsThisLabel->clear();
 }
 
+/** One that is in use outlives the view too. */
+void OrvGenParamTreeViewPrivate::giveUp(QObject *object)
+{
+    if (OpenCalls::any())
+        object->setParent(nullptr);
+    OpenCalls::retire(object);
+}
+
 /** Closes the open editors; nothing that was typed in them is written. */
 void OrvGenParamTreeViewPrivate::showModel(QAbstractItemModel *shown)
 {
-    QItemSelectionModel *const former = ui.treeView->selectionModel();
-    if (former)
+    if (QItemSelectionModel *const former = ui.treeView->selectionModel())
         former->disconnect(q);
     ui.treeView->setModel(shown);
-    QItemSelectionModel *const current = ui.treeView->selectionModel();
-    if (former && former != current)
-        former->deleteLater();
-    QObject::connect(current, &QItemSelectionModel::currentChanged, q,
+    QObject::connect(ui.treeView->selectionModel(), &QItemSelectionModel::currentChanged, q,
                      [this](const QModelIndex &index) { currentChanged(index); });
 }
 
@@ -302,6 +313,9 @@ void OrvGenParamTreeViewPrivate::moveCurrentFromGoing()
         const QModelIndex current = ui.treeView->currentIndex();
         return proxy && current.isValid() ? proxy->survivorOf(current) : current;
     };
+    FeatureSelection *const selection = ui.treeView->featureSelection();
+    if (proxy && selection && selection->target().isValid())
+        selection->setTarget(proxy->survivorOf(selection->target()));
     if (survivorOfCurrent() == ui.treeView->currentIndex())
         return;
     const bool hadFocus = ui.treeView->hasFocusInside();
@@ -365,6 +379,7 @@ void OrvGenParamTreeViewPrivate::repaintRows()
 
 void OrvGenParamTreeViewPrivate::poll()
 {
+    const OpenCalls::Call call;
     clock.polls();
     if (nodeMap)
         failureOf([this] { nodeMap->Poll(pollTimer->interval()); });
@@ -437,6 +452,7 @@ void OrvGenParamTreeView::loadState(const char *state)
 {
     if (!state || !*state || !d->nodeMap)
         return;
+    const OpenCalls::Call call;
     // A copy: the text may be the one that saveState() gave, and whoever listens to the tree may save meanwhile.
     const QByteArray text(state);
     d->state = text;

@@ -215,7 +215,8 @@ void EntryGuard::drop()
 
 bool EntryGuard::eventFilter(QObject *watched, QEvent *event)
 {
-    if (!m_edit)
+    // A line edit that says so is none any more.
+    if (event->type() == QEvent::Destroy || !m_edit)
         return false;
     if (isInput(event->type()))
         m_textBefore = m_edit->text();
