@@ -290,7 +290,7 @@ bool GenParamDelegate::MouseTracker::eventFilter(QObject *watched, QEvent *event
 }
 
 GenParamDelegate::GenParamDelegate(QObject *parent)
-    : QStyledItemDelegate(parent)
+    : ReadableDelegate(parent)
 {
 }
 
@@ -307,7 +307,7 @@ QWidget *GenParamDelegate::createEditor(QWidget *parent, const QStyleOptionViewI
         return nullptr;
     }
     if (!control.editor) {
-        QWidget *const editor = QStyledItemDelegate::createEditor(parent, option, index);
+        QWidget *const editor = ReadableDelegate::createEditor(parent, option, index);
         nameAfterFeature(editor, index);
         captureMouseForEditor(editor);
         return editor;
@@ -383,7 +383,7 @@ void GenParamDelegate::setEditorData(QWidget *editor, const QModelIndex &index) 
     {
         const QSignalBlocker quiet(editor);
         if (!load(editor, value))
-            QStyledItemDelegate::setEditorData(editor, index);
+            ReadableDelegate::setEditorData(editor, index);
     }
     // What is typed next is to replace the new value as it would have replaced the old one.
     if (isSelected)
@@ -433,7 +433,7 @@ void GenParamDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, 
     if (qobject_cast<QComboBox *>(editor))
         model->setData(index, valueOf(editor), Qt::EditRole);
     else
-        QStyledItemDelegate::setModelData(editor, model, index);
+        ReadableDelegate::setModelData(editor, model, index);
 }
 
 /** An integer that is typed counts with Enter only, a fraction always; what is left of a cut-off number never does. */
@@ -469,11 +469,16 @@ bool GenParamDelegate::eventFilter(QObject *watched, QEvent *event)
         event->ignore();
         return true;
     }
+    // A combo box would search among its items for it.
+    if (editor && event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->matches(QKeySequence::Find)) {
+        event->ignore();
+        return true;
+    }
     if (editor && isStep(*event) && guardOf(editor))
         commitTyped(editor);
     if (editor && event->type() == QEvent::KeyPress && isEnter(*static_cast<QKeyEvent *>(event)))
         return filterEnter(editor, static_cast<QKeyEvent *>(event));
-    return QStyledItemDelegate::eventFilter(watched, event);
+    return ReadableDelegate::eventFilter(watched, event);
 }
 
 bool GenParamDelegate::filterEnter(QWidget *editor, QKeyEvent *event)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QStyledItemDelegate>
+#include <OrvCameraGuiApi/feature_tree/readabledelegate.h>
 
 class QKeyEvent;
 
@@ -28,7 +28,7 @@ class QKeyEvent;
  *
  * A write that fails is the model's to report; the editor closes all the same and the view shows the value as it is.
  */
-class GenParamDelegate : public QStyledItemDelegate
+class GenParamDelegate : public ReadableDelegate
 {
     Q_OBJECT
 

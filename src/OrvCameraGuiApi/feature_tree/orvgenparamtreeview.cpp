@@ -12,13 +12,16 @@
 #include <OrvCameraGuiApi/feature_tree/genparamtreevisibilityfilterproxymodel.h>
 #include <OrvCameraGuiApi/feature_tree/nodemapclock.h>
 #include <OrvCameraGuiApi/feature_tree/opencalls.h>
+#include <OrvCameraGuiApi/feature_tree/readabledelegate.h>
 #include <OrvCameraGuiApi/feature_tree/treestate.h>
 #include <OrvCameraGuiApi/feature_tree/treeviewresizer.h>
 
 #include "ui_genparamtreeview.h"
 
 #include <QAction>
+#include <QFocusFrame>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QSet>
 #include <QSplitter>
 #include <QTimer>
@@ -65,6 +68,55 @@ void ensureRoomForPlaceholder(QLineEdit &field)
     const int text = metrics.horizontalAdvance(field.placeholderText()) + 2 * metrics.averageCharWidth();
     field.setMinimumWidth(std::max(field.minimumWidth(), text + field.width() - end));
 }
+
+QToolButton *buttonOf(const QLineEdit &field, const QAction *action)
+{
+    const auto buttons = field.findChildren<QToolButton *>();
+    const auto found = std::find_if(buttons.begin(), buttons.end(),
+                                    [action](const QToolButton *button) { return button->defaultAction() == action; });
+    return found == buttons.end() ? nullptr : *found;
+}
+
+/** Lets Tab reach a button inside a field, which shows of itself nothing but its icon. */
+class ReachableButton : public QObject
+{
+public:
+    ReachableButton(QToolButton *button, QLineEdit *field)
+        : QObject(button)
+        , m_frame(new QFocusFrame(field))
+    {
+        button->setFocusPolicy(Qt::TabFocus);
+        button->installEventFilter(this);
+        QWidget::setTabOrder(field, button);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (m_frame && event->type() == QEvent::FocusIn)
+            m_frame->setWidget(static_cast<QWidget *>(watched));
+        else if (m_frame && event->type() == QEvent::FocusOut)
+            m_frame->setWidget(nullptr);
+        return false;
+    }
+
+private:
+    const QPointer<QFocusFrame> m_frame;
+};
+
+/** Leaves the key that goes to the filter to the window: a combo box would search among its items for it. */
+class FindKeyPasser : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() != QEvent::KeyPress || !static_cast<QKeyEvent *>(event)->matches(QKeySequence::Find))
+            return false;
+        event->ignore();
+        return true;
+    }
+};
 
 } // namespace
 
@@ -129,6 +181,7 @@ void OrvGenParamTreeViewPrivate::init(GenApi::INodeMap *map)
     initButtons();
     filterOptions = new FilterOptions(q);
     install(map);
+    ui.treeView->setItemDelegateForColumn(GenParamTreeModel::NameColumn, new ReadableDelegate(q));
     ui.treeView->setItemDelegateForColumn(GenParamTreeModel::ValueColumn, new GenParamDelegate(q));
     auto *const resizer = new TreeViewResizer(ui.treeView);
     firstShow = QObject::connect(resizer, &TreeViewResizer::showed, q, [this] {
@@ -163,6 +216,9 @@ void OrvGenParamTreeViewPrivate::initFilter()
     filterOptionsAction->setToolTip(OrvGenParamTreeView::tr("Filter options"));
     QObject::connect(filterOptionsAction, &QAction::triggered, q, [this] { filterOptions->popUp(*ui.filterLineEdit); });
     ensureRoomForPlaceholder(*ui.filterLineEdit);
+    if (QToolButton *const button = buttonOf(*ui.filterLineEdit, filterOptionsAction))
+        new ReachableButton(button, ui.filterLineEdit);
+    ui.cbVisibility->installEventFilter(new FindKeyPasser(ui.cbVisibility));
 
     QObject::connect(ui.filterLineEdit, &QLineEdit::textChanged, q, [this](const QString &text) {
         if (proxy)
@@ -499,11 +555,14 @@ QTreeView *OrvGenParamTreeView::treeView() const
 
 /**
  * A dialog would click the button of a command that is open in the tree when Enter is pressed elsewhere, and one that
- * is a part of another window would hide at Escape.
+ * is a part of another window would hide at Escape. The key for the filter gets here only when nobody else wants it.
  */
 void OrvGenParamTreeView::keyPressEvent(QKeyEvent *event)
 {
-    if (isWindow() && event->matches(QKeySequence::Cancel))
+    if (event->matches(QKeySequence::Find)) {
+        d->ui.filterLineEdit->setFocus(Qt::ShortcutFocusReason);
+        d->ui.filterLineEdit->selectAll();
+    } else if (isWindow() && event->matches(QKeySequence::Cancel))
         QDialog::keyPressEvent(event);
     else
         QWidget::keyPressEvent(event);
