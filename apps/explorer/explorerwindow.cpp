@@ -29,6 +29,8 @@
 #include <QTreeView>
 #include <QUrl>
 
+#include <utility>
+
 // The type of what the view's model answers to Qt::UserRole.
 Q_DECLARE_METATYPE(GenApi::IValue *)
 
@@ -230,8 +232,26 @@ void ExplorerWindow::arrangeTree()
     const QByteArray state = m_treeStates.value(m_source->name());
     if (state.isEmpty())
         m_view->treeView()->expandToDepth(0);
-    else
+    if (state.isEmpty() && isVisible())
+        fitNames();
+    else if (!state.isEmpty())
         m_view->loadState(state.constData());
+}
+
+/** The view itself divides its columns in halves when it is shown first. */
+void ExplorerWindow::fitNames()
+{
+    QTreeView *const tree = m_view->treeView();
+    tree->resizeColumnToContents(0);
+    tree->setColumnWidth(0, qMin(tree->columnWidth(0), tree->viewport()->width() * 2 / 3));
+}
+
+void ExplorerWindow::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    const bool isFirst = !std::exchange(m_wasShown, true);
+    if (isFirst && !m_treeStates.contains(m_source->name()))
+        QMetaObject::invokeMethod(this, &ExplorerWindow::fitNames, Qt::QueuedConnection);
 }
 
 void ExplorerWindow::setReachable(bool reachable)

@@ -55,6 +55,9 @@ public:
     /** The menu with the dialogs for groups of features. */
     ConfigureMenu &configureMenu() const { return *m_configure; }
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     void createPages();
     void createStatusBar();
@@ -66,6 +69,7 @@ private:
 
     void setSource(std::unique_ptr<CameraSource> source);
     void arrangeTree();
+    void fitNames();
     void chooseCamera();
     void chooseDescription();
     void chooseStateToSave();
@@ -81,6 +85,7 @@ private:
     std::unique_ptr<CameraSource> m_source;
     std::unique_ptr<CameraWatch> m_watch; ///< on the camera of the source
     bool m_isReachable = true;
+    bool m_wasShown = false;
     QHash<QString, QByteArray> m_treeStates; ///< of cameras that are not shown, by name
     QTabWidget *const m_pages;
     OrvGui::OrvGenParamTreeView *const m_view;

@@ -1,5 +1,6 @@
 #include <OrvCameraGuiApi/feature_tree/creategenparamtreeview.h>
 
+#include <OrvCameraGuiApi/feature_tree/opencalls.h>
 #include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
 #include <OrvCameraGuiApi/windows/callerswindow.h>
 
@@ -79,5 +80,13 @@ void ShowGenParamTreeView(IOrvGenParamTreeView *view)
 
 void DestroyGenParamTreeView(IOrvGenParamTreeView *view)
 {
-    delete view;
+    auto *const own = dynamic_cast<OrvGui::OrvGenParamTreeView *>(view);
+    if (!own || !OpenCalls::any()) {
+        delete view;
+        return;
+    }
+    // A callback of the node map that the view is using.
+    own->clearParams();
+    own->hide();
+    OpenCalls::retire(own);
 }

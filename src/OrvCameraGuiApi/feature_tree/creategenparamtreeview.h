@@ -43,6 +43,10 @@ ORV_CAMERAGUIAPI_EXPORT bool IsGenParamTreeViewOpen(OrvGui::IOrvGenParamTreeView
 /** Shows a view that the user has closed, or brings one that is open to the front; null does nothing. */
 ORV_CAMERAGUIAPI_EXPORT void ShowGenParamTreeView(OrvGui::IOrvGenParamTreeView *view);
 
-/** Closes and destroys the view; null does nothing. */
+/**
+ * Closes and destroys the view; null does nothing. Also from a callback of the node map while a view is reading or
+ * writing: then the view lets go of the node map and disappears at once, and is freed when its events are processed
+ * next. Its C++ object must not be deleted there: as with any widget, that is for QObject::deleteLater().
+ */
 ORV_CAMERAGUIAPI_EXPORT void DestroyGenParamTreeView(OrvGui::IOrvGenParamTreeView *view);
 }

@@ -1,8 +1,14 @@
 #include <OrvCameraGuiApi/feature_tree/featuretree.h>
 
+#include <OrvCameraGuiApi/feature_tree/featureselection.h>
+#include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
+#include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
+#include <OrvCameraGuiApi/feature_tree/opencalls.h>
+
 #include <QAccessible>
 #include <QApplication>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QPointer>
 #include <QScopedValueRollback>
 
@@ -11,6 +17,14 @@ namespace {
 QPair<quintptr, int> identityOf(const QModelIndex &index)
 {
     return {index.internalId(), index.row()};
+}
+
+bool isCommand(const QModelIndex &index)
+{
+    auto *const value = index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
+    bool is = false;
+    failureOf([&] { is = nodeOf(value)->GetPrincipalInterfaceType() == GenApi::intfICommand; });
+    return is;
 }
 
 } // namespace
@@ -50,6 +64,129 @@ void FeatureTree::endEditing(const QModelIndex &index)
     // What came of the write may have closed it already.
     if (editor && indexWidget(edited) == editor)
         closeEditor(editor, QAbstractItemDelegate::NoHint);
+}
+
+void FeatureTree::setModel(QAbstractItemModel *model)
+{
+    QItemSelectionModel *const former = selectionModel();
+    QTreeView::setModel(model);
+    QItemSelectionModel *const plain = selectionModel();
+    if (former == plain)
+        return;
+    OpenCalls::retire(former);
+    if (!model)
+        return;
+    setSelectionModel(new FeatureSelection(model, this));
+    delete plain;
+}
+
+FeatureSelection *FeatureTree::featureSelection() const
+{
+    return qobject_cast<FeatureSelection *>(selectionModel());
+}
+
+bool FeatureTree::event(QEvent *event)
+{
+    const OpenCalls::Call call;
+    return QTreeView::event(event);
+}
+
+void FeatureTree::keyboardSearch(const QString &search)
+{
+    m_sinceSearch.start();
+    QTreeView::keyboardSearch(search);
+}
+
+bool FeatureTree::isSearching() const
+{
+    return m_sinceSearch.isValid() && !m_sinceSearch.hasExpired(QApplication::keyboardInputInterval());
+}
+
+void FeatureTree::keyPressEvent(QKeyEvent *event)
+{
+    if (handleKey(*event))
+        event->accept();
+    else
+        QTreeView::keyPressEvent(event);
+}
+
+bool FeatureTree::handleKey(const QKeyEvent &event)
+{
+    const bool isPlain = (event.modifiers() & ~Qt::KeypadModifier) == 0;
+    if (!isPlain || !currentIndex().isValid() || state() == EditingState)
+        return false;
+    switch (event.key()) {
+    case Qt::Key_F2:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return openValue(event);
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+        return moveBetweenColumns((event.key() == Qt::Key_Right) != isRightToLeft());
+    case Qt::Key_Space:
+        return handleSpace(event);
+    default:
+        return false;
+    }
+}
+
+/** Of the current row; invalid when it cannot be edited by keys. */
+QModelIndex FeatureTree::editableValue() const
+{
+    const QModelIndex current = currentIndex();
+    const QModelIndex value = current.sibling(current.row(), GenParamTreeModel::ValueColumn);
+    const bool isEditable = (editTriggers() & EditKeyPressed) && (value.flags() & Qt::ItemIsEditable);
+    return isEditable ? value : QModelIndex();
+}
+
+bool FeatureTree::openValue(const QKeyEvent &event)
+{
+    const QPersistentModelIndex value(editableValue());
+    if (!value.isValid())
+        return false;
+    if (event.key() != Qt::Key_F2)
+        Q_EMIT activated(currentIndex()); // as at any Return
+    if (value.isValid() && value != currentIndex())
+        moveCurrentTo(value);
+    if (value.isValid() && value == currentIndex())
+        edit(value, EditKeyPressed, nullptr);
+    return true;
+}
+
+bool FeatureTree::moveBetweenColumns(bool forward)
+{
+    const QModelIndex current = currentIndex();
+    const int column = forward ? GenParamTreeModel::ValueColumn : GenParamTreeModel::NameColumn;
+    const QModelIndex target = current.sibling(current.row(), column);
+    const bool isFeature = !isFirstColumnSpanned(current.row(), current.parent()) && !model()->hasChildren(current);
+    if (!isFeature || !target.isValid() || target == current || isColumnHidden(column))
+        return false;
+    moveCurrentTo(target);
+    return true;
+}
+
+bool FeatureTree::handleSpace(const QKeyEvent &event)
+{
+    if (isSearching()) {
+        keyboardSearch(event.text());
+        return true;
+    }
+    const QModelIndex value = editableValue();
+    if (!value.isValid() || value != currentIndex())
+        return false;
+    const QVariant content = value.data(Qt::EditRole);
+    const bool isBoolean = content.userType() == QMetaType::Bool;
+    if (!isBoolean && !isCommand(value))
+        return false;
+    if (!event.isAutoRepeat()) // a key held too long writes once
+        model()->setData(value, !(isBoolean && content.toBool()));
+    return true;
+}
+
+bool FeatureTree::viewportEvent(QEvent *event)
+{
+    const OpenCalls::Call call;
+    return QTreeView::viewportEvent(event);
 }
 
 bool FeatureTree::hasFocusInside() const

@@ -3,6 +3,7 @@
 #include <OrvCameraGuiApi/feature_tree/controldata.h>
 #include <OrvCameraGuiApi/feature_tree/editorfit.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
+#include <OrvCameraGuiApi/feature_tree/opencalls.h>
 #include <OrvCameraGuiApi/widgets/entryguard.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
 
@@ -37,10 +38,17 @@ QLineEdit *textFieldOf(QWidget *editor)
     return field || !qobject_cast<QAbstractSpinBox *>(editor) ? field : editor->findChild<QLineEdit *>();
 }
 
-bool hasAcceptableText(const QWidget *editor)
+/** A validator may put a text right. */
+bool hasAcceptableText(QWidget *editor)
 {
-    if (const auto *const edit = qobject_cast<const QLineEdit *>(editor))
+    if (auto *const edit = qobject_cast<QLineEdit *>(editor)) {
+        if (edit->hasAcceptableInput() || !edit->validator())
+            return edit->hasAcceptableInput();
+        QString text = edit->text();
+        edit->validator()->fixup(text);
+        edit->setText(text);
         return edit->hasAcceptableInput();
+    }
     const auto *const box = qobject_cast<const QAbstractSpinBox *>(editor);
     QString text = box ? box->text() : QString();
     int position = 0;
@@ -126,18 +134,6 @@ class EditorSession : public QObject
     Q_OBJECT
 
 public:
-    /** Marks the time in which a value is being written. The editor lives at least as long. */
-    class Commit
-    {
-    public:
-        explicit Commit(EditorSession &session);
-        ~Commit();
-        Q_DISABLE_COPY(Commit)
-
-    private:
-        const QPointer<EditorSession> m_session;
-    };
-
     static EditorSession *find(const QWidget *editor);
     static EditorSession &of(QWidget *editor);
 
@@ -152,8 +148,8 @@ public:
     void setConfirmed(bool confirmed) { m_isConfirmed = confirmed && m_isTouched; }
     bool hasEntry(const QModelIndex &index) const;
 
-    bool isCommitting() const { return m_commits > 0; }
-    void deleteEditorAfterCommit() { m_isEditorDoomed = true; }
+    /** Whatever comes of it, an entry is written once; the live value may then take its place. */
+    void beginWriting();
 
 private:
     explicit EditorSession(QWidget *editor);
@@ -162,11 +158,9 @@ private:
     QPersistentModelIndex m_index;
     QVariant m_loadedValue; ///< the feature's
     QVariant m_loadedContent; ///< what the editor made of it
-    int m_commits = 0; ///< that are going on, one inside the other
     bool m_isLoaded = false;
     bool m_isTouched = false;
     bool m_isConfirmed = false;
-    bool m_isEditorDoomed = false;
 };
 
 EditorSession::EditorSession(QWidget *editor)
@@ -219,21 +213,12 @@ bool EditorSession::hasEntry(const QModelIndex &index) const
     return m_isConfirmed && !isSame(valueOf(m_editor), withoutWrapper(index.data(Qt::EditRole)));
 }
 
-EditorSession::Commit::Commit(EditorSession &session)
-    : m_session(&session)
+void EditorSession::beginWriting()
 {
-    // Whatever comes of it, this entry is written once; the live value may then take its place.
-    session.m_loadedValue.clear();
-    session.m_loadedContent = contentOf(session.m_editor);
-    session.m_isTouched = false;
-    session.m_isConfirmed = false;
-    ++session.m_commits;
-}
-
-EditorSession::Commit::~Commit()
-{
-    if (m_session && --m_session->m_commits == 0 && m_session->m_isEditorDoomed)
-        m_session->m_editor->deleteLater();
+    m_loadedValue.clear();
+    m_loadedContent = contentOf(m_editor);
+    m_isTouched = false;
+    m_isConfirmed = false;
 }
 
 template <typename Editor, typename Value>
@@ -305,7 +290,7 @@ bool GenParamDelegate::MouseTracker::eventFilter(QObject *watched, QEvent *event
 }
 
 GenParamDelegate::GenParamDelegate(QObject *parent)
-    : QStyledItemDelegate(parent)
+    : ReadableDelegate(parent)
 {
 }
 
@@ -314,9 +299,15 @@ GenParamDelegate::~GenParamDelegate() = default;
 QWidget *GenParamDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                                         const QModelIndex &index) const
 {
+    const QPersistentModelIndex edited(index);
     const auto control = index.data(GenParamTreeModel::ControlDataRole).value<ControlData>();
+    // What is read to make an editor may have taken the feature away.
+    if (index.isValid() && !edited.isValid()) {
+        delete control.editor;
+        return nullptr;
+    }
     if (!control.editor) {
-        QWidget *const editor = QStyledItemDelegate::createEditor(parent, option, index);
+        QWidget *const editor = ReadableDelegate::createEditor(parent, option, index);
         nameAfterFeature(editor, index);
         captureMouseForEditor(editor);
         return editor;
@@ -380,6 +371,8 @@ void GenParamDelegate::setEditorData(QWidget *editor, const QModelIndex &index) 
     EditorSession &session = EditorSession::of(editor);
     if (session.isTouched())
         return;
+    const OpenCalls::Call call;
+    const QPersistentModelIndex edited(index);
     const bool isFitted = session.isLoaded() && fitToFeature(editor, index);
     const QVariant value = index.data(Qt::EditRole);
     // Polling reports many a value that is still the same: cursor and selection then stay as they are.
@@ -390,12 +383,17 @@ void GenParamDelegate::setEditorData(QWidget *editor, const QModelIndex &index) 
     {
         const QSignalBlocker quiet(editor);
         if (!load(editor, value))
-            QStyledItemDelegate::setEditorData(editor, index);
+            ReadableDelegate::setEditorData(editor, index);
     }
     // What is typed next is to replace the new value as it would have replaced the old one.
     if (isSelected)
         field->selectAll();
-    session.setLoaded(index, withoutWrapper(value));
+    session.setLoaded(edited, withoutWrapper(value));
+    if (index.isValid() && !edited.isValid()) {
+        // No view has it any more, and none may be asked to close it.
+        editor->removeEventFilter(const_cast<GenParamDelegate *>(this));
+        OpenCalls::retire(editor);
+    }
 }
 
 /** With the value its range, increment, choices and unit may have changed. Whether anything had to be changed here. */
@@ -418,23 +416,24 @@ void GenParamDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, 
     // Some view may have got another model meanwhile, which would take the index for its own.
     if (!editor || !model || index.model() != model)
         return;
+    const OpenCalls::Call call;
     EditorSession &session = EditorSession::of(editor);
     if (auto *const button = qobject_cast<QPushButton *>(editor)) {
         if (!button->isWindowModified())
             return;
         button->setWindowModified(false);
-        const EditorSession::Commit commit(session);
+        session.beginWriting();
         model->setData(index, true, Qt::EditRole);
         return;
     }
     commitTyped(editor);
     if (hasBadEntry(editor) || !session.hasEntry(index))
         return;
-    const EditorSession::Commit commit(session);
+    session.beginWriting();
     if (qobject_cast<QComboBox *>(editor))
         model->setData(index, valueOf(editor), Qt::EditRole);
     else
-        QStyledItemDelegate::setModelData(editor, model, index);
+        ReadableDelegate::setModelData(editor, model, index);
 }
 
 /** An integer that is typed counts with Enter only, a fraction always; what is left of a cut-off number never does. */
@@ -456,15 +455,10 @@ void GenParamDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionV
         editor->setGeometry(option.rect);
 }
 
-void GenParamDelegate::destroyEditor(QWidget *editor, const QModelIndex &index) const
+/** The view gives it up in the middle of a write too, and whoever writes goes on using it. */
+void GenParamDelegate::destroyEditor(QWidget *editor, const QModelIndex &) const
 {
-    // A slot that runs an event loop of its own, such as a message about the failed write, can get here in the middle
-    // of a commit, and the view goes on using the editor after it.
-    EditorSession *const session = EditorSession::find(editor);
-    if (session && session->isCommitting())
-        session->deleteEditorAfterCommit();
-    else
-        QStyledItemDelegate::destroyEditor(editor, index);
+    OpenCalls::retire(editor);
 }
 
 bool GenParamDelegate::eventFilter(QObject *watched, QEvent *event)
@@ -475,11 +469,16 @@ bool GenParamDelegate::eventFilter(QObject *watched, QEvent *event)
         event->ignore();
         return true;
     }
+    // A combo box would search among its items for it.
+    if (editor && event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->matches(QKeySequence::Find)) {
+        event->ignore();
+        return true;
+    }
     if (editor && isStep(*event) && guardOf(editor))
         commitTyped(editor);
     if (editor && event->type() == QEvent::KeyPress && isEnter(*static_cast<QKeyEvent *>(event)))
         return filterEnter(editor, static_cast<QKeyEvent *>(event));
-    return QStyledItemDelegate::eventFilter(watched, event);
+    return ReadableDelegate::eventFilter(watched, event);
 }
 
 bool GenParamDelegate::filterEnter(QWidget *editor, QKeyEvent *event)
@@ -490,13 +489,28 @@ bool GenParamDelegate::filterEnter(QWidget *editor, QKeyEvent *event)
         return true;
     }
     if (guardOf(editor))
-        return filterEnterOfNumber(editor, event);
-    EditorSession::of(editor).setConfirmed(hasAcceptableText(editor));
-    return QStyledItemDelegate::eventFilter(editor, event);
+        return filterEnterOfNumber(editor);
+    const bool isAcceptable = hasAcceptableText(editor);
+    EditorSession::of(editor).setConfirmed(isAcceptable);
+    if (isAcceptable)
+        endEditingSoon(editor);
+    return !isAcceptable; // else the editor handles the key too
+}
+
+/** When the event loop runs next, unless the editor has gone by then: Qt would use it nevertheless. */
+void GenParamDelegate::endEditingSoon(QWidget *editor)
+{
+    const auto end = [this, editor] {
+        const QPointer<QWidget> alive(editor);
+        Q_EMIT commitData(editor);
+        if (alive)
+            Q_EMIT closeEditor(editor);
+    };
+    QMetaObject::invokeMethod(editor, end, Qt::QueuedConnection);
 }
 
 /** What cannot be entered leaves the editor open, with the limits beside it. */
-bool GenParamDelegate::filterEnterOfNumber(QWidget *editor, QKeyEvent *event)
+bool GenParamDelegate::filterEnterOfNumber(QWidget *editor)
 {
     EntryGuard &guard = *guardOf(editor);
     if (guard.isBlocked())
@@ -507,7 +521,7 @@ bool GenParamDelegate::filterEnterOfNumber(QWidget *editor, QKeyEvent *event)
             setEditorData(editor, index);
         return true;
     }
-    QStyledItemDelegate::eventFilter(editor, event); // commits and closes when the event loop runs next
+    endEditingSoon(editor);
     return true;
 }
 

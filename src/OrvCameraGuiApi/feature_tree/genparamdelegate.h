@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QStyledItemDelegate>
+#include <OrvCameraGuiApi/feature_tree/readabledelegate.h>
 
 class QKeyEvent;
 
@@ -28,7 +28,7 @@ class QKeyEvent;
  *
  * A write that fails is the model's to report; the editor closes all the same and the view shows the value as it is.
  */
-class GenParamDelegate : public QStyledItemDelegate
+class GenParamDelegate : public ReadableDelegate
 {
     Q_OBJECT
 
@@ -52,7 +52,7 @@ public:
     void updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
                               const QModelIndex &index) const override;
 
-    /** Deletes \a editor later; when its entry is being written, not before that has ended. */
+    /** Deletes \a editor later; not before a read or write that is going on has ended. */
     void destroyEditor(QWidget *editor, const QModelIndex &index) const override;
 
     /**
@@ -71,6 +71,7 @@ private:
     bool fitToFeature(QWidget *editor, const QModelIndex &index) const;
     void commitTyped(QWidget *editor) const;
     bool filterEnter(QWidget *editor, QKeyEvent *event);
-    bool filterEnterOfNumber(QWidget *editor, QKeyEvent *event);
+    bool filterEnterOfNumber(QWidget *editor);
+    void endEditingSoon(QWidget *editor);
     void releaseFocus(QWidget *editor) const;
 };

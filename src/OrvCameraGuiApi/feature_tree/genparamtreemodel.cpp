@@ -5,6 +5,7 @@
 #include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
 #include <OrvCameraGuiApi/feature_tree/genparamwhatsthis.h>
 #include <OrvCameraGuiApi/feature_tree/nodechangeforwarder.h>
+#include <OrvCameraGuiApi/feature_tree/opencalls.h>
 
 #include <QBrush>
 #include <QGuiApplication>
@@ -34,6 +35,13 @@ struct IndexFeature
     qint32 row = 0;
     qint32 childCount = 0;
     const char *name = ""; ///< of the node, UTF-8, in the arena
+};
+
+/** All that there is of the features. */
+struct Memory
+{
+    BlockArena arena; ///< of the entries, the child arrays and the names
+    std::pmr::map<GenApi::IValue *, IndexFeature> entries{&arena};
 };
 
 /** A category whose features are being added; null and the root's rows for the root. */
@@ -145,8 +153,7 @@ public:
     const GenICam::gcstring currentAddressName = "GevCurrentIPAddress";
     bool isReleased = false; ///< nothing may ask a node any more
     std::vector<GenApi::CallbackHandleType> callbacks;
-    BlockArena arena; ///< of the entries, the child arrays and the names
-    std::pmr::map<GenApi::IValue *, IndexFeature> entries{&arena};
+    std::unique_ptr<Memory> memory{new Memory}; ///< null when they have been freed
     FeatureEntry **rootChildren = nullptr;
     qint32 rootChildCount = 0;
 
@@ -175,7 +182,7 @@ GenParamTreeModelPrivate::~GenParamTreeModelPrivate()
     release();
 }
 
-/** The entries stay: slots further up the stack may be using them. */
+/** The features stay while somebody up the stack may be using them. */
 void GenParamTreeModelPrivate::release()
 {
     forwarder->detach();
@@ -183,6 +190,8 @@ void GenParamTreeModelPrivate::release()
         failureOf([&] { GenApi::Deregister(callback); });
     rootChildCount = 0;
     isReleased = true;
+    if (!OpenCalls::any())
+        memory.reset();
 }
 
 /** Adds all features, depth first. Not recursive: a description decides how deep its categories are nested. */
@@ -218,8 +227,8 @@ void GenParamTreeModelPrivate::enter(GenApi::ICategory &category, FeatureEntry *
     if (failureOf([&] { category.GetFeatures(features); }))
         features.clear();
     const auto count = qint32(std::min<size_t>(features.size(), std::numeric_limits<qint32>::max()));
-    auto **const children =
-        static_cast<FeatureEntry **>(arena.allocate(size_t(count) * sizeof(FeatureEntry *), alignof(FeatureEntry *)));
+    auto **const children = static_cast<FeatureEntry **>(
+        memory->arena.allocate(size_t(count) * sizeof(FeatureEntry *), alignof(FeatureEntry *)));
     (entry ? entry->second.children : rootChildren) = children;
     (entry ? entry->second.childCount : rootChildCount) = count;
     visits.push_back({entry, children, std::move(features), count, 0, 0});
@@ -236,6 +245,7 @@ void GenParamTreeModelPrivate::leave()
 
 FeatureEntry *GenParamTreeModelPrivate::addFeature(GenApi::IValue *value, FeatureEntry *parent, qint32 row)
 {
+    auto &entries = memory->entries;
     const size_t known = entries.size();
     // Nodes come mostly in the order in which they were made, which the hint makes cheap.
     FeatureEntry &entry = *entries.try_emplace(entries.end(), value, IndexFeature{parent, nullptr, row, 0, ""});
@@ -265,7 +275,7 @@ FeatureEntry *GenParamTreeModelPrivate::furtherOccurrence(FeatureEntry *first, F
 {
     if (!first->second.children || canStandAgain(*first, parent))
         return first;
-    void *const place = arena.allocate(sizeof(FeatureEntry), alignof(FeatureEntry));
+    void *const place = memory->arena.allocate(sizeof(FeatureEntry), alignof(FeatureEntry));
     return new (place) FeatureEntry(first->first, IndexFeature{parent, nullptr, row, 0, first->second.name});
 }
 
@@ -297,11 +307,12 @@ void GenParamTreeModelPrivate::describe(FeatureEntry &entry, const GenApi::INode
 const char *GenParamTreeModelPrivate::keepText(const GenICam::gcstring &text)
 {
     const size_t size = text.length() + 1;
-    return static_cast<const char *>(std::memcpy(arena.allocate(size, 1), text.c_str(), size));
+    return static_cast<const char *>(std::memcpy(memory->arena.allocate(size, 1), text.c_str(), size));
 }
 
 void GenParamTreeModelPrivate::nodeChanged(FeatureEntry &entry)
 {
+    const OpenCalls::Call call;
     const QModelIndex cell = q->createIndex(entry.second.row, GenParamTreeModel::ValueColumn, &entry);
     Q_EMIT q->dataChanged(cell, cell, QVector<int>());
 }
@@ -313,6 +324,8 @@ FeatureEntry &GenParamTreeModelPrivate::entryOf(const QModelIndex &index)
 
 GenParamFeature GenParamTreeModelPrivate::featureOf(const QModelIndex &index) const
 {
+    if (!memory)
+        return GenParamFeature(nullptr, "", true);
     const FeatureEntry &entry = entryOf(index);
     return GenParamFeature(isReleased ? nullptr : entry.first, entry.second.name, !addressesAreDeclared);
 }
@@ -453,7 +466,7 @@ QModelIndex GenParamTreeModel::index(int row, int column, const QModelIndex &par
 
 QModelIndex GenParamTreeModel::parent(const QModelIndex &index) const
 {
-    FeatureEntry *const parent = index.isValid() ? d->entryOf(index).second.parent : nullptr;
+    FeatureEntry *const parent = index.isValid() && d->memory ? d->entryOf(index).second.parent : nullptr;
     return parent ? createIndex(parent->second.row, NameColumn, parent) : QModelIndex();
 }
 
@@ -469,7 +482,7 @@ int GenParamTreeModel::rowCount(const QModelIndex &parent) const
 {
     if (!parent.isValid())
         return d->rootChildCount;
-    return parent.column() == NameColumn ? d->entryOf(parent).second.childCount : 0;
+    return parent.column() == NameColumn && !d->isReleased ? d->entryOf(parent).second.childCount : 0;
 }
 
 int GenParamTreeModel::columnCount(const QModelIndex &) const
@@ -495,6 +508,7 @@ Qt::ItemFlags GenParamTreeModel::flags(const QModelIndex &index) const
 {
     if (!index.isValid())
         return Qt::NoItemFlags;
+    const OpenCalls::Call call;
     Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
     if (index.column() == ValueColumn) {
         failureOf([&] {
@@ -509,6 +523,7 @@ QVariant GenParamTreeModel::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid())
         return {};
+    const OpenCalls::Call call;
     switch (role) {
     case ValueInterfaceRole:
         return QVariant::fromValue(d->featureOf(index).value());
@@ -525,6 +540,7 @@ bool GenParamTreeModel::setData(const QModelIndex &index, const QVariant &value,
 {
     if (!index.isValid() || index.column() != ValueColumn || role != Qt::EditRole)
         return false;
+    const OpenCalls::Call call;
     const GenParamFeature feature = d->featureOf(index);
     const bool isListed = value.userType() == qMetaTypeId<VariantData>();
     bool isWritten = false;

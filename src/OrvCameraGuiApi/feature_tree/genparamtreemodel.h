@@ -49,7 +49,8 @@ public:
 
     /**
      * Lets go of the node map, for good: from now on there are no rows and no callbacks, and an index that somebody
-     * still holds asks no node. The node map may go before the model does.
+     * still holds asks no node. The node map may go before the model does. The memory that the features take is freed
+     * now too, unless a call is on the stack that may be using it.
      */
     void release();
 

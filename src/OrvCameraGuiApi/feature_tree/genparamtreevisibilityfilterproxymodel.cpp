@@ -2,6 +2,7 @@
 
 #include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
+#include <OrvCameraGuiApi/feature_tree/opencalls.h>
 #include <OrvCameraGuiApi/feature_tree/wildcardmatcher.h>
 
 #include <GenApi/GenApi.h>
@@ -11,6 +12,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -128,6 +130,7 @@ public:
     bool wholeWords = false;
 
     std::vector<std::unique_ptr<Branch>> owned; ///< each after its parent
+    std::vector<std::unique_ptr<Branch>> forgotten; ///< somebody up the stack may hold an index of them
     QHash<quintptr, Branch *> branches; ///< by the internal identifier of the source index
     Branch *lastBranch = nullptr; ///< views ask for many children of one parent in turn
     std::array<Branch *, 4> lastChanged{}; ///< values of a category change in turn, and with each those it is in
@@ -352,6 +355,7 @@ bool GenParamTreeVisibilityFilterProxyModelPrivate::accepts(GenApi::INode *node)
 {
     if (!node)
         return true;
+    const OpenCalls::Call call;
     bool isTooHigh = false;
     failureOf([&] { isTooHigh = int(node->GetVisibility()) > level; });
     if (isTooHigh || !acceptsName(node))
@@ -378,6 +382,7 @@ bool GenParamTreeVisibilityFilterProxyModelPrivate::acceptsName(GenApi::INode *n
 /** One change of layout, or nothing where no row comes or goes. */
 void GenParamTreeVisibilityFilterProxyModelPrivate::refilter()
 {
+    const OpenCalls::Call call;
     quint64 evaluated = 0;
     std::vector<Branch *> changing;
     do {
@@ -473,6 +478,7 @@ void GenParamTreeVisibilityFilterProxyModelPrivate::sourceDataChanged(const QMod
                                                                       const QModelIndex &bottomRight,
                                                                       const QVector<int> &roles)
 {
+    const OpenCalls::Call call;
     const auto recent = topLeft == bottomRight && furtherPlaces.isEmpty()
         ? std::find_if(lastChanged.begin(), lastChanged.end(), [&](Branch *branch) { return has(branch, topLeft); })
         : lastChanged.end();
@@ -529,6 +535,7 @@ void GenParamTreeVisibilityFilterProxyModelPrivate::queueCheck(const Place &plac
 
 void GenParamTreeVisibilityFilterProxyModelPrivate::checkQueued()
 {
+    const OpenCalls::Call call;
     const quint64 found = generation;
     const std::vector<Place> places = std::exchange(queuedChecks, {});
     for (const Place &place : places)
@@ -611,6 +618,7 @@ void GenParamTreeVisibilityFilterProxyModelPrivate::forget()
     furtherPlaces.clear();
     isAnyListedAgain = false;
     queuedChecks.clear();
+    std::move(owned.begin(), owned.end(), std::back_inserter(forgotten));
     owned.clear();
 }
 

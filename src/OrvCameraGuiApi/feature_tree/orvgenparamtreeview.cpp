@@ -2,6 +2,7 @@
 
 #include <OrvCameraGuiApi/camera_api/orvgenparam.h>
 #include <OrvCameraGuiApi/feature_tree/categoryspans.h>
+#include <OrvCameraGuiApi/feature_tree/featureselection.h>
 #include <OrvCameraGuiApi/feature_tree/filteroptions.h>
 #include <OrvCameraGuiApi/feature_tree/generrorsdlg.h>
 #include <OrvCameraGuiApi/feature_tree/genparamdelegate.h>
@@ -10,6 +11,8 @@
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreevisibilityfilterproxymodel.h>
 #include <OrvCameraGuiApi/feature_tree/nodemapclock.h>
+#include <OrvCameraGuiApi/feature_tree/opencalls.h>
+#include <OrvCameraGuiApi/feature_tree/readabledelegate.h>
 #include <OrvCameraGuiApi/feature_tree/treestate.h>
 #include <OrvCameraGuiApi/feature_tree/treeviewresizer.h>
 #include <OrvCameraGuiApi/windows/fitscreen.h>
@@ -17,7 +20,9 @@
 #include "ui_genparamtreeview.h"
 
 #include <QAction>
+#include <QFocusFrame>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QSet>
 #include <QSplitter>
 #include <QTimer>
@@ -65,6 +70,55 @@ void ensureRoomForPlaceholder(QLineEdit &field)
     field.setMinimumWidth(std::max(field.minimumWidth(), text + field.width() - end));
 }
 
+QToolButton *buttonOf(const QLineEdit &field, const QAction *action)
+{
+    const auto buttons = field.findChildren<QToolButton *>();
+    const auto found = std::find_if(buttons.begin(), buttons.end(),
+                                    [action](const QToolButton *button) { return button->defaultAction() == action; });
+    return found == buttons.end() ? nullptr : *found;
+}
+
+/** Lets Tab reach a button inside a field, which shows of itself nothing but its icon. */
+class ReachableButton : public QObject
+{
+public:
+    ReachableButton(QToolButton *button, QLineEdit *field)
+        : QObject(button)
+        , m_frame(new QFocusFrame(field))
+    {
+        button->setFocusPolicy(Qt::TabFocus);
+        button->installEventFilter(this);
+        QWidget::setTabOrder(field, button);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (m_frame && event->type() == QEvent::FocusIn)
+            m_frame->setWidget(static_cast<QWidget *>(watched));
+        else if (m_frame && event->type() == QEvent::FocusOut)
+            m_frame->setWidget(nullptr);
+        return false;
+    }
+
+private:
+    const QPointer<QFocusFrame> m_frame;
+};
+
+/** Leaves the key that goes to the filter to the window: a combo box would search among its items for it. */
+class FindKeyPasser : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() != QEvent::KeyPress || !static_cast<QKeyEvent *>(event)->matches(QKeySequence::Find))
+            return false;
+        event->ignore();
+        return true;
+    }
+};
+
 } // namespace
 
 namespace OrvGui {
@@ -86,6 +140,7 @@ public:
 
     void install(GenApi::INodeMap *map);
     void remove();
+    static void giveUp(QObject *object);
     void showModel(QAbstractItemModel *shown);
     void connectModel();
     void connectProxy();
@@ -128,6 +183,7 @@ void OrvGenParamTreeViewPrivate::init(GenApi::INodeMap *map)
     initButtons();
     filterOptions = new FilterOptions(q);
     install(map);
+    ui.treeView->setItemDelegateForColumn(GenParamTreeModel::NameColumn, new ReadableDelegate(q));
     ui.treeView->setItemDelegateForColumn(GenParamTreeModel::ValueColumn, new GenParamDelegate(q));
     auto *const resizer = new TreeViewResizer(ui.treeView);
     firstShow = QObject::connect(resizer, &TreeViewResizer::showed, q, [this] {
@@ -162,6 +218,9 @@ void OrvGenParamTreeViewPrivate::initFilter()
     filterOptionsAction->setToolTip(OrvGenParamTreeView::tr("Filter options"));
     QObject::connect(filterOptionsAction, &QAction::triggered, q, [this] { filterOptions->popUp(*ui.filterLineEdit); });
     ensureRoomForPlaceholder(*ui.filterLineEdit);
+    if (QToolButton *const button = buttonOf(*ui.filterLineEdit, filterOptionsAction))
+        new ReachableButton(button, ui.filterLineEdit);
+    ui.cbVisibility->installEventFilter(new FindKeyPasser(ui.cbVisibility));
 
     QObject::connect(ui.filterLineEdit, &QLineEdit::textChanged, q, [this](const QString &text) {
         if (proxy)
@@ -188,8 +247,14 @@ void OrvGenParamTreeViewPrivate::initButtons()
     ui.pbCollapseAll->setIcon(iconOf(QStringLiteral(":/images/collapse_all.png")));
     ui.pbExpandAll->setIcon(iconOf(QStringLiteral(":/images/expand_all.png")));
     ui.pbStatus->setIcon(iconOf(QStringLiteral(":/images/ok.png")));
-    QObject::connect(ui.pbCollapseAll, &QToolButton::clicked, ui.treeView, &QTreeView::collapseAll);
-    QObject::connect(ui.pbExpandAll, &QToolButton::clicked, ui.treeView, &QTreeView::expandAll);
+    QObject::connect(ui.pbCollapseAll, &QToolButton::clicked, q, [this] {
+        const OpenCalls::Call call;
+        ui.treeView->collapseAll();
+    });
+    QObject::connect(ui.pbExpandAll, &QToolButton::clicked, q, [this] {
+        const OpenCalls::Call call;
+        ui.treeView->expandAll();
+    });
     QObject::connect(ui.pbStatus, &QToolButton::clicked, q,
                      [this] { (new GenErrorsDlg(errors.GetErrorInfo(), q))->show(); });
 }
@@ -228,10 +293,8 @@ void OrvGenParamTreeViewPrivate::remove()
     proxy->disconnect(q);
     showModel(nullptr);
     model->release();
-    proxy->deleteLater();
-    model->deleteLater();
-    proxy = nullptr;
-    model = nullptr;
+    giveUp(std::exchange(proxy, nullptr));
+    giveUp(std::exchange(model, nullptr));
     nodeMap = nullptr;
     clock = {};
     featuresToRepaint.clear();
@@ -240,17 +303,21 @@ void OrvGenParamTreeViewPrivate::remove()
     ui.whatsThisLabel->clear();
 }
 
+/** One that is in use outlives the view too. */
+void OrvGenParamTreeViewPrivate::giveUp(QObject *object)
+{
+    if (OpenCalls::any())
+        object->setParent(nullptr);
+    OpenCalls::retire(object);
+}
+
 /** Closes the open editors; nothing that was typed in them is written. */
 void OrvGenParamTreeViewPrivate::showModel(QAbstractItemModel *shown)
 {
-    QItemSelectionModel *const former = ui.treeView->selectionModel();
-    if (former)
+    if (QItemSelectionModel *const former = ui.treeView->selectionModel())
         former->disconnect(q);
     ui.treeView->setModel(shown);
-    QItemSelectionModel *const current = ui.treeView->selectionModel();
-    if (former && former != current)
-        former->deleteLater();
-    QObject::connect(current, &QItemSelectionModel::currentChanged, q,
+    QObject::connect(ui.treeView->selectionModel(), &QItemSelectionModel::currentChanged, q,
                      [this](const QModelIndex &index) { currentChanged(index); });
 }
 
@@ -304,6 +371,9 @@ void OrvGenParamTreeViewPrivate::moveCurrentFromGoing()
         const QModelIndex current = ui.treeView->currentIndex();
         return proxy && current.isValid() ? proxy->survivorOf(current) : current;
     };
+    FeatureSelection *const selection = ui.treeView->featureSelection();
+    if (proxy && selection && selection->target().isValid())
+        selection->setTarget(proxy->survivorOf(selection->target()));
     if (survivorOfCurrent() == ui.treeView->currentIndex())
         return;
     const bool hadFocus = ui.treeView->hasFocusInside();
@@ -367,6 +437,7 @@ void OrvGenParamTreeViewPrivate::repaintRows()
 
 void OrvGenParamTreeViewPrivate::poll()
 {
+    const OpenCalls::Call call;
     clock.polls();
     if (nodeMap)
         failureOf([this] { nodeMap->Poll(pollTimer->interval()); });
@@ -439,6 +510,7 @@ void OrvGenParamTreeView::loadState(const char *state)
 {
     if (!state || !*state || !d->nodeMap)
         return;
+    const OpenCalls::Call call;
     // A copy: the text may be the one that saveState() gave, and whoever listens to the tree may save meanwhile.
     const QByteArray text(state);
     d->state = text;
@@ -485,11 +557,14 @@ QTreeView *OrvGenParamTreeView::treeView() const
 
 /**
  * A dialog would click the button of a command that is open in the tree when Enter is pressed elsewhere, and one that
- * is a part of another window would hide at Escape.
+ * is a part of another window would hide at Escape. The key for the filter gets here only when nobody else wants it.
  */
 void OrvGenParamTreeView::keyPressEvent(QKeyEvent *event)
 {
-    if (isWindow() && event->matches(QKeySequence::Cancel))
+    if (event->matches(QKeySequence::Find)) {
+        d->ui.filterLineEdit->setFocus(Qt::ShortcutFocusReason);
+        d->ui.filterLineEdit->selectAll();
+    } else if (isWindow() && event->matches(QKeySequence::Cancel))
         QDialog::keyPressEvent(event);
     else
         QWidget::keyPressEvent(event);

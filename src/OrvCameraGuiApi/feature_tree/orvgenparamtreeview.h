@@ -24,6 +24,9 @@ class OrvGenParamTreeViewPrivate;
  * view->setWindowFlags(Qt::Widget);
  * layout->addWidget(view);
  * \endcode
+ * While it reads or writes, the node map's callbacks may do what they like, run event loops too. They may take the node
+ * map from the view, but not delete the view: as with any widget, that is for deleteLater().
+ *
  * Its icons have a second form for screens of high density, which Qt uses when Qt::AA_UseHighDpiPixmaps is set.
  */
 class ORV_CAMERAGUIAPI_EXPORT OrvGenParamTreeView : public QDialog, public IOrvGenParamTreeView

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+/**
+ * \a color, brought towards \a text as far as it needs for a contrast of 4.5 to 1 on \a background; \a text where that
+ * itself has less.
+ */
+QColor readableColor(const QColor &color, const QColor &text, const QColor &background);
+
+/**
+ * Paints texts that the model gives a color of their own so that they can be read, in light and dark palettes. The
+ * model's roles stay as they are: a grayed value, a red name.
+ */
+class ReadableDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
+};

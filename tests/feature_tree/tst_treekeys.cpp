@@ -1,0 +1,259 @@
+#include "orvtest.h"
+#include "shownview.h"
+
+#include <OrvCameraGuiApi/feature_tree/readabledelegate.h>
+
+#include <OrvGenApi/testing/faults.h>
+
+#include <QAction>
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include <cmath>
+
+namespace {
+
+/** Into whatever has the focus now. */
+void press(int key, Qt::KeyboardModifiers modifiers = {})
+{
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
+}
+
+void typeKeys(const QString &text)
+{
+    for (const QChar key : text)
+        QTest::keyClick(QApplication::focusWidget(), key.toLatin1());
+}
+
+bool hasEditor(const ShownView &shown)
+{
+    const auto children = shown.tree->viewport()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    return std::any_of(children.begin(), children.end(), [](QWidget *child) { return child->isVisible(); });
+}
+
+/** With Tab into the tree, and Down until the feature is current. */
+bool walkTo(const ShownView &shown, const char *name)
+{
+    for (int i = 0; i < 20 && !shown.tree->hasFocus(); ++i)
+        press(Qt::Key_Tab);
+    for (int i = 0; i < 40 && shown.tree->currentIndex().data().toString() != QLatin1String(name); ++i)
+        press(Qt::Key_Down);
+    return shown.tree->hasFocus() && shown.tree->currentIndex() == shown.cell(name, 0);
+}
+
+double luminance(const QColor &color)
+{
+    const auto linear = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+/** Between the row's ground and what differs most from it. */
+double contrastIn(const QImage &cell)
+{
+    double darkest = 1;
+    double lightest = 0;
+    for (int y = 0; y < cell.height(); ++y) {
+        for (int x = 0; x < cell.width(); ++x) {
+            darkest = std::min(darkest, luminance(cell.pixelColor(x, y)));
+            lightest = std::max(lightest, luminance(cell.pixelColor(x, y)));
+        }
+    }
+    return (lightest + 0.05) / (darkest + 0.05);
+}
+
+} // namespace
+
+class TestTreeKeys : public OrvTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void changesEveryKind_data();
+    void changesEveryKind();
+    void movesBetweenColumns();
+    void leavesTheSearchItsKeys();
+    void goesToTheFilter();
+    void paintsReadably_data();
+    void paintsReadably();
+};
+
+void TestTreeKeys::changesEveryKind_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QString>("keys"); ///< ">" and "<" are Right and Left, "2" is F2, "_" Down
+    QTest::addColumn<QString>("entry");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char *name, const char *keys, const char *entry, const char *text) {
+        QTest::addRow("%s %s", name, QByteArray(keys).replace('\r', "Enter").constData())
+            << QByteArray(name) << QString::fromLatin1(keys) << QString::fromLatin1(entry) << QString::fromLatin1(text);
+    };
+    for (const char *open : {"2", "\r", ">2", ">\r"}) {
+        row("Exposure Time", open, "40\r", "40us");
+        row("GevSCDA", open, "192.168.1.7\r", "192.168.1.7");
+        row("GevMACAddress", open, "258\r", "00:00:00:00:01:02");
+        row("Mask", open, "beef\r", "BEEF");
+        row("Gain", open, "2.5\r", "2.500dB");
+        row("Label", open, "abc\r", "abc");
+        row("Binning", open, "_", "4px");
+        row("Mode", open, "_", "Continuous");
+        row("Flag", open, "^", "True");
+        row("Start", open, " ", "Execute");
+        row("Start", open, "\r", "Execute");
+    }
+    row("Flag", ">", " ", "True");
+    row("Start", ">", " ", "Execute");
+}
+
+void TestTreeKeys::changesEveryKind()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(QString, keys);
+    QFETCH(QString, entry);
+    QFETCH(QString, text);
+    ShownView shown;
+    QVERIFY(shown.show());
+    QVERIFY(walkTo(shown, name));
+    QVERIFY(!hasEditor(shown));
+    const auto play = [](const QString &sequence) {
+        for (const QChar key : sequence) {
+            const int special[] = {'>', Qt::Key_Right, '^', Qt::Key_Up, '_', Qt::Key_Down, '\r', Qt::Key_Return};
+            const auto *const found = std::find(std::begin(special), std::end(special), int(key.toLatin1()));
+            if (found == std::end(special))
+                typeKeys(key);
+            else
+                press(found[1]);
+        }
+    };
+    play(QString(keys).remove(QLatin1Char('2')));
+    if (keys.contains(QLatin1Char('2')))
+        press(Qt::Key_F2);
+    const QByteArray content(shown.port.writeCount() ? "written" : "untouched");
+    QCOMPARE(content, QByteArray("untouched"));
+    play(entry);
+    QTRY_COMPARE(shown.cell(name.constData()).data().toString(), text);
+    if (name != "Gain" && name != "Binning")
+        QCOMPARE(shown.port.writeCount(), uint64_t(1));
+}
+
+void TestTreeKeys::movesBetweenColumns()
+{
+    for (const bool mirrored : {false, true}) {
+        ShownView shown;
+        shown.view.setLayoutDirection(mirrored ? Qt::RightToLeft : Qt::LeftToRight);
+        QVERIFY(shown.show());
+        QVERIFY(walkTo(shown, "Label"));
+        press(mirrored ? Qt::Key_Left : Qt::Key_Right);
+        QCOMPARE(shown.tree->currentIndex(), shown.cell("Label"));
+        QVERIFY(!hasEditor(shown));
+        press(mirrored ? Qt::Key_Right : Qt::Key_Left);
+        QCOMPARE(shown.tree->currentIndex(), shown.cell("Label", 0));
+        QVERIFY(shown.tree->hasFocus());
+        // Read-only values have no editor, and Tab leaves the tree.
+        QVERIFY(walkTo(shown, "Serial"));
+        press(Qt::Key_F2);
+        press(Qt::Key_Space);
+        QVERIFY(!hasEditor(shown));
+        press(Qt::Key_Tab);
+        QVERIFY(!shown.tree->hasFocus());
+        QCOMPARE(shown.port.writeCount(), uint64_t(0));
+    }
+}
+
+void TestTreeKeys::leavesTheSearchItsKeys()
+{
+    ShownView shown;
+    QVERIFY(shown.show());
+    QVERIFY(walkTo(shown, "Flag"));
+    typeKeys(QStringLiteral("plain n"));
+    QCOMPARE(shown.tree->currentIndex().data().toString(), QStringLiteral("Plain Numbers"));
+    typeKeys(QStringLiteral("u"));
+    QVERIFY(!hasEditor(shown));
+    QCOMPARE(shown.tree->currentIndex().data().toString(), QStringLiteral("Plain Numbers"));
+    QCOMPARE(shown.port.writeCount(), uint64_t(0));
+}
+
+void TestTreeKeys::goesToTheFilter()
+{
+    ShownView shown;
+    QVERIFY(shown.show());
+    auto *const filter = shown.part<QLineEdit>("filterLineEdit");
+    for (const char *name : {"Label", "Mode", "Exposure Time"}) {
+        shown.click(shown.cell(name));
+        QVERIFY(QApplication::focusWidget() != shown.tree);
+        press(Qt::Key_F, Qt::ControlModifier);
+        QCOMPARE(QApplication::focusWidget(), filter);
+    }
+    // A host's own use of the key comes first.
+    auto own = std::make_unique<QAction>();
+    own->setShortcut(QKeySequence::Find);
+    shown.view.addAction(own.get());
+    QSignalSpy triggered(own.get(), &QAction::triggered);
+    shown.tree->setFocus();
+    QTest::keyClick(shown.view.windowHandle(), Qt::Key_F, Qt::ControlModifier);
+    QTRY_COMPARE(triggered.count(), 1);
+    QVERIFY(shown.tree->hasFocus());
+    own.reset();
+
+    shown.part<QWidget>("cbVisibility")->setFocus();
+    press(Qt::Key_F, Qt::ControlModifier);
+    QCOMPARE(QApplication::focusWidget(), filter);
+    press(Qt::Key_Tab);
+    expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
+    press(Qt::Key_Space);
+    QWidget *const popup = QApplication::activePopupWidget();
+    QVERIFY(popup);
+    QTest::keyClick(popup->focusWidget(), Qt::Key_Space);
+    QVERIFY(shown.part<QCheckBox>("checkBoxCase")->isChecked());
+    QTest::keyClick(popup, Qt::Key_Escape);
+    QCOMPARE(shown.port.writeCount(), uint64_t(0));
+}
+
+void TestTreeKeys::paintsReadably_data()
+{
+    QTest::addColumn<QPalette>("palette");
+    QTest::newRow("light") << QPalette(QColor(239, 239, 239));
+    QPalette dark(QColor(50, 50, 50));
+    dark.setColor(QPalette::Base, QColor(35, 35, 35));
+    dark.setColor(QPalette::AlternateBase, QColor(45, 45, 45));
+    dark.setColor(QPalette::Text, Qt::white);
+    dark.setColor(QPalette::Disabled, QPalette::Text, QColor(90, 90, 90));
+    QTest::newRow("dark") << dark;
+}
+
+void TestTreeKeys::paintsReadably()
+{
+    QFETCH(QPalette, palette);
+    const QPalette former = QApplication::palette();
+    QApplication::setPalette(palette);
+    ShownView shown;
+    QVERIFY(shown.show());
+    OrvGenApi::NodeMap &map = *shown.map;
+    OrvGenApi::testing::failGetter(map, "Label", "GetValue");
+    OrvGenApi::testing::failGetter(map, "Gain", "GetValue");
+    shown.tree->viewport()->grab();
+    for (const char *name : {"Serial", "Key", "Gone", "Label", "Gain"}) {
+        for (const int column : {0, 1}) {
+            const QModelIndex cell = shown.cell(name, column);
+            const QVariant brush = cell.data(Qt::ForegroundRole);
+            const QImage image = shown.tree->viewport()->grab(shown.tree->visualRect(cell)).toImage();
+            QVERIFY2(
+                contrastIn(image) > 4.2,
+                qPrintable(QStringLiteral("%1 %2: %3").arg(QLatin1String(name)).arg(column).arg(contrastIn(image))));
+            if (column == 1)
+                QVERIFY(brush.isValid()); // as the model says
+        }
+    }
+    QApplication::setPalette(former);
+    for (const QColor &color : {QColor(255, 0, 0), QColor(190, 190, 190), QColor(60, 60, 60)}) {
+        const QColor text = palette.color(QPalette::Text);
+        const QColor ground = palette.color(QPalette::AlternateBase);
+        const double first = luminance(readableColor(color, text, ground)) + 0.05;
+        const double second = luminance(ground) + 0.05;
+        QVERIFY(std::max(first, second) / std::min(first, second) >= 4.5);
+    }
+}
+
+ORV_TEST_MAIN(TestTreeKeys)
+#include "tst_treekeys.moc"
