@@ -39,10 +39,10 @@ void tst_Access::access_data()
            on + plain("<pIsAvailable>Z</pIsAvailable><pIsImplemented>Z</pIsImplemented>")
                + node("Integer", "Z", "<Value>0</Value>"),
            "N? Z=1 N?", "NI ok RW");
-    addRow("conditions that cannot be read are not fulfilled",
+    addRow("what hangs on a condition that cannot be read is not available",
            writeOnly + plain("<pIsAvailable>W</pIsAvailable>")
                + node("Integer", "M", "<Value>1</Value><pIsLocked>W</pIsLocked>"),
-           "W=1 N? M?", "ok NA RW");
+           "W=1 N? M? M=2 M:=2", "ok NA NA !Access ok");
     addRow(
         "an enumeration is as available as its entries",
         on
