@@ -46,6 +46,23 @@ void tst_Changes::caching_data()
                + reg("IntReg", "R", "0x10", "<pIndex Offset='4'>S</pIndex>")
                + node("Integer", "N", "<pValue>R</pValue>"),
            "N=7 S=1 # N N # S=0 N", "ok ok r1w2 0 0 r1w0 ok 7");
+    addRow("registers at one place share what was read",
+           reg("IntReg", "A", "0") + reg("IntReg", "B", "0") + reg("IntReg", "C", "0", "<Length>2</Length>"),
+           "A B # C # A=5 # B # B- B # A- C", "0 0 r1w0 0 r1w0 ok r0w1 0 r0w0 ok 5 r1w0 ok 0");
+    addRow("reading past the caches keeps nothing, but what a formula makes of it", cached("WriteThrough"),
+           "N N* N& R& # N # K K* K& R& #", "0 0 unknown unknown r2w0 0 r1w0 0 0 kept kept r1w0");
+    addRow("a refused write drops what was kept", cached("WriteThrough"), "N N=-1 N& R& N # N=x N&",
+           "0 !OutOfRange unknown kept 0 r1w0 !InvalidArgument kept");
+    addRow("a self-clearing entry is asked for as long as it is current",
+           reg("IntReg", "R", "0")
+               + node("Enumeration", "E",
+                      "<EnumEntry Name='Off'><Value>0</Value></EnumEntry><EnumEntry Name='On'><Value>1</Value>"
+                      "<IsSelfClearing>Yes</IsSelfClearing></EnumEntry><pValue>R</pValue>"),
+           "E E # E=On # E E # E&", "Off Off r1w0 ok r0w1 On On r2w0 kept");
+    addRow("a node that tells of errors is asked after checked writes",
+           reg("IntReg", "R", "0") + node("Integer", "N", "<pError>E</pError><pValue>R</pValue>")
+               + node("Enumeration", "E", "<EnumEntry Name='Bad'><Value>1</Value></EnumEntry><Value>0</Value>"),
+           "N=1 E=Bad N=2 R N:=3 R ^", "ok ok !Runtime 2 ok 3 E,N,N,N,R,R");
     addRow("conditions are cached as well",
            reg("IntReg", "R", "0") + node("Integer", "N", "<Value>1</Value><pIsLocked>R</pIsLocked>"),
            "N? N? # R=1 N? N=1 #", "RW RW r1w0 ok RO !Access r0w1");
@@ -85,6 +102,12 @@ void tst_Changes::polling_data()
         + reg("IntReg", "Slow", "4", "<PollingTime>1000</PollingTime>");
     addRow("when the time has come", polled, "N # @99 ^ @1 ^ N # @50 @50 ^ @99 ^",
            "0 r1w0 ok  ok N,R 0 r1w0 ok ok N,R ok ");
+    addRow("enumerations and commands that are not given are not polled",
+           reg("IntReg", "R", "0")
+               + node("Enumeration", "E",
+                      "<EnumEntry Name='A'><Value>0</Value></EnumEntry><pValue>R</pValue><PollingTime>10</PollingTime>")
+               + node("Command", "C", "<pValue>R</pValue><CommandValue>1</CommandValue><PollingTime>10</PollingTime>"),
+           "@10 ^ C! ^ @9 ^ @1 ^", "ok  ok C,E,R ok  ok C");
     addRow("each at its own pace", polled, "@950 ^ @50 ^", "ok N,R ok Slow");
     addRow("time does not run backwards, nor over", polled, "@-500 @9223372036854775807 ^ @99 @9223372036854775807 ^",
            "ok ok N,R,Slow ok ok N,R,Slow");

@@ -106,6 +106,9 @@ void tst_Values::numbers_data()
     addRow("the widest increment",
            node("Integer", "N", "<Value>0</Value><Min>-9223372036854775808</Min><Inc>0x7FFFFFFFFFFFFFFF</Inc>"),
            "N=-1 N=9223372036854775806 N=0", "ok ok !OutOfRange");
+    addRow("a float over an integer takes its steps", source + node("Float", "N", "<pValue>S</pValue>"),
+           "N=9.4 S N=12.9 S", "ok 7 ok 13");
+    addRow("an increment of 0", node("Integer", "N", "<Value>0</Value><Inc>0</Inc>"), "N=1 N:=1", "!LogicalError ok");
     addRow("index",
            source + node("Integer", "I", "<Value>0</Value>")
                + node("Integer", "N",
@@ -188,6 +191,23 @@ void tst_Values::formulas_data()
                       "<FormulaTo>FROM - 1</FormulaTo><FormulaFrom>TO + 1</FormulaFrom><pValue>B</pValue>"
                       "<Slope>Increasing</Slope>"),
            "C C:=-9223372036854775807 B", "9223372036854775807 ok -9223372036854775808");
+    addRow("a formula that cannot be parsed fails when it is asked",
+           node("IntSwissKnife", "K", "<Formula>1 +</Formula>") + node("Integer", "N", "<pValue>K</pValue>")
+               + node("Integer", "M", "<Value>1</Value>"),
+           "K? K N N: M", "RO !LogicalError !LogicalError !LogicalError 1");
+    addRow("every variable is read",
+           node("Integer", "Z", "<Value>0</Value>")
+               + node("IntSwissKnife", "Bad", "<pVariable Name='Z'>Z</pVariable><Formula>1 / Z</Formula>")
+               + node("IntSwissKnife", "K", "<pVariable Name='A'>Bad</pVariable><Formula>7</Formula>"),
+           "K Z=1 K", "!LogicalError ok 7");
+    addRow(
+        "an integer converter without a slope has no room",
+        node("Integer", "A", "<Value>3</Value>")
+            + node("IntConverter", "C", "<FormulaTo>FROM</FormulaTo><FormulaFrom>TO</FormulaFrom><pValue>A</pValue>"),
+        "C: C=1", "3 0..0/1 !OutOfRange");
+    addRow("checks go down to what a value is made of",
+           node("Integer", "A", "<Value>9</Value><Max>5</Max>") + reg("IntReg", "R", "0", "<pAddress>A</pAddress>"),
+           "R R=1 R:=1", "0 !OutOfRange ok");
     addRow("division by zero",
            node("Integer", "Z", "<Value>0</Value>")
                + node("IntSwissKnife", "K", "<pVariable Name='Z'>Z</pVariable><Formula>1 / Z</Formula>")

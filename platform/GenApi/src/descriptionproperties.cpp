@@ -196,7 +196,17 @@ bool DescriptionLoader::readCommon(Node &node, const Element &property)
         node.m_isLocked = linkNumber(node, property, Use::Condition);
     else if (is(property, "pBlockPolling")) {
         node.m_blocksPolling = linkNumber(node, property, Use::Condition);
-    } else if (is(property, "pError")) {
+    } else if (is(property, "DocuURL"))
+        m_map.m_extras[&node].docuUrl = m_map.keep(text);
+    else if (is(property, "EventID"))
+        m_map.m_extras[&node].eventId = m_map.keep(text);
+    else if (is(property, "IsDeprecated"))
+        m_map.m_extras[&node].isDeprecated = isYes(property);
+    else if (is(property, "pAlias"))
+        m_map.m_extras[&node].alias = m_map.find(trimmed(text));
+    else if (is(property, "pCastAlias"))
+        m_map.m_extras[&node].castAlias = m_map.find(trimmed(text));
+    else if (is(property, "pError")) {
         node.m_error = linkNumber(node, property, Use::Condition);
     } else if (is(property, "pInvalidator"))
         link(node, property, Use::Notice);

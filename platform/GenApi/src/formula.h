@@ -84,6 +84,13 @@ public:
 
     Kind kind() const { return m_kind; }
 
+    /** Throws FormulaError when this formula cannot be evaluated, whatever its variables are. */
+    void requireUsable() const
+    {
+        if (m_program.empty())
+            throwUnusable();
+    }
+
     static constexpr unsigned maximumDepth = 500; ///< of parentheses, branches, signs, powers and expressions
     static constexpr unsigned maximumText = 65536; ///< characters, an expression's counted wherever it is used
 

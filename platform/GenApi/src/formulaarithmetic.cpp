@@ -166,8 +166,11 @@ double FloatArithmetic::unary(Op op, Value a)
         return std::trunc(a);
     case Op::Frac:
         return a - std::trunc(a);
-    default:
-        return transcendental(op, a);
+    default: {
+        // Intentionally: that a NaN has a sign says nothing but which processor it comes from.
+        const Value result = transcendental(op, a);
+        return std::isnan(result) && op != Op::Sqrt ? std::numeric_limits<Value>::quiet_NaN() : result;
+    }
     }
 }
 

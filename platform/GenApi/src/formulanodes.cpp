@@ -81,8 +81,9 @@ template <typename Base>
 auto FormulaNode<Base>::run(const Formula &formula, Number converted, bool ignoreCache) const -> Number
 {
     this->requireUsable();
-    VariableSource<Number> source(m_variables, converted, ignoreCache);
     try {
+        formula.requireUsable();
+        VariableSource<Number> source(m_variables, converted, ignoreCache);
         return Base::evaluate(formula, source);
     } catch (const FormulaError &error) {
         ORV_THROW(LogicalErrorException, std::string("node '") + this->name() + "': " + error.message);

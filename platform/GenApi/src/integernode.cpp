@@ -67,6 +67,15 @@ NumberRef<Number> &NumberSource<Number>::current(const Node &owner)
 }
 
 template <typename Number>
+Node *NumberSource<Number>::limitingNode(const Node &owner)
+{
+    Node *const node = currentNode(owner);
+    if (node && m_indexed)
+        node->requireAvailable();
+    return node;
+}
+
+template <typename Number>
 void NumberSource<Number>::write(Node &owner, Number value, bool verify, Changes &changes)
 {
     Ref &target = current(owner);
@@ -128,7 +137,7 @@ std::pair<int64_t, int64_t> IntegerNode::intRange()
 {
     if (m_source.hasCopies() && !m_minimum.isSet() && !m_maximum.isSet() && m_source.knowsCopiedRange(*this))
         return m_source.copiedRange(*this, {});
-    Node *const node = m_source.currentNode(*this);
+    Node *const node = m_source.limitingNode(*this);
     std::pair<int64_t, int64_t> range(int64Min, int64Max);
     if (node && !m_minimum.isSet() && !m_maximum.isSet())
         range = node->intRange();
@@ -142,7 +151,7 @@ int64_t IntegerNode::intMin()
 {
     if (m_minimum.isSet())
         return m_minimum.value();
-    Node *const node = m_source.currentNode(*this);
+    Node *const node = m_source.limitingNode(*this);
     if (!m_source.hasCopies())
         return node ? node->intMin() : int64Min;
     return intRange().first;
@@ -152,7 +161,7 @@ int64_t IntegerNode::intMax()
 {
     if (m_maximum.isSet())
         return m_maximum.value();
-    Node *const node = m_source.currentNode(*this);
+    Node *const node = m_source.limitingNode(*this);
     if (!m_source.hasCopies())
         return node ? node->intMax() : int64Max;
     return intRange().second;
@@ -202,7 +211,7 @@ double FloatNode::floatMin()
 {
     if (m_minimum.isSet())
         return m_minimum.value();
-    Node *const node = m_source.currentNode(*this);
+    Node *const node = m_source.limitingNode(*this);
     return node ? node->floatMin() : FloatBase::floatMin();
 }
 
@@ -210,14 +219,14 @@ double FloatNode::floatMax()
 {
     if (m_maximum.isSet())
         return m_maximum.value();
-    Node *const node = m_source.currentNode(*this);
+    Node *const node = m_source.limitingNode(*this);
     return node ? node->floatMax() : FloatBase::floatMax();
 }
 
 std::pair<double, double> FloatNode::floatRange()
 {
     if (!m_minimum.isSet() && !m_maximum.isSet()) {
-        if (Node *const node = m_source.currentNode(*this))
+        if (Node *const node = m_source.limitingNode(*this))
             return node->floatRange();
     }
     return {floatMin(), floatMax()};

@@ -20,6 +20,9 @@ public:
     /** The node that has the value now; null where it is a constant. Throws when the index picks nothing. */
     Node *currentNode(const Node &owner) { return current(owner).node(); }
 
+    /** The same for asking it for its limits, which it has to be available for. */
+    Node *limitingNode(const Node &owner);
+
     bool hasCopies() const { return m_copies != nullptr; }
     GenApi::EAccessMode access(Node::When when) const;
 

@@ -2,23 +2,12 @@
 
 #include "nodemapimpl.h"
 
+#include <algorithm>
+
 namespace OrvGenApi {
 
 using namespace GenApi;
 using GenICam::gcstring;
-
-EAccessMode combined(EAccessMode left, EAccessMode right)
-{
-    if (left == NI || right == NI)
-        return NI;
-    if (left == NA || right == NA)
-        return NA;
-    if (left == RW)
-        return right;
-    if (right == RW || right == left)
-        return left;
-    return NA; // one may only be read, the other only written
-}
 
 ECachingMode combined(ECachingMode left, ECachingMode right)
 {
@@ -167,6 +156,75 @@ bool Node::IsFeature() const
 {
     const Entry entry(*this, "IsFeature");
     return m_isFeature;
+}
+
+ENameSpace Node::GetNameSpace() const
+{
+    const Entry entry(*this, "GetNameSpace");
+    return m_standardNameSpace ? Standard : Custom;
+}
+
+bool Node::IsCachable() const
+{
+    const Entry entry(*this, "IsCachable");
+    return IsCacheable(cachingMode());
+}
+
+bool Node::IsDeprecated() const
+{
+    const Entry entry(*this, "IsDeprecated");
+    return m_map.extrasOf(*this).isDeprecated;
+}
+
+gcstring Node::GetDocuURL() const
+{
+    const Entry entry(*this, "GetDocuURL");
+    return m_map.extrasOf(*this).docuUrl;
+}
+
+gcstring Node::GetEventID() const
+{
+    const Entry entry(*this, "GetEventID");
+    return m_map.extrasOf(*this).eventId;
+}
+
+INode *Node::GetAlias() const
+{
+    const Entry entry(*this, "GetAlias");
+    return m_map.extrasOf(*this).alias;
+}
+
+INode *Node::GetCastAlias() const
+{
+    const Entry entry(*this, "GetCastAlias");
+    return m_map.extrasOf(*this).castAlias;
+}
+
+void Node::GetChildren(NodeList_t &Children) const
+{
+    const Entry entry(*this, "GetChildren");
+    Children.clear();
+    for (const std::unique_ptr<Node> &node : m_map.m_nodes) {
+        const std::vector<Node *> &dependents = node->m_dependents;
+        if (std::find(dependents.begin(), dependents.end(), this) != dependents.end())
+            Children.push_back(node.get());
+    }
+}
+
+void Node::GetParents(NodeList_t &Parents) const
+{
+    const Entry entry(*this, "GetParents");
+    Parents.assign(m_dependents.begin(), m_dependents.end());
+}
+
+void Node::ImposeAccessMode(EAccessMode ImposedAccessMode)
+{
+    change("ImposeAccessMode", [&](Changes &) { m_imposedAccess = ImposedAccessMode; });
+}
+
+void Node::ImposeVisibility(EVisibility ImposedVisibility)
+{
+    change("ImposeVisibility", [&](Changes &) { m_visibility = Combine(m_visibility, ImposedVisibility); });
 }
 
 CallbackHandleType Node::RegisterCallback(CNodeCallback *pCallback)

@@ -18,20 +18,22 @@ namespace OrvGenApi {
 class Node;
 class NodeMapImpl;
 
-/** What may be done where both modes apply. */
-GenApi::EAccessMode combined(GenApi::EAccessMode left, GenApi::EAccessMode right);
+inline GenApi::EAccessMode combined(GenApi::EAccessMode left, GenApi::EAccessMode right)
+{
+    return GenApi::Combine(left, right);
+}
 
 /** How a value may be cached that is made of parts cached so. */
 GenApi::ECachingMode combined(GenApi::ECachingMode left, GenApi::ECachingMode right);
 
 inline bool isReadable(GenApi::EAccessMode mode)
 {
-    return mode == GenApi::RO || mode == GenApi::RW;
+    return GenApi::IsReadable(mode);
 }
 
 inline bool isWritable(GenApi::EAccessMode mode)
 {
-    return mode == GenApi::WO || mode == GenApi::RW;
+    return GenApi::IsWritable(mode);
 }
 
 /** Nodes whose value may have changed; filled while a write goes down to the registers. */
@@ -94,6 +96,18 @@ public:
     bool IsFeature() const override;
     GenApi::CallbackHandleType RegisterCallback(GenApi::CNodeCallback *pCallback) override;
     bool DeregisterCallback(GenApi::CallbackHandleType hCallback) override;
+
+    GenApi::ENameSpace GetNameSpace() const override;
+    bool IsCachable() const override;
+    bool IsDeprecated() const override;
+    GenICam::gcstring GetDocuURL() const override;
+    GenICam::gcstring GetEventID() const override;
+    GenApi::INode *GetAlias() const override;
+    GenApi::INode *GetCastAlias() const override;
+    void GetChildren(GenApi::NodeList_t &Children) const override;
+    void GetParents(GenApi::NodeList_t &Parents) const override;
+    void ImposeAccessMode(GenApi::EAccessMode ImposedAccessMode) override;
+    void ImposeVisibility(GenApi::EVisibility ImposedVisibility) override;
 
     // ISelector
     bool IsSelector() const override;

@@ -105,6 +105,17 @@ uint64_t NodeMapImpl::GetNumNodes() const
     return m_nodes.size();
 }
 
+bool NodeMapImpl::Connect(IPort *pPort, const gcstring &PortName) const
+{
+    return const_cast<NodeMapImpl *>(this)->connect(pPort, PortName.c_str()); // the interface calls this const
+}
+
+NodeMapImpl::Extras NodeMapImpl::extrasOf(const Node &node) const
+{
+    const auto found = m_extras.find(&node);
+    return found == m_extras.end() ? Extras() : found->second;
+}
+
 bool NodeMapImpl::connect(IPort *port, const std::string &portName)
 {
     const MapLock lock(*this);

@@ -41,6 +41,7 @@ public:
     uint64_t GetNumNodes() const override;
 
     // NodeMap
+    bool Connect(GenApi::IPort *pPort, const GenICam::gcstring &PortName) const override;
     bool connect(GenApi::IPort *port, const std::string &portName) override;
     std::string modelName() const override { return m_modelName; }
     std::string vendorName() const override { return m_vendorName; }
@@ -78,6 +79,21 @@ public:
         Node *blocker; ///< as long as it is not 0 there is no polling; may be null
     };
 
+    /** What few nodes have. */
+    struct Extras
+    {
+        const char *docuUrl = "";
+        const char *eventId = "";
+        Node *alias = nullptr;
+        Node *castAlias = nullptr;
+        bool isDeprecated = false;
+        std::pair<int64_t, int64_t> intLimits{int64Min, int64Max}; ///< imposed
+        std::pair<double, double> floatLimits{-std::numeric_limits<double>::infinity(),
+                                              std::numeric_limits<double>::infinity()};
+    };
+    Extras extrasOf(const Node &node) const;
+
+    std::unordered_map<const Node *, Extras> m_extras;
     std::vector<std::unique_ptr<Node>> m_nodes;
     std::string m_modelName;
     std::string m_vendorName;

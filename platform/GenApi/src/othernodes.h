@@ -109,7 +109,10 @@ protected:
     }
     GenApi::EAccessMode readAccess() const override
     {
-        return combined(Node::readAccess(), availability(m_commandValue.node()));
+        const GenApi::EAccessMode mode = combined(Node::readAccess(), availability(m_commandValue.node()));
+        const bool isBlind =
+            m_value.node() && m_commandValue.node() && !isReadable(m_commandValue.node()->accessMode());
+        return isBlind ? combined(mode, GenApi::NA) : mode;
     }
 
 private:

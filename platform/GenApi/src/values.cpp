@@ -27,14 +27,41 @@ int64_t IntegerBase::GetMin()
 {
     const Entry entry(*this, "GetMin");
     requireAvailable();
-    return intMin();
+    return lowest();
+}
+
+void IntegerBase::ImposeMin(int64_t Value)
+{
+    change("ImposeMin", [&](Changes &) {
+        m_map.m_extras[this].intLimits.first = Value;
+        m_hasImposedLimits = true;
+    });
+}
+
+void IntegerBase::ImposeMax(int64_t Value)
+{
+    change("ImposeMax", [&](Changes &) {
+        m_map.m_extras[this].intLimits.second = Value;
+        m_hasImposedLimits = true;
+    });
+}
+
+/** The limits with those that an application imposes. */
+int64_t IntegerBase::lowest()
+{
+    return m_hasImposedLimits ? std::max(intMin(), m_map.m_extras[this].intLimits.first) : intMin();
+}
+
+int64_t IntegerBase::highest()
+{
+    return m_hasImposedLimits ? std::min(intMax(), m_map.m_extras[this].intLimits.second) : intMax();
 }
 
 int64_t IntegerBase::GetMax()
 {
     const Entry entry(*this, "GetMax");
     requireAvailable();
-    return intMax();
+    return highest();
 }
 
 int64_t IntegerBase::GetInc()
@@ -74,10 +101,10 @@ void IntegerBase::checkRange(int64_t value)
     const auto fail = [&](const std::string &why) {
         ORV_THROW(OutOfRangeException, std::string("node '") + name() + "': " + std::to_string(value) + why);
     };
-    const int64_t minimum = intMin();
+    const int64_t minimum = lowest();
     if (value < minimum)
         fail(" is below the minimum " + std::to_string(minimum));
-    const int64_t maximum = intMax();
+    const int64_t maximum = highest();
     if (value > maximum)
         fail(" is above the maximum " + std::to_string(maximum));
     const int64_t increment = intIncrement();
@@ -140,14 +167,41 @@ double FloatBase::GetMin()
 {
     const Entry entry(*this, "GetMin");
     requireAvailable();
-    return floatMin();
+    return lowest();
+}
+
+void FloatBase::ImposeMin(double Value)
+{
+    change("ImposeMin", [&](Changes &) {
+        m_map.m_extras[this].floatLimits.first = Value;
+        m_hasImposedLimits = true;
+    });
+}
+
+void FloatBase::ImposeMax(double Value)
+{
+    change("ImposeMax", [&](Changes &) {
+        m_map.m_extras[this].floatLimits.second = Value;
+        m_hasImposedLimits = true;
+    });
+}
+
+/** The limits with those that an application imposes. */
+double FloatBase::lowest()
+{
+    return m_hasImposedLimits ? std::max(floatMin(), m_map.m_extras[this].floatLimits.first) : floatMin();
+}
+
+double FloatBase::highest()
+{
+    return m_hasImposedLimits ? std::min(floatMax(), m_map.m_extras[this].floatLimits.second) : floatMax();
 }
 
 double FloatBase::GetMax()
 {
     const Entry entry(*this, "GetMax");
     requireAvailable();
-    return floatMax();
+    return highest();
 }
 
 bool FloatBase::HasInc()
@@ -261,10 +315,10 @@ void FloatBase::checkRange(double value)
     };
     if (std::isnan(value))
         fail(" is no number");
-    const double minimum = floatMin();
+    const double minimum = lowest();
     if (value < minimum)
         fail(" is below the minimum " + formatFloat(minimum, fnAutomatic, 12));
-    const double maximum = floatMax();
+    const double maximum = highest();
     if (value > maximum)
         fail(" is above the maximum " + formatFloat(maximum, fnAutomatic, 12));
 }

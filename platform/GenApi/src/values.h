@@ -169,6 +169,8 @@ public:
     GenApi::int64_autovector_t GetListOfValidValues(bool bounded) override;
     GenApi::ERepresentation GetRepresentation() override;
     GenICam::gcstring GetUnit() override;
+    void ImposeMin(int64_t Value) override;
+    void ImposeMax(int64_t Value) override;
 
     GenApi::EInterfaceType interfaceType() const override { return GenApi::intfIInteger; }
     bool isNumber() const override { return true; }
@@ -189,6 +191,12 @@ protected:
     virtual bool keepsWritten() const { return true; }
 
     KeptNumber<int64_t> m_kept;
+
+private:
+    int64_t lowest();
+    int64_t highest();
+
+    bool m_hasImposedLimits = false;
 };
 
 /** Base of all nodes that are floating-point numbers on the outside. */
@@ -207,6 +215,8 @@ public:
     GenApi::double_autovector_t GetListOfValidValues(bool bounded) override;
     GenApi::ERepresentation GetRepresentation() override;
     GenICam::gcstring GetUnit() const override;
+    void ImposeMin(double Value) override;
+    void ImposeMax(double Value) override;
     GenApi::EDisplayNotation GetDisplayNotation() const override;
     int64_t GetDisplayPrecision() const override;
 
@@ -235,6 +245,12 @@ protected:
     virtual bool keepsWritten() const { return true; }
 
     KeptNumber<double> m_kept;
+
+private:
+    double lowest();
+    double highest();
+
+    bool m_hasImposedLimits = false;
 };
 
 /** Writes through a link as a user of the linked node would. */

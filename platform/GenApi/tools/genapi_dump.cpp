@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <functional>
 #include <iostream>
 #include <set>
 #include <string>
@@ -351,7 +352,8 @@ std::vector<INode *> watched(const std::vector<Visit> &visits, std::set<std::str
         if (!known.insert(visit.node).second)
             continue;
         features.push_back(visit.node);
-        Register(visit.node, [&fired](INode *node) { fired.insert(node->GetName().c_str()); });
+        Register(visit.node,
+                 std::function<void(INode *)>([&fired](INode *node) { fired.insert(node->GetName().c_str()); }));
     }
     return features;
 }
