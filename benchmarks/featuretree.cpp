@@ -122,6 +122,7 @@ private:
 struct FollowFeature
 {
     void operator()(GenApi::INode *) const { item->setText(feature->text()); }
+    explicit operator bool() const { return item; }
 
     const BareFeature *feature;
     QStandardItem *item;

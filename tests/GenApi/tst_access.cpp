@@ -39,10 +39,10 @@ void tst_Access::access_data()
            on + plain("<pIsAvailable>Z</pIsAvailable><pIsImplemented>Z</pIsImplemented>")
                + node("Integer", "Z", "<Value>0</Value>"),
            "N? Z=1 N?", "NI ok RW");
-    addRow("conditions that cannot be read are not fulfilled",
+    addRow("what hangs on a condition that cannot be read is not available",
            writeOnly + plain("<pIsAvailable>W</pIsAvailable>")
                + node("Integer", "M", "<Value>1</Value><pIsLocked>W</pIsLocked>"),
-           "W=1 N? M?", "ok NA RW");
+           "W=1 N? M? M=2 M:=2", "ok NA NA !Access ok");
     addRow(
         "an enumeration is as available as its entries",
         on
@@ -51,6 +51,47 @@ void tst_Access::access_data()
                    "<EnumEntry Name='B'><Value>1</Value><pIsImplemented>Z</pIsImplemented></EnumEntry><Value>0</Value>")
             + node("Integer", "Z", "<Value>0</Value>"),
         "E? EnumEntry_E_A? EnumEntry_E_B? E=B On=0 E? Z=1 E? E=A E=B E", "RW RO NI !Access ok NA ok RW !Access ok B");
+    addRow("all conditions count, and as much as they can be told",
+           plain("<pIsImplemented>I</pIsImplemented><pIsAvailable>V</pIsAvailable><pIsLocked>L</pIsLocked>")
+               + node("Integer", "I", "<Value>1</Value><pIsAvailable>X</pIsAvailable>")
+               + node("Integer", "V", "<Value>1</Value>")
+               + node("Integer", "L", "<Value>0</Value><pIsImplemented>X</pIsImplemented>")
+               + node("Integer", "X", "<Value>1</Value>"),
+           "N? L=1 N? V=0 N? X=0 N? N:=1 N:=x", "RW ok RO ok NA ok NI !Access !InvalidArgument");
+    addRow("a condition that throws does so once",
+           node("Boolean", "Cond", "<pValue>V</pValue>") + node("Integer", "V", "<Value>6</Value>")
+               + plain("<pIsAvailable>Cond</pIsAvailable>"),
+           "N? N? N V=0 N? V=6 N?", "!LogicalError RW 7 ok NA ok !LogicalError");
+    addRow("what is needed for anything else is needed to be there",
+           node("Integer", "Z", "<Value>0</Value>")
+               + node("Integer", "M", "<Value>9</Value><pIsAvailable>Z</pIsAvailable>") + plain("<pMax>M</pMax>")
+               + node("Float", "F", "<Value>1</Value><pError>M</pError>")
+               + reg("IntReg", "R", "0", "<pAddress>M</pAddress>")
+               + node("SwissKnife", "K",
+                      "<pVariable "
+                      "Name='A'>M</pVariable><Formula>1</Formula>")
+               + node("Command", "C", "<Value>0</Value><pCommandValue>M</pCommandValue>"),
+           "N? F? R? K? C? Z=1 N? F? R? K? C?", "NA NA NA NA NA ok RW RW RW RO RW");
+    addRow("a value that an index picks is there for who can read the index",
+           node("Integer", "Z", "<Value>0</Value>") + writeOnly
+               + node("Integer", "N", "<pIsAvailable>Z</pIsAvailable><pIndex>Z</pIndex><ValueDefault>3</ValueDefault>")
+               + node("Integer", "M", "<pIndex>W</pIndex><ValueDefault>3</ValueDefault>"),
+           "N? N N=4 M?", "RW 3 ok NA");
+    addRow("unchecked writes go past locks, not past what never is",
+           on + node("Integer", "N", "<pIsLocked>On</pIsLocked><pValue>R</pValue>")
+               + reg("IntReg", "R", "0", "<pIsAvailable>Z</pIsAvailable>") + node("Integer", "Z", "<Value>0</Value>")
+               + node("Integer", "M", "<ImposedAccessMode>RO</ImposedAccessMode><pValue>R</pValue>")
+               + node("Command", "C", "<pIsLocked>On</pIsLocked><Value>0</Value><CommandValue>1</CommandValue>"),
+           "N:=5 Z=1 R M:=6 R C:=1", "ok ok 5 !Access 5 !Access");
+    addRow("a choice that hangs on what it chooses",
+           "<Enumeration Name='S'><EnumEntry Name='A'><Value>0</Value></EnumEntry><EnumEntry Name='B'><Value>1</Value>"
+           "<pIsImplemented>V</pIsImplemented></EnumEntry><pValue>R</pValue></Enumeration>"
+               + reg("IntReg", "R", "0") + reg("IntReg", "V", "8", "<pAddress>O</pAddress>")
+               + node("IntSwissKnife", "O", "<pVariable Name='A'>S</pVariable><Formula>A * 4</Formula>"),
+           "S? S V EnumEntry_S_B? S=B V=1 EnumEntry_S_B? S=B EnumEntry_S_B?", "RW A 0 NI !Access ok RO ok NI");
+    addRow("a port for chunks comes and goes",
+           "<Port Name='Chunk'><ChunkID>1f</ChunkID></Port>" + reg("IntReg", "R", "0", "<pPort>Chunk</pPort>"), "R? R",
+           "NA !Access");
     addRow("a limit that cannot be read", writeOnly + node("Integer", "N", "<Value>1</Value><pMax>W</pMax>"),
            "N N: N=1 N:=2 N", "1 !Access !Access ok 2");
     addRow("links to nothing",
@@ -108,6 +149,12 @@ void tst_Access::categories_data()
         guru + expert + node("Category", "C", "<pFeature>G</pFeature><pFeature>D</pFeature>")
             + node("Category", "D", "<pFeature>E</pFeature>") + node("Category", "E", "<pFeature>X</pFeature>"),
         "RO", Expert);
+    row("what stands in it may be looked at whatever its own conditions",
+        expert + node("Integer", "Z", "<Value>0</Value>")
+            + node("Category", "C", "<pIsAvailable>Z</pIsAvailable><pFeature>X</pFeature>"),
+        "RO", Expert);
+    row("plain nodes are something", "<Node Name='P'/>" + node("Category", "C", "<pFeature>P</pFeature>"), "RO",
+        Beginner);
     row("nothing implemented",
         absent + node("Category", "C", "<pFeature>A</pFeature><pFeature>D</pFeature>")
             + node("Category", "D", "<pFeature>C</pFeature>"),
@@ -133,7 +180,8 @@ void tst_Access::selectors()
     const Session session(
         node("Integer", "S", "<Value>0</Value><pSelected>T</pSelected><pSelected>N</pSelected>")
         + node("Integer", "T", "<Value>0</Value><pSelected>N</pSelected><pSelected>Nobody</pSelected>")
-        + node("Integer", "N", "<Value>0</Value>"));
+        + node("Integer", "N", "<Value>0</Value>") + node("Float", "Over", "<pValue>N</pValue>")
+        + node("Command", "Limited", "<Value>0</Value><pCommandValue>Over</pCommandValue>"));
     const auto names = [&](const char *name, void (ISelector::*list)(FeatureList_t &) const) {
         FeatureList_t features;
         (session.get<ISelector>(name)->*list)(features);
@@ -142,10 +190,12 @@ void tst_Access::selectors()
             result += feature->GetNode()->GetName().c_str();
         return result;
     };
-    QCOMPARE(names("S", &ISelector::GetSelectedFeatures), QByteArray("TN"));
+    QCOMPARE(names("S", &ISelector::GetSelectedFeatures), QByteArray("TNOverLimited"));
     QCOMPARE(names("N", &ISelector::GetSelectingFeatures), QByteArray("ST"));
     QCOMPARE(names("T", &ISelector::GetSelectingFeatures), QByteArray("S"));
     QVERIFY(session.get<ISelector>("T")->IsSelector());
+    QCOMPARE(names("Over", &ISelector::GetSelectingFeatures), QByteArray("ST")); // reads what is selected
+    QCOMPARE(names("Limited", &ISelector::GetSelectingFeatures), QByteArray("ST"));
     QVERIFY(!session.get<ISelector>("N")->IsSelector());
 }
 

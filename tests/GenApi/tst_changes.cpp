@@ -38,7 +38,7 @@ void tst_Changes::caching_data()
     addRow("a field is written into what the device holds now",
            reg("MaskedIntReg", "A", "0", "<LSB>7</LSB><MSB>0</MSB>")
                + reg("MaskedIntReg", "B", "0", "<LSB>31</LSB><MSB>24</MSB>"),
-           "A B # A=1 B=2 # A* B*", "0 0 r2w0 ok ok r2w2 1 2");
+           "A B # A=1 B=2 # A* B*", "0 0 r1w0 ok ok r0w2 1 2");
     addRow("an invalidator", reg("IntReg", "R", "0") + reg("IntReg", "S", "4", "<pInvalidator>R</pInvalidator>"),
            "S # S R=1 S& S #", "0 r1w0 0 ok unknown 0 r1w1");
     addRow("what is selected",
@@ -46,6 +46,23 @@ void tst_Changes::caching_data()
                + reg("IntReg", "R", "0x10", "<pIndex Offset='4'>S</pIndex>")
                + node("Integer", "N", "<pValue>R</pValue>"),
            "N=7 S=1 # N N # S=0 N", "ok ok r1w2 0 0 r1w0 ok 7");
+    addRow("registers at one place share what was read",
+           reg("IntReg", "A", "0") + reg("IntReg", "B", "0") + reg("IntReg", "C", "0", "<Length>2</Length>"),
+           "A B # C # A=5 # B # B- B # A- C", "0 0 r1w0 0 r1w0 ok r0w1 0 r0w0 ok 5 r1w0 ok 0");
+    addRow("reading past the caches keeps nothing, but what a formula makes of it", cached("WriteThrough"),
+           "N N* N& R& # N # K K* K& R& #", "0 0 unknown unknown r2w0 0 r1w0 0 0 kept kept r1w0");
+    addRow("a refused write drops what was kept", cached("WriteThrough"), "N N=-1 N& R& N # N=x N&",
+           "0 !OutOfRange unknown kept 0 r1w0 !InvalidArgument kept");
+    addRow("a self-clearing entry is asked for as long as it is current",
+           reg("IntReg", "R", "0")
+               + node("Enumeration", "E",
+                      "<EnumEntry Name='Off'><Value>0</Value></EnumEntry><EnumEntry Name='On'><Value>1</Value>"
+                      "<IsSelfClearing>Yes</IsSelfClearing></EnumEntry><pValue>R</pValue>"),
+           "E E # E=On # E E # E&", "Off Off r1w0 ok r0w1 On On r2w0 kept");
+    addRow("a node that tells of errors is asked after checked writes",
+           reg("IntReg", "R", "0") + node("Integer", "N", "<pError>E</pError><pValue>R</pValue>")
+               + node("Enumeration", "E", "<EnumEntry Name='Bad'><Value>1</Value></EnumEntry><Value>0</Value>"),
+           "N=1 E=Bad N=2 R N:=3 R ^", "ok ok !Runtime 2 ok 3 E,N,N,N,R,R");
     addRow("conditions are cached as well",
            reg("IntReg", "R", "0") + node("Integer", "N", "<Value>1</Value><pIsLocked>R</pIsLocked>"),
            "N? N? # R=1 N? N=1 #", "RW RW r1w0 ok RO !Access r0w1");
@@ -71,10 +88,10 @@ void tst_Changes::callbacks_data()
                       "Index='1'>B</pValueIndexed>")
                + node("Integer", "M", "<pValue>A</pValue><pValueCopy>B</pValueCopy>"),
            "N=1 ^ M=2 ^ I=1 N ^", "ok A,B,M,N ok A,B,M,N ok 2 I,N");
-    addRow("half a write is told",
+    addRow("a refused write is not told",
            reg("IntReg", "A", "0") + reg("IntReg", "B", "0", "<AccessMode>RO</AccessMode>")
                + node("Integer", "N", "<pValue>A</pValue><pValueCopy>B</pValueCopy>"),
-           "N=3 A ^", "!Access 3 A,N");
+           "N=3 A ^", "!Access 0 ");
 }
 
 void tst_Changes::polling_data()
@@ -85,11 +102,17 @@ void tst_Changes::polling_data()
         + reg("IntReg", "Slow", "4", "<PollingTime>1000</PollingTime>");
     addRow("when the time has come", polled, "N # @99 ^ @1 ^ N # @50 @50 ^ @99 ^",
            "0 r1w0 ok  ok N,R 0 r1w0 ok ok N,R ok ");
+    addRow("enumerations and commands that are not given are not polled",
+           reg("IntReg", "R", "0")
+               + node("Enumeration", "E",
+                      "<EnumEntry Name='A'><Value>0</Value></EnumEntry><pValue>R</pValue><PollingTime>10</PollingTime>")
+               + node("Command", "C", "<pValue>R</pValue><CommandValue>1</CommandValue><PollingTime>10</PollingTime>"),
+           "@10 ^ C! ^ @9 ^ @1 ^", "ok  ok C,E,R ok  ok C");
     addRow("each at its own pace", polled, "@950 ^ @50 ^", "ok N,R ok Slow");
     addRow("time does not run backwards, nor over", polled, "@-500 @9223372036854775807 ^ @99 @9223372036854775807 ^",
            "ok ok N,R,Slow ok ok N,R,Slow");
     addRow("blocked, and due as soon as it is not", polled, "B=1 ^ @100 ^ @100 ^ B=0 ^ @1 ^ @99 ^",
-           "ok B ok  ok  ok B ok N,R ok ");
+           "ok B,N,R ok  ok  ok B,N,R ok N,R ok ");
     addRow("a register not to be read does not end polling",
            reg("IntReg", "A", "0", "<PollingTime>1</PollingTime><pBlockPolling>Bad</pBlockPolling>")
                + reg("IntReg", "Bad", "0", "<Length>0</Length>")
@@ -104,8 +127,9 @@ void tst_Changes::commands_data()
         + node("Command", "C", "<pValue>R</pValue><pCommandValue>V</pCommandValue>")
         + node("Integer", "V", "<Value>3</Value>");
     addRow("done when the device has taken the value back", command, "C! ^ R C. ^ R=0 ^ C. ^ C. ^",
-           "ok C,R 3 running  ok C,R done C done ");
-    addRow("written as text", command, "C=anything R C.", "ok 3 running");
+           "ok C,R 3 running  ok C,R done C,R done ");
+    addRow("written as text", command, "C C=anything C=0 R C=1 R C C.",
+           "0 !InvalidArgument !InvalidArgument 0 ok 3 1 running");
     addRow("nothing to read back",
            reg("IntReg", "R", "0", "<AccessMode>WO</AccessMode>")
                + node("Command", "C", "<pValue>R</pValue><CommandValue>3</CommandValue>"),
@@ -123,10 +147,11 @@ void tst_Changes::noticesWhatTheDeviceChanged()
     };
     QCOMPARE(session.run("K"), QByteArray("0"));
     set(4);
-    // What was computed from the old bytes goes with them, whoever reads the new ones.
-    QCOMPARE(session.run("K R* K C."), QByteArray("0 4 8 running"));
+    // Who asks past the caches sees it, and only who asks so.
+    QCOMPARE(session.run("K R* K K* K"), QByteArray("0 4 0 8 8"));
+    QCOMPARE(session.run("C! C."), QByteArray("ok running"));
     set(0);
-    QCOMPARE(session.run("R C."), QByteArray("4 done")); // whether a command is done only the device can tell
+    QCOMPARE(session.run("R C. R K"), QByteArray("4 done 0 0")); // whether a command is done only the device can tell
 }
 
 ORV_PLAIN_TEST_MAIN(tst_Changes)

@@ -88,7 +88,7 @@ void tst_Values::addresses_data()
            "N? N N=1 M O", "RW !Property !Property 4244504319 !Property"); // M: 0xFCFDFEFF
     addRow("no length",
            reg("Register", "N", "0", "<Length>0</Length>") + reg("StringReg", "S", "0", "<Length>-1</Length>"),
-           "N N=0x S S=x", "!Property !Property !Property !Property");
+           "N N=0x00 S S=x", "!Property !Property !Property !Property");
 }
 
 void tst_Values::numbers_data()
@@ -106,6 +106,9 @@ void tst_Values::numbers_data()
     addRow("the widest increment",
            node("Integer", "N", "<Value>0</Value><Min>-9223372036854775808</Min><Inc>0x7FFFFFFFFFFFFFFF</Inc>"),
            "N=-1 N=9223372036854775806 N=0", "ok ok !OutOfRange");
+    addRow("a float over an integer takes its steps", source + node("Float", "N", "<pValue>S</pValue>"),
+           "N=9.4 S N=12.9 S", "ok 7 ok 13");
+    addRow("an increment of 0", node("Integer", "N", "<Value>0</Value><Inc>0</Inc>"), "N=1 N:=1", "!LogicalError ok");
     addRow("index",
            source + node("Integer", "I", "<Value>0</Value>")
                + node("Integer", "N",
@@ -117,24 +120,25 @@ void tst_Values::numbers_data()
                + node("Integer", "N", "<pIndex>I</pIndex><ValueIndexed Index='0'>10</ValueIndexed>"),
            "N? I=1 N? N N=1 N:=1 N: N&", "RW ok NA !Access !Access !Access !Access unknown");
     addRow("copies",
-           source + reg("IntReg", "R", "0") + node("Integer", "N", "<pValue>S</pValue><pValueCopy>R</pValueCopy>"),
-           "N=10 S R N=11 R", "ok 10 10 !OutOfRange 10");
+           half + reg("IntReg", "R", "0") + node("Integer", "N", "<pValue>H</pValue><pValueCopy>R</pValueCopy>"),
+           "N=8 H R N=10 N:", "ok 8 8 !OutOfRange 8 0..9/1");
     addRow("integer over float", half + node("Integer", "N", "<pValue>H</pValue>"), "N: N=-3 H N=9 N=10",
            "3 -4..9/1 ok -3 ok !OutOfRange");
-    addRow("float over integer", source + node("Float", "N", "<pValue>S</pValue><Max>50.5</Max>"), "N: N=10 S N=11",
-           "7 -8..50.5/3 ok 10 !OutOfRange");
+    addRow("float over integer", source + node("Float", "N", "<pValue>S</pValue><Max>50.5</Max>"),
+           "N: N=11.9 S N=-8 S N=51", "7 -8..50.5/3 ok 10 ok -8 !OutOfRange");
     addRow("float grid", node("Float", "N", "<Value>0</Value><Min>-1</Min><Max>1</Max><Inc>0.1</Inc>"),
-           "N: N=0.3 N=0.35 N=nan N=inf", "0 -1..1/0.1 ok !OutOfRange !OutOfRange !OutOfRange");
+           "N: N=0.3 N=0.35 N=1.1 N=nan N=inf", "0 -1..1/0.1 ok ok !OutOfRange !InvalidArgument !InvalidArgument");
     const QByteArray mode = node("Enumeration", "E",
                                  "<EnumEntry Name='Low'><Value>1</Value><NumericValue>0.5</NumericValue></EnumEntry>"
                                  "<EnumEntry Name='High'><Value>4</Value></EnumEntry><pValue>R</pValue>")
         + reg("IntReg", "R", "0");
     addRow("float over enumeration", mode + node("Float", "N", "<pValue>E</pValue><Min>0</Min><Max>9</Max>"),
-           "R=1 N: R=4 N N=0.5 E R N=4 E N=2", "ok 0.5 0..9 ok 4 ok Low 1 ok High !InvalidArgument");
+           "R=1 N: R=4 N N=0.5 E R N=4 E N=2 E R=3 N", "ok 0.5 0..9 ok 4 ok Low 1 ok High ok Low ok !LogicalError");
     addRow("boolean over enumeration",
            mode + node("Boolean", "B", "<pValue>E</pValue><OnValue>4</OnValue><OffValue>1</OffValue>")
                + node("Integer", "N", "<pValue>B</pValue>"),
-           "B R=1 B B=true R B=0 E N: N=1 E N=2", "!LogicalError ok 0 ok 4 ok Low 0 0..1/1 ok High !OutOfRange");
+           "B R=1 B R=4 B B=0 E N: N=1 E N=2",
+           "!LogicalError ok 0 ok 1 ok Low 0 -9223372036854775808..9223372036854775807/1 ok High ok");
 }
 
 void tst_Values::lists_data()
@@ -143,18 +147,18 @@ void tst_Values::lists_data()
     const QByteArray list = node("Integer", "L",
                                  "<Value>8</Value><Min>1</Min><Max>64</Max>"
                                  "<ValidValueSet>64; 0x10;1;2;8;128;-4</ValidValueSet>");
-    const auto converter = [](const char *kind, const char *to, const char *from) {
+    const auto converter = [](const char *kind, const char *to, const char *from, const char *slope = "Automatic") {
         return node(kind, "C",
                     QByteArray("<FormulaTo>") + to + "</FormulaTo><FormulaFrom>" + from
-                        + "</FormulaFrom><pValue>L</pValue>");
+                        + "</FormulaFrom><pValue>L</pValue><Slope>" + slope + "</Slope>");
     };
     addRow("integer", list, "L: L=3 L=128", "8 1..64{1,2,8,16,64} ok !OutOfRange");
-    addRow("an increment hides the list", list + node("Integer", "N", "<pValue>L</pValue><Inc>2</Inc>"),
-           "N:", "8 1..64/2");
+    addRow("an increment is checked beside the list", list + node("Integer", "N", "<pValue>L</pValue><Inc>2</Inc>"),
+           "N: N=4 N=5", "8 1..64{1,2,8,16,64} !OutOfRange ok");
     addRow("float", list + node("Float", "N", "<pValue>L</pValue><Min>1.5</Min>"), "N:", "8 1.5..64{2,8,16,64}");
     addRow("converter", list + converter("Converter", "FROM * 2", "TO / 2"), "C: C=1 L",
            "4 0.5..32{0.5,1,4,8,32} ok 2");
-    addRow("converter that turns the order", list + converter("IntConverter", "-FROM", "-TO"),
+    addRow("converter that turns the order", list + converter("IntConverter", "-FROM", "-TO", "Decreasing"),
            "C:", "-8 -64..-1{-64,-16,-8,-2,-1}");
     addRow("empty", node("Integer", "L", "<Value>8</Value><ValidValueSet> ; </ValidValueSet>"),
            "L:", "8 -9223372036854775808..9223372036854775807{}");
@@ -177,16 +181,33 @@ void tst_Values::formulas_data()
                       "Name='M.Enum.On'>E</pVariable><Formula>M.Enum.On + V.Max*100 + V.Min*10 + V.Inc - V</Formula>"),
            "K A=2 K K? K=1", "3015 ok 3021 RO !Access");
     addRow("slope found out", a + converter(""), "C: C=20 A C=1.9", "5 2..20 ok 2 !OutOfRange");
-    addRow("slope given wrong is believed", a + converter("<Slope>Increasing</Slope>"), "C:", "5 20..2");
+    addRow("slope given wrong is believed", a + converter("<Slope>Increasing</Slope>"), "C:", "4.5 20..2");
     addRow("varying slope has no limits",
-           a + converter("<Slope>Varying</Slope>") + node("Integer", "N", "<pValue>C</pValue>"), "N: C=1",
-           "5 -9223372036854775808..9223372036854775807/1 !OutOfRange");
+           a + converter("<Slope>Varying</Slope>") + node("Integer", "N", "<pValue>C</pValue>"), "N N: C=1",
+           "5 !Runtime !OutOfRange");
     addRow("exact beyond 53 bits",
            node("Integer", "B", "<Value>0x7FFFFFFFFFFFFFFE</Value>")
                + node("IntConverter", "C",
                       "<FormulaTo>FROM - 1</FormulaTo><FormulaFrom>TO + 1</FormulaFrom><pValue>B</pValue>"
                       "<Slope>Increasing</Slope>"),
            "C C:=-9223372036854775807 B", "9223372036854775807 ok -9223372036854775808");
+    addRow("a formula that cannot be parsed fails when it is asked",
+           node("IntSwissKnife", "K", "<Formula>1 +</Formula>") + node("Integer", "N", "<pValue>K</pValue>")
+               + node("Integer", "M", "<Value>1</Value>"),
+           "K? K N N: M", "RO !LogicalError !LogicalError !LogicalError 1");
+    addRow("every variable is read",
+           node("Integer", "Z", "<Value>0</Value>")
+               + node("IntSwissKnife", "Bad", "<pVariable Name='Z'>Z</pVariable><Formula>1 / Z</Formula>")
+               + node("IntSwissKnife", "K", "<pVariable Name='A'>Bad</pVariable><Formula>7</Formula>"),
+           "K Z=1 K", "!LogicalError ok 7");
+    addRow(
+        "an integer converter without a slope has no room",
+        node("Integer", "A", "<Value>3</Value>")
+            + node("IntConverter", "C", "<FormulaTo>FROM</FormulaTo><FormulaFrom>TO</FormulaFrom><pValue>A</pValue>"),
+        "C: C=1", "3 0..0/1 !OutOfRange");
+    addRow("checks go down to what a value is made of",
+           node("Integer", "A", "<Value>9</Value><Max>5</Max>") + reg("IntReg", "R", "0", "<pAddress>A</pAddress>"),
+           "R R=1 R:=1", "0 !OutOfRange ok");
     addRow("division by zero",
            node("Integer", "Z", "<Value>0</Value>")
                + node("IntSwissKnife", "K", "<pVariable Name='Z'>Z</pVariable><Formula>1 / Z</Formula>")
@@ -201,11 +222,12 @@ void tst_Values::texts_data()
         return node("Integer", "N",
                     QByteArray("<Value>10</Value><Representation>") + representation + "</Representation>");
     };
-    addRow("decimal", integer("PureNumber"), "N=0x1F N N=-7 N N=1.5 N= N=9223372036854775808",
-           "ok 31 ok -7 !InvalidArgument !InvalidArgument !InvalidArgument");
-    addRow("hexadecimal", integer("HexNumber"), "N N=255 N N=-1 N", "0xa ok 0xff ok 0xffffffffffffffff");
-    addRow("IPv4", integer("IPV4Address"), "N N=192.168.0.254 N N=256.0.0.1 N=1.2.3 N=7 N",
-           "0.0.0.10 ok 192.168.0.254 !InvalidArgument !InvalidArgument ok 0.0.0.7");
+    addRow("decimal", integer("PureNumber"), "N=0x1F N N=-7 N N=1.5 N N= N=x N=9223372036854775808 N N=0xg",
+           "ok 31 ok -7 ok 1 !InvalidArgument !InvalidArgument ok 9223372036854775807 !InvalidArgument");
+    addRow("hexadecimal", integer("HexNumber"), "N N=255 N N=-1 N N=0 N", "0xa ok 0xff ok 0xffffffffffffffff ok 0");
+    addRow("IPv4", integer("IPV4Address"), "N N=192.168.0.254 N N=256.0.0.1 N=1.2.3 N=7",
+           "0.0.0.10 ok 192.168.0.254 !InvalidArgument !InvalidArgument !InvalidArgument");
+    addRow("truth", integer("Boolean"), "N N=false N N=1", "true ok false !InvalidArgument");
     addRow("MAC", integer("MACAddress"), "N N=00:11:1c:FF:01:02 N N=0:1 N",
            "00:00:00:00:00:0a ok 00:11:1c:ff:01:02 !InvalidArgument 00:11:1c:ff:01:02");
     addRow(
@@ -216,9 +238,15 @@ void tst_Values::texts_data()
             + node("Float", "S",
                    "<pValue>A</pValue><DisplayNotation>Scientific</DisplayNotation><DisplayPrecision>1</"
                    "DisplayPrecision>"),
-        "A F S F=1e-3 F A=x A=1,5", "1234.57 1234.57 1.2e+03 ok 0.00 !InvalidArgument !InvalidArgument");
-    addRow("boolean", node("Boolean", "B", "<Value>true</Value>"), "B B=false B B=1 B B=yes",
-           "1 ok 0 ok 1 !InvalidArgument");
+        "A F S F=1e-3 F A=x A=1,5 A A=1e A=0x10 A",
+        "1234.57 1234.57 1.2e+03 ok 0.00 !InvalidArgument ok 1 !InvalidArgument ok 0");
+    addRow("a rounded text is within the limits",
+           node("Float", "N",
+                "<Value>1</Value><Min>0.123456789</Min><Max>12345.678901</Max><DisplayNotation>Fixed</DisplayNotation>"
+                "<DisplayPrecision>2</DisplayPrecision>"),
+           "N=0.123456789 N N=12345.678901 N", "ok 0.13 ok 12345.67");
+    addRow("boolean", node("Boolean", "B", "<Value>true</Value>"), "B B=false B B=1.5 B B=True B=2",
+           "1 ok 0 ok 1 !InvalidArgument !InvalidArgument");
     addRow("enumeration",
            node("Enumeration", "E",
                 "<EnumEntry Name='Old'><Value>1</Value></EnumEntry><EnumEntry Name='New'>"
@@ -228,8 +256,8 @@ void tst_Values::texts_data()
     const QByteArray text =
         reg("StringReg", "S", "0") + reg("Register", "R", "0") + node("String", "T", "<pValue>S</pValue>");
     addRow("string register", text, "S=ab S R T=wxyz R* S=vwxyz T", "ok ab 0x61620000 ok 0x7778797a !OutOfRange wxyz");
-    addRow("register", text, "R=0x41004243 R S R=41 R=0x4100424g R=0x4100424344",
-           "ok 0x41004243 A !InvalidArgument !InvalidArgument !InvalidArgument");
+    addRow("register", text, "R=0x41004243 R S R=58 R R=zz R=0x410 R=0x4100424344 R",
+           "ok 0x41004243 A ok 0x58004243 !InvalidArgument !InvalidArgument ok 0x41004243");
 }
 
 ORV_PLAIN_TEST_MAIN(tst_Values)

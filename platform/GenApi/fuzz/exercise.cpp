@@ -4,6 +4,7 @@
 #include <OrvGenApi/nodemap.h>
 
 #include <algorithm>
+#include <functional>
 #include <map>
 
 namespace OrvGenApi::fuzz {
@@ -195,7 +196,9 @@ void exerciseDescription(std::string_view description)
         forEach(readNode);
         std::size_t fired = 0;
         std::vector<CallbackHandleType> handles;
-        forEach([&](INode *node) { handles.push_back(Register(node, [&fired](INode *) { ++fired; })); });
+        forEach([&](INode *node) {
+            handles.push_back(Register(node, std::function<void(INode *)>([&fired](INode *) { ++fired; })));
+        });
         map->Poll(1000);
         forEach([](INode *node) { writeNode(node, true); });
         for (std::size_t i = 0; i < handles.size(); i += 2)

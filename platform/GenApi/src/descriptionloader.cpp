@@ -136,20 +136,86 @@ void DescriptionLoader::finish()
     markFeatures();
     for (const std::unique_ptr<Node> &node : m_map.m_nodes) {
         node->m_dependents.shrink_to_fit();
-        if (node->m_pollingTime <= 0)
-            continue;
-        const auto blocker = m_pollBlockers.find(node.get());
-        m_map.m_polled.push_back({node.get(), blocker != m_pollBlockers.end() ? blocker->second : nullptr});
+        if (node->m_pollingTime > 0)
+            m_map.m_polled.push_back({node.get(), node->m_blocksPolling});
     }
     m_map.m_nodes.shrink_to_fit();
 }
 
+/**
+ * Nothing can be read that is made of itself, so circles are refused. How selections and the entries of enumerations
+ * hang together is not looked at here: a choice may well depend on what it chooses.
+ */
 void DescriptionLoader::checkLinks()
 {
-    // Links are followed by recursion when values are read, so they must not be circular, nor too deep for a stack.
-    constexpr uint32_t deepest = 300;
     const auto leadsOn = [](const Edge &edge) { return edge.use != Use::Notice; };
     m_edges.erase(std::stable_partition(m_edges.begin(), m_edges.end(), leadsOn), m_edges.end());
+    walkEdges("the links go round in a circle: ", [this](const Edge &edge) {
+        Node &node = *m_map.m_nodes[edge.from];
+        const ECachingMode mode = m_map.m_nodes[edge.to]->cachingMode();
+        // What a formula is made of decides whether its result can be kept, but it is never written itself.
+        if (edge.use == Use::Value || (edge.use == Use::Variable && mode == NoCache))
+            node.setCachingMode(combined(node.cachingMode(), mode));
+    });
+    const std::vector<Edge> readEdges = std::move(m_edges);
+    m_edges.clear();
+    for (const std::unique_ptr<Node> &node : m_map.m_nodes) {
+        if (!node->m_selectorLinks)
+            continue;
+        for (const Node *selected : node->m_selectorLinks->selected)
+            m_edges.push_back({node->m_index, selected->m_index, Use::Notice});
+    }
+    walkEdges("the selectors go round in a circle: ", [](const Edge &) {});
+    m_edges = readEdges;
+    spreadSelections();
+}
+
+/** What reads a selected node, for its value, a limit or a condition, is selected as well. */
+void DescriptionLoader::spreadSelections()
+{
+    std::vector<std::vector<uint32_t>> readers;
+    std::vector<std::pair<Node *, std::vector<Node *>>> found;
+    std::vector<const Node *> seenBy(m_map.m_nodes.size());
+    std::size_t left = 20 * m_map.m_nodes.size(); // a description that is made to be hard must not grow without end
+    for (const std::unique_ptr<Node> &node : m_map.m_nodes) {
+        if (!node->m_selectorLinks || node->m_selectorLinks->selected.empty())
+            continue;
+        if (readers.empty()) {
+            readers.resize(m_map.m_nodes.size());
+            for (const Edge &edge : m_edges)
+                readers[edge.to].push_back(edge.from);
+        }
+        std::vector<Node *> open = node->m_selectorLinks->selected;
+        for (const Node *each : open)
+            seenBy[each->m_index] = node.get();
+        for (std::size_t i = 0; i < open.size() && left > 0; ++i) {
+            for (const uint32_t reader : readers[open[i]->m_index]) {
+                const std::vector<Node *> own = m_map.m_nodes[reader]->m_selectorLinks
+                    ? m_map.m_nodes[reader]->m_selectorLinks->selected
+                    : std::vector<Node *>();
+                if (std::find(own.begin(), own.end(), node.get()) != own.end())
+                    continue; // it selects the selector
+                if (seenBy[reader] == node.get() || !m_map.m_nodes[reader]->asValue()
+                    || m_map.m_nodes[reader]->interfaceType() == intfICategory)
+                    continue;
+                seenBy[reader] = node.get();
+                open.push_back(m_map.m_nodes[reader].get());
+                left -= std::min<std::size_t>(left, 1);
+            }
+        }
+        open.erase(open.begin(), open.begin() + static_cast<std::ptrdiff_t>(node->m_selectorLinks->selected.size()));
+        found.emplace_back(node.get(), std::move(open));
+    }
+    for (const auto &[selector, features] : found) {
+        for (Node *feature : features)
+            selector->linkSelected(*feature);
+    }
+}
+
+/** Visits all edges, those of a node after those of the nodes they lead to. */
+template <typename Visit>
+void DescriptionLoader::walkEdges(const char *circle, const Visit &visit)
+{
     std::stable_sort(m_edges.begin(), m_edges.end(), [](const Edge &a, const Edge &b) { return a.from < b.from; });
     const std::size_t count = m_map.m_nodes.size();
     std::vector<std::size_t> first(count + 1, 0);
@@ -160,7 +226,6 @@ void DescriptionLoader::checkLinks()
 
     enum : uint8_t { New, Open, Done };
     std::vector<uint8_t> state(count, New);
-    std::vector<uint32_t> depth(count, 1);
     std::vector<std::size_t> next(first.begin(), first.end() - 1);
     std::vector<uint32_t> path;
     for (uint32_t start = 0; start < count; ++start) {
@@ -170,37 +235,29 @@ void DescriptionLoader::checkLinks()
         state[start] = Open;
         while (!path.empty()) {
             const uint32_t at = path.back();
-            Node &node = *m_map.m_nodes[at];
             if (next[at] < first[at + 1]) {
                 const uint32_t to = m_edges[next[at]++].to;
                 if (state[to] == Open)
-                    failCircle(path, to);
+                    failCircle(circle, path, to);
                 if (state[to] == New) {
                     state[to] = Open;
                     path.push_back(to);
                 }
                 continue;
             }
-            for (std::size_t i = first[at]; i < first[at + 1]; ++i) {
-                const Node &child = *m_map.m_nodes[m_edges[i].to];
-                depth[at] = std::max(depth[at], depth[child.m_index] + 1);
-                if (m_edges[i].use == Use::Value)
-                    node.setCachingMode(combined(node.cachingMode(), child.cachingMode()));
-            }
-            if (depth[at] > deepest)
-                fail(m_sources[at].element, std::string("the links of node '") + node.name() + "' lead too deep");
+            for (std::size_t i = first[at]; i < first[at + 1]; ++i)
+                visit(m_edges[i]);
             state[at] = Done;
             path.pop_back();
         }
     }
 }
 
-void DescriptionLoader::failCircle(const std::vector<uint32_t> &path, uint32_t first) const
+void DescriptionLoader::failCircle(std::string circle, const std::vector<uint32_t> &path, uint32_t first) const
 {
-    std::string circle;
     for (auto at = std::find(path.begin(), path.end(), first); at != path.end(); ++at)
         circle += std::string(m_map.m_nodes[*at]->name()) + " -> ";
-    fail(m_sources[first].element, "the links go round in a circle: " + circle + m_map.m_nodes[first]->name());
+    fail(m_sources[first].element, circle + m_map.m_nodes[first]->name());
 }
 
 void DescriptionLoader::markFeatures()

@@ -26,7 +26,8 @@ private:
 
     /** What a link means for the node that has it. */
     enum class Use : uint8_t {
-        Value, ///< its value is made of the other node's
+        Value, ///< its value is the other node's, or found with its help
+        Variable, ///< its value is computed from the other node's
         Condition, ///< it reads the other node
         Notice ///< it changes with the other node
     };
@@ -110,12 +111,15 @@ private:
     // When all nodes are read
     void finish();
     void checkLinks();
+    void spreadSelections();
+    template <typename Visit>
+    void walkEdges(const char *circle, const Visit &visit);
     void markFeatures();
     void deriveCategories();
 
     [[noreturn]] void fail(const Element &element, const std::string &what) const;
     [[noreturn]] void failAt(std::ptrdiff_t offset, const std::string &what) const;
-    [[noreturn]] void failCircle(const std::vector<uint32_t> &path, uint32_t first) const;
+    [[noreturn]] void failCircle(std::string circle, const std::vector<uint32_t> &path, uint32_t first) const;
 
     NodeMapImpl &m_map;
     std::string m_xml;
@@ -124,7 +128,6 @@ private:
     pugi::xml_document m_document;
     std::vector<Source> m_sources;
     std::vector<Edge> m_edges;
-    std::unordered_map<const Node *, Node *> m_pollBlockers;
     std::deque<std::string> m_joinedTexts; ///< texts that a comment divides in the description
 };
 

@@ -195,10 +195,19 @@ bool DescriptionLoader::readCommon(Node &node, const Element &property)
     else if (is(property, "pIsLocked"))
         node.m_isLocked = linkNumber(node, property, Use::Condition);
     else if (is(property, "pBlockPolling")) {
-        // No dependency: whether a value is polled says nothing about the value.
-        Node *const blocker = m_map.find(trimmed(text));
-        if (blocker && blocker->isNumber())
-            m_pollBlockers[&node] = blocker;
+        node.m_blocksPolling = linkNumber(node, property, Use::Condition);
+    } else if (is(property, "DocuURL"))
+        m_map.m_extras[&node].docuUrl = m_map.keep(text);
+    else if (is(property, "EventID"))
+        m_map.m_extras[&node].eventId = m_map.keep(text);
+    else if (is(property, "IsDeprecated"))
+        m_map.m_extras[&node].isDeprecated = isYes(property);
+    else if (is(property, "pAlias"))
+        m_map.m_extras[&node].alias = m_map.find(trimmed(text));
+    else if (is(property, "pCastAlias"))
+        m_map.m_extras[&node].castAlias = m_map.find(trimmed(text));
+    else if (is(property, "pError")) {
+        node.m_error = linkNumber(node, property, Use::Condition);
     } else if (is(property, "pInvalidator"))
         link(node, property, Use::Notice);
     else if (is(property, "pSelected")) {
@@ -230,20 +239,20 @@ bool DescriptionLoader::readRegister(Node &node, RegisterData &data, const Eleme
     if (is(property, "Address")) {
         data.m_addressTerms.emplace_back().value.setConstant(integer(property));
     } else if (is(property, "pAddress")) {
-        linkNumber(data.m_addressTerms.emplace_back().value, node, property, Use::Condition);
+        linkNumber(data.m_addressTerms.emplace_back().value, node, property, Use::Value);
     } else if (is(property, "IntSwissKnife")) {
         readAddressKnife(node, data, property);
     } else if (is(property, "pIndex")) {
         RegisterData::AddressTerm &term = data.m_addressTerms.emplace_back();
         term.isIndex = true;
-        linkNumber(term.value, node, property, Use::Condition);
+        linkNumber(term.value, node, property, Use::Value);
         if (const pugi::xml_attribute offset = property.attribute("Offset")) {
             const std::optional<int64_t> value = parseInteger(std::string_view(offset.value()));
             if (!value)
                 fail(property, std::string("Offset: '") + offset.value() + "' is no integer");
             term.offset.setConstant(*value);
         } else if (const pugi::xml_attribute offsetNode = property.attribute("pOffset")) {
-            Node *const target = linkTo(node, property, offsetNode.value(), Use::Condition);
+            Node *const target = linkTo(node, property, offsetNode.value(), Use::Value);
             if (target && target->isNumber())
                 term.offset.setNode(target);
             else if (target)
@@ -277,7 +286,7 @@ void DescriptionLoader::readAddressKnife(Node &node, RegisterData &data, const E
         name = std::string(node.name()) + "_Address" + std::to_string(number);
     SwissKnifeNode<IntegerFormulaBase> &knife = createKnife(element, name); // read in its turn
     knife.addDependent(node);
-    m_edges.push_back({node.m_index, knife.m_index, Use::Condition});
+    m_edges.push_back({node.m_index, knife.m_index, Use::Value});
     data.m_addressTerms.emplace_back().value.setNode(&knife);
 }
 
@@ -305,8 +314,11 @@ bool DescriptionLoader::readSource(NumberSource<Number> &source, Node &node, con
     else if (is(property, "pValue"))
         linkNumber(source.m_value, node, property, Use::Value);
     else if (is(property, "pValueCopy")) {
-        if (Node *const copy = linkNumber(node, property, Use::Condition))
-            source.m_copies.push_back(copy);
+        if (Node *const copy = linkNumber(node, property, Use::Value)) {
+            if (!source.m_copies)
+                source.m_copies = std::make_unique<typename NumberSource<Number>::Copies>();
+            source.m_copies->nodes.push_back(copy);
+        }
     } else if (is(property, "pIndex"))
         source.indexed().index = linkNumber(node, property, Use::Value);
     else if (is(property, "ValueIndexed"))
@@ -420,7 +432,7 @@ void DescriptionLoader::readFloatRegister(FloatRegisterNode &node, const Element
         if (!readCommon(node, property) && !readPresentation(node.m_presentation, property))
             readRegister(node, node.m_register, property);
     }
-    node.setCachingMode(combined(WriteAround, node.m_register.m_cachable));
+    node.setCachingMode(element.child("Cachable") ? node.m_register.m_cachable : WriteAround);
 }
 
 template <typename T>
@@ -469,7 +481,7 @@ void DescriptionLoader::readVariable(Node &node, std::vector<FormulaVariable> &v
         if (variable.property == Property::Entry)
             variable.entry = m_map.keep(suffix.substr(std::min(end + 1, suffix.size())));
     }
-    variable.node = linkNumber(node, property, Use::Value);
+    variable.node = linkNumber(node, property, Use::Variable);
 }
 
 Formula DescriptionLoader::formula(const Element &property, FormulaScope scope, const char *converted,
@@ -480,7 +492,8 @@ Formula DescriptionLoader::formula(const Element &property, FormulaScope scope, 
     try {
         return Formula::parse(textOf(property), scope, kind);
     } catch (const FormulaError &error) {
-        fail(property, std::string(property.name()) + ": " + error.message);
+        // A concern of the node that has the formula, and of those who ask it.
+        return Formula::unusable(std::string(property.name()) + ": " + error.message);
     }
 }
 
@@ -560,6 +573,10 @@ void DescriptionLoader::readBoolean(BooleanNode &node, const Element &element)
         else if (is(property, "OffValue"))
             node.m_offValue = integer(property);
     }
+    if (node.m_value.isSet() && !node.m_value.node()) // is kept as a truth value
+        node.m_value.setConstant(node.m_value.constant() != 0 && node.m_value.constant() == node.m_onValue);
+    if (node.m_onValue == node.m_offValue)
+        fail(element, std::string("boolean '") + node.name() + "' has the same on and off value");
     if (!node.m_value.isSet() && !node.isBroken())
         node.setBroken("it has no value");
 }
@@ -596,8 +613,10 @@ void DescriptionLoader::readEnumeration(EnumerationNode &node, const Element &el
     for (std::size_t i = node.m_index + 1; i < m_sources.size() && m_sources[i].element.parent() == element; ++i) {
         const auto entry = static_cast<EnumEntryNode *>(m_sources[i].node);
         node.m_entries.push_back(entry);
+        if (isYes(m_sources[i].element.child("IsSelfClearing")))
+            node.m_hasSelfClearing = true;
         entry->addDependent(node);
-        m_edges.push_back({node.m_index, entry->m_index, Use::Condition});
+        m_edges.push_back({node.m_index, entry->m_index, Use::Notice}); // what an entry hangs on may hang on the choice
     }
     node.m_entries.shrink_to_fit();
     if (!node.m_value.isSet() && !node.isBroken())
@@ -631,7 +650,7 @@ void DescriptionLoader::readCategory(CategoryNode &node, const Element &element)
             continue;
         // A feature that does not exist, or a port, is left out; the others stay.
         Node *const feature = m_map.find(trimmed(textOf(property)));
-        if (!feature || !feature->asValue())
+        if (!feature || feature->interfaceType() == intfIPort)
             continue;
         feature->addDependent(node);
         node.m_features.push_back(feature);
@@ -648,8 +667,12 @@ void DescriptionLoader::readPlain(PlainNode &node, const Element &element)
 void DescriptionLoader::readPort(PortNode &node, const Element &element)
 {
     for (const Element &property : element.children()) {
-        if (!readCommon(node, property) && is(property, "SwapEndianess"))
+        if (readCommon(node, property))
+            continue;
+        if (is(property, "SwapEndianess"))
             node.m_swapEndianness = isYes(property);
+        else if (is(property, "ChunkID") || is(property, "pChunkID"))
+            node.m_isChunk = true;
     }
 }
 

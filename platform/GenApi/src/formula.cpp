@@ -6,6 +6,7 @@
 #include <array>
 #include <charconv>
 #include <cstring>
+#include <limits>
 
 namespace OrvGenApi {
 
@@ -21,22 +22,23 @@ struct BinaryOperator
     uint8_t precedence;
 };
 
-constexpr unsigned PrecedenceCount = 10;
+constexpr unsigned PrecedenceCount = 4;
 
-// The tightest is 10; ** binds tighter still. The longer of two operators with the same start stands first.
+// The tightest is 4. The longer of two operators with the same start stands first.
 constexpr BinaryOperator binaryOperators[] = {
-    {"||", Op::JumpIfTrue, 1}, {"&&", Op::JumpIfFalse, 2}, {"|", Op::Or, 3},
-    {"^", Op::Xor, 4},         {"&", Op::And, 5},          {"=", Op::Equal, 6},
-    {"<>", Op::NotEqual, 6},   {"<=", Op::LessOrEqual, 7}, {">=", Op::GreaterOrEqual, 7},
-    {"<<", Op::ShiftLeft, 8},  {">>", Op::ShiftRight, 8},  {"<", Op::Less, 7},
-    {">", Op::Greater, 7},     {"+", Op::Add, 9},          {"-", Op::Subtract, 9},
-    {"*", Op::Multiply, 10},   {"/", Op::Divide, 10},      {"%", Op::Modulo, 10}};
+    {"||", Op::LogicalOr, 1}, {"&&", Op::LogicalAnd, 1},  {"|", Op::Or, 4},
+    {"^", Op::Xor, 4},        {"&", Op::And, 4},          {"=", Op::Equal, 1},
+    {"<>", Op::NotEqual, 1},  {"<=", Op::LessOrEqual, 1}, {">=", Op::GreaterOrEqual, 1},
+    {"<<", Op::ShiftLeft, 4}, {">>", Op::ShiftRight, 4},  {"<", Op::Less, 1},
+    {">", Op::Greater, 1},    {"+", Op::Add, 2},          {"-", Op::Subtract, 2},
+    {"**", Op::Power, 4},     {"*", Op::Multiply, 3},     {"/", Op::Divide, 3},
+    {"%", Op::Modulo, 3}};
 
 constexpr std::pair<std::string_view, Op> functions[] = {
     {"SGN", Op::Sgn},     {"NEG", Op::Negate}, {"ABS", Op::Abs},     {"SQRT", Op::Sqrt}, {"ROUND", Op::Round},
     {"FLOOR", Op::Floor}, {"CEIL", Op::Ceil},  {"TRUNC", Op::Trunc}, {"SIN", Op::Sin},   {"COS", Op::Cos},
     {"TAN", Op::Tan},     {"ASIN", Op::Asin},  {"ACOS", Op::Acos},   {"ATAN", Op::Atan}, {"EXP", Op::Exp},
-    {"LN", Op::Ln},       {"LG", Op::Lg}};
+    {"LN", Op::Ln},       {"LG", Op::Lg},      {"FRAC", Op::Frac}};
 
 constexpr std::pair<std::string_view, double> numbers[] = {{"E", 2.71828182845904523536},
                                                            {"PI", 3.14159265358979323846}};
@@ -152,18 +154,10 @@ private:
         FormulaCompiler &m_compiler;
     };
 
-    /** A binary operator whose right side is being read. */
-    struct Pending
-    {
-        const BinaryOperator *op;
-        size_t jump; ///< of && and ||: the word that skips the right side
-    };
-
     using Definition = std::pair<std::string_view, std::string_view>;
 
     void conditional();
     void operators();
-    void power();
     void sign();
     void operand();
     void number();
@@ -183,10 +177,6 @@ private:
     size_t emit(Op op, uint32_t argument = 0);
     template <typename Value>
     void emitLiteral(Value value);
-    void finish(const Pending &pending);
-    uint32_t argument(size_t word) const { return m_program[word] >> ArgumentShift; }
-    void setArgument(size_t word, size_t value);
-    void jumpToEnd(size_t word) { setArgument(word, m_program.size()); }
 
     const FormulaScope &m_scope;
     Formula &m_formula;
@@ -215,60 +205,32 @@ void FormulaCompiler::compile(std::string_view text)
 void FormulaCompiler::conditional()
 {
     const Nesting nesting(*this);
-    size_t lastEnd = 0; // 0 is none: the jumps to the end wait as a list, each with the one before as its argument
+    size_t choices = 0;
     operators();
-    while (accept("?")) {
-        const size_t otherwise = emit(Op::JumpIfZero);
+    for (; accept("?"); ++choices) {
         conditional();
         expect(":");
-        lastEnd = emit(Op::Jump, static_cast<uint32_t>(lastEnd));
-        --m_stack;
-        jumpToEnd(otherwise);
         operators();
     }
-    while (lastEnd != 0) {
-        const size_t before = argument(lastEnd);
-        jumpToEnd(lastEnd);
-        lastEnd = before;
-    }
+    for (; choices > 0; --choices)
+        emit(Op::Select);
 }
 
 /** Operators wait until one that binds no tighter follows; those that wait bind tighter from one to the next. */
 void FormulaCompiler::operators()
 {
-    std::array<Pending, PrecedenceCount> pending;
+    std::array<const BinaryOperator *, PrecedenceCount> pending;
     size_t count = 0;
-    power();
+    sign();
     for (;;) {
         const BinaryOperator *next = acceptOperator();
-        while (count > 0 && (!next || pending[count - 1].op->precedence >= next->precedence))
-            finish(pending[--count]);
+        while (count > 0 && (!next || pending[count - 1]->precedence >= next->precedence))
+            emit(pending[--count]->op);
         if (!next)
             return;
-        const bool skips = next->op == Op::JumpIfFalse || next->op == Op::JumpIfTrue;
-        pending[count++] = {next, skips ? emit(next->op) : 0};
-        power();
+        pending[count++] = next;
+        sign();
     }
-}
-
-void FormulaCompiler::finish(const Pending &pending)
-{
-    if (pending.jump == 0) { // no jump is the first word: it follows what it tests
-        emit(pending.op->op);
-    } else {
-        emit(Op::ToBool);
-        jumpToEnd(pending.jump);
-    }
-}
-
-void FormulaCompiler::power()
-{
-    sign();
-    if (!accept("**"))
-        return;
-    const Nesting nesting(*this);
-    power();
-    emit(Op::Power);
 }
 
 void FormulaCompiler::sign()
@@ -312,14 +274,19 @@ void FormulaCompiler::number()
         hexadecimal ? std::from_chars_result{asInteger.ptr, asInteger.ec} : std::from_chars(begin, end, real);
     const bool isInteger = hexadecimal || asInteger.ptr == asReal.ptr;
     const bool integerKind = m_formula.m_kind == Formula::Kind::Integer;
+    constexpr auto largest = static_cast<uint64_t>(std::numeric_limits<int64_t>::max());
     const std::errc error = integerKind && isInteger ? asInteger.ec : asReal.ec;
-    if (error == std::errc::result_out_of_range)
-        fail("number out of range");
-    if (error != std::errc() || (asReal.ptr != end && continuesName(*asReal.ptr)))
+    if (error == std::errc::result_out_of_range) { // as large as can be
+        integer = std::numeric_limits<uint64_t>::max();
+        real = std::numeric_limits<double>::infinity();
+    } else if (error != std::errc()) {
+        fail("malformed number");
+    }
+    if (asReal.ptr != end && continuesName(*asReal.ptr))
         fail("malformed number");
     m_position += static_cast<size_t>(asReal.ptr - begin);
     if (integerKind)
-        emitLiteral(isInteger ? static_cast<int64_t>(integer) : toInteger(real));
+        emitLiteral(isInteger ? static_cast<int64_t>(std::min(integer, largest)) : toInteger(real));
     else
         emitLiteral(hexadecimal ? static_cast<double>(integer) : real);
 }
@@ -381,7 +348,7 @@ void FormulaCompiler::inlined(const Definition &definition)
 bool FormulaCompiler::builtInNumber(std::string_view text)
 {
     const auto *found = std::find_if(std::begin(numbers), std::end(numbers),
-                                     [text](const auto &number) { return number.first == text; });
+                                     [text](const auto &number) { return equalsIgnoringCase(text, number.first); });
     if (found == std::end(numbers) || m_formula.m_kind == Formula::Kind::Integer)
         return false;
     emitLiteral(found->second);
@@ -431,16 +398,12 @@ size_t FormulaCompiler::emit(Op op, uint32_t argument)
 {
     if (op <= Op::Load)
         m_formula.m_stackSize = std::max(m_formula.m_stackSize, ++m_stack);
-    else if (op >= Op::RoundTo || (op >= Op::JumpIfZero && op <= Op::JumpIfTrue))
+    else if (op == Op::Select)
+        m_stack = static_cast<uint16_t>(m_stack - 2);
+    else if (op >= Op::RoundTo)
         --m_stack;
     m_program.push_back(argument << ArgumentShift | static_cast<uint32_t>(op));
     return m_program.size() - 1;
-}
-
-void FormulaCompiler::setArgument(size_t word, size_t value)
-{
-    const uint32_t operation = m_program[word] & ((1u << ArgumentShift) - 1);
-    m_program[word] = static_cast<uint32_t>(value) << ArgumentShift | operation;
 }
 
 template <typename Value>
@@ -467,6 +430,18 @@ Formula Formula::parse(std::string_view text, const FormulaScope &scope, Kind ki
     return formula;
 }
 
+Formula Formula::unusable(std::string message)
+{
+    Formula formula;
+    formula.m_message = std::make_shared<const std::string>(std::move(message));
+    return formula;
+}
+
+void Formula::throwUnusable() const
+{
+    throw FormulaError{m_message ? *m_message : "no such formula"};
+}
+
 template <typename Arithmetic>
 typename Arithmetic::Value Formula::run(Symbols &symbols) const
 {
@@ -490,20 +465,12 @@ typename Arithmetic::Value Formula::run(Symbols &symbols) const
         case Op::Load:
             workspace.pushVariable(argument, [&] { return Arithmetic::load(symbols, argument); });
             break;
-        case Op::Jump:
-            next = argument;
+        case Op::Select: {
+            const Value otherwise = workspace.pop();
+            const Value then = workspace.pop();
+            workspace.push(workspace.pop() != 0 ? then : otherwise);
             break;
-        case Op::JumpIfZero:
-            if (workspace.pop() == 0)
-                next = argument;
-            break;
-        case Op::JumpIfFalse:
-        case Op::JumpIfTrue:
-            if ((workspace.pop() != 0) == (op == Op::JumpIfTrue)) {
-                workspace.push(op == Op::JumpIfTrue);
-                next = argument;
-            }
-            break;
+        }
         default: {
             const Value last = workspace.pop();
             workspace.push(op < Op::RoundTo ? Arithmetic::unary(op, last)
@@ -517,14 +484,14 @@ typename Arithmetic::Value Formula::run(Symbols &symbols) const
 int64_t Formula::evaluateInt(Symbols &symbols) const
 {
     if (m_program.empty() || m_kind != Kind::Integer)
-        throw FormulaError{"no integer formula"};
+        throwUnusable();
     return run<IntArithmetic>(symbols);
 }
 
 double Formula::evaluateFloat(Symbols &symbols) const
 {
     if (m_program.empty() || m_kind != Kind::Float)
-        throw FormulaError{"no float formula"};
+        throwUnusable();
     return run<FloatArithmetic>(symbols);
 }
 

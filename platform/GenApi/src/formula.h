@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -28,12 +29,12 @@ struct FormulaScope
 /**
  * A SwissKnife or converter formula, compiled to a flat program for a stack machine.
  *
- * Operators, the tightest first: ( ), unary + - ~, ** (right associative: -2**2 is 4 and 2**3**2 is 512), * / %, + -,
- * << >>, < > <= >=, = <>, &, ^, |, &&, ||, ?: (right associative). Functions, in any case: SGN NEG ABS SQRT ROUND(x)
- * ROUND(x, digits) FLOOR CEIL TRUNC SIN COS TAN ASIN ACOS ATAN EXP LN LG; numbers of a float formula: E and PI.
- * Comparisons and logical operators give 1 or 0. Only the branch of ?: that is taken and the sides of && and || that
- * are needed are evaluated. Rounding goes half away from zero, / of integers and % towards zero. A shift by a negative
- * amount goes the other way, one by 64 or more shifts everything out.
+ * Operators, the tightest first: ( ), unary + - ~; then in four groups, each from left to right, ** << >> & ^ |, then
+ * * / %, then + -, then < > <= >= = <> && ||; last ?: from right to left. So -2 ** 2 is 4, 6 & 3 = 2 is 1 and
+ * 0 <= 2 || 1 >= 9 is 0. Functions, in any case: SGN NEG ABS SQRT ROUND(x) ROUND(x, digits) FLOOR CEIL TRUNC FRAC SIN
+ * COS TAN ASIN ACOS ATAN EXP LN LG; numbers of a float formula, in any case: E and PI. Comparisons and logical
+ * operators give 1 or 0. Everything is evaluated, also what ?: does not choose. Rounding goes half away from zero, / of
+ * integers towards zero, % has the sign of its left side. Of the number of places to shift the lowest six bits count.
  *
  * A const Formula may be evaluated by several threads at once.
  */
@@ -42,7 +43,7 @@ class Formula
 public:
     enum class Kind : uint8_t {
         Integer, ///< 64-bit two's complement, results that do not fit wrap; fractions of literals are cut off
-        Float ///< double; & ^ | ~ << >> % work on operands converted to 64-bit integers, clamped, NaN as 0
+        Float ///< double; & ^ | ~ << >> work on operands converted to 64-bit integers, clamped, NaN as 0
     };
 
     /**
@@ -62,6 +63,9 @@ public:
     /** A formula without a program: evaluating it throws. */
     Formula() = default;
 
+    /** A formula whose every evaluation throws FormulaError with that \a message. */
+    static Formula unusable(std::string message);
+
     /**
      * Compiles \a text. Throws FormulaError on bad syntax, an unknown name, an expression that uses itself, nesting
      * deeper than maximumDepth or more text than maximumText.
@@ -74,13 +78,18 @@ public:
      */
     int64_t evaluateInt(Symbols &symbols) const;
 
-    /**
-     * The value of a formula of Kind::Float. Throws FormulaError when it has none: a division by zero, a function or
-     * power of finite operands without a finite value.
-     */
+    /** The value of a formula of Kind::Float, which may be infinite or no number. A division by zero throws
+     * FormulaError. */
     double evaluateFloat(Symbols &symbols) const;
 
     Kind kind() const { return m_kind; }
+
+    /** Throws FormulaError when this formula cannot be evaluated, whatever its variables are. */
+    void requireUsable() const
+    {
+        if (m_program.empty())
+            throwUnusable();
+    }
 
     static constexpr unsigned maximumDepth = 500; ///< of parentheses, branches, signs, powers and expressions
     static constexpr unsigned maximumText = 65536; ///< characters, an expression's counted wherever it is used
@@ -91,6 +100,9 @@ private:
     template <typename Arithmetic>
     typename Arithmetic::Value run(Symbols &symbols) const;
 
+    [[noreturn]] void throwUnusable() const;
+
+    std::shared_ptr<const std::string> m_message; ///< why it cannot be evaluated
     std::vector<uint32_t> m_program; ///< an operation in the low byte, its argument above; a literal may follow
     uint32_t m_variableCount = 0; ///< the highest slot in use, plus one
     uint16_t m_stackSize = 0; ///< the limits of depth and text keep it small

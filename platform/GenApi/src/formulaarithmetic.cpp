@@ -28,14 +28,6 @@ bool compare(Op op, Value a, Value b)
     }
 }
 
-/** Throws when \a result is no number or infinite though the operands are fine. */
-double checked(double result, bool operandsFinite)
-{
-    if (operandsFinite && !std::isfinite(result))
-        throw FormulaError{"no finite result"};
-    return result;
-}
-
 } // namespace
 
 int64_t toInteger(double value)
@@ -51,8 +43,6 @@ int64_t toInteger(double value)
 int64_t IntArithmetic::unary(Op op, Value a)
 {
     switch (op) {
-    case Op::ToBool:
-        return a != 0;
     case Op::Negate:
         return negate(a);
     case Op::Invert:
@@ -66,6 +56,8 @@ int64_t IntArithmetic::unary(Op op, Value a)
     case Op::Ceil:
     case Op::Trunc:
         return a;
+    case Op::Frac:
+        return 0;
     case Op::Sqrt:
         return squareRoot(a);
     default:
@@ -91,15 +83,19 @@ int64_t IntArithmetic::binary(Op op, Value a, Value b)
     case Op::Subtract:
         return wrapped(bits(a) - bits(b));
     case Op::ShiftLeft:
-        return shiftLeft(a, b);
+        return wrapped(bits(a) << (bits(b) & 63)); // as processors do it
     case Op::ShiftRight:
-        return shiftRight(a, b);
+        return a >> (bits(b) & 63);
     case Op::And:
         return a & b;
     case Op::Xor:
         return a ^ b;
     case Op::Or:
         return a | b;
+    case Op::LogicalAnd:
+        return a != 0 && b != 0;
+    case Op::LogicalOr:
+        return a != 0 || b != 0;
     default:
         return compare(op, a, b);
     }
@@ -119,22 +115,12 @@ int64_t IntArithmetic::squareRoot(Value a)
     return wrapped(root);
 }
 
+/** Cut off; what is too large in either direction gives the smallest number. */
 int64_t IntArithmetic::power(Value base, Value exponent)
 {
-    if (exponent < 0) {
-        // The reciprocal of the power, cut off: the division leaves something of 1 only.
-        if (base == -1)
-            return exponent % 2 == 0 ? 1 : -1;
-        return divide(1, base);
-    }
-    uint64_t result = 1;
-    uint64_t factor = bits(base);
-    for (uint64_t rest = bits(exponent); rest != 0; rest >>= 1) {
-        if (rest & 1)
-            result *= factor;
-        factor *= factor;
-    }
-    return wrapped(result);
+    constexpr double limit = 9223372036854775808.0;
+    const double result = std::pow(static_cast<double>(base), static_cast<double>(exponent));
+    return result > -limit && result < limit ? static_cast<Value>(result) : std::numeric_limits<Value>::min();
 }
 
 int64_t IntArithmetic::divide(Value a, Value b)
@@ -142,20 +128,6 @@ int64_t IntArithmetic::divide(Value a, Value b)
     if (b == 0)
         throw FormulaError{"division by zero"};
     return b == -1 ? negate(a) : a / b;
-}
-
-int64_t IntArithmetic::shiftLeft(Value a, Value amount)
-{
-    if (amount < 0)
-        return shiftRight(a, amount < -64 ? 64 : -amount);
-    return amount > 63 ? 0 : wrapped(bits(a) << amount);
-}
-
-int64_t IntArithmetic::shiftRight(Value a, Value amount)
-{
-    if (amount < 0)
-        return shiftLeft(a, amount < -64 ? 64 : -amount);
-    return a >> std::min<Value>(amount, 63);
 }
 
 /** Only a negative number of digits changes anything: then so many digits before the point become zeros. */
@@ -176,8 +148,6 @@ int64_t IntArithmetic::roundTo(Value a, Value digits)
 double FloatArithmetic::unary(Op op, Value a)
 {
     switch (op) {
-    case Op::ToBool:
-        return a != 0;
     case Op::Negate:
         return -a;
     case Op::Invert:
@@ -194,8 +164,13 @@ double FloatArithmetic::unary(Op op, Value a)
         return std::ceil(a);
     case Op::Trunc:
         return std::trunc(a);
-    default:
-        return checked(transcendental(op, a), std::isfinite(a));
+    case Op::Frac:
+        return a - std::trunc(a);
+    default: {
+        // Intentionally: that a NaN has a sign says nothing but which processor it comes from.
+        const Value result = transcendental(op, a);
+        return std::isnan(result) && op != Op::Sqrt ? std::numeric_limits<Value>::quiet_NaN() : result;
+    }
     }
 }
 
@@ -231,7 +206,7 @@ double FloatArithmetic::binary(Op op, Value a, Value b)
     case Op::RoundTo:
         return roundTo(a, b);
     case Op::Power:
-        return checked(std::pow(a, b), std::isfinite(a) && std::isfinite(b));
+        return std::pow(a, b);
     case Op::Multiply:
         return a * b;
     case Op::Divide:
@@ -241,6 +216,11 @@ double FloatArithmetic::binary(Op op, Value a, Value b)
     case Op::Subtract:
         return a - b;
     case Op::Modulo:
+        return modulo(a, b);
+    case Op::LogicalAnd:
+        return a != 0 && b != 0;
+    case Op::LogicalOr:
+        return a != 0 || b != 0;
     case Op::ShiftLeft:
     case Op::ShiftRight:
     case Op::And:
@@ -257,6 +237,13 @@ double FloatArithmetic::divide(Value a, Value b)
     if (b == 0)
         throw FormulaError{"division by zero"};
     return a / b;
+}
+
+double FloatArithmetic::modulo(Value a, Value b)
+{
+    if (b == 0)
+        throw FormulaError{"division by zero"};
+    return std::fmod(a, b);
 }
 
 double FloatArithmetic::roundTo(Value a, Value digits)

@@ -6,17 +6,13 @@
 
 namespace OrvGenApi {
 
-/** What a program word does. The argument is a number, a slot or the index of the word to go on with. */
+/** What a program word does. The argument is a number or a slot. */
 enum class Op : uint8_t {
     SmallLiteral, ///< pushes the argument
     Literal, ///< pushes the 64 bits in the next two words
     Load, ///< pushes a variable
-    Jump,
-    JumpIfZero, ///< pops
-    JumpIfFalse, ///< pops; when it jumps, pushes 0
-    JumpIfTrue, ///< pops; when it jumps, pushes 1
+    Select, ///< pops what it takes otherwise, what it takes, and what decides
     // From here on: one operand for one result.
-    ToBool,
     Negate,
     Invert,
     Sgn,
@@ -25,6 +21,7 @@ enum class Op : uint8_t {
     Floor,
     Ceil,
     Trunc,
+    Frac,
     Sqrt,
     Sin,
     Cos,
@@ -53,7 +50,9 @@ enum class Op : uint8_t {
     NotEqual,
     And,
     Xor,
-    Or
+    Or,
+    LogicalAnd,
+    LogicalOr
 };
 
 /** \a value cut off and clamped; NaN gives 0. */
@@ -75,8 +74,6 @@ private:
     static Value squareRoot(Value a);
     static Value power(Value base, Value exponent);
     static Value divide(Value a, Value b);
-    static Value shiftLeft(Value a, Value amount);
-    static Value shiftRight(Value a, Value amount);
     static Value roundTo(Value a, Value digits);
 };
 
@@ -92,6 +89,7 @@ struct FloatArithmetic
 private:
     static Value transcendental(Op op, Value a);
     static Value divide(Value a, Value b);
+    static Value modulo(Value a, Value b);
     static Value roundTo(Value a, Value digits);
 };
 

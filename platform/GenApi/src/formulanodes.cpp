@@ -12,7 +12,7 @@ int64_t FormulaVariable::intValue(bool ignoreCache) const
     switch (property) {
     case Property::Value:
         node->requireReadable();
-        return node->intValue(ignoreCache);
+        return node->intNumber(ignoreCache);
     case Property::Minimum:
         return node->intMin();
     case Property::Maximum:
@@ -68,21 +68,22 @@ std::pair<double, double> FloatFormulaBase::fullRange()
 template <typename Base>
 EAccessMode FormulaNode<Base>::variablesAccess() const
 {
-    EAccessMode mode = RO;
+    EAccessMode mode = RW;
     for (const FormulaVariable &variable : m_variables) {
-        if (variable.property == FormulaVariable::Property::Value)
-            mode = combined(mode, variable.node->unlockedAccessMode());
+        const EAccessMode access = variable.node->accessMode();
+        if (access == NI || access == NA)
+            mode = combined(mode, access);
     }
-    return isReadable(mode) ? RW : mode;
+    return mode;
 }
 
 template <typename Base>
 auto FormulaNode<Base>::run(const Formula &formula, Number converted, bool ignoreCache) const -> Number
 {
     this->requireUsable();
-    VariableSource source(m_variables, ignoreCache);
-    source.setConverted(converted);
     try {
+        formula.requireUsable();
+        VariableSource<Number> source(m_variables, converted, ignoreCache);
         return Base::evaluate(formula, source);
     } catch (const FormulaError &error) {
         ORV_THROW(LogicalErrorException, std::string("node '") + this->name() + "': " + error.message);
@@ -90,35 +91,26 @@ auto FormulaNode<Base>::run(const Formula &formula, Number converted, bool ignor
 }
 
 template <typename Base>
-template <typename Compute>
-auto FormulaNode<Base>::keptOr(bool ignoreCache, const Compute &compute) -> Number
-{
-    if ((m_kept && !ignoreCache) || m_computedIn == this->map().evaluation())
-        return m_value;
-    m_kept = false;
-    const Number value = compute();
-    m_value = value;
-    m_computedIn = this->map().evaluation();
-    m_kept = this->cachingMode() != NoCache;
-    return value;
-}
-
-template <typename Base>
 auto SwissKnifeNode<Base>::value(bool ignoreCache) -> Number
 {
-    return this->keptOr(ignoreCache, [&] { return this->run(m_formula, 0, ignoreCache); });
+    // What has been read past the caches is kept all the same.
+    std::optional<Renewal> renewal;
+    if (ignoreCache)
+        renewal.emplace(this->map());
+    return this->run(m_formula, 0, ignoreCache);
 }
 
 template <typename Base>
 void SwissKnifeNode<Base>::setValue(Number, bool, Changes &)
 {
-    ORV_THROW(AccessException, std::string("node '") + this->name() + "' is computed and cannot be written");
+    ORV_THROW(LogicalErrorException, std::string("node '") + this->name() + "' is computed and cannot be written");
 }
 
 template <typename Base>
-EAccessMode ConverterNode<Base>::valueAccess() const
+EAccessMode ConverterNode<Base>::valueAccess(Node::When when) const
 {
-    return combined(m_node->accessMode(), this->variablesAccess());
+    const EAccessMode mode = m_node->accessMode(when);
+    return when == Node::When::Ever ? mode : combined(mode, this->variablesAccess());
 }
 
 template <typename Base>
@@ -130,43 +122,45 @@ EIncMode ConverterNode<Base>::incrementMode()
 template <typename Base>
 auto ConverterNode<Base>::value(bool ignoreCache) -> Number
 {
-    return this->keptOr(ignoreCache, [&] {
-        this->requireUsable();
-        m_node->requireReadable();
-        return this->run(m_formulaFrom, Base::valueOf(*m_node, ignoreCache), ignoreCache);
-    });
+    this->requireUsable();
+    m_node->requireReadable();
+    return this->run(m_formulaFrom, Base::valueOf(*m_node, ignoreCache), ignoreCache);
 }
 
 template <typename Base>
 void ConverterNode<Base>::setValue(Number value, bool verify, Changes &changes)
 {
-    if (verify)
-        this->checkRange(value);
     const Number converted = this->run(m_formulaTo, value, false);
     writeLinked(*m_node, converted, verify, changes);
 }
 
 template <typename Base>
-auto ConverterNode<Base>::range() -> std::pair<Number, Number>
+auto ConverterNode<Base>::limit(bool upper) -> Number
 {
     if (m_slope == Slope::Varying)
-        return Base::fullRange();
-    if (m_rangeIn != this->map().evaluation()) {
-        m_range = computeRange();
-        m_rangeIn = this->map().evaluation();
+        return Base::limit(upper);
+    if (m_slope == Slope::None && Base::kind == Formula::Kind::Integer)
+        return 0; // intentionally: only a float without a slope counts as increasing
+    if (m_limitsIn[upper] != this->map().evaluation()) {
+        m_limits[upper] = computeLimit(upper);
+        m_limitsIn[upper] = this->map().evaluation();
     }
-    return m_range;
+    return m_limits[upper];
 }
 
 template <typename Base>
-auto ConverterNode<Base>::computeRange() -> std::pair<Number, Number>
+auto ConverterNode<Base>::computeLimit(bool upper) -> Number
 {
     this->requireUsable();
-    const auto [low, high] = Base::rangeOf(*m_node);
-    const Number first = this->run(m_formulaFrom, low, false);
-    const Number second = this->run(m_formulaFrom, high, false);
-    const bool decreasing = m_slope == Slope::Automatic ? first > second : m_slope == Slope::Decreasing;
-    return decreasing ? std::make_pair(second, first) : std::make_pair(first, second);
+    const Descent descent(*this);
+    const auto converted = [this](bool which) {
+        return this->run(m_formulaFrom, Base::limitOf(*m_node, which), false);
+    };
+    if (m_slope != Slope::Automatic && m_slope != Slope::None)
+        return converted(upper != (m_slope == Slope::Decreasing));
+    const Number first = converted(false);
+    const Number second = converted(true);
+    return upper ? std::max(first, second) : std::min(first, second);
 }
 
 template <typename Base>

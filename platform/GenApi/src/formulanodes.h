@@ -3,6 +3,8 @@
 #include "formula.h"
 #include "values.h"
 
+#include <array>
+
 namespace OrvGenApi {
 
 /** A variable of a formula: a property of another node. */
@@ -18,33 +20,31 @@ struct FormulaVariable
     double floatValue(bool ignoreCache) const;
 };
 
-/** Gives a formula its variables; the slot behind them is the value to convert. */
+/**
+ * Gives a formula its variables; the slot behind them is the value to convert. All of them are read, used or not: one
+ * that cannot be read makes the formula fail.
+ */
+template <typename Number>
 class VariableSource final : public Formula::Symbols
 {
 public:
-    VariableSource(const std::vector<FormulaVariable> &variables, bool ignoreCache)
-        : m_variables(variables)
-        , m_ignoreCache(ignoreCache)
+    VariableSource(const std::vector<FormulaVariable> &variables, Number converted, bool ignoreCache)
     {
+        m_values.reserve(variables.size() + 1);
+        for (const FormulaVariable &variable : variables) {
+            if constexpr (std::is_same_v<Number, double>)
+                m_values.push_back(variable.floatValue(ignoreCache));
+            else
+                m_values.push_back(variable.intValue(ignoreCache));
+        }
+        m_values.push_back(converted);
     }
 
-    void setConverted(int64_t value) { m_int = value; }
-    void setConverted(double value) { m_float = value; }
-
-    int64_t intValue(unsigned slot) override
-    {
-        return slot < m_variables.size() ? m_variables[slot].intValue(m_ignoreCache) : m_int;
-    }
-    double floatValue(unsigned slot) override
-    {
-        return slot < m_variables.size() ? m_variables[slot].floatValue(m_ignoreCache) : m_float;
-    }
+    int64_t intValue(unsigned slot) override { return static_cast<int64_t>(m_values[slot]); }
+    double floatValue(unsigned slot) override { return static_cast<double>(m_values[slot]); }
 
 private:
-    const std::vector<FormulaVariable> &m_variables;
-    const bool m_ignoreCache;
-    int64_t m_int = 0;
-    double m_float = 0;
+    std::vector<Number> m_values;
 };
 
 /** An integer that is computed in exact 64-bit arithmetic: gives the node the names that formula nodes use. */
@@ -55,23 +55,30 @@ public:
     using Number = int64_t;
     static constexpr Formula::Kind kind = Formula::Kind::Integer;
 
-    int64_t intValue(bool ignoreCache) final { return value(ignoreCache); }
-    void setIntValue(int64_t value, bool verify, Changes &changes) final { setValue(value, verify, changes); }
-    int64_t intMin() final { return range().first; }
-    int64_t intMax() final { return range().second; }
+    int64_t intMin() final { return limit(false); }
+    int64_t intMax() final { return limit(true); }
     std::pair<int64_t, int64_t> intRange() final { return range(); }
     std::vector<int64_t> validInts(bool bounded) final;
 
 protected:
+    int64_t readInt(bool ignoreCache) final { return value(ignoreCache); }
+    void writeInt(int64_t value, bool verify, Changes &changes) final { setValue(value, verify, changes); }
+
     virtual Number value(bool ignoreCache) = 0;
     virtual void setValue(Number value, bool verify, Changes &changes) = 0;
     virtual std::pair<Number, Number> range() { return fullRange(); }
+    virtual Number limit(bool upper) { return upper ? fullRange().second : fullRange().first; }
     virtual std::vector<Number> validValues() { return {}; }
 
     static std::pair<Number, Number> fullRange() { return {int64Min, int64Max}; }
     static GenApi::EIncMode ownIncrementMode() { return GenApi::fixedIncrement; }
-    static Number evaluate(const Formula &formula, VariableSource &source) { return formula.evaluateInt(source); }
-    static Number valueOf(Node &node, bool ignoreCache) { return node.intValue(ignoreCache); }
+    static constexpr bool isWrittenLate = false;
+    static Number evaluate(const Formula &formula, VariableSource<Number> &source)
+    {
+        return formula.evaluateInt(source);
+    }
+    static Number valueOf(Node &node, bool ignoreCache) { return node.intNumber(ignoreCache); }
+    static Number limitOf(Node &node, bool upper) { return upper ? node.intMax() : node.intMin(); }
     static std::pair<Number, Number> rangeOf(Node &node) { return node.intRange(); }
     static std::vector<Number> validValuesOf(Node &node) { return node.validInts(false); }
 };
@@ -84,23 +91,30 @@ public:
     using Number = double;
     static constexpr Formula::Kind kind = Formula::Kind::Float;
 
-    double floatValue(bool ignoreCache) final { return value(ignoreCache); }
-    void setFloatValue(double value, bool verify, Changes &changes) final { setValue(value, verify, changes); }
-    double floatMin() final { return range().first; }
-    double floatMax() final { return range().second; }
+    double floatMin() final { return limit(false); }
+    double floatMax() final { return limit(true); }
     std::pair<double, double> floatRange() final { return range(); }
     std::vector<double> validFloats(bool bounded) final;
 
 protected:
+    double readFloat(bool ignoreCache) final { return value(ignoreCache); }
+    void writeFloat(double value, bool verify, Changes &changes) final { setValue(value, verify, changes); }
+
     virtual Number value(bool ignoreCache) = 0;
     virtual void setValue(Number value, bool verify, Changes &changes) = 0;
     virtual std::pair<Number, Number> range() { return fullRange(); }
+    virtual Number limit(bool upper) { return upper ? fullRange().second : fullRange().first; }
     virtual std::vector<Number> validValues() { return {}; }
 
     static std::pair<Number, Number> fullRange();
     static GenApi::EIncMode ownIncrementMode() { return GenApi::noIncrement; }
-    static Number evaluate(const Formula &formula, VariableSource &source) { return formula.evaluateFloat(source); }
+    static constexpr bool isWrittenLate = true; ///< that a formula cannot be written is found when it is to happen
+    static Number evaluate(const Formula &formula, VariableSource<Number> &source)
+    {
+        return formula.evaluateFloat(source);
+    }
     static Number valueOf(Node &node, bool ignoreCache) { return node.floatValue(ignoreCache); }
+    static Number limitOf(Node &node, bool upper) { return upper ? node.floatMax() : node.floatMin(); }
     static std::pair<Number, Number> rangeOf(Node &node) { return node.floatRange(); }
     static std::vector<Number> validValuesOf(Node &node) { return node.validFloats(false); }
 };
@@ -113,33 +127,35 @@ public:
     using Base::Base;
     using typename Base::Number;
 
-    void dropCache() override { m_kept = false; }
-    bool isCacheValid() const override { return m_kept; }
-    GenApi::ERepresentation representation() const override { return m_presentation.representationOf(nullptr); }
-    const char *unit() const override { return m_presentation.unitOf(nullptr); }
-    GenApi::EDisplayNotation displayNotation() const override { return m_presentation.notationOf(nullptr); }
-    int64_t displayPrecision() const override { return m_presentation.precisionOf(nullptr); }
+    GenApi::ERepresentation representation() override
+    {
+        return m_presentation.representationOf([]() -> Node * { return nullptr; });
+    }
+    const char *unit() override
+    {
+        return m_presentation.unitOf([]() -> Node * { return nullptr; });
+    }
+    GenApi::EDisplayNotation displayNotation() override
+    {
+        return m_presentation.notationOf([]() -> Node * { return nullptr; });
+    }
+    int64_t displayPrecision() override
+    {
+        return m_presentation.precisionOf([]() -> Node * { return nullptr; });
+    }
 
 protected:
-    /** RW where all variables can be read; else what the one is that cannot. */
+    /** RW where all variables are available; one that can only be written fails when it is asked. */
     GenApi::EAccessMode variablesAccess() const;
 
     /** Evaluates with \a converted in the slot behind the variables; a formula without a value is a logical error. */
     Number run(const Formula &formula, Number converted, bool ignoreCache) const;
-
-    /** The kept value, or what \a compute() gives, which is then kept as far as the caching mode allows. */
-    template <typename Compute>
-    Number keptOr(bool ignoreCache, const Compute &compute);
 
     std::vector<FormulaVariable> m_variables;
     Presentation m_presentation;
 
 private:
     friend class DescriptionLoader;
-
-    Number m_value = 0;
-    uint64_t m_computedIn = 0; ///< the evaluation that computed m_value
-    bool m_kept = false;
 };
 
 /** A number computed from other nodes; read only. */
@@ -151,7 +167,13 @@ public:
     using typename Base::Number;
 
 protected:
-    GenApi::EAccessMode valueAccess() const override { return combined(GenApi::RO, this->variablesAccess()); }
+    bool keepsFresh() const override { return true; }
+    GenApi::EAccessMode valueAccess(Node::When when) const override
+    {
+        if (when == Node::When::Ever)
+            return Base::isWrittenLate ? GenApi::RW : GenApi::RO;
+        return combined(GenApi::RO, this->variablesAccess());
+    }
     Number value(bool ignoreCache) override;
     void setValue(Number value, bool verify, Changes &changes) override;
 
@@ -170,26 +192,45 @@ public:
     using typename Base::Number;
 
     GenApi::EIncMode incrementMode() override;
+    GenApi::ERepresentation representation() override
+    {
+        return this->m_presentation.representationOf([this] { return m_node; });
+    }
+    const char *unit() override
+    {
+        return this->m_presentation.unitOf([this] { return m_node; });
+    }
+    Node *valueNode() override { return m_node; }
+    bool keepsFresh() const override { return m_node && m_node->keepsFresh(); }
+    GenApi::EDisplayNotation displayNotation() override
+    {
+        return this->m_presentation.notationOf([this] { return m_node; });
+    }
+    int64_t displayPrecision() override
+    {
+        return this->m_presentation.precisionOf([this] { return m_node; });
+    }
 
 protected:
-    GenApi::EAccessMode valueAccess() const override;
+    GenApi::EAccessMode valueAccess(Node::When when) const override;
     Number value(bool ignoreCache) override;
     void setValue(Number value, bool verify, Changes &changes) override;
-    std::pair<Number, Number> range() override;
-    std::pair<Number, Number> computeRange();
+    std::pair<Number, Number> range() override { return {limit(false), limit(true)}; }
+    Number limit(bool upper) override;
+    Number computeLimit(bool upper);
     std::vector<Number> validValues() override;
 
 private:
     friend class DescriptionLoader;
 
-    enum class Slope : uint8_t { Automatic, Increasing, Decreasing, Varying };
+    enum class Slope : uint8_t { None, Automatic, Increasing, Decreasing, Varying };
 
     Node *m_node = nullptr;
     Formula m_formulaTo; ///< from this node's value to the other one's
     Formula m_formulaFrom; ///< from the other node's value to this one's
-    Slope m_slope = Slope::Automatic;
-    std::pair<Number, Number> m_range{};
-    uint64_t m_rangeIn = 0; ///< the evaluation that computed m_range
+    Slope m_slope = Slope::None;
+    std::array<Number, 2> m_limits{}; ///< the lower, the upper
+    std::array<uint64_t, 2> m_limitsIn{}; ///< the evaluations that computed them
 };
 
 extern template class SwissKnifeNode<IntegerFormulaBase>;

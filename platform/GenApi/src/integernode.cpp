@@ -7,34 +7,19 @@ namespace OrvGenApi {
 using namespace GenApi;
 
 template <typename Number>
-EAccessMode NumberSource<Number>::access() const
+EAccessMode NumberSource<Number>::access(Node::When when) const
 {
     if (m_indexed && !picked())
-        return NA;
+        return m_indexed->index && m_indexed->index->accessMode() == NI ? NI : NA;
     const Node *const node = m_indexed ? picked()->node() : m_value.node();
-    return node ? node->accessMode() : RW;
-}
-
-template <typename Number>
-bool NumberSource<Number>::isCacheValid() const
-{
-    if (m_indexed)
-        return isIndexedCacheValid();
-    return !m_value.node() || m_value.node()->isCacheValid();
-}
-
-template <typename Number>
-bool NumberSource<Number>::isIndexedCacheValid() const
-{
-    if (!m_indexed->index)
-        return false;
-    const uint64_t evaluation = m_indexed->index->map().evaluation();
-    if (m_indexed->askedIn != evaluation) {
-        m_indexed->askedIn = evaluation;
-        m_indexed->isValid =
-            m_indexed->index->isCacheValid() && picked() && (!picked()->node() || picked()->node()->isCacheValid());
+    EAccessMode mode = node ? node->accessMode(when) : RW;
+    if (m_copies && when == Node::When::Now) {
+        for (const Node *copy : m_copies->nodes) {
+            const EAccessMode access = copy->accessMode();
+            mode = combined(mode, access == WO ? RW : access); // is never read
+        }
     }
-    return m_indexed->isValid;
+    return mode;
 }
 
 /** Null when the index cannot be read, or picks nothing. */
@@ -46,9 +31,10 @@ NumberRef<Number> *NumberSource<Number>::picked() const
         return nullptr;
     if (m_indexed->pickedIn == index->map().evaluation())
         return m_indexed->picked;
+    const Verification unverified(index->map(), false);
     Ref *found = nullptr;
-    if (isReadable(index->unlockedAccessMode())) {
-        const int64_t wanted = index->intValue(false);
+    if (isReadable(index->accessMode())) {
+        const int64_t wanted = index->intNumber(false);
         const auto item = std::find_if(m_indexed->items.begin(), m_indexed->items.end(),
                                        [wanted](const Item &each) { return each.index == wanted; });
         if (item != m_indexed->items.end())
@@ -81,59 +67,104 @@ NumberRef<Number> &NumberSource<Number>::current(const Node &owner)
 }
 
 template <typename Number>
+Node *NumberSource<Number>::limitingNode(const Node &owner)
+{
+    Node *const node = currentNode(owner);
+    if (node && m_indexed)
+        node->requireAvailable();
+    return node;
+}
+
+template <typename Number>
 void NumberSource<Number>::write(Node &owner, Number value, bool verify, Changes &changes)
 {
     Ref &target = current(owner);
+    if (m_indexed) {
+        // Whatever the index may pick belongs to this value, written now or not.
+        for (const Item &item : m_indexed->items) {
+            if (Node *const node = item.value.node()) {
+                node->dropCache();
+                changes.add(*node);
+            }
+        }
+    }
     if (Node *const node = target.node()) {
         writeLinked(*node, value, verify, changes);
     } else {
         target.setConstant(value);
         changes.add(owner);
     }
-    for (Node *copy : m_copies)
-        writeLinked(*copy, value, verify, changes);
-    if (!m_indexed)
-        return;
-    // Whatever the index may pick belongs to this value, written now or not.
-    for (const Item &item : m_indexed->items) {
-        if (item.value.node())
-            changes.add(*item.value.node());
+    if (m_copies) {
+        for (Node *copy : m_copies->nodes)
+            writeLinked(*copy, value, verify, changes);
     }
+}
+
+template <typename Number>
+EAccessMode NumberSource<Number>::readAccess(std::initializer_list<Ref> limits)
+{
+    EAccessMode mode = RW;
+    for (const Ref &limit : limits)
+        mode = combined(mode, Node::availability(limit.node()));
+    return mode;
+}
+
+template <typename Number>
+std::pair<Number, Number> NumberSource<Number>::copiedRange(const Node &owner, std::pair<Number, Number> range)
+{
+    if (!m_copies)
+        return range;
+    if (m_copies->rangeIn != owner.map().evaluation()) {
+        for (Node *copy : m_copies->nodes) {
+            std::pair<Number, Number> limits;
+            if constexpr (std::is_same_v<Number, double>)
+                limits = copy->floatRange();
+            else
+                limits = copy->intRange();
+            range = {std::max(range.first, limits.first), std::min(range.second, limits.second)};
+        }
+        m_copies->range = range;
+        m_copies->rangeIn = owner.map().evaluation();
+    }
+    return m_copies->range;
 }
 
 template class NumberSource<int64_t>;
 template class NumberSource<double>;
 
-void IntegerNode::setIntValue(int64_t value, bool verify, Changes &changes)
+/** Limits and steps are those of the description, or of the node that has the value now; copies narrow them. */
+std::pair<int64_t, int64_t> IntegerNode::intRange()
 {
-    if (verify)
-        checkRange(value);
-    m_source.write(*this, value, verify, changes);
+    if (m_source.hasCopies() && !m_minimum.isSet() && !m_maximum.isSet() && m_source.knowsCopiedRange(*this))
+        return m_source.copiedRange(*this, {});
+    Node *const node = m_source.limitingNode(*this);
+    std::pair<int64_t, int64_t> range(int64Min, int64Max);
+    if (node && !m_minimum.isSet() && !m_maximum.isSet())
+        range = node->intRange();
+    else if (node)
+        range = {m_minimum.isSet() ? int64Min : node->intMin(), m_maximum.isSet() ? int64Max : node->intMax()};
+    range = m_source.copiedRange(*this, range);
+    return {m_minimum.isSet() ? m_minimum.value() : range.first, m_maximum.isSet() ? m_maximum.value() : range.second};
 }
 
 int64_t IntegerNode::intMin()
 {
     if (m_minimum.isSet())
         return m_minimum.value();
-    Node *const node = m_source.currentNode(*this);
-    return node ? node->intMin() : int64Min;
+    Node *const node = m_source.limitingNode(*this);
+    if (!m_source.hasCopies())
+        return node ? node->intMin() : int64Min;
+    return intRange().first;
 }
 
 int64_t IntegerNode::intMax()
 {
     if (m_maximum.isSet())
         return m_maximum.value();
-    Node *const node = m_source.currentNode(*this);
-    return node ? node->intMax() : int64Max;
-}
-
-std::pair<int64_t, int64_t> IntegerNode::intRange()
-{
-    if (!m_minimum.isSet() && !m_maximum.isSet()) {
-        if (Node *const node = m_source.currentNode(*this))
-            return node->intRange();
-    }
-    return {intMin(), intMax()};
+    Node *const node = m_source.limitingNode(*this);
+    if (!m_source.hasCopies())
+        return node ? node->intMax() : int64Max;
+    return intRange().second;
 }
 
 int64_t IntegerNode::intIncrement()
@@ -141,41 +172,46 @@ int64_t IntegerNode::intIncrement()
     if (m_increment.isSet())
         return m_increment.value();
     Node *const node = m_source.currentNode(*this);
-    return node && !node->isFloat() ? node->intIncrement() : 1;
+    if (node && node->isFloat())
+        return node->incrementMode() == fixedIncrement ? static_cast<int64_t>(node->floatIncrement()) : 1;
+    return node ? node->intIncrement() : 1;
 }
 
 EIncMode IntegerNode::incrementMode()
 {
     if (m_validValues)
         return listIncrement;
-    Node *const node = m_source.node();
-    return !m_increment.isSet() && node && node->incrementMode() == listIncrement ? listIncrement : fixedIncrement;
+    Node *const node = m_source.currentNode(*this);
+    return node && node->incrementMode() == listIncrement ? listIncrement : fixedIncrement;
 }
 
 std::vector<int64_t> IntegerNode::validInts(bool bounded)
 {
     std::vector<int64_t> values;
+    Node *const node = m_source.currentNode(*this);
     if (m_validValues)
         values = *m_validValues;
-    else if (!m_increment.isSet() && m_source.node())
-        values = m_source.node()->validInts(false);
+    else if (node)
+        values = node->validInts(false);
     if (bounded)
         keepInside(values, intRange());
     return values;
 }
 
-void FloatNode::setFloatValue(double value, bool verify, Changes &changes)
+/** A floating-point number's way to be shown says nothing about integers. */
+ERepresentation IntegerNode::representation()
 {
-    if (verify)
-        checkRange(value);
-    m_source.write(*this, value, verify, changes);
+    if (m_presentation.representation != _UndefinedRepresentation)
+        return m_presentation.representation;
+    Node *const node = m_source.currentNode(*this);
+    return node && !node->isFloat() ? node->representation() : PureNumber;
 }
 
 double FloatNode::floatMin()
 {
     if (m_minimum.isSet())
         return m_minimum.value();
-    Node *const node = m_source.currentNode(*this);
+    Node *const node = m_source.limitingNode(*this);
     return node ? node->floatMin() : FloatBase::floatMin();
 }
 
@@ -183,14 +219,14 @@ double FloatNode::floatMax()
 {
     if (m_maximum.isSet())
         return m_maximum.value();
-    Node *const node = m_source.currentNode(*this);
+    Node *const node = m_source.limitingNode(*this);
     return node ? node->floatMax() : FloatBase::floatMax();
 }
 
 std::pair<double, double> FloatNode::floatRange()
 {
     if (!m_minimum.isSet() && !m_maximum.isSet()) {
-        if (Node *const node = m_source.currentNode(*this))
+        if (Node *const node = m_source.limitingNode(*this))
             return node->floatRange();
     }
     return {floatMin(), floatMax()};
@@ -208,14 +244,16 @@ EIncMode FloatNode::incrementMode()
 {
     if (m_increment.isSet())
         return fixedIncrement;
-    return m_source.node() ? m_source.node()->incrementMode() : noIncrement;
+    Node *const node = m_source.currentNode(*this);
+    return node ? node->incrementMode() : noIncrement;
 }
 
 std::vector<double> FloatNode::validFloats(bool bounded)
 {
     std::vector<double> values;
-    if (!m_increment.isSet() && m_source.node())
-        values = m_source.node()->validFloats(false);
+    Node *const node = m_source.currentNode(*this);
+    if (!m_increment.isSet() && node)
+        values = node->validFloats(false);
     if (bounded)
         keepInside(values, floatRange());
     return values;

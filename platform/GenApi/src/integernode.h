@@ -11,6 +11,7 @@ class NumberSource
 public:
     using Ref = NumberRef<Number>;
 
+    bool isIndexed() const { return m_indexed != nullptr; }
     bool isComplete() const { return m_indexed ? m_indexed->index != nullptr : m_value.isSet(); }
 
     /** The node that always has the value; null where there is none. */
@@ -19,8 +20,18 @@ public:
     /** The node that has the value now; null where it is a constant. Throws when the index picks nothing. */
     Node *currentNode(const Node &owner) { return current(owner).node(); }
 
-    GenApi::EAccessMode access() const;
-    bool isCacheValid() const;
+    /** The same for asking it for its limits, which it has to be available for. */
+    Node *limitingNode(const Node &owner);
+
+    bool hasCopies() const { return m_copies != nullptr; }
+    GenApi::EAccessMode access(Node::When when) const;
+
+    /** What \a limits allow. */
+    static GenApi::EAccessMode readAccess(std::initializer_list<Ref> limits);
+
+    /** \a range as far as all copies take it; worked out once an evaluation. */
+    std::pair<Number, Number> copiedRange(const Node &owner, std::pair<Number, Number> range);
+    bool knowsCopiedRange(const Node &owner) const { return m_copies->rangeIn == owner.map().evaluation(); }
     Number value(const Node &owner, bool ignoreCache) { return current(owner).value(ignoreCache); }
     void write(Node &owner, Number value, bool verify, Changes &changes);
 
@@ -40,18 +51,23 @@ private:
         Ref fallback;
         Ref *picked = nullptr; ///< what the last evaluation found
         uint64_t pickedIn = 0; ///< that evaluation
-        uint64_t askedIn = 0; ///< the evaluation that found out isValid
-        bool isValid = false;
+    };
+
+    /** Nodes that are written with the value. */
+    struct Copies
+    {
+        std::vector<Node *> nodes;
+        std::pair<Number, Number> range{};
+        uint64_t rangeIn = 0; ///< the evaluation that worked it out
     };
 
     Indexed &indexed();
     Ref &current(const Node &owner);
     Ref *picked() const;
-    bool isIndexedCacheValid() const;
 
     Ref m_value;
     std::unique_ptr<Indexed> m_indexed;
-    std::vector<Node *> m_copies; ///< written with the value
+    std::unique_ptr<Copies> m_copies;
 };
 
 extern template class NumberSource<int64_t>;
@@ -63,20 +79,33 @@ class IntegerNode final : public IntegerBase
 public:
     using IntegerBase::IntegerBase;
 
-    bool isCacheValid() const override { return m_source.isCacheValid(); }
-    int64_t intValue(bool ignoreCache) override { return m_source.value(*this, ignoreCache); }
-    void setIntValue(int64_t value, bool verify, Changes &changes) override;
+    Node *valueNode() override { return m_source.node(); }
     int64_t intMin() override;
     int64_t intMax() override;
     std::pair<int64_t, int64_t> intRange() override;
     int64_t intIncrement() override;
     GenApi::EIncMode incrementMode() override;
     std::vector<int64_t> validInts(bool bounded) override;
-    GenApi::ERepresentation representation() const override { return m_presentation.representationOf(m_source.node()); }
-    const char *unit() const override { return m_presentation.unitOf(m_source.node()); }
+    GenApi::ERepresentation representation() override;
+    const char *unit() override
+    {
+        return m_presentation.unitOf([this] { return m_source.currentNode(*this); });
+    }
 
 protected:
-    GenApi::EAccessMode valueAccess() const override { return m_source.access(); }
+    GenApi::EAccessMode valueAccess(When when) const override { return m_source.access(when); }
+    int64_t readInt(bool ignoreCache) override { return m_source.value(*this, ignoreCache); }
+    void writeInt(int64_t value, bool verify, Changes &changes) override
+    {
+        m_source.write(*this, value, verify, changes);
+    }
+    bool keepsWritten() const override { return !m_source.hasCopies(); }
+    bool keepsFresh() const override { return m_source.node() && m_source.node()->keepsFresh(); }
+    bool ignoresConditions() const override { return m_source.isIndexed(); }
+    GenApi::EAccessMode readAccess() const override
+    {
+        return combined(Node::readAccess(), m_source.readAccess({m_minimum, m_maximum, m_increment}));
+    }
 
 private:
     friend class DescriptionLoader;
@@ -95,22 +124,44 @@ class FloatNode final : public FloatBase
 public:
     using FloatBase::FloatBase;
 
-    bool isCacheValid() const override { return m_source.isCacheValid(); }
-    double floatValue(bool ignoreCache) override { return m_source.value(*this, ignoreCache); }
-    void setFloatValue(double value, bool verify, Changes &changes) override;
+    Node *valueNode() override { return m_source.node(); }
     double floatMin() override;
     double floatMax() override;
     std::pair<double, double> floatRange() override;
     double floatIncrement() override;
     GenApi::EIncMode incrementMode() override;
     std::vector<double> validFloats(bool bounded) override;
-    GenApi::ERepresentation representation() const override { return m_presentation.representationOf(m_source.node()); }
-    const char *unit() const override { return m_presentation.unitOf(m_source.node()); }
-    GenApi::EDisplayNotation displayNotation() const override { return m_presentation.notationOf(m_source.node()); }
-    int64_t displayPrecision() const override { return m_presentation.precisionOf(m_source.node()); }
+    GenApi::ERepresentation representation() override
+    {
+        return m_presentation.representationOf([this] { return m_source.currentNode(*this); });
+    }
+    const char *unit() override
+    {
+        return m_presentation.unitOf([this] { return m_source.currentNode(*this); });
+    }
+    GenApi::EDisplayNotation displayNotation() override
+    {
+        return m_presentation.notationOf([this] { return m_source.currentNode(*this); });
+    }
+    int64_t displayPrecision() override
+    {
+        return m_presentation.precisionOf([this] { return m_source.currentNode(*this); });
+    }
 
 protected:
-    GenApi::EAccessMode valueAccess() const override { return m_source.access(); }
+    GenApi::EAccessMode valueAccess(When when) const override { return m_source.access(when); }
+    double readFloat(bool ignoreCache) override { return m_source.value(*this, ignoreCache); }
+    void writeFloat(double value, bool verify, Changes &changes) override
+    {
+        m_source.write(*this, value, verify, changes);
+    }
+    bool keepsWritten() const override { return !m_source.hasCopies(); }
+    bool keepsFresh() const override { return m_source.node() && m_source.node()->keepsFresh(); }
+    bool ignoresConditions() const override { return m_source.isIndexed(); }
+    GenApi::EAccessMode readAccess() const override
+    {
+        return combined(Node::readAccess(), m_source.readAccess({m_minimum, m_maximum, m_increment}));
+    }
 
 private:
     friend class DescriptionLoader;

@@ -2,23 +2,12 @@
 
 #include "nodemapimpl.h"
 
+#include <algorithm>
+
 namespace OrvGenApi {
 
 using namespace GenApi;
 using GenICam::gcstring;
-
-EAccessMode combined(EAccessMode left, EAccessMode right)
-{
-    if (left == NI || right == NI)
-        return NI;
-    if (left == NA || right == NA)
-        return NA;
-    if (left == RW)
-        return right;
-    if (right == RW || right == left)
-        return left;
-    return NA; // one may only be read, the other only written
-}
 
 ECachingMode combined(ECachingMode left, ECachingMode right)
 {
@@ -50,6 +39,7 @@ void Changes::addRead(Node &node)
         open.pop_back();
         if (next != &node)
             next->dropCache();
+        next->m_accessOpen = false;
         if (next->m_changeList != m_list) {
             next->m_changeList = m_list;
             m_nodes.push_back(next);
@@ -61,6 +51,11 @@ void Changes::addRead(Node &node)
             }
         }
     }
+}
+
+bool Changes::contains(const Node &node) const
+{
+    return node.m_changeList == m_list;
 }
 
 void Changes::countWrite(const Node &node)
@@ -130,7 +125,7 @@ gcstring Node::GetDescription() const
 gcstring Node::GetDisplayName() const
 {
     const Entry entry(*this, "GetDisplayName");
-    return m_displayName ? m_displayName : m_name;
+    return displayName();
 }
 
 gcstring Node::GetDeviceName() const
@@ -161,6 +156,75 @@ bool Node::IsFeature() const
 {
     const Entry entry(*this, "IsFeature");
     return m_isFeature;
+}
+
+ENameSpace Node::GetNameSpace() const
+{
+    const Entry entry(*this, "GetNameSpace");
+    return m_standardNameSpace ? Standard : Custom;
+}
+
+bool Node::IsCachable() const
+{
+    const Entry entry(*this, "IsCachable");
+    return IsCacheable(cachingMode());
+}
+
+bool Node::IsDeprecated() const
+{
+    const Entry entry(*this, "IsDeprecated");
+    return m_map.extrasOf(*this).isDeprecated;
+}
+
+gcstring Node::GetDocuURL() const
+{
+    const Entry entry(*this, "GetDocuURL");
+    return m_map.extrasOf(*this).docuUrl;
+}
+
+gcstring Node::GetEventID() const
+{
+    const Entry entry(*this, "GetEventID");
+    return m_map.extrasOf(*this).eventId;
+}
+
+INode *Node::GetAlias() const
+{
+    const Entry entry(*this, "GetAlias");
+    return m_map.extrasOf(*this).alias;
+}
+
+INode *Node::GetCastAlias() const
+{
+    const Entry entry(*this, "GetCastAlias");
+    return m_map.extrasOf(*this).castAlias;
+}
+
+void Node::GetChildren(NodeList_t &Children) const
+{
+    const Entry entry(*this, "GetChildren");
+    Children.clear();
+    for (const std::unique_ptr<Node> &node : m_map.m_nodes) {
+        const std::vector<Node *> &dependents = node->m_dependents;
+        if (std::find(dependents.begin(), dependents.end(), this) != dependents.end())
+            Children.push_back(node.get());
+    }
+}
+
+void Node::GetParents(NodeList_t &Parents) const
+{
+    const Entry entry(*this, "GetParents");
+    Parents.assign(m_dependents.begin(), m_dependents.end());
+}
+
+void Node::ImposeAccessMode(EAccessMode ImposedAccessMode)
+{
+    change("ImposeAccessMode", [&](Changes &) { m_imposedAccess = ImposedAccessMode; });
+}
+
+void Node::ImposeVisibility(EVisibility ImposedVisibility)
+{
+    change("ImposeVisibility", [&](Changes &) { m_visibility = Combine(m_visibility, ImposedVisibility); });
 }
 
 CallbackHandleType Node::RegisterCallback(CNodeCallback *pCallback)
@@ -217,61 +281,102 @@ void Node::GetSelectingFeatures(FeatureList_t &Features) const
         appendValues(m_selectorLinks->selecting, Features);
 }
 
+/**
+ * Access modes may hang on one another in a circle, through the entries of an enumeration: a mode that is being worked
+ * out counts as RW. So does one whose conditions have thrown, which is told once, until something changes.
+ */
 EAccessMode Node::accessMode() const
 {
-    const EAccessMode mode = unlockedAccessMode();
-    if (mode != NI && mode != NA && m_isLocked && isFulfilled(*m_isLocked))
-        return combined(mode, RO);
-    return mode;
-}
-
-EAccessMode Node::unlockedAccessMode() const
-{
-    if (m_accessEvaluation != m_map.evaluation()) {
-        m_access = computeAccessMode();
-        m_accessEvaluation = m_map.evaluation();
-    }
+    if (m_accessEvaluation == m_map.evaluation())
+        return m_access;
+    if (m_accessOpen)
+        return openAccess();
+    m_accessOpen = true;
+    m_access = computeAccessMode(When::Now);
+    m_accessOpen = false;
+    m_accessEvaluation = m_map.evaluation();
     return m_access;
 }
 
-EAccessMode Node::computeAccessMode() const
+EAccessMode Node::accessMode(When when) const
 {
-    if (!isImplementedItself())
-        return NI;
-    const EAccessMode value = combined(m_imposedAccess, valueAccess());
-    if (value != NI && m_isAvailable && !isFulfilled(*m_isAvailable))
-        return NA;
-    return value;
+    return when == When::Now ? accessMode() : computeAccessMode(when);
 }
 
-bool Node::isImplementedItself() const
+namespace {
+
+/** What a condition allows: \a mode when it cannot be told to be fulfilled or is not. */
+EAccessMode allowed(Node *condition, bool wanted, EAccessMode mode)
 {
-    return !m_broken && m_imposedAccess != NI && (!m_isImplemented || isFulfilled(*m_isImplemented));
+    if (!condition)
+        return RW;
+    const EAccessMode access = condition->accessMode();
+    if (!isReadable(access))
+        return access == NI ? NI : NA;
+    return (condition->intValue(false) != 0) == wanted ? RW : mode;
+}
+
+} // namespace
+
+/** All conditions count, whatever the first of them says; one that cannot be read leaves the node as far away. */
+EAccessMode Node::computeAccessMode(When when) const
+{
+    const Descent descent(*this);
+    const Verification unverified(m_map, false);
+    const bool isFree = (when == When::Now && ignoresConditions()) || (when == When::Ever && m_accessOpen);
+    EAccessMode mode = isFree && !m_broken ? RW : implementation();
+    if (mode == NI)
+        return NI;
+    if (when == When::Now && !ignoresConditions()) {
+        mode = combined(mode, allowed(m_isAvailable, true, NA));
+        mode = combined(mode, allowed(m_isLocked, false, RO));
+        mode = combined(mode, readAccess());
+    }
+    // Who writes without checks is held back by an imposed mode only where nothing says whether there is the node.
+    const EAccessMode imposed = when == When::Ever && m_isImplemented ? RW : m_imposedAccess;
+    return combined(mode, combined(imposed, valueAccess(when)));
+}
+
+EAccessMode Node::availability(const Node *node)
+{
+    const EAccessMode mode = node ? node->accessMode() : RW;
+    return mode == NI || mode == NA ? mode : RW;
+}
+
+EAccessMode Node::implementation() const
+{
+    return m_broken || m_imposedAccess == NI ? NI : allowed(m_isImplemented, true, NI);
 }
 
 bool Node::isFulfilled(Node &node)
 {
-    return isReadable(node.unlockedAccessMode()) && node.intValue(false) != 0;
+    return isReadable(node.accessMode()) && node.intValue(false) != 0;
 }
 
 void Node::requireReadable() const
 {
-    // A lock only keeps from writing, so reading does not ask for it.
-    if (!isReadable(unlockedAccessMode()))
+    if (!isReadable(accessMode()))
         throwNoAccess("readable");
 }
 
 void Node::requireWritable(bool verify) const
 {
-    if (!verify)
-        requireUsable();
-    else if (!isWritable(accessMode()))
+    if ((verify && !isWritable(accessMode())) || !isWritable(accessMode(When::Ever)))
         throwNoAccess("writable");
+}
+
+/** 0 is no error, whether there is an entry for it or not. */
+void Node::checkError() const
+{
+    if (!m_error || m_error->intValue(false) == 0)
+        return;
+    m_error->intNumber(false); // throws where there is no such error
+    ORV_THROW(RuntimeException, std::string("node '") + m_name + "' reports " + m_error->text(false));
 }
 
 void Node::requireAvailable() const
 {
-    const EAccessMode mode = unlockedAccessMode();
+    const EAccessMode mode = accessMode();
     if (mode == NI || mode == NA)
         throwNoAccess(mode == NI ? "implemented" : "available");
 }
@@ -298,7 +403,7 @@ void Node::throwNoNumber() const
 int64_t Node::intValue(bool ignoreCache)
 {
     if (isFloat())
-        return roundedToInteger(floatValue(ignoreCache));
+        return toInteger(floatValue(ignoreCache));
     throwNoNumber();
 }
 
@@ -311,12 +416,20 @@ void Node::setIntValue(int64_t value, bool verify, Changes &changes)
 
 int64_t Node::intMin()
 {
-    return isFloat() ? roundedToInteger(floatMin()) : int64Min;
+    return isFloat() ? toInteger(floatMin()) : int64Min;
 }
 
 int64_t Node::intMax()
 {
-    return isFloat() ? roundedToInteger(floatMax()) : int64Max;
+    return isFloat() ? toInteger(floatMax()) : int64Max;
+}
+
+int64_t Node::toInteger(double value) const
+{
+    constexpr double limit = 9223372036854775808.0;
+    if (!(value >= -limit && value <= limit)) // what is hardly too large becomes as large as can be
+        ORV_THROW(RuntimeException, std::string("node '") + m_name + "': its number is no 64-bit integer");
+    return roundedToInteger(value);
 }
 
 std::pair<int64_t, int64_t> Node::intRange()
@@ -324,7 +437,7 @@ std::pair<int64_t, int64_t> Node::intRange()
     if (!isFloat())
         return {intMin(), intMax()};
     const auto [minimum, maximum] = floatRange();
-    return {roundedToInteger(minimum), roundedToInteger(maximum)};
+    return {toInteger(minimum), toInteger(maximum)};
 }
 
 double Node::floatValue(bool ignoreCache)
@@ -332,9 +445,18 @@ double Node::floatValue(bool ignoreCache)
     return static_cast<double>(intValue(ignoreCache));
 }
 
+/** Rounded, and down to the grid of what takes integers in steps. */
 void Node::setFloatValue(double value, bool verify, Changes &changes)
 {
-    setIntValue(roundedToInteger(value), verify, changes);
+    int64_t rounded = roundedToInteger(value);
+    if (incrementMode() == fixedIncrement) {
+        const int64_t increment = intIncrement();
+        if (increment > 1) {
+            const auto offset = static_cast<uint64_t>(rounded) - static_cast<uint64_t>(intMin());
+            rounded -= static_cast<int64_t>(offset) % increment;
+        }
+    }
+    setIntValue(rounded, verify, changes);
 }
 
 double Node::floatMin()
@@ -380,8 +502,10 @@ std::vector<double> Node::validFloats(bool bounded)
 
 std::string Node::text(bool ignoreCache)
 {
-    if (isFloat())
-        return formatFloat(floatValue(ignoreCache), displayNotation(), displayPrecision());
+    if (isFloat()) {
+        const double value = floatValue(ignoreCache); // first: it is kept even if there are no limits to be had
+        return formatFloat(value, displayNotation(), displayPrecision(), floatRange());
+    }
     return formatInteger(intValue(ignoreCache), representation());
 }
 
@@ -391,13 +515,13 @@ void Node::setText(const std::string &text, bool verify, Changes &changes)
         ORV_THROW(InvalidArgumentException, std::string("node '") + m_name + "': '" + text + "' is no number");
     };
     if (isFloat()) {
-        const std::optional<double> value = parseFloat(text);
+        const std::optional<double> value = readFloat(text);
         if (!value)
             fail();
         setFloatValue(*value, verify, changes);
         return;
     }
-    const std::optional<int64_t> value = parseInteger(text, representation());
+    const std::optional<int64_t> value = readInteger(text, representation());
     if (!value)
         fail();
     setIntValue(*value, verify, changes);
@@ -423,11 +547,16 @@ void Node::addDependent(Node &node)
 
 void Node::addSelected(Node &feature)
 {
+    addDependent(feature); // what is selected changes with the selection
+    linkSelected(feature);
+}
+
+void Node::linkSelected(Node &feature)
+{
     if (!m_selectorLinks)
         m_selectorLinks = std::make_unique<SelectorLinks>();
     if (!feature.m_selectorLinks)
         feature.m_selectorLinks = std::make_unique<SelectorLinks>();
-    addDependent(feature); // what is selected changes with the selection
     m_selectorLinks->selected.push_back(&feature);
     feature.m_selectorLinks->selecting.push_back(this);
 }

@@ -18,20 +18,22 @@ namespace OrvGenApi {
 class Node;
 class NodeMapImpl;
 
-/** What may be done where both modes apply. */
-GenApi::EAccessMode combined(GenApi::EAccessMode left, GenApi::EAccessMode right);
+inline GenApi::EAccessMode combined(GenApi::EAccessMode left, GenApi::EAccessMode right)
+{
+    return GenApi::Combine(left, right);
+}
 
 /** How a value may be cached that is made of parts cached so. */
 GenApi::ECachingMode combined(GenApi::ECachingMode left, GenApi::ECachingMode right);
 
 inline bool isReadable(GenApi::EAccessMode mode)
 {
-    return mode == GenApi::RO || mode == GenApi::RW;
+    return GenApi::IsReadable(mode);
 }
 
 inline bool isWritable(GenApi::EAccessMode mode)
 {
-    return mode == GenApi::WO || mode == GenApi::RW;
+    return GenApi::IsWritable(mode);
 }
 
 /** Nodes whose value may have changed; filled while a write goes down to the registers. */
@@ -50,6 +52,7 @@ public:
     void countWrite(const Node &node);
 
     const std::vector<Node *> &nodes() const { return m_nodes; }
+    bool contains(const Node &node) const;
 
 private:
     NodeMapImpl &m_map;
@@ -94,6 +97,18 @@ public:
     GenApi::CallbackHandleType RegisterCallback(GenApi::CNodeCallback *pCallback) override;
     bool DeregisterCallback(GenApi::CallbackHandleType hCallback) override;
 
+    GenApi::ENameSpace GetNameSpace() const override;
+    bool IsCachable() const override;
+    bool IsDeprecated() const override;
+    GenICam::gcstring GetDocuURL() const override;
+    GenICam::gcstring GetEventID() const override;
+    GenApi::INode *GetAlias() const override;
+    GenApi::INode *GetCastAlias() const override;
+    void GetChildren(GenApi::NodeList_t &Children) const override;
+    void GetParents(GenApi::NodeList_t &Parents) const override;
+    void ImposeAccessMode(GenApi::EAccessMode ImposedAccessMode) override;
+    void ImposeVisibility(GenApi::EVisibility ImposedVisibility) override;
+
     // ISelector
     bool IsSelector() const override;
     void GetSelectedFeatures(GenApi::FeatureList_t &Features) const override;
@@ -102,26 +117,48 @@ public:
     // Inside ----------------------------------------------------------------------------------------------------------
 
     const char *name() const { return m_name; }
+    const char *displayName() const { return m_displayName ? m_displayName : m_name; }
     NodeMapImpl &map() const { return m_map; }
     virtual GenApi::IValue *asValue() { return nullptr; }
+
+    /** The node that this one's value is written to; null where it ends here. */
+    virtual Node *valueNode() { return nullptr; }
+
+    /** Whether there is something to poll for. */
+    virtual bool isPolled() const { return true; }
     virtual GenApi::EInterfaceType interfaceType() const = 0;
+
+    /** Which conditions count for an access mode. */
+    enum class When : uint8_t {
+        Now,
+        Ever ///< whether a node is available or locked now does not matter
+    };
 
     /** What may be done now, with all that this node depends on. */
     GenApi::EAccessMode accessMode() const;
+    GenApi::EAccessMode accessMode(When when) const;
 
-    /** The same without the lock, which only keeps from writing. */
-    GenApi::EAccessMode unlockedAccessMode() const;
+    /** What the condition that the node is implemented allows: RW, NA when it cannot be read, or NI. */
+    GenApi::EAccessMode implementation() const;
 
-    /** Whether the conditions of the node itself allow that it is implemented, whatever its value says. */
-    bool isImplementedItself() const;
+    /** The access mode of that condition; RW where there is none. */
+    GenApi::EAccessMode implementationAccess() const
+    {
+        return m_isImplemented ? m_isImplemented->accessMode() : GenApi::RW;
+    }
 
     /** Throw an access exception when that is not possible now; without \a verify only where it never is. */
     void requireReadable() const;
     void requireWritable(bool verify = true) const;
     void requireAvailable() const;
 
+    [[noreturn]] void throwNoAccess(const char *what) const;
+
     /** Throws an access exception when the node lacks what its description refers to, and cannot even be computed. */
     void requireUsable() const;
+
+    /** NI or NA where \a node is that, else RW. */
+    static GenApi::EAccessMode availability(const Node *node);
 
     /** Whether \a node can be read now and is not 0. What cannot be read is not fulfilled. */
     static bool isFulfilled(Node &node);
@@ -131,8 +168,11 @@ public:
     void setCachingMode(GenApi::ECachingMode mode) { m_cachingMode = mode; }
 
     /** Forgets what is kept of the device's state. */
-    virtual void dropCache() { }
+    virtual void dropCache() { m_accessOpen = false; }
     virtual bool isCacheValid() const { return true; }
+
+    /** Whether a value that was read past the caches is kept. */
+    virtual bool keepsFresh() const { return false; }
 
     // A node as a number. The base answers as a node that is none: it throws. Reads and writes through these check the
     // access of what lies below, not of the node itself. With verify a write checks the ranges on its way. Both ends of
@@ -141,10 +181,17 @@ public:
     virtual bool isNumber() const { return false; }
     virtual bool isFloat() const { return false; }
     virtual int64_t intValue(bool ignoreCache);
+
+    /** The same for a node that takes its value from here: an enumeration stands for what its entry stands for. */
+    virtual int64_t intNumber(bool ignoreCache) { return intValue(ignoreCache); }
     virtual void setIntValue(int64_t value, bool verify, Changes &changes);
+    virtual void setIntNumber(int64_t value, bool verify, Changes &changes) { setIntValue(value, verify, changes); }
     virtual int64_t intMin();
     virtual int64_t intMax();
     virtual std::pair<int64_t, int64_t> intRange();
+
+    /** \a value of this node rounded; throws where it is no 64-bit number. */
+    int64_t toInteger(double value) const;
     virtual int64_t intIncrement() { return 1; }
     virtual double floatValue(bool ignoreCache);
     virtual void setFloatValue(double value, bool verify, Changes &changes);
@@ -157,10 +204,13 @@ public:
     /** The values of a list increment, ascending; those within the range when \a bounded. */
     virtual std::vector<int64_t> validInts(bool bounded);
     virtual std::vector<double> validFloats(bool bounded);
-    virtual GenApi::ERepresentation representation() const { return GenApi::PureNumber; }
-    virtual const char *unit() const { return ""; }
-    virtual GenApi::EDisplayNotation displayNotation() const { return GenApi::fnAutomatic; }
-    virtual int64_t displayPrecision() const { return 6; }
+    virtual GenApi::ERepresentation representation() { return GenApi::PureNumber; }
+    virtual const char *unit() { return ""; }
+    virtual GenApi::EDisplayNotation displayNotation() { return GenApi::fnAutomatic; }
+    virtual int64_t displayPrecision() { return 6; }
+
+    /** Throws when the value that was read is none that might be written. */
+    virtual void checkValue() { checkError(); }
 
     /** A node as text. */
     virtual std::string text(bool ignoreCache);
@@ -175,6 +225,9 @@ public:
     void addDependent(Node &node);
 
     void addSelected(Node &feature);
+
+    /** The same for what only follows what is selected. */
+    void linkSelected(Node &feature);
     void setBroken(const char *why) { m_broken = why; }
     bool isBroken() const { return m_broken; }
 
@@ -186,7 +239,28 @@ public:
 
 protected:
     /** What this node's value allows, without the node's own conditions. */
-    virtual GenApi::EAccessMode valueAccess() const { return GenApi::RW; }
+    virtual GenApi::EAccessMode valueAccess(When) const { return GenApi::RW; }
+
+    virtual GenApi::EAccessMode computeAccessMode(When when) const;
+
+    /** What the nodes allow that are read for anything but the value: NI or NA where they are that, else RW. */
+    virtual GenApi::EAccessMode readAccess() const
+    {
+        return combined(availability(m_error), availability(m_blocksPolling));
+    }
+
+    /** Intentionally, a value that is picked by an index is there for whoever can read the index. */
+    virtual bool ignoresConditions() const { return false; }
+
+    /** The mode as long as it is not known. */
+    virtual GenApi::EAccessMode openAccess() const { return combined(GenApi::RW, m_imposedAccess); }
+    GenApi::EAccessMode imposedAccess() const { return m_imposedAccess; }
+
+    /** What the node itself ever allows. */
+    GenApi::EAccessMode ownAccess() const { return m_isImplemented ? implementation() : m_imposedAccess; }
+
+    /** Throws when the node that tells about errors tells of one. */
+    void checkError() const;
 
     /** Runs \a write(changes) as one write by a user of the map: with lock, callbacks inside and outside of it. */
     template <typename Write>
@@ -195,6 +269,7 @@ protected:
     [[noreturn]] void throwNoNumber() const;
 
     NodeMapImpl &m_map;
+    mutable bool m_accessOpen = false; ///< the access mode is being worked out, or could not be
 
 private:
     friend class DescriptionLoader;
@@ -204,9 +279,6 @@ private:
         std::vector<Node *> selected;
         std::vector<Node *> selecting;
     };
-
-    GenApi::EAccessMode computeAccessMode() const;
-    [[noreturn]] void throwNoAccess(const char *what) const;
 
     // Names and callbacks are what every row of a feature tree asks for first: they share a cache line with m_map.
     const char *m_name;
@@ -219,6 +291,8 @@ private:
     Node *m_isImplemented = nullptr;
     Node *m_isAvailable = nullptr;
     Node *m_isLocked = nullptr;
+    Node *m_error = nullptr; ///< is 0 as long as there is none
+    Node *m_blocksPolling = nullptr;
     std::vector<Node *> m_dependents;
     std::unique_ptr<SelectorLinks> m_selectorLinks;
     int64_t m_pollingTime = -1; ///< milliseconds
@@ -226,7 +300,7 @@ private:
     mutable uint64_t m_accessEvaluation = 0; ///< the evaluation that worked out m_access
     uint64_t m_changeMark = 0; ///< the last walk over dependents that came here
     uint64_t m_changeList = 0; ///< the last list of changes this node was put in
-    mutable GenApi::EAccessMode m_access = GenApi::NI; ///< without the lock
+    mutable GenApi::EAccessMode m_access = GenApi::NI;
     GenApi::EAccessMode m_imposedAccess = GenApi::RW;
     GenApi::EVisibility m_visibility = GenApi::Beginner;
     GenApi::ECachingMode m_cachingMode = GenApi::WriteThrough; ///< with what the value is made of

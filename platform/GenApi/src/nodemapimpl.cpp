@@ -39,9 +39,21 @@ INode *NodeMapImpl::GetNode(const gcstring &Name) const
 
 void NodeMapImpl::InvalidateNodes() const
 {
-    const MapLock lock(*this);
-    for (const std::unique_ptr<Node> &node : m_nodes)
-        node->dropCache();
+    std::vector<Node *> nodes;
+    std::exception_ptr failure;
+    auto &self = const_cast<NodeMapImpl &>(*this); // the interface calls this const
+    {
+        const MapLock lock(*this);
+        self.startEvaluation();
+        for (const std::unique_ptr<Node> &node : m_nodes) {
+            node->dropCache();
+            nodes.push_back(node.get());
+        }
+        self.fire(nodes, cbPostInsideLock, failure);
+    }
+    self.fire(nodes, cbPostOutsideLock, failure);
+    if (failure)
+        std::rethrow_exception(failure);
 }
 
 gcstring NodeMapImpl::GetDeviceName()
@@ -75,6 +87,8 @@ void NodeMapImpl::Poll(int64_t ElapsedTime)
             if (!each.node->advancePollClock(std::max<int64_t>(ElapsedTime, 0)) || isBlocked(each.blocker))
                 continue;
             each.node->restartPollClock();
+            if (!each.node->isPolled())
+                continue;
             each.node->dropCache();
             changes.add(*each.node);
         }
@@ -91,6 +105,17 @@ uint64_t NodeMapImpl::GetNumNodes() const
     return m_nodes.size();
 }
 
+bool NodeMapImpl::Connect(IPort *pPort, const gcstring &PortName) const
+{
+    return const_cast<NodeMapImpl *>(this)->connect(pPort, PortName.c_str()); // the interface calls this const
+}
+
+NodeMapImpl::Extras NodeMapImpl::extrasOf(const Node &node) const
+{
+    const auto found = m_extras.find(&node);
+    return found == m_extras.end() ? Extras() : found->second;
+}
+
 bool NodeMapImpl::connect(IPort *port, const std::string &portName)
 {
     const MapLock lock(*this);
@@ -99,7 +124,8 @@ bool NodeMapImpl::connect(IPort *port, const std::string &portName)
         return false;
     node->connect(port);
     startEvaluation();
-    InvalidateNodes();
+    for (const std::unique_ptr<Node> &each : m_nodes)
+        each->dropCache();
     return true;
 }
 
@@ -178,6 +204,11 @@ bool NodeMapImpl::removeCallback(Node &node, CNodeCallback *callback)
     else
         callback->Destroy();
     return true;
+}
+
+void Descent::throwTooDeep(const Node &node)
+{
+    ORV_THROW(RuntimeException, std::string("node '") + node.name() + "': the links lead too deep");
 }
 
 void NodeMapImpl::throwFault(const Node &node, const char *operation) const

@@ -41,6 +41,7 @@ public:
     uint64_t GetNumNodes() const override;
 
     // NodeMap
+    bool Connect(GenApi::IPort *pPort, const GenICam::gcstring &PortName) const override;
     bool connect(GenApi::IPort *port, const std::string &portName) override;
     std::string modelName() const override { return m_modelName; }
     std::string vendorName() const override { return m_vendorName; }
@@ -78,12 +79,30 @@ public:
         Node *blocker; ///< as long as it is not 0 there is no polling; may be null
     };
 
+    /** What few nodes have. */
+    struct Extras
+    {
+        const char *docuUrl = "";
+        const char *eventId = "";
+        Node *alias = nullptr;
+        Node *castAlias = nullptr;
+        bool isDeprecated = false;
+        std::pair<int64_t, int64_t> intLimits{int64Min, int64Max}; ///< imposed
+        std::pair<double, double> floatLimits{-std::numeric_limits<double>::infinity(),
+                                              std::numeric_limits<double>::infinity()};
+    };
+    Extras extrasOf(const Node &node) const;
+
+    std::unordered_map<const Node *, Extras> m_extras;
     std::vector<std::unique_ptr<Node>> m_nodes;
     std::string m_modelName;
     std::string m_vendorName;
     std::optional<Faults> m_faults;
     std::vector<Polled> m_polled;
     uint64_t m_walk = 0; ///< counts the walks over dependents
+    unsigned m_depth = 0; ///< nodes that are asking others
+    bool m_verifying = false; ///< values that are read have to be within their limits
+    bool m_renewing = false; ///< reads past the caches keep what they read
 
 private:
     const std::string m_deviceName;
@@ -130,6 +149,66 @@ private:
     const MapLock m_lock;
 };
 
+/** Held while a node asks others; throws when they lead deeper than the stack should have to go. */
+class Descent
+{
+public:
+    explicit Descent(const Node &node)
+        : m_map(node.map())
+    {
+        if (m_map.m_depth >= deepest)
+            throwTooDeep(node);
+        ++m_map.m_depth;
+    }
+    ~Descent() { --m_map.m_depth; }
+    Descent(const Descent &) = delete;
+    Descent &operator=(const Descent &) = delete;
+
+private:
+    [[noreturn]] static void throwTooDeep(const Node &node);
+
+    static constexpr unsigned deepest = 1000;
+    NodeMapImpl &m_map;
+};
+
+/** Makes reads past the caches keep what they have read. */
+class Renewal
+{
+public:
+    explicit Renewal(NodeMapImpl &map)
+        : m_map(map)
+        , m_before(map.m_renewing)
+    {
+        m_map.m_renewing = true;
+    }
+    ~Renewal() { m_map.m_renewing = m_before; }
+    Renewal(const Renewal &) = delete;
+    Renewal &operator=(const Renewal &) = delete;
+
+private:
+    NodeMapImpl &m_map;
+    const bool m_before;
+};
+
+/** Makes all values that are read be checked as well, or not any more. */
+class Verification
+{
+public:
+    Verification(NodeMapImpl &map, bool isOn)
+        : m_map(map)
+        , m_before(map.m_verifying)
+    {
+        m_map.m_verifying = isOn;
+    }
+    ~Verification() { m_map.m_verifying = m_before; }
+    Verification(const Verification &) = delete;
+    Verification &operator=(const Verification &) = delete;
+
+private:
+    NodeMapImpl &m_map;
+    const bool m_before;
+};
+
 template <typename Write>
 void Node::change(const char *operation, const Write &write)
 {
@@ -140,11 +219,14 @@ void Node::change(const char *operation, const Write &write)
         Changes changes(m_map);
         try {
             write(changes);
-            changes.add(*this);
+            if (!changes.contains(*this))
+                changes.add(*this);
         } catch (...) {
-            failure = std::current_exception(); // told below: part of the write may have reached the device
+            failure = std::current_exception(); // what was changed before it is asked for again
         }
         m_map.startEvaluation();
+        if (failure)
+            std::rethrow_exception(failure);
         changed = changes.nodes();
         m_map.fire(changed, GenApi::cbPostInsideLock, failure);
     }

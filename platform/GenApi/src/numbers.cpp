@@ -1,6 +1,7 @@
 #include "numbers.h"
 
 #include <algorithm>
+#include <cctype>
 #include <charconv>
 #include <cstdio>
 #include <vector>
@@ -104,8 +105,10 @@ std::string formatInteger(int64_t value, GenApi::ERepresentation representation)
     };
     char text[32];
     switch (representation) {
+    case GenApi::Boolean:
+        return value != 0 ? "true" : "false";
     case GenApi::HexNumber:
-        std::snprintf(text, sizeof text, "0x%llx", static_cast<unsigned long long>(value));
+        std::snprintf(text, sizeof text, "%#llx", static_cast<unsigned long long>(value)); // 0 stays 0
         return text;
     case GenApi::IPV4Address:
         std::snprintf(text, sizeof text, "%u.%u.%u.%u", byte(3), byte(2), byte(1), byte(0));
@@ -119,14 +122,82 @@ std::string formatInteger(int64_t value, GenApi::ERepresentation representation)
     }
 }
 
-std::optional<int64_t> parseInteger(std::string_view text, GenApi::ERepresentation representation)
+namespace {
+
+/** The digits of an integer at the start of \a text, as a number that is limited to 64 bits; nothing without any. */
+std::optional<int64_t> leadingInteger(std::string_view text, int base)
+{
+    const bool negative = !text.empty() && text.front() == '-';
+    if (!text.empty() && (text.front() == '-' || text.front() == '+'))
+        text.remove_prefix(1);
+    uint64_t magnitude = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), magnitude, base);
+    if (error == std::errc::invalid_argument)
+        return std::nullopt;
+    if (error == std::errc::result_out_of_range)
+        magnitude = std::numeric_limits<uint64_t>::max();
+    if (base == 16) // as wide as a register
+        return static_cast<int64_t>(negative ? 0 - magnitude : magnitude);
+    const uint64_t limit = static_cast<uint64_t>(int64Max) + (negative ? 1 : 0);
+    magnitude = std::min(magnitude, limit);
+    return static_cast<int64_t>(negative ? 0 - magnitude : magnitude);
+}
+
+bool startsWith(std::string_view text, std::string_view start)
+{
+    return text.substr(0, start.size()) == start;
+}
+
+} // namespace
+
+std::optional<int64_t> readInteger(std::string_view text, GenApi::ERepresentation representation)
 {
     text = trimmed(text);
-    if (representation == GenApi::IPV4Address && text.find('.') != std::string_view::npos)
+    switch (representation) {
+    case GenApi::Boolean:
+        return text == "true" ? std::optional<int64_t>(1) : text == "false" ? std::optional<int64_t>(0) : std::nullopt;
+    case GenApi::IPV4Address:
         return parseBytes(text, '.', 10, 4);
-    if (representation == GenApi::MACAddress && text.find(':') != std::string_view::npos)
+    case GenApi::MACAddress:
         return parseBytes(text, ':', 16, 6);
-    return parseInteger(text);
+    default:
+        break;
+    }
+    if (text == "0x" || text == "0X")
+        return 0;
+    if (startsWith(text, "0x") || startsWith(text, "0X"))
+        return leadingInteger(text.substr(2), 16);
+    return leadingInteger(text, 10);
+}
+
+std::optional<bool> readBoolean(std::string_view text)
+{
+    text = trimmed(text);
+    if (startsWith(text, "true"))
+        return true;
+    if (startsWith(text, "false"))
+        return false;
+    const std::optional<int64_t> number = leadingInteger(text, 10);
+    return number == 1 ? std::optional<bool>(true) : number == 0 ? std::optional<bool>(false) : std::nullopt;
+}
+
+std::optional<double> readFloat(std::string_view text)
+{
+    text = trimmed(text);
+    if (startsWith(text, "+") && !startsWith(text, "+-"))
+        text.remove_prefix(1);
+    double value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    const auto used = text.substr(0, static_cast<std::size_t>(end - text.data()));
+    const bool isTiny = used.find("e-") != std::string_view::npos || used.find("E-") != std::string_view::npos;
+    if (error == std::errc::result_out_of_range && isTiny)
+        return 0;
+    if (error != std::errc() || !std::isfinite(value))
+        return std::nullopt;
+    // An exponent without digits is no number, not one that ends before it.
+    if (end != text.data() + text.size() && (*end == 'e' || *end == 'E') && used.find_first_of("eE") == used.npos)
+        return std::nullopt;
+    return value;
 }
 
 std::string formatFloat(double value, GenApi::EDisplayNotation notation, int64_t precision)
@@ -142,6 +213,24 @@ std::string formatFloat(double value, GenApi::EDisplayNotation notation, int64_t
     // The format follows the process's locale; a description's numbers have a point.
     std::replace(text.begin(), text.end(), ',', '.');
     return text;
+}
+
+std::string formatFloat(double value, GenApi::EDisplayNotation notation, int64_t precision,
+                        const std::pair<double, double> &limits)
+{
+    const std::string text = formatFloat(value, notation, precision);
+    const double shown = parseFloat(text).value_or(value);
+    const bool isOver = shown > limits.second;
+    if (!isOver && !(shown < limits.first))
+        return text;
+    const std::size_t point = text.find('.');
+    std::size_t digits = 0;
+    while (point != std::string::npos && point + 1 + digits < text.size() && std::isdigit(text[point + 1 + digits]))
+        ++digits;
+    double half = 0.5;
+    for (; digits > 0; --digits)
+        half *= 0.1;
+    return formatFloat(isOver ? value - half : value + half, notation, precision);
 }
 
 } // namespace OrvGenApi

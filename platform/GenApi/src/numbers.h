@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace OrvGenApi {
 
@@ -26,13 +27,26 @@ std::optional<double> parseFloat(std::string_view text);
 /** The nearest integer, halves away from zero; limited to 64 bits, 0 for what is no number. */
 int64_t roundedToInteger(double value);
 
-/** The text of \a value in a representation: decimal, 0x..., dotted IPv4 or a MAC address with colons. */
+/** The text of \a value in a representation: decimal, 0x..., true, dotted IPv4 or a MAC address with colons. */
 std::string formatInteger(int64_t value, GenApi::ERepresentation representation);
 
-/** Reads what formatInteger() writes. */
-std::optional<int64_t> parseInteger(std::string_view text, GenApi::ERepresentation representation);
+/**
+ * What a user's text means for a number, a truth value or a floating-point number. What follows behind the number is
+ * not looked at ("12 us", "1.5" for an integer), one that does not fit is limited; a truth value is true, false, or an
+ * integer that is 0 or 1. The representations with a form of their own read only that.
+ */
+std::optional<int64_t> readInteger(std::string_view text, GenApi::ERepresentation representation);
+std::optional<bool> readBoolean(std::string_view text);
+std::optional<double> readFloat(std::string_view text);
 
 /** The text of \a value with \a precision digits: behind the point when fixed, significant ones otherwise. */
 std::string formatFloat(double value, GenApi::EDisplayNotation notation, int64_t precision);
+
+/**
+ * The same, so that the text may be written back: one that is rounded over a limit is moved inwards by half a unit of
+ * its last digit.
+ */
+std::string formatFloat(double value, GenApi::EDisplayNotation notation, int64_t precision,
+                        const std::pair<double, double> &limits);
 
 } // namespace OrvGenApi

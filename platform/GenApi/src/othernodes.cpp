@@ -1,6 +1,7 @@
 #include "othernodes.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace OrvGenApi {
 
@@ -12,13 +13,15 @@ void CategoryNode::GetFeatures(FeatureList_t &Features) const
     const Entry entry(*this, "GetFeatures");
     Features.clear();
     Features.reserve(m_features.size());
-    for (Node *feature : m_features)
-        Features.push_back(feature->asValue());
+    for (Node *feature : m_features) {
+        if (IValue *const value = feature->asValue())
+            Features.push_back(value);
+    }
 }
 
 std::string CategoryNode::text(bool)
 {
-    return name();
+    return displayName();
 }
 
 void CategoryNode::setText(const std::string &, bool, Changes &)
@@ -26,7 +29,25 @@ void CategoryNode::setText(const std::string &, bool, Changes &)
     ORV_THROW(AccessException, std::string("category '") + name() + "' has no value");
 }
 
-EAccessMode CategoryNode::valueAccess() const
+/** Conditions of a category decide only whether it is implemented: what stands in it may be looked at. */
+EAccessMode CategoryNode::computeAccessMode(When) const
+{
+    try {
+        return isImplemented() ? combined(combined(imposedAccess(), RO), hasImplemented() ? RW : NI) : NI;
+    } catch (...) {
+        m_accessOpen = false; // told every time
+        throw;
+    }
+}
+
+/** A condition that cannot be asked leaves a category where it is. */
+bool CategoryNode::isImplemented() const
+{
+    const EAccessMode mode = implementationAccess();
+    return !isReadable(mode) || implementation() != NI;
+}
+
+bool CategoryNode::hasImplemented() const
 {
     // Categories may be nested to any depth, and may even stand in themselves.
     const uint64_t mark = ++m_map.m_walk;
@@ -38,38 +59,43 @@ EAccessMode CategoryNode::valueAccess() const
         for (const Node *feature : category->m_features) {
             if (feature->interfaceType() != intfICategory) {
                 if (feature->accessMode() != NI)
-                    return RO;
+                    return true;
                 continue;
             }
             const auto inner = static_cast<const CategoryNode *>(feature);
             if (inner->m_searchMark == mark)
                 continue;
             inner->m_searchMark = mark;
-            if (inner->isImplementedItself())
+            if (inner->isImplemented())
                 open.push_back(inner);
         }
     }
-    return NI;
+    return false;
 }
 
 void BooleanNode::SetValue(bool Value, bool Verify)
 {
     change("SetValue", [&](Changes &changes) {
-        requireWritable(Verify);
+        const Verification verification(m_map, Verify);
         setIntValue(Value, Verify, changes);
     });
 }
 
 bool BooleanNode::GetValue(bool Verify, bool IgnoreCache) const
 {
-    (void)Verify;
     const Entry entry(*this, "GetValue");
     requireReadable();
-    return isOn(IgnoreCache);
+    const Verification verification(m_map, Verify);
+    const bool value = isOn(IgnoreCache);
+    if (Verify)
+        checkError();
+    return value;
 }
 
 bool BooleanNode::isOn(bool ignoreCache) const
 {
+    if (!m_value.node())
+        return m_value.constant() != 0;
     const int64_t value = m_value.value(ignoreCache);
     if (value == m_onValue)
         return true;
@@ -83,31 +109,39 @@ bool BooleanNode::isOn(bool ignoreCache) const
 
 void BooleanNode::setIntValue(int64_t value, bool verify, Changes &changes)
 {
-    const int64_t raw = value != 0 ? m_onValue : m_offValue;
+    requireWritable(verify);
     if (Node *const node = m_value.node()) {
-        writeLinked(*node, raw, verify, changes);
-        return;
+        writeLinked(*node, value != 0 ? m_onValue : m_offValue, verify, changes);
+    } else {
+        m_value.setConstant(value != 0);
+        changes.add(*this);
     }
-    m_value.setConstant(raw);
-    changes.add(*this);
+    if (verify)
+        checkError();
 }
 
 void BooleanNode::setText(const std::string &text, bool verify, Changes &changes)
 {
-    const std::string_view word = trimmed(text);
-    const bool on = word == "1" || word == "true" || word == "True";
-    if (!on && word != "0" && word != "false" && word != "False")
+    const std::optional<bool> on = readBoolean(text);
+    if (!on)
         ORV_THROW(InvalidArgumentException, std::string("node '") + name() + "': '" + text + "' is no truth value");
-    setIntValue(on, verify, changes);
+    setIntValue(*on, verify, changes);
 }
 
 void CommandNode::Execute(bool Verify)
 {
-    change("Execute", [&](Changes &changes) {
-        requireWritable(Verify);
-        setIntValue(m_commandValue.value(), Verify, changes);
-        m_running = true;
-    });
+    (void)Verify;
+    change("Execute", [&](Changes &changes) { execute(changes); });
+}
+
+/** Unlike a value, a command is never given where it is locked or not available. */
+void CommandNode::execute(Changes &changes)
+{
+    requireWritable();
+    setIntValue(m_commandValue.value(), true, changes);
+    m_running = m_value.node() != nullptr;
+    restartPollClock();
+    checkError();
 }
 
 bool CommandNode::IsDone(bool Verify)
@@ -118,18 +152,29 @@ bool CommandNode::IsDone(bool Verify)
     {
         const Entry entry(*this, "IsDone");
         done = isDone();
-        ended = done && m_running;
+        ended = done && m_running && isReadable(accessMode());
         m_running = m_running && !done;
     }
-    if (ended)
-        InvalidateNode(); // the device has changed: tell those who watch
+    if (ended) // the device has changed: tell those who watch
+        change("IsDone", [this](Changes &changes) { addEnd(changes); });
     return done;
+}
+
+void CommandNode::addEnd(Changes &changes)
+{
+    Node *last = this;
+    while (Node *const next = last->valueNode())
+        last = next;
+    changes.addRead(*last);
 }
 
 bool CommandNode::isDone()
 {
-    if (!isReadable(accessMode()) || !m_value.node())
+    if (accessMode() == NI)
+        throwNoAccess("implemented");
+    if (!m_running || !m_value.node() || !isReadable(accessMode()))
         return true;
+    const Renewal renewal(m_map);
     return m_value.value(true) != m_commandValue.value();
 }
 
@@ -143,10 +188,18 @@ void CommandNode::setIntValue(int64_t value, bool verify, Changes &changes)
     changes.add(*this);
 }
 
-void CommandNode::setText(const std::string &, bool verify, Changes &changes)
+std::string CommandNode::text(bool)
 {
-    setIntValue(m_commandValue.value(), verify, changes);
-    m_running = true;
+    return isDone() ? "0" : "1";
+}
+
+void CommandNode::setText(const std::string &text, bool, Changes &changes)
+{
+    if (!readBoolean(text).value_or(false)) {
+        ORV_THROW(InvalidArgumentException,
+                  std::string("command '") + name() + "': '" + text + "' does not mean to execute it");
+    }
+    execute(changes);
 }
 
 int64_t EnumEntryNode::GetValue()
@@ -164,7 +217,7 @@ gcstring EnumEntryNode::GetSymbolic() const
 double EnumEntryNode::GetNumericValue()
 {
     const Entry entry(*this, "GetNumericValue");
-    return m_numericValue.value_or(static_cast<double>(m_value));
+    return numericValue();
 }
 
 bool EnumEntryNode::IsSelfClearing()
@@ -189,7 +242,7 @@ void EnumerationNode::GetSymbolics(StringList_t &Symbolics)
     const Entry entry(*this, "GetSymbolics");
     Symbolics.clear();
     for (const EnumEntryNode *each : m_entries) {
-        if (each->accessMode() != NI && each->accessMode() != NA)
+        if (isReadable(each->accessMode()))
             Symbolics.push_back(each->m_symbolic);
     }
 }
@@ -197,7 +250,7 @@ void EnumerationNode::GetSymbolics(StringList_t &Symbolics)
 void EnumerationNode::SetIntValue(int64_t Value, bool Verify)
 {
     change("SetIntValue", [&](Changes &changes) {
-        requireWritable(Verify);
+        const Verification verification(m_map, Verify);
         setIntValue(Value, Verify, changes);
     });
 }
@@ -206,12 +259,23 @@ int64_t EnumerationNode::GetIntValue(bool Verify, bool IgnoreCache)
 {
     const Entry entry(*this, "GetIntValue");
     requireReadable();
+    const Verification verification(m_map, Verify);
     const int64_t value = intValue(IgnoreCache);
-    if (Verify && !find(value)) {
+    if (Verify)
+        checkValue();
+    return value;
+}
+
+void EnumerationNode::checkValue()
+{
+    const int64_t value = intValue(false);
+    const EnumEntryNode *const current = find(value);
+    if (!current) {
         ORV_THROW(OutOfRangeException,
                   std::string("node '") + name() + "' has no entry with the value " + std::to_string(value));
     }
-    return value;
+    current->requireReadable();
+    checkError();
 }
 
 IEnumEntry *EnumerationNode::GetEntryByName(const gcstring &Symbolic)
@@ -234,7 +298,7 @@ IEnumEntry *EnumerationNode::GetCurrentEntry(bool Verify, bool IgnoreCache)
     return find(intValue(IgnoreCache));
 }
 
-EAccessMode EnumerationNode::valueAccess() const
+EAccessMode EnumerationNode::valueAccess(When when) const
 {
     EAccessMode best = m_entries.empty() ? RW : NI;
     for (const EnumEntryNode *entry : m_entries) {
@@ -246,39 +310,92 @@ EAccessMode EnumerationNode::valueAccess() const
             break;
         }
     }
-    return m_value.node() ? combined(best, m_value.node()->accessMode()) : best;
+    return m_value.node() ? combined(best, m_value.node()->accessMode(when)) : best;
 }
 
 void EnumerationNode::setIntValue(int64_t value, bool verify, Changes &changes)
 {
-    if (verify) {
-        const EnumEntryNode *const entry = find(value);
-        if (!entry) {
-            ORV_THROW(InvalidArgumentException,
-                      std::string("node '") + name() + "' has no entry with the value " + std::to_string(value));
-        }
-        entry->requireReadable();
+    if (verify)
+        requireWritable();
+    else if (!isWritable(ownAccess()))
+        throwNoAccess("writable");
+    const EnumEntryNode *const entry = find(value);
+    if (!entry) {
+        ORV_THROW(InvalidArgumentException,
+                  std::string("node '") + name() + "' has no entry with the value " + std::to_string(value));
     }
+    if (verify)
+        entry->requireReadable();
+    else if (entry->implementation() != RW)
+        entry->throwNoAccess("implemented");
+    requireWritable(verify);
     if (Node *const node = m_value.node()) {
         writeLinked(*node, value, verify, changes);
-        return;
+    } else {
+        m_value.setConstant(value);
+        changes.add(*this);
     }
-    m_value.setConstant(value);
-    changes.add(*this);
+    if (verify)
+        checkError();
+}
+
+/** What a self-clearing entry stands for may have ended meanwhile, so the device is asked as long as it is current. */
+int64_t EnumerationNode::intValue(bool ignoreCache)
+{
+    const int64_t value = m_value.value(ignoreCache);
+    const EnumEntryNode *const current = m_hasSelfClearing ? find(value) : nullptr;
+    if (!current || !current->m_selfClearing || ignoreCache)
+        return value;
+    const Renewal renewal(m_map);
+    m_map.startEvaluation();
+    return m_value.value(true);
+}
+
+std::pair<double, double> EnumerationNode::floatRange()
+{
+    return {floatMin(), floatMax()};
+}
+
+double EnumerationNode::floatMin()
+{
+    return -std::numeric_limits<double>::max();
+}
+
+double EnumerationNode::floatMax()
+{
+    return std::numeric_limits<double>::max();
+}
+
+int64_t EnumerationNode::intNumber(bool ignoreCache)
+{
+    return toInteger(floatValue(ignoreCache));
+}
+
+void EnumerationNode::setIntNumber(int64_t value, bool verify, Changes &changes)
+{
+    setFloatValue(static_cast<double>(value), verify, changes);
 }
 
 double EnumerationNode::floatValue(bool ignoreCache)
 {
     const int64_t value = intValue(ignoreCache);
     const EnumEntryNode *const entry = find(value);
-    return entry && entry->m_numericValue ? *entry->m_numericValue : static_cast<double>(value);
+    if (!entry) {
+        ORV_THROW(LogicalErrorException,
+                  std::string("node '") + name() + "' has no entry with the value " + std::to_string(value));
+    }
+    return entry->numericValue();
 }
 
 void EnumerationNode::setFloatValue(double value, bool verify, Changes &changes)
 {
-    const auto found = std::find_if(m_entries.begin(), m_entries.end(),
-                                    [value](const EnumEntryNode *entry) { return entry->m_numericValue == value; });
-    setIntValue(found != m_entries.end() ? (*found)->m_value : roundedToInteger(value), verify, changes);
+    const EnumEntryNode *nearest = nullptr;
+    const auto distance = [value](const EnumEntryNode *entry) { return std::abs(entry->numericValue() - value); };
+    for (const EnumEntryNode *entry : m_entries) {
+        if (isReadable(entry->accessMode()) && (!nearest || distance(entry) < distance(nearest)))
+            nearest = entry;
+    }
+    setIntValue(nearest ? nearest->m_value : roundedToInteger(value), verify, changes);
 }
 
 std::string EnumerationNode::text(bool ignoreCache)

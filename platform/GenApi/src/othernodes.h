@@ -27,14 +27,18 @@ public:
 
     GenApi::EInterfaceType interfaceType() const override { return GenApi::intfICategory; }
     GenApi::EVisibility visibility() const override { return m_derivedVisibility; }
+    bool isCacheValid() const override { return false; }
     std::string text(bool ignoreCache) override;
     void setText(const std::string &text, bool verify, Changes &changes) override;
 
 protected:
-    GenApi::EAccessMode valueAccess() const override;
+    GenApi::EAccessMode computeAccessMode(When when) const override;
 
 private:
     friend class DescriptionLoader;
+
+    bool isImplemented() const;
+    bool hasImplemented() const;
 
     std::vector<Node *> m_features;
     GenApi::EVisibility m_derivedVisibility = GenApi::Invisible;
@@ -52,19 +56,18 @@ public:
 
     GenApi::EInterfaceType interfaceType() const override { return GenApi::intfIBoolean; }
     bool isNumber() const override { return true; }
+    Node *valueNode() override { return m_value.node(); }
     bool isCacheValid() const override { return !m_value.node() || m_value.node()->isCacheValid(); }
 
     /** As a number: 1 or 0, whatever stands for it. */
     int64_t intValue(bool ignoreCache) override { return isOn(ignoreCache); }
     void setIntValue(int64_t value, bool verify, Changes &changes) override;
-    int64_t intMin() override { return 0; }
-    int64_t intMax() override { return 1; }
     void setText(const std::string &text, bool verify, Changes &changes) override;
 
 protected:
-    GenApi::EAccessMode valueAccess() const override
+    GenApi::EAccessMode valueAccess(When when) const override
     {
-        return m_value.node() ? m_value.node()->accessMode() : GenApi::RW;
+        return m_value.node() ? m_value.node()->accessMode(when) : GenApi::RW;
     }
 
 private:
@@ -88,21 +91,36 @@ public:
 
     GenApi::EInterfaceType interfaceType() const override { return GenApi::intfICommand; }
     bool isNumber() const override { return true; }
-    bool isCacheValid() const override { return !m_value.node() || m_value.node()->isCacheValid(); }
+    bool isCacheValid() const override { return false; }
     int64_t intValue(bool ignoreCache) override { return m_value.value(ignoreCache); }
     void setIntValue(int64_t value, bool verify, Changes &changes) override;
+
+    Node *valueNode() override { return m_value.node(); }
+    bool isPolled() const override { return m_running; }
+
+    /** 1 as long as the device is busy with it, else 0. */
+    std::string text(bool ignoreCache) override;
     void setText(const std::string &text, bool verify, Changes &changes) override;
 
 protected:
-    GenApi::EAccessMode valueAccess() const override
+    GenApi::EAccessMode valueAccess(When when) const override
     {
-        return m_value.node() ? m_value.node()->accessMode() : GenApi::RW;
+        return m_value.node() ? m_value.node()->accessMode(when) : GenApi::RW;
+    }
+    GenApi::EAccessMode readAccess() const override
+    {
+        const GenApi::EAccessMode mode = combined(Node::readAccess(), availability(m_commandValue.node()));
+        const bool isBlind =
+            m_value.node() && m_commandValue.node() && !isReadable(m_commandValue.node()->accessMode());
+        return isBlind ? combined(mode, GenApi::NA) : mode;
     }
 
 private:
     friend class DescriptionLoader;
 
     bool isDone();
+    void execute(Changes &changes);
+    void addEnd(Changes &changes);
 
     IntRef m_value;
     IntRef m_commandValue;
@@ -123,15 +141,18 @@ public:
     GenApi::EInterfaceType interfaceType() const override { return GenApi::intfIEnumEntry; }
     bool isNumber() const override { return true; }
     int64_t intValue(bool) override { return m_value; }
-    std::string text(bool) override { return m_symbolic; }
+    std::string text(bool) override { return std::to_string(m_value); }
     void setText(const std::string &text, bool verify, Changes &changes) override;
 
 protected:
-    GenApi::EAccessMode valueAccess() const override { return GenApi::RO; }
+    GenApi::EAccessMode openAccess() const override { return GenApi::RO; }
+    GenApi::EAccessMode valueAccess(When) const override { return GenApi::RO; }
 
 private:
     friend class DescriptionLoader;
     friend class EnumerationNode;
+
+    double numericValue() const { return m_numericValue.value_or(static_cast<double>(m_value)); }
 
     const char *m_symbolic = "";
     int64_t m_value = 0;
@@ -155,21 +176,30 @@ public:
 
     GenApi::EInterfaceType interfaceType() const override { return GenApi::intfIEnumeration; }
     bool isNumber() const override { return true; }
+    Node *valueNode() override { return m_value.node(); }
     bool isCacheValid() const override { return !m_value.node() || m_value.node()->isCacheValid(); }
-    int64_t intValue(bool ignoreCache) override { return m_value.value(ignoreCache); }
+    int64_t intValue(bool ignoreCache) override;
     void setIntValue(int64_t value, bool verify, Changes &changes) override;
 
-    /** As a floating-point number: the numeric value of the current entry, where it has one of its own. */
+    /** As a number of other nodes: the numeric value of the current entry; written, that of the nearest one. */
+    int64_t intNumber(bool ignoreCache) override;
+    void setIntNumber(int64_t value, bool verify, Changes &changes) override;
     double floatValue(bool ignoreCache) override;
     void setFloatValue(double value, bool verify, Changes &changes) override;
+    double floatMin() override;
+    double floatMax() override;
+    std::pair<double, double> floatRange() override;
     GenApi::EIncMode incrementMode() override { return GenApi::noIncrement; }
+    /** Intentionally: what an entry stands for is polled where it is kept, in a register. */
+    bool isPolled() const override { return false; }
+    void checkValue() override;
     std::string text(bool ignoreCache) override;
     void setText(const std::string &text, bool verify, Changes &changes) override;
     int64_t entryValue(std::string_view symbolic) override;
 
 protected:
     /** Nothing can be chosen where no entry is: then the enumeration is not available or not implemented itself. */
-    GenApi::EAccessMode valueAccess() const override;
+    GenApi::EAccessMode valueAccess(When when) const override;
 
 private:
     friend class DescriptionLoader;
@@ -179,6 +209,7 @@ private:
 
     std::vector<EnumEntryNode *> m_entries;
     IntRef m_value;
+    bool m_hasSelfClearing = false;
 };
 
 } // namespace OrvGenApi

@@ -44,9 +44,23 @@ void PortNode::write(const void *buffer, int64_t address, int64_t length)
     guarded("writing", [&] { connected()->Write(buffer, address, length); });
 }
 
-GenApi::EAccessMode PortNode::valueAccess() const
+const std::string *PortNode::kept(int64_t address, int64_t length) const
 {
-    GenApi::EAccessMode mode = GenApi::NI;
+    const auto found = m_kept.find({address, length});
+    return found == m_kept.end() ? nullptr : &found->second;
+}
+
+void PortNode::keep(int64_t address, int64_t length, std::string bytes)
+{
+    constexpr std::size_t most = 100000; // registers that wander leave something behind wherever they were
+    if (m_kept.size() >= most)
+        m_kept.clear();
+    m_kept[{address, length}] = std::move(bytes);
+}
+
+GenApi::EAccessMode PortNode::valueAccess(When) const
+{
+    GenApi::EAccessMode mode = m_isChunk ? GenApi::NA : GenApi::NI; // a chunk comes and goes
     if (m_port)
         guarded("asking for access", [&] { mode = m_port->GetAccessMode(); });
     return mode;

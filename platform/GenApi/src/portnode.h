@@ -17,7 +17,11 @@ public:
 
     GenApi::EInterfaceType interfaceType() const override { return GenApi::intfIPort; }
 
-    void connect(GenApi::IPort *port) { m_port = port; }
+    void connect(GenApi::IPort *port)
+    {
+        m_port = port;
+        m_kept.clear();
+    }
 
     /** Whether registers behind this port have their bytes the other way round. */
     bool swapsEndianness() const { return m_swapEndianness; }
@@ -25,8 +29,16 @@ public:
     void read(void *buffer, int64_t address, int64_t length);
     void write(const void *buffer, int64_t address, int64_t length);
 
+    /**
+     * What was read from or written to a range of bytes last; null when that is not known. Registers at the same place
+     * share it, and none looks at the others' when ranges only overlap.
+     */
+    const std::string *kept(int64_t address, int64_t length) const;
+    void keep(int64_t address, int64_t length, std::string bytes);
+    void drop(int64_t address, int64_t length) { m_kept.erase({address, length}); }
+
 protected:
-    GenApi::EAccessMode valueAccess() const override;
+    GenApi::EAccessMode valueAccess(When) const override;
 
 private:
     friend class DescriptionLoader;
@@ -35,8 +47,27 @@ private:
     void guarded(const char *what, const Deed &deed) const;
     GenApi::IPort *connected() const;
 
+    struct Place
+    {
+        int64_t address;
+        int64_t length;
+
+        bool operator==(const Place &other) const { return address == other.address && length == other.length; }
+    };
+
+    struct PlaceHash
+    {
+        std::size_t operator()(const Place &place) const
+        {
+            return std::hash<uint64_t>()(static_cast<uint64_t>(place.address) * 31
+                                         + static_cast<uint64_t>(place.length));
+        }
+    };
+
+    std::unordered_map<Place, std::string, PlaceHash> m_kept;
     GenApi::IPort *m_port = nullptr;
     bool m_swapEndianness = false;
+    bool m_isChunk = false; ///< for data that come with an image
 };
 
 } // namespace OrvGenApi

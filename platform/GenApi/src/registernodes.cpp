@@ -19,9 +19,19 @@ constexpr int64_t maximumLength = 16 * 1024 * 1024; ///< bytes; longer registers
 
 } // namespace
 
-EAccessMode RegisterData::access() const
+EAccessMode RegisterData::access(Node::When when) const
 {
-    return m_port ? combined(m_accessMode, m_port->accessMode()) : NI;
+    return m_port ? combined(m_accessMode, m_port->accessMode(when)) : NI;
+}
+
+EAccessMode RegisterData::placeAccess() const
+{
+    EAccessMode mode = Node::availability(m_length.node());
+    for (const AddressTerm &term : m_addressTerms) {
+        mode = combined(mode, Node::availability(term.value.node()));
+        mode = combined(mode, Node::availability(term.offset.node()));
+    }
+    return mode;
 }
 
 int64_t RegisterData::length(const Node &owner)
@@ -70,54 +80,61 @@ void RegisterData::requirePort(const Node &owner) const
         throwProperty(owner, "it has no port");
 }
 
-const std::string &RegisterData::read(Node &owner, bool ignoreCache)
+std::string RegisterData::read(Node &owner, bool ignoreCache)
 {
     requirePort(owner);
     const Place at = place(owner);
-    const auto count = static_cast<std::size_t>(at.length);
-    if (((m_kept && !ignoreCache) || m_readEvaluation == owner.map().evaluation()) && at.address == m_keptAddress
-        && m_bytes.size() == count)
-        return m_bytes;
-    const bool hadKept = m_kept;
-    m_kept = false;
-    m_readEvaluation = 0;
-    std::string bytes(count, '\0');
+    const bool isKept = owner.cachingMode() != NoCache;
+    if (!ignoreCache && isKept) {
+        if (const std::string *const kept = m_port->kept(at.address, at.length))
+            return *kept;
+    }
+    m_port->drop(at.address, at.length);
+    std::string bytes(static_cast<std::size_t>(at.length), '\0');
     m_port->read(bytes.data(), at.address, at.length);
-    // What others have computed from the old bytes is not true any more.
-    if (hadKept && bytes != m_bytes)
-        Changes(owner.map()).addRead(owner);
-    m_bytes.swap(bytes);
-    m_keptAddress = at.address;
-    m_readEvaluation = owner.map().evaluation();
-    m_kept = owner.cachingMode() != NoCache;
-    return m_bytes;
+    if (isKept && (!ignoreCache || owner.map().m_renewing))
+        m_port->keep(at.address, at.length, bytes);
+    return bytes;
 }
 
 void RegisterData::write(Node &owner, std::string bytes, Changes &changes)
 {
     requirePort(owner);
-    const int64_t to = address(owner);
-    m_kept = false;
-    m_readEvaluation = 0;
+    const Place at = place(owner);
+    m_port->drop(at.address, at.length);
     changes.add(owner); // before writing: when the port fails half-way, nothing that was kept can be trusted
-    m_port->write(bytes.data(), to, static_cast<int64_t>(bytes.size()));
-    m_kept = owner.cachingMode() == WriteThrough && isReadable(m_accessMode);
-    m_bytes = std::move(bytes);
-    m_keptAddress = to;
+    m_port->write(bytes.data(), at.address, static_cast<int64_t>(bytes.size()));
+    if (owner.cachingMode() == WriteThrough && static_cast<int64_t>(bytes.size()) == at.length)
+        m_port->keep(at.address, at.length, std::move(bytes));
+}
+
+void RegisterData::dropCache()
+{
+    if (m_port && m_place.addressIn != 0)
+        m_port->drop(m_place.address, m_place.length);
+}
+
+/** A part of a register, from its start, is as good as the whole. */
+void RegisterData::requireLength(const Node &owner, const void *buffer, int64_t length)
+{
+    if (!buffer || length < 0)
+        ORV_THROW(InvalidArgumentException, std::string("register '") + owner.name() + "': no bytes");
+    if (length > this->length(owner)) {
+        ORV_THROW(OutOfRangeException,
+                  std::string("register '") + owner.name() + "' has less than " + std::to_string(length) + " bytes");
+    }
 }
 
 void RegisterData::get(Node &owner, uint8_t *buffer, int64_t length, bool ignoreCache)
 {
-    const std::string &bytes = read(owner, ignoreCache);
-    if (!buffer || length != static_cast<int64_t>(bytes.size()))
-        ORV_THROW(InvalidArgumentException, std::string("register '") + owner.name() + "' has another length");
-    std::memcpy(buffer, bytes.data(), bytes.size());
+    const std::string bytes = read(owner, ignoreCache);
+    requireLength(owner, buffer, length);
+    std::memcpy(buffer, bytes.data(), static_cast<std::size_t>(length));
 }
 
 void RegisterData::set(Node &owner, const uint8_t *buffer, int64_t length, Changes &changes)
 {
-    if (!buffer || length != this->length(owner))
-        ORV_THROW(InvalidArgumentException, std::string("register '") + owner.name() + "' has another length");
+    requireLength(owner, buffer, length);
     write(owner, std::string(reinterpret_cast<const char *>(buffer), static_cast<std::size_t>(length)), changes);
 }
 
@@ -153,7 +170,7 @@ std::string IntRegisterNode::bytesOf(uint64_t raw, std::size_t length) const
     return bytes;
 }
 
-int64_t IntRegisterNode::intValue(bool ignoreCache)
+int64_t IntRegisterNode::readInt(bool ignoreCache)
 {
     const Bits field = bits();
     const uint64_t raw = rawOf(m_register.read(*this, ignoreCache)) >> field.lowest;
@@ -164,18 +181,15 @@ int64_t IntRegisterNode::intValue(bool ignoreCache)
     return static_cast<int64_t>((value ^ sign) - sign);
 }
 
-void IntRegisterNode::setIntValue(int64_t value, bool verify, Changes &changes)
+void IntRegisterNode::writeInt(int64_t value, bool, Changes &changes)
 {
-    if (verify)
-        checkRange(value);
     const Bits field = bits();
     const auto length = static_cast<std::size_t>(m_register.length(*this));
     uint64_t raw = static_cast<uint64_t>(value);
     if (field.count < 8 * length) {
-        // The other bits belong to other nodes, so what is kept here of them may be old.
-        requireReadable();
+        requireReadable(); // the other bits belong to other nodes
         const uint64_t mask = ((uint64_t(1) << field.count) - 1) << field.lowest;
-        raw = (raw << field.lowest & mask) | (rawOf(m_register.read(*this, true)) & ~mask);
+        raw = (raw << field.lowest & mask) | (rawOf(m_register.read(*this, false)) & ~mask);
     }
     m_register.write(*this, bytesOf(raw, length), changes);
 }
@@ -198,7 +212,7 @@ double FloatRegisterNode::floatMax()
     return m_register.length(*this) == 4 ? std::numeric_limits<float>::max() : std::numeric_limits<double>::max();
 }
 
-double FloatRegisterNode::floatValue(bool ignoreCache)
+double FloatRegisterNode::readFloat(bool ignoreCache)
 {
     std::string bytes = m_register.read(*this, ignoreCache);
     if (m_register.isBigEndian())
@@ -215,10 +229,8 @@ double FloatRegisterNode::floatValue(bool ignoreCache)
     return value;
 }
 
-void FloatRegisterNode::setFloatValue(double value, bool verify, Changes &changes)
+void FloatRegisterNode::writeFloat(double value, bool, Changes &changes)
 {
-    if (verify)
-        checkRange(value);
     const auto length = static_cast<std::size_t>(m_register.length(*this));
     std::string bytes(length, '\0');
     if (length == sizeof(float)) {
@@ -237,25 +249,24 @@ void FloatRegisterNode::setFloatValue(double value, bool verify, Changes &change
 
 void StringBase::SetValue(const gcstring &Value, bool Verify)
 {
-    change("SetValue", [&](Changes &changes) {
-        requireWritable(Verify);
-        setText(Value.c_str(), Verify, changes);
-    });
+    change("SetValue", [&](Changes &changes) { setText(Value.c_str(), Verify, changes); });
 }
 
 gcstring StringBase::GetValue(bool Verify, bool IgnoreCache)
 {
-    (void)Verify;
     const Entry entry(*this, "GetValue");
     requireReadable();
-    return gcstring(text(IgnoreCache));
+    const Verification verification(m_map, Verify);
+    const std::string value = text(IgnoreCache);
+    if (Verify)
+        checkError();
+    return gcstring(value);
 }
 
 int64_t StringBase::GetMaxLength(bool Verify)
 {
     (void)Verify;
     const Entry entry(*this, "GetMaxLength");
-    requireAvailable();
     return maximumTextLength();
 }
 
@@ -269,37 +280,43 @@ std::string StringNode::text(bool ignoreCache)
 
 void StringNode::setText(const std::string &text, bool verify, Changes &changes)
 {
+    requireWritable(verify);
     if (m_node) {
-        m_node->requireWritable(verify);
         m_node->setText(text, verify, changes);
-        return;
+    } else {
+        m_text = text;
+        changes.add(*this);
     }
-    m_text = text;
-    changes.add(*this);
+    if (verify)
+        checkError();
 }
 
 int64_t StringNode::maximumTextLength()
 {
-    constexpr int64_t unlimited = 0x3FFFFFFC; // what the reference implementation answers
+    constexpr int64_t unlimited = 0x3FFFFFFC;
+    if (!isWritable(accessMode()))
+        return static_cast<int64_t>(text(false).size());
     return m_node ? m_node->maximumTextLength() : unlimited;
 }
 
 std::string StringRegisterNode::text(bool ignoreCache)
 {
-    const std::string &bytes = m_register.read(*this, ignoreCache);
+    const std::string bytes = m_register.read(*this, ignoreCache);
     return bytes.substr(0, bytes.find('\0'));
 }
 
 int64_t StringRegisterNode::maximumTextLength()
 {
-    // Nothing longer than what it holds can ever be in a text that only the device writes.
-    if (isReadable(unlockedAccessMode()) && !isWritable(unlockedAccessMode()))
-        return static_cast<int64_t>(text(false).size());
-    return m_register.length(*this);
+    // Nothing longer than what it holds is ever in a text that cannot be written.
+    if (isWritable(accessMode()))
+        return m_register.length(*this);
+    requireReadable();
+    return static_cast<int64_t>(text(false).size());
 }
 
-void StringRegisterNode::setText(const std::string &text, bool, Changes &changes)
+void StringRegisterNode::setText(const std::string &text, bool verify, Changes &changes)
 {
+    requireWritable(verify);
     const auto length = static_cast<std::size_t>(m_register.length(*this));
     if (text.size() > length) {
         ORV_THROW(OutOfRangeException,
@@ -321,20 +338,22 @@ std::string RegisterNode::text(bool ignoreCache)
     return text;
 }
 
-void RegisterNode::setText(const std::string &text, bool, Changes &changes)
+void RegisterNode::setText(const std::string &text, bool verify, Changes &changes)
 {
+    requireWritable(verify);
     std::string_view digits = trimmed(text);
     if (digits.substr(0, 2) == "0x" || digits.substr(0, 2) == "0X")
         digits.remove_prefix(2);
     std::string bytes;
     for (std::size_t i = 0; i + 1 < digits.size(); i += 2) {
-        const std::optional<int64_t> byte = parseInteger("0x" + std::string(digits.substr(i, 2)));
+        const std::optional<int64_t> byte = readInteger("0x" + std::string(digits.substr(i, 2)), HexNumber);
         if (!byte)
             break;
         bytes += static_cast<char>(*byte);
     }
-    if (bytes.size() * 2 != digits.size() || static_cast<int64_t>(bytes.size()) != m_register.length(*this))
-        ORV_THROW(InvalidArgumentException, std::string("node '") + name() + "': not the bytes of this register");
+    if (bytes.empty() || bytes.size() * 2 != digits.size())
+        ORV_THROW(InvalidArgumentException, std::string("node '") + name() + "': not the bytes of a register");
+    bytes.resize(std::min(bytes.size(), static_cast<std::size_t>(m_register.length(*this))));
     m_register.write(*this, std::move(bytes), changes);
 }
 

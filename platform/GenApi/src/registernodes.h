@@ -20,22 +20,25 @@ public:
         IntRef offset;
     };
 
-    GenApi::EAccessMode access() const;
+    GenApi::EAccessMode access(Node::When when) const;
+
+    /** What the nodes allow that say where it is. */
+    GenApi::EAccessMode placeAccess() const;
 
     /** Both are checked: an address that overflows or a length that makes no sense throws. */
     int64_t address(const Node &owner) { return place(owner).address; }
     int64_t length(const Node &owner);
 
-    /** The bytes, in the device's order. Valid until the next call of any operation. */
-    const std::string &read(Node &owner, bool ignoreCache);
+    /** The bytes, in the device's order. */
+    std::string read(Node &owner, bool ignoreCache);
     void write(Node &owner, std::string bytes, Changes &changes);
 
     /** The same for a caller's buffer, whose length must be that of the register. */
     void get(Node &owner, uint8_t *buffer, int64_t length, bool ignoreCache);
     void set(Node &owner, const uint8_t *buffer, int64_t length, Changes &changes);
 
-    void dropCache() { m_kept = false; }
-    bool isCacheValid() const { return m_kept; }
+    /** Takes what the port keeps of the place where the register was found last. */
+    void dropCache();
     bool isBigEndian() const { return m_bigEndian != (m_port && m_port->swapsEndianness()); }
 
 private:
@@ -53,17 +56,14 @@ private:
     const Place &place(const Node &owner);
     int64_t computeAddress(const Node &owner);
     void requirePort(const Node &owner) const;
+    void requireLength(const Node &owner, const void *buffer, int64_t length);
 
     PortNode *m_port = nullptr;
     std::vector<AddressTerm> m_addressTerms;
     IntRef m_length;
-    std::string m_bytes;
     Place m_place;
-    int64_t m_keptAddress = 0;
-    uint64_t m_readEvaluation = 0; ///< the evaluation that read m_bytes, whatever the caching mode
     GenApi::EAccessMode m_accessMode = GenApi::RO;
     GenApi::ECachingMode m_cachable = GenApi::WriteThrough;
-    bool m_kept = false; ///< m_bytes is what the register holds
     bool m_bigEndian = false;
 };
 
@@ -78,6 +78,7 @@ public:
     {
         this->change("Set", [&](Changes &changes) {
             this->requireWritable(Verify);
+            Base::dropCache();
             m_register.set(*this, pBuffer, Length, changes);
         });
     }
@@ -104,13 +105,17 @@ public:
         return m_register.address(*this);
     }
 
-    void dropCache() override { m_register.dropCache(); }
-    bool isCacheValid() const override { return m_register.isCacheValid(); }
+    void dropCache() override
+    {
+        Base::dropCache();
+        m_register.dropCache();
+    }
 
 protected:
     friend class DescriptionLoader;
 
-    GenApi::EAccessMode valueAccess() const override { return m_register.access(); }
+    GenApi::EAccessMode valueAccess(Node::When when) const override { return m_register.access(when); }
+    GenApi::EAccessMode readAccess() const override { return combined(Node::readAccess(), m_register.placeAccess()); }
 
     RegisterData m_register;
 };
@@ -121,12 +126,20 @@ class IntRegisterNode final : public RegisterValue<IntegerBase>
 public:
     using RegisterValue::RegisterValue;
 
-    int64_t intValue(bool ignoreCache) override;
-    void setIntValue(int64_t value, bool verify, Changes &changes) override;
     int64_t intMin() override;
     int64_t intMax() override;
-    GenApi::ERepresentation representation() const override { return m_presentation.representationOf(nullptr); }
-    const char *unit() const override { return m_presentation.unitOf(nullptr); }
+    GenApi::ERepresentation representation() override
+    {
+        return m_presentation.representationOf([]() -> Node * { return nullptr; });
+    }
+    const char *unit() override
+    {
+        return m_presentation.unitOf([]() -> Node * { return nullptr; });
+    }
+
+protected:
+    int64_t readInt(bool ignoreCache) override;
+    void writeInt(int64_t value, bool verify, Changes &changes) override;
 
 private:
     friend class DescriptionLoader;
@@ -154,14 +167,28 @@ class FloatRegisterNode final : public RegisterValue<FloatBase>
 public:
     using RegisterValue::RegisterValue;
 
-    double floatValue(bool ignoreCache) override;
-    void setFloatValue(double value, bool verify, Changes &changes) override;
     double floatMin() override { return -floatMax(); }
     double floatMax() override;
-    GenApi::ERepresentation representation() const override { return m_presentation.representationOf(nullptr); }
-    const char *unit() const override { return m_presentation.unitOf(nullptr); }
-    GenApi::EDisplayNotation displayNotation() const override { return m_presentation.notationOf(nullptr); }
-    int64_t displayPrecision() const override { return m_presentation.precisionOf(nullptr); }
+    GenApi::ERepresentation representation() override
+    {
+        return m_presentation.representationOf([]() -> Node * { return nullptr; });
+    }
+    const char *unit() override
+    {
+        return m_presentation.unitOf([]() -> Node * { return nullptr; });
+    }
+    GenApi::EDisplayNotation displayNotation() override
+    {
+        return m_presentation.notationOf([]() -> Node * { return nullptr; });
+    }
+    int64_t displayPrecision() override
+    {
+        return m_presentation.precisionOf([]() -> Node * { return nullptr; });
+    }
+
+protected:
+    double readFloat(bool ignoreCache) override;
+    void writeFloat(double value, bool verify, Changes &changes) override;
 
 private:
     friend class DescriptionLoader;
@@ -188,13 +215,14 @@ class StringNode final : public StringBase
 public:
     using StringBase::StringBase;
 
+    Node *valueNode() override { return m_node; }
     bool isCacheValid() const override { return !m_node || m_node->isCacheValid(); }
     std::string text(bool ignoreCache) override;
     void setText(const std::string &text, bool verify, Changes &changes) override;
     int64_t maximumTextLength() override;
 
 protected:
-    GenApi::EAccessMode valueAccess() const override { return m_node ? m_node->accessMode() : GenApi::RW; }
+    GenApi::EAccessMode valueAccess(When when) const override { return m_node ? m_node->accessMode(when) : GenApi::RW; }
 
 private:
     friend class DescriptionLoader;
@@ -209,6 +237,7 @@ class StringRegisterNode final : public RegisterValue<StringBase>
 public:
     using RegisterValue::RegisterValue;
 
+    bool isCacheValid() const override { return false; }
     std::string text(bool ignoreCache) override;
     void setText(const std::string &text, bool verify, Changes &changes) override;
     int64_t maximumTextLength() override;
@@ -221,6 +250,7 @@ public:
     using RegisterValue::RegisterValue;
 
     GenApi::EInterfaceType interfaceType() const override { return GenApi::intfIRegister; }
+    bool isCacheValid() const override { return false; }
     std::string text(bool ignoreCache) override;
     void setText(const std::string &text, bool verify, Changes &changes) override;
 };

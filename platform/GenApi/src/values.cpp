@@ -10,7 +10,7 @@ using GenICam::gcstring;
 void IntegerBase::SetValue(int64_t Value, bool Verify)
 {
     change("SetValue", [&](Changes &changes) {
-        requireWritable(Verify);
+        const Verification verification(m_map, Verify);
         setIntValue(Value, Verify, changes);
     });
 }
@@ -19,31 +19,56 @@ int64_t IntegerBase::GetValue(bool Verify, bool IgnoreCache)
 {
     const Entry entry(*this, "GetValue");
     requireReadable();
-    const int64_t value = intValue(IgnoreCache);
-    if (Verify)
-        checkRange(value);
-    return value;
+    const Verification verification(m_map, Verify);
+    return intValue(IgnoreCache);
 }
 
 int64_t IntegerBase::GetMin()
 {
     const Entry entry(*this, "GetMin");
     requireAvailable();
-    return intMin();
+    return lowest();
+}
+
+void IntegerBase::ImposeMin(int64_t Value)
+{
+    change("ImposeMin", [&](Changes &) {
+        m_map.m_extras[this].intLimits.first = Value;
+        m_hasImposedLimits = true;
+    });
+}
+
+void IntegerBase::ImposeMax(int64_t Value)
+{
+    change("ImposeMax", [&](Changes &) {
+        m_map.m_extras[this].intLimits.second = Value;
+        m_hasImposedLimits = true;
+    });
+}
+
+/** The limits with those that an application imposes. */
+int64_t IntegerBase::lowest()
+{
+    return m_hasImposedLimits ? std::max(intMin(), m_map.m_extras[this].intLimits.first) : intMin();
+}
+
+int64_t IntegerBase::highest()
+{
+    return m_hasImposedLimits ? std::min(intMax(), m_map.m_extras[this].intLimits.second) : intMax();
 }
 
 int64_t IntegerBase::GetMax()
 {
     const Entry entry(*this, "GetMax");
     requireAvailable();
-    return intMax();
+    return highest();
 }
 
 int64_t IntegerBase::GetInc()
 {
     const Entry entry(*this, "GetInc");
     requireAvailable();
-    return incrementMode() == listIncrement ? 1 : intIncrement();
+    return intIncrement();
 }
 
 EIncMode IntegerBase::GetIncMode()
@@ -55,7 +80,6 @@ EIncMode IntegerBase::GetIncMode()
 int64_autovector_t IntegerBase::GetListOfValidValues(bool bounded)
 {
     const Entry entry(*this, "GetListOfValidValues");
-    requireAvailable();
     return int64_autovector_t(validInts(bounded));
 }
 
@@ -73,27 +97,60 @@ gcstring IntegerBase::GetUnit()
 
 void IntegerBase::checkRange(int64_t value)
 {
-    const int64_t minimum = intMin();
-    const int64_t maximum = intMax();
+    const Verification unverified(m_map, false);
     const auto fail = [&](const std::string &why) {
         ORV_THROW(OutOfRangeException, std::string("node '") + name() + "': " + std::to_string(value) + why);
     };
+    const int64_t minimum = lowest();
     if (value < minimum)
         fail(" is below the minimum " + std::to_string(minimum));
+    const int64_t maximum = highest();
     if (value > maximum)
         fail(" is above the maximum " + std::to_string(maximum));
-    if (incrementMode() != fixedIncrement)
-        return;
     const int64_t increment = intIncrement();
+    if (increment <= 0)
+        ORV_THROW(LogicalErrorException, std::string("node '") + name() + "': its increment is not above 0");
     const uint64_t offset = static_cast<uint64_t>(value) - static_cast<uint64_t>(minimum);
     if (increment > 1 && offset % static_cast<uint64_t>(increment) != 0)
         fail(" is off the increment " + std::to_string(increment) + " from " + std::to_string(minimum));
 }
 
+void IntegerBase::dropCache()
+{
+    Node::dropCache();
+    m_kept.drop();
+}
+
+int64_t IntegerBase::intValue(bool ignoreCache)
+{
+    const bool mustVerify = m_map.m_verifying && m_kept.mustCheck(*this);
+    const int64_t value = m_kept.valueOr(*this, ignoreCache, mustVerify, [&] { return readInt(ignoreCache); });
+    if (mustVerify) {
+        checkRange(value);
+        checkError();
+    }
+    return value;
+}
+
+/** What is kept goes even when the write is refused: whoever tried has reason to look again. */
+void IntegerBase::setIntValue(int64_t value, bool verify, Changes &changes)
+{
+    const Descent descent(*this);
+    m_kept.drop();
+    requireWritable(verify);
+    if (verify)
+        checkRange(value);
+    writeInt(value, verify, changes);
+    if (cachingMode() == WriteThrough && keepsWritten())
+        m_kept.keep(value);
+    if (verify)
+        checkError();
+}
+
 void FloatBase::SetValue(double Value, bool Verify)
 {
     change("SetValue", [&](Changes &changes) {
-        requireWritable(Verify);
+        const Verification verification(m_map, Verify);
         setFloatValue(Value, Verify, changes);
     });
 }
@@ -102,24 +159,49 @@ double FloatBase::GetValue(bool Verify, bool IgnoreCache)
 {
     const Entry entry(*this, "GetValue");
     requireReadable();
-    const double value = floatValue(IgnoreCache);
-    if (Verify)
-        checkRange(value);
-    return value;
+    const Verification verification(m_map, Verify);
+    return floatValue(IgnoreCache);
 }
 
 double FloatBase::GetMin()
 {
     const Entry entry(*this, "GetMin");
     requireAvailable();
-    return floatMin();
+    return lowest();
+}
+
+void FloatBase::ImposeMin(double Value)
+{
+    change("ImposeMin", [&](Changes &) {
+        m_map.m_extras[this].floatLimits.first = Value;
+        m_hasImposedLimits = true;
+    });
+}
+
+void FloatBase::ImposeMax(double Value)
+{
+    change("ImposeMax", [&](Changes &) {
+        m_map.m_extras[this].floatLimits.second = Value;
+        m_hasImposedLimits = true;
+    });
+}
+
+/** The limits with those that an application imposes. */
+double FloatBase::lowest()
+{
+    return m_hasImposedLimits ? std::max(floatMin(), m_map.m_extras[this].floatLimits.first) : floatMin();
+}
+
+double FloatBase::highest()
+{
+    return m_hasImposedLimits ? std::min(floatMax(), m_map.m_extras[this].floatLimits.second) : floatMax();
 }
 
 double FloatBase::GetMax()
 {
     const Entry entry(*this, "GetMax");
     requireAvailable();
-    return floatMax();
+    return highest();
 }
 
 bool FloatBase::HasInc()
@@ -144,14 +226,13 @@ double FloatBase::GetInc()
     case listIncrement:
         return 1;
     default:
-        ORV_THROW(LogicalErrorException, std::string("node '") + name() + "' has no increment");
+        ORV_THROW(RuntimeException, std::string("node '") + name() + "' has no increment");
     }
 }
 
 double_autovector_t FloatBase::GetListOfValidValues(bool bounded)
 {
     const Entry entry(*this, "GetListOfValidValues");
-    requireAvailable();
     return double_autovector_t(validFloats(bounded));
 }
 
@@ -164,19 +245,19 @@ ERepresentation FloatBase::GetRepresentation()
 gcstring FloatBase::GetUnit() const
 {
     const Entry entry(*this, "GetUnit");
-    return unit();
+    return const_cast<FloatBase *>(this)->unit();
 }
 
 EDisplayNotation FloatBase::GetDisplayNotation() const
 {
     const Entry entry(*this, "GetDisplayNotation");
-    return displayNotation();
+    return const_cast<FloatBase *>(this)->displayNotation();
 }
 
 int64_t FloatBase::GetDisplayPrecision() const
 {
     const Entry entry(*this, "GetDisplayPrecision");
-    return displayPrecision();
+    return const_cast<FloatBase *>(this)->displayPrecision();
 }
 
 double FloatBase::floatMin()
@@ -194,69 +275,64 @@ double FloatBase::floatIncrement()
     return 0;
 }
 
+void FloatBase::dropCache()
+{
+    Node::dropCache();
+    m_kept.drop();
+}
+
+double FloatBase::floatValue(bool ignoreCache)
+{
+    const bool mustVerify = m_map.m_verifying && m_kept.mustCheck(*this);
+    const double value = m_kept.valueOr(*this, ignoreCache, mustVerify, [&] { return readFloat(ignoreCache); });
+    if (mustVerify) {
+        checkRange(value);
+        checkError();
+    }
+    return value;
+}
+
+void FloatBase::setFloatValue(double value, bool verify, Changes &changes)
+{
+    const Descent descent(*this);
+    m_kept.drop();
+    requireWritable(verify);
+    if (verify)
+        checkRange(value);
+    writeFloat(value, verify, changes);
+    if (cachingMode() == WriteThrough && keepsWritten())
+        m_kept.keep(value);
+    if (verify)
+        checkError();
+}
+
 void FloatBase::checkRange(double value)
 {
-    const double minimum = floatMin();
-    const double maximum = floatMax();
+    const Verification unverified(m_map, false);
     const auto fail = [&](const std::string &why) {
         ORV_THROW(OutOfRangeException,
                   std::string("node '") + name() + "': " + formatFloat(value, fnAutomatic, 12) + why);
     };
     if (std::isnan(value))
         fail(" is no number");
+    const double minimum = lowest();
     if (value < minimum)
         fail(" is below the minimum " + formatFloat(minimum, fnAutomatic, 12));
+    const double maximum = highest();
     if (value > maximum)
         fail(" is above the maximum " + formatFloat(maximum, fnAutomatic, 12));
-    if (incrementMode() != fixedIncrement)
-        return;
-    const double increment = floatIncrement();
-    if (!(increment > 0))
-        return;
-    // A decimal fraction is rarely exact in binary: what is as good as on the grid counts as on it.
-    const double steps = (value - minimum) / increment;
-    if (std::isfinite(steps) && std::abs(steps - std::round(steps)) > 1e-6 * std::max(1.0, std::abs(steps) * 1e-6))
-        fail(" is off the increment " + formatFloat(increment, fnAutomatic, 12));
 }
 
 void writeLinked(Node &node, int64_t value, bool verify, Changes &changes)
 {
-    node.requireWritable(verify);
     changes.countWrite(node);
-    node.setIntValue(value, verify, changes);
+    node.setIntNumber(value, verify, changes);
 }
 
 void writeLinked(Node &node, double value, bool verify, Changes &changes)
 {
-    node.requireWritable(verify);
     changes.countWrite(node);
     node.setFloatValue(value, verify, changes);
-}
-
-const char *Presentation::unitOf(const Node *value) const
-{
-    return unit ? unit : value ? value->unit() : "";
-}
-
-ERepresentation Presentation::representationOf(const Node *value) const
-{
-    if (representation != _UndefinedRepresentation)
-        return representation;
-    return value ? value->representation() : PureNumber;
-}
-
-EDisplayNotation Presentation::notationOf(const Node *value) const
-{
-    if (notation != _UndefinedEDisplayNotation)
-        return notation;
-    return value ? value->displayNotation() : fnAutomatic;
-}
-
-int64_t Presentation::precisionOf(const Node *value) const
-{
-    if (precision >= 0)
-        return precision;
-    return value ? value->displayPrecision() : 6;
 }
 
 } // namespace OrvGenApi

@@ -39,7 +39,7 @@ public:
         if constexpr (std::is_same_v<Number, double>)
             return m_node->floatValue(ignoreCache);
         else
-            return m_node->intValue(ignoreCache);
+            return m_node->intNumber(ignoreCache);
     }
 
 private:
@@ -75,16 +75,21 @@ public:
 
     GenICam::gcstring ToString(bool Verify, bool IgnoreCache) override
     {
-        (void)Verify;
         const Entry entry(*this, "ToString");
         requireReadable();
-        return GenICam::gcstring(text(IgnoreCache));
+        const Verification verification(m_map, Verify);
+        const std::string result = text(IgnoreCache);
+        if (Verify)
+            checkValue();
+        return GenICam::gcstring(result);
     }
 
     void FromString(const GenICam::gcstring &ValueStr, bool Verify) override
     {
         change("FromString", [&](Changes &changes) {
-            requireWritable(Verify);
+            const Verification verification(m_map, Verify);
+            if (Verify)
+                requireWritable();
             setText(ValueStr.c_str(), Verify, changes);
         });
     }
@@ -96,6 +101,57 @@ public:
     }
 
     GenApi::IValue *asValue() override { return this; }
+};
+
+/** What a node keeps of its number. */
+template <typename Number>
+class KeptNumber
+{
+public:
+    bool isKept() const { return m_isKept; }
+    void drop()
+    {
+        m_isKept = false;
+        m_readIn = 0;
+    }
+    /** True once in an evaluation. */
+    bool mustCheck(const Node &owner)
+    {
+        if (m_checkedIn == owner.map().evaluation())
+            return false;
+        m_checkedIn = owner.map().evaluation();
+        return true;
+    }
+    void keep(Number value)
+    {
+        m_value = value;
+        m_isKept = true;
+    }
+
+    /**
+     * The kept number, or what \a read() gives; one evaluation asks the device only once, whatever is kept. \a
+     * mustVerify makes it be read again, so that what it is made of is looked at as well.
+     */
+    template <typename Read>
+    Number valueOr(Node &owner, bool ignoreCache, bool mustVerify, const Read &read)
+    {
+        if (!mustVerify && ((m_isKept && !ignoreCache) || m_readIn == owner.map().evaluation()))
+            return m_value;
+        if (!mustVerify || ignoreCache)
+            drop();
+        const Descent descent(owner);
+        m_value = read();
+        m_readIn = owner.map().evaluation();
+        m_isKept =
+            (!ignoreCache || owner.keepsFresh() || owner.map().m_renewing) && owner.cachingMode() != GenApi::NoCache;
+        return m_value;
+    }
+
+private:
+    Number m_value = 0;
+    uint64_t m_readIn = 0; ///< the evaluation that read m_value
+    uint64_t m_checkedIn = 0; ///< the evaluation that checked it
+    bool m_isKept = false;
 };
 
 /** Base of all nodes that are integers on the outside. */
@@ -113,13 +169,34 @@ public:
     GenApi::int64_autovector_t GetListOfValidValues(bool bounded) override;
     GenApi::ERepresentation GetRepresentation() override;
     GenICam::gcstring GetUnit() override;
+    void ImposeMin(int64_t Value) override;
+    void ImposeMax(int64_t Value) override;
 
     GenApi::EInterfaceType interfaceType() const override { return GenApi::intfIInteger; }
     bool isNumber() const override { return true; }
+    void dropCache() override;
+    bool isCacheValid() const override { return m_kept.isKept(); }
+    int64_t intValue(bool ignoreCache) final;
+    void setIntValue(int64_t value, bool verify, Changes &changes) final;
 
 protected:
     /** Throws when \a value is outside the range or off a fixed increment; a list is not enforced. */
     void checkRange(int64_t value);
+
+    /** The value, not the kept one. */
+    virtual int64_t readInt(bool ignoreCache) = 0;
+    virtual void writeInt(int64_t value, bool verify, Changes &changes) = 0;
+
+    /** Whether a written value may be kept at all. */
+    virtual bool keepsWritten() const { return true; }
+
+    KeptNumber<int64_t> m_kept;
+
+private:
+    int64_t lowest();
+    int64_t highest();
+
+    bool m_hasImposedLimits = false;
 };
 
 /** Base of all nodes that are floating-point numbers on the outside. */
@@ -138,6 +215,8 @@ public:
     GenApi::double_autovector_t GetListOfValidValues(bool bounded) override;
     GenApi::ERepresentation GetRepresentation() override;
     GenICam::gcstring GetUnit() const override;
+    void ImposeMin(double Value) override;
+    void ImposeMax(double Value) override;
     GenApi::EDisplayNotation GetDisplayNotation() const override;
     int64_t GetDisplayPrecision() const override;
 
@@ -149,14 +228,29 @@ public:
     GenApi::EIncMode incrementMode() override { return GenApi::noIncrement; }
     double floatIncrement() override;
     std::vector<double> validFloats(bool) override { return {}; }
-    double floatValue(bool ignoreCache) override = 0;
-    void setFloatValue(double value, bool verify, Changes &changes) override = 0;
+    void dropCache() override;
+    bool isCacheValid() const override { return m_kept.isKept(); }
+    double floatValue(bool ignoreCache) final;
+    void setFloatValue(double value, bool verify, Changes &changes) final;
     int64_t intValue(bool ignoreCache) final { return Node::intValue(ignoreCache); }
     void setIntValue(int64_t value, bool verify, Changes &changes) final { Node::setIntValue(value, verify, changes); }
 
 protected:
-    /** Throws when \a value is no number, outside the range or off a fixed increment; a list is not enforced. */
+    /** Throws when \a value is no number or outside the range; an increment is not enforced. */
     void checkRange(double value);
+
+    /** The value, not the kept one. */
+    virtual double readFloat(bool ignoreCache) = 0;
+    virtual void writeFloat(double value, bool verify, Changes &changes) = 0;
+    virtual bool keepsWritten() const { return true; }
+
+    KeptNumber<double> m_kept;
+
+private:
+    double lowest();
+    double highest();
+
+    bool m_hasImposedLimits = false;
 };
 
 /** Writes through a link as a user of the linked node would. */
@@ -171,10 +265,38 @@ struct Presentation
     GenApi::ERepresentation representation = GenApi::_UndefinedRepresentation;
     GenApi::EDisplayNotation notation = GenApi::_UndefinedEDisplayNotation;
 
-    const char *unitOf(const Node *value) const;
-    GenApi::ERepresentation representationOf(const Node *value) const;
-    GenApi::EDisplayNotation notationOf(const Node *value) const;
-    int64_t precisionOf(const Node *value) const;
+    // \a source gives the node that the value is taken from, or null; it is asked only where it matters.
+    template <typename Source>
+    const char *unitOf(const Source &source) const
+    {
+        return unit ? unit : of(source, &Node::unit, "");
+    }
+    template <typename Source>
+    GenApi::ERepresentation representationOf(const Source &source) const
+    {
+        return representation != GenApi::_UndefinedRepresentation
+            ? representation
+            : of(source, &Node::representation, GenApi::PureNumber);
+    }
+    template <typename Source>
+    GenApi::EDisplayNotation notationOf(const Source &source) const
+    {
+        return notation != GenApi::_UndefinedEDisplayNotation ? notation
+                                                              : of(source, &Node::displayNotation, GenApi::fnAutomatic);
+    }
+    template <typename Source>
+    int64_t precisionOf(const Source &source) const
+    {
+        return precision >= 0 ? precision : of(source, &Node::displayPrecision, int64_t(6));
+    }
+
+private:
+    template <typename Source, typename Value>
+    static Value of(const Source &source, Value (Node::*property)(), Value fallback)
+    {
+        Node *const node = source();
+        return node ? (node->*property)() : fallback;
+    }
 };
 
 } // namespace OrvGenApi

@@ -1,5 +1,5 @@
 // Prints what a node map answers for every feature of a description, or what writing every feature does. Made for
-// comparing implementations of GenApi: genapi_dump DESCRIPTION zero|ones|hash [writes]
+// comparing implementations of GenApi: genapi_dump DESCRIPTION zero|ones|hash [writes|script]
 
 #include <GenApi/GenApi.h>
 #include <OrvGenApi/memoryport.h>
@@ -7,7 +7,9 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
+#include <functional>
 #include <iostream>
 #include <set>
 #include <string>
@@ -135,14 +137,22 @@ std::string joined(const std::vector<std::string> &parts, const char *separator)
     return result;
 }
 
+template <typename Get>
+std::string incrementName(const Get &get)
+{
+    static const char *const modes[] = {"none", "fixed", "list"};
+    return orError([&] { return std::string(modes[get()]); });
+}
+
 std::vector<std::string> integerExtras(IInteger *integer)
 {
     std::vector<std::string> extras;
+    const std::string maximum = orError([&] { return std::to_string(integer->GetMax()); });
     extras.push_back("min=" + orError([&] { return std::to_string(integer->GetMin()); }));
-    extras.push_back("max=" + orError([&] { return std::to_string(integer->GetMax()); }));
-    const bool list = integer->GetIncMode() == listIncrement;
-    extras.push_back(std::string("incmode=") + (list ? "list" : "fixed"));
-    if (list) {
+    extras.push_back("max=" + maximum);
+    const std::string mode = incrementName([&] { return integer->GetIncMode(); });
+    extras.push_back("incmode=" + mode);
+    if (mode == "list") {
         extras.push_back("valid=" + orError([&] {
                              const int64_autovector_t values = integer->GetListOfValidValues();
                              std::vector<std::string> texts;
@@ -150,28 +160,29 @@ std::vector<std::string> integerExtras(IInteger *integer)
                                  texts.push_back(std::to_string(values[i]));
                              return joined(texts, ",");
                          }));
-    } else {
+    } else if (mode == "fixed") {
         extras.push_back("inc=" + orError([&] { return std::to_string(integer->GetInc()); }));
     }
-    extras.push_back(std::string("rep=") + representationName(integer->GetRepresentation()));
-    extras.push_back("unit=" + escaped(integer->GetUnit().c_str()));
+    extras.push_back("rep=" + orError([&] { return std::string(representationName(integer->GetRepresentation())); }));
+    extras.push_back("unit=" + orError([&] { return escaped(integer->GetUnit().c_str()); }));
     return extras;
 }
 
 std::vector<std::string> floatExtras(IFloat *number)
 {
-    static const char *const modes[] = {"none", "fixed", "list"};
     static const char *const notations[] = {"Automatic", "Fixed", "Scientific", "Undefined"};
     std::vector<std::string> extras;
+    const std::string maximum = orError([&] { return formatted(number->GetMax()); });
     extras.push_back("min=" + orError([&] { return formatted(number->GetMin()); }));
-    extras.push_back("max=" + orError([&] { return formatted(number->GetMax()); }));
-    extras.push_back(std::string("incmode=") + modes[number->GetIncMode()]);
-    if (number->GetIncMode() == fixedIncrement)
+    extras.push_back("max=" + maximum);
+    const std::string mode = incrementName([&] { return number->GetIncMode(); });
+    extras.push_back("incmode=" + mode);
+    if (mode == "fixed")
         extras.push_back("inc=" + orError([&] { return formatted(number->GetInc()); }));
-    extras.push_back("prec=" + std::to_string(number->GetDisplayPrecision()));
-    extras.push_back(std::string("notation=") + notations[number->GetDisplayNotation()]);
-    extras.push_back("unit=" + escaped(number->GetUnit().c_str()));
-    extras.push_back(std::string("rep=") + representationName(number->GetRepresentation()));
+    extras.push_back("prec=" + orError([&] { return std::to_string(number->GetDisplayPrecision()); }));
+    extras.push_back("notation=" + orError([&] { return std::string(notations[number->GetDisplayNotation()]); }));
+    extras.push_back("unit=" + orError([&] { return escaped(number->GetUnit().c_str()); }));
+    extras.push_back("rep=" + orError([&] { return std::string(representationName(number->GetRepresentation())); }));
     return extras;
 }
 
@@ -301,14 +312,16 @@ bool performWrite(INode *node, Write &write)
     switch (node->GetPrincipalInterfaceType()) {
     case intfIInteger: {
         const CIntegerPtr integer(node);
-        write.what = "max=" + orError([&] { return std::to_string(integer->GetMax()); });
-        write.result = resultOf([&] { integer->SetValue(integer->GetMax()); });
+        int64_t maximum = 0;
+        write.what = "max=" + orError([&] { return std::to_string(maximum = integer->GetMax()); });
+        write.result = resultOf([&] { integer->SetValue(maximum); });
         return true;
     }
     case intfIFloat: {
         const CFloatPtr number(node);
-        write.what = "min=" + orError([&] { return formatted(number->GetMin()); });
-        write.result = resultOf([&] { number->SetValue(number->GetMin()); });
+        double minimum = 0;
+        write.what = "min=" + orError([&] { return formatted(minimum = number->GetMin()); });
+        write.result = resultOf([&] { number->SetValue(minimum); });
         return true;
     }
     case intfIBoolean:
@@ -330,18 +343,30 @@ bool performWrite(INode *node, Write &write)
     }
 }
 
-void printWrites(const std::vector<Visit> &visits)
+/** The distinct features in tree order, each with a callback that notes its name. */
+std::vector<INode *> watched(const std::vector<Visit> &visits, std::set<std::string> &fired)
 {
-    std::set<std::string> fired;
     std::set<INode *> known;
     std::vector<INode *> features;
     for (const Visit &visit : visits) {
         if (!known.insert(visit.node).second)
             continue;
         features.push_back(visit.node);
-        Register(visit.node, [&fired](INode *node) { fired.insert(node->GetName().c_str()); });
+        Register(visit.node,
+                 std::function<void(INode *)>([&fired](INode *node) { fired.insert(node->GetName().c_str()); }));
     }
-    for (INode *node : features) {
+    return features;
+}
+
+std::string joined(const std::set<std::string> &names)
+{
+    return joined(std::vector<std::string>(names.begin(), names.end()), ",");
+}
+
+void printWrites(const std::vector<Visit> &visits)
+{
+    std::set<std::string> fired;
+    for (INode *node : watched(visits, fired)) {
         fired.clear();
         const std::string access = accessName(node);
         Write write;
@@ -349,8 +374,208 @@ void printWrites(const std::vector<Visit> &visits)
             continue;
         const std::set<std::string> names = fired;
         std::cout << "W\t" << node->GetName().c_str() << '\t' << access << '\t' << write.what << '\t' << write.result
-                  << '\t' << value(node) << '\t' << joined({names.begin(), names.end()}, ",") << '\n';
+                  << '\t' << value(node) << '\t' << joined(names) << '\n';
     }
+}
+
+/** Does sequences of operations with every feature, and prints after each what has become of it. */
+class Script
+{
+public:
+    Script(INodeMap &map, OrvGenApi::MemoryPort &port)
+        : m_map(map)
+        , m_port(port)
+    {
+    }
+
+    void run(const std::vector<Visit> &visits);
+
+private:
+    template <typename Deed>
+    void answer(const std::string &what, const Deed &deed);
+    template <typename Deed>
+    void act(const std::string &what, const Deed &deed);
+    void setText(const std::string &text);
+    void setTexts(std::initializer_list<const char *> texts);
+
+    void play(IInteger *integer);
+    void play(IFloat *number);
+    void play(IBoolean *boolean);
+    void play(IEnumeration *enumeration);
+    void play(ICommand *command);
+    void play(IString *string);
+    void play(IRegister *bytes);
+    void play(INode *node);
+
+    INodeMap &m_map;
+    OrvGenApi::MemoryPort &m_port;
+    std::set<std::string> m_fired;
+    IValue *m_value = nullptr; ///< that is acted on; null: the map
+};
+
+/** Prints what \a deed answers. */
+template <typename Deed>
+void Script::answer(const std::string &what, const Deed &deed)
+{
+    m_fired.clear();
+    const std::string result = orError(deed);
+    const std::set<std::string> fired = m_fired;
+    std::string name = "-";
+    std::string text = "-";
+    std::string kept = "-";
+    if (m_value) {
+        name = m_value->GetNode()->GetName().c_str();
+        kept = orError([&] { return std::string(m_value->IsValueCacheValid() ? "kept" : "-"); });
+        text = orError([&] { return escaped(m_value->ToString().c_str()); }); // last: it reads
+    }
+    std::cout << "S\t" << name << '\t' << what << '\t' << result << '\t' << text << '\t' << kept << '\t'
+              << joined(fired) << '\n';
+}
+
+template <typename Deed>
+void Script::act(const std::string &what, const Deed &deed)
+{
+    answer(what, [&] {
+        deed();
+        return std::string("ok");
+    });
+}
+
+void Script::setText(const std::string &text)
+{
+    act("text " + text, [&] { m_value->FromString(text.c_str()); });
+}
+
+void Script::setTexts(std::initializer_list<const char *> texts)
+{
+    for (const char *text : texts)
+        setText(text);
+}
+
+/** \a value and \a step wrap around. */
+int64_t plus(int64_t value, uint64_t step)
+{
+    return static_cast<int64_t>(static_cast<uint64_t>(value) + step);
+}
+
+void Script::play(IInteger *integer)
+{
+    answer("fresh", [&] { return std::to_string(integer->GetValue(false, true)); });
+    answer("verified", [&] { return std::to_string(integer->GetValue(true)); });
+    act("set min", [&] { integer->SetValue(integer->GetMin()); });
+    act("set max+1", [&] { integer->SetValue(plus(integer->GetMax(), 1)); });
+    act("set min+1", [&] { integer->SetValue(plus(integer->GetMin(), 1)); });
+    act("set 5 unverified", [&] { integer->SetValue(5, false); });
+    setTexts({"0x10", "12", "-1", "true", "abc", "1.5"});
+}
+
+void Script::play(IFloat *number)
+{
+    answer("fresh", [&] { return formatted(number->GetValue(false, true)); });
+    answer("verified", [&] { return formatted(number->GetValue(true)); });
+    act("set max", [&] { number->SetValue(number->GetMax()); });
+    act("set min-1", [&] { number->SetValue(number->GetMin() - 1); });
+    act("set 2.6", [&] { number->SetValue(2.6); });
+    act("set 2.6 unverified", [&] { number->SetValue(2.6, false); });
+    setTexts({"1.5", "3", "1e1", "x"});
+}
+
+void Script::play(IBoolean *boolean)
+{
+    act("set true", [&] { boolean->SetValue(true); });
+    act("set false", [&] { boolean->SetValue(false); });
+    setTexts({"1", "true", "True", "0", "x"});
+}
+
+void Script::play(IEnumeration *enumeration)
+{
+    NodeList_t entries;
+    enumeration->GetEntries(entries);
+    if (entries.empty())
+        return;
+    const CEnumEntryPtr first(entries[0]);
+    const CEnumEntryPtr last(entries[entries.size() - 1]);
+    answer("verified", [&] { return std::to_string(enumeration->GetIntValue(true)); });
+    act("set first", [&] { enumeration->SetIntValue(first->GetValue()); });
+    act("set last", [&] { enumeration->SetIntValue(last->GetValue()); });
+    act("set 777", [&] { enumeration->SetIntValue(777); });
+    act("set 777 unverified", [&] { enumeration->SetIntValue(777, false); });
+    setText(first->GetSymbolic().c_str());
+    setText("Nope");
+    answer("entry text", [&] { return escaped(last->ToString().c_str()); });
+    answer("current", [&] { return std::string(enumeration->GetCurrentEntry() ? "entry" : "none"); });
+}
+
+void Script::play(ICommand *command)
+{
+    const auto done = [&] { return std::string(command->IsDone() ? "done" : "busy"); };
+    answer("done", done);
+    act("execute", [&] { command->Execute(); });
+    answer("done", done);
+    m_port.clear();
+    answer("done after the device cleared", done);
+    setTexts({"0", "1", "x"});
+}
+
+void Script::play(IString *string)
+{
+    act("set abc", [&] { string->SetValue("abc"); });
+    act("set long",
+        [&] { string->SetValue("0123456789012345678901234567890123456789012345678901234567890123456789"); });
+    setText("t");
+    answer("verified", [&] { return escaped(string->GetValue(true).c_str()); });
+}
+
+void Script::play(IRegister *bytes)
+{
+    uint8_t buffer[32] = {1, 2, 3};
+    answer("length", [&] { return std::to_string(bytes->GetLength()); });
+    act("set", [&] { bytes->Set(buffer, bytes->GetLength()); });
+    act("set too much", [&] { bytes->Set(buffer, bytes->GetLength() + 1); });
+    answer("get", [&] {
+        bytes->Get(buffer, bytes->GetLength());
+        return std::to_string(buffer[0]) + "," + std::to_string(buffer[1]);
+    });
+}
+
+void Script::play(INode *node)
+{
+    switch (node->GetPrincipalInterfaceType()) {
+    case intfIInteger:
+        return play(dynamic_cast<IInteger *>(node));
+    case intfIFloat:
+        return play(dynamic_cast<IFloat *>(node));
+    case intfIBoolean:
+        return play(dynamic_cast<IBoolean *>(node));
+    case intfIEnumeration:
+        return play(dynamic_cast<IEnumeration *>(node));
+    case intfICommand:
+        return play(dynamic_cast<ICommand *>(node));
+    case intfIString:
+        return play(dynamic_cast<IString *>(node));
+    case intfIRegister:
+        return play(dynamic_cast<IRegister *>(node));
+    default:
+        act("text", [] {});
+    }
+}
+
+void Script::run(const std::vector<Visit> &visits)
+{
+    const std::vector<INode *> features = watched(visits, m_fired);
+    const auto forEach = [&](const auto &deed) {
+        for (INode *node : features) {
+            m_value = dynamic_cast<IValue *>(node);
+            deed(node);
+        }
+        m_value = nullptr;
+    };
+    forEach([&](INode *node) { play(node); });
+    forEach([&](INode *node) { act("invalidate", [&] { node->InvalidateNode(); }); });
+    for (const int milliseconds : {50, 100, 200, 500, 1000})
+        act("poll " + std::to_string(milliseconds), [&] { m_map.Poll(milliseconds); });
+    act("invalidate all", [&] { m_map.InvalidateNodes(); });
+    forEach([](INode *node) { printFeature(node, 0); });
 }
 
 OrvGenApi::MemoryPort::Background background(const char *pattern)
@@ -368,9 +593,9 @@ OrvGenApi::MemoryPort::Background background(const char *pattern)
 
 int main(int argc, char **argv)
 {
-    const bool writes = argc == 4 && std::strcmp(argv[3], "writes") == 0;
-    if (argc != 3 && !writes) {
-        std::cerr << "usage: genapi_dump DESCRIPTION zero|ones|hash [writes]\n";
+    const std::string mode = argc == 4 ? argv[3] : "";
+    if (argc < 3 || argc > 4 || (!mode.empty() && mode != "writes" && mode != "script")) {
+        std::cerr << "usage: genapi_dump DESCRIPTION zero|ones|hash [writes|script]\n";
         return 2;
     }
     try {
@@ -379,14 +604,19 @@ int main(int argc, char **argv)
         map->connect(&port);
         const CCategoryPtr root(map->GetNode("Root"));
         const std::vector<Visit> visits = root.IsValid() ? walk(root) : std::vector<Visit>();
-        if (writes) {
+        if (mode == "writes") {
             printWrites(visits);
+        } else if (mode == "script") {
+            Script(*map, port).run(visits);
         } else {
             for (const Visit &visit : visits)
                 printFeature(visit.node, visit.depth);
         }
+        if (std::getenv("GENAPI_DUMP_COUNTS"))
+            std::cerr << "reads " << port.readCount() << " writes " << port.writeCount() << '\n';
     } catch (const GenICam::GenericException &error) {
-        std::cout << "LOADFAIL " << exceptionKind(error) << '\n';
+        std::cout << "LOADFAIL\t!" << exceptionKind(error) << '\n';
+        std::cerr << error.what() << '\n';
         return 1;
     }
     return 0;

@@ -61,6 +61,7 @@ public:
     }
 
     void operator()(GenApi::INode *) const { m_forwarder->nodeChanged(m_tag); }
+    explicit operator bool() const { return m_forwarder.data() != nullptr; } // GenApi asks before it calls
 
 private:
     QExplicitlySharedDataPointer<NodeChangeForwarder> m_forwarder;

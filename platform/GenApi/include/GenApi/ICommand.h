@@ -12,6 +12,8 @@ struct ORV_GENAPI_EXPORT ICommand : virtual public IValue
     /** Whether the last execution has ended, as far as the device can tell. */
     virtual bool IsDone(bool Verify = true) = 0;
 
+    void operator()() { Execute(); }
+
 protected:
     ~ICommand() = default;
 };

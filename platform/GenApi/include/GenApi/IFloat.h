@@ -31,6 +31,18 @@ struct ORV_GENAPI_EXPORT IFloat : virtual public IValue
     /** Digits to show: behind the point in fixed notation, significant ones otherwise. */
     virtual int64_t GetDisplayPrecision() const = 0;
 
+    /** Narrows what the description allows. */
+    virtual void ImposeMin(double Value) = 0;
+    virtual void ImposeMax(double Value) = 0;
+
+    IFloat &operator=(double Value)
+    {
+        SetValue(Value);
+        return *this;
+    }
+    double operator()() { return GetValue(); }
+    double operator*() { return GetValue(); }
+
 protected:
     ~IFloat() = default;
 };

@@ -13,7 +13,8 @@ struct ORV_GENAPI_EXPORT IInteger : virtual public IValue
     virtual int64_t GetMin() = 0;
     virtual int64_t GetMax() = 0;
 
-    /** The step of a fixed increment; 1 when the increment is a list. */
+    /** The step that values have to keep from the minimum, also where there is a list; 1 where the description has
+     * none. */
     virtual int64_t GetInc() = 0;
     virtual EIncMode GetIncMode() = 0;
 
@@ -23,6 +24,18 @@ struct ORV_GENAPI_EXPORT IInteger : virtual public IValue
 
     /** The physical unit, UTF-8; empty when there is none. */
     virtual GENICAM_NAMESPACE::gcstring GetUnit() = 0;
+
+    /** Narrows what the description allows. */
+    virtual void ImposeMin(int64_t Value) = 0;
+    virtual void ImposeMax(int64_t Value) = 0;
+
+    IInteger &operator=(int64_t Value)
+    {
+        SetValue(Value);
+        return *this;
+    }
+    int64_t operator()() { return GetValue(); }
+    int64_t operator*() { return GetValue(); }
 
 protected:
     ~IInteger() = default;

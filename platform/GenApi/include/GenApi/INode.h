@@ -1,5 +1,6 @@
 #pragma once
 
+#include <GenApi/Container.h>
 #include <GenApi/IBase.h>
 #include <GenApi/Types.h>
 
@@ -18,6 +19,26 @@ struct ORV_GENAPI_EXPORT INode : virtual public IBase
     virtual EVisibility GetVisibility() const = 0;
     virtual void InvalidateNode() = 0;
     virtual ECachingMode GetCachingMode() const = 0;
+
+    virtual ENameSpace GetNameSpace() const = 0;
+    virtual bool IsCachable() const = 0;
+    virtual bool IsDeprecated() const = 0;
+
+    /** Where to read more, and the event that tells of changes; empty where the description names none. */
+    virtual GENICAM_NAMESPACE::gcstring GetDocuURL() const = 0;
+    virtual GENICAM_NAMESPACE::gcstring GetEventID() const = 0;
+
+    /** Another node for the same thing, and one for the same value in another kind; null when there is none. */
+    virtual INode *GetAlias() const = 0;
+    virtual INode *GetCastAlias() const = 0;
+
+    /** The nodes that this one changes with, and those that change with it. */
+    virtual void GetChildren(NodeList_t &Children) const = 0;
+    virtual void GetParents(NodeList_t &Parents) const = 0;
+
+    /** Makes the node available to fewer: for what an application must not offer. */
+    virtual void ImposeAccessMode(EAccessMode ImposedAccessMode) = 0;
+    virtual void ImposeVisibility(EVisibility ImposedVisibility) = 0;
 
     /** Milliseconds between two polls; -1 when the node is not polled. */
     virtual int64_t GetPollingTime() const = 0;
@@ -45,5 +66,94 @@ struct ORV_GENAPI_EXPORT INode : virtual public IBase
 protected:
     ~INode() = default;
 };
+
+inline bool IsReadable(EAccessMode AccessMode)
+{
+    return AccessMode == RO || AccessMode == RW;
+}
+
+inline bool IsWritable(EAccessMode AccessMode)
+{
+    return AccessMode == WO || AccessMode == RW;
+}
+
+inline bool IsImplemented(EAccessMode AccessMode)
+{
+    return AccessMode != NI;
+}
+
+inline bool IsAvailable(EAccessMode AccessMode)
+{
+    return AccessMode != NI && AccessMode != NA;
+}
+
+// The same of an object; false for null.
+inline bool IsReadable(const IBase *p)
+{
+    return p && IsReadable(p->GetAccessMode());
+}
+
+inline bool IsWritable(const IBase *p)
+{
+    return p && IsWritable(p->GetAccessMode());
+}
+
+inline bool IsImplemented(const IBase *p)
+{
+    return p && IsImplemented(p->GetAccessMode());
+}
+
+inline bool IsAvailable(const IBase *p)
+{
+    return p && IsAvailable(p->GetAccessMode());
+}
+
+inline bool IsReadable(const IBase &r)
+{
+    return IsReadable(&r);
+}
+
+inline bool IsWritable(const IBase &r)
+{
+    return IsWritable(&r);
+}
+
+inline bool IsImplemented(const IBase &r)
+{
+    return IsImplemented(&r);
+}
+
+inline bool IsAvailable(const IBase &r)
+{
+    return IsAvailable(&r);
+}
+
+/** What may be done where both modes apply. */
+inline EAccessMode Combine(EAccessMode Peter, EAccessMode Paul)
+{
+    if (Peter == NI || Paul == NI)
+        return NI;
+    if (Peter == NA || Paul == NA)
+        return NA;
+    if (Peter == RW)
+        return Paul;
+    return Paul == RW || Paul == Peter ? Peter : NA; // one may only be read, the other only written
+}
+
+/** For whom something is that is for both. */
+inline EVisibility Combine(EVisibility Peter, EVisibility Paul)
+{
+    return Peter > Paul ? Peter : Paul;
+}
+
+inline bool IsVisible(EVisibility Visibility, EVisibility MaxVisibility)
+{
+    return Visibility <= MaxVisibility;
+}
+
+inline bool IsCacheable(ECachingMode CachingMode)
+{
+    return CachingMode != NoCache;
+}
 
 } // namespace GENAPI_NAMESPACE

@@ -2,6 +2,7 @@
 
 #include <GenApi/Container.h>
 #include <GenApi/INode.h>
+#include <GenApi/IPort.h>
 #include <GenApi/Synch.h>
 #include <GenApi/Types.h>
 
@@ -22,6 +23,13 @@ struct ORV_GENAPI_EXPORT INodeMap
     /** Drops all kept values; the next reads go to the device. */
     virtual void InvalidateNodes() const = 0;
     virtual GENICAM_NAMESPACE::gcstring GetDeviceName() = 0;
+
+    /**
+     * Registers behind the port node \a PortName read and write through \a pPort, which outlives the map or is replaced
+     * (null disconnects). False when there is no such node.
+     */
+    virtual bool Connect(IPort *pPort, const GENICAM_NAMESPACE::gcstring &PortName) const = 0;
+    bool Connect(IPort *pPort) const { return Connect(pPort, "Device"); }
 
     /**
      * Adds \a ElapsedTime milliseconds to every polled node's clock. A node whose clock reaches its polling time is

@@ -13,6 +13,14 @@ struct ORV_GENAPI_EXPORT IString : virtual public IValue
     /** The longest text that can be written, in bytes. */
     virtual int64_t GetMaxLength(bool Verify = false) = 0;
 
+    IString &operator=(const GENICAM_NAMESPACE::gcstring &Value)
+    {
+        SetValue(Value);
+        return *this;
+    }
+    GENICAM_NAMESPACE::gcstring operator()() { return GetValue(); }
+    GENICAM_NAMESPACE::gcstring operator*() { return GetValue(); }
+
 protected:
     ~IString() = default;
 };

@@ -34,7 +34,8 @@ private:
     CNodeCallback *m_next = nullptr; ///< the node's next callback
 };
 
-/** Calls a plain function with the node. */
+/** Calls a function with the node, unless the function is null: what is given can be asked for that, as pointers can.
+ */
 template <typename Function>
 class FunctionNodeCallback : public CNodeCallback
 {
@@ -47,7 +48,7 @@ public:
 
     void operator()(ECallbackType CallbackType) const override
     {
-        if (CallbackType == m_type)
+        if (m_function && CallbackType == m_type)
             m_function(m_node);
     }
 

@@ -24,4 +24,21 @@ private:
     std::recursive_mutex m_mutex;
 };
 
+/** Holds a lock as long as it lives. */
+class AutoLock
+{
+public:
+    explicit AutoLock(CLock &lock)
+        : m_lock(lock)
+    {
+        m_lock.Lock();
+    }
+    ~AutoLock() { m_lock.Unlock(); }
+    AutoLock(const AutoLock &) = delete;
+    AutoLock &operator=(const AutoLock &) = delete;
+
+private:
+    CLock &m_lock;
+};
+
 } // namespace GENAPI_NAMESPACE

@@ -2,6 +2,7 @@
 
 #include <Base/GCNamespace.h>
 #include <Base/GCString.h>
+#include <Base/GCStringVector.h>
 
 #include <cstdint>
 #include <vector>
@@ -77,6 +78,11 @@ enum ECallbackType {
 /** Names a registered node callback until it is deregistered. */
 using CallbackHandleType = intptr_t;
 
-using StringList_t = std::vector<GENICAM_NAMESPACE::gcstring>;
+using StringList_t = GENICAM_NAMESPACE::gcstring_vector;
+
+/** Where a node's name is defined. */
+enum ENameSpace { Custom = 0, Standard = 1, _UndefinedNameSpace = 2 };
+
+enum EYesNo { No = 0, Yes = 1, _UndefinedYesNo = 2 };
 
 } // namespace GENAPI_NAMESPACE

@@ -29,6 +29,9 @@ public:
     void Read(void *buffer, int64_t address, int64_t length) override;
     void Write(const void *buffer, int64_t address, int64_t length) override;
 
+    /** Forgets all that was written: every byte is that of the background again. */
+    void clear() { m_written.clear(); }
+
     uint64_t readCount() const { return m_reads; }
     uint64_t writeCount() const { return m_writes; }
 

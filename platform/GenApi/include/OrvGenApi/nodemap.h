@@ -13,8 +13,9 @@ namespace OrvGenApi {
  * A node map read from a GenICam description (XML, schema 1.0 and 1.1).
  *
  * Both loaders throw one GenICam::GenericException with a message that names the place ("FILE:LINE: ...") when the
- * description cannot be used: it cannot be read, is no well-formed XML, has no RegisterDescription, a node twice, a
- * formula that cannot be parsed, links that go round in a circle or lead too deep. A link to a node that does not exist
+ * description cannot be used: it cannot be read, is no well-formed XML, has no RegisterDescription, a node twice,
+ * values or selectors that go round in a circle. A formula that cannot be parsed, and links that lead too deep for the
+ * stack, throw when they are needed. A link to a node that does not exist
  * or has no value of the kind that is needed makes the node that has it not implemented; a category leaves out such a
  * feature. Registers behind a port that is not
  * connected are not implemented either.
