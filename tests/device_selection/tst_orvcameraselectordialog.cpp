@@ -462,13 +462,11 @@ private Q_SLOTS:
         const auto current = [&] { return shown.tree()->currentIndex().data().toString(); };
         const QModelIndex both = shown.model()->getItemIdx(QStringLiteral("ORV-CL-0"));
         shown.tree()->setCurrentIndex(shown.model()->index(1, 0, both));
-        QSignalSpy resets(shown.model(), &QAbstractItemModel::modelReset);
         OrvSim::unplug(monochrome);
-        QTRY_COMPARE(resets.size(), 1);
+        QTRY_VERIFY(!shown.model()->getItemIdx(QLatin1String(monochrome)).isValid());
         QCOMPARE(current(), QStringLiteral("two"));
         OrvSim::unplug("two");
-        QTRY_COMPARE(resets.size(), 2);
-        QCOMPARE(shown.currentId(), QStringLiteral("ORV-ETH-0"));
+        QTRY_COMPARE(shown.currentId(), QStringLiteral("ORV-ETH-0"));
         QVERIFY(!shown.ok()->isEnabled());
     }
 
