@@ -49,6 +49,10 @@ public:
     GenICam::gcstring GetDeviceName() override { return m_camera.map->GetDeviceName(); }
     GenApi::CLock &GetLock() const override { return m_camera.map->GetLock(); }
     uint64_t GetNumNodes() const override { return m_camera.map->GetNumNodes(); }
+    bool Connect(GenApi::IPort *port, const GenICam::gcstring &name) const override
+    {
+        return m_camera.map->Connect(port, name);
+    }
 
     int64_t time() const { return std::accumulate(polls.begin(), polls.end(), int64_t(0)); }
 

@@ -148,8 +148,9 @@ const std::vector<Signal> &signalsOfTheTree()
         {"port write", [](Stage &stage, const Slot &slot) { stage.port.onWrite = slot; }},
         {"node callback",
          [](Stage &stage, const Slot &slot) {
+             const std::function<void(GenApi::INode *)> callback = [slot](GenApi::INode *) { slot(); };
              for (const char *name : {"Amount", "Label", "Mode"})
-                 GenApi::Register(stage.camera.map->GetNode(name), [slot](GenApi::INode *) { slot(); });
+                 GenApi::Register(stage.camera.map->GetNode(name), callback);
          }},
         {"changed value",
          [](Stage &stage, const Slot &slot) {
