@@ -26,10 +26,10 @@ EAccessMode RegisterData::access(Node::When when) const
 
 EAccessMode RegisterData::placeAccess() const
 {
-    EAccessMode mode = Node::availability(m_length.node());
+    EAccessMode mode = Node::availabilityOf({m_port, m_length.node()});
     for (const AddressTerm &term : m_addressTerms) {
-        mode = combined(mode, Node::availability(term.value.node()));
-        mode = combined(mode, Node::availability(term.offset.node()));
+        if (mode != NI)
+            mode = combined(mode, Node::availabilityOf({term.value.node(), term.offset.node()}));
     }
     return mode;
 }
