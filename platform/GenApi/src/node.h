@@ -55,10 +55,15 @@ public:
     const std::vector<Node *> &nodes() const { return m_nodes; }
     bool contains(const Node &node) const;
 
+    /** The port has failed while writing: what the device holds nobody knows, so that those who watch have to ask. */
+    void notePortFailure() { m_portHasFailed = true; }
+    bool portHasFailed() const { return m_portHasFailed; }
+
 private:
     NodeMapImpl &m_map;
     const uint64_t m_list; ///< marks the nodes that are in m_nodes
     unsigned m_writes = 0;
+    bool m_portHasFailed = false;
     std::vector<Node *> m_nodes;
 };
 
