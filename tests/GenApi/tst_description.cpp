@@ -61,6 +61,10 @@ void tst_Description::refuses_data()
         "<Integer Name='A'><Value>1</Value><pSelected>B</pSelected></Integer>"
         "<Integer Name='B'><Value>1</Value><pSelected>A</pSelected></Integer>",
         "camera.xml:3: the selectors go round in a circle: A -> B -> A");
+    row("a selector that reads what it selects",
+        "<Integer Name='A'><Value>1</Value><pMax>B</pMax><pSelected>C</pSelected></Integer>"
+        "<Integer Name='B'><pValue>C</pValue></Integer><Integer Name='C'><Value>1</Value></Integer>",
+        "camera.xml:3: the selectors go round in a circle: A -> A");
     row("formulas that cannot be parsed concern their nodes only",
         "<SwissKnife Name='N'><Formula>(1 + </Formula></SwissKnife>"
         "<Converter Name='M'><FormulaTo>FROM</FormulaTo><FormulaFrom>FROM</FormulaFrom></Converter>",

@@ -289,9 +289,9 @@ void TestDevice::lossAndReturn()
     OrvSim::replug(twoFrame);
     QCOMPARE(device->GetCameraParameters(nullptr), array);
     QCOMPARE(level->GetValue(nullptr), std::int64_t(7));
-    QCOMPARE(sink.count, 0);
+    QCOMPARE(sink.count, 1); // on return everything is asked for again
     QCOMPARE(level->SetValue(8), OrvCamErr_Ok);
-    QCOMPARE(sink.count, 1);
+    QCOMPARE(sink.count, 2);
     level->UnregisterEvent(&sink);
 }
 

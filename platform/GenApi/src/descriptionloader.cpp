@@ -190,10 +190,11 @@ void DescriptionLoader::spreadSelections()
             seenBy[each->m_index] = node.get();
         for (std::size_t i = 0; i < open.size() && left > 0; ++i) {
             for (const uint32_t reader : readers[open[i]->m_index]) {
-                const std::vector<Node *> own = m_map.m_nodes[reader]->m_selectorLinks
-                    ? m_map.m_nodes[reader]->m_selectorLinks->selected
-                    : std::vector<Node *>();
-                if (std::find(own.begin(), own.end(), node.get()) != own.end())
+                if (reader == node->m_index)
+                    failCircle("the selectors go round in a circle: ", {reader}, reader);
+                const auto &links = m_map.m_nodes[reader]->m_selectorLinks;
+                if (links
+                    && std::find(links->selected.begin(), links->selected.end(), node.get()) != links->selected.end())
                     continue; // it selects the selector
                 if (seenBy[reader] == node.get() || !m_map.m_nodes[reader]->asValue()
                     || m_map.m_nodes[reader]->interfaceType() == intfICategory)

@@ -234,7 +234,7 @@ double FloatArithmetic::binary(Op op, Value a, Value b)
 
 double FloatArithmetic::divide(Value a, Value b)
 {
-    if (b == 0)
+    if (std::abs(b) < std::numeric_limits<Value>::min()) // what hardly differs from it is as bad
         throw FormulaError{"division by zero"};
     return a / b;
 }

@@ -70,6 +70,8 @@ EAccessMode FormulaNode<Base>::variablesAccess() const
 {
     EAccessMode mode = RW;
     for (const FormulaVariable &variable : m_variables) {
+        if (mode == NI)
+            break;
         const EAccessMode access = variable.node->accessMode();
         if (access == NI || access == NA)
             mode = combined(mode, access);
@@ -110,7 +112,7 @@ template <typename Base>
 EAccessMode ConverterNode<Base>::valueAccess(Node::When when) const
 {
     const EAccessMode mode = m_node->accessMode(when);
-    return when == Node::When::Ever ? mode : combined(mode, this->variablesAccess());
+    return when == Node::When::Ever || mode == NI ? mode : combined(mode, this->variablesAccess());
 }
 
 template <typename Base>

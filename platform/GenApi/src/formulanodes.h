@@ -168,6 +168,7 @@ public:
 
 protected:
     bool keepsFresh() const override { return true; }
+    GenApi::EAccessMode firstAccess() const override { return combined(this->readAccess(), this->variablesAccess()); }
     GenApi::EAccessMode valueAccess(Node::When when) const override
     {
         if (when == Node::When::Ever)

@@ -70,7 +70,7 @@ template <typename Number>
 Node *NumberSource<Number>::limitingNode(const Node &owner)
 {
     Node *const node = currentNode(owner);
-    if (node && m_indexed)
+    if (node && (node->interfaceType() == intfIInteger || node->interfaceType() == intfIFloat))
         node->requireAvailable();
     return node;
 }
@@ -104,8 +104,10 @@ template <typename Number>
 EAccessMode NumberSource<Number>::readAccess(std::initializer_list<Ref> limits)
 {
     EAccessMode mode = RW;
-    for (const Ref &limit : limits)
-        mode = combined(mode, Node::availability(limit.node()));
+    for (const Ref &limit : limits) {
+        if (mode != NI)
+            mode = combined(mode, Node::availability(limit.node()));
+    }
     return mode;
 }
 
@@ -149,6 +151,8 @@ std::pair<int64_t, int64_t> IntegerNode::intRange()
 
 int64_t IntegerNode::intMin()
 {
+    if (m_source.isIndexed())
+        m_source.currentNode(*this); // without a value there are no limits
     if (m_minimum.isSet())
         return m_minimum.value();
     Node *const node = m_source.limitingNode(*this);
@@ -159,6 +163,8 @@ int64_t IntegerNode::intMin()
 
 int64_t IntegerNode::intMax()
 {
+    if (m_source.isIndexed())
+        m_source.currentNode(*this); // without a value there are no limits
     if (m_maximum.isSet())
         return m_maximum.value();
     Node *const node = m_source.limitingNode(*this);
@@ -209,6 +215,8 @@ ERepresentation IntegerNode::representation()
 
 double FloatNode::floatMin()
 {
+    if (m_source.isIndexed())
+        m_source.currentNode(*this); // without a value there are no limits
     if (m_minimum.isSet())
         return m_minimum.value();
     Node *const node = m_source.limitingNode(*this);
@@ -217,6 +225,8 @@ double FloatNode::floatMin()
 
 double FloatNode::floatMax()
 {
+    if (m_source.isIndexed())
+        m_source.currentNode(*this); // without a value there are no limits
     if (m_maximum.isSet())
         return m_maximum.value();
     Node *const node = m_source.limitingNode(*this);

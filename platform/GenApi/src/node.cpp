@@ -318,29 +318,50 @@ EAccessMode allowed(Node *condition, bool wanted, EAccessMode mode)
 
 } // namespace
 
-/** All conditions count, whatever the first of them says; one that cannot be read leaves the node as far away. */
+/**
+ * First what is read has to be there, conditions included; then it is asked whether the node is implemented, available
+ * and, where it could be written, locked, each only as long as it matters: what is not asked cannot fail.
+ */
 EAccessMode Node::computeAccessMode(When when) const
 {
     const Descent descent(*this);
     const Verification unverified(m_map, false);
-    const bool isFree = (when == When::Now && ignoresConditions()) || (when == When::Ever && m_accessOpen);
-    EAccessMode mode = isFree && !m_broken ? RW : implementation();
-    if (mode == NI)
+    if (m_broken || m_imposedAccess == NI)
         return NI;
-    if (when == When::Now && !ignoresConditions()) {
-        mode = combined(mode, allowed(m_isAvailable, true, NA));
-        mode = combined(mode, allowed(m_isLocked, false, RO));
-        mode = combined(mode, readAccess());
+    if (when == When::Ever) {
+        // Who writes without checks is held back by an imposed mode only where nothing says whether there is the node.
+        const EAccessMode own = m_accessOpen || !m_isImplemented ? RW : allowed(m_isImplemented, true, NI);
+        return combined(m_isImplemented ? own : m_imposedAccess, valueAccess(when));
     }
-    // Who writes without checks is held back by an imposed mode only where nothing says whether there is the node.
-    const EAccessMode imposed = when == When::Ever && m_isImplemented ? RW : m_imposedAccess;
-    return combined(mode, combined(imposed, valueAccess(when)));
+    EAccessMode mode = RW;
+    if (!ignoresConditions()) {
+        mode = firstAccess();
+        if (mode != NI)
+            mode = combined(mode, availabilityOf({m_isImplemented, m_isAvailable, m_isLocked}));
+        if (mode != NI)
+            mode = combined(mode, allowed(m_isImplemented, true, NI));
+        if (IsAvailable(mode))
+            mode = combined(mode, allowed(m_isAvailable, true, NA));
+        if (isWritable(mode))
+            mode = combined(mode, allowed(m_isLocked, false, RO));
+        if (mode == NI)
+            return NI;
+    }
+    return combined(mode, combined(m_imposedAccess, valueAccess(when)));
 }
 
 EAccessMode Node::availability(const Node *node)
 {
     const EAccessMode mode = node ? node->accessMode() : RW;
     return mode == NI || mode == NA ? mode : RW;
+}
+
+EAccessMode Node::availabilityOf(std::initializer_list<const Node *> nodes)
+{
+    EAccessMode mode = RW;
+    for (auto node = nodes.begin(); node != nodes.end() && mode != NI; ++node)
+        mode = combined(mode, availability(*node));
+    return mode;
 }
 
 EAccessMode Node::implementation() const
@@ -361,13 +382,16 @@ void Node::requireReadable() const
 
 void Node::requireWritable(bool verify) const
 {
-    if ((verify && !isWritable(accessMode())) || !isWritable(accessMode(When::Ever)))
+    const bool isOpen = verify && isWritable(accessMode());
+    // A mode that could not be worked out still has to be one that may be.
+    if (verify ? !isOpen || (m_accessOpen && !isWritable(accessMode(When::Ever))) : !isWritable(accessMode(When::Ever)))
         throwNoAccess("writable");
 }
 
 /** 0 is no error, whether there is an entry for it or not. */
 void Node::checkError() const
 {
+    const Verification unverified(m_map, false);
     if (!m_error || m_error->intValue(false) == 0)
         return;
     m_error->intNumber(false); // throws where there is no such error

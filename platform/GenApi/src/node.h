@@ -8,6 +8,7 @@
 #include <GenApi/ISelector.h>
 #include <GenApi/IValue.h>
 
+#include <initializer_list>
 #include <memory>
 #include <string>
 #include <utility>
@@ -54,10 +55,15 @@ public:
     const std::vector<Node *> &nodes() const { return m_nodes; }
     bool contains(const Node &node) const;
 
+    /** The port has failed while writing: what the device holds nobody knows, so that those who watch have to ask. */
+    void notePortFailure() { m_portHasFailed = true; }
+    bool portHasFailed() const { return m_portHasFailed; }
+
 private:
     NodeMapImpl &m_map;
     const uint64_t m_list; ///< marks the nodes that are in m_nodes
     unsigned m_writes = 0;
+    bool m_portHasFailed = false;
     std::vector<Node *> m_nodes;
 };
 
@@ -160,6 +166,9 @@ public:
     /** NI or NA where \a node is that, else RW. */
     static GenApi::EAccessMode availability(const Node *node);
 
+    /** The same for several; those behind one that is not implemented are not asked. */
+    static GenApi::EAccessMode availabilityOf(std::initializer_list<const Node *> nodes);
+
     /** Whether \a node can be read now and is not 0. What cannot be read is not fulfilled. */
     static bool isFulfilled(Node &node);
 
@@ -244,9 +253,13 @@ protected:
     virtual GenApi::EAccessMode computeAccessMode(When when) const;
 
     /** What the nodes allow that are read for anything but the value: NI or NA where they are that, else RW. */
-    virtual GenApi::EAccessMode readAccess() const
+    virtual GenApi::EAccessMode readAccess() const { return availabilityOf({m_error, m_blocksPolling}); }
+
+    /** What all that is read and written allows, before the node's own conditions are asked. */
+    virtual GenApi::EAccessMode firstAccess() const
     {
-        return combined(availability(m_error), availability(m_blocksPolling));
+        const GenApi::EAccessMode mode = valueAccess(When::Now);
+        return mode == GenApi::NI ? mode : combined(mode, readAccess());
     }
 
     /** Intentionally, a value that is picked by an index is there for whoever can read the index. */
@@ -258,6 +271,9 @@ protected:
 
     /** What the node itself ever allows. */
     GenApi::EAccessMode ownAccess() const { return m_isImplemented ? implementation() : m_imposedAccess; }
+
+    /** Whether a written value that has led to an error is not kept. */
+    virtual bool checksBeforeKeeping() const { return false; }
 
     /** Throws when the node that tells about errors tells of one. */
     void checkError() const;

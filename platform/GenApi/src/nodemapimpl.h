@@ -225,7 +225,7 @@ void Node::change(const char *operation, const Write &write)
             failure = std::current_exception(); // what was changed before it is asked for again
         }
         m_map.startEvaluation();
-        if (failure)
+        if (failure && !changes.portHasFailed())
             std::rethrow_exception(failure);
         changed = changes.nodes();
         m_map.fire(changed, GenApi::cbPostInsideLock, failure);

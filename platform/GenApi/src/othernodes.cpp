@@ -380,11 +380,12 @@ double EnumerationNode::floatValue(bool ignoreCache)
 {
     const int64_t value = intValue(ignoreCache);
     const EnumEntryNode *const entry = find(value);
-    if (!entry) {
-        ORV_THROW(LogicalErrorException,
-                  std::string("node '") + name() + "' has no entry with the value " + std::to_string(value));
-    }
-    return entry->numericValue();
+    if (entry)
+        return entry->numericValue();
+    const std::string why = std::string("node '") + name() + "' has no entry with the value " + std::to_string(value);
+    if (m_map.m_verifying)
+        ORV_THROW(OutOfRangeException, why);
+    ORV_THROW(LogicalErrorException, why);
 }
 
 void EnumerationNode::setFloatValue(double value, bool verify, Changes &changes)

@@ -110,8 +110,7 @@ protected:
     GenApi::EAccessMode readAccess() const override
     {
         const GenApi::EAccessMode mode = combined(Node::readAccess(), availability(m_commandValue.node()));
-        const bool isBlind =
-            m_value.node() && m_commandValue.node() && !isReadable(m_commandValue.node()->accessMode());
+        const bool isBlind = m_commandValue.node() && !isReadable(m_commandValue.node()->accessMode());
         return isBlind ? combined(mode, GenApi::NA) : mode;
     }
 
@@ -146,6 +145,7 @@ public:
 
 protected:
     GenApi::EAccessMode openAccess() const override { return GenApi::RO; }
+    GenApi::EAccessMode firstAccess() const override { return readAccess(); }
     GenApi::EAccessMode valueAccess(When) const override { return GenApi::RO; }
 
 private:
@@ -198,6 +198,8 @@ public:
     int64_t entryValue(std::string_view symbolic) override;
 
 protected:
+    GenApi::EAccessMode firstAccess() const override { return combined(readAccess(), availability(m_value.node())); }
+
     /** Nothing can be chosen where no entry is: then the enumeration is not available or not implemented itself. */
     GenApi::EAccessMode valueAccess(When when) const override;
 

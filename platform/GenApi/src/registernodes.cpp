@@ -26,10 +26,10 @@ EAccessMode RegisterData::access(Node::When when) const
 
 EAccessMode RegisterData::placeAccess() const
 {
-    EAccessMode mode = Node::availability(m_length.node());
+    EAccessMode mode = Node::availabilityOf({m_port, m_length.node()});
     for (const AddressTerm &term : m_addressTerms) {
-        mode = combined(mode, Node::availability(term.value.node()));
-        mode = combined(mode, Node::availability(term.offset.node()));
+        if (mode != NI)
+            mode = combined(mode, Node::availabilityOf({term.value.node(), term.offset.node()}));
     }
     return mode;
 }
@@ -103,7 +103,12 @@ void RegisterData::write(Node &owner, std::string bytes, Changes &changes)
     const Place at = place(owner);
     m_port->drop(at.address, at.length);
     changes.add(owner); // before writing: when the port fails half-way, nothing that was kept can be trusted
-    m_port->write(bytes.data(), at.address, static_cast<int64_t>(bytes.size()));
+    try {
+        m_port->write(bytes.data(), at.address, static_cast<int64_t>(bytes.size()));
+    } catch (...) {
+        changes.notePortFailure();
+        throw;
+    }
     if (owner.cachingMode() == WriteThrough && static_cast<int64_t>(bytes.size()) == at.length)
         m_port->keep(at.address, at.length, std::move(bytes));
 }

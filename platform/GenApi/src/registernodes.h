@@ -116,6 +116,8 @@ protected:
 
     GenApi::EAccessMode valueAccess(Node::When when) const override { return m_register.access(when); }
     GenApi::EAccessMode readAccess() const override { return combined(Node::readAccess(), m_register.placeAccess()); }
+    GenApi::EAccessMode firstAccess() const override { return readAccess(); }
+    bool checksBeforeKeeping() const override { return true; }
 
     RegisterData m_register;
 };

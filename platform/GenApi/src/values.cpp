@@ -141,9 +141,11 @@ void IntegerBase::setIntValue(int64_t value, bool verify, Changes &changes)
     if (verify)
         checkRange(value);
     writeInt(value, verify, changes);
+    if (verify && checksBeforeKeeping())
+        checkError();
     if (cachingMode() == WriteThrough && keepsWritten())
         m_kept.keep(value);
-    if (verify)
+    if (verify && !checksBeforeKeeping())
         checkError();
 }
 
@@ -300,9 +302,11 @@ void FloatBase::setFloatValue(double value, bool verify, Changes &changes)
     if (verify)
         checkRange(value);
     writeFloat(value, verify, changes);
+    if (verify && checksBeforeKeeping())
+        checkError();
     if (cachingMode() == WriteThrough && keepsWritten())
         m_kept.keep(value);
-    if (verify)
+    if (verify && !checksBeforeKeeping())
         checkError();
 }
 

@@ -2,8 +2,21 @@
 
 namespace OrvCameraApi {
 
+namespace {
+
+/** Who makes a camera writes what its users may only read; a node map lets nobody, checked or not. */
+std::string withoutReadOnly(std::string description)
+{
+    const std::string readOnly = "<AccessMode>RO<";
+    for (std::size_t at = description.find(readOnly); at != std::string::npos; at = description.find(readOnly, at))
+        description.replace(at, readOnly.size(), "<AccessMode>RW<");
+    return description;
+}
+
+} // namespace
+
 ServiceMap::ServiceMap(const std::string &description, GenApi::IPort &rawPort)
-    : m_map(OrvGenApi::NodeMap::fromString(description))
+    : m_map(OrvGenApi::NodeMap::fromString(withoutReadOnly(description)))
 {
     m_map->connect(&rawPort);
 }
