@@ -85,6 +85,7 @@ private Q_SLOTS:
     void saysWhyThereIsNoCamera_data();
     void saysWhyThereIsNoCamera();
     void pollsTheCamera();
+    void fitsTheNames();
     void makesFeaturesFailAndRecover();
     void showsOneCameraAfterTheOther();
     void asksForACamera();
@@ -183,6 +184,18 @@ void ExplorerWindowTest::pollsTheCamera()
     }
     QCOMPARE(OrvSim::liveObjects().devices, std::size_t(0));
     QCOMPARE(OrvSim::liveObjects().systemReferences, std::size_t(0));
+}
+
+void ExplorerWindowTest::fitsTheNames()
+{
+    ExplorerWindow window(openCamera(QString()));
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QCoreApplication::processEvents();
+    const int width = treeOf(window)->columnWidth(0);
+    QVERIFY(width <= treeOf(window)->viewport()->width() * 2 / 3);
+    treeOf(window)->resizeColumnToContents(0);
+    QCOMPARE(treeOf(window)->columnWidth(0), width);
 }
 
 void ExplorerWindowTest::makesFeaturesFailAndRecover()

@@ -50,6 +50,7 @@ class TestTreeViewResizer : public OrvTest::TestCase
 private Q_SLOTS:
     void findsEdges();
     void drags();
+    void endsWithoutARelease();
     void leavesOtherPressesToTheView();
 };
 
@@ -100,6 +101,24 @@ void TestTreeViewResizer::drags()
     QCOMPARE(tree.view.columnWidth(2), 100);
     QCOMPARE(pressed.size(), 1);
     QCOMPARE(clicked.size(), 1);
+}
+
+/** A message or another window takes the mouse away in the middle of a drag. */
+void TestTreeViewResizer::endsWithoutARelease()
+{
+    for (const QEvent::Type type :
+         {QEvent::WindowBlocked, QEvent::WindowDeactivate, QEvent::Hide, QEvent::UngrabMouse}) {
+        Tree tree;
+        const QPoint edge = tree.nearEdge(1, 2);
+        WindowMouse::press(tree.viewport, edge);
+        WindowMouse::move(tree.viewport, edge + QPoint(20, 0));
+        QCOMPARE(tree.view.columnWidth(1), 120);
+        QEvent event(type);
+        QCoreApplication::sendEvent(tree.viewport, &event);
+        WindowMouse::move(tree.viewport, edge + QPoint(60, 0));
+        QCOMPARE(tree.view.columnWidth(1), 120);
+        WindowMouse::release(tree.viewport, edge);
+    }
 }
 
 void TestTreeViewResizer::leavesOtherPressesToTheView()

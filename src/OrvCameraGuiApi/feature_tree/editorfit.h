@@ -1,5 +1,8 @@
 #pragma once
 
+#include <GenApi/GenApi.h>
+
+class QVariant;
 class QWidget;
 
 enum class EditorFit { Same, Changed, OtherClass };
@@ -10,3 +13,16 @@ enum class EditorFit { Same, Changed, OtherClass };
  * for nothing.
  */
 EditorFit fitEditor(QWidget *editor, const QWidget *fresh);
+
+/**
+ * Lets \a editor, which the model made for \a feature, offer nothing that the feature refuses: the bounds of a fraction
+ * are rounded inwards, and there are more decimals where its increment needs them. What is no number that can be
+ * entered as a whole, a register, is read-only. Both may be null.
+ */
+void refineEditor(QWidget *editor, GenApi::IValue *feature);
+
+/** Lets the range of \a editor include \a value, which its feature has, though it may refuse it. */
+void includeValue(QWidget *editor, const QVariant &value);
+
+/** Whether the value of \a feature, which may be null, can be read; true also where nobody can tell. */
+bool canRead(GenApi::IValue *feature);

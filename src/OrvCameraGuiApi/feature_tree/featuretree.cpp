@@ -135,7 +135,7 @@ QModelIndex FeatureTree::editableValue() const
 {
     const QModelIndex current = currentIndex();
     const QModelIndex value = current.sibling(current.row(), GenParamTreeModel::ValueColumn);
-    const bool isEditable = (editTriggers() & EditKeyPressed) && (value.flags() & Qt::ItemIsEditable);
+    const bool isEditable = !m_isReadOnly && (editTriggers() & EditKeyPressed) && (value.flags() & Qt::ItemIsEditable);
     return isEditable ? value : QModelIndex();
 }
 
@@ -203,9 +203,16 @@ void FeatureTree::moveCurrentTo(const QModelIndex &index)
     setCurrentIndex(index);
 }
 
+void FeatureTree::setReadOnly(bool readOnly)
+{
+    m_isReadOnly = readOnly;
+    if (QWidget *const editor = readOnly ? indexWidget(currentIndex()) : nullptr)
+        closeEditor(editor, QAbstractItemDelegate::RevertModelCache);
+}
+
 bool FeatureTree::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
 {
-    if (m_opensNothing && trigger == CurrentChanged)
+    if (m_isReadOnly || (m_opensNothing && trigger == CurrentChanged))
         return false;
     return QTreeView::edit(index, trigger, event);
 }

@@ -54,6 +54,10 @@ public:
     /** Null without a model, or when somebody has set another selection model. */
     FeatureSelection *featureSelection() const;
 
+    /** Whether no editor opens and no key changes a value; what is open closes unwritten. Off by default. */
+    bool isReadOnly() const { return m_isReadOnly; }
+    void setReadOnly(bool readOnly);
+
     using QTreeView::edit;
 
     void keyboardSearch(const QString &search) override;
@@ -85,5 +89,6 @@ private:
      */
     QHash<QPair<quintptr, int>, int> m_rowsOnScreen;
     QElapsedTimer m_sinceSearch; ///< since the last key of a search by typing
+    bool m_isReadOnly = false;
     bool m_opensNothing = false; ///< the current item moves by itself
 };

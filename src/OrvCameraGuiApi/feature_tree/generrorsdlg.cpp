@@ -1,6 +1,8 @@
 #include <OrvCameraGuiApi/feature_tree/generrorsdlg.h>
 
+#include <QAction>
 #include <QDialogButtonBox>
+#include <QMenu>
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
@@ -17,6 +19,17 @@ GenErrorsDlg::GenErrorsDlg(const QString &errors, QWidget *parent)
     text->setAccessibleName(tr("Errors"));
     // Not rich text: a message of a camera may look like a tag.
     text->setPlainText(errors.isEmpty() ? tr("No Errors") : errors);
+    text->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(text, &QWidget::customContextMenuRequested, this, [this, text](const QPoint &pos) {
+        QMenu *const menu = text->createStandardContextMenu(pos);
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        menu->addSeparator();
+        connect(menu->addAction(tr("Clear")), &QAction::triggered, this, [this, text] {
+            text->setPlainText(tr("No Errors"));
+            Q_EMIT cleared();
+        });
+        menu->popup(text->viewport()->mapToGlobal(pos));
+    });
     auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Close, Qt::Horizontal, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &GenErrorsDlg::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &GenErrorsDlg::reject);

@@ -10,4 +10,8 @@ class GenErrorsDlg : public QDialog
 public:
     /** \a errors is plain text; when it is empty the dialog says that there are none. */
     GenErrorsDlg(const QString &errors, QWidget *parent);
+
+Q_SIGNALS:
+    /** The user wants the errors to be forgotten; the dialog shows none from now on. */
+    void cleared();
 };

@@ -90,6 +90,11 @@ bool isSame(const QVariant &a, const QVariant &b)
     return !(first < second || first > second) && std::isnan(first) == std::isnan(second);
 }
 
+GenApi::IValue *featureOf(const QModelIndex &index)
+{
+    return index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
+}
+
 QVariant withoutWrapper(const QVariant &value)
 {
     return value.userType() == qMetaTypeId<VariantData>() ? value.value<VariantData>().value : value;
@@ -228,6 +233,19 @@ void setValueOf(QWidget *editor, void (Editor::*setter)(Value), const QVariant &
         (expected->*setter)(value.value<std::decay_t<Value>>());
 }
 
+/** What stands in the place of a value that cannot be read is nothing to be edited. */
+bool showsPlaceholder(QWidget *editor, const QModelIndex &index, const QVariant &value)
+{
+    auto *const field = qobject_cast<QLineEdit *>(editor);
+    if (!field || value.userType() != QMetaType::QString)
+        return false;
+    const bool hasValue = canRead(featureOf(index));
+    field->setPlaceholderText(hasValue ? QString() : value.toString());
+    if (!hasValue)
+        field->clear();
+    return !hasValue;
+}
+
 /** False when \a value is of a type that none of the model's editors shows. */
 bool load(QWidget *editor, const QVariant &value)
 {
@@ -309,9 +327,11 @@ QWidget *GenParamDelegate::createEditor(QWidget *parent, const QStyleOptionViewI
     if (!control.editor) {
         QWidget *const editor = ReadableDelegate::createEditor(parent, option, index);
         nameAfterFeature(editor, index);
+        refineEditor(editor, featureOf(index));
         captureMouseForEditor(editor);
         return editor;
     }
+    refineEditor(control.editor, featureOf(index));
     control.editor->setParent(parent);
     nameAfterFeature(control.editor, index);
     // Else one without a cursor of its own takes over the viewport's, which may be that of a column's edge.
@@ -382,7 +402,8 @@ void GenParamDelegate::setEditorData(QWidget *editor, const QModelIndex &index) 
     const bool isSelected = field && field->hasSelectedText();
     {
         const QSignalBlocker quiet(editor);
-        if (!load(editor, value))
+        includeValue(editor, value);
+        if (!showsPlaceholder(editor, index, value) && !load(editor, value))
             ReadableDelegate::setEditorData(editor, index);
     }
     // What is typed next is to replace the new value as it would have replaced the old one.
@@ -400,6 +421,8 @@ void GenParamDelegate::setEditorData(QWidget *editor, const QModelIndex &index) 
 bool GenParamDelegate::fitToFeature(QWidget *editor, const QModelIndex &index) const
 {
     const std::unique_ptr<QWidget> fresh(index.data(GenParamTreeModel::ControlDataRole).value<ControlData>().editor);
+    refineEditor(fresh.get(), featureOf(index));
+    includeValue(fresh.get(), index.data(Qt::EditRole));
     const QSignalBlocker quiet(editor);
     const EditorFit fit = fitEditor(editor, fresh.get());
     if (fit != EditorFit::OtherClass)

@@ -527,6 +527,8 @@ QVariant GenParamTreeModel::data(const QModelIndex &index, int role) const
     switch (role) {
     case ValueInterfaceRole:
         return QVariant::fromValue(d->featureOf(index).value());
+    case FeatureNameRole:
+        return d->featureOf(index).name();
     case ControlDataRole:
         return d->controlData(d->featureOf(index));
     case Qt::WhatsThisRole:
@@ -534,6 +536,19 @@ QVariant GenParamTreeModel::data(const QModelIndex &index, int role) const
     default:
         return index.column() == NameColumn ? d->nameData(d->featureOf(index), role) : d->valueData(index, role);
     }
+}
+
+void GenParamTreeModel::clearError(const QModelIndex &index, int role)
+{
+    const OpenCalls::Call call;
+    const QString name = index.data(FeatureNameRole).toString();
+    if (m_errors.ClearError(name, role))
+        Q_EMIT errorDisappeared(index, name, role);
+}
+
+void GenParamTreeModel::clearErrors()
+{
+    m_errors = GenParamErrorController();
 }
 
 bool GenParamTreeModel::setData(const QModelIndex &index, const QVariant &value, int role)

@@ -35,7 +35,8 @@ public:
 
     enum Role {
         ValueInterfaceRole = Qt::UserRole, ///< GenApi::IValue*, in both columns
-        ControlDataRole = Qt::UserRole + 1 ///< ControlData with a new editor that the caller owns, in both columns
+        ControlDataRole = Qt::UserRole + 1, ///< ControlData with a new editor that the caller owns, in both columns
+        FeatureNameRole = Qt::UserRole + 100 ///< the node's GenICam name, in both columns; asks no node
     };
 
     /** \a nodeMap stays the caller's and outlives the model; null, or one without "Root", gives no rows. */
@@ -74,6 +75,12 @@ public:
      * was written.
      */
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
+
+    /** Forgets that \a role of the feature at \a index failed; errorDisappeared() tells of it. */
+    void clearError(const QModelIndex &index, int role);
+
+    /** Forgets all failures, without a word. */
+    void clearErrors();
 
 Q_SIGNALS:
     /** A read (Qt's roles) or write (ValueInterfaceRole) of the feature failed that did not fail before. */

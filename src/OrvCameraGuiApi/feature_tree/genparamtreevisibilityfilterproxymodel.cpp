@@ -128,6 +128,7 @@ public:
     qint32 level = 0;
     WildcardMatcher pattern;
     bool wholeWords = false;
+    bool matchesNodeNames = false;
 
     std::vector<std::unique_ptr<Branch>> owned; ///< each after its parent
     std::vector<std::unique_ptr<Branch>> forgotten; ///< somebody up the stack may hold an index of them
@@ -373,8 +374,11 @@ bool GenParamTreeVisibilityFilterProxyModelPrivate::acceptsName(GenApi::INode *n
     failureOf([&] {
         if (node->GetPrincipalInterfaceType() == GenApi::intfICategory)
             return;
-        const QString name = fromGenICam(node->GetDisplayName());
-        accepted = wholeWords ? pattern.isAll(name) : pattern.isIn(name);
+        const auto matches = [this](const GenICam::gcstring &text) {
+            const QString name = fromGenICam(text);
+            return wholeWords ? pattern.isAll(name) : pattern.isIn(name);
+        };
+        accepted = matches(node->GetDisplayName()) || (matchesNodeNames && matches(node->GetName()));
     });
     return accepted;
 }
@@ -818,6 +822,12 @@ void GenParamTreeVisibilityFilterProxyModel::setCaseSensitive(bool on)
 void GenParamTreeVisibilityFilterProxyModel::setWholeWords(bool on)
 {
     d->wholeWords = on;
+    d->refilter();
+}
+
+void GenParamTreeVisibilityFilterProxyModel::setMatchesNodeNames(bool on)
+{
+    d->matchesNodeNames = on;
     d->refilter();
 }
 

@@ -76,6 +76,9 @@ public Q_SLOTS:
     /** Whether the pattern must match the whole display name, not only part of it. */
     void setWholeWords(bool on);
 
+    /** Whether a feature passes as well whose GenICam name matches the pattern; off by default. */
+    void setMatchesNodeNames(bool on);
+
     /** Asks every row again. */
     void invalidate();
 

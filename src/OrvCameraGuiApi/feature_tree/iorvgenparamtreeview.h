@@ -52,7 +52,8 @@ public:
 
     /**
      * How often the node map is polled, in milliseconds; up to 2147483647, which is taken for more than that. It is 0
-     * until it is set: then it is polled whenever there is nothing else to do.
+     * until it is set: with that polling tells the node map that no time has passed, so that it reads nothing anew, as
+     * often as the event loop runs, which keeps a processor busy.
      */
     virtual void setPollingTime(unsigned long milliseconds) = 0;
     virtual unsigned long getPollingTime() = 0;

@@ -20,9 +20,11 @@
 #include "ui_genparamtreeview.h"
 
 #include <QAction>
+#include <QElapsedTimer>
 #include <QFocusFrame>
 #include <QKeyEvent>
 #include <QPointer>
+#include <QScopedValueRollback>
 #include <QSet>
 #include <QSplitter>
 #include <QTimer>
@@ -31,6 +33,7 @@
 #include <algorithm>
 #include <limits>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -56,6 +59,34 @@ QIcon iconOf(const QString &path)
     QIcon icon{QPixmap(path)};
     icon.addPixmap(QPixmap(QString(path).replace(QLatin1String(".png"), QLatin1String("@2x.png"))));
     return icon;
+}
+
+/**
+ * \a html without the rest of words that are longer than any person would read: the time to lay one out grows with the
+ * square of its length.
+ */
+QString shortened(const QString &html)
+{
+    constexpr int longest = 2000; // characters
+    if (html.size() <= longest)
+        return html;
+    QString result;
+    int length = 0;
+    int entity = -1; ///< where the one begins that is not complete yet
+    for (const QChar c : html) {
+        length = c.isSpace() || c == QLatin1Char('<') || c == QLatin1Char('>') ? 0 : length + 1;
+        if (c == QLatin1Char('&'))
+            entity = result.size();
+        else if (c == QLatin1Char(';'))
+            entity = -1;
+        if (length == longest && entity >= 0)
+            result.truncate(entity);
+        if (length == longest)
+            result += QChar(0x2026);
+        else if (length < longest)
+            result += c;
+    }
+    return result;
 }
 
 /** The buttons at the end of a field leave what it says when it is empty whole. */
@@ -146,6 +177,7 @@ public:
     void connectProxy();
     void splitColumns();
     void currentChanged(const QModelIndex &index);
+    void tellCurrent(const QString &name);
     void moveCurrentFromGoing();
 
     void errorAppeared(const QModelIndex &index, const QString &name, const QString &message, int role);
@@ -153,6 +185,12 @@ public:
     void showStatus();
     void repaintSoon(GenApi::IValue *feature);
     void repaintRows();
+    void cellChanged(const QModelIndex &index);
+    void checkErrorsSoon();
+    void checkErrors();
+    void clearErrors();
+    void applyState(const QByteArray &text);
+    void saveLastState();
     void poll();
     void shareClock();
 
@@ -173,6 +211,24 @@ public:
     GenParamTreeVisibilityFilterProxyModel *proxy = nullptr; ///< null exactly when the model is
     bool statusShowsErrors = false;
     QSet<GenApi::IValue *> featuresToRepaint;
+    QElapsedTimer sinceRepaint;
+
+    /** A failure that does not go by itself when the value is painted. */
+    struct StandingError
+    {
+        QPersistentModelIndex index; ///< of the model
+        int role;
+        QString content; ///< of a failed write, what was there afterwards; null as long as nobody has looked
+        bool isToCheck = true;
+    };
+    std::vector<StandingError> standingErrors;
+    bool isCheckQueued = false;
+    bool isClearing = false; ///< an error goes though nothing was written
+
+    QByteArray stateToCome; ///< loaded before there was a node map
+    QByteArray lastState;
+    bool matchesNames = false;
+    QString currentName; ///< that has been told
 };
 
 void OrvGenParamTreeViewPrivate::init(GenApi::INodeMap *map)
@@ -255,8 +311,15 @@ void OrvGenParamTreeViewPrivate::initButtons()
         const OpenCalls::Call call;
         ui.treeView->expandAll();
     });
-    QObject::connect(ui.pbStatus, &QToolButton::clicked, q,
-                     [this] { (new GenErrorsDlg(errors.GetErrorInfo(), q))->show(); });
+    QObject::connect(ui.pbStatus, &QToolButton::clicked, q, [this] {
+        auto *const dialog = new GenErrorsDlg(errors.GetErrorInfo(), q);
+        QObject::connect(dialog, &GenErrorsDlg::cleared, q, [this] { clearErrors(); });
+        dialog->show();
+    });
+    auto *const clear = new QAction(OrvGenParamTreeView::tr("Clear"), ui.pbStatus);
+    QObject::connect(clear, &QAction::triggered, q, [this] { clearErrors(); });
+    ui.pbStatus->addAction(clear);
+    ui.pbStatus->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
 void OrvGenParamTreeViewPrivate::initPolling()
@@ -276,12 +339,15 @@ void OrvGenParamTreeViewPrivate::install(GenApi::INodeMap *map)
     proxy->setFilterText(ui.filterLineEdit->text());
     proxy->setCaseSensitive(filterOptions->isCaseSensitive());
     proxy->setWholeWords(filterOptions->wholeWordsOnly());
+    proxy->setMatchesNodeNames(matchesNames);
     proxy->setSourceModel(model);
     connectModel();
     showModel(proxy);
     connectProxy();
     splitColumns();
     setSpanForChildren(*ui.treeView, QModelIndex());
+    if (map && !stateToCome.isEmpty())
+        applyState(std::exchange(stateToCome, QByteArray()));
 }
 
 /** Nothing refers to the node map afterwards; only the objects that did are freed later, for they may be in use. */
@@ -298,6 +364,7 @@ void OrvGenParamTreeViewPrivate::remove()
     nodeMap = nullptr;
     clock = {};
     featuresToRepaint.clear();
+    standingErrors.clear();
     errors = GenParamErrorController();
     showStatus();
     ui.whatsThisLabel->clear();
@@ -330,6 +397,8 @@ void OrvGenParamTreeViewPrivate::connectModel()
     QObject::connect(
         model, &GenParamTreeModel::errorDisappeared, q,
         [this](const QModelIndex &index, const QString &name, int role) { errorDisappeared(index, name, role); });
+    QObject::connect(model, &QAbstractItemModel::dataChanged, q,
+                     [this](const QModelIndex &index) { cellChanged(index); });
 }
 
 /** After the tree, which has to know of a change before its rows are spanned. */
@@ -358,7 +427,15 @@ void OrvGenParamTreeViewPrivate::splitColumns()
 
 void OrvGenParamTreeViewPrivate::currentChanged(const QModelIndex &index)
 {
-    ui.whatsThisLabel->setHtml(index.data(Qt::WhatsThisRole).toString());
+    const QString name = index.data(GenParamTreeModel::FeatureNameRole).toString();
+    ui.whatsThisLabel->setHtml(shortened(index.data(Qt::WhatsThisRole).toString()));
+    tellCurrent(name);
+}
+
+void OrvGenParamTreeViewPrivate::tellCurrent(const QString &name)
+{
+    if (std::exchange(currentName, name) != name)
+        Q_EMIT q->currentFeatureChanged(name);
 }
 
 /**
@@ -394,14 +471,87 @@ void OrvGenParamTreeViewPrivate::errorAppeared(const QModelIndex &index, const Q
     errors.SetError(name, message, role);
     showStatus();
     repaintSoon(featureOf(index));
+    if (role == GenParamTreeModel::ValueInterfaceRole || role == Qt::EditRole) {
+        standingErrors.push_back({QPersistentModelIndex(index), role, QString()});
+        checkErrorsSoon();
+    }
+    Q_EMIT q->errorOccurred(name, message);
 }
 
 void OrvGenParamTreeViewPrivate::errorDisappeared(const QModelIndex &index, const QString &name, int role)
 {
-    if (!errors.ClearError(name, role))
+    if (role == Qt::DisplayRole)
+        cellChanged(index);
+    if (errors.ClearError(name, role)) {
+        showStatus();
+        repaintSoon(featureOf(index));
+    }
+    if (role == GenParamTreeModel::ValueInterfaceRole && !isClearing)
+        Q_EMIT q->featureWritten(name);
+}
+
+/** Costs nothing as long as nothing has failed. */
+void OrvGenParamTreeViewPrivate::cellChanged(const QModelIndex &index)
+{
+    for (StandingError &error : standingErrors) {
+        if (error.index.internalId() == index.internalId()) {
+            error.isToCheck = true;
+            checkErrorsSoon();
+        }
+    }
+}
+
+/** When the write that is going on has ended. */
+void OrvGenParamTreeViewPrivate::checkErrorsSoon()
+{
+    if (std::exchange(isCheckQueued, true))
         return;
+    QMetaObject::invokeMethod(
+        q, [this] { checkErrors(); }, Qt::QueuedConnection);
+}
+
+/**
+ * A failed read of the value to be edited goes when that reads well. A failed write stays until the value or the access
+ * differs from what was there after it; that it succeeds later the model tells itself.
+ */
+void OrvGenParamTreeViewPrivate::checkErrors()
+{
+    const OpenCalls::Call call;
+    isCheckQueued = false;
+    std::vector<StandingError> pending = std::exchange(standingErrors, {});
+    const QPointer<GenParamTreeModel> checked(model);
+    for (StandingError &error : pending) {
+        const QString name = error.index.data(GenParamTreeModel::FeatureNameRole).toString();
+        if (!checked || checked != model || !error.index.isValid() || !errors.hasError(name))
+            continue;
+        if (std::exchange(error.isToCheck, false)) {
+            if (error.role == Qt::EditRole) {
+                error.index.data(Qt::EditRole); // which clears it, if it goes well
+            } else {
+                const QString content = error.index.data().toString() + QChar(int(error.index.flags()));
+                if (!error.content.isNull() && content != error.content) {
+                    const QScopedValueRollback<bool> clearing(isClearing, true);
+                    checked->clearError(error.index, error.role);
+                    continue;
+                }
+                error.content = content;
+            }
+        }
+        standingErrors.push_back(error);
+    }
+}
+
+/** Also those that the model remembers: names and tool tips go by these. */
+void OrvGenParamTreeViewPrivate::clearErrors()
+{
+    const OpenCalls::Call call;
+    const QScopedValueRollback<bool> clearing(isClearing, true);
+    standingErrors.clear();
+    errors = GenParamErrorController();
+    if (model)
+        model->clearErrors();
     showStatus();
-    repaintSoon(featureOf(index));
+    ui.treeView->viewport()->update();
 }
 
 void OrvGenParamTreeViewPrivate::showStatus()
@@ -418,8 +568,10 @@ void OrvGenParamTreeViewPrivate::showStatus()
 void OrvGenParamTreeViewPrivate::repaintSoon(GenApi::IValue *feature)
 {
     if (featuresToRepaint.isEmpty()) {
-        QMetaObject::invokeMethod(
-            q, [this] { repaintRows(); }, Qt::QueuedConnection);
+        // A feature that fails every second time would have itself painted without end.
+        constexpr int interval = 200; // ms
+        const bool isSoon = sinceRepaint.isValid() && !sinceRepaint.hasExpired(interval);
+        QTimer::singleShot(isSoon ? interval : 0, q, [this] { repaintRows(); });
     }
     featuresToRepaint.insert(feature);
 }
@@ -428,6 +580,7 @@ void OrvGenParamTreeViewPrivate::repaintSoon(GenApi::IValue *feature)
 void OrvGenParamTreeViewPrivate::repaintRows()
 {
     const QSet<GenApi::IValue *> features = std::exchange(featuresToRepaint, {});
+    sinceRepaint.start();
     const QVector<FeatureTree::Row> rows = ui.treeView->rowsOnScreen();
     for (const FeatureTree::Row &row : rows) {
         if (features.contains(featureOf(row.index)))
@@ -448,6 +601,28 @@ void OrvGenParamTreeViewPrivate::shareClock()
 {
     const bool countsTime = pollTimer && pollTimer->isActive() && pollTimer->interval() > 0;
     clock = countsTime ? NodeMapClock::Use(nodeMap, NodeMapClock::PollsItself) : NodeMapClock::Use();
+}
+
+void OrvGenParamTreeViewPrivate::applyState(const QByteArray &text)
+{
+    TreeState::loadExpansion(*ui.treeView, text);
+    if (const auto width = TreeState::columnWidth(text)) {
+        ui.treeView->setColumnWidth(GenParamTreeModel::NameColumn, *width);
+        isStateLoaded = true;
+    }
+    const auto level = TreeState::visibility(text);
+    const bool bringsRows = level && *level > ui.cbVisibility->currentIndex();
+    if (level)
+        ui.cbVisibility->setCurrentIndex(*level);
+    TreeState::loadSplitter(*splitter, text);
+    if (bringsRows && proxy)
+        TreeState::loadExpansion(*ui.treeView, text);
+}
+
+void OrvGenParamTreeViewPrivate::saveLastState()
+{
+    if (nodeMap)
+        lastState = TreeState::save(*ui.treeView, ui.cbVisibility->currentIndex(), *splitter);
 }
 
 IOrvGenParamTreeView::~IOrvGenParamTreeView() = default;
@@ -481,12 +656,16 @@ void OrvGenParamTreeView::setParams(OrvGenParam::Array *params)
 
 void OrvGenParamTreeView::setParams(GenApi::INodeMap *nodeMap)
 {
+    d->saveLastState();
     d->install(nodeMap);
+    d->tellCurrent(d->ui.treeView->currentIndex().data(FeatureNameRole).toString());
 }
 
 void OrvGenParamTreeView::clearParams()
 {
+    d->saveLastState();
     d->remove();
+    d->tellCurrent(QString());
 }
 
 Visibility OrvGenParamTreeView::visibility() const
@@ -508,20 +687,54 @@ const char *OrvGenParamTreeView::saveState() const
 
 void OrvGenParamTreeView::loadState(const char *state)
 {
-    if (!state || !*state || !d->nodeMap)
+    if (!state || !*state)
         return;
+    if (!d->nodeMap) {
+        d->stateToCome = state;
+        return;
+    }
     const OpenCalls::Call call;
     // A copy: the text may be the one that saveState() gave, and whoever listens to the tree may save meanwhile.
     const QByteArray text(state);
     d->state = text;
-    TreeState::loadExpansion(*d->ui.treeView, text);
-    if (const auto width = TreeState::columnWidth(text)) {
-        d->ui.treeView->setColumnWidth(GenParamTreeModel::NameColumn, *width);
-        d->isStateLoaded = true;
-    }
-    if (const auto level = TreeState::visibility(text))
-        d->ui.cbVisibility->setCurrentIndex(*level);
-    TreeState::loadSplitter(*d->splitter, text);
+    d->applyState(text);
+}
+
+QString OrvGenParamTreeView::filterText() const
+{
+    return d->ui.filterLineEdit->text();
+}
+
+void OrvGenParamTreeView::setFilterText(const QString &text)
+{
+    d->ui.filterLineEdit->setText(text);
+}
+
+bool OrvGenParamTreeView::filterMatchesNames() const
+{
+    return d->matchesNames;
+}
+
+void OrvGenParamTreeView::setFilterMatchesNames(bool on)
+{
+    d->matchesNames = on;
+    if (d->proxy)
+        d->proxy->setMatchesNodeNames(on);
+}
+
+bool OrvGenParamTreeView::isReadOnly() const
+{
+    return d->ui.treeView->isReadOnly();
+}
+
+void OrvGenParamTreeView::setReadOnly(bool readOnly)
+{
+    d->ui.treeView->setReadOnly(readOnly);
+}
+
+const char *OrvGenParamTreeView::lastState() const
+{
+    return d->lastState.constData();
 }
 
 void OrvGenParamTreeView::setPollingTime(unsigned long milliseconds)

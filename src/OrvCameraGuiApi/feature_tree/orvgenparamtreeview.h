@@ -64,6 +64,40 @@ public:
      */
     QTreeView *treeView() const;
 
+    /**
+     * The state before the last clearParams() or setParams(), as saveState() gives it, which then knows of no features
+     * any more; empty when there was none. Valid until the next of these calls.
+     */
+    const char *lastState() const;
+
+    /** What stands in the filter: a pattern with "*" and "?", by default empty. @{ */
+    QString filterText() const;
+    void setFilterText(const QString &text);
+    /** @} */
+
+    /** Whether the filter also lets features pass whose GenICam name matches. Off by default. @{ */
+    bool filterMatchesNames() const;
+    void setFilterMatchesNames(bool on);
+    /** @} */
+
+    /** Whether people can look at the features only. Off by default. What is open in an editor is not written. @{ */
+    bool isReadOnly() const;
+    void setReadOnly(bool readOnly);
+    /** @} */
+
+    /** The role of the tree's model under which a row has its feature's GenICam name. */
+    static constexpr int FeatureNameRole = Qt::UserRole + 100;
+
+Q_SIGNALS:
+    /** The current row, by its feature's GenICam name; empty for none. */
+    void currentFeatureChanged(const QString &name);
+
+    /** A value that was entered in the tree has been written, or a command executed. */
+    void featureWritten(const QString &name);
+
+    /** Reading or writing the feature has failed, which it did not before. */
+    void errorOccurred(const QString &name, const QString &text);
+
 protected:
     void keyPressEvent(QKeyEvent *event) override;
 

@@ -33,6 +33,8 @@ bool TreeViewResizer::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_view && event->type() == QEvent::Show)
         Q_EMIT showed();
+    if (event->type() == QEvent::WindowBlocked || event->type() == QEvent::WindowDeactivate)
+        m_resizing = false;
     if (watched != m_viewport)
         return false;
     switch (event->type()) {
@@ -43,7 +45,9 @@ bool TreeViewResizer::eventFilter(QObject *watched, QEvent *event)
         return filterPress(*static_cast<QMouseEvent *>(event));
     case QEvent::MouseButtonRelease:
         return filterRelease(*static_cast<QMouseEvent *>(event));
-    case QEvent::Hide: // the release then comes to nobody
+    // The release then comes to nobody. A move without a button tells nothing: some systems report none in a drag.
+    case QEvent::Hide:
+    case QEvent::UngrabMouse:
         m_resizing = false;
         return false;
     default:

@@ -1,0 +1,251 @@
+#include "orvtest.h"
+#include "shownview.h"
+
+#include <OrvGenApi/testing/faults.h>
+
+#include <QAbstractProxyModel>
+#include <QAction>
+#include <QDoubleSpinBox>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QTextBrowser>
+#include <QToolButton>
+
+using OrvGenApi::testing::clearFaults;
+using OrvGenApi::testing::failGetter;
+
+namespace {
+
+QByteArray detailNodes()
+{
+    return R"(<Category Name="Root"><pFeature>Plain</pFeature><pFeature>Deep</pFeature></Category>
+<Category Name="Plain"><pFeature>Beyond</pFeature><pFeature>Secret</pFeature><pFeature>Blob</pFeature>
+  <pFeature>Narrow</pFeature><pFeature>Fine</pFeature><pFeature>Long</pFeature><pFeature>Slow</pFeature>
+  <pFeature>PixelFormat</pFeature></Category>
+<Category Name="Deep"><Visibility>Guru</Visibility><pFeature>Hidden</pFeature></Category>
+<Integer Name="Beyond"><pValue>BeyondReg</pValue><Min>100</Min><Max>4000</Max></Integer>
+<IntReg Name="BeyondReg"><Address>0</Address><Length>8</Length><AccessMode>RW</AccessMode><pPort>Device</pPort>
+  <Endianess>BigEndian</Endianess></IntReg>
+<StringReg Name="Secret"><Address>0x80</Address><Length>16</Length><AccessMode>WO</AccessMode><pPort>Device</pPort>
+  </StringReg>
+<Register Name="Blob"><Address>0xA0</Address><Length>8</Length><AccessMode>RW</AccessMode><pPort>Device</pPort>
+  </Register>
+<Float Name="Narrow"><Value>0.5</Value><Min>0.126</Min><Max>8.128</Max><DisplayPrecision>2</DisplayPrecision></Float>
+<Float Name="Fine"><Value>0.5</Value><Min>0</Min><Max>8</Max><Inc>0.125</Inc><DisplayPrecision>1</DisplayPrecision>
+  </Float>
+<Integer Name="Long"><Description>LONG</Description><Value>1</Value></Integer>
+<IntReg Name="Slow"><Address>0x200</Address><Length>4</Length><AccessMode>RW</AccessMode><pPort>Device</pPort>
+  <PollingTime>10</PollingTime><Endianess>BigEndian</Endianess></IntReg>
+<Integer Name="PixelFormat"><DisplayName>Colors</DisplayName><Value>1</Value></Integer>
+<Integer Name="Hidden"><Value>7</Value></Integer>)";
+}
+
+template <typename Editor>
+Editor *editorOf(ShownView &shown, const char *name)
+{
+    shown.click(shown.cell(name));
+    const auto editors = shown.tree->viewport()->findChildren<Editor *>(QString(), Qt::FindDirectChildrenOnly);
+    return editors.isEmpty() ? nullptr : editors.last();
+}
+
+QStringList expandedIn(const ShownView &shown)
+{
+    QStringList names;
+    const QModelIndexList rows = shown.rows();
+    for (const QModelIndex &index : rows) {
+        if (shown.tree->isExpanded(index))
+            names += index.data().toString();
+    }
+    return names;
+}
+
+} // namespace
+
+class TestTreeDetails : public OrvTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void offersWhatIsTaken();
+    void forgetsErrors();
+    void paintsAFlickeringFaultNowAndThen();
+    void keepsStates();
+    void shortensEndlessWords();
+    void servesIntegrators();
+};
+
+void TestTreeDetails::offersWhatIsTaken()
+{
+    ShownView shown(detailNodes());
+    shown.node<GenApi::CIntegerPtr>("BeyondReg")->SetValue(5000);
+    QVERIFY(shown.show());
+    const auto *const beyond = editorOf<QAbstractSpinBox>(shown, "Beyond");
+    QVERIFY(beyond);
+    QCOMPARE(beyond->text(), QStringLiteral("5000"));
+
+    auto *const secret = editorOf<QLineEdit>(shown, "Secret");
+    QVERIFY(secret);
+    QCOMPARE(secret->text(), QString());
+    QCOMPARE(secret->placeholderText(), QStringLiteral("<Value not readable>"));
+    QTest::keyClicks(secret, QStringLiteral("abc\r"));
+    QTRY_COMPARE(shown.port.writeCount(), uint64_t(2));
+
+    const auto *const blob = editorOf<QLineEdit>(shown, "Blob");
+    QVERIFY(!blob || blob->isReadOnly());
+    const auto *const narrow = editorOf<QDoubleSpinBox>(shown, "Narrow");
+    QVERIFY(narrow);
+    QCOMPARE(narrow->decimals(), 2);
+    QCOMPARE(narrow->minimum(), 0.13);
+    QCOMPARE(narrow->maximum(), 8.12);
+    const auto *const fine = editorOf<QDoubleSpinBox>(shown, "Fine");
+    QVERIFY(fine);
+    QCOMPARE(fine->decimals(), 3);
+    QCOMPARE(fine->singleStep(), 0.125);
+}
+
+void TestTreeDetails::forgetsErrors()
+{
+    ShownView shown;
+    QVERIFY(shown.show());
+    const QModelIndex label = shown.cell("Label", 0);
+    const auto isRed = [&] { return label.data(Qt::ForegroundRole).isValid(); };
+    const auto failWrite = [&] {
+        failGetter(*shown.map, "Label", "SetValue", "no");
+        shown.tree->clearSelection();
+        const bool isEntered = shown.enter("Label", "new");
+        QCoreApplication::processEvents();
+        clearFaults(*shown.map);
+        return isEntered && isRed();
+    };
+    QVERIFY(failWrite());
+    shown.node("Label")->InvalidateNode(); // the same value once more
+    QCoreApplication::processEvents();
+    QVERIFY(isRed());
+    shown.node<GenApi::CStringPtr>("Label")->SetValue("other");
+    QTRY_VERIFY(!isRed());
+
+    auto *const status = shown.part<QToolButton>("pbStatus");
+    QVERIFY(failWrite());
+    QCOMPARE(status->actions().size(), 1);
+    QSignalSpy written(&shown.view, &OrvGui::OrvGenParamTreeView::featureWritten);
+    status->actions().constFirst()->trigger();
+    QVERIFY(!isRed());
+    QCOMPARE(status->accessibleName(), QStringLiteral("No errors"));
+    QCOMPARE(written.count(), 0);
+
+    // Of the value to be edited; what is shown could be read all the time.
+    failGetter(*shown.map, "Mode", "GetCurrentEntry", "no");
+    shown.click(shown.cell("Mode"));
+    QVERIFY(shown.cell("Mode", 0).data(Qt::ForegroundRole).isValid());
+    QCoreApplication::processEvents();
+    clearFaults(*shown.map);
+    shown.tree->setCurrentIndex(QModelIndex());
+    shown.node("Mode")->InvalidateNode();
+    QTRY_VERIFY(!shown.cell("Mode", 0).data(Qt::ForegroundRole).isValid());
+}
+
+void TestTreeDetails::paintsAFlickeringFaultNowAndThen()
+{
+    ShownView shown;
+    QVERIFY(shown.show());
+    // Fails and reads well in turn, at every paint.
+    PaintLog paints(shown.tree->viewport());
+    bool fails = true;
+    failGetter(*shown.map, "Exposure", "GetValue");
+    const auto flicker = [&] {
+        fails = !fails;
+        if (fails)
+            failGetter(*shown.map, "Exposure", "GetValue");
+        else
+            clearFaults(*shown.map);
+    };
+    shown.node("Exposure")->InvalidateNode();
+    QElapsedTimer time;
+    time.start();
+    uint64_t seen = 0;
+    while (time.elapsed() < 500) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+        if (paints.count != seen)
+            flicker();
+        seen = paints.count;
+    }
+    QVERIFY2(paints.count > 1 && paints.count < 20, qPrintable(QString::number(paints.count)));
+    clearFaults(*shown.map);
+}
+
+void TestTreeDetails::keepsStates()
+{
+    ShownView shown(detailNodes());
+    QVERIFY(shown.show());
+    QCOMPARE(shown.view.lastState(), "");
+    const QByteArray state = shown.view.saveState();
+    shown.view.clearParams();
+    QCOMPARE(QByteArray(shown.view.lastState()), state);
+    QCOMPARE(shown.view.saveState(), "");
+
+    shown.view.setVisibility(OrvGui::Basic);
+    shown.view.loadState("Deep&lt;&amp;W123&amp;V2");
+    QCOMPARE(shown.view.visibility(), OrvGui::Basic);
+    shown.view.setParams(shown.map.get());
+    QCOMPARE(shown.view.visibility(), OrvGui::Guru);
+    QCOMPARE(shown.tree->columnWidth(0), 123);
+    QCOMPARE(expandedIn(shown), QStringList(QStringLiteral("Deep"))); // a row that the level has brought
+    shown.view.setParams(shown.map.get());
+    QCOMPARE(expandedIn(shown), QStringList()); // once
+}
+
+void TestTreeDetails::shortensEndlessWords()
+{
+    ShownView shown(detailNodes().replace("LONG", QByteArray(100000, 'x') + " &amp; end"));
+    QVERIFY(shown.show());
+    QElapsedTimer time;
+    time.start();
+    shown.click(shown.cell("Long", 0));
+    QCoreApplication::processEvents();
+    QVERIFY2(time.elapsed() < 2000, qPrintable(QString::number(time.elapsed())));
+    const QString text = shown.part<QTextBrowser>("whatsThisLabel")->toPlainText();
+    QVERIFY(text.contains(QStringLiteral("xxx\u2026 & end")));
+    QVERIFY(shown.cell("Long", 0).data(Qt::WhatsThisRole).toString().size() > 100000);
+}
+
+void TestTreeDetails::servesIntegrators()
+{
+    using View = OrvGui::OrvGenParamTreeView;
+    ShownView shown(detailNodes());
+    QVERIFY(shown.show());
+    QSignalSpy current(&shown.view, &View::currentFeatureChanged);
+    QSignalSpy written(&shown.view, &View::featureWritten);
+    QSignalSpy failed(&shown.view, &View::errorOccurred);
+    shown.click(shown.cell("Colors", 0));
+    QCOMPARE(current.takeLast(), QVariantList{QStringLiteral("PixelFormat")});
+    QCOMPARE(shown.cell("Colors").data(View::FeatureNameRole).toString(), QStringLiteral("PixelFormat"));
+    QVERIFY(shown.enter("Colors", "3"));
+    QCOMPARE(written.takeLast(), QVariantList{QStringLiteral("PixelFormat")});
+    failGetter(*shown.map, "PixelFormat", "SetValue", "no");
+    shown.tree->clearSelection();
+    QVERIFY(shown.enter("Colors", "4"));
+    QCOMPARE(failed.takeLast(), (QVariantList{QStringLiteral("PixelFormat"), QStringLiteral("no")}));
+    clearFaults(*shown.map);
+
+    shown.view.setReadOnly(true);
+    shown.click(shown.cell("Slow"));
+    QTest::keyClick(shown.tree, Qt::Key_F2);
+    QCOMPARE(shown.tree->viewport()->findChildren<QAbstractSpinBox *>().size(), 0);
+    shown.view.setReadOnly(false);
+    shown.tree->clearSelection();
+    QVERIFY(shown.enter("Slow", "4"));
+
+    shown.view.setFilterText(QStringLiteral("PixelF*"));
+    QVERIFY(!shown.cell("Colors").isValid());
+    shown.view.setFilterMatchesNames(true);
+    QVERIFY(shown.cell("Colors").isValid() && !shown.cell("Slow").isValid());
+    shown.view.setParams(shown.map.get());
+    shown.tree->expandAll();
+    QVERIFY(shown.cell("Colors").isValid() && !shown.cell("Slow").isValid());
+    shown.click(shown.cell("Colors", 0));
+    shown.view.clearParams();
+    QCOMPARE(current.takeLast(), QVariantList{QString()});
+}
+
+ORV_TEST_MAIN(TestTreeDetails)
+#include "tst_treedetails.moc"
