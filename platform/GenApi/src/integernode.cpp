@@ -199,8 +199,10 @@ std::vector<int64_t> IntegerNode::validInts(bool bounded)
         values = *m_validValues;
     else if (node)
         values = node->validInts(false);
-    if (bounded)
-        keepInside(values, intRange());
+    if (bounded) {
+        const int64_t maximum = intMax();
+        keepInside(values, {intMin(), maximum});
+    }
     return values;
 }
 
@@ -264,8 +266,10 @@ std::vector<double> FloatNode::validFloats(bool bounded)
     Node *const node = m_source.currentNode(*this);
     if (!m_increment.isSet() && node)
         values = node->validFloats(false);
-    if (bounded)
-        keepInside(values, floatRange());
+    if (bounded) {
+        const double maximum = floatMax();
+        keepInside(values, {floatMin(), maximum});
+    }
     return values;
 }
 

@@ -191,7 +191,7 @@ void IntRegisterNode::writeInt(int64_t value, bool, Changes &changes)
     const Bits field = bits();
     const auto length = static_cast<std::size_t>(m_register.length(*this));
     uint64_t raw = static_cast<uint64_t>(value);
-    if (field.count < 8 * length) {
+    if (m_lsb >= 0) { // also when it is all of them
         requireReadable(); // the other bits belong to other nodes
         const uint64_t mask = ((uint64_t(1) << field.count) - 1) << field.lowest;
         raw = (raw << field.lowest & mask) | (rawOf(m_register.read(*this, false)) & ~mask);
