@@ -40,6 +40,10 @@
         <source>Errors</source>
         <translation>Fehler</translation>
     </message>
+    <message>
+        <source>Clear</source>
+        <translation>Löschen</translation>
+    </message>
 </context>
 <context>
     <name>GenParamTreeModel</name>
@@ -1483,6 +1487,10 @@ Press OK to skip the IP Configuration, or press Ignore to confirm</source>
     <message>
         <source>No errors</source>
         <translation>Keine Fehler</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Löschen</translation>
     </message>
 </context>
 <context>
