@@ -73,7 +73,7 @@ ExplorerWindow::ExplorerWindow(std::unique_ptr<CameraSource> source, QWidget *pa
     , m_connectionLabel(new QLabel(this))
     , m_pollingLabel(new QLabel(this))
 {
-    resize(780, 760);
+    resize(usualSize);
     openWithinScreen(*this);
     m_view->setPollingTime(defaultPollingTime);
     m_tools->setObjectName(QStringLiteral("tools"));

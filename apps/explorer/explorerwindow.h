@@ -2,6 +2,7 @@
 
 #include <QHash>
 #include <QMainWindow>
+#include <QSize>
 
 #include <memory>
 
@@ -28,6 +29,9 @@ class ExplorerWindow : public QMainWindow
     Q_OBJECT
 
 public:
+    /** On a screen that has room for it. */
+    static constexpr QSize usualSize{780, 760};
+
     explicit ExplorerWindow(std::unique_ptr<CameraSource> source, QWidget *parent = nullptr);
     ~ExplorerWindow() override;
 

@@ -10,12 +10,14 @@
 #include <QDeadlineTimer>
 #include <QDialog>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QTimer>
 #include <QToolButton>
 
 namespace {
 
 constexpr int longestWait = 5000; // milliseconds
+constexpr QSize usualSelector(820, 640);
 
 /** The name that the library gives a part of its windows. */
 template <typename Widget>
@@ -32,6 +34,19 @@ void waitForText(const QLineEdit &field)
     wake.start(longestWait / 10);
     while (field.text().isEmpty() && !deadline.hasExpired())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+/** A picture has a window whole, however small the screen is. */
+void enlarge(QWidget &window)
+{
+    const auto areas = window.findChildren<QScrollArea *>();
+    for (const QScrollArea *const area : areas) {
+        if (!area->isVisible() || !area->widget())
+            continue;
+        const QSize missing = area->widget()->sizeHint() - area->viewport()->size();
+        window.resize(window.size() + missing.expandedTo(QSize(0, 0)));
+        QCoreApplication::processEvents();
+    }
 }
 
 } // namespace
@@ -56,6 +71,8 @@ bool Screenshots::save()
 
 void Screenshots::savePages()
 {
+    m_window.ensurePolished(); // when it takes the size that the screen has
+    m_window.resize(ExplorerWindow::usualSize);
     const QStringList pages = m_window.pageNames();
     for (const QString &page : pages) {
         m_window.showPage(page);
@@ -104,6 +121,7 @@ void Screenshots::saveSelection()
     const std::shared_ptr<OrvCam::System> system = cameraSystem();
     CameraDialog dialog(system.get());
     dialog.show(); // the panes divide the width that they have
+    dialog.resize(dialog.size().expandedTo(usualSelector));
     QCoreApplication::processEvents();
     QTimer::singleShot(0, &dialog, [this] {
         if (QWidget *const opened = QApplication::activeModalWidget())
@@ -118,6 +136,7 @@ void Screenshots::showAndGrab(QWidget &window, const QString &name)
 {
     window.show();
     QCoreApplication::processEvents();
+    enlarge(window);
     grab(window, name);
     window.close();
 }
