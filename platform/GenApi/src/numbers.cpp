@@ -218,7 +218,7 @@ std::string formatFloat(double value, GenApi::EDisplayNotation notation, int64_t
 std::string formatFloat(double value, GenApi::EDisplayNotation notation, int64_t precision,
                         const std::pair<double, double> &limits)
 {
-    const std::string text = formatFloat(value, notation, precision);
+    std::string text = formatFloat(value, notation, precision);
     const double shown = parseFloat(text).value_or(value);
     const bool isOver = shown > limits.second;
     if (!isOver && !(shown < limits.first))

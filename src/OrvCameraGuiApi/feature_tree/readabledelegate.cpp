@@ -45,7 +45,7 @@ QColor readableColor(const QColor &color, const QColor &text, const QColor &back
     constexpr double wanted = 4.5;
     constexpr int steps = 32;
     for (int step = 0; step < steps; ++step) {
-        const QColor candidate = blended(color, text, step * 256 / steps);
+        QColor candidate = blended(color, text, step * 256 / steps);
         if (contrastOf(candidate, background) >= wanted)
             return candidate;
     }
@@ -56,7 +56,7 @@ void ReadableDelegate::initStyleOption(QStyleOptionViewItem *option, const QMode
 {
     QStyledItemDelegate::initStyleOption(option, index);
     const QPalette palette = option->widget ? option->widget->palette() : QGuiApplication::palette();
-    const QColor text = palette.color(QPalette::Text);
+    const QColor &text = palette.color(QPalette::Text);
     const QColor color = option->palette.color(QPalette::Text);
     if (color != text)
         option->palette.setColor(QPalette::Text, readableColor(color, text, backgroundOf(*option, palette)));

@@ -39,9 +39,8 @@ public:
         if (!window->isWindow() || (window->windowState() & whole))
             return false;
         // What is in the window is shown before the window, so it learns a given size when that is polished.
-        if (event->type() == QEvent::Polish && window->testAttribute(Qt::WA_Resized))
-            fit(*window);
-        else if (event->type() == QEvent::Show && !event->spontaneous())
+        const bool isPolished = event->type() == QEvent::Polish && window->testAttribute(Qt::WA_Resized);
+        if (isPolished || (event->type() == QEvent::Show && !event->spontaneous()))
             fit(*window);
         return false;
     }
