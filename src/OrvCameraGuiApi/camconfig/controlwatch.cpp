@@ -190,12 +190,7 @@ void ControlWatch::focusChanged(QWidget *now)
     const bool had = m_hasFocus;
     m_hasFocus = isPart(now);
     if (had && !m_hasFocus)
-        giveUp();
-}
-
-void ControlWatch::giveUp()
-{
-    Q_EMIT entryGivenUp();
+        Q_EMIT entryGivenUp();
 }
 
 bool ControlWatch::eventFilter(QObject *watched, QEvent *event)
@@ -217,7 +212,7 @@ bool ControlWatch::eventFilter(QObject *watched, QEvent *event)
             return false;
         event->accept();
         if (event->type() == QEvent::KeyPress)
-            giveUp();
+            Q_EMIT entryGivenUp();
         return event->type() == QEvent::ShortcutOverride || !isMarked(); // else the key goes on, to close the window
     default:
         return false;

@@ -59,7 +59,6 @@ private:
     bool isPart(const QObject *object) const;
     void focusChanged(QWidget *now);
     void tell(const QString &text);
-    void giveUp();
 
     QWidget *const m_control;
     QPointer<QWidget> m_frame; ///< while marked

@@ -99,19 +99,10 @@ private:
     const std::shared_ptr<bool> m_begun = std::make_shared<bool>(false);
 };
 
-void showRange(QtOrvSpinBox *spinBox, int minimum, int maximum, int)
+template <typename Control>
+void showRange(Control *control, int minimum, int maximum, int)
 {
-    spinBox->setRange(minimum, maximum);
-}
-
-void showRange(QtOrvSliderSpinBox *spinBox, int minimum, int maximum, int)
-{
-    spinBox->setRange(minimum, maximum);
-}
-
-void showRange(QSpinBox *spinBox, int minimum, int maximum, int)
-{
-    spinBox->setRange(minimum, maximum);
+    control->setRange(minimum, maximum);
 }
 
 /** A QSlider can take no range of 2^31 or more: the bound that is farther from the value moves inwards. */
@@ -591,8 +582,7 @@ int OrvCamConfigMapper::bindNumber(OrvGenParam::Int *param, Composite *composite
         return 0;
     composite->setValidate(true);
     composite->setValidateTyping(false);
-    composite->spinBox()->blockSignals(false);
-    EntryGuard::install(composite->spinBox());
+    composite->spinBox()->setEntryGuarded(true);
     watch(param, composite);
     refresh(param, record);
 
@@ -768,7 +758,10 @@ int OrvCamConfigMapper::mapCommandParam(OrvGenParam::Command *param, QPushButton
     };
     QObject *const context = newContext(record);
     if (timer) // without it nobody would enable the button again
-        QObject::connect(timer, &QObject::destroyed, context, [=] { button->setEnabled(isUsable(param)); });
+        QObject::connect(timer, &QObject::destroyed, context, [param, waiting = QPointer<QWidget>(button)] {
+            if (waiting)
+                waiting->setEnabled(isUsable(param));
+        });
     QObject::connect(button, &QAbstractButton::clicked, context, [=] {
         if (isBarred() || !param->IsWritable())
             return;
@@ -834,6 +827,7 @@ void OrvCamConfigMapper::unmapAll()
     const auto params = std::exchange(m_params, {});
     m_tabs.clear();
     m_dropped.clear();
+    m_contexts.clear(); // those of controls that are gone, too
     for (OrvGenParam::Param *const param : params)
         param->UnregisterEvent(this);
     // A field that loses the focus may tell somebody who destroys the mapper.

@@ -89,7 +89,7 @@ struct OrvCamConfigMapData
  *
  * Values, maxima and steps are limited to the upper clamp where a widget shows them, minima only to what an int can
  * hold; the tool tip gives a value that is beyond. What is entered is moved to a step of the parameter, what the camera
- * reports is shown as it is. Failed reads show as 0 or as nothing.
+ * reports is shown as it is. A field is empty while its value cannot be read.
  *
  * GUI thread only, except OnParameterUpdate().
  */
