@@ -2,9 +2,9 @@
 
 #include "pseudolanguage.h"
 
-#include <QMutex>
 #include <QStringList>
 
+#include <mutex>
 #include <optional>
 
 namespace OrvTest {
@@ -19,7 +19,7 @@ const char *const platformNoise[] = {
 
 struct Watch
 {
-    QMutex mutex;
+    std::mutex mutex;
     QStringList expected;
     QStringList unexpected;
     QtMessageHandler next = nullptr;
@@ -39,7 +39,7 @@ void noteMessage(QtMsgType type, const QMessageLogContext &context, const QStrin
             if (text == QLatin1String(noise))
                 return;
         }
-        const QMutexLocker lock(&w.mutex);
+        const std::lock_guard<std::mutex> lock(w.mutex);
         if (w.expected.removeOne(text))
             return;
         w.unexpected.append(text);
@@ -52,7 +52,7 @@ void noteMessage(QtMsgType type, const QMessageLogContext &context, const QStrin
 
 void TestCase::expectWarning(const QString &text)
 {
-    const QMutexLocker lock(&watch().mutex);
+    const std::lock_guard<std::mutex> lock(watch().mutex);
     watch().expected.append(text);
 }
 
@@ -69,7 +69,7 @@ void TestCase::cleanup()
     QStringList unexpected;
     QStringList missing;
     {
-        const QMutexLocker lock(&watch().mutex);
+        const std::lock_guard<std::mutex> lock(watch().mutex);
         unexpected.swap(watch().unexpected);
         missing.swap(watch().expected);
     }

@@ -14,8 +14,6 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QMutex>
-#include <QMutexLocker>
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
@@ -25,6 +23,7 @@
 #include <algorithm>
 #include <initializer_list>
 #include <limits>
+#include <mutex>
 #include <optional>
 #include <utility>
 
@@ -206,7 +205,7 @@ public:
     bool isShowing = false; ///< exposure time and gain follow the camera, and are not the user's
     int session = 0; ///< counts the cameras
     Cached values;
-    mutable QMutex mutex; ///< of the values; never held while a control or the camera is called
+    mutable std::mutex mutex; ///< of the values; never held while a control or the camera is called
     FeatureDialogCamera camera; ///< the last member: lets go before the others are gone
 };
 
@@ -329,7 +328,7 @@ void OrvCamConfigFrameABDialogPrivate::reset()
         ui.tabFrames->setTabEnabled(index, true);
         ui.tabFrames->setTabText(index, index == 0 ? pageTitles.first : pageTitles.second);
     }
-    const QMutexLocker locker(&mutex);
+    const std::lock_guard<std::mutex> locker(mutex);
     values = Cached();
     values.clock.pixelClock = usualPixelClock;
 }
@@ -347,7 +346,7 @@ void OrvCamConfigFrameABDialogPrivate::getNeededParams()
     OrvGenParam::Enum *const triggerMode = camera.enumeration(triggerModeFeature);
     camera.listen(triggerMode, this);
     const bool isTriggerOn = triggerMode && triggerMode->GetValue(nullptr) > 0;
-    const QMutexLocker locker(&mutex);
+    const std::lock_guard<std::mutex> locker(mutex);
     values.isTriggerOn = isTriggerOn;
 }
 
@@ -429,7 +428,7 @@ void OrvCamConfigFrameABDialogPrivate::initDigitalGain()
 
 Cached OrvCamConfigFrameABDialogPrivate::cached() const
 {
-    const QMutexLocker locker(&mutex);
+    const std::lock_guard<std::mutex> locker(mutex);
     return values;
 }
 
@@ -443,7 +442,7 @@ bool OrvCamConfigFrameABDialogPrivate::cache(OrvGenParam::Int *param)
     OrvCamErr err = OrvCamErr_Ok;
     const std::int64_t value = param->GetValue(&err);
     const std::int64_t maximum = param->GetMax(nullptr);
-    const QMutexLocker locker(&mutex);
+    const std::lock_guard<std::mutex> locker(mutex);
     if (name == QLatin1String(pixelClockFeature)) {
         values.clock.pixelClock = err == OrvCamErr_Ok ? value : usualPixelClock;
     } else if (name == QLatin1String(lineTimeFeature)) {
