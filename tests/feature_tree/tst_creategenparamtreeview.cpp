@@ -112,6 +112,10 @@ void TestCreateGenParamTreeView::standsInFrontOfAForeignWindow()
     QVERIFY(QTest::qWaitForWindowExposed(windowOf(view)));
     QCOMPARE(foreign.state(), before);
     QCOMPARE(foreign.transientForOf(windowOf(view)->winId()), foreign.id());
+    windowOf(view)->hide();
+    ShowGenParamTreeView(view.get());
+    QVERIFY(QTest::qWaitForWindowExposed(windowOf(view)));
+    QCOMPARE(foreign.transientForOf(windowOf(view)->winId()), foreign.id());
     View other(CreateGenParamTreeViewForNodemapW(m_camera.map.get(), L"", foreign.id()));
     other.reset();
     QCoreApplication::processEvents();
@@ -121,6 +125,9 @@ void TestCreateGenParamTreeView::standsInFrontOfAForeignWindow()
     QTRY_COMPARE(foreign.state(), QString());
     QCoreApplication::processEvents();
     QVERIFY(windowOf(view)->isVisible());
+    windowOf(view)->hide();
+    ShowGenParamTreeView(view.get());
+    QVERIFY(QTest::qWaitForWindowExposed(windowOf(view)));
     windowOf(view)->findChild<QTreeView *>()->expandAll();
     QVERIFY(windowOf(view)->grab().width() > 0);
 }

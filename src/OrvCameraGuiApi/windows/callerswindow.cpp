@@ -1,6 +1,7 @@
 #include <OrvCameraGuiApi/windows/callerswindow.h>
 
 #include <QApplication>
+#include <QEvent>
 #include <QWidget>
 #include <QWindow>
 
@@ -27,6 +28,47 @@ public:
 
 private:
     const std::string m_former = std::setlocale(LC_NUMERIC, nullptr);
+};
+
+/**
+ * Makes a window transient for a foreign one before each of its shows, since Qt tells the window system then, and only
+ * then. Belongs to the window.
+ *
+ * The foreign window is intentionally not put into a container widget to become the parent of ours. That would take it
+ * out of its own parent and out of sight, and destroying the container would destroy it.
+ */
+class TransientKeeper : public QObject
+{
+public:
+    TransientKeeper(QWidget &window, WId foreignId)
+        : QObject(&window)
+        , m_foreignId(foreignId)
+    {
+        window.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Show && !event->spontaneous())
+            follow(*static_cast<QWidget *>(watched));
+        return false;
+    }
+
+private:
+    /** Asks for the foreign window each time: it may have gone, and its wrapper does not notice. */
+    void follow(QWidget &window)
+    {
+        if (window.parentWidget())
+            return;
+        m_foreign.reset(QWindow::fromWinId(m_foreignId));
+        if (!m_foreign)
+            return;
+        window.winId(); // makes the native window
+        window.windowHandle()->setTransientParent(m_foreign.get());
+    }
+
+    const WId m_foreignId;
+    std::unique_ptr<QWindow> m_foreign; ///< until the next show; Qt needs it during a show
 };
 
 } // namespace
@@ -59,18 +101,9 @@ QWidget *widgetOf(unsigned long windowId)
     return windowId ? QWidget::find(windowId) : nullptr;
 }
 
-/*
- * The foreign window is intentionally not put into a container widget to become the parent of ours. That would take it
- * out of its own parent and out of sight, and destroying the container would destroy it. To be its transient window is
- * all that ours needs. This is told to the window system when ours is shown; after that nothing needs the wrapper.
- */
 void showInFrontOf(QWidget &window, unsigned long callersWindowId)
 {
-    const bool isForeign = callersWindowId && !window.parentWidget();
-    const std::unique_ptr<QWindow> foreign(isForeign ? QWindow::fromWinId(callersWindowId) : nullptr);
-    if (foreign) {
-        window.winId(); // makes the native window
-        window.windowHandle()->setTransientParent(foreign.get());
-    }
+    if (callersWindowId && !window.parentWidget())
+        new TransientKeeper(window, callersWindowId);
     window.show();
 }

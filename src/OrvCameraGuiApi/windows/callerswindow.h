@@ -25,6 +25,7 @@ QWidget *widgetOf(unsigned long windowId);
 
 /**
  * Shows the window, which is not shown yet. One without a parent widget stays in front of the native window with that
- * id, if there is one; that window keeps its place and may go whenever its owner likes.
+ * id, if there is one, whenever it is shown again, too; that window keeps its place and may go whenever its owner
+ * likes.
  */
 void showInFrontOf(QWidget &window, unsigned long callersWindowId);
