@@ -121,6 +121,13 @@ void TestTreeDetails::forgetsErrors()
     shown.node("Label")->InvalidateNode(); // the same value once more
     QCoreApplication::processEvents();
     QVERIFY(isRed());
+    failGetter(*shown.map, "Label", "GetValue", "unreadable"); // a read that fails, and one that is well again
+    for (int i = 0; i < 2; ++i) {
+        shown.node("Label")->InvalidateNode();
+        QCoreApplication::processEvents();
+        clearFaults(*shown.map);
+    }
+    QVERIFY(isRed());
     shown.node<GenApi::CStringPtr>("Label")->SetValue("other");
     QTRY_VERIFY(!isRed());
 
@@ -224,6 +231,7 @@ void TestTreeDetails::servesIntegrators()
     failGetter(*shown.map, "PixelFormat", "SetValue", "no");
     shown.tree->clearSelection();
     QVERIFY(shown.enter("Colors", "4"));
+    QTRY_COMPARE(failed.size(), 1);
     QCOMPARE(failed.takeLast(), (QVariantList{QStringLiteral("PixelFormat"), QStringLiteral("no")}));
     clearFaults(*shown.map);
 

@@ -73,6 +73,7 @@ private Q_SLOTS:
     void changesEveryKind_data();
     void changesEveryKind();
     void movesBetweenColumns();
+    void leavesTheSearchItsKeys_data();
     void leavesTheSearchItsKeys();
     void goesToTheFilter();
     void paintsReadably_data();
@@ -161,11 +162,21 @@ void TestTreeKeys::movesBetweenColumns()
     }
 }
 
+void TestTreeKeys::leavesTheSearchItsKeys_data()
+{
+    QTest::addColumn<bool>("fromValues");
+    QTest::addRow("names") << false;
+    QTest::addRow("values") << true;
+}
+
 void TestTreeKeys::leavesTheSearchItsKeys()
 {
+    QFETCH(bool, fromValues);
     ShownView shown;
     QVERIFY(shown.show());
     QVERIFY(walkTo(shown, "Flag"));
+    if (fromValues)
+        press(Qt::Key_Right);
     typeKeys(QStringLiteral("plain n"));
     QCOMPARE(shown.tree->currentIndex().data().toString(), QStringLiteral("Plain Numbers"));
     typeKeys(QStringLiteral("u"));

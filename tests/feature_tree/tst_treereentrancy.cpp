@@ -262,6 +262,7 @@ const std::vector<Action> &activities()
                      QTest::keyClick(focus, Qt::Key(key));
              }
          }},
+        {"set params", [](Stage &stage) { stage.view->setParams(stage.camera.map.get()); }},
         {"load", [](Stage &stage) { stage.view->loadState("Deep&lt;&amp;W150&amp;V1"); }},
     };
     return all;

@@ -186,6 +186,18 @@ void TestTreeWrites::fitsUntouchedEditors()
     QTRY_VERIFY(!width);
     QCOMPARE(shown.cell("Width").data().toString(), QStringLiteral("510"));
 
+    // Stepped away and back, which is an entry, while the feature got another value.
+    shown.click(shown.cell("Other", 0));
+    shown.click(shown.cell("Width"));
+    const QPointer<QWidget> again = editorIn(shown);
+    QVERIFY(again && again != width);
+    QTest::keyClick(again, Qt::Key_Up);
+    QTest::keyClick(again, Qt::Key_Down);
+    set(shown, "Width", 700);
+    QTest::keyClick(again, Qt::Key_Return);
+    QTRY_VERIFY(!again);
+    QCOMPARE(shown.cell("Width").data().toString(), QStringLiteral("510"));
+
     shown.click(shown.cell("Ratio"));
     auto *const ratio = qobject_cast<QDoubleSpinBox *>(editorIn(shown));
     QVERIFY(ratio);

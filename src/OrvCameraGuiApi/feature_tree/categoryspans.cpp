@@ -4,15 +4,22 @@
 
 #include <QTreeView>
 
-/** From top to bottom: the tree looks for each row near the one before. */
+/** From top to bottom: the tree looks for each row near the one before. Reading may take the tree's model away. */
 void setSpanForChildren(QTreeView &tree, const QModelIndex &parent, int first, int last)
 {
-    forEachCategory(*tree.model(), parent, first, last, [&](const QModelIndex &index, size_t) {
-        tree.setFirstColumnSpanned(index.row(), index.parent(), true);
+    const QAbstractItemModel *const model = tree.model();
+    if (!model)
+        return;
+    forEachCategory(*model, parent, first, last, [&](const QModelIndex &index, size_t) {
+        if (tree.model() == model)
+            tree.setFirstColumnSpanned(index.row(), index.parent(), true);
     });
 }
 
 void setSpanForChildren(QTreeView &tree, const QModelIndex &parent)
 {
-    setSpanForChildren(tree, parent, 0, tree.model()->rowCount(parent) - 1);
+    const QAbstractItemModel *const model = tree.model();
+    const int count = model ? model->rowCount(parent) : 0;
+    if (tree.model() == model)
+        setSpanForChildren(tree, parent, 0, count - 1);
 }

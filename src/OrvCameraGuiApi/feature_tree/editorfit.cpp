@@ -88,6 +88,7 @@ EditorFit fit(QComboBox &box, const QComboBox &fresh)
     box.clear();
     for (int i = 0; i < fresh.count(); ++i)
         box.addItem(fresh.itemText(i), fresh.itemData(i));
+    box.setCurrentIndex(-1); // the first entry need not be the feature's
     return EditorFit::Changed;
 }
 

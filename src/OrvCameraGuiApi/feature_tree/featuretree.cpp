@@ -91,9 +91,12 @@ bool FeatureTree::event(QEvent *event)
     return QTreeView::event(event);
 }
 
+/** Among the names, whichever column is current: among values it would read them all and open the editor of a match. */
 void FeatureTree::keyboardSearch(const QString &search)
 {
     m_sinceSearch.start();
+    if (currentIndex().column() > GenParamTreeModel::NameColumn)
+        moveCurrentTo(currentIndex().siblingAtColumn(GenParamTreeModel::NameColumn));
     QTreeView::keyboardSearch(search);
 }
 
@@ -206,8 +209,14 @@ void FeatureTree::moveCurrentTo(const QModelIndex &index)
 void FeatureTree::setReadOnly(bool readOnly)
 {
     m_isReadOnly = readOnly;
-    if (QWidget *const editor = readOnly ? indexWidget(currentIndex()) : nullptr)
-        closeEditor(editor, QAbstractItemDelegate::RevertModelCache);
+    if (!readOnly)
+        return;
+    // Those of other rows too, which a program may have opened; what is no editor, the view lets be.
+    const QList<QWidget *> children = viewport()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (const QPointer<QWidget> editor : children) {
+        if (editor)
+            closeEditor(editor, QAbstractItemDelegate::RevertModelCache);
+    }
 }
 
 bool FeatureTree::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)

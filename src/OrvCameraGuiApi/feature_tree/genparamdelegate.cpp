@@ -428,9 +428,11 @@ bool GenParamDelegate::fitToFeature(QWidget *editor, const QModelIndex &index) c
     if (fit != EditorFit::OtherClass)
         return fit == EditorFit::Changed;
     // Not at once: whoever reports the change goes on using the editor.
-    auto *const self = const_cast<GenParamDelegate *>(this);
-    QMetaObject::invokeMethod(
-        editor, [self, editor] { Q_EMIT self->closeEditor(editor, NoHint); }, Qt::QueuedConnection);
+    const auto close = [self = QPointer<GenParamDelegate>(const_cast<GenParamDelegate *>(this)), editor] {
+        if (self)
+            Q_EMIT self->closeEditor(editor, NoHint);
+    };
+    QMetaObject::invokeMethod(editor, close, Qt::QueuedConnection);
     return false;
 }
 
@@ -523,11 +525,12 @@ bool GenParamDelegate::filterEnter(QWidget *editor, QKeyEvent *event)
 /** When the event loop runs next, unless the editor has gone by then: Qt would use it nevertheless. */
 void GenParamDelegate::endEditingSoon(QWidget *editor)
 {
-    const auto end = [this, editor] {
+    const auto end = [self = QPointer<GenParamDelegate>(this), editor] {
         const QPointer<QWidget> alive(editor);
-        Q_EMIT commitData(editor);
-        if (alive)
-            Q_EMIT closeEditor(editor);
+        if (self)
+            Q_EMIT self->commitData(editor);
+        if (self && alive)
+            Q_EMIT self->closeEditor(editor);
     };
     QMetaObject::invokeMethod(editor, end, Qt::QueuedConnection);
 }
@@ -544,6 +547,8 @@ bool GenParamDelegate::filterEnterOfNumber(QWidget *editor)
             setEditorData(editor, index);
         return true;
     }
+    // Steps that led back to the number that was loaded are an entry too, if the feature has another one by now.
+    EditorSession::of(editor).setConfirmed(true);
     endEditingSoon(editor);
     return true;
 }

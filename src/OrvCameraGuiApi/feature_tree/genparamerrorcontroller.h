@@ -29,6 +29,9 @@ public:
     /** Whether that feature has one, in whatever role. */
     bool hasError(const QString &name) const { return m_errors.contains(name); }
 
+    /** Whether that role of the feature has one. */
+    bool hasError(const QString &name, int role) const { return m_errors.value(name).contains(role); }
+
     /** The message of the feature's lowest failed role; a null text when none failed. */
     QString firstMessage(const QString &name) const;
 

@@ -182,11 +182,15 @@ Branch *GenParamTreeVisibilityFilterProxyModelPrivate::branchOf(const QModelInde
         missing.push_back(known);
         known = source->parent(known);
     }
+    // A branch reads as it is made, and may be forgotten by that.
+    const quint64 found = generation;
     Branch *branch = branches.value(known.internalId());
     if (!branch)
         branch = addBranch(QModelIndex(), nullptr);
-    for (auto index = missing.rbegin(); index != missing.rend(); ++index)
+    for (auto index = missing.rbegin(); generation == found && index != missing.rend(); ++index)
         branch = addBranch(firstOccurrence(index->siblingAtColumn(0)), branch);
+    if (generation != found)
+        return nullptr;
     return lastBranch = branch;
 }
 

@@ -159,10 +159,12 @@ QStringList WhatsThis::enumerationEntries() const
         const GenApi::CEnumEntryPtr entry(entries[i]);
         if (!entry.IsValid())
             continue;
-        const qint64 value = entry->GetValue();
-        lines += QStringLiteral("\"%1\": %2 (0x%3)")
-                     .arg(fromGenICam(entry->GetSymbolic()).toHtmlEscaped(), QString::number(value),
-                          QStringLiteral("%1").arg(value, 8, 16, QLatin1Char('0')));
+        failureOf([&] {
+            const qint64 value = entry->GetValue();
+            lines += QStringLiteral("\"%1\": %2 (0x%3)")
+                         .arg(fromGenICam(entry->GetSymbolic()).toHtmlEscaped(), QString::number(value),
+                              QStringLiteral("%1").arg(value, 8, 16, QLatin1Char('0')));
+        });
     }
     return lines;
 }

@@ -330,6 +330,7 @@ void OrvGenParamTreeViewPrivate::initPolling()
 
 void OrvGenParamTreeViewPrivate::install(GenApi::INodeMap *map)
 {
+    const OpenCalls::Call call;
     remove();
     nodeMap = map;
     shareClock();
@@ -342,11 +343,15 @@ void OrvGenParamTreeViewPrivate::install(GenApi::INodeMap *map)
     proxy->setMatchesNodeNames(matchesNames);
     proxy->setSourceModel(model);
     connectModel();
+    // What is read from here on may have the node map taken away again, or another one set.
+    const auto *const installed = proxy;
     showModel(proxy);
+    if (proxy != installed)
+        return;
     connectProxy();
     splitColumns();
     setSpanForChildren(*ui.treeView, QModelIndex());
-    if (map && !stateToCome.isEmpty())
+    if (proxy == installed && map && !stateToCome.isEmpty())
         applyState(std::exchange(stateToCome, QByteArray()));
 }
 
@@ -475,7 +480,9 @@ void OrvGenParamTreeViewPrivate::errorAppeared(const QModelIndex &index, const Q
         standingErrors.push_back({QPersistentModelIndex(index), role, QString()});
         checkErrorsSoon();
     }
-    Q_EMIT q->errorOccurred(name, message);
+    // Not at once: errors are found while the tree is painted, and a slot may open a message box.
+    QMetaObject::invokeMethod(
+        q, [this, name, message] { Q_EMIT q->errorOccurred(name, message); }, Qt::QueuedConnection);
 }
 
 void OrvGenParamTreeViewPrivate::errorDisappeared(const QModelIndex &index, const QString &name, int role)
@@ -522,19 +529,23 @@ void OrvGenParamTreeViewPrivate::checkErrors()
     const QPointer<GenParamTreeModel> checked(model);
     for (StandingError &error : pending) {
         const QString name = error.index.data(GenParamTreeModel::FeatureNameRole).toString();
-        if (!checked || checked != model || !error.index.isValid() || !errors.hasError(name))
+        if (!checked || checked != model || !error.index.isValid() || !errors.hasError(name, error.role))
             continue;
         if (std::exchange(error.isToCheck, false)) {
             if (error.role == Qt::EditRole) {
                 error.index.data(Qt::EditRole); // which clears it, if it goes well
+                if (!errors.hasError(name, error.role))
+                    continue;
             } else {
                 const QString content = error.index.data().toString() + QChar(int(error.index.flags()));
-                if (!error.content.isNull() && content != error.content) {
+                const bool wasRead = !errors.hasError(name, Qt::DisplayRole); // else nothing is known about the write
+                if (wasRead && !error.content.isNull() && content != error.content) {
                     const QScopedValueRollback<bool> clearing(isClearing, true);
                     checked->clearError(error.index, error.role);
                     continue;
                 }
-                error.content = content;
+                if (wasRead)
+                    error.content = content;
             }
         }
         standingErrors.push_back(error);

@@ -65,8 +65,8 @@ public:
     QTreeView *treeView() const;
 
     /**
-     * The state before the last clearParams() or setParams(), as saveState() gives it, which then knows of no features
-     * any more; empty when there was none. Valid until the next of these calls.
+     * The state when a node map was last taken away or replaced, as saveState() gives it, which then knows of no
+     * features any more; empty when that has not happened yet. Valid until it happens again.
      */
     const char *lastState() const;
 
@@ -95,7 +95,8 @@ Q_SIGNALS:
     /** A value that was entered in the tree has been written, or a command executed. */
     void featureWritten(const QString &name);
 
-    /** Reading or writing the feature has failed, which it did not before. */
+    /** Reading or writing the feature has failed, which it did not before. Emitted by the event loop, never within it.
+     */
     void errorOccurred(const QString &name, const QString &text);
 
 protected:

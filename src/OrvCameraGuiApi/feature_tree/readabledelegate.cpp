@@ -1,7 +1,11 @@
 #include <OrvCameraGuiApi/feature_tree/readabledelegate.h>
 
+#include <OrvCameraGuiApi/windows/plaintooltip.h>
+
+#include <QAbstractItemView>
 #include <QGuiApplication>
-#include <QWidget>
+#include <QHelpEvent>
+#include <QToolTip>
 
 #include <algorithm>
 #include <cmath>
@@ -50,6 +54,16 @@ QColor readableColor(const QColor &color, const QColor &text, const QColor &back
             return candidate;
     }
     return text;
+}
+
+bool ReadableDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
+                                 const QModelIndex &index)
+{
+    if (!event || !view || event->type() != QEvent::ToolTip)
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    QToolTip::showText(event->globalPos(), plainToolTip(index.data(Qt::ToolTipRole).toString()), view->viewport(),
+                       option.rect);
+    return true;
 }
 
 void ReadableDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const

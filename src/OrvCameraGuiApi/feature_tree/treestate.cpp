@@ -94,7 +94,7 @@ void TreeState::loadExpansion(QTreeView &tree, const QByteArray &state)
     // Whoever listens to the tree may change its rows or its model meanwhile.
     std::vector<QPersistentModelIndex> toToggle;
     forEachCategoryPath(*tree.model(), [&](const QModelIndex &index, const QByteArray &path) {
-        if (tree.isExpanded(index) != state.contains(path))
+        if (index.model() == tree.model() && tree.isExpanded(index) != state.contains(path))
             toToggle.emplace_back(index);
     });
     for (const QPersistentModelIndex &index : toToggle) {

@@ -65,10 +65,12 @@ private:
             return;
         window.winId(); // makes the native window
         window.windowHandle()->setTransientParent(m_foreign.get());
+        QMetaObject::invokeMethod(
+            this, [this] { m_foreign.reset(); }, Qt::QueuedConnection);
     }
 
     const WId m_foreignId;
-    std::unique_ptr<QWindow> m_foreign; ///< until the next show; Qt needs it during a show
+    std::unique_ptr<QWindow> m_foreign; ///< Qt needs it until the window is shown
 };
 
 } // namespace

@@ -29,6 +29,7 @@ bool OrvProcessEvents(unsigned long longestWait)
     const bool isBusy = events.processEvents(QEventLoop::AllEvents);
     if (!isBusy && longestWait > 0) {
         QTimer limit; // an event like any other, which ends the wait
+        limit.setTimerType(Qt::PreciseTimer);
         limit.setSingleShot(true);
         limit.start(int(std::min<unsigned long>(longestWait, std::numeric_limits<int>::max())));
         events.processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
