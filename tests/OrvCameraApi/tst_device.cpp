@@ -175,7 +175,7 @@ void TestDevice::eventsFromOtherThreads()
     QCOMPARE(log.events, (QVector<quint32>{1004, 1003, 1004, 1003, 1004, 1003}));
     QVERIFY(log.thread != std::this_thread::get_id());
     OrvSim::unplug(twoFrame);
-    OrvSim::setEventsFromOtherThread(false); // delivers what is left
+    OrvSim::setEventsFromOtherThread(false); // delivers the rest
     QCOMPARE(log.events.size(), 7);
 }
 

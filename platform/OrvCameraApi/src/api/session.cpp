@@ -1,3 +1,5 @@
+// The device owns its session and the transport has a weak pointer to it. An event under way keeps the session alive
+// when its callback releases the device; a device that is gone is told nothing.
 #include "session.h"
 
 #include <utility>

@@ -12,7 +12,7 @@ void PortMonitor::add(const AddressRange &range, OrvSim::Fault fault)
     m_faults.push_back({range, fault, false});
 }
 
-void PortMonitor::addForGood(const AddressRange &range, OrvSim::Fault fault)
+void PortMonitor::addPermanent(const AddressRange &range, OrvSim::Fault fault)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_faults.push_back({range, fault, true});
@@ -21,8 +21,9 @@ void PortMonitor::addForGood(const AddressRange &range, OrvSim::Fault fault)
 void PortMonitor::clear()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_faults.erase(std::remove_if(m_faults.begin(), m_faults.end(), [](const Entry &entry) { return !entry.forGood; }),
-                   m_faults.end());
+    m_faults.erase(
+        std::remove_if(m_faults.begin(), m_faults.end(), [](const Entry &entry) { return !entry.isPermanent; }),
+        m_faults.end());
     m_changed.notify_all();
 }
 

@@ -28,8 +28,8 @@ public:
 
     void add(const AddressRange &range, OrvSim::Fault fault);
 
-    /** Adds a fault that clear() leaves in place. */
-    void addForGood(const AddressRange &range, OrvSim::Fault fault);
+    /** Adds a fault that clear() does not end. */
+    void addPermanent(const AddressRange &range, OrvSim::Fault fault);
     void clear();
 
     /** Whether accesses get through at all; true at first. */
@@ -55,7 +55,7 @@ private:
     {
         AddressRange range;
         OrvSim::Fault fault;
-        bool forGood;
+        bool isPermanent;
     };
 
     void pass(const AddressRange &range, OrvSim::Fault failing, OrvSim::Fault stalling, std::uint64_t &count);

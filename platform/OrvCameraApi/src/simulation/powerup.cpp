@@ -46,9 +46,9 @@ public:
         else if (verb == "clear")
             clear();
         else if (verb == "fail-read")
-            m_monitor.addForGood(range(), OrvSim::Fault::FailRead);
+            m_monitor.addPermanent(range(), OrvSim::Fault::FailRead);
         else if (verb == "fail-write")
-            m_monitor.addForGood(range(), OrvSim::Fault::FailWrite);
+            m_monitor.addPermanent(range(), OrvSim::Fault::FailWrite);
         else
             refuse("unknown statement");
     }

@@ -1,5 +1,6 @@
 // Locks are short and never nested: an object copies its state out, then works on the copy. Cameras and interfaces live
-// on in such copies, so that removing one never waits for anyone. Applications are called without any lock.
+// on in such copies, so that removing one never waits for anyone. Applications are called without a lock of the
+// simulation.
 #include "world.h"
 
 #include "camera.h"
