@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-/** What the tests of the simulated cameras share. */
+/** Helpers of the tests that use the simulated cameras. */
 namespace SimTest {
 
 using namespace std::chrono_literals;
@@ -25,7 +25,7 @@ struct Releaser
     }
 };
 
-/** Gives an object of the camera access library back at the end of the scope. */
+/** Releases an object of the camera access library at the end of the scope. */
 template <typename Object>
 using Held = std::unique_ptr<Object, Releaser>;
 
@@ -38,7 +38,7 @@ inline Held<OrvCam::System> getSystem()
     return Held<OrvCam::System>(OrvCam_GetSystem());
 }
 
-/** All that a list names; a null list names nothing. Releases the list. */
+/** The entries of a list, none for a null list. Releases the list. */
 template <typename Entry, typename List>
 std::vector<Entry *> entriesOf(List *list)
 {
@@ -79,7 +79,7 @@ inline Held<OrvCam::Device> open(const char *id, OrvCamErr *err = nullptr)
     return Held<OrvCam::Device>(OrvCam_CreateDevice(findDevice(*system, id), OrvCam::DeviceAccessControl, err));
 }
 
-/** Counts notifications and does what a test wants in them. */
+/** Counts notifications and runs an action in each. */
 class Sink : public OrvGenParam::ParamEventSink
 {
 public:

@@ -30,7 +30,7 @@ private Q_SLOTS:
 
 namespace {
 
-/** Fails on features that do not answer, but for those in \a failing; returns the names of those without access. */
+/** Reads every feature and warns unless exactly those in \a failing fail. Returns the names of those without access. */
 QStringList readAll(GenApi::INodeMap &map, const QStringList &failing)
 {
     GenApi::NodeList_t nodes;
@@ -160,7 +160,7 @@ void TestDescriptions::timesFollowTheRegisters()
     QCOMPARE(value("CurrentFrameTime"), std::int64_t((1080 + 20) * 1600 / 160));
 }
 
-/** What windows show of the device, and no test of theirs asks for by name. */
+/** Windows show these as a group; no test of theirs names them. */
 void TestDescriptions::versionsAreThere()
 {
     const Held<OrvCam::Device> device = open(twoFrame);

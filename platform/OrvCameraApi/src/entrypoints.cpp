@@ -1,20 +1,18 @@
+#include "device.h"
+#include "deviceinfo.h"
 #include "genapierror.h"
-#include "simdevice.h"
-#include "simdeviceinfo.h"
-#include "simsystem.h"
-
-#include <OrvCameraGuiApi/camera_api/orvcam.h>
+#include "system.h"
+#include "world.h"
 
 OrvCam::System *OrvCam_GetSystem()
 {
-    return OrvCameraApi::SimSystem::acquire();
+    return OrvCameraApi::System::acquire({&OrvCameraApi::World::instance()});
 }
 
-OrvCam::Device *OrvCam_CreateDevice(OrvCam::DeviceInfo *deviceInfo, std::int32_t, OrvCamErr *err)
+OrvCam::Device *OrvCam_CreateDevice(OrvCam::DeviceInfo *deviceInfo, std::int32_t accessMode, OrvCamErr *err)
 {
-    // Every camera here can be controlled by several programs; the access mode makes no difference.
-    if (const auto *const info = dynamic_cast<OrvCameraApi::SimDeviceInfo *>(deviceInfo))
-        return OrvCameraApi::SimDevice::open(*info, err);
-    OrvCameraApi::tell(err, OrvCamErr_InvalidArgument);
+    if (const auto *const info = dynamic_cast<OrvCameraApi::DeviceInfo *>(deviceInfo))
+        return OrvCameraApi::Device::open(*info, accessMode, err);
+    OrvCameraApi::setError(err, OrvCamErr_InvalidArgument);
     return nullptr;
 }

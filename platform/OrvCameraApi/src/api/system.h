@@ -1,0 +1,32 @@
+#pragma once
+
+#include "backend.h"
+#include "interface.h"
+#include "objectlist.h"
+
+#include <vector>
+
+namespace OrvCameraApi {
+
+/** The one system of the process, made of all transports. Exists while anyone holds a reference. */
+class System final : public OrvCam::System
+{
+public:
+    /**
+     * Adds a reference to the system. The first reference makes it, of those of \a backends that are available. Null
+     * when none of them is.
+     */
+    static System *acquire(const std::vector<Backend *> &backends);
+
+    void Release() override;
+    OrvCam::InterfaceList *GetInterfaceList(std::uint32_t typeMask) override;
+
+private:
+    explicit System(std::vector<Backend *> backends);
+    ~System() override;
+
+    const std::vector<Backend *> m_backends;
+    ObjectsInUse<Interface, BackendInterface> m_interfaces;
+};
+
+} // namespace OrvCameraApi

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <OrvCameraGuiApi/camera_api/orvcamerr.h>
+
+#include <GenApi/GenApi.h>
+
+namespace OrvCameraApi {
+
+/** Runs \a action, which may throw anything, and returns the error code for the outcome. */
+template <typename Action>
+OrvCamErr errorOf(Action &&action) noexcept
+{
+    try {
+        action();
+        return OrvCamErr_Ok;
+    } catch (const GenICam::AccessException &) {
+        return OrvCamErr_GenICamAccessError;
+    } catch (const GenICam::OutOfRangeException &) {
+        return OrvCamErr_GenICamOutOfRange;
+    } catch (const GenICam::InvalidArgumentException &) {
+        return OrvCamErr_GenICamInvalidArgument;
+    } catch (...) {
+        return OrvCamErr_GenICamGenericError;
+    }
+}
+
+/** Stores \a outcome in \a err, which may be null. */
+inline void setError(OrvCamErr *err, OrvCamErr outcome)
+{
+    if (err)
+        *err = outcome;
+}
+
+} // namespace OrvCameraApi

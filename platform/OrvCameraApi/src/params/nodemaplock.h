@@ -1,0 +1,24 @@
+#pragma once
+
+#include <GenApi/INodeMap.h>
+
+namespace OrvCameraApi {
+
+/** Holds the lock of a node map. */
+class NodeMapLock
+{
+public:
+    explicit NodeMapLock(const GenApi::INodeMap &map)
+        : m_lock(map.GetLock())
+    {
+        m_lock.Lock();
+    }
+    ~NodeMapLock() { m_lock.Unlock(); }
+    NodeMapLock(const NodeMapLock &) = delete;
+    NodeMapLock &operator=(const NodeMapLock &) = delete;
+
+private:
+    GenApi::CLock &m_lock;
+};
+
+} // namespace OrvCameraApi

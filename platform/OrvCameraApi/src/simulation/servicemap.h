@@ -1,0 +1,40 @@
+#pragma once
+
+#include "addressrange.h"
+
+#include <GenApi/GenApi.h>
+
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+
+namespace OrvCameraApi {
+
+/**
+ * The simulation's own access to registers, by the names in their description. It passes by faults, counts and the node
+ * maps of applications. Any thread may use it.
+ */
+class ServiceMap
+{
+public:
+    /** \a rawPort outlives this object. Throws when the description cannot be used. */
+    ServiceMap(const std::string &description, GenApi::IPort &rawPort);
+
+    /** The register behind \a node, or behind NAMEReg for a feature NAME, at its present address, if there is one. */
+    std::optional<AddressRange> find(const std::string &node);
+
+    /** Writes a register in the text form of its node. Throws what the node throws, and when there is no node. */
+    void set(const std::string &node, const std::string &value);
+
+    /** Like set(), but without effect when there is no such register. */
+    void setIfThere(const std::string &node, const std::string &value);
+
+private:
+    GenApi::INode *registerNode(const std::string &name) const;
+
+    std::mutex m_mutex;
+    const std::shared_ptr<GenApi::INodeMap> m_map;
+};
+
+} // namespace OrvCameraApi
