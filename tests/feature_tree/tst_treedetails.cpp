@@ -5,9 +5,11 @@
 
 #include <QAbstractProxyModel>
 #include <QAction>
+#include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QElapsedTimer>
 #include <QLineEdit>
+#include <QMenu>
 #include <QTextBrowser>
 #include <QToolButton>
 
@@ -67,7 +69,10 @@ class TestTreeDetails : public OrvTest::TestCase
 
 private Q_SLOTS:
     void offersWhatIsTaken();
+    void marksWhatCannotBeRead_data();
+    void marksWhatCannotBeRead();
     void forgetsErrors();
+    void keepsTheErrorOfTheLastWrite();
     void paintsAFlickeringFaultNowAndThen();
     void keepsStates();
     void shortensEndlessWords();
@@ -101,6 +106,59 @@ void TestTreeDetails::offersWhatIsTaken()
     QVERIFY(fine);
     QCOMPARE(fine->decimals(), 3);
     QCOMPARE(fine->singleStep(), 0.125);
+}
+
+void TestTreeDetails::marksWhatCannotBeRead_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QByteArray>("getter");
+    QTest::addColumn<QString>("placeholder");
+    const auto row = [](const char *name, const char *getter, const char *placeholder) {
+        QTest::newRow(name) << QByteArray(name) << QByteArray(getter) << QString::fromLatin1(placeholder);
+    };
+    row("Exposure Time", "GetValue", "ERROR");
+    row("Gain", "GetValue", "ERROR");
+    row("Label", "GetValue", "ERROR");
+    row("Mode", "GetCurrentEntry", "");
+    row("Key", "", "<Value not readable>");
+    row("GevMACAddress", "", "00:00:00:00:00:00");
+}
+
+/** An editor without a value shows none, also if it has shown one before. */
+void TestTreeDetails::marksWhatCannotBeRead()
+{
+    QFETCH(const QByteArray, name);
+    QFETCH(const QByteArray, getter);
+    QFETCH(const QString, placeholder);
+    ShownView shown;
+    shown.node<GenApi::CStringPtr>("Label")->SetValue("abc");
+    QVERIFY(shown.show());
+    const QByteArray node = name == "Exposure Time" ? QByteArray("Exposure") : name;
+    const auto textOf = [](QWidget *editor) {
+        const auto *const box = qobject_cast<QComboBox *>(editor);
+        const auto *const number = qobject_cast<QAbstractSpinBox *>(editor);
+        return box ? box->currentText() : number ? number->text() : static_cast<QLineEdit *>(editor)->text();
+    };
+    auto *const editor = editorOf<QWidget>(shown, name.constData());
+    QVERIFY(editor);
+    const QString text = textOf(editor);
+    QCOMPARE(text.isEmpty(), getter.isEmpty());
+    if (!getter.isEmpty()) {
+        failGetter(*shown.map, node.constData(), getter.constData(), "no");
+        shown.node(node.constData())->InvalidateNode();
+    }
+    QCOMPARE(textOf(editor), name == "Gain" ? QStringLiteral("dB") : QString()); // nothing but the unit
+    const auto fields = editor->findChildren<QLineEdit *>();
+    const auto *const field = fields.isEmpty() ? qobject_cast<QLineEdit *>(editor) : fields.constFirst();
+    QCOMPARE(field ? field->placeholderText() : QString(), placeholder);
+    clearFaults(*shown.map);
+    shown.node(node.constData())->InvalidateNode();
+    QCOMPARE(textOf(editor), text);
+    // Nothing was entered.
+    const uint64_t writes = shown.port.writeCount();
+    QTest::keyClick(editor, Qt::Key_Return);
+    QCoreApplication::processEvents();
+    QCOMPARE(shown.port.writeCount(), writes);
 }
 
 void TestTreeDetails::forgetsErrors()
@@ -140,6 +198,22 @@ void TestTreeDetails::forgetsErrors()
     QCOMPARE(status->accessibleName(), QStringLiteral("No errors"));
     QCOMPARE(written.count(), 0);
 
+    QVERIFY(failWrite());
+    QTest::mouseClick(status, Qt::LeftButton);
+    const QPointer<QWidget> dialog = QApplication::activeModalWidget();
+    QVERIFY(dialog);
+    auto *const list = dialog->findChild<QTextBrowser *>();
+    expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
+    Q_EMIT list->customContextMenuRequested(QPoint(5, 5));
+    auto *const menu = list->findChild<QMenu *>();
+    QVERIFY(menu && menu->isVisible());
+    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(menu->actions().constLast()).center());
+    QVERIFY(!isRed());
+    QCOMPARE(status->accessibleName(), QStringLiteral("No errors"));
+    QCOMPARE(list->toPlainText(), QStringLiteral("No Errors"));
+    dialog->close();
+    QCOMPARE(written.count(), 0);
+
     // Of the value to be edited; what is shown could be read all the time.
     failGetter(*shown.map, "Mode", "GetCurrentEntry", "no");
     shown.click(shown.cell("Mode"));
@@ -149,6 +223,36 @@ void TestTreeDetails::forgetsErrors()
     shown.tree->setCurrentIndex(QModelIndex());
     shown.node("Mode")->InvalidateNode();
     QTRY_VERIFY(!shown.cell("Mode", 0).data(Qt::ForegroundRole).isValid());
+}
+
+/** Each write fails though it takes effect: what is there then is what the error stands beside. */
+void TestTreeDetails::keepsTheErrorOfTheLastWrite()
+{
+    struct Port : OrvGenApi::MemoryPort
+    {
+        void Write(const void *buffer, int64_t address, int64_t length) override
+        {
+            MemoryPort::Write(buffer, address, length);
+            if (fails)
+                throw GenICam::TimeoutException("no answer", __FILE__, __LINE__);
+        }
+        bool fails = true;
+    };
+    Port port;
+    ShownView shown(detailNodes().replace("<PollingTime>10", "<Cachable>NoCache</Cachable><PollingTime>10"));
+    QVERIFY(shown.map->connect(&port));
+    QVERIFY(shown.show());
+    const auto isRed = [&] { return shown.cell("Slow", 0).data(Qt::ForegroundRole).isValid(); };
+    for (const char *value : {"1", "2"}) {
+        shown.tree->setCurrentIndex(QModelIndex());
+        QVERIFY(shown.enter("Slow", value));
+        QCoreApplication::processEvents();
+        QCOMPARE(shown.cell("Slow").data().toString(), QString::fromLatin1(value));
+        QVERIFY(isRed());
+    }
+    port.fails = false;
+    shown.node<GenApi::CIntegerPtr>("Slow")->SetValue(3);
+    QTRY_VERIFY(!isRed());
 }
 
 void TestTreeDetails::paintsAFlickeringFaultNowAndThen()

@@ -33,10 +33,11 @@ QByteArray nodes()
     };
     return R"(<Category Name="Root"><pFeature>Plain</pFeature><pFeature>Deep</pFeature></Category>
 <Category Name="Plain"><pFeature>Amount</pFeature><pFeature>Passing</pFeature><pFeature>Label</pFeature>
-  <pFeature>Mode</pFeature></Category>
+  <pFeature>Mode</pFeature><pFeature>Flag</pFeature></Category>
 <Category Name="Deep"><pIsImplemented>Switch</pIsImplemented><pFeature>Inner</pFeature></Category>
 <Integer Name="Amount"><pValue>AmountReg</pValue></Integer>
 <Integer Name="Passing"><pIsImplemented>Switch</pIsImplemented><pValue>PassingReg</pValue><pMax>MostReg</pMax></Integer>
+<Boolean Name="Flag"><pValue>MostReg</pValue></Boolean>
 <Integer Name="Inner"><pValue>PassingReg</pValue></Integer>
 <Enumeration Name="Mode"><EnumEntry Name="Off"><Value>0</Value></EnumEntry>
   <EnumEntry Name="On"><Value>1</Value></EnumEntry><pValue>ModeReg</pValue></Enumeration>
@@ -174,6 +175,8 @@ const std::vector<Signal> &signalsOfTheTree()
          }},
         {"collapsed",
          [](Stage &stage, const Slot &slot) { QObject::connect(stage.tree, &QTreeView::collapsed, stage.tree, slot); }},
+        {"expanded",
+         [](Stage &stage, const Slot &slot) { QObject::connect(stage.tree, &QTreeView::expanded, stage.tree, slot); }},
         {"error", [](Stage &stage, const Slot &slot) {
              OrvGenApi::testing::failGetter(*stage.camera.map, "Mode", "SetIntValue", "no");
              OrvGenApi::testing::failGetter(*stage.camera.map, "Label", "GetValue", "no");
@@ -252,6 +255,26 @@ const std::vector<Action> &activities()
              stage.keys("Label", "abc");
              if (auto *const button = stage.part<QToolButton>("pbCollapseAll"))
                  button->click();
+         }},
+        {"space",
+         [](Stage &stage) {
+             stage.click(stage.cell("Flag", 0));
+             for (const int key : {Qt::Key_Right, Qt::Key_Space}) {
+                 if (stage.tree)
+                     QTest::keyClick(stage.tree, Qt::Key(key));
+             }
+         }},
+        {"a program closes and opens",
+         [](Stage &stage) {
+             QEventLoop loop; // without one a message would free what its own deferred deletion is to keep
+             QTimer::singleShot(0, &loop, [&] {
+                 for (const bool expand : {false, true}) {
+                     if (stage.tree)
+                         stage.tree->setExpanded(stage.cell("Plain", 0), expand);
+                 }
+                 loop.quit();
+             });
+             loop.exec();
          }},
         {"keys",
          [](Stage &stage) {

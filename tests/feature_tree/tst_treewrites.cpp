@@ -83,6 +83,9 @@ private Q_SLOTS:
     void leavesClosedCategories();
     void fitsUntouchedEditors();
     void knowsWhatIsListedTwice();
+    void stepsAreEntries_data();
+    void stepsAreEntries();
+    void doubleClickOpensOnly();
     void readsNumbersAsAWhole_data();
     void readsNumbersAsAWhole();
 };
@@ -256,6 +259,61 @@ void TestTreeWrites::knowsWhatIsListedTwice()
     delegate.setModelData(editor.get(), &model, listed.siblingAtColumn(1));
     QCOMPARE(shown.node<GenApi::CIntegerPtr>("Twice")->GetValue(), 12);
     QCOMPARE(shown.node<GenApi::CIntegerPtr>("Other")->GetValue(), 7);
+}
+
+/** What was stepped to is written when the editor is left, unless something was typed in its place that does not count.
+ */
+void TestTreeWrites::stepsAreEntries_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char *name, const char *keys, const char *text) {
+        QTest::addRow("%s %s", name, keys)
+            << QByteArray(name) << QString::fromLatin1(keys) << QString::fromLatin1(text);
+    };
+    row("Exposure Time", "", "4us");
+    row("Exposure Time", "12", "0us"); // typed, and not confirmed
+    row("Exposure Time", "40000", "0us"); // refused
+    row("Gain", "", "1.750dB");
+    row("Gain", "99", "1.500dB"); // refused
+    row("Gain", "2.5", "2.500dB");
+}
+
+void TestTreeWrites::stepsAreEntries()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(QString, keys);
+    QFETCH(QString, text);
+    ShownView shown;
+    QVERIFY(shown.show());
+    shown.click(shown.cell(name.constData()));
+    QVERIFY(editorIn(shown));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+    if (!keys.isEmpty())
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
+    typeAnywhere(keys);
+    WindowMouse::click(shown.part<QWidget>("whatsThisLabel"), QPoint(5, 5));
+    QCoreApplication::processEvents();
+    QToolTip::hideText();
+    QVERIFY(!editorIn(shown));
+    QCOMPARE(shown.cell(name.constData()).data().toString(), text);
+}
+
+/** With its second half the mouse is over an arrow of the box that the first one has opened. */
+void TestTreeWrites::doubleClickOpensOnly()
+{
+    ShownView shown;
+    QVERIFY(shown.show());
+    const QRect cell = shown.tree->visualRect(shown.cell("Exposure Time"));
+    QWidget *const viewport = shown.tree->viewport();
+    const QPoint arrow = viewport->mapTo(&shown.view, QPoint(cell.right() - 4, cell.top() + 8));
+    QTest::mouseDClick(shown.view.windowHandle(), Qt::LeftButton, {}, arrow);
+    auto *const box = qobject_cast<QtOrvSpinBoxVal64 *>(editorIn(shown));
+    QVERIFY(box);
+    QCOMPARE(box->value(), 0);
+    QTest::mouseClick(shown.view.windowHandle(), Qt::LeftButton, {}, arrow);
+    QCOMPARE(box->value(), 4);
 }
 
 void TestTreeWrites::readsNumbersAsAWhole_data()

@@ -19,6 +19,16 @@ QPair<quintptr, int> identityOf(const QModelIndex &index)
     return {index.internalId(), index.row()};
 }
 
+/** A call of the feature tree that ends when this is freed. */
+class OpenCall : public QObject
+{
+public:
+    using QObject::QObject;
+
+private:
+    const OpenCalls::Call m_call;
+};
+
 bool isCommand(const QModelIndex &index)
 {
     auto *const value = index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
@@ -32,7 +42,21 @@ bool isCommand(const QModelIndex &index)
 FeatureTree::FeatureTree(QWidget *parent)
     : QTreeView(parent)
 {
-    connect(this, &QTreeView::collapsed, this, [this] { moveCurrentIntoSight(); });
+    connect(this, &QTreeView::expanded, this, [this] { keepWhatIsInUse(); });
+    connect(this, &QTreeView::collapsed, this, [this] {
+        keepWhatIsInUse();
+        moveCurrentIntoSight();
+    });
+}
+
+/**
+ * Called before other slots are. A program may open and close categories by itself, outside of any call, and Qt does
+ * not tell when it has ended: what is given up meanwhile is kept until the control is back at the event loop.
+ */
+void FeatureTree::keepWhatIsInUse()
+{
+    if (!OpenCalls::any())
+        (new OpenCall(this))->deleteLater();
 }
 
 /**
@@ -174,14 +198,15 @@ bool FeatureTree::handleSpace(const QKeyEvent &event)
         keyboardSearch(event.text());
         return true;
     }
-    const QModelIndex value = editableValue();
+    const QPersistentModelIndex value(editableValue());
     if (!value.isValid() || value != currentIndex())
         return false;
     const QVariant content = value.data(Qt::EditRole);
     const bool isBoolean = content.userType() == QMetaType::Bool;
     if (!isBoolean && !isCommand(value))
         return false;
-    if (!event.isAutoRepeat()) // a key held too long writes once
+    // What is read may have taken the row away. A key held too long writes once.
+    if (value.isValid() && !event.isAutoRepeat())
         model()->setData(value, !(isBoolean && content.toBool()));
     return true;
 }

@@ -72,6 +72,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void keepWhatIsInUse();
     bool handleKey(const QKeyEvent &event);
     bool openValue(const QKeyEvent &event);
     bool moveBetweenColumns(bool forward);

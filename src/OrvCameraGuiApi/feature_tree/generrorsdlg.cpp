@@ -1,5 +1,7 @@
 #include <OrvCameraGuiApi/feature_tree/generrorsdlg.h>
 
+#include <OrvCameraGuiApi/windows/fitscreen.h>
+
 #include <QAction>
 #include <QDialogButtonBox>
 #include <QMenu>
@@ -13,6 +15,7 @@ GenErrorsDlg::GenErrorsDlg(const QString &errors, QWidget *parent)
     setAttribute(Qt::WA_DeleteOnClose);
     setModal(true);
     resize(400, 171);
+    openWithinScreen(*this);
     setWindowTitle(tr("Gen<i>Cam errors"));
 
     auto *const text = new QTextBrowser(this);

@@ -156,6 +156,11 @@ public:
     /** Whatever comes of it, an entry is written once; the live value may then take its place. */
     void beginWriting();
 
+    /** A mouse button was pressed on the editor. @{ */
+    void setPressed() { m_isPressed = true; }
+    bool isPressed() const { return m_isPressed; }
+    /** @} */
+
 private:
     explicit EditorSession(QWidget *editor);
 
@@ -166,6 +171,7 @@ private:
     bool m_isLoaded = false;
     bool m_isTouched = false;
     bool m_isConfirmed = false;
+    bool m_isPressed = false;
 };
 
 EditorSession::EditorSession(QWidget *editor)
@@ -233,16 +239,32 @@ void setValueOf(QWidget *editor, void (Editor::*setter)(Value), const QVariant &
         (expected->*setter)(value.value<std::decay_t<Value>>());
 }
 
-/** What stands in the place of a value that cannot be read is nothing to be edited. */
+/**
+ * What stands in the place of a value that cannot be read is nothing to be edited. Nor is the number that a box has
+ * nevertheless: it would be taken for the feature's.
+ */
 bool showsPlaceholder(QWidget *editor, const QModelIndex &index, const QVariant &value)
 {
-    auto *const field = qobject_cast<QLineEdit *>(editor);
-    if (!field || value.userType() != QMetaType::QString)
+    const bool isText = value.userType() == QMetaType::QString;
+    if (value.isValid() && !isText) {
+        if (QLineEdit *const field = textFieldOf(editor))
+            field->setPlaceholderText(QString());
         return false;
-    const bool hasValue = canRead(featureOf(index));
-    field->setPlaceholderText(hasValue ? QString() : value.toString());
-    if (!hasValue)
+    }
+    if (auto *const box = qobject_cast<QComboBox *>(editor)) {
+        box->setCurrentIndex(-1);
+        box->update();
+        return true;
+    }
+    QLineEdit *const field = textFieldOf(editor);
+    if (!field)
+        return false;
+    const bool hasValue = field == editor && isText && canRead(featureOf(index));
+    field->setPlaceholderText(hasValue ? QString() : isText ? value.toString() : index.data().toString());
+    if (!hasValue) {
+        const QSignalBlocker quiet(field); // a box would think of it as typed
         field->clear();
+    }
     return !hasValue;
 }
 
@@ -451,8 +473,7 @@ void GenParamDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, 
         model->setData(index, true, Qt::EditRole);
         return;
     }
-    commitTyped(editor);
-    if (hasBadEntry(editor) || !session.hasEntry(index))
+    if (!commitTyped(editor) || hasBadEntry(editor) || !session.hasEntry(index))
         return;
     session.beginWriting();
     if (qobject_cast<QComboBox *>(editor))
@@ -461,16 +482,19 @@ void GenParamDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, 
         ReadableDelegate::setModelData(editor, model, index);
 }
 
-/** An integer that is typed counts with Enter only, a fraction always; what is left of a cut-off number never does. */
-void GenParamDelegate::commitTyped(QWidget *editor) const
+/**
+ * An integer that is typed counts with Enter only, a fraction always; what is left of a cut-off number never does.
+ * False when something is typed that does not count: what was stepped to before is given up by that.
+ */
+bool GenParamDelegate::commitTyped(QWidget *editor) const
 {
     auto *const number = qobject_cast<QDoubleSpinBox *>(editor);
-    if (!number || !EditorSession::of(editor).isTouched())
-        return;
-    if (EntryGuard *const guard = guardOf(editor))
-        guard->commit();
-    else
+    EntryGuard *const guard = guardOf(editor);
+    if (guard && (guard->isTouched() || guard->isBlocked()))
+        return number && guard->commit();
+    if (number && !guard && EditorSession::of(editor).isTouched())
         number->interpretText();
+    return true;
 }
 
 void GenParamDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
@@ -499,6 +523,12 @@ bool GenParamDelegate::eventFilter(QObject *watched, QEvent *event)
         event->ignore();
         return true;
     }
+    if (editor && event->type() == QEvent::MouseButtonPress)
+        EditorSession::of(editor).setPressed();
+    // The second half of the double click that has opened a box is no press on the arrow that has come under the mouse.
+    if (editor && event->type() == QEvent::MouseButtonDblClick && guardOf(editor)
+        && !EditorSession::of(editor).isPressed())
+        return true;
     if (editor && isStep(*event) && guardOf(editor))
         commitTyped(editor);
     if (editor && event->type() == QEvent::KeyPress && isEnter(*static_cast<QKeyEvent *>(event)))

@@ -11,13 +11,15 @@ class QKeyEvent;
  * that still shows what was loaded closes without writing, and so does a combo box without current item, a text that
  * its validator does not accept and a button that was not clicked. While an editor is untouched it follows the value of
  * its feature, and with it range, increment, choices and unit; what the user has begun to enter is neither replaced nor
- * written when the value changes meanwhile.
+ * written when the value changes meanwhile. Where the value cannot be read, or is no number though the editor is for
+ * one, the editor has nothing but a unit, or what the view shows as its placeholder.
  *
  * When an entry is written:
  * - a combo box: as soon as another item becomes current; it closes then;
  * - a command's button: executes at every click, and at Enter; it stays open;
  * - everything else: at Enter, and when the editor loses the focus, for which a click anywhere outside is enough. An
- *   integer that was typed counts only with Enter; one that was stepped to counts always.
+ *   integer that was typed counts only with Enter; one that was stepped to counts always, unless something was typed
+ *   in its place.
  *
  * Numbers are read as EntryGuard tells: in the locale and with both decimal signs, as a whole or not at all. Enter on
  * what is no number in the range leaves the editor open, shows the value again and tells the limits.
@@ -69,7 +71,7 @@ private:
 
     void connectEditor(QWidget *editor, int kind) const;
     bool fitToFeature(QWidget *editor, const QModelIndex &index) const;
-    void commitTyped(QWidget *editor) const;
+    bool commitTyped(QWidget *editor) const;
     bool filterEnter(QWidget *editor, QKeyEvent *event);
     bool filterEnterOfNumber(QWidget *editor);
     void endEditingSoon(QWidget *editor);

@@ -11,6 +11,7 @@
 #include <QGuiApplication>
 #include <QHash>
 #include <QPalette>
+#include <QPointer>
 
 #include <algorithm>
 #include <cstring>
@@ -561,8 +562,13 @@ bool GenParamTreeModel::setData(const QModelIndex &index, const QVariant &value,
     bool isWritten = false;
     const auto failure =
         failureOf([&] { isWritten = feature.write(isListed ? value.value<VariantData>().value : value); });
-    if (failure)
+    if (failure) {
+        const QPointer<GenParamTreeModel> alive(this);
+        const QPersistentModelIndex written(index);
         d->recordError(index, *failure, ValueInterfaceRole);
+        if (alive && written.isValid())
+            Q_EMIT writeFailed(written);
+    }
     if (failure || !isWritten)
         return false;
     const QString name = feature.name();

@@ -89,6 +89,9 @@ Q_SIGNALS:
     /** What failed before went well; for ValueInterfaceRole: a write went well, whether or not one failed before. */
     void errorDisappeared(const QModelIndex &index, const QString &featureName, int role);
 
+    /** A write of the feature failed, whether or not one failed before. */
+    void writeFailed(const QModelIndex &index);
+
 private:
     friend class GenParamTreeModelPrivate;
 

@@ -182,6 +182,7 @@ public:
 
     void errorAppeared(const QModelIndex &index, const QString &name, const QString &message, int role);
     void errorDisappeared(const QModelIndex &index, const QString &name, int role);
+    void writeFailed(const QModelIndex &index);
     void showStatus();
     void repaintSoon(GenApi::IValue *feature);
     void repaintRows();
@@ -402,6 +403,8 @@ void OrvGenParamTreeViewPrivate::connectModel()
     QObject::connect(
         model, &GenParamTreeModel::errorDisappeared, q,
         [this](const QModelIndex &index, const QString &name, int role) { errorDisappeared(index, name, role); });
+    QObject::connect(model, &GenParamTreeModel::writeFailed, q,
+                     [this](const QModelIndex &index) { writeFailed(index); });
     QObject::connect(model, &QAbstractItemModel::dataChanged, q,
                      [this](const QModelIndex &index) { cellChanged(index); });
 }
@@ -495,6 +498,16 @@ void OrvGenParamTreeViewPrivate::errorDisappeared(const QModelIndex &index, cons
     }
     if (role == GenParamTreeModel::ValueInterfaceRole && !isClearing)
         Q_EMIT q->featureWritten(name);
+}
+
+/** What is there after it is what counts from now on, also when there was an error already. */
+void OrvGenParamTreeViewPrivate::writeFailed(const QModelIndex &index)
+{
+    for (StandingError &error : standingErrors) {
+        if (error.index.internalId() == index.internalId() && error.role == GenParamTreeModel::ValueInterfaceRole)
+            error.content = QString();
+    }
+    cellChanged(index);
 }
 
 /** Costs nothing as long as nothing has failed. */
@@ -686,6 +699,7 @@ Visibility OrvGenParamTreeView::visibility() const
 
 void OrvGenParamTreeView::setVisibility(Visibility level)
 {
+    const OpenCalls::Call call;
     if (level >= Basic && level <= Guru)
         d->ui.cbVisibility->setCurrentIndex(level);
 }
@@ -718,6 +732,7 @@ QString OrvGenParamTreeView::filterText() const
 
 void OrvGenParamTreeView::setFilterText(const QString &text)
 {
+    const OpenCalls::Call call;
     d->ui.filterLineEdit->setText(text);
 }
 
@@ -728,6 +743,7 @@ bool OrvGenParamTreeView::filterMatchesNames() const
 
 void OrvGenParamTreeView::setFilterMatchesNames(bool on)
 {
+    const OpenCalls::Call call;
     d->matchesNames = on;
     if (d->proxy)
         d->proxy->setMatchesNodeNames(on);
@@ -740,6 +756,7 @@ bool OrvGenParamTreeView::isReadOnly() const
 
 void OrvGenParamTreeView::setReadOnly(bool readOnly)
 {
+    const OpenCalls::Call call;
     d->ui.treeView->setReadOnly(readOnly);
 }
 

@@ -77,6 +77,8 @@ bool areSizes(const QByteArray &bytes)
 QByteArray TreeState::save(const QTreeView &tree, int visibility, const QSplitter &splitter)
 {
     QByteArray state;
+    if (!tree.model())
+        return state;
     forEachCategoryPath(*tree.model(), [&](const QModelIndex &index, const QByteArray &path) {
         if (tree.isExpanded(index)) {
             state += path;
@@ -91,6 +93,8 @@ QByteArray TreeState::save(const QTreeView &tree, int visibility, const QSplitte
 
 void TreeState::loadExpansion(QTreeView &tree, const QByteArray &state)
 {
+    if (!tree.model())
+        return;
     // Whoever listens to the tree may change its rows or its model meanwhile.
     std::vector<QPersistentModelIndex> toToggle;
     forEachCategoryPath(*tree.model(), [&](const QModelIndex &index, const QByteArray &path) {

@@ -13,7 +13,7 @@ class QTreeView;
  * hexadecimal. A path is the names that are shown, in UTF-8, joined with "/". These markers are meant literally, and
  * nothing is escaped: a name that looks like a marker is written as it is.
  *
- * Only rows that pass the filter take part. The tree has a model.
+ * Only rows that pass the filter take part. Of a tree without a model there is no text.
  */
 namespace TreeState {
 
