@@ -243,7 +243,8 @@ void OrvCamConfigPrivate::openChosen(OrvCam::System *chosenFrom, OrvCam::DeviceI
 /** The last thing that is done: a slot may destroy the window. */
 void OrvCamConfigPrivate::announceDevice()
 {
-    if (std::exchange(announced, device) != device)
+    const bool isOther = std::exchange(announced, device) != device;
+    if (std::exchange(announcedIsReleased, false) || isOther)
         Q_EMIT q->deviceChanged(device);
 }
 
@@ -278,8 +279,10 @@ void OrvCamConfigPrivate::letGo()
     pendingEvent = NoEvent;
     identity = DeviceIdentity();
     OrvCam::Device *const former = std::exchange(device, nullptr);
-    if (std::exchange(ownsDevice, false))
+    if (std::exchange(ownsDevice, false)) {
         former->Release();
+        announcedIsReleased = true;
+    }
     if (OrvCam::System *const formerSystem = std::exchange(system, nullptr))
         formerSystem->Release();
 }

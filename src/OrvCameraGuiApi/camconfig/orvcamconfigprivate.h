@@ -146,6 +146,7 @@ public:
     OrvCam::System *system = nullptr; ///< from which the device was chosen; held as long as that
     OrvCam::Device *device = nullptr;
     OrvCam::Device *announced = nullptr; ///< by deviceChanged()
+    bool announcedIsReleased = false; ///< another device may come at the same address
     bool ownsDevice = false; ///< it was opened here
     DeviceIdentity identity; ///< of what was opened here
     bool awaitsParameters = false; ///< the device is back, and has not told them yet
