@@ -76,7 +76,7 @@ EntryGuard::EntryGuard(QAbstractSpinBox *box, std::unique_ptr<GuardedField> fiel
 
 EntryGuard::~EntryGuard() = default;
 
-/** Leaves the box as it was found; when the box itself goes, that is neither needed nor possible. */
+/** Leaves the box as it was found. Not called when the box itself goes. */
 void EntryGuard::release()
 {
     drop();

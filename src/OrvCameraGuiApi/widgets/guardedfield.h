@@ -19,7 +19,7 @@ public:
     virtual ~GuardedField() = default;
     Q_DISABLE_COPY(GuardedField)
 
-    /** What the box shows. */
+    /** The kind of text that the box shows. */
     virtual Entry entry() const = 0;
     /** Commits the Number that the box shows. Returns whether valueChanged() was emitted. */
     virtual bool commit() = 0;

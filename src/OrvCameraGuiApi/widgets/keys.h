@@ -2,7 +2,7 @@
 
 class QKeyEvent;
 
-/** What the keys in a spin box are for. */
+/** The meaning of keys in a spin box. */
 namespace Keys {
 
 bool isReturn(const QKeyEvent &event);

@@ -14,7 +14,7 @@ public:
 
     /** Gives button and slider the text and the size for the slider's orientation. */
     void fitOrientation();
-    /** Where the widget shows it first, and within the screen right afterwards. */
+    /** Opens the slider beside the button, and moves it onto the screen right afterwards. */
     void open();
 
 private:

@@ -127,7 +127,7 @@ bool isEmptied(const Field *field)
 
 } // namespace SpinSlider
 
-/** What a change of the spin box does during a drag. */
+/** The effect that a change of the spin box has during a drag. */
 enum class WhileDragged { Nothing, MovesSlider };
 
 /**
