@@ -96,6 +96,7 @@ QSet<int> walk(QtOrvSlider &slider, const Setting &setting, bool up, Qt::Key key
         [&] {
             QCOMPARE(recorder.values, QVector<int>{slider.value()});
             QVERIFY(way > 0 && isOnGrid(setting, slider.value()));
+            QVERIFY(values.size() <= 2002); // no more keys than positions
             QVERIFY(way >= setting.step || fromOffGrid || slider.value() == bound);
         }();
     }
