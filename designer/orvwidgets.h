@@ -2,13 +2,13 @@
 
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 
-/** What a widget offers Qt Designer; owned by the collection. */
+/** A widget in the widget box of Qt Designer; owned by the collection. */
 class OrvWidget : public QDesignerCustomWidgetInterface
 {
 public:
     using Create = QWidget *(*)(QWidget *parent);
 
-    /** What a person reads, already translated, and the properties of a new widget as they stand in a form. */
+    /** Texts for people, already translated, and the properties of a new widget in the XML of a form. */
     struct Texts
     {
         QString toolTip;

@@ -33,7 +33,7 @@ void setRange(QWidget *widget, const QVariant &minimum, const QVariant &maximum)
     if constexpr (std::is_base_of_v<QAbstractSpinBox, Widget>) {
         it->setMinimum(minimum.value<Number>());
         it->setMaximum(maximum.value<Number>());
-    } else { // each by itself may take the other from a position of the slider
+    } else { // setMinimum() and setMaximum() may take the other bound from a position
         it->setRange(minimum.value<Number>(), maximum.value<Number>());
     }
 }
@@ -97,7 +97,7 @@ private:
     {
         const QVariant value = widget->property(name.constData());
         const WidgetEdits *const edits = editsOf(widget);
-        if (!edits || !value.isValid()) // it was taken away
+        if (!edits || !value.isValid()) // the property was removed
             return;
         for (const Switch &one : edits->switches) {
             if (one.name == QLatin1String(name))

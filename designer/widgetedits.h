@@ -7,7 +7,7 @@
 
 #include <functional>
 
-/** A setting of a widget that is no property of its class, intentionally, and that forms have all the same. */
+/** A setting of a widget that is, intentionally, no property of its class, but that a form can have. */
 struct Switch
 {
     QString name; ///< for which uic calls the setter
@@ -15,19 +15,19 @@ struct Switch
     std::function<void(QWidget *, bool)> set;
 };
 
-/** What a form can do to a widget beyond its properties; of which class is known where it is made. */
+/** The settings of a widget that a form has beyond its properties. */
 struct WidgetEdits
 {
     QVector<Switch> switches;
-    /** Sets both bounds, whatever they are now, as a form does to a new widget. */
+    /** Sets both bounds, whatever they are now, as a form does with a new widget. */
     std::function<void(QWidget *, const QVariant &minimum, const QVariant &maximum)> setRange;
 };
 
-/** The edits of the library's class that \a widget is; null for any other. */
+/** The edits of the class of \a widget; null for a class that is not in the plug-in. */
 const WidgetEdits *editsOf(const QWidget *widget);
 
 /**
- * Has the dynamic properties of \a widget that are named like its switches turn these: so QUiLoader sets what it finds
- * in a form.
+ * Makes dynamic properties of \a widget turn the switches of the same name. QUiLoader sets unknown properties of a form
+ * as dynamic ones.
  */
 void followDynamicProperties(QWidget *widget);

@@ -188,7 +188,7 @@ QVariant WidgetSheet::entered(const QString &name) const
     return m_entered.value(name, m_widget->property(name.toLatin1().constData()));
 }
 
-/** The widget shows what the form would make of what was entered. */
+/** Shows the bounds and the value as the form would set them. */
 void WidgetSheet::applyEntered()
 {
     if (m_entered.contains(minimumName) || m_entered.contains(maximumName))

@@ -11,11 +11,11 @@
 class QDesignerFormEditorInterface;
 
 /**
- * What the property editor of Qt Designer shows of a widget: what it would show by itself, and then the switches of the
- * widget, which are saved like any property.
+ * The properties of a widget in the property editor of Qt Designer: its own, and after them its switches, which are
+ * saved like properties.
  *
- * The bounds and the value are what a person has entered. The widget may have to move one of them for the sake of
- * another, which is not to find its way into the form.
+ * Bounds and value are kept as a person entered them. The widget may have to move one for the sake of another; such a
+ * move must not get into the form.
  */
 class WidgetSheet : public QObject,
                     public QDesignerPropertySheetExtension,
@@ -25,7 +25,7 @@ class WidgetSheet : public QObject,
     Q_INTERFACES(QDesignerPropertySheetExtension QDesignerDynamicPropertySheetExtension)
 
 public:
-    /** \a sheet and \a dynamicSheet are Qt Designer's own for \a widget, and live as long as that. */
+    /** \a sheet and \a dynamicSheet are Qt Designer's own for \a widget and live as long as it does. */
     WidgetSheet(QWidget *widget, QDesignerPropertySheetExtension *sheet,
                 QDesignerDynamicPropertySheetExtension *dynamicSheet, QObject *parent);
 
@@ -73,10 +73,10 @@ private:
     QDesignerDynamicPropertySheetExtension *const m_dynamicSheet;
     const WidgetEdits *const m_edits;
     QVector<SwitchRow> m_switches;
-    QHash<QString, QVariant> m_entered; ///< by name: bounds and value, as far as they were set here
+    QHash<QString, QVariant> m_entered; ///< bounds and value that were set here, by name
 };
 
-/** Makes these sheets, in front of Qt Designer's own factory. */
+/** Makes these sheets. Qt Designer asks it before its own factory. */
 class WidgetSheetFactory : public QExtensionFactory
 {
     Q_OBJECT
@@ -91,6 +91,6 @@ protected:
 private:
     explicit WidgetSheetFactory(QExtensionManager *manager);
 
-    mutable bool m_isAsking = false; ///< for the extension that would be there without this factory
-    mutable QHash<QObject *, QPointer<QObject>> m_sheets; ///< one is the answer to both interfaces
+    mutable bool m_isAsking = false; ///< for the extension of the next factory
+    mutable QHash<QObject *, QPointer<QObject>> m_sheets; ///< one sheet serves both interfaces
 };

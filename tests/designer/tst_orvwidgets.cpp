@@ -34,7 +34,7 @@ QWidget *load(const QString &form)
     return loader.load(&buffer);
 }
 
-/** What the form has set in \a window, all of it other than in a new widget. */
+/** Checks the settings of the form in \a window, which all differ from those of a new widget. */
 void checkSettings(const QWidget &window)
 {
     const auto *const box64 = window.findChild<QtOrvSpinBoxVal64 *>(QStringLiteral("box64"));
@@ -56,7 +56,7 @@ void checkSettings(const QWidget &window)
     QVERIFY(gain->isReadOnly() && gain->spinBox()->isReadOnly() && !gain->slider()->isEnabled());
 }
 
-/** Of Qt Designer, for as long as it lives. */
+/** The settings of Qt Designer, as long as this object lives. */
 class DesignerSettings : public QDesignerSettingsInterface
 {
 public:
@@ -118,7 +118,7 @@ public:
         return sheet()->property(sheet()->indexOf(QLatin1String(name))).toString();
     }
 
-    /** What is saved of the widget: names and values. */
+    /** The saved properties of the widget: names and values. */
     QMap<QString, QString> saved() const
     {
         QMap<QString, QString> properties;
@@ -202,60 +202,45 @@ private Q_SLOTS:
         const struct
         {
             const char *className;
-            QVector<std::pair<const char *, QString>> properties;
+            const char *properties; ///< name, type and value of each
         } rows[] = {
-            {"QtOrvSpinBoxVal64", {{"maximum", QStringLiteral("9000000000")}, {"value", QStringLiteral("8000000000")}}},
-            {"QtOrvSpinBoxVal", {{"maximum", QStringLiteral("500")}, {"value", QStringLiteral("400")}}},
-            {"QtOrvDoubleSpinBoxVal", {{"maximum", QStringLiteral("500")}, {"value", QStringLiteral("1.25")}}},
+            {"QtOrvSpinBoxVal64", "maximum longLong 9000000000|value longLong 8000000000"},
+            {"QtOrvSpinBoxVal", "maximum number 500|value number 400"},
+            {"QtOrvDoubleSpinBoxVal", "maximum number 500|value double 1.25"},
             {"QtOrvSlider",
-             {{"orientation", QStringLiteral("Qt::Horizontal")},
-              {"minimum", QStringLiteral("10")},
-              {"maximum", QStringLiteral("1010")},
-              {"log10Coef", QStringLiteral("50")},
-              {"scaleType", QStringLiteral("QtOrvSlider::Log10")},
-              {"maxLabelVisiable", QStringLiteral("false")},
-              {"value", QStringLiteral("100")}}},
-            {"QtOrvDoubleSlider",
-             {{"decimals", QStringLiteral("1")},
-              {"minimum", QStringLiteral("-1.5")},
-              {"singleStep", QStringLiteral("0.5")},
-              {"value", QStringLiteral("2.5")}}},
+             "orientation enum Qt::Horizontal|minimum number 10|maximum number 1010|log10Coef number 50|scaleType enum "
+             "QtOrvSlider::Log10|maxLabelVisiable bool false|value number 100"},
+            {"QtOrvDoubleSlider", "decimals number 1|minimum double -1.5|singleStep double 0.5|value double 2.5"},
             {"QtOrvSpinBox",
-             {{"minimum", QStringLiteral("150")},
-              {"maximum", QStringLiteral("300")},
-              {"validateTyping", QStringLiteral("false")},
-              {"readOnly", QStringLiteral("true")},
-              {"sliderOrientation", QStringLiteral("Qt::Horizontal")},
-              {"value", QStringLiteral("200")}}},
+             "minimum number 150|maximum number 300|validateTyping bool false|readOnly bool true|sliderOrientation "
+             "enum "
+             "Qt::Horizontal|value number 200"},
             {"QtOrvSliderSpinBox",
-             {{"singleStep", QStringLiteral("4")},
-              {"validate", QStringLiteral("true")},
-              {"leftLabelText", QStringLiteral("Left & right")},
-              {"value", QStringLiteral("52")}}},
-            {"QtOrvGainSlider",
-             {{"decimals", QStringLiteral("2")},
-              {"singleStep", QStringLiteral("0.25")},
-              {"topLabelText", QStringLiteral("Gain")},
-              {"value", QStringLiteral("0.75")}}},
+             "singleStep number 4|validate bool true|leftLabelText string Left & right|value number 52"},
+            {"QtOrvGainSlider", "decimals number 2|singleStep double 0.25|topLabelText string Gain|value double 0.75"},
         };
         for (const auto &row : rows) {
+            const QStringList properties = QString::fromLatin1(row.properties).split(QLatin1Char('|'));
             QString form = QStringLiteral("<ui version=\"4.0\"><widget class=\"QWidget\" name=\"form\"><layout "
                                           "class=\"QVBoxLayout\"><item><widget class=\"%1\" name=\"it\">")
                                .arg(QLatin1String(row.className));
-            for (const auto &[name, text] : row.properties)
+            for (const QString &property : properties)
                 form += QStringLiteral("<property name=\"%1\"><%2>%3</%2></property>")
-                            .arg(QLatin1String(name), elementFor(text), text.toHtmlEscaped());
+                            .arg(property.section(QLatin1Char(' '), 0, 0), property.section(QLatin1Char(' '), 1, 1),
+                                 property.section(QLatin1Char(' '), 2).toHtmlEscaped());
             const QScopedPointer<QWidget> loaded(
                 load(form + QStringLiteral("</widget></item></layout></widget></ui>")));
             QVERIFY(loaded);
             const auto *const widget = loaded->findChild<QWidget *>(QStringLiteral("it"));
             QVERIFY(widget && widget->inherits(row.className));
-            for (const auto &[name, text] : row.properties) {
+            for (const QString &property : properties) {
+                const QByteArray name = property.section(QLatin1Char(' '), 0, 0).toLatin1();
+                const QMetaEnum keys =
+                    widget->metaObject()->property(widget->metaObject()->indexOfProperty(name)).enumerator();
                 const QVariant value = widget->property(name);
-                const QString shown = elementFor(text) == QLatin1String("enum")
-                    ? QString::fromLatin1(enumerator(*widget, name).valueToKey(value.toInt()))
-                    : value.toString();
-                QCOMPARE(shown, text.section(QStringLiteral("::"), -1));
+                const QString shown =
+                    keys.isValid() ? QString::fromLatin1(keys.valueToKey(value.toInt())) : value.toString();
+                QCOMPARE(shown, property.section(QLatin1Char(' '), 2).section(QStringLiteral("::"), -1));
             }
         }
     }
@@ -354,24 +339,6 @@ private Q_SLOTS:
 
 private:
     QTemporaryDir m_home;
-
-    static QString elementFor(const QString &text)
-    {
-        bool isNumber = false;
-        text.toDouble(&isNumber);
-        if (isNumber)
-            return text.contains(QLatin1Char('.')) ? QStringLiteral("double")
-                : text.size() > 9                  ? QStringLiteral("longLong")
-                                                   : QStringLiteral("number");
-        if (text == QLatin1String("true") || text == QLatin1String("false"))
-            return QStringLiteral("bool");
-        return text.contains(QLatin1String("::")) ? QStringLiteral("enum") : QStringLiteral("string");
-    }
-
-    static QMetaEnum enumerator(const QWidget &widget, const char *property)
-    {
-        return widget.metaObject()->property(widget.metaObject()->indexOfProperty(property)).enumerator();
-    }
 };
 
 ORV_TEST_MAIN(tst_OrvWidgets)

@@ -32,8 +32,7 @@ QString without(const QStringList &texts, const QStringList &others)
     return found == texts.end() ? QString() : *found;
 }
 
-/** What must not get lost between a text and its translation: places for values, tags, a mnemonic, a blank at the end.
- */
+/** The marks that a translation keeps: places for values, tags, a mnemonic, a blank at the end. */
 QString marksOf(const QString &text)
 {
     static const QRegularExpression mark(QStringLiteral("%\\d|</?\\w+>|&(?=\\w)|\\n|\\r| +$"));
@@ -83,7 +82,7 @@ void TestTranslations::catalogue_data()
     }
 }
 
-/** Every entry is finished and says something else than its source, but for the listed ones. */
+/** Every entry is finished and differs from its source, except the listed ones. */
 void TestTranslations::catalogue()
 {
     QFETCH(QString, language);

@@ -1,9 +1,9 @@
+#include "input.h"
+
 #include <OrvCameraGuiApi/widgets/qtorvdoublespinboxval.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
 
 #include <orvtest.h>
-
-#include <QLineEdit>
 
 #include <limits>
 
@@ -13,56 +13,62 @@ constexpr int Smallest = std::numeric_limits<int>::min();
 constexpr int Largest = std::numeric_limits<int>::max();
 constexpr double Huge = std::numeric_limits<double>::max();
 
-/** A focused box at 42 of 0 to 99 in steps of 10; notes the numbers it announces. */
-template <typename Box, typename Number>
-class Window : public QWidget
+/** At 42 of 0 to 99 in steps of 10. */
+template <typename Box>
+class Window : public FieldWindow<Box>
 {
 public:
     Window()
+        : FieldWindow<Box>(42)
     {
-        box.setSingleStep(10);
-        box.setValue(42);
-        connect(&box, QOverload<Number>::of(&Box::valueChanged), this, [this](Number value) { emitted.append(value); });
-        show();
-        box.setFocus();
+        this->field.setSingleStep(10);
     }
-    bool isReady() { return QTest::qWaitForWindowActive(this) && box.hasFocus(); }
-    void type(const char *keys) { box.selectAll(), QTest::keyClicks(&box, QString::fromLatin1(keys)); }
-
-    Box box{this};
-    QLineEdit *const edit = box.template findChild<QLineEdit *>();
-    QVector<Number> emitted;
+    void pressReturn() { QTest::keyClick(&this->field, Qt::Key_Return); }
 };
 
-using IntWindow = Window<QtOrvSpinBoxVal, int>;
-using DoubleWindow = Window<QtOrvDoubleSpinBoxVal, double>;
+using IntWindow = Window<QtOrvSpinBoxVal>;
+using DoubleWindow = Window<QtOrvDoubleSpinBoxVal>;
 
-/** Types any characters, over all that is there, and presses Return. */
-void enter(QAbstractSpinBox &box, const QString &text)
+/** Calls \a check with a window for each of the two classes. */
+template <typename Check>
+void forBoth(const Check &check)
 {
-    box.selectAll();
-    for (const QChar c : text) {
-        QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
-        QApplication::sendEvent(&box, &key);
-    }
-    QTest::keyClick(&box, Qt::Key_Return);
+    const auto run = [&check](auto &&window) {
+        if (QTest::currentTestFailed())
+            return;
+        QVERIFY(window.isReady());
+        check(window);
+    };
+    run(IntWindow());
+    run(DoubleWindow());
 }
 
-/** Typing and Return by the rule that both classes share. */
+/** A text that is put into a box with the value 42, and the value after Return. */
+struct Reading
+{
+    QLocale::Language language;
+    QString text;
+    double value;
+    bool groups;
+    int base;
+};
+
 template <typename AnyWindow>
-void typeAndReturn(bool validateTyping)
+void read(const Reading &row, bool validateTyping)
 {
     AnyWindow window;
-    QVERIFY(window.isReady());
-    window.box.setValidate(true);
-    window.box.setValidateTyping(validateTyping);
-    window.type("x57");
-    QCOMPARE(window.edit->text(), QStringLiteral("57")); // what is invalid stays so
-    QCOMPARE(window.emitted, validateTyping ? (decltype(window.emitted){5, 57}) : (decltype(window.emitted){}));
-    window.emitted.clear();
-    QTest::keyClick(&window.box, Qt::Key_Return);
-    QCOMPARE(window.emitted.size(), 1);
-    QVERIFY(window.emitted.first() == (validateTyping ? 57 : 60)); // the base class repeats itself
+    auto &box = window.field;
+    box.setRange(-5000, 5000);
+    box.setLocale(QLocale(row.language));
+    box.setGroupSeparatorShown(row.groups);
+    box.setProperty("displayIntegerBase", row.base);
+    box.setValidateTyping(validateTyping);
+    box.setKeyboardTracking(false);
+    window.pressReturn(); // untouched, in whatever base
+    QVERIFY(box.value() == 42);
+    box.setLineEditText(row.text);
+    window.pressReturn();
+    QVERIFY2(box.value() == row.value, qPrintable(row.text));
 }
 
 } // namespace
@@ -133,125 +139,119 @@ private Q_SLOTS:
     void typedTextWaitsForReturn()
     {
         for (const bool validateTyping : {true, false}) {
-            typeAndReturn<IntWindow>(validateTyping);
-            typeAndReturn<DoubleWindow>(validateTyping);
+            forBoth([validateTyping](auto &window) {
+                window.field.setValidate(true);
+                window.field.setValidateTyping(validateTyping);
+                type(&window.field, QStringLiteral("x57"));
+                QCOMPARE(window.edit->text(), QStringLiteral("57")); // the x is refused
+                QCOMPARE(window.takeLog(), validateTyping ? QStringLiteral("5 57") : QString());
+                window.pressReturn();
+                QCOMPARE(window.takeLog(), QString::fromLatin1(validateTyping ? "57" : "60")); // Qt's box repeats it
+            });
         }
     }
 
-    /** What the base class makes of Return without typing to validate: the value's text comes back. */
+    /** Qt's boxes show the value again on Return without validateTyping(). */
     void textThatCannotBeReadIsLeftToTheBaseClass()
     {
-        IntWindow window;
-        QVERIFY(window.isReady());
-        window.box.setValidateTyping(false);
-        window.box.setSuffix(QStringLiteral(" px"));
-        window.type("57");
-        QTest::keyClick(&window.box, Qt::Key_Return);
-        QCOMPARE(window.edit->text(), QStringLiteral("42 px"));
-
+        forBoth([](auto &window) {
+            auto &box = window.field;
+            const QString shown = box.text();
+            box.setValidateTyping(false);
+            box.setSuffix(QStringLiteral(" px"));
+            type(&box, QStringLiteral("57"));
+            window.pressReturn();
+            QCOMPARE(box.text(), shown + QStringLiteral(" px"));
+            box.setSuffix(QString());
+            box.setLineEditText(QStringLiteral("nan"));
+            window.pressReturn();
+            QCOMPARE(box.text(), shown);
+            box.setReadOnly(true);
+            box.setLineEditText(QStringLiteral("57"));
+            window.pressReturn();
+            QVERIFY(box.value() == 42);
+        });
         DoubleWindow doubles;
         QVERIFY(doubles.isReady());
-        doubles.box.setValidateTyping(false);
-        doubles.type("57");
-        doubles.box.setSingleStep(0);
-        QTest::keyClick(&doubles.box, Qt::Key_Return);
+        doubles.field.setValidateTyping(false);
+        doubles.field.setSingleStep(0);
+        type(&doubles.field, QStringLiteral("57"));
+        doubles.pressReturn();
         QCOMPARE(doubles.edit->text(), QStringLiteral("42.00"));
-        doubles.box.setSingleStep(10);
-        doubles.box.setLineEditText(QStringLiteral("nan"));
-        QTest::keyClick(&doubles.box, Qt::Key_Return);
-        QCOMPARE(doubles.edit->text(), QStringLiteral("42.00"));
-        QCOMPARE(window.box.value(), 42);
-        QCOMPARE(doubles.box.value(), 42.0);
-        doubles.box.setLocale(QLocale(QLocale::German)); // for what is shown; what is read is in the C locale
-        doubles.box.setLineEditText(QStringLiteral("57.5"));
-        QTest::keyClick(&doubles.box, Qt::Key_Return);
-        QCOMPARE(doubles.edit->text(), QStringLiteral("57,50"));
     }
 
     void readsNumbersByLocale()
     {
-        const QString arabic = QStringLiteral("\u0663\u066b\u0665");
-        const struct
-        {
-            QLocale::Language language;
-            QString text;
-            double value; // of 42
-            bool groups;
-        } rows[] = {
-            {QLocale::C, QStringLiteral("3.5"), 3.5, false},
-            {QLocale::C, QStringLiteral("3,5"), 42, false}, // no 35
-            {QLocale::C, QStringLiteral("1,234.5"), 42, false},
-            {QLocale::English, QStringLiteral("1,234.5"), 1234.5, true},
-            {QLocale::C, QStringLiteral("-1e3"), -1000, false},
-            {QLocale::German, QStringLiteral("3,5"), 3.5, false},
-            {QLocale::German, QStringLiteral("3.5"), 3.5, false},
-            {QLocale::German, QStringLiteral("3.5"), 3.5, true},
-            {QLocale::German, QStringLiteral("1.234,5"), 42, false},
-            {QLocale::German, QStringLiteral("1.234,5"), 1234.5, true},
-            {QLocale::German, QStringLiteral("1.234"), 1234, true},
-            {QLocale::German, QStringLiteral("12.34,5"), 1234.5, true}, // being edited
-            {QLocale::French, QStringLiteral("1 234"), 42, false},
-            {QLocale::French, QStringLiteral("-3,5"), -3.5, false},
-            {QLocale::Swedish, QStringLiteral("\u22123.5"), -3.5, false},
-            {QLocale::Arabic, arabic, 3.5, false},
-            {QLocale::Arabic, QStringLiteral("3.5"), 3.5, false},
-            {QLocale::Arabic, QStringLiteral("\u0663.\u0665"), 3.5, false},
-            {QLocale::German, QStringLiteral("inf"), 42, false},
-        };
-        for (const auto &row : rows) {
-            for (const bool validateTyping : {true, false}) {
-                DoubleWindow window;
-                window.box.setRange(-5000, 5000);
-                window.box.setLocale(QLocale(row.language));
-                window.box.setGroupSeparatorShown(row.groups);
-                window.box.setValidateTyping(validateTyping);
-                window.box.setKeyboardTracking(false);
-                window.box.setLineEditText(row.text);
-                QTest::keyClick(&window.box, Qt::Key_Return);
-                QVERIFY2(window.box.value() == row.value, qPrintable(row.text));
-                QCOMPARE(window.box.text(), window.box.textFromValue(row.value));
-            }
-        }
-    }
-
-    void readsIntegersByLocale()
-    {
-        const struct
-        {
-            QLocale::Language language;
-            QString text;
-            int value; // of 42
-            bool groups;
-            int base;
-        } rows[] = {
-            {QLocale::German, QStringLiteral("1.5"), 42, false, 10},
-            {QLocale::German, QStringLiteral(",5"), 42, false, 10},
-            {QLocale::German, QStringLiteral("1.234"), 42, false, 10},
+        const Reading doubles[] = {
+            {QLocale::C, QStringLiteral("3.5"), 3.5, false, 10},
+            {QLocale::C, QStringLiteral("3,5"), 42, false, 10}, // not 35
+            {QLocale::C, QStringLiteral("1,234.5"), 42, false, 10},
+            {QLocale::English, QStringLiteral("1,234.5"), 1234.5, true, 10},
+            {QLocale::C, QStringLiteral("-1e3"), -1000, false, 10},
+            {QLocale::German, QStringLiteral("3,5"), 3.5, false, 10},
+            {QLocale::German, QStringLiteral("3.5"), 3.5, false, 10},
+            {QLocale::German, QStringLiteral("3.5"), 3.5, true, 10},
+            {QLocale::German, QStringLiteral("1.234,5"), 42, false, 10},
+            {QLocale::German, QStringLiteral("1.234,5"), 1234.5, true, 10},
             {QLocale::German, QStringLiteral("1.234"), 1234, true, 10},
-            {QLocale::C, QStringLiteral("1,5"), 42, false, 10},
+            {QLocale::German, QStringLiteral("12.34,5"), 1234.5, true, 10}, // being edited
             {QLocale::French, QStringLiteral("1 234"), 42, false, 10},
+            {QLocale::Swedish, QStringLiteral("\u22123.5"), -3.5, false, 10},
+            {QLocale::Arabic, QStringLiteral("\u0663\u066b\u0665"), 3.5, false, 10},
+            {QLocale::Arabic, QStringLiteral("\u0663.\u0665"), 3.5, false, 10},
+            {QLocale::German, QStringLiteral("inf"), 42, false, 10},
+        };
+        const Reading integers[] = {
+            {QLocale::German, QStringLiteral("1.5"), 42, false, 10},
+            {QLocale::German, QStringLiteral("1.234"), 1234, true, 10},
             {QLocale::Swedish, QStringLiteral("\u22125"), -5, false, 10},
             {QLocale::Arabic, QStringLiteral("\u0665\u0667"), 57, false, 10},
             {QLocale::Arabic, QStringLiteral("57"), 57, false, 10},
             {QLocale::C, QStringLiteral("1f"), 31, false, 16},
-            {QLocale::C, QStringLiteral("20"), 32, false, 16},
         };
-        for (const auto &row : rows) {
-            for (const bool validateTyping : {true, false}) {
-                IntWindow window;
-                window.box.setRange(-5000, 5000);
-                window.box.setLocale(QLocale(row.language));
-                window.box.setGroupSeparatorShown(row.groups);
-                window.box.setDisplayIntegerBase(row.base);
-                window.box.setValidateTyping(validateTyping);
-                window.box.setKeyboardTracking(false);
-                QTest::keyClick(&window.box, Qt::Key_Return); // untouched, in whatever base
-                QCOMPARE(window.box.value(), 42);
-                window.box.setLineEditText(row.text);
-                QTest::keyClick(&window.box, Qt::Key_Return);
-                QVERIFY2(window.box.value() == row.value, qPrintable(row.text));
-            }
+        for (const bool validateTyping : {true, false}) {
+            for (const Reading &row : doubles)
+                read<DoubleWindow>(row, validateTyping);
+            for (const Reading &row : integers)
+                read<IntWindow>(row, validateTyping);
         }
+    }
+
+    /** The verdicts that a line edit lets keys pass by. */
+    void judgesTexts()
+    {
+        const struct
+        {
+            const char *text;
+            QValidator::State integer, number; // in -5 to 1920 and 0 to 1920
+        } rows[] = {
+            {"57 us", QValidator::Acceptable, QValidator::Acceptable},
+            {"-6 us", QValidator::Invalid, QValidator::Invalid},
+            {"-0 us", QValidator::Acceptable, QValidator::Acceptable},
+            {"+ us", QValidator::Intermediate, QValidator::Intermediate},
+            {" us", QValidator::Intermediate, QValidator::Intermediate},
+            {"5.25 us", QValidator::Invalid, QValidator::Acceptable},
+            {"5.125 us", QValidator::Invalid, QValidator::Invalid}, // decimals that are not there
+            {"1921 us", QValidator::Invalid, QValidator::Invalid},
+        };
+        QtOrvSpinBoxVal integers;
+        integers.setRange(-5, 1920);
+        integers.setSuffix(QStringLiteral(" us"));
+        QtOrvDoubleSpinBoxVal numbers;
+        numbers.setRange(0, 1920);
+        numbers.setSuffix(QStringLiteral(" us"));
+        int pos = 0;
+        for (const auto &row : rows) {
+            QString text = QLatin1String(row.text);
+            QVERIFY2(integers.validate(text, pos) == row.integer, row.text);
+            QVERIFY2(numbers.validate(text, pos) == row.number, row.text);
+        }
+        integers.setMinimum(0);
+        QString text = QStringLiteral("-0 us");
+        QCOMPARE(integers.validate(text, pos), QValidator::Invalid);
+        text = QStringLiteral("5");
+        QCOMPARE(integers.validate(text, pos), QValidator::Acceptable);
+        QCOMPARE(text, QStringLiteral("5 us")); // the suffix is put back
     }
 
     /** Neither while it is typed nor when the box is left a group separator makes another number. */
@@ -259,114 +259,93 @@ private Q_SLOTS:
     {
         DoubleWindow window;
         QVERIFY(window.isReady());
-        QLineEdit other(&window);
-        other.show();
-        window.box.setMaximum(5000);
-        window.box.setSuffix(QStringLiteral(" ms"));
-        window.box.setLocale(QLocale(QLocale::German));
-        window.type("3.25");
-        QCOMPARE(window.emitted, (QVector<double>{3, 3.2, 3.25}));
-        window.emitted.clear();
-        window.box.setKeyboardTracking(false);
-        window.type("1.5");
-        other.setFocus();
-        QCOMPARE(window.emitted, (QVector<double>{1.5}));
-        QCOMPARE(window.edit->text(), QStringLiteral("1,50 ms"));
+        QtOrvDoubleSpinBoxVal &box = window.field;
+        box.setMaximum(5000);
+        box.setSuffix(QStringLiteral(" ms"));
+        box.setLocale(QLocale(QLocale::German));
+        type(&box, QStringLiteral("3.25"));
+        QCOMPARE(window.takeLog(), QStringLiteral("3 3.2 3.25"));
+        box.setKeyboardTracking(false);
+        type(&box, QStringLiteral("1.5"));
+        window.other.setFocus();
+        QCOMPARE(window.takeLog(), QStringLiteral("1.5"));
+        QCOMPARE(box.text(), QStringLiteral("1,50 ms"));
         window.edit->setCursorPosition(1);
-        QTest::keyClicks(&window.box, QStringLiteral(".")); // where one is already: behind that
-        QCOMPARE(window.edit->text(), QStringLiteral("1.50 ms"));
+        QTest::keyClicks(&box, QStringLiteral(".")); // before the decimal sign: only the cursor moves
+        QCOMPARE(box.text(), QStringLiteral("1.50 ms"));
         QCOMPARE(window.edit->cursorPosition(), 2);
         window.edit->selectAll();
-        QTest::keyClicks(&window.box, QStringLiteral("5")); // over the suffix, too
-        QCOMPARE(window.edit->text(), QStringLiteral("5 ms"));
+        QTest::keyClicks(&box, QStringLiteral("5")); // over the suffix, too
+        QCOMPARE(box.text(), QStringLiteral("5 ms"));
     }
 
-    void whatIsShownCanBeTypedInEveryLocale()
+    void textOnShowCanBeTypedInEveryLocale()
     {
-        DoubleWindow doubles;
-        IntWindow ints;
-        doubles.box.setRange(-5000, 5000);
-        ints.box.setRange(-5000, 5000);
-        for (QAbstractSpinBox *const box :
-             {static_cast<QAbstractSpinBox *>(&doubles.box), static_cast<QAbstractSpinBox *>(&ints.box)})
-            box->setKeyboardTracking(false);
-        doubles.box.setValidateTyping(false);
-        ints.box.setValidateTyping(false);
-        const auto locales = QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry);
-        for (const QLocale &locale : locales) {
-            doubles.box.setLocale(locale);
-            ints.box.setLocale(locale);
-            for (const double number : {-1234.5, 0.25, 1920.0}) {
-                enter(doubles.box, doubles.box.textFromValue(number));
-                QVERIFY2(doubles.box.value() == number, qPrintable(locale.name()));
-                enter(doubles.box, QString::number(-number));
-                QVERIFY2(doubles.box.value() == -number, qPrintable(locale.name()));
-                const int whole = int(number);
-                ints.box.setValue(whole);
-                const QString text = ints.box.text();
-                ints.box.setValue(7);
-                enter(ints.box, text);
-                QVERIFY2(ints.box.value() == whole, qPrintable(locale.name()));
-            }
+        for (const QLocale &locale :
+             QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry)) {
+            QtOrvDoubleSpinBoxVal doubles;
+            QtOrvSpinBoxVal integers;
+            const auto check = [&locale](auto &box, auto number) {
+                box.setRange(-5000, 5000);
+                box.setLocale(locale);
+                box.setKeyboardTracking(false);
+                box.setValidateTyping(false);
+                box.setValue(number);
+                const QString shown = box.text();
+                for (const QString &text : {QString::number(-number), shown}) { // plain, and as the locale writes it
+                    type(&box, text);
+                    QTest::keyClick(&box, Qt::Key_Return);
+                    QVERIFY2(box.value() == (text == shown ? number : -number), qPrintable(locale.name()));
+                }
+            };
+            for (const double number : {-1234.5, 0.25})
+                check(doubles, number);
+            for (const int number : {-1234, 57})
+                check(integers, number);
         }
     }
 
-    /** The base class takes the bound nearest to 0 for whatever is no number. */
+    /** Qt's boxes take the bound nearest to 0 for any text that is no number. */
     void correctsNothingToAnotherNumber()
     {
         for (const bool validateTyping : {true, false}) {
-            for (const char *const text : {"", "-", "1e", "57"}) {
-                const double corrected = validateTyping && *text == '5' ? 57 : 42;
-                DoubleWindow doubles;
-                IntWindow ints;
-                doubles.box.setMinimum(-99);
-                doubles.box.setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
-                doubles.box.setValidateTyping(validateTyping);
-                doubles.box.setKeyboardTracking(false);
-                doubles.box.setLineEditText(QLatin1String(text));
-                doubles.box.interpretText();
-                QCOMPARE(doubles.box.value(), corrected);
-                QCOMPARE(doubles.box.text(), doubles.box.textFromValue(corrected));
-                ints.box.setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
-                ints.box.setMinimum(10);
-                ints.box.setValidateTyping(validateTyping);
-                ints.box.setKeyboardTracking(false);
-                ints.box.setLineEditText(QLatin1String(text));
-                ints.box.interpretText();
-                QCOMPARE(ints.box.value(), int(corrected));
-                ints.box.setLineEditText(QStringLiteral("5")); // a number, though one outside the range
-                ints.box.interpretText();
-                QCOMPARE(ints.box.value(), validateTyping ? 10 : int(corrected));
-            }
+            forBoth([validateTyping](auto &window) {
+                auto &box = window.field;
+                box.setMinimum(10);
+                box.setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
+                box.setValidateTyping(validateTyping);
+                box.setKeyboardTracking(false);
+                const QString shown = box.text();
+                for (const char *const text : {"", "-", "1e", "57", "5"}) {
+                    box.setValue(42);
+                    box.setLineEditText(QLatin1String(text));
+                    box.interpretText();
+                    const QByteArray typed(text);
+                    // Only a number outside the range is corrected.
+                    const int read = typed == "57" ? 57 : typed == "5" ? 10 : 42;
+                    QVERIFY2(box.value() == (validateTyping ? read : 42), text);
+                    QVERIFY(box.value() != 42 || box.text() == shown);
+                }
+            });
         }
     }
 
     void stepsAreSnappedAndEndAtTheBounds()
     {
-        IntWindow window;
-        QVERIFY(window.isReady());
-        window.box.setValidate(true);
-        QTest::keyClick(&window.box, Qt::Key_Up);
-        QTest::keyClick(&window.box, Qt::Key_PageUp);
-        QCOMPARE(window.emitted, (QVector<int>{50, 99}));
-        window.box.stepBy(Largest);
-        QCOMPARE(window.box.value(), 99);
-        window.box.stepBy(Smallest);
-        QCOMPARE(window.box.value(), 0);
-        window.box.setValidateTyping(false);
-        window.box.setReadOnly(true);
-        window.box.setLineEditText(QStringLiteral("57"));
-        QTest::keyClick(&window.box, Qt::Key_Return);
-        QCOMPARE(window.box.value(), 0);
-
-        DoubleWindow doubles;
-        QVERIFY(doubles.isReady());
-        doubles.box.setValidate(true);
-        QTest::keyClick(&doubles.box, Qt::Key_Down);
-        QCOMPARE(doubles.emitted, (QVector<double>{30}));
-        doubles.box.setSingleStep(Huge);
-        doubles.box.stepBy(Smallest);
-        QCOMPARE(doubles.box.value(), 0.0);
+        forBoth([](auto &window) {
+            auto &box = window.field;
+            box.setMaximum(99);
+            box.setValidate(true);
+            QTest::keyClick(&box, Qt::Key_Up);
+            QTest::keyClick(&box, Qt::Key_PageUp);
+            QTest::keyClick(&box, Qt::Key_Down);
+            QCOMPARE(window.takeLog(), QStringLiteral("50 99 90"));
+            box.stepBy(Largest);
+            QVERIFY(box.value() == 99);
+            box.setSingleStep(std::numeric_limits<decltype(box.value())>::max());
+            box.stepBy(Smallest);
+            QVERIFY(box.value() == 0);
+        });
     }
 };
 

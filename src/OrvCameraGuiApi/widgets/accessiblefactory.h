@@ -2,7 +2,7 @@
 
 #include <QAccessible>
 
-/** Lets that function be asked for accessible interfaces, from install() on and as long as this lives. */
+/** Registers a factory of accessible interfaces with Qt, from install() until this object is destroyed. */
 class AccessibleFactory
 {
 public:
@@ -13,7 +13,10 @@ public:
     ~AccessibleFactory() { QAccessible::removeFactory(m_factory); }
     Q_DISABLE_COPY(AccessibleFactory)
 
-    /** To be called for every widget: an application object takes all factories with it, and another may come. */
+    /**
+     * To be called for every widget: an application object takes all factories with it when it goes, and the host may
+     * make another one.
+     */
     void install() const { QAccessible::installFactory(m_factory); }
 
 private:

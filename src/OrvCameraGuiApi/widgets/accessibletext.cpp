@@ -18,7 +18,7 @@ int ShownText::offsetAtPoint(const QPoint &) const
     return -1;
 }
 
-/** The same all over the text: none. */
+/** No part of the text has attributes. */
 QString ShownText::attributes(int, int *start, int *end) const
 {
     *start = 0;
@@ -32,7 +32,7 @@ SpinBoxText::SpinBoxText(QAbstractSpinBox *spinBox)
 {
 }
 
-/** The one that it has now; there always is one. */
+/** The present line edit. The spin box may be given another one, but always has one. */
 QLineEdit *SpinBoxText::edit() const
 {
     return m_spinBox->findChild<QLineEdit *>(QString(), Qt::FindDirectChildrenOnly);
@@ -62,7 +62,7 @@ void SpinBoxText::addSelection(int start, int end)
     setSelection(0, start, end);
 }
 
-/** Whatever numbers a tool makes up. */
+/** Takes any numbers: a tool may make them up. */
 void SpinBoxText::select(int start, int end)
 {
     const int first = qBound(0, start, characterCount());

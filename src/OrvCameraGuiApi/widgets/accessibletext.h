@@ -6,7 +6,7 @@ class QAbstractSpinBox;
 class QLineEdit;
 class QWidget;
 
-/** The text that a control shows, for assistive tools: to be read as a whole. */
+/** Offers the text of a control to assistive tools, to be read as a whole. */
 class ShownText : public QAccessibleTextInterface
 {
 public:
@@ -36,7 +36,7 @@ private:
     QWidget *const m_widget;
 };
 
-/** The text of a spin box, to be selected and edited too. */
+/** Offers the text of a spin box, which a tool can select and edit as well. */
 class SpinBoxText : public ShownText, public QAccessibleEditableTextInterface
 {
 public:
@@ -55,7 +55,7 @@ public:
     QRect characterRect(int offset) const override;
     int offsetAtPoint(const QPoint &point) const override;
 
-    /** \name As if it were typed: a validator decides, and nothing happens where nothing may be typed @{ */
+    /** \name Edits as if typed: the validator decides, a read-only or disabled box refuses them @{ */
     void deleteText(int start, int end) override { replaceText(start, end, QString()); }
     void insertText(int offset, const QString &text) override { replaceText(offset, offset, text); }
     void replaceText(int start, int end, const QString &text) override;

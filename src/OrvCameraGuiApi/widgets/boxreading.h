@@ -1,14 +1,15 @@
 #pragma once
 
 #include <OrvCameraGuiApi/widgets/entryguard.h>
+#include <OrvCameraGuiApi/widgets/keys.h>
 #include <OrvCameraGuiApi/widgets/numbertext.h>
 
 #include <QAbstractSpinBox>
 
-/** How the two boxes that are made of Qt's go about their text. */
+/** How the spin boxes derived from Qt's read and correct their text. */
 namespace BoxReading {
 
-/** Ends a text that fixup() offers as the value's, for validate() to take off. Nobody types a noncharacter. */
+/** Marks a text by which fixup() offers the value; validate() takes it off. Nobody types a noncharacter. */
 constexpr QChar ValueMark(0xfdd0);
 
 template <typename Box>
@@ -25,8 +26,8 @@ QValidator::State validate(const Box &box, QString &text, int &pos)
 }
 
 /**
- * The base class would take the bound nearest to 0 for whatever it does not accept. That is left to it for a number
- * that lies outside the range. \a valueText is what the box shows for its value.
+ * Offers \a valueText, the text of the box for its value. The base class would take the bound nearest to 0 for any text
+ * that it does not accept; only a number outside the range is left to it.
  */
 template <typename Box>
 void fixup(const Box &box, QString &text, const QString &valueText)
@@ -37,14 +38,35 @@ void fixup(const Box &box, QString &text, const QString &valueText)
         text = valueText + ValueMark;
 }
 
-/** What is no number of the range is what the base class makes of it. */
+/**
+ * The number in \a text. An untouched text, equal to \a valueText, is the value; a text that is no number of the range
+ * is what the base class makes of it.
+ */
 template <typename Box>
-auto valueFromText(const Box &box, const QString &text)
+auto valueFromText(const Box &box, const QString &text, const QString &valueText)
 {
+    if (text == valueText)
+        return box.value();
     const auto number = NumberText::typedNumber(box, text);
     if (number && box.minimum() <= *number && *number <= box.maximum())
         return *number;
     return box.maximum() > 0 ? box.minimum() : box.maximum();
+}
+
+/**
+ * Sets the number that a box without validateTyping() shows when Return is pressed. Whether there is one; a text beside
+ * a prefix or suffix is none, intentionally. \a valueText is the text for the value, in whatever base.
+ */
+template <typename Box>
+bool setTypedNumber(Box *box, const QKeyEvent &event, const QString &valueText)
+{
+    const bool hasAffixes = !box->prefix().isEmpty() || !box->suffix().isEmpty();
+    if (!Keys::isReturn(event) || hasAffixes || box->validateTyping() || box->isReadOnly())
+        return false;
+    const auto number = box->text() == valueText ? std::make_optional(box->value()) : NumberText::typedNumber(*box);
+    if (number)
+        box->setValue(*number);
+    return number.has_value();
 }
 
 } // namespace BoxReading

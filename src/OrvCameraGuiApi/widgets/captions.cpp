@@ -8,7 +8,7 @@ namespace {
 
 constexpr int spacing = 6; // pixels
 
-/** A label without a text names nothing. */
+/** A hidden label has no buddy: it would give the spin box an empty name. */
 void show(QLabel *label, const QString &text, QAbstractSpinBox *buddy)
 {
     label->setText(text);

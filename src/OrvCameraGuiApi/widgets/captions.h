@@ -9,22 +9,22 @@ class QVBoxLayout;
 class QWidget;
 
 /**
- * Lays a composite out: a row of its parts, and around it a caption to the left and one above, which come into being
- * when they are first set. A caption names the spin box, for assistive tools and by its mnemonic.
+ * The layout of a composite: a row of parts, with one caption to the left and one above. A caption gets its label when
+ * its text is first set. It names the spin box to assistive tools, and its mnemonic leads there.
  */
 class Captions
 {
 public:
-    /** Gives \a composite its layouts; all that is made here belongs to it. */
+    /** Sets the layouts of \a composite, which owns everything that is made here. */
     explicit Captions(QWidget *composite);
 
-    /** Where the parts go. */
+    /** The row for the parts. */
     QHBoxLayout *row() const { return m_row; }
 
-    /** What mnemonics give the focus to. To be set before the first caption. */
+    /** The buddy of the captions. To be set before the first caption. */
     void setSpinBox(QAbstractSpinBox *spinBox) { m_spinBox = spinBox; }
 
-    /** Null until it is first set; hidden while its text is empty. */
+    /** Null until the text is first set; hidden while the text is empty. */
     QLabel *left() const { return m_left; }
     QLabel *top() const { return m_top; }
     void setLeftText(const QString &text);

@@ -6,7 +6,7 @@
 
 namespace {
 
-/** A pop-up is a part of the composite, too, which QWidget::isAncestorOf() denies. */
+/** A pop-up counts as a part, unlike for QWidget::isAncestorOf(), which stops at windows. */
 bool isPart(const QWidget *composite, const QWidget *widget)
 {
     while (widget && widget != composite)

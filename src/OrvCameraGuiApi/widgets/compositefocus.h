@@ -5,12 +5,12 @@
 class QWidget;
 
 /**
- * Lets a composite see a QEvent::FocusOut when the focus leaves its parts, after these have seen theirs. A delegate or
- * a QDataWidgetMapper watches only the composite, and takes that for the end of editing.
+ * Sends a composite a QEvent::FocusOut when the focus leaves its parts, after the parts have seen theirs. A delegate
+ * and a QDataWidgetMapper watch the composite only, and take that event for the end of editing.
  */
 class CompositeFocus : public QObject
 {
 public:
-    /** Not its child: it has to go before the parts of \a composite do. */
+    /** Not a child of \a composite: it has to be destroyed before the parts are. */
     explicit CompositeFocus(QWidget *composite);
 };

@@ -1,111 +1,24 @@
 #include <OrvCameraGuiApi/widgets/entryguard.h>
 
 #include <OrvCameraGuiApi/widgets/guardedfield.h>
-#include <OrvCameraGuiApi/widgets/numbertext.h>
-#include <OrvCameraGuiApi/widgets/qtorvdoublespinboxval.h>
-#include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
+#include <OrvCameraGuiApi/widgets/keys.h>
 
-#include <QAccessible>
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QTextDocument>
-#include <QToolTip>
 
-#include <algorithm>
 #include <utility>
 
 namespace {
 
-/** Judges what is typed into a box of Qt's own. */
-class PlainBoxValidator : public QValidator
+/** A person who goes to a menu, a modal window or another program comes back to what was typed. */
+bool isLeaving(Qt::FocusReason reason)
 {
-public:
-    explicit PlainBoxValidator(QAbstractSpinBox *box)
-        : QValidator(box)
-        , m_box(box)
-    {
-    }
-
-    State validate(QString &text, int &pos) const override
-    {
-        if (const auto *const doubles = qobject_cast<const QDoubleSpinBox *>(m_box))
-            return NumberText::judge(*doubles, text, pos);
-        const auto *const wholes = qobject_cast<const QSpinBox *>(m_box);
-        return wholes ? NumberText::judge(*wholes, text, pos) : Acceptable;
-    }
-
-private:
-    const QAbstractSpinBox *const m_box;
-};
-
-bool readsByItself(const QAbstractSpinBox *box)
-{
-    const bool isQts = qobject_cast<const QSpinBox *>(box) || qobject_cast<const QDoubleSpinBox *>(box);
-    return !isQts || qobject_cast<const QtOrvSpinBoxVal *>(box) || qobject_cast<const QtOrvDoubleSpinBoxVal *>(box);
-}
-
-bool isReturn(const QKeyEvent *event)
-{
-    return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-}
-
-bool isStep(const QKeyEvent *event)
-{
-    switch (event->key()) {
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-        return true;
-    default:
-        return false;
-    }
-}
-
-bool isDeletion(const QKeyEvent *event)
-{
-    return event->key() == Qt::Key_Backspace || event->key() == Qt::Key_Delete;
-}
-
-/** By the rule of a line edit: with Ctrl and Alt, which are AltGr, a key types as well. */
-bool isCharacter(const QKeyEvent *event)
-{
-    const bool isCommand = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == Qt::ControlModifier;
-    return !isCommand && !event->text().isEmpty() && event->text().at(0).isPrint();
-}
-
-bool isSelecting(const QKeyEvent *event)
-{
-    if (event->matches(QKeySequence::SelectAll))
-        return true;
-    const bool moves = event->key() == Qt::Key_Left || event->key() == Qt::Key_Right || event->key() == Qt::Key_Home
-        || event->key() == Qt::Key_End;
-    return moves && (event->modifiers() & Qt::ShiftModifier);
-}
-
-/** What an edit of the text may come of. */
-bool isInput(QEvent::Type type)
-{
-    return type == QEvent::KeyPress || type == QEvent::InputMethod || type == QEvent::ContextMenu
-        || type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease;
-}
-
-/** Whether \a text is \a former but for one piece that was taken away. */
-bool isShortened(const QString &former, const QString &text)
-{
-    if (text.size() >= former.size())
-        return false;
-    int same = 0;
-    while (same < text.size() && text.at(same) == former.at(same))
-        ++same;
-    return former.endsWith(text.midRef(same));
-}
-
-/** A unit is whatever the camera says. */
-QString asPlainText(const QString &text)
-{
-    return Qt::mightBeRichText(text) ? text.toHtmlEscaped() : text;
+    if (reason != Qt::ActiveWindowFocusReason)
+        return reason != Qt::PopupFocusReason;
+    const QWidget *const window = QApplication::activeWindow();
+    return window && !window->isModal() && !QApplication::activeModalWidget();
 }
 
 } // namespace
@@ -129,12 +42,16 @@ void EntryGuard::remove(QAbstractSpinBox *box)
     EntryGuard *const guard = of(box);
     if (!guard)
         return;
-    guard->drop();
-    guard->withdrawLimits();
-    guard->handBackReading();
-    if (box->focusPolicy() == Qt::StrongFocus)
-        box->setFocusPolicy(guard->m_formerPolicy);
+    guard->release();
     delete guard;
+}
+
+void EntryGuard::setInstalled(QAbstractSpinBox *box, bool installed)
+{
+    if (installed)
+        install(box);
+    else
+        remove(box);
 }
 
 EntryGuard::EntryGuard(QAbstractSpinBox *box, std::unique_ptr<GuardedField> field)
@@ -143,59 +60,51 @@ EntryGuard::EntryGuard(QAbstractSpinBox *box, std::unique_ptr<GuardedField> fiel
     , m_edit(box->findChild<QLineEdit *>(QString(), Qt::FindDirectChildrenOnly))
     , m_field(std::move(field))
     , m_formerPolicy(box->focusPolicy())
+    , m_block(m_edit, *m_field)
+    , m_limits(box)
 {
-    if (!readsByItself(box))
-        takeOverReading();
+    if (PlainReading::isNeededBy(box))
+        m_plainReading.emplace(box, m_edit);
     box->setFocusPolicy(Qt::StrongFocus); // the wheel gives no focus
     box->installEventFilter(this);
     m_edit->installEventFilter(this);
-    m_hadSelection = m_edit->hasSelectedText();
     connect(m_edit, &QLineEdit::textEdited, this, &EntryGuard::onTextEdited);
     connect(m_edit, &QLineEdit::inputRejected, this, &EntryGuard::onInputRejected);
-    // Of an edit this comes last: what it says before is what was selected when the edit began.
-    connect(m_edit, &QLineEdit::selectionChanged, this, [this] { m_hadSelection = m_edit->hasSelectedText(); });
+    connect(m_edit, &QLineEdit::selectionChanged, this, [this] { m_block.followSelection(); });
     m_field->whenChanged(this, [this] { onValueChanged(); });
 }
 
 EntryGuard::~EntryGuard() = default;
 
-void EntryGuard::takeOverReading()
+/** Leaves the box as it was found. Not called when the box itself goes. */
+void EntryGuard::release()
 {
-    m_formerValidator = m_edit->validator();
-    m_validator = new PlainBoxValidator(m_box);
-    m_edit->setValidator(m_validator);
-    m_hadTracking = m_box->keyboardTracking();
-    m_box->setKeyboardTracking(false);
-}
-
-void EntryGuard::handBackReading()
-{
-    if (!m_validator)
-        return;
-    if (m_edit && m_edit->validator() == m_validator)
-        m_edit->setValidator(m_formerValidator);
-    delete m_validator;
-    m_box->setKeyboardTracking(m_hadTracking);
+    drop();
+    m_limits.hide();
+    if (m_plainReading)
+        m_plainReading->handBack();
+    if (m_box->focusPolicy() == Qt::StrongFocus)
+        m_box->setFocusPolicy(m_formerPolicy);
 }
 
 bool EntryGuard::isTouched() const
 {
-    // A text that is not the typed one was put there by the program.
+    // A text other than the typed one was set by the program.
     return m_isTouched && m_edit && m_edit->text() == m_typedText;
 }
 
 bool EntryGuard::commit()
 {
-    if (m_isBlocked || !isTouched())
+    if (isBlocked() || !isTouched())
         return false;
     const GuardedField::Entry entry = m_field->entry();
     if (entry != GuardedField::Entry::Number) {
         drop();
         if (entry == GuardedField::Entry::NoNumber)
-            tellLimits();
+            showLimits();
         return false;
     }
-    withdrawLimits();
+    m_limits.hide();
     m_isTouched = false;
     m_typedText.clear();
     const QPointer<EntryGuard> alive(this);
@@ -209,70 +118,44 @@ void EntryGuard::drop()
     if (!hasEntry())
         return;
     m_isTouched = false;
-    m_isBlocked = false;
-    withdrawLimits();
+    m_block.lift();
+    m_limits.hide();
     m_field->restore();
 }
 
 bool EntryGuard::eventFilter(QObject *watched, QEvent *event)
 {
-    // Events come until the end, when what is left of the box or of its line edit is but a widget.
+    // Events come until the end, when only the QWidget is left of the box or of its line edit.
     const bool isWhole =
         watched == m_box ? bool(qobject_cast<QAbstractSpinBox *>(watched)) : watched->inherits("QLineEdit");
     if (!isWhole || !m_edit)
         return false;
-    if (isInput(event->type()))
-        m_textBefore = m_edit->text();
     if (watched == m_box)
         return filterBox(event);
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseMove:
-        m_hasNewSelection = true;
-        m_isRefusalOfNumber = true;
-        break;
-    default:
-        break;
-    }
+    m_block.followEdit(*event);
     return false;
 }
 
 bool EntryGuard::filterBox(QEvent *event)
 {
+    m_block.followBox(*event);
     switch (event->type()) {
     case QEvent::ShortcutOverride:
-        if (static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape || !hasEntry())
-            return false;
-        event->accept();
-        return true;
+        return filterShortcut(static_cast<QKeyEvent *>(event));
     case QEvent::KeyPress:
         return filterKey(static_cast<QKeyEvent *>(event));
-    case QEvent::InputMethod:
-    case QEvent::ContextMenu: // its commands may follow
-        m_isRefusalOfNumber = true;
-        m_hasNewSelection = m_hasNewSelection || event->type() == QEvent::ContextMenu;
-        return false;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
         beforeStep();
         return false;
     case QEvent::Wheel:
-        if (m_box->hasFocus()) {
-            beforeStep();
-            return false;
-        }
-        event->ignore();
-        return true;
+        return filterWheel(event);
     case QEvent::FocusOut:
         return filterFocusOut(static_cast<QFocusEvent *>(event));
     case QEvent::ActivationChange:
         return filterDeactivation();
     case QEvent::Hide:
-        if (event->spontaneous())
-            return hasEntry(); // the box is still there when its window comes back
-        drop();
-        return false;
+        return filterHide(event);
     case QEvent::EnabledChange:
         if (!m_box->isEnabled())
             drop();
@@ -290,16 +173,22 @@ bool EntryGuard::filterBox(QEvent *event)
     }
 }
 
+/** Escape belongs to an entry before it belongs to a shortcut of the window. */
+bool EntryGuard::filterShortcut(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Escape || !hasEntry())
+        return false;
+    event->accept();
+    return true;
+}
+
 bool EntryGuard::filterKey(QKeyEvent *event)
 {
-    if (isReturn(event))
+    if (Keys::isReturn(*event))
         return filterReturn(event);
-    if (event->key() == Qt::Key_Escape) {
-        const bool restores = hasEntry();
-        drop();
-        return restores;
-    }
-    if (isStep(event))
+    if (event->key() == Qt::Key_Escape)
+        return filterEscape();
+    if (Keys::isStep(*event))
         beforeStep();
     return filterTyping(event);
 }
@@ -307,12 +196,12 @@ bool EntryGuard::filterKey(QKeyEvent *event)
 bool EntryGuard::filterReturn(QKeyEvent *event)
 {
     event->accept();
-    if (m_isBlocked) {
-        tellLimits();
+    if (isBlocked()) {
+        showLimits();
         return true;
     }
     event->setAccepted(isTouched());
-    // What keyboard tracking has committed may stand there in another form than the value's.
+    // A text that keyboard tracking has committed may have another form than the value's.
     if (!isTouched() && m_edit->text() == m_typedText)
         m_field->restore();
     const QPointer<EntryGuard> alive(this);
@@ -327,63 +216,40 @@ bool EntryGuard::filterReturn(QKeyEvent *event)
     return true;
 }
 
+bool EntryGuard::filterEscape()
+{
+    const bool restores = hasEntry();
+    drop();
+    return restores;
+}
+
 bool EntryGuard::filterTyping(QKeyEvent *event)
 {
     m_isAnnounced = false;
-    m_isRefusalOfNumber = concernsNumber(event);
-    m_isUndoing = event->matches(QKeySequence::Undo) || event->matches(QKeySequence::Redo);
-    m_hasNewSelection = m_hasNewSelection || isSelecting(event);
-    const bool inserts = isCharacter(event) || event->matches(QKeySequence::Paste);
-    const bool replaces = m_hasNewSelection && m_edit->hasSelectedText();
-    if (!m_isBlocked || !inserts || replaces)
+    m_block.followKey(*event);
+    if (!m_block.refuses(*event))
         return false;
-    tellLimits();
+    showLimits();
     event->accept();
     return true;
 }
 
-/** What is not in the key, such as a text to be pasted, is taken for a number. */
-bool EntryGuard::concernsNumber(const QKeyEvent *event) const
+bool EntryGuard::filterWheel(QEvent *event)
 {
-    const int cursor = m_edit->cursorPosition();
-    if (isDeletion(event) && !m_edit->hasSelectedText())
-        return event->key() == Qt::Key_Backspace ? cursor > m_field->numberStart() : cursor < m_field->numberEnd();
-    if (!isCharacter(event))
-        return true;
-    const QString text = event->text();
-    return std::any_of(text.begin(), text.end(), [this](QChar c) { return isOfNumber(c); });
+    if (m_box->hasFocus()) {
+        beforeStep();
+        return false;
+    }
+    event->ignore();
+    return true;
 }
 
-/** A digit, a sign or what is a decimal sign or a group separator anywhere. */
-bool EntryGuard::isOfNumber(QChar c) const
+bool EntryGuard::filterHide(const QEvent *event)
 {
-    constexpr QChar minusSign(0x2212);
-    constexpr QChar arabicDecimalSign(0x066b);
-    constexpr QChar arabicSeparator(0x066c);
-    if (c.isDigit() || c == minusSign || c == arabicDecimalSign || c == arabicSeparator)
-        return true;
-    const char ascii = c.toLower().toLatin1();
-    if (ascii == '+' || ascii == '-' || ascii == '.' || ascii == ',')
-        return true;
-    return (ascii >= 'a' && ascii - 'a' + 10 < m_field->base()) || (ascii == 'e' && m_field->hasExponent());
-}
-
-/** A step starts from the value where what stands in the box is not to be committed. */
-void EntryGuard::beforeStep()
-{
-    m_isRefusalOfNumber = true;
-    const bool isNumber = !m_validator && m_field->entry() == GuardedField::Entry::Number;
-    if (m_isBlocked || (isTouched() && !isNumber))
-        drop();
-}
-
-/** Who goes to a menu, a modal window or another program comes back to what was typed. */
-bool EntryGuard::isLeaving(Qt::FocusReason reason) const
-{
-    if (reason != Qt::ActiveWindowFocusReason)
-        return reason != Qt::PopupFocusReason;
-    const QWidget *const window = QApplication::activeWindow();
-    return window && !window->isModal() && !QApplication::activeModalWidget();
+    if (event->spontaneous()) // the window is minimized, and comes back with the entry
+        return hasEntry();
+    drop();
+    return false;
 }
 
 bool EntryGuard::filterFocusOut(QFocusEvent *event)
@@ -394,13 +260,13 @@ bool EntryGuard::filterFocusOut(QFocusEvent *event)
         leave();
         return false;
     }
-    // The box would commit; only its cursor has to rest.
+    // The box would commit; its line edit only has to hide the cursor.
     m_edit->event(event);
     m_box->update();
     return true;
 }
 
-/** Boxes commit when their window ceases to be the active one, too. */
+/** A box also commits when its window is no longer the active one. */
 bool EntryGuard::filterDeactivation()
 {
     if (m_box->isActiveWindow() || !hasEntry())
@@ -413,42 +279,46 @@ bool EntryGuard::filterDeactivation()
     return true;
 }
 
+/** A step starts from the value unless the box shows a number that can be committed. */
+void EntryGuard::beforeStep()
+{
+    m_block.expectNumber();
+    const bool isNumber = !m_plainReading && m_field->entry() == GuardedField::Entry::Number;
+    if (isBlocked() || (isTouched() && !isNumber))
+        drop();
+}
+
 void EntryGuard::leave()
 {
-    const bool isEntry = !m_isBlocked && m_box->isEnabled() && m_field->commitsOnLeaving();
-    if (!isEntry || m_field->entry() == GuardedField::Entry::Nothing) {
-        drop();
-    } else if (m_field->entry() == GuardedField::Entry::Number) {
+    const bool mayCommit = !isBlocked() && m_box->isEnabled() && m_field->commitsOnLeaving();
+    const GuardedField::Entry entry = m_field->entry();
+    if (mayCommit && entry == GuardedField::Entry::Number) {
         commit();
-    } else {
-        drop();
-        // A tool tip does not outlive a change of the focus.
+        return;
+    }
+    drop();
+    if (mayCommit && entry == GuardedField::Entry::NoNumber) {
+        // Queued: a tool tip does not outlive a change of the focus.
         QMetaObject::invokeMethod(
-            this, [this] { tellLimits(); }, Qt::QueuedConnection);
+            this, [this] { showLimits(); }, Qt::QueuedConnection);
     }
 }
 
 void EntryGuard::onTextEdited(const QString &text)
 {
-    const bool isPutRight = m_isUndoing || (m_hadSelection && m_hasNewSelection) || isShortened(m_textBefore, text);
-    m_typedText = m_textBefore = text;
+    m_typedText = text;
     m_isTouched = !m_isAnnounced;
-    if (m_isBlocked && !isPutRight)
-        return;
-    m_isBlocked = false;
-    withdrawLimits();
+    if (m_block.textEdited(text))
+        m_limits.hide();
 }
 
 void EntryGuard::onInputRejected()
 {
-    if (!m_isRefusalOfNumber || m_box->isReadOnly())
-        return;
-    m_isBlocked = true;
-    m_hasNewSelection = false;
-    tellLimits();
+    if (m_block.inputRejected())
+        showLimits();
 }
 
-/** The value that comes of the typing is told before or after that itself. */
+/** The value that a tracked key leads to is announced before or after textEdited(), depending on the class. */
 void EntryGuard::onValueChanged()
 {
     m_isTouched = false;
@@ -459,27 +329,7 @@ void EntryGuard::onValueChanged()
         this, [this] { m_isAnnounced = false; }, Qt::QueuedConnection);
 }
 
-void EntryGuard::tellLimits()
+void EntryGuard::showLimits()
 {
-    if (!m_box->isVisible() || m_box->window()->isMinimized())
-        return;
-    const QString text = tr("Enter a number from %1 to %2.").arg(m_field->minimumText(), m_field->maximumText());
-    if (m_toldText.isEmpty())
-        m_formerDescription = m_box->accessibleDescription();
-    m_toldText = text;
-    m_box->setAccessibleDescription(text);
-    QAccessibleEvent alert(m_box, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
-    QToolTip::showText(m_box->mapToGlobal(QPoint(0, m_box->height())), asPlainText(text), m_box);
-}
-
-void EntryGuard::withdrawLimits()
-{
-    if (m_toldText.isEmpty())
-        return;
-    const QString text = std::exchange(m_toldText, QString());
-    if (m_box->accessibleDescription() == text)
-        m_box->setAccessibleDescription(m_formerDescription);
-    if (QToolTip::text() == asPlainText(text))
-        QToolTip::hideText();
+    m_limits.show(tr("Enter a number from %1 to %2.").arg(m_field->minimumText(), m_field->maximumText()));
 }

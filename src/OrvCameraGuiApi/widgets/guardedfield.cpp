@@ -12,7 +12,7 @@
 
 namespace {
 
-/** Reaches the text of a number, which is protected in one of the classes. */
+/** Gives access to textFromValue(), which is protected in QSpinBox. */
 struct SpinBoxText : QSpinBox
 {
     static QString of(const QSpinBox &box, int value) { return (box.*&SpinBoxText::textFromValue)(value); }
@@ -23,7 +23,7 @@ QString numberText(const QSpinBox &box, int value)
     return SpinBoxText::of(box, value);
 }
 
-/** A bound that stands for none has hundreds of digits. */
+/** Short also for the largest doubles, which stand for "no bound" and have hundreds of digits. */
 QString numberText(const QDoubleSpinBox &box, double value)
 {
     constexpr int longest = 24; // characters
@@ -41,7 +41,7 @@ int baseOf(const QDoubleSpinBox &)
     return 10;
 }
 
-/** \a Base is the class of Qt and \a Own the library's, which snaps what it sets. */
+/** \a Base is a class of Qt, \a Own the class derived from it here, whose setValue() snaps. */
 template <typename Base, typename Own, typename Number>
 class SpinBoxField : public GuardedField
 {
@@ -64,14 +64,12 @@ public:
     bool commit() override
     {
         const std::optional<Number> number = NumberText::typedNumber(*m_box);
-        bool isAnnounced = false;
-        QObject context;
-        whenChanged(&context, [&isAnnounced] { isAnnounced = true; });
-        if (number && m_own)
-            m_own->setValue(*number);
-        else if (number)
-            m_box->setValue(*number);
-        return isAnnounced;
+        return isAnnouncedBy([&] {
+            if (number && m_own)
+                m_own->setValue(*number);
+            else if (number)
+                m_box->setValue(*number);
+        });
     }
 
     void restore() override { m_box->Base::setValue(m_box->value()); }
@@ -97,10 +95,19 @@ private:
 
 } // namespace
 
+bool GuardedField::isAnnouncedBy(const std::function<void()> &commit) const
+{
+    bool isAnnounced = false;
+    QObject context;
+    whenChanged(&context, [&isAnnounced] { isAnnounced = true; });
+    commit();
+    return isAnnounced;
+}
+
 std::unique_ptr<GuardedField> makeGuardedField(QAbstractSpinBox *box)
 {
-    if (auto *const wholes = qobject_cast<QSpinBox *>(box))
-        return std::make_unique<SpinBoxField<QSpinBox, QtOrvSpinBoxVal, int>>(wholes);
+    if (auto *const integers = qobject_cast<QSpinBox *>(box))
+        return std::make_unique<SpinBoxField<QSpinBox, QtOrvSpinBoxVal, int>>(integers);
     if (auto *const doubles = qobject_cast<QDoubleSpinBox *>(box))
         return std::make_unique<SpinBoxField<QDoubleSpinBox, QtOrvDoubleSpinBoxVal, double>>(doubles);
     auto *const wide = qobject_cast<QtOrvSpinBoxVal64 *>(box);

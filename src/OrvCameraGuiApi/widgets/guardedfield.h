@@ -9,19 +9,19 @@ class QAbstractSpinBox;
 class QObject;
 class QtOrvSpinBoxVal64;
 
-/** A spin box for numbers as its EntryGuard sees it, whatever its class; it outlives this object. */
+/** A spin box for numbers as its EntryGuard sees it, whatever its class. The box outlives this object. */
 class GuardedField
 {
 public:
-    enum class Entry { Nothing, NoNumber, Number }; ///< a number is one in the range
+    enum class Entry { Nothing, NoNumber, Number }; ///< a Number lies in the range
 
     GuardedField() = default;
     virtual ~GuardedField() = default;
     Q_DISABLE_COPY(GuardedField)
 
-    /** What stands in the box. */
+    /** The kind of text that the box shows. */
     virtual Entry entry() const = 0;
-    /** Commits what stands in the box, which is a number. Whether valueChanged() told of it. */
+    /** Commits the Number that the box shows. Returns whether valueChanged() was emitted. */
     virtual bool commit() = 0;
     /** Shows the value. */
     virtual void restore() = 0;
@@ -38,12 +38,16 @@ public:
     virtual QString minimumText() const = 0;
     virtual QString maximumText() const = 0;
     /** @} */
-    /** Calls \a slot, as long as \a context lives, when the value changes. */
+    /** Calls \a slot whenever the value changes, as long as \a context lives. */
     virtual void whenChanged(QObject *context, const std::function<void()> &slot) const = 0;
+
+protected:
+    /** Whether the value changes during \a commit. */
+    bool isAnnouncedBy(const std::function<void()> &commit) const;
 };
 
-/** The field for \a box by its class; null for one that has no number. */
+/** The field for \a box; null if the class of the box has no number. */
 std::unique_ptr<GuardedField> makeGuardedField(QAbstractSpinBox *box);
 
-/** For the class that alone can put its text right. */
+/** For the class whose private part shows and reads the text. */
 std::unique_ptr<GuardedField> makeGuardedField(QtOrvSpinBoxVal64 *box);

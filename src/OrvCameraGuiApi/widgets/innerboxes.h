@@ -1,15 +1,18 @@
 #pragma once
 
+#include <OrvCameraGuiApi/widgets/keys.h>
 #include <OrvCameraGuiApi/widgets/numbertext.h>
 #include <OrvCameraGuiApi/widgets/qtorvdoublespinboxval.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
 
 #include <QKeyEvent>
 
+#include <optional>
+
 /**
  * The spin box of a composite, made of \a Box. With validate(), a typed number counts as the nearest one on the grid
- * while it is being typed, and becomes that on show when the typing ends; what a program sets through the base class
- * stays as it is. Without validateTyping(), Return reads a typed number beside prefix and suffix, too.
+ * while it is typed, and is shown so when the typing ends. A number off the grid that a program sets through the base
+ * class stays. Without validateTyping(), Return also reads a number that stands between prefix and suffix.
  */
 template <typename Box, typename Number>
 class InnerBox : public Box
@@ -26,22 +29,27 @@ public:
 protected:
     void keyPressEvent(QKeyEvent *event) override
     {
-        const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-        const bool hasAffixes = !this->prefix().isEmpty() || !this->suffix().isEmpty();
-        const bool hasGrid = this->singleStep() != Number(0); // without one the base class is asked, as ever
-        if (isReturn && hasAffixes && hasGrid && !this->validateTyping() && !this->isReadOnly()) {
-            const std::optional<Number> number = NumberText::typedNumber(*this);
-            if (number) {
-                if (isTouched(this->text()))
-                    this->setValue(*number);
-                event->accept();
-                return;
-            }
+        const std::optional<Number> number = numberToEnter(*event);
+        if (!number) {
+            Box::keyPressEvent(event);
+            return;
         }
-        Box::keyPressEvent(event);
+        if (isTouched(this->text()))
+            this->setValue(*number);
+        event->accept();
     }
 
 private:
+    /** None where the base class is to decide: that reads a text without affixes itself, and any text without a grid.
+     */
+    std::optional<Number> numberToEnter(const QKeyEvent &event) const
+    {
+        const bool hasAffixes = !this->prefix().isEmpty() || !this->suffix().isEmpty();
+        const bool hasGrid = this->singleStep() != Number(0);
+        const bool isEntry = Keys::isReturn(event) && !this->validateTyping() && !this->isReadOnly();
+        return isEntry && hasAffixes && hasGrid ? NumberText::typedNumber(*this) : std::nullopt;
+    }
+
     bool isTouched(const QString &text) const
     {
         return text != this->prefix() + this->textFromValue(this->value()) + this->suffix();

@@ -1,17 +1,13 @@
 #include <OrvCameraGuiApi/widgets/int64validator.h>
 
+#include <OrvCameraGuiApi/widgets/integers.h>
 #include <OrvCameraGuiApi/widgets/numbertext.h>
 
 #include <QLocale>
 
-#include <limits>
-
 namespace {
 
-constexpr long long Smallest = std::numeric_limits<long long>::min();
-constexpr long long Largest = std::numeric_limits<long long>::max();
-
-/** A single separator that does not cut off a group: it could be meant for a decimal sign. */
+/** Whether the only separator does not cut off a group: it may be meant as a decimal sign. */
 bool isAmbiguous(const QString &text, const QLocale &locale)
 {
     constexpr int group = 3; // digits
@@ -25,7 +21,7 @@ bool isAmbiguous(const QString &text, const QLocale &locale)
 } // namespace
 
 Int64Validator::Int64Validator(QObject *parent)
-    : Int64Validator(Smallest, Largest, parent)
+    : Int64Validator(Integers::Smallest64, Integers::Largest64, parent)
 {
 }
 
@@ -125,6 +121,6 @@ QValidator::State Int64Validator::judgeInNegativeRange(long long number) const
 {
     if (number <= m_top)
         return number < m_bottom ? Invalid : Acceptable;
-    // The smallest 64-bit integer has no positive counterpart; every number lies below the one it would have.
-    return m_bottom == Smallest || number <= -m_bottom ? Intermediate : Invalid;
+    // The smallest 64-bit integer has no positive counterpart; every number is less than that would be.
+    return m_bottom == Integers::Smallest64 || number <= -m_bottom ? Intermediate : Invalid;
 }

@@ -8,14 +8,14 @@
 /**
  * Checks that a text is a signed 64-bit integer within a range, and reads it.
  *
- * The verdicts let a person type towards a number of the range: what can still become one is Intermediate. The range is
- * taken as it is given, also when the bottom lies above the top (then no number is Acceptable).
+ * The verdicts let a person type towards a number of the range: a text that can still become one is Intermediate. The
+ * range is taken as given. With the bottom above the top no number is Acceptable.
  *
- * In base 10 a text may be written plainly or as locale() shows numbers, with its digits, its minus sign and its group
- * separators. Where the separators stand matters only for a locale that does not itself write any
- * (QLocale::OmitGroupSeparator): text with separators is being edited otherwise, and they fall in place later.
+ * In base 10 a text may be written plainly or as locale() writes numbers, with its digits, minus sign and group
+ * separators. A locale that writes group separators (one without QLocale::OmitGroupSeparator) allows several of them
+ * anywhere: the text is being edited, and they fall in place later.
  *
- * GUI thread only, like every QValidator that a widget uses.
+ * GUI thread only, like every QValidator of a widget.
  */
 class ORV_CAMERAGUIAPI_EXPORT Int64Validator : public QValidator
 {
@@ -42,14 +42,15 @@ public:
 
     /** 2 to 36; 10 by default. */
     int base() const;
-    /** Sets the base of the text, without a signal. A base outside 2 to 36 is ignored: the former one stays. */
+    /** Sets the base of the text, without a signal. A base outside 2 to 36 is ignored. */
     void setBase(int base);
 
     /**
      * The verdict on \a text; neither \a text nor \a pos is changed.
      *
-     * No text is Intermediate; so is a lone minus sign where the bottom is negative. What is no 64-bit integer in the
-     * base is Invalid. The rest depends on the signs of the bounds, and is not the same at both ends, intentionally:
+     * An empty text is Intermediate; so is a lone minus sign if the bottom is negative. A text that is no 64-bit
+     * integer in the base is Invalid. A number is judged by the signs of the bounds, differently at the two ends,
+     * intentionally:
      *
      * | range            | below the bottom                    | above the top                                   |
      * | ---------------- | ----------------------------------- | ----------------------------------------------- |
@@ -60,8 +61,8 @@ public:
     State validate(QString &text, int &pos) const override;
 
     /**
-     * The number that \a text stands for in this base and locale, whatever the range; 0 when it stands for none.
-     * \a ok, when given, tells which.
+     * The number that \a text stands for in this base and locale, whatever the range; 0 if none. \a ok, when given,
+     * tells the two apart.
      */
     long long toInt64(const QString &text, bool *ok = nullptr) const;
 

@@ -3,8 +3,8 @@
 #include <QComboBox>
 
 /**
- * A combo box that assistive tools meet by what it is called, the accessible name or that of the label whose buddy it
- * is, on every platform. On X11 a QComboBox calls itself by the item that it shows; that is here its value and text.
+ * A combo box with the same accessible name on every platform: its own, or that of the label whose buddy it is. On X11
+ * a QComboBox gives the current item as its name; here the item is the value and the text.
  */
 class NamedComboBox : public QComboBox
 {

@@ -1,10 +1,11 @@
 #include <OrvCameraGuiApi/widgets/numbertext.h>
 
+#include <OrvCameraGuiApi/widgets/integers.h>
+
 #include <QDoubleSpinBox>
 #include <QSpinBox>
 
 #include <cmath>
-#include <limits>
 
 namespace {
 
@@ -25,7 +26,7 @@ bool isDecimalSign(QChar c, const QLocale &locale)
     return c == QLatin1Char('.') || c == locale.decimalPoint();
 }
 
-/** \a c in the plain notation if it is a digit or a sign of \a locale; separators stay what they are. */
+/** \a c in ASCII if it is a digit or a sign of \a locale; separators stay as they are. */
 QChar plain(QChar c, const QLocale &locale)
 {
     const int digit = c.unicode() - locale.zeroDigit().unicode();
@@ -44,7 +45,7 @@ QString plain(const QString &text, const QLocale &locale)
     return result;
 }
 
-/** Nothing but digits, signs and exponents is read: no words for what is not a finite number. */
+/** Reads digits, signs and exponents only: QString::toDouble() alone would take "inf" and "nan". */
 std::optional<double> plainDouble(const QString &text)
 {
     for (const QChar c : text) {
@@ -62,7 +63,7 @@ int digitsBehindPoint(const QString &text, QChar point)
     return place < 0 ? 0 : text.size() - place - 1;
 }
 
-/** \a text with the decimal sign of the locale made plain; none when it has a point that cannot be that sign. */
+/** Reads the decimal sign of the locale. A point is refused in a locale that has another sign. */
 std::optional<double> localDouble(QString text, const QLocale &locale)
 {
     const QChar point = locale.decimalPoint();
@@ -71,7 +72,7 @@ std::optional<double> localDouble(QString text, const QLocale &locale)
     return plainDouble(text.replace(point, QLatin1Char('.')));
 }
 
-/** With groups where the locale would put them. */
+/** Reads group separators that stand where the locale puts them. */
 std::optional<double> groupedDouble(const QString &text, const QLocale &locale)
 {
     QLocale strict = locale;
@@ -96,7 +97,7 @@ bool isSpecial(const Box &box, const QString &text)
     return !box.specialValueText().isEmpty() && text == box.specialValueText();
 }
 
-/** A sign is no beginning where no number of the range has it. */
+/** The verdict on a beginning. A sign is Invalid if no number of the range has it. */
 template <typename Box>
 QValidator::State judgeUnfinished(const Box &box, const QString &number, const QLocale &locale, bool mayBeNegative)
 {
@@ -105,6 +106,7 @@ QValidator::State judgeUnfinished(const Box &box, const QString &number, const Q
     return isForbidden || box.minimum() == box.maximum() ? QValidator::Invalid : QValidator::Intermediate;
 }
 
+/** The verdict on a number. It is Intermediate if more digits may bring it into the range. */
 template <typename Box, typename Number>
 QValidator::State judgeNumber(const Box &box, Number number)
 {
@@ -114,7 +116,7 @@ QValidator::State judgeNumber(const Box &box, Number number)
     return isTooFar || box.minimum() == box.maximum() ? QValidator::Invalid : QValidator::Intermediate;
 }
 
-/** As the base class does: what stood outside the affixes is inside now, and \a pos moves along. */
+/** Puts prefix and suffix back around the number in \a text, as the base class does; \a pos moves along. */
 template <typename Box>
 QString takeNumber(const Box &box, QString &text, int &pos)
 {
@@ -129,7 +131,7 @@ QString takeNumber(const Box &box, QString &text, int &pos)
     return number;
 }
 
-/** A decimal sign typed where one stands already only moves the cursor behind it. */
+/** A decimal sign typed before the decimal sign only moves the cursor behind it. */
 void mergeDecimalSigns(const QDoubleSpinBox &box, const QLocale &locale, QString &text, int pos)
 {
     const int first = box.prefix().size();
@@ -175,15 +177,19 @@ std::optional<qint64> NumberText::toInteger(const QString &text, const QLocale &
 std::optional<double> NumberText::toDouble(const QString &text, const QLocale &locale, int decimals)
 {
     const QString number = plain(text, locale);
-    const bool isGrouped = hasGroups(locale) && digitsBehindPoint(number, QLatin1Char('.')) > decimals;
-    std::optional<double> result = isGrouped ? std::nullopt : plainDouble(number);
+    // So many digits follow no decimal point, so the point is a group separator.
+    const bool isPointOfGroups = hasGroups(locale) && digitsBehindPoint(number, QLatin1Char('.')) > decimals;
+    std::optional<double> result;
+    if (!isPointOfGroups)
+        result = plainDouble(number);
     if (!result)
         result = localDouble(number, locale);
-    if (!result && hasGroups(locale)) {
-        result = groupedDouble(text, locale);
-        if (!result && (isGrouped || number.contains(locale.decimalPoint())))
-            result = localDouble(QString(number).remove(locale.groupSeparator()), locale); // being edited
-    }
+    if (result || !hasGroups(locale))
+        return result;
+    result = groupedDouble(text, locale);
+    const bool isBeingEdited = isPointOfGroups || number.contains(locale.decimalPoint());
+    if (!result && isBeingEdited) // the separators fall in place with the next commit
+        result = localDouble(QString(number).remove(locale.groupSeparator()), locale);
     return result;
 }
 
@@ -216,10 +222,8 @@ std::optional<int> NumberText::typedNumber(const QSpinBox &box, const QString &t
 {
     if (isSpecial(box, text))
         return box.minimum();
-    using Limits = std::numeric_limits<int>;
     const auto number = toInteger(numberPart(box, text), localeOf(box), box.displayIntegerBase());
-    const bool fits = number && *number >= Limits::min() && *number <= Limits::max();
-    return fits ? std::optional<int>(int(*number)) : std::nullopt;
+    return number && Integers::fitsInt(*number) ? std::optional<int>(int(*number)) : std::nullopt;
 }
 
 std::optional<double> NumberText::typedNumber(const QDoubleSpinBox &box, const QString &text)
@@ -244,7 +248,7 @@ QValidator::State NumberText::judge(const QSpinBox &box, QString &text, int &pos
     if (isUnfinished(number, locale))
         return judgeUnfinished(box, number, locale, box.minimum() < 0);
     const auto typed = toInteger(number, locale, box.displayIntegerBase());
-    // A minus sign is refused before a zero, too.
+    // Also "-0" is Invalid where no number is negative.
     if (!typed || (isNegative(number, locale) && box.minimum() >= 0))
         return QValidator::Invalid;
     return judgeNumber(box, *typed);

@@ -11,54 +11,54 @@ class QDoubleSpinBox;
 class QSpinBox;
 
 /**
- * How the fields for numbers read what a person types. A number may be written plainly, with a point, or as the field's
- * locale writes it, with its digits and signs; where both could be meant, the plain reading goes first. Group
- * separators are refused unless the field shows them: a 1.5 that is taken for 15 would be another number.
+ * How all fields for numbers read typed text. A person may write a number plainly, in ASCII with a point, or as the
+ * locale of the field writes it. The plain reading goes first where both are possible. Group separators are refused
+ * unless the field shows them, because a 1.5 read as 15 is another number.
  */
 namespace NumberText {
 
-/** The locale that \a box writes its number in; it omits group separators unless the box shows them. */
+/** The locale in which \a box writes its number. It omits group separators unless the box shows them. */
 QLocale localeOf(const QAbstractSpinBox &box);
 
-/** Whether \a locale writes group separators, which then may be typed, too. */
+/** Whether \a locale writes group separators, so that they may be typed. */
 bool hasGroups(const QLocale &locale);
 
-/** The whole of \a text as an integer; none when it is anything else. Only base 10 knows locales. */
+/** The integer that all of \a text stands for, if any. Only base 10 is read by the locale. */
 std::optional<qint64> toInteger(const QString &text, const QLocale &locale, int base = 10);
 
 /**
- * The whole of \a text as a finite number; none when it is anything else. A text with more than \a decimals digits
- * behind a point is not plain where groups are shown.
+ * The finite number that all of \a text stands for, if any. Where groups are shown, a point followed by more than
+ * \a decimals digits is a group separator.
  */
 std::optional<double> toDouble(const QString &text, const QLocale &locale, int decimals);
 
-/** Whether \a text, which is no number yet, can become one: nothing, a sign, or with \a decimals a decimal sign. */
+/** Whether \a text is the beginning of a number: empty, a sign or, with \a decimals, a decimal sign. */
 bool isUnfinished(const QString &text, const QLocale &locale, int decimals = 0);
 
-/** Whether \a text begins with any minus sign. */
+/** Whether \a text begins with a minus sign, plain or local. */
 bool isNegative(const QString &text, const QLocale &locale);
 
-/** The text that \a box shows or \a text, without prefix and suffix and the blanks around the number. @{ */
+/** \a text without prefix and suffix and without the blanks around the number. @{ */
 QString numberPart(const QSpinBox &box, const QString &text);
 QString numberPart(const QDoubleSpinBox &box, const QString &text);
 /** @} */
 
 /**
- * The number in \a text, which has prefix and suffix; none when it is no number or an unfinished one. The special value
- * text is the minimum. The range is not looked at. @{
+ * The number in \a text between prefix and suffix, if any, whatever the range. The special value text stands for the
+ * minimum. @{
  */
 std::optional<int> typedNumber(const QSpinBox &box, const QString &text);
 std::optional<double> typedNumber(const QDoubleSpinBox &box, const QString &text);
 /** @} */
 
-/** The same for what \a box shows now. @{ */
+/** The same for the text on show. @{ */
 std::optional<int> typedNumber(const QSpinBox &box);
 std::optional<double> typedNumber(const QDoubleSpinBox &box);
 /** @} */
 
 /**
- * What validate() of the base class answers, but read as above: it judges by the range, and puts prefix and suffix back
- * where an edit has taken them away as a whole. @{
+ * The verdict of the base class's validate(), for the text read as above: judges by the range, and puts back prefix and
+ * suffix that an edit has taken away. @{
  */
 QValidator::State judge(const QSpinBox &box, QString &text, int &pos);
 QValidator::State judge(const QDoubleSpinBox &box, QString &text, int &pos);

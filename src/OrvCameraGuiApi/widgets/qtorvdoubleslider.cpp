@@ -23,9 +23,9 @@ public:
     QtOrvDoubleSlider *const q;
     SliderParts parts;
     int decimals = 3;
-    int labelDecimals = 3; ///< those of the time when the range was set
+    int labelDecimals = 3; ///< the decimals when the range was last set
     DoubleScale scale;
-    bool settling = false; ///< the inner slider moves on the way to a value that is announced later, if at all
+    bool settling = false; ///< the inner slider moves; the value is announced later, if at all
 };
 
 QtOrvDoubleSliderPrivate::QtOrvDoubleSliderPrivate(QtOrvDoubleSlider *owner, Qt::Orientation orientation)
@@ -43,7 +43,7 @@ void QtOrvDoubleSliderPrivate::init()
     q->setRange(0.0, 100.0);
 }
 
-/** Takes \a changed and puts the value back, so that nobody is told of values that are only passed through. */
+/** Changes the scale and puts the value back. Values on the way are not announced. */
 void QtOrvDoubleSliderPrivate::rescale(const DoubleScale &changed)
 {
     const double kept = q->value();
@@ -71,7 +71,7 @@ void QtOrvDoubleSliderPrivate::showBounds()
     parts.setBounds(labelText(scale.minimum()), labelText(scale.maximum()));
 }
 
-/** Every other position is told, also one that snapping gives the same value. */
+/** Announces each new position, also one that snapping gives the same value. */
 void QtOrvDoubleSliderPrivate::positionChanged()
 {
     if (!settling)

@@ -10,19 +10,18 @@ class QSlider;
 class QtOrvDoubleSliderPrivate;
 
 /**
- * A slider for numbers between two labels that show its bounds: a position for every singleStep() from the minimum, and
- * the maximum on top, on the grid or off it.
+ * A slider for numbers between two labels that show its bounds. It has a position for every singleStep() from the
+ * minimum, and one for the maximum, on the grid or off it.
  *
  * valueChanged() is emitted whenever the slider comes to another position, and when a new range has changed the value.
- * sliderPressed(), sliderMoved(), sliderReleased() and rangeChanged() are as of a QSlider, except that sliderMoved()
- * carries the position of the inner slider, not a value. focusOut() tells that the inner slider, which has the focus in
- * place of this widget, has lost it; the inner slider itself never learns that.
+ * sliderPressed(), sliderMoved(), sliderReleased() and rangeChanged() are those of a QSlider, but sliderMoved() carries
+ * a position of the inner slider, not a value. focusOut() is emitted when the inner slider, which is the focus proxy of
+ * this widget, loses the focus; the inner slider itself does not see that event.
  *
- * The labels show the bounds as the widget's locale() writes them, without group separators. A page is a tenth of the
- * positions, unless the inner slider is given another page step.
+ * The labels show the bounds in the widget's locale(), without group separators. A page is a tenth of the positions
+ * unless the inner slider is given another page step.
  *
- * Assistive tools meet a slider that has "value", "minimum", "maximum" and "singleStep" of this widget and its
- * accessible name.
+ * Assistive tools find a slider with the value, bounds, step and accessible name of this widget.
  *
  * GUI thread only. Numbers have no unit. NaN and infinite bounds and steps are ignored everywhere. A slot may change
  * the slider but not delete it (QObject::deleteLater() does).
@@ -52,28 +51,28 @@ public:
 
     double minimum() const;
     double maximum() const;
-    /** Like setRange() with the other bound as it is. */
+    /** Like setRange() with the other bound unchanged. */
     void setMinimum(double minimum);
     void setMaximum(double maximum);
 
-    /** What the slider's position stands for, snapped with validate(). */
+    /** The value at the slider's position, snapped with validate(). */
     double value() const;
 
     /**
-     * The distance of two positions; 1 by default. Where there would be more positions than an int can count they lie
-     * further apart, evenly. The value is kept as well as the new positions can. A step of 0 or less is ignored.
+     * The distance of two positions, 1 by default; evenly more if an int could not count the positions. The value is
+     * kept as closely as the new positions allow. A step of 0 or less is ignored.
      */
     double singleStep() const;
     void setSingleStep(double step);
 
     /**
      * Whether values are snapped to minimum() + k * singleStep(); off by default. Minimum and maximum themselves stay,
-     * on the grid or off it. The switch neither moves the slider nor emits; value() shows it at once.
+     * on the grid or off it. The switch shows in value() at once, but moves no slider and emits nothing.
      */
     bool validate() const;
     void setValidate(bool validate);
 
-    /** Digits behind the point on the labels, 0 to 323; 3 by default. The labels take them up with the next range. */
+    /** Digits behind the point on the labels, 0 to 323; 3 by default. The labels use them from the next range on. */
     int decimals() const;
     void setDecimals(int decimals);
 
@@ -91,7 +90,7 @@ public:
     bool hasTracking() const;
     void setTracking(bool enable);
 
-    /** The parts, which stay this widget's. Moving or arranging them is this widget's business. */
+    /** The parts, which stay this widget's; only this widget moves or arranges them. */
     QLabel *maxLabel() const;
     QLabel *minLabel() const;
     QSlider *slider() const;
@@ -102,8 +101,8 @@ public Q_SLOTS:
     /** Moves to the position nearest to \a value, limited to the range. */
     void setValue(double value);
     /**
-     * Takes new bounds and keeps the value if it lies within, as well as the positions can. With \a maximum below
-     * \a minimum the minimum is the only value. Emits rangeChanged(), then valueChanged() if position or value changed.
+     * Sets new bounds, and keeps a value within them as closely as the positions allow. With \a maximum below \a
+     * minimum the minimum is the only value. Emits rangeChanged(), then valueChanged() if position or value changed.
      */
     void setRange(double minimum, double maximum);
 

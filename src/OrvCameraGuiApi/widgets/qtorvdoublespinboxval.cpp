@@ -27,10 +27,7 @@ bool QtOrvDoubleSpinBoxVal::isEntryGuarded() const
 
 void QtOrvDoubleSpinBoxVal::setEntryGuarded(bool guarded)
 {
-    if (guarded)
-        EntryGuard::install(this);
-    else
-        EntryGuard::remove(this);
+    EntryGuard::setInstalled(this, guarded);
 }
 
 void QtOrvDoubleSpinBoxVal::setLineEditText(const QString &text)
@@ -56,8 +53,7 @@ void QtOrvDoubleSpinBoxVal::fixup(QString &text) const
 
 double QtOrvDoubleSpinBoxVal::valueFromText(const QString &text) const
 {
-    const bool isUntouched = text == prefix() + textFromValue(value()) + suffix();
-    return isUntouched ? value() : BoxReading::valueFromText(*this, text);
+    return BoxReading::valueFromText(*this, text, prefix() + textFromValue(value()) + suffix());
 }
 
 void QtOrvDoubleSpinBoxVal::setValue(double value)
@@ -68,17 +64,8 @@ void QtOrvDoubleSpinBoxVal::setValue(double value)
 
 void QtOrvDoubleSpinBoxVal::keyPressEvent(QKeyEvent *event)
 {
-    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    const bool isWhole = prefix().isEmpty() && suffix().isEmpty();
-    if (isReturn && isWhole && !m_validateTyping && !isReadOnly() && singleStep() != 0) {
-        // What shows the value is that, also in another base.
-        const bool isUntouched = text() == textFromValue(value());
-        const std::optional<double> number = isUntouched ? value() : NumberText::typedNumber(*this);
-        if (number) {
-            setValue(*number);
-            event->accept();
-            return;
-        }
-    }
-    QDoubleSpinBox::keyPressEvent(event);
+    if (singleStep() != 0 && BoxReading::setTypedNumber(this, *event, textFromValue(value())))
+        event->accept();
+    else
+        QDoubleSpinBox::keyPressEvent(event);
 }

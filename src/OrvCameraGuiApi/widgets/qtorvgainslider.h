@@ -13,25 +13,10 @@ class QtOrvGainSliderPrivate;
 
 /**
  * A slider and a spin box side by side for one number with decimals, with an optional caption to the left and above.
+ * See QtOrvSliderSpinBox for the common contract of the composites.
  *
- * Both parts show one number: the spin box as it is, the slider at the nearest of its positions. Whoever moves the
- * slider sets the number to what that position stands for; setValue() and typing set it to any in the range, with
- * validate() to the nearest on the grid (a typed one is shown there when typing ends).
- * A new range moves a number only if it lies outside.
- *
- * Where decimals() show a bound rounded to a number beyond it, that end of the spin box stands for the bound itself:
- * value() and valueChanged() never leave the range.
- *
- * While the slider is dragged the spin box follows it, but valueChanged() waits for the release and is emitted once
- * then, also where nothing has changed: a handle that is let go where it was pressed leaves the number as it is. A drag
- * that ends because the slider is disabled is forgotten. Keys, wheel and clicks beside the handle are announced at
- * once.
- *
- * "&" before a letter of a caption makes a mnemonic that leads to the spin box. For assistive tools the accessible
- * name, else a caption, else the label whose buddy this widget is, names the spin box and, as its "... slider", the
- * slider. Tab goes from the spin box to the slider.
- *
- * GUI thread only. A slot on a signal may change this widget but not delete it (QObject::deleteLater() does).
+ * If decimals() round a bound to a number beyond it, that end of the spin box stands for the bound itself: value() and
+ * valueChanged() never leave the range.
  */
 class ORV_CAMERAGUIAPI_EXPORT QtOrvGainSlider : public QWidget
 {
@@ -63,11 +48,11 @@ public:
     void setMinimum(double minimum);
     void setMaximum(double maximum);
 
-    /** What a step adds; 1 by default. A step that is not greater than 0 or not finite is ignored. */
+    /** The size of a step; 1 by default. A step that is not finite, or not greater than 0, is ignored. */
     double singleStep() const;
     void setSingleStep(double step);
 
-    /** Digits behind the point, 0 to 323; 3 by default. The slider's labels take them up with the next range. */
+    /** Digits behind the point, 0 to 323; 3 by default. The labels of the slider use them from the next range on. */
     int decimals() const;
     void setDecimals(int decimals);
 
@@ -85,16 +70,16 @@ public:
     QString suffix() const;
     void setSuffix(const QString &suffix);
 
-    /** Caption before the parts; empty, and then not shown, by default. */
+    /** Caption to the left of the parts; hidden while empty, which it is by default. */
     QString leftLabelText() const;
     void setLeftLabelText(const QString &text);
-    /** Caption above the parts; empty, and then not shown, by default. */
+    /** Caption above the parts; hidden while empty, which it is by default. */
     QString topLabelText() const;
     void setTopLabelText(const QString &text);
 
     /**
-     * Whether the value is but shown: the spin box is read-only then, and the slider disabled. What a drag that this
-     * ends has come to is forgotten.
+     * Whether the value is read-only: the spin box is read-only and the slider disabled, which ends a drag and forgets
+     * it. Off by default.
      */
     bool isReadOnly() const;
     void setReadOnly(bool readOnly);
@@ -112,7 +97,7 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void valueChanged(double value);
-    /** Comes with, and before, the number's signal; \a text is all that the spin box shows, with prefix and suffix. */
+    /** Comes before the number's signal. \a text is the whole text of the spin box. */
     void valueChanged(const QString &text);
     void rangeChanged(double minimum, double maximum);
 

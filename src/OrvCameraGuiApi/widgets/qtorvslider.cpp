@@ -27,11 +27,11 @@ public:
     QtOrvSlider *const q;
     SliderParts parts;
     IntegerScale scale;
-    int sliderValue = 0; ///< the inner slider's position when it was last looked at
+    int sliderValue = 0; ///< the inner slider's last known position
     int lastValue = 0; ///< as last announced
-    /** What the position stands for until it changes, where that is another value than its own: a key led there. */
+    /** The value of the present position, if a key led to another one than the scale gives. */
     std::optional<int> held;
-    bool settling = false; ///< the inner slider moves on the way to a value that is announced later, if at all
+    bool settling = false; ///< the inner slider moves; the value is announced later, if at all
 };
 
 QtOrvSliderPrivate::QtOrvSliderPrivate(QtOrvSlider *owner, Qt::Orientation orientation)
@@ -50,7 +50,7 @@ void QtOrvSliderPrivate::init()
     q->setRange(0, 100);
 }
 
-/** Takes \a changed and puts the value back, so that nobody is told of values that are only passed through. */
+/** Changes the scale and puts the value back. Values on the way are not announced. */
 void QtOrvSliderPrivate::rescale(const IntegerScale &changed)
 {
     const int kept = value();
@@ -107,7 +107,7 @@ void QtOrvSliderPrivate::positionChanged(int position)
     announce(value());
 }
 
-/** Keys lead on from the value, where the position alone would not lead to another, or not by a whole step. */
+/** A key moves the value itself: the next position may stand for the same value, or for less than a whole step. */
 void QtOrvSliderPrivate::act(int action)
 {
     using Way = KeyAwareSlider::Way;
@@ -172,7 +172,7 @@ int QtOrvSlider::value() const
 
 void QtOrvSlider::setValue(int value)
 {
-    if (!d->held || value != d->value()) // else the position alone would stand for another value
+    if (!d->held || value != d->value()) // moving there would only lose the held value
         d->move(value);
     d->announce(d->value());
 }

@@ -12,26 +12,25 @@ class QtOrvSliderPrivate;
 /**
  * A slider for integers between two labels that show its bounds, with a linear, logarithmic or square-root scale.
  *
- * A scale other than Linear gives a wide range fine control at its low end. It maps the values to the positions of an
- * inner slider, of which there are fewer: what value() gives back may then be off by up to the width of a position from
- * what was set. The bounds themselves are always met. On a Linear scale positions are values; only a range of 2^31 or
- * wider, which a QSlider cannot take, is scaled to its positions, and a drag then skips every other value or so.
+ * A scale other than Linear gives a wide range fine control at its low end. It has fewer positions than values, so
+ * value() may differ from the value that was set by up to the width of a position. The bounds are always exact. On a
+ * Linear scale positions are values. A QSlider cannot take a range of 2^31 or more: such a range is scaled to its
+ * positions, and a drag then skips about every other value.
  *
- * The labels show the bounds as the widget's locale() writes them, without group separators.
+ * The labels show the bounds in the widget's locale(), without group separators.
  *
  * ## Signals
  *
- * valueChanged() tells of a change of the value, however it came about, once. A key that steps, or a click beside the
- * handle, changes the value by at least singleStep(), until the bound, or by as much more as the next position takes.
- * With validate() keys come by the same points of the grid in either direction; from a bound off the grid the step to
- * the next point is shorter. A page is a tenth of the positions, unless the inner slider is given another page step.
+ * valueChanged() is emitted once for each change of the value, whatever caused it. A step key, or a click beside the
+ * handle, changes the value by at least singleStep(), or to the bound; by more if the next position is further away.
+ * With validate() the keys of both directions stop at the same grid points, and the step from a bound off the grid is
+ * shorter. A page is a tenth of the positions unless the inner slider is given another page step.
  *
- * sliderPressed(), sliderMoved(), sliderReleased() and rangeChanged() are as of a QSlider, except that sliderMoved()
- * carries the position of the inner slider, not a value. focusOut() tells that the inner slider, which has the focus in
- * place of this widget, has lost it; the inner slider itself never learns that.
+ * sliderPressed(), sliderMoved(), sliderReleased() and rangeChanged() are those of a QSlider, but sliderMoved() carries
+ * a position of the inner slider, not a value. focusOut() is emitted when the inner slider, which is the focus proxy of
+ * this widget, loses the focus; the inner slider itself does not see that event.
  *
- * Assistive tools meet a slider that has "value", "minimum", "maximum" and "singleStep" of this widget and its
- * accessible name.
+ * Assistive tools find a slider with the value, bounds, step and accessible name of this widget.
  *
  * GUI thread only. Numbers have no unit. Arithmetic never overflows. A slot may change the slider but not delete it
  * (QObject::deleteLater() does).
@@ -55,7 +54,7 @@ class ORV_CAMERAGUIAPI_EXPORT QtOrvSlider : public QFrame
 public:
     /** How values lie along the slider. */
     enum ScaleType {
-        Linear, ///< a position for every value, as far as there are positions
+        Linear, ///< a position for every value, up to a range of 2^31
         Log10, ///< positions grow with the logarithm of the distance from the minimum, plus 10
         Sqrt ///< positions grow with the square root of the distance from the minimum
     };
@@ -69,34 +68,35 @@ public:
     int minimum() const;
     int maximum() const;
     /**
-     * Like setRange() with \a minimum and the \e inner slider's maximum, intentionally: with a scale other than Linear
-     * that is a position, so set both bounds by setRange() then. With a scaled one it is maximum().
+     * Like setRange() with \a minimum and the \e inner slider's maximum, intentionally. On a scale other than Linear
+     * that maximum is a position: use setRange() there. On a Linear range of 2^31 or more it is maximum().
      */
     void setMinimum(int minimum);
     /** Like setRange() with the \e inner slider's minimum, intentionally, and \a maximum: see setMinimum(). */
     void setMaximum(int maximum);
 
-    /** What the slider's position stands for, snapped with validate(). */
+    /** The value at the slider's position, snapped with validate(). */
     int value() const;
 
-    /** What a key adds at least, and the grid of validate(); 1 by default. A step of 0 or less is ignored. */
+    /** The least that a key adds, and the grid of validate(); 1 by default. A step of 0 or less is ignored. */
     int singleStep() const;
     void setSingleStep(int step);
 
     /**
      * Whether values are snapped to minimum() + k * singleStep(); off by default. Minimum and maximum themselves stay,
-     * on the grid or off it. Neither this switch nor a new step moves the slider or emits; value() shows them at once.
+     * on the grid or off it. This switch and a new step show in value() at once, but move no slider and emit nothing.
      */
     bool validate() const;
     void setValidate(bool validate);
 
-    /** Linear by default. The value is kept as well as the new scale can. */
+    /** Linear by default. The value is kept as closely as the new scale allows. */
     ScaleType scaleType() const;
     void setScaleType(ScaleType type);
 
     /**
-     * Positions for every factor of ten on a Log10 scale, 100 by default; fewer where there would be more than an int
-     * can count. What is not greater than 0 or not finite is ignored. The value is kept as well as the new scale can.
+     * Positions for every factor of ten on a Log10 scale, 100 by default; fewer if an int could not count them. A
+     * number that is not finite, or not greater than 0, is ignored. The value is kept as closely as the new scale
+     * allows.
      */
     double log10Coef() const;
     void setLog10Coef(double positions);
@@ -115,7 +115,7 @@ public:
     bool hasTracking() const;
     void setTracking(bool enable);
 
-    /** The parts, which stay this widget's. Moving or arranging them is this widget's business. */
+    /** The parts, which stay this widget's; only this widget moves or arranges them. */
     QLabel *maxLabel() const;
     QLabel *minLabel() const;
     QSlider *slider() const;
@@ -126,8 +126,8 @@ public Q_SLOTS:
     /** Moves to the position nearest to \a value, limited to the range. */
     void setValue(int value);
     /**
-     * Takes new bounds and keeps the value if it lies within, as well as the scale can. With \a maximum below \a
-     * minimum the minimum is the only value. Emits rangeChanged(), then valueChanged() if the value had to change.
+     * Sets new bounds, and keeps a value within them as closely as the scale allows. With \a maximum below \a minimum
+     * the minimum is the only value. Emits rangeChanged(), then valueChanged() if the value had to change.
      */
     void setRange(int minimum, int maximum);
 

@@ -14,21 +14,22 @@ class QtOrvSliderSpinBoxPrivate;
 /**
  * A slider and a spin box side by side for one integer, with an optional caption to the left and above.
  *
- * Both parts show one number: the spin box as it is, the slider at the nearest of its positions. Whoever moves the
- * slider sets the number to what that position stands for; setValue() and typing set it to any in the range, with
- * validate() to the nearest on the grid (a typed one is shown there when typing ends).
- * A new range moves a number only if it lies outside, and another scale moves none.
+ * ## The common contract of the composites
  *
- * While the slider is dragged the spin box follows it, but valueChanged() waits for the release and is emitted once
- * then, also where nothing has changed: a handle that is let go where it was pressed leaves the number as it is. A drag
- * that ends because the slider is disabled is forgotten. Keys, wheel and clicks beside the handle are announced at
- * once.
+ * QtOrvSliderSpinBox, QtOrvGainSlider and QtOrvSpinBox show one number twice: the spin box shows the number itself, the
+ * slider its nearest position. Moving the slider sets the number to the value at that position. setValue() and typing
+ * set any number in the range, with validate() the nearest one on the grid; the spin box shows a typed number there
+ * when the typing ends. A new range moves only a number outside it, a new scale moves none.
  *
- * "&" before a letter of a caption makes a mnemonic that leads to the spin box. For assistive tools the accessible
- * name, else a caption, else the label whose buddy this widget is, names the spin box and, as its "... slider", the
- * slider. Tab goes from the spin box to the slider.
+ * During a drag the spin box follows the slider and valueChanged() waits. It is emitted once on release, also for an
+ * unchanged number: a handle that is released where it was pressed leaves the number as it is. A drag that ends because
+ * the slider is disabled is forgotten. Keys, the wheel and clicks beside the handle are announced at once.
  *
- * GUI thread only. A slot on a signal may change this widget but not delete it (QObject::deleteLater() does).
+ * "&" before a letter of a caption makes a mnemonic that leads to the spin box. The spin box has the accessible name of
+ * the composite, else a caption, else the label whose buddy the composite is, as its name for assistive tools; the
+ * slider and the button that opens it are its "... slider". Tab goes from the spin box to the slider or to its button.
+ *
+ * GUI thread only. A slot may change the composite but not delete it (QObject::deleteLater() does).
  */
 class ORV_CAMERAGUIAPI_EXPORT QtOrvSliderSpinBox : public QWidget
 {
@@ -60,7 +61,7 @@ public:
     void setMinimum(int minimum);
     void setMaximum(int maximum);
 
-    /** What a step adds; 1 by default. A step of 0 or less is ignored. */
+    /** The size of a step; 1 by default. A step of 0 or less is ignored. */
     int singleStep() const;
     void setSingleStep(int step);
 
@@ -82,16 +83,16 @@ public:
     QString suffix() const;
     void setSuffix(const QString &suffix);
 
-    /** Caption before the parts; empty, and then not shown, by default. */
+    /** Caption to the left of the parts; hidden while empty, which it is by default. */
     QString leftLabelText() const;
     void setLeftLabelText(const QString &text);
-    /** Caption above the parts; empty, and then not shown, by default. */
+    /** Caption above the parts; hidden while empty, which it is by default. */
     QString topLabelText() const;
     void setTopLabelText(const QString &text);
 
     /**
-     * Whether the value is but shown: the spin box is read-only then, and the slider disabled. What a drag that this
-     * ends has come to is forgotten.
+     * Whether the value is read-only: the spin box is read-only and the slider disabled, which ends a drag and forgets
+     * it. Off by default.
      */
     bool isReadOnly() const;
     void setReadOnly(bool readOnly);
@@ -109,7 +110,7 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void valueChanged(int value);
-    /** Comes with, and before, the number's signal; \a text is all that the spin box shows, with prefix and suffix. */
+    /** Comes before the number's signal. \a text is the whole text of the spin box. */
     void valueChanged(const QString &text);
     void rangeChanged(int minimum, int maximum);
 

@@ -3,31 +3,21 @@
 #include <OrvCameraGuiApi/widgets/captions.h>
 #include <OrvCameraGuiApi/widgets/compositefocus.h>
 #include <OrvCameraGuiApi/widgets/qtorvslider.h>
+#include <OrvCameraGuiApi/widgets/sliderpopup.h>
 #include <OrvCameraGuiApi/widgets/spinsliderlink.h>
 
 #include <QBoxLayout>
-#include <QGuiApplication>
 #include <QKeyEvent>
-#include <QScreen>
 #include <QToolButton>
 
 namespace {
 
-/** As a combo box has it. */
+/** The keys that open a combo box. */
 bool opensPopUp(const QKeyEvent &event)
 {
     const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
     return (event.key() == Qt::Key_F4 && modifiers == Qt::NoModifier)
         || (event.key() == Qt::Key_Down && modifiers == Qt::AltModifier);
-}
-
-/** Where there is not room enough, the beginning is seen. */
-QRect pulledInto(const QRect &room, QRect place)
-{
-    place.moveRight(qMin(place.right(), room.right()));
-    place.moveBottom(qMin(place.bottom(), room.bottom()));
-    place.moveTopLeft({qMax(place.left(), room.left()), qMax(place.top(), room.top())});
-    return place;
 }
 
 } // namespace
@@ -37,14 +27,8 @@ class QtOrvSpinBoxPrivate : public QObject
 public:
     QtOrvSpinBoxPrivate(QtOrvSpinBox *owner, Qt::Orientation orientation);
     void init();
-    bool eventFilter(QObject *watched, QEvent *event) override;
-    void initButton();
-    void initSlider();
-
-    void fitOrientation();
     void showButton();
-    void openSlider();
-    void moveSliderOntoScreen();
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
     QtOrvSpinBox *const q;
     QtOrvSpinBoxVal64 *const spinBox; // made first: Tab goes from the spin box to the button
@@ -52,6 +36,7 @@ public:
     QtOrvSlider *const slider;
     Captions captions;
     SpinSliderLink<QtOrvSpinBox, QtOrvSpinBoxVal64, QtOrvSlider> link;
+    SliderPopUp popUp;
     CompositeFocus focus;
     bool buttonWanted = true; ///< shown unless read-only
 };
@@ -63,6 +48,7 @@ QtOrvSpinBoxPrivate::QtOrvSpinBoxPrivate(QtOrvSpinBox *owner, Qt::Orientation or
     , slider(new QtOrvSlider(orientation, owner))
     , captions(owner)
     , link(owner, spinBox, slider, WhileDragged::Nothing)
+    , popUp(slider, button)
     , focus(owner)
 {
 }
@@ -72,9 +58,10 @@ void QtOrvSpinBoxPrivate::init()
     spinBox->setObjectName(QStringLiteral("spinbox"));
     spinBox->setAccelerated(true);
     spinBox->installEventFilter(this);
+    slider->setObjectName(QStringLiteral("slider"));
+    button->setObjectName(QStringLiteral("button"));
+    button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored); // as high as the spin box
     captions.setSpinBox(spinBox);
-    initButton();
-    initSlider();
 
     auto *const joined = new QHBoxLayout;
     joined->setObjectName(QStringLiteral("layoutHH"));
@@ -86,75 +73,9 @@ void QtOrvSpinBoxPrivate::init()
     q->setFocusProxy(spinBox);
 }
 
-void QtOrvSpinBoxPrivate::initButton()
-{
-    button->setObjectName(QStringLiteral("button"));
-    button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored); // as high as the spin box
-    QObject::connect(button, &QToolButton::clicked, q, [this] { openSlider(); });
-}
-
-void QtOrvSpinBoxPrivate::initSlider()
-{
-    slider->setObjectName(QStringLiteral("slider"));
-    slider->setWindowFlags(Qt::Popup);
-    slider->setAttribute(Qt::WA_WindowPropagation); // looks like the widget it belongs to
-    slider->setFrameShape(QFrame::StyledPanel);
-    slider->setMaxLabelVisiable(false); // there is no room for them
-    slider->setMinLabelVisiable(false);
-    QObject::connect(slider, &QtOrvSlider::focusOut, slider, &QWidget::hide);
-    fitOrientation();
-}
-
-void QtOrvSpinBoxPrivate::fitOrientation()
-{
-    const bool vertical = slider->orientation() == Qt::Vertical;
-    button->setText(vertical ? QStringLiteral("^") : QStringLiteral(">"));
-    slider->resize(vertical ? QSize(20, 100) : QSize(100, 20));
-}
-
 void QtOrvSpinBoxPrivate::showButton()
 {
     button->setVisible(buttonWanted && !spinBox->isReadOnly());
-}
-
-void QtOrvSpinBoxPrivate::openSlider()
-{
-    slider->setLayoutDirection(q->layoutDirection());
-    slider->ensurePolished();
-    slider->layout()->activate(); // which may make it larger
-    QPoint place = button->mapToGlobal(QPoint(0, 0));
-    if (slider->orientation() == Qt::Vertical)
-        place.ry() -= slider->height();
-    else
-        place.rx() += q->layoutDirection() == Qt::RightToLeft ? -slider->width() : button->width();
-    slider->setGeometry(QRect(place, slider->size()));
-    slider->show();
-    slider->setFocus(Qt::PopupFocusReason);
-    // The place is as told until whoever opened the slider has seen it.
-    QMetaObject::invokeMethod(
-        this, [this] { moveSliderOntoScreen(); }, Qt::QueuedConnection);
-}
-
-/** If it would cover the button, a press on which closes it, it goes to the other side, where there is room for that.
- */
-void QtOrvSpinBoxPrivate::moveSliderOntoScreen()
-{
-    const QRect opener(button->mapToGlobal(QPoint(0, 0)), button->size());
-    const QScreen *const found = QGuiApplication::screenAt(opener.center());
-    const QScreen *const screen = found ? found : q->screen();
-    if (!screen || !slider->isVisible())
-        return;
-    const QRect room = screen->availableGeometry();
-    const QRect place = pulledInto(room, slider->geometry());
-    QRect opposite = place;
-    if (slider->orientation() == Qt::Vertical)
-        opposite.moveTop(opener.bottom() + 1);
-    else if (slider->x() > opener.x())
-        opposite.moveRight(opener.left() - 1);
-    else
-        opposite.moveLeft(opener.right() + 1);
-    opposite = pulledInto(room, opposite);
-    slider->move(place.intersects(opener) && !opposite.intersects(opener) ? opposite.topLeft() : place.topLeft());
 }
 
 bool QtOrvSpinBoxPrivate::eventFilter(QObject *watched, QEvent *event)
@@ -162,7 +83,7 @@ bool QtOrvSpinBoxPrivate::eventFilter(QObject *watched, QEvent *event)
     const bool isOpening = watched == spinBox && event->type() == QEvent::KeyPress && !button->isHidden()
         && opensPopUp(*static_cast<QKeyEvent *>(event));
     if (isOpening)
-        openSlider();
+        popUp.open();
     return isOpening || QObject::eventFilter(watched, event);
 }
 
@@ -337,7 +258,7 @@ void QtOrvSpinBox::setSliderOrientation(Qt::Orientation orientation)
     if (orientation == sliderOrientation())
         return;
     d->slider->setOrientation(orientation);
-    d->fitOrientation();
+    d->popUp.fitOrientation();
 }
 
 bool QtOrvSpinBox::isReadOnly() const
@@ -348,7 +269,7 @@ bool QtOrvSpinBox::isReadOnly() const
 void QtOrvSpinBox::setReadOnly(bool readOnly)
 {
     d->spinBox->setReadOnly(readOnly);
-    d->slider->setEnabled(!readOnly); // which ends a drag before the slider is hidden, and forgets it
+    d->slider->setEnabled(!readOnly); // before it is hidden: this ends a drag and forgets it
     d->showButton();
     if (readOnly)
         d->slider->hide();

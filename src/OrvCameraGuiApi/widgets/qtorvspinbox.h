@@ -13,27 +13,12 @@ class QtOrvSpinBoxVal64;
 class QtOrvSpinBoxPrivate;
 
 /**
- * A spin box for one integer with a button that opens a slider, and an optional caption to the left and above.
+ * A spin box for one integer with a button that opens a slider, and an optional caption to the left and above. See
+ * QtOrvSliderSpinBox for the common contract of the composites.
  *
- * The slider is a pop-up without labels. It opens above the button when vertical and beside it, on the side where the
- * line ends, when horizontal, and closes when it loses the focus. A part of it that lies outside the screen is moved
- * onto it right afterwards. Alt+Down and F4 in the spin box open it, too, where the button is shown.
- *
- * Both parts show one number: the spin box as it is, the slider at the nearest of its positions. Whoever moves the
- * slider sets the number to what that position stands for; setValue() and typing set it to any in the range, with
- * validate() to the nearest on the grid.
- * A new range moves a number only if it lies outside, and another scale moves none.
- *
- * While the slider is dragged the spin box follows it, but valueChanged() waits for the release and is emitted once
- * then, also where nothing has changed: a handle that is let go where it was pressed leaves the number as it is. A drag
- * that ends because the slider is disabled is forgotten. Keys, wheel and clicks beside the handle are announced at
- * once.
- *
- * "&" before a letter of a caption makes a mnemonic that leads to the spin box. For assistive tools the accessible
- * name, else a caption, else the label whose buddy this widget is, names the spin box and, as its "... slider", button
- * and slider. Tab goes from the spin box to the button.
- *
- * GUI thread only. A slot on a signal may change this widget but not delete it (QObject::deleteLater() does).
+ * The slider is a pop-up without labels. A vertical one opens above the button, a horizontal one beside it, where the
+ * line ends. Right afterwards a pop-up that is partly outside the screen is moved onto it. It closes when it loses the
+ * focus. Alt+Down and F4 in the spin box open it, too, while the button is shown.
  */
 class ORV_CAMERAGUIAPI_EXPORT QtOrvSpinBox : public QWidget
 {
@@ -57,7 +42,7 @@ class ORV_CAMERAGUIAPI_EXPORT QtOrvSpinBox : public QWidget
 public:
     /** Range 0 to 100, step 1, value 0, a vertical pop-up; \a parent owns the widget and may be null. */
     explicit QtOrvSpinBox(QWidget *parent = nullptr);
-    /** \a orientation is the pop-up's. */
+    /** \a orientation is that of the pop-up. */
     explicit QtOrvSpinBox(Qt::Orientation orientation, QWidget *parent = nullptr);
     ~QtOrvSpinBox() override;
 
@@ -69,14 +54,11 @@ public:
     void setMinimum(int minimum);
     void setMaximum(int maximum);
 
-    /** What a step adds; 1 by default. A step of 0 or less is ignored. */
+    /** The size of a step; 1 by default. A step of 0 or less is ignored. */
     int singleStep() const;
     void setSingleStep(int step);
 
-    /**
-     * Whether the slider snaps values to minimum() + k * singleStep(), and the spin box what it commits; off by
-     * default.
-     */
+    /** Whether the slider snaps to minimum() + k * singleStep(), and the spin box what it commits; off by default. */
     bool validate() const;
     void setValidate(bool validate);
 
@@ -94,28 +76,28 @@ public:
     QString suffix() const;
     void setSuffix(const QString &suffix);
 
-    /** Caption before the parts; empty, and then not shown, by default. */
+    /** Caption to the left of the parts; hidden while empty, which it is by default. */
     QString leftLabelText() const;
     void setLeftLabelText(const QString &text);
-    /** Caption above the parts; empty, and then not shown, by default. */
+    /** Caption above the parts; hidden while empty, which it is by default. */
     QString topLabelText() const;
     void setTopLabelText(const QString &text);
 
-    /** Whether the button is shown, if this widget is; it is by default, unless isReadOnly(). */
+    /** Whether the button is shown together with this widget; on by default, and off while isReadOnly(). */
     bool isSliderButtonVisible() const;
     void setSliderButtonVisible(bool visible);
 
-    /** Gives the pop-up a size, in pixels, which it has until its orientation changes; at least what it needs. */
+    /** Sets the size of the pop-up in pixels, at least what it needs, until its orientation changes. */
     void resizeSlider(int width, int height);
     void resizeSlider(const QSize &size);
 
-    /** Of the pop-up, which is sized 20 x 100 when vertical and 100 x 20 when horizontal. */
+    /** The orientation of the pop-up, which is sized 20 x 100 when vertical and 100 x 20 when horizontal. */
     Qt::Orientation sliderOrientation() const;
     void setSliderOrientation(Qt::Orientation orientation);
 
     /**
-     * Whether the value is but shown. There is no button to change it then, and the pop-up is closed and disabled. What
-     * a drag that this ends has come to is forgotten.
+     * Whether the value is read-only; off by default. The button is hidden then, and the pop-up closed and disabled,
+     * which ends a drag and forgets it.
      */
     bool isReadOnly() const;
     void setReadOnly(bool readOnly);
@@ -135,8 +117,8 @@ public Q_SLOTS:
 Q_SIGNALS:
     void valueChanged(int value);
     /**
-     * Follows the number's signal; \a text is all that the spin box shows, with prefix and suffix, but on release of
-     * the slider the plain number.
+     * Follows the number's signal. \a text is the whole text of the spin box, but the plain number on release of the
+     * slider.
      */
     void valueChanged(const QString &text);
     void rangeChanged(int minimum, int maximum);

@@ -1,13 +1,12 @@
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
 
 #include <OrvCameraGuiApi/widgets/boxreading.h>
+#include <OrvCameraGuiApi/widgets/integers.h>
 #include <OrvCameraGuiApi/widgets/stepgrid.h>
 #include <OrvCameraGuiApi/widgets/valueaccessible.h>
 
 #include <QKeyEvent>
 #include <QLineEdit>
-
-#include <limits>
 
 QtOrvSpinBoxVal::QtOrvSpinBoxVal(QWidget *parent)
     : QSpinBox(parent)
@@ -27,10 +26,7 @@ bool QtOrvSpinBoxVal::isEntryGuarded() const
 
 void QtOrvSpinBoxVal::setEntryGuarded(bool guarded)
 {
-    if (guarded)
-        EntryGuard::install(this);
-    else
-        EntryGuard::remove(this);
+    EntryGuard::setInstalled(this, guarded);
 }
 
 void QtOrvSpinBoxVal::setLineEditText(const QString &text)
@@ -40,9 +36,8 @@ void QtOrvSpinBoxVal::setLineEditText(const QString &text)
 
 void QtOrvSpinBoxVal::stepBy(int steps)
 {
-    using Limits = std::numeric_limits<int>;
     const qint64 target = value() + qint64(singleStep()) * steps;
-    setValue(int(qBound<qint64>(Limits::min(), target, Limits::max())));
+    setValue(Integers::clampedToInt(target));
     selectAll(); // as the base class does
 }
 
@@ -58,8 +53,7 @@ void QtOrvSpinBoxVal::fixup(QString &text) const
 
 int QtOrvSpinBoxVal::valueFromText(const QString &text) const
 {
-    const bool isUntouched = text == prefix() + textFromValue(value()) + suffix();
-    return isUntouched ? value() : BoxReading::valueFromText(*this, text);
+    return BoxReading::valueFromText(*this, text, prefix() + textFromValue(value()) + suffix());
 }
 
 void QtOrvSpinBoxVal::setValue(int value)
@@ -69,17 +63,8 @@ void QtOrvSpinBoxVal::setValue(int value)
 
 void QtOrvSpinBoxVal::keyPressEvent(QKeyEvent *event)
 {
-    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    const bool isWhole = prefix().isEmpty() && suffix().isEmpty();
-    if (isReturn && isWhole && !m_validateTyping && !isReadOnly()) {
-        // What shows the value is that, also in another base.
-        const bool isUntouched = text() == textFromValue(value());
-        const std::optional<int> number = isUntouched ? value() : NumberText::typedNumber(*this);
-        if (number) {
-            setValue(*number);
-            event->accept();
-            return;
-        }
-    }
-    QSpinBox::keyPressEvent(event);
+    if (BoxReading::setTypedNumber(this, *event, textFromValue(value())))
+        event->accept();
+    else
+        QSpinBox::keyPressEvent(event);
 }

@@ -5,13 +5,12 @@
 #include <QSpinBox>
 
 /**
- * A QSpinBox that can keep its value on the grid of its steps, and typed text from becoming the value by itself.
+ * A QSpinBox with two more switches: validate() keeps the value on the grid of its steps, and without validateTyping()
+ * a typed text becomes the value only by Return or Enter.
  *
- * validate() makes whatever is set through this class snap to minimum() + k * singleStep(). validateTyping() tells
- * whether typed text may become the value while it is being typed; without it only Return and Enter make it so.
- *
- * There are, intentionally, no properties of its own. The inherited user property "value" is the base class's: it sets
- * without snapping, from a delegate or a QDataWidgetMapper too, and so does setValue() called through a QSpinBox.
+ * There are, intentionally, no properties of its own. The inherited user property "value" is that of the base class and
+ * sets without snapping, also from a delegate or a QDataWidgetMapper. So does setValue() when it is called through a
+ * QSpinBox.
  *
  * GUI thread only.
  */
@@ -25,7 +24,10 @@ public:
     /** Range, step and value as in a new QSpinBox; \a parent owns the box and may be null. */
     explicit QtOrvSpinBoxVal(QWidget *parent = nullptr);
 
-    /** Whether values are snapped to the grid; off by default. Switching it leaves the current value as it is. */
+    /**
+     * Whether values set through this class are snapped to minimum() + k * singleStep(); off by default. Switching it
+     * leaves the current value as it is.
+     */
     bool validate() const { return m_validate; }
     void setValidate(bool validate) { m_validate = validate; }
 
@@ -34,36 +36,32 @@ public:
     void setValidateTyping(bool validate) { m_validateTyping = validate; }
 
     /**
-     * Whether the box takes entries as a whole only; off by default. After a key was refused it then tells its limits
-     * and commits nothing until the text is put right. Return leaves an untouched box alone, and what is no number of
-     * the range is replaced by the value, never by another number. Neither the wheel over a box without the focus nor
-     * another locale, range or state commits anything.
+     * Whether the box takes an entry as a whole or not at all; off by default. A refused key then shows the limits, and
+     * nothing is committed until the text is put right. Return leaves an untouched box alone. A text that is no number
+     * of the range is replaced by the value, never by another number. The wheel over a box without the focus commits
+     * nothing, nor does another locale, range or state.
      */
     bool isEntryGuarded() const;
     void setEntryGuarded(bool guarded);
 
     /**
-     * \a value moved to the nearest grid point, at most the maximum; minimum and maximum themselves stay, on the grid
-     * or off it. Half a step (rounded down) above a point goes to the next. With a single step of 0 nothing moves.
+     * \a value moved to the nearest grid point, at most the maximum. A value half a step (rounded down) above a point
+     * goes up. Minimum and maximum themselves stay, on the grid or off it. With a single step of 0 nothing moves.
      */
     int doValidation(int value) const;
 
-    /** Shows \a text without reading it: neither value nor signals follow. */
+    /** Shows \a text without reading it: value and signals do not follow. */
     void setLineEditText(const QString &text);
 
     /**
-     * Sets the value moved by \a steps times singleStep(), snapped with validate(). What lies outside the range is left
-     * to setValue(); wrapping() has no other part in it, intentionally. Typed text that has not become the value is
-     * given up.
+     * Sets the value moved by \a steps times singleStep(), snapped with validate(). setValue() limits it to the range;
+     * wrapping() has no part in it, intentionally. Typed text that is not the value yet is given up.
      */
     void stepBy(int steps) override;
 
-    /**
-     * The base class's verdict on \a text read as below, but without validateTyping() nothing is better than
-     * Intermediate.
-     */
+    /** The verdict on \a text, read as by valueFromText(). Without validateTyping() it is at most Intermediate. */
     QValidator::State validate(QString &text, int &pos) const override;
-    /** Offers the value's text where the base class would correct a text that is no number to another number. */
+    /** Puts the text of the value in the place of a text that the base class would correct to another number. */
     void fixup(QString &text) const override;
 
 public Q_SLOTS:
@@ -79,9 +77,9 @@ protected:
     int valueFromText(const QString &text) const override;
 
     /**
-     * Without validateTyping() Return and Enter set the whole text, read as an integer: plainly first, then in the
-     * widget's locale without group separators. They go no further then. A text that is none, which includes any beside
-     * a prefix or suffix, intentionally, is left to the base class: nothing is committed.
+     * Without validateTyping(), Return and Enter set the number that the whole text stands for: plain, or in the locale
+     * of the widget without group separators. The key goes no further then. Any other text is left to the base class,
+     * which commits nothing; so is a text with a prefix or suffix, intentionally.
      */
     void keyPressEvent(QKeyEvent *event) override;
 

@@ -9,30 +9,30 @@
 class QtOrvSpinBoxVal64Private;
 
 /**
- * A spin box for signed 64-bit integers that tells apart what is shown from what is committed.
+ * A spin box for signed 64-bit integers that separates the number on show from the committed value.
  *
- * It shows prefix, number and suffix. The number is in displayIntegerBase(): in base 10 as the widget's locale writes
- * it, with group separators only if setGroupSeparatorShown(true); in any other base as a minus sign for a negative
- * number, then lower-case digits. What it shows it also reads; base 10 may be typed plainly as well. Cursor and
- * selection keep to the number, and no edit can damage prefix or suffix.
+ * It shows prefix, number and suffix. In base 10 the number is written in the widget's locale, with group separators
+ * only after setGroupSeparatorShown(true). In any other base it has lower-case digits, after a minus sign if it is
+ * negative. The box reads what it shows; base 10 may also be typed plainly. Cursor and selection stay within the
+ * number, and no edit can damage prefix or suffix.
  *
  * ## When a number is committed
  *
  * valueChanged() is emitted when a committed number differs from the last one, and only then:
  *
- * - setValue() commits its number, unless it lies outside the range: then nothing happens at all.
- * - Typing commits every in-range number at once while keyboardTracking() is on, and puts the value's text back for
- *   anything else. With keyboardTracking() off the typed text waits: Return and Enter commit it; loss of focus, a mouse
- *   press on the box and the keys Up, Down, Page Up and Page Down discard it, or commit it if ignoreFocusOut() is off.
- *   Text that is not an in-range number is replaced by the value's.
- * - Stepping commits every step. With buttonTracking() off, the steps of a held arrow button or step key are only
- *   shown, and the number they arrived at is committed on release, or when the focus is lost before. Like
- *   every commit this one is refused outside the range; the shown number then stays as it is.
+ * - setValue() commits its number, unless that lies outside the range: then nothing happens at all.
+ * - Typing with keyboardTracking() commits each number of the range at once, and shows the value again for anything
+ *   else. Without keyboardTracking() the typed text waits. Return and Enter commit it. Loss of focus, a mouse press on
+ *   the box and the keys Up, Down, Page Up and Page Down discard it, or commit it if ignoreFocusOut() is off. A text
+ *   that is no number of the range is replaced by the value.
+ * - Stepping commits every step. Without buttonTracking() the steps of a held arrow button or step key are only shown.
+ *   The last number is committed on release, or when the focus is lost before. Like any commit it is refused outside
+ *   the range; the shown number then stays.
  *
- * ## Properties by which views and assistive tools reach it
+ * ## Properties
  *
- * "value" is the user property, so the box works as the editor of an item delegate and in a QDataWidgetMapper, and
- * assistive tools read and set "value", "minimum", "maximum" and "singleStep".
+ * "value" is the user property, so the box works as the editor of an item delegate and in a QDataWidgetMapper.
+ * Assistive tools read and set "value", "minimum", "maximum" and "singleStep".
  *
  * GUI thread only. Numbers have no unit of their own; the suffix shows one. Arithmetic never overflows. A slot on
  * valueChanged() may change the box but not delete it (QObject::deleteLater() does).
@@ -56,7 +56,7 @@ public:
     explicit QtOrvSpinBoxVal64(QWidget *parent = nullptr);
     ~QtOrvSpinBoxVal64() override;
 
-    /** The committed value: never a typed text that still waits, nor the steps of a button still held. */
+    /** The committed value, not a typed text that waits nor the steps of a button still held. */
     long long value() const;
 
     /** Text before the number; empty by default. Setting it commits the current value again, so it may be snapped. */
@@ -73,16 +73,16 @@ public:
     QString cleanText() const;
 
     /**
-     * What one step adds; 1 by default. Any number is taken: a negative one turns the direction round, and with 0 steps
-     * lead nowhere. A step of 0 or less snaps nothing.
+     * The size of a step; 1 by default. Any number is taken: a negative step turns the direction round, a step of 0
+     * leads nowhere. A step of 0 or less snaps nothing.
      */
     long long singleStep() const;
     void setSingleStep(long long step);
 
     /**
-     * The range, 0 to 99 by default. A bound set beyond the other one takes that along; setRange() with the bounds
-     * exchanged leaves \a minimum as the only number. The value and its text stay as they are, even outside the new
-     * range, until the next commit.
+     * The range, 0 to 99 by default. A bound set beyond the other one moves that one along; setRange() with exchanged
+     * bounds leaves \a minimum as the only number. The value and its text stay until the next commit, even outside the
+     * new range.
      */
     long long minimum() const;
     void setMinimum(long long minimum);
@@ -91,8 +91,8 @@ public:
     void setRange(long long minimum, long long maximum);
 
     /**
-     * Base of the number shown and typed, 2 to 36; 10 by default. Another base is ignored. The shown text is,
-     * intentionally, not rebuilt at once but before it is next painted, edited or committed.
+     * The base of the number, 2 to 36; 10 by default. Any other base is ignored. The text on show is, intentionally,
+     * not rebuilt at once but before it is next painted, edited or committed.
      */
     int displayIntegerBase() const;
     void setDisplayIntegerBase(int base);
@@ -106,9 +106,9 @@ public:
     void setIgnoreFocusOut(bool ignore);
 
     /**
-     * Whether committed numbers are snapped to minimum + k * singleStep; off by default. A number goes to the next grid
-     * point when it is at least half a step (rounded down) above the one below, though never beyond the maximum.
-     * Minimum and maximum themselves stay, on the grid or off it.
+     * Whether committed numbers are snapped to minimum + k * singleStep; off by default. A number at least half a step
+     * (rounded down) above a grid point goes up, though never beyond the maximum. Minimum and maximum themselves stay,
+     * on the grid or off it.
      */
     bool validateStepping() const;
     void setValidateStepping(bool validate);
@@ -118,38 +118,38 @@ public:
     void setButtonTracking(bool track);
 
     /**
-     * Whether the box takes entries as a whole only; off by default. After a key was refused it then tells its limits
-     * and commits nothing until the text is put right. Return leaves an untouched box alone, and typed text that is no
-     * number of the range waits for it, with keyboardTracking() too, and is replaced by the value. Neither the wheel
-     * over a box without the focus nor another locale, range or state commits anything.
+     * Whether the box takes an entry as a whole or not at all; off by default. A refused key then shows the limits, and
+     * nothing is committed until the text is put right. Return leaves an untouched box alone. A text that is no number
+     * of the range waits for Return, with keyboardTracking() too, and is then replaced by the value. The wheel over a
+     * box without the focus commits nothing, nor does another locale, range or state.
      */
     bool isEntryGuarded() const;
     void setEntryGuarded(bool guarded);
 
     /**
-     * Both hints, in pixels, have room for the wider bound (of its first 20 characters) or the special value text, each
-     * with prefix and suffix. They are measured anew after a change of range, prefix, suffix, font, style or locale.
+     * In pixels. Both hints have room for the wider bound (its first 20 characters) or the special value text, with
+     * prefix and suffix. They follow range, prefix, suffix, font, style and locale.
      */
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-    /** The verdict on the part of \a text that is left without the lengths of prefix and suffix. */
+    /** The verdict on \a text without as many characters as prefix and suffix have. */
     QValidator::State validate(QString &text, int &pos) const override;
-    /** Does nothing: a text that is no number is replaced when it would be committed. */
+    /** Does nothing: a text that is no number is replaced by the value when it is committed. */
     void fixup(QString &text) const override;
 
     /**
      * Moves by \a steps times singleStep(). A step that would leave the range (or 64 bits) is dropped whole, it does
-     * not stop at the bound, intentionally; with wrapping() it goes to the opposite bound. While a button or key is
-     * held and buttonTracking() is off it moves only the shown number, which without wrapping() may leave the range.
+     * not stop at the bound, intentionally; with wrapping() it goes to the opposite bound. Without buttonTracking(),
+     * while a button or key is held, only the shown number moves, and may leave the range unless wrapping().
      */
     void stepBy(int steps) override;
-    /** None when read-only, both when wrapping(), else the directions in which the value has not reached the bound. */
+    /** None when read-only, both when wrapping(), else each direction in which the value has not reached the bound. */
     StepEnabled stepEnabled() const override;
 
-    /** The number part as it is shown for \a value, without prefix and suffix. */
+    /** The text for \a value, without prefix and suffix. */
     virtual QString textFromValue(long long value) const;
-    /** The number in \a text, which has prefix and suffix, or the minimum when it is not one within the range. */
+    /** The number in \a text, which has prefix and suffix; the minimum if it is no number of the range. */
     virtual long long valueFromText(const QString &text) const;
 
 public Q_SLOTS:
@@ -157,17 +157,17 @@ public Q_SLOTS:
     void setValue(long long value);
     /** Selects the number, with the cursor at its start. */
     void selectAll();
-    /** Empties the number on show; the value stays. */
+    /** Removes the number from the text; the value stays. */
     void clear() override;
     /**
-     * Commits typed text as Return does. Hides the base class's slot, which does nothing for a class that is none of
-     * Qt's own; so it must be called through this class, or by its name.
+     * Commits typed text as Return does. Hides the slot of the base class, which does nothing for classes other than
+     * Qt's; so call it through this class, or by its name.
      */
     void interpretText();
 
 Q_SIGNALS:
     void valueChanged(long long value);
-    /** Follows the number's signal; \a text is all that is shown, with prefix and suffix. */
+    /** Follows the number's signal; \a text is the whole text, with prefix and suffix. */
     void valueChanged(const QString &text);
 
 protected:

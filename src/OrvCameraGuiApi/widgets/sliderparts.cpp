@@ -57,7 +57,10 @@ void KeyAwareSlider::mousePressEvent(QMouseEvent *event)
     QSlider::mousePressEvent(event);
 }
 
-/** Where a pixel is more than a position, a mouse that has not moved along the slider would move it all the same. */
+/**
+ * A mouse that has not moved along the slider must not move the handle. It would, where a pixel is more than one
+ * position.
+ */
 void KeyAwareSlider::mouseMoveEvent(QMouseEvent *event)
 {
     if (isSliderDown() && !m_dragged && along(event->pos()) == m_pressedAt) {
@@ -115,10 +118,10 @@ bool SliderParts::takesFocusOut(const QObject *watched, QEvent *event)
     if (watched != slider)
         return false;
     if (event->type() == QEvent::Hide)
-        slider->setSliderDown(false); // whoever hides it while it is dragged gets the release, not the slider
+        slider->setSliderDown(false); // a slider that is hidden during a drag never sees the release
     if (event->type() != QEvent::FocusOut)
         return false;
-    slider->update(); // what it would have done itself
+    slider->update(); // as it would do itself
     QFocusEvent focusOut(QEvent::FocusOut, static_cast<QFocusEvent *>(event)->reason());
     QCoreApplication::sendEvent(frame, &focusOut);
     return true;
@@ -147,7 +150,7 @@ void SliderParts::arrange()
         horizontally->setSpacing(6);
         minLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
         maxLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        // By the layout, which turns round from right to left; a label itself goes by what its text is.
+        // Aligned by the layout, which mirrors from right to left; a label goes by the direction of its text.
         horizontally->addWidget(minLabel, 0, Qt::AlignLeft);
         horizontally->addWidget(maxLabel, 0, Qt::AlignRight);
         vertically->addWidget(slider);

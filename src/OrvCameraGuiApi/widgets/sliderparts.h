@@ -7,30 +7,32 @@
 class QFrame;
 
 /**
- * The slider inside the sliders with labels. It tells how it was moved, and its page step follows its range until
- * somebody sets another.
+ * The slider inside the sliders with labels. It knows how it was moved. Its page step follows its range until a program
+ * sets another one.
  */
 class KeyAwareSlider : public QSlider
 {
     Q_OBJECT
 
 public:
-    /** What a key, or a click beside the handle, asks for; None for the wheel and for a drag. */
+    /**
+     * The direction in which a key, or a click beside the handle, moves the value; None for the wheel and for a drag.
+     */
     enum class Way { None, Down, Up, ToMinimum, ToMaximum };
 
     KeyAwareSlider(Qt::Orientation orientation, QWidget *parent);
 
-    /** Of one of QAbstractSlider's actions, which know of layout direction and inversion. */
+    /** The way of one of QAbstractSlider's actions, which allow for layout direction and inversion. */
     static Way wayOf(int action);
-    /** The positions that \a action, which has a way, moves by. */
+    /** The number of positions that \a action, which has a way, moves by. */
     int positionsOf(int action) const;
 
     void setPositions(int first, int last, int step);
 
-    /** Whether the mouse has moved the handle since it last pressed something. */
+    /** Whether the mouse has moved the handle since the last press. */
     bool isDragged() const { return m_dragged; }
 
-    /** Whether the value that the slider tells of comes from another range or scale, and is nobody's choice. */
+    /** Whether the present signals report another range or scale, not a choice of a person or a program. */
     bool isRescaled() const { return m_rescaled; }
     void setRescaled(bool rescaled) { m_rescaled = rescaled; }
 
@@ -47,7 +49,7 @@ private:
     bool m_rescaled = false;
 };
 
-/** Has the slider say that it is rescaled for as long as this lives. */
+/** Marks a slider as being rescaled as long as this object lives. */
 class Rescaling
 {
 public:
@@ -63,7 +65,9 @@ private:
     KeyAwareSlider *const m_slider;
 };
 
-/** What the sliders with labels have in common: their parts, owned by the frame, and how these lie and behave. */
+/**
+ * The common part of the sliders with labels: the inner widgets, which the frame owns, their layout and their events.
+ */
 class SliderParts
 {
 public:
@@ -72,13 +76,13 @@ public:
     void setOrientation(Qt::Orientation orientation);
     void setBounds(const QString &minimum, const QString &maximum);
 
-    /** Whether the frame has to set the bounds anew, which are written as the locale of the slider has it. */
+    /** Whether \a event gives the slider another locale, in which the frame has to write the bounds again. */
     bool changesLocale(const QObject *watched, const QEvent *event) const;
     QLocale locale() const; ///< without group separators
 
     /**
-     * To be called for every event that the frame filters. Tells whether that is the slider's loss of focus, which the
-     * slider is not to see; the frame has seen it then, for the sake of a delegate that watches the frame.
+     * To be called for every event that the frame filters. Returns whether the slider loses the focus. The slider must
+     * not see that event; the frame has been sent one, for a delegate that watches the frame.
      */
     bool takesFocusOut(const QObject *watched, QEvent *event);
 

@@ -1,5 +1,6 @@
 #include <OrvCameraGuiApi/widgets/sliderscale.h>
 
+#include <OrvCameraGuiApi/widgets/integers.h>
 #include <OrvCameraGuiApi/widgets/stepgrid.h>
 
 #include <algorithm>
@@ -11,8 +12,8 @@ namespace {
 /** Added to the distance from the minimum before its logarithm is taken, so that the first values lie apart. */
 constexpr int logOffset = 10;
 
-/** Leaves an int room for one position more. */
-constexpr double mostPositions = std::numeric_limits<int>::max() - 1;
+/** One less than an int can count: another position may be added. */
+constexpr double mostPositions = Integers::Largest - 1;
 
 double rounded(double number)
 {
@@ -58,7 +59,7 @@ void IntegerScale::update()
     const auto distance = double(width());
     if (m_type == QtOrvSlider::Linear) {
         m_first = isCrowded() ? 0 : m_minimum;
-        m_last = isCrowded() ? std::numeric_limits<int>::max() : m_maximum;
+        m_last = isCrowded() ? Integers::Largest : m_maximum;
         return;
     }
     if (m_type == QtOrvSlider::Log10) {
@@ -70,7 +71,7 @@ void IntegerScale::update()
         m_first = 0;
         m_last = int(rounded(std::sqrt(distance)));
     }
-    // Where the last position falls short of the maximum, or there is just one for two values, one more reaches it.
+    // One more position reaches the maximum if the last one falls short of it, or if two values share one position.
     if (distance > distanceAt(m_last) || (distance > 0 && m_last == m_first))
         ++m_last;
 }
@@ -82,7 +83,7 @@ quint64 IntegerScale::width() const
 
 bool IntegerScale::isCrowded() const
 {
-    return m_type == QtOrvSlider::Linear && width() > quint64(std::numeric_limits<int>::max());
+    return m_type == QtOrvSlider::Linear && width() > quint64(Integers::Largest);
 }
 
 int IntegerScale::positionStep() const
@@ -93,7 +94,7 @@ int IntegerScale::positionStep() const
                        : m_singleStep;
 }
 
-/** What a position between the ends adds to the minimum; for the logarithm plus logOffset. */
+/** The distance from the minimum at a position between the ends; on a Log10 scale plus logOffset. */
 double IntegerScale::distanceAt(int position) const
 {
     if (m_type == QtOrvSlider::Log10)
@@ -115,7 +116,7 @@ int IntegerScale::positionOf(int value) const
         return m_first;
     if (isCrowded()) {
         const quint64 position = scaled(quint64(qint64(value) - m_minimum), quint64(m_last), width());
-        return int(qBound<quint64>(1, position, quint64(m_last) - 1)); // the ends are for the bounds
+        return int(qBound<quint64>(1, position, quint64(m_last) - 1)); // the ends are kept for the bounds
     }
     if (m_type == QtOrvSlider::Linear)
         return value;
@@ -139,7 +140,7 @@ int IntegerScale::valueAt(int position) const
     return snapped(int(qBound(double(m_minimum), m_minimum + distance, double(m_maximum))));
 }
 
-/** The end of a whole step from \a value, on the grid if values are; at most the bound. */
+/** \a value a whole step further, at most the bound; on the grid with validate(). */
 int IntegerScale::stepped(int value, bool up) const
 {
     const qint64 beyondGrid = m_validate ? (qint64(value) - m_minimum) % m_singleStep : 0;
@@ -148,7 +149,7 @@ int IntegerScale::stepped(int value, bool up) const
     return int(std::max<qint64>(beyondGrid > 0 ? value - beyondGrid : qint64(value) - m_singleStep, m_minimum));
 }
 
-/** The position nearest to \a value of those that stand for more, or for less; at most the end. */
+/** The first position that stands for more than \a value, or for less unless \a up; at most the end. */
 int IntegerScale::firstBeyond(int value, bool up) const
 {
     qint64 near = up ? qint64(m_first) - 1 : qint64(m_last) + 1;
@@ -162,7 +163,7 @@ int IntegerScale::firstBeyond(int value, bool up) const
     return int(beyond);
 }
 
-/** The ends are for the bounds, where there is room: whoever goes on to an end is to get somewhere. */
+/** The end positions are kept for the bounds where there is room, so that another key still leads somewhere. */
 IntegerScale::Stop IntegerScale::stopAt(int value) const
 {
     const int position = positionOf(value);
@@ -206,17 +207,17 @@ void DoubleScale::update()
 {
     const double steps = quotient(m_minimum, m_maximum, m_singleStep);
     if (!(steps <= mostPositions)) {
-        m_last = std::numeric_limits<int>::max();
+        m_last = Integers::Largest;
         m_positionWidth = m_maximum / m_last - m_minimum / m_last;
         return;
     }
     m_last = int(rounded(steps));
     m_positionWidth = m_singleStep;
-    // A rest that is but the error of these numbers gets no position of its own.
-    const double rest = m_maximum - std::fma(m_last, m_singleStep, m_minimum);
+    // A remainder within the rounding error gets no position of its own.
+    const double remainder = m_maximum - std::fma(m_last, m_singleStep, m_minimum);
     const double error =
         4 * std::numeric_limits<double>::epsilon() * std::max(std::abs(m_minimum), std::abs(m_maximum));
-    if (rest > error || (m_last == 0 && m_maximum > m_minimum))
+    if (remainder > error || (m_last == 0 && m_maximum > m_minimum))
         ++m_last;
 }
 

@@ -3,8 +3,8 @@
 #include <OrvCameraGuiApi/widgets/qtorvslider.h>
 
 /**
- * How the integers of a range lie on the positions of a slider. Whatever the settings: the ends of both meet, neither
- * direction ever turns round, and nothing leaves its range.
+ * Maps the integers of a range to the positions of a slider. With any settings the ends of both meet, both grow in the
+ * same direction, and nothing leaves its range.
  */
 class IntegerScale
 {
@@ -25,31 +25,31 @@ public:
 
     int firstPosition() const { return m_first; }
     int lastPosition() const { return m_last; }
-    int positionStep() const; ///< the positions of a single step
+    int positionStep() const; ///< positions in a single step
 
     /**
-     * Whether there are more values on a linear scale than a slider can take positions: two neighbours may share one
-     * then. A slider's range has to be narrower than 2^31, see QStyle::sliderPositionFromValue().
+     * Whether a linear scale has more values than a slider can have positions, so that two neighbours may share one. A
+     * slider's range has to be narrower than 2^31, see QStyle::sliderPositionFromValue().
      */
     bool isCrowded() const;
 
-    /** Of the value in the range that is nearest to \a value, snapped if values are. */
+    /** The position of the value in the range that is nearest to \a value, snapped with validate(). */
     int positionOf(int value) const;
     int valueAt(int position) const;
 
-    /** A value of the range, on the grid if values are. */
+    /** The nearest value on the grid with validate(), else \a value; both lie in the range. */
     int snapped(int value) const;
 
     struct Stop
     {
         int position;
-        int value; ///< which need not be what the position alone stands for
+        int value; ///< may differ from valueAt(position)
     };
 
     /**
-     * Where a key leads from \a value: \a positions on, but at least a whole step, on the grid if values are, or to the
-     * bound. From a value off the grid the next point of the grid is a whole step, so that keys in either direction
-     * come by the same points.
+     * The stop that a key leads to from \a value: \a positions further, but at least a whole step and at most the
+     * bound; on the grid with validate(). From a value off the grid the next grid point counts as a whole step, so that
+     * the keys of both directions stop at the same points.
      */
     Stop next(int value, bool up, int positions) const;
 
@@ -70,10 +70,10 @@ private:
 
     int m_first = 0;
     int m_last = 0;
-    double m_positionsPerDecade = 0; ///< log10Coef, or less where that would be too many positions
+    double m_positionsPerDecade = 0; ///< log10Coef, or less if an int could not count the positions
 };
 
-/** How the numbers of a range lie on the positions 0 and up: one a step, and the maximum on the last. */
+/** Maps the numbers of a range to the positions 0 and up: one position a step, and the maximum on the last one. */
 class DoubleScale
 {
 public:
@@ -89,7 +89,9 @@ public:
 
     int lastPosition() const { return m_last; }
 
-    /** Of the value in the range that is nearest to \a value, which is no NaN; snapped if values are. */
+    /**
+     * The position of the number in the range that is nearest to \a value, which is no NaN; snapped with validate().
+     */
     int positionOf(double value) const;
     double valueAt(int position) const;
 
@@ -103,5 +105,5 @@ private:
     bool m_validate = false;
 
     int m_last = 0;
-    double m_positionWidth = 1; ///< the step, or more where that would be too many positions
+    double m_positionWidth = 1; ///< the step, or more if an int could not count the positions
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <OrvCameraGuiApi/widgets/entryguard.h>
+#include <OrvCameraGuiApi/widgets/integers.h>
 #include <OrvCameraGuiApi/widgets/qtorvdoublespinboxval.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
@@ -12,7 +13,6 @@
 #include <QScopedValueRollback>
 
 #include <cmath>
-#include <limits>
 #include <utility>
 
 namespace SpinSlider {
@@ -32,7 +32,7 @@ inline auto textSignal(const QtOrvDoubleSpinBoxVal *)
     return &QtOrvDoubleSpinBoxVal::textChanged;
 }
 
-/** Lets \a spinBox announce its value although that has not changed; with the bare number for a text, intentionally. */
+/** Emits the signals of \a spinBox for an unchanged value. The text is the bare number, intentionally. */
 inline void announce(QtOrvSpinBoxVal64 *spinBox)
 {
     Q_EMIT spinBox->valueChanged(spinBox->value());
@@ -49,8 +49,7 @@ void announce(SpinBox *spinBox)
 
 inline int numberFor(const QtOrvSpinBoxVal64 *, long long value)
 {
-    using Limits = std::numeric_limits<int>;
-    return int(qBound<long long>(Limits::min(), value, Limits::max()));
+    return Integers::clampedToInt(value);
 }
 
 inline int numberFor(const QtOrvSpinBoxVal *, int value)
@@ -69,7 +68,7 @@ bool shows(const SpinBox *spinBox, int value)
     return spinBox->value() == value;
 }
 
-/** As well as its decimals can. */
+/** Compares as precisely as the decimals of the box. */
 inline bool shows(const QtOrvDoubleSpinBoxVal *spinBox, double value)
 {
     constexpr double halfAndError = 0.5 + 1e-6;
@@ -99,7 +98,7 @@ inline bool hasTaken(const QtOrvDoubleSpinBoxVal *spinBox, double value)
     return spinBox->value() == qBound(spinBox->minimum(), rounded, spinBox->maximum());
 }
 
-/** Shows \a value as it is, on the grid or off it. */
+/** Shows \a value without snapping. */
 inline void showUnmoved(QtOrvSpinBoxVal64 *spinBox, long long value)
 {
     const bool snaps = spinBox->validateStepping();
@@ -118,7 +117,7 @@ inline void showUnmoved(QtOrvDoubleSpinBoxVal *spinBox, double value)
     spinBox->QDoubleSpinBox::setValue(value);
 }
 
-/** Nothing stands between prefix and suffix, and it was not the user who took it away. */
+/** Whether \a field shows no number, although no person has deleted it. */
 template <typename Field>
 bool isEmptied(const Field *field)
 {
@@ -128,16 +127,16 @@ bool isEmptied(const Field *field)
 
 } // namespace SpinSlider
 
-/** What the spin box still does while the slider is dragged. */
+/** The effect that a change of the spin box has during a drag. */
 enum class WhileDragged { Nothing, MovesSlider };
 
 /**
- * Keeps a spin box and a slider of a composite in step, and speaks for the composite: with the voice of the spin box,
- * but while the slider is dragged not at all, and once when it is released.
+ * Keeps the spin box and the slider of a composite in step and emits the signals of the composite. These are the
+ * signals of the spin box, except during a drag, which is announced once, on release.
  *
- * The number is the spin box's. Whoever moves the slider sets it to what the slider says. What changes the number in
- * another way moves the slider to the nearest position, which does not change the number again: that may lie between
- * the positions. Nor does another range or scale of the slider change it, unless it is outside.
+ * The number is that of the spin box. A person who moves the slider sets it to the slider's value. Any other change of
+ * the number moves the slider to the nearest position and leaves the number alone, also between two positions. Another
+ * range or scale of the slider only changes a number that lies outside.
  *
  * A bound with more decimals than the spin box shows may be rounded to a number beyond it. That end of the spin box
  * then stands for the bound.
@@ -149,10 +148,13 @@ public:
     using SpinNumber = decltype(std::declval<SpinBox>().value());
     using Number = decltype(std::declval<Slider>().value());
 
-    /** Not a child of \a composite: the connections end with this link, and the parts outlive it by a focus-out. */
+    /**
+     * Not a child of \a composite: the connections have to end before the parts are destroyed, which lose the focus
+     * then.
+     */
     SpinSliderLink(Composite *composite, SpinBox *spinBox, Slider *slider, WhileDragged whileDragged);
 
-    /** What the spin box shows or stands for, and what was announced last unless the slider is being dragged. */
+    /** The number that the spin box stands for. Except during a drag it has been announced. */
     Number value() const;
     void setValue(Number value);
 
@@ -183,10 +185,10 @@ private:
     SpinBox *const m_spinBox;
     Slider *const m_slider;
     const WhileDragged m_whileDragged;
-    SpinNumber m_shown{}; ///< in the spin box when it was last looked at
-    Number m_value{}; ///< what that stands for
+    SpinNumber m_shown{}; ///< the last known value of the spin box
+    Number m_value{}; ///< the number that m_shown stands for
     SpinNumber m_beforeDrag{};
-    SpinNumber m_dragged{}; ///< what the slider has last set while it is dragged
+    SpinNumber m_dragged{}; ///< the last value that the present drag has set
     bool m_isDragged = false;
     bool m_movingSlider = false;
 };
@@ -249,7 +251,7 @@ void SpinSliderLink<Composite, SpinBox, Slider>::keep()
     m_shown = m_spinBox->value();
 }
 
-/** From now on, what is shown stands for \a value. */
+/** Makes the shown number stand for \a value. */
 template <typename Composite, typename SpinBox, typename Slider>
 void SpinSliderLink<Composite, SpinBox, Slider>::stand(Number value)
 {
@@ -266,7 +268,7 @@ void SpinSliderLink<Composite, SpinBox, Slider>::enter(Number value)
     stand(standsFor(m_spinBox->value()));
 }
 
-/** The spin box for 64 bits does not limit its value itself. */
+/** Moves a number into the new range; the 64-bit spin box does not do that itself. */
 template <typename Composite, typename SpinBox, typename Slider>
 void SpinSliderLink<Composite, SpinBox, Slider>::fitRange()
 {
@@ -290,7 +292,7 @@ void SpinSliderLink<Composite, SpinBox, Slider>::sliderChanged()
     m_dragged = m_spinBox->value();
 }
 
-/** A number between the last positions has the slider at its end, where a key or a page would not move it. */
+/** Lets a key go on to the bound. With a number between the last two positions the slider is at its end already. */
 template <typename Composite, typename SpinBox, typename Slider>
 void SpinSliderLink<Composite, SpinBox, Slider>::goOnToBound(int action)
 {
@@ -306,7 +308,7 @@ template <typename Composite, typename SpinBox, typename Slider>
 void SpinSliderLink<Composite, SpinBox, Slider>::moveSlider()
 {
     if (SpinSlider::shows(m_spinBox, m_slider->value()))
-        return; // wherever in its position the slider stands
+        return; // the slider stands for the number already
     const QScopedValueRollback<bool> guard(m_movingSlider, true);
     m_slider->setValue(value());
 }
@@ -331,15 +333,15 @@ void SpinSliderLink<Composite, SpinBox, Slider>::released()
     const SpinNumber before = m_spinBox->value();
     if (inner()->isDragged() && !SpinSlider::shows(m_spinBox, m_slider->value()))
         enter(m_slider->value());
-    if (m_spinBox->value() == before) // has not said anything
+    if (m_spinBox->value() == before) // the spin box has announced nothing
         SpinSlider::announce(m_spinBox);
 }
 
-/** Nobody has let go of the handle: the slider was disabled under the hand. */
+/** The slider was disabled during the drag: the number from before comes back. */
 template <typename Composite, typename SpinBox, typename Slider>
 void SpinSliderLink<Composite, SpinBox, Slider>::dropDrag()
 {
-    if (m_spinBox->value() == m_dragged) // else somebody has set another number meanwhile
+    if (m_spinBox->value() == m_dragged) // else a program has set another number meanwhile
         SpinSlider::showUnmoved(m_spinBox, m_beforeDrag);
     m_isDragged = false;
     inner()->setSliderPosition(inner()->value()); // without tracking it would still become the value
@@ -352,7 +354,7 @@ void SpinSliderLink<Composite, SpinBox, Slider>::setValue(Number value)
     if (std::isnan(double(value)))
         return;
     value = bounded(value);
-    if (!SpinSlider::hasTaken(m_spinBox, value)) // else what is being typed stays
+    if (!SpinSlider::hasTaken(m_spinBox, value)) // leaves a text that is being typed
         m_spinBox->setValue(value);
     if (value != this->value())
         stand(standsFor(m_spinBox->value()));
@@ -376,6 +378,6 @@ template <typename Composite, typename SpinBox, typename Slider>
 bool SpinSliderLink<Composite, SpinBox, Slider>::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_spinBox && event->type() == QEvent::LocaleChange)
-        m_slider->setLocale(m_spinBox->locale()); // its bounds look like the number
+        m_slider->setLocale(m_spinBox->locale()); // the bounds look like the number
     return QObject::eventFilter(watched, event);
 }

@@ -36,7 +36,7 @@ QWidget *wholeOf(const QWidget *part)
     return parent && (isOneOf(parent, composites) || isOneOf(parent, spinBoxes)) ? parent : nullptr;
 }
 
-/** What a label says, without what is only for the eye or the keyboard. */
+/** The text of a label without mnemonic and final colon. */
 QString spoken(QString text)
 {
     static const QRegularExpression mnemonic(QStringLiteral("&(.)"));
@@ -44,7 +44,7 @@ QString spoken(QString text)
     return text.endsWith(QLatin1Char(':')) ? text.chopped(1).trimmed() : text;
 }
 
-/** What \a widget says it is called; empty when it does not. */
+/** The name that \a widget gives itself; empty if none. */
 QString nameOf(const QWidget *widget)
 {
     if (!widget->accessibleName().isEmpty())
@@ -57,7 +57,7 @@ QString nameOf(const QWidget *widget)
     return {};
 }
 
-/** A widget that without a name of its own bears that of what it is a part of. */
+/** A widget that takes the name of its whole unless it has one of its own. */
 class PartAccessible : public QAccessibleWidget
 {
 public:
@@ -72,11 +72,11 @@ public:
             return name;
         QWidget *const whole = wholeOf(widget());
         return whole ? partName(QAccessible::queryAccessibleInterface(whole)->text(kind))
-                     : spoken(QAccessibleWidget::text(kind)); // of a label beside it
+                     : spoken(QAccessibleWidget::text(kind)); // that of a label beside it
     }
 
 private:
-    /** Beside a spin box the slider, and the button that opens it, are told apart from that. */
+    /** The slider and the button that opens it need a name apart from that of the spin box. */
     QString partName(const QString &whole) const
     {
         if (!isOneOf(widget(), sliders) && !widget()->inherits("QToolButton"))
@@ -88,7 +88,7 @@ private:
 class ValueAccessible : public PartAccessible, public QAccessibleValueInterface
 {
 public:
-    /** The numbers are properties of \a source, which outlives \a widget or is the same. */
+    /** Reads the numbers from properties of \a source, which is \a widget or outlives it. */
     ValueAccessible(QWidget *widget, QAccessible::Role role, QObject *source)
         : PartAccessible(widget, role)
         , m_source(source)
@@ -117,7 +117,7 @@ private:
     QObject *const m_source;
 };
 
-/** A spin box with the text of its line edit, which is hidden from tools behind it. */
+/** A spin box that offers the text of its line edit; tools do not see the line edit itself. */
 class SpinBoxAccessible : public ValueAccessible
 {
 public:
@@ -180,7 +180,7 @@ public:
     }
 };
 
-/** The line edit of a spin box, for who finds it all the same; what it shows is the spin box's. */
+/** The line edit of a spin box, which some tools find all the same; it answers with the text of the spin box. */
 class InnerEditAccessible : public PartAccessible
 {
 public:
@@ -204,7 +204,7 @@ private:
     QAccessibleInterface *spinBox() const { return QAccessible::queryAccessibleInterface(widget()->parentWidget()); }
 };
 
-/** Asked for every class of an object in turn, the most derived first. */
+/** Qt calls this for every class of an object, the most derived first. */
 QAccessibleInterface *makeInterface(const QString &className, QObject *object)
 {
     if (auto *slider = qobject_cast<KeyAwareSlider *>(object))

@@ -1,12 +1,13 @@
 #pragma once
 
 /**
- * Makes assistive tools meet the spin boxes, sliders and composites as what they are; each calls this when it is made.
- * Their "value", "minimum", "maximum" and "singleStep" are read and set where a tool asks for the value of the widget
- * or of the slider inside, whose own numbers are but positions.
+ * Registers the accessible interfaces of the spin boxes, sliders and composites; each of them calls this when it is
+ * made. The interfaces read and set the properties "value", "minimum", "maximum" and "singleStep", also for the slider
+ * inside, whose own numbers are positions.
  *
- * A composite is called by its accessible name, else its caption, else the label whose buddy it is. Its parts, unless
- * they have accessible names of their own, are called like it, and so is the line edit of a spin box; the slider beside
- * a spin box, or the button that opens it, is its "... slider". All of that is found out when a tool asks.
+ * A composite takes its name from its accessible name, else from its caption, else from the label whose buddy it is. A
+ * part without an accessible name of its own has the name of the composite, and so has the line edit of a spin box. The
+ * slider beside a spin box, and the button that opens it, are called "... slider". Names are determined when a tool
+ * asks.
  */
 void installValueAccessibility();
