@@ -73,6 +73,7 @@ private Q_SLOTS:
     void changesEveryKind_data();
     void changesEveryKind();
     void movesBetweenColumns();
+    void changesNothingUnasked();
     void leavesTheSearchItsKeys();
     void goesToTheFilter();
     void paintsReadably_data();
@@ -159,6 +160,22 @@ void TestTreeKeys::movesBetweenColumns()
         QVERIFY(!shown.tree->hasFocus());
         QCOMPARE(shown.port.writeCount(), uint64_t(0));
     }
+}
+
+void TestTreeKeys::changesNothingUnasked()
+{
+    ShownView shown;
+    QVERIFY(shown.show());
+    QVERIFY(walkTo(shown, "Flag"));
+    press(Qt::Key_Right);
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Space, {}, QStringLiteral(" "), true);
+    QCoreApplication::sendEvent(shown.tree, &held);
+    QCOMPARE(shown.port.writeCount(), uint64_t(0));
+    shown.tree->setEditTriggers(QTreeView::NoEditTriggers);
+    for (const int key : {Qt::Key_Space, Qt::Key_F2, Qt::Key_Return})
+        press(key);
+    QVERIFY(!hasEditor(shown));
+    QCOMPARE(shown.port.writeCount(), uint64_t(0));
 }
 
 void TestTreeKeys::leavesTheSearchItsKeys()
