@@ -5,6 +5,7 @@
 
 #include <QAbstractProxyModel>
 #include <QAction>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QElapsedTimer>
@@ -39,7 +40,7 @@ QByteArray detailNodes()
 <IntReg Name="Slow"><Address>0x200</Address><Length>4</Length><AccessMode>RW</AccessMode><pPort>Device</pPort>
   <PollingTime>10</PollingTime><Endianess>BigEndian</Endianess></IntReg>
 <Integer Name="PixelFormat"><DisplayName>Colors</DisplayName><Value>1</Value></Integer>
-<Integer Name="Hidden"><Value>7</Value></Integer>)";
+<Integer Name="Hidden"><Visibility>Guru</Visibility><Value>7</Value></Integer>)";
 }
 
 template <typename Editor>
@@ -354,6 +355,14 @@ void TestTreeDetails::servesIntegrators()
     shown.view.setParams(shown.map.get());
     shown.tree->expandAll();
     QVERIFY(shown.cell("Colors").isValid() && !shown.cell("Slow").isValid());
+    shown.click(shown.cell("Colors", 0));
+    shown.part<QCheckBox>("checkBoxCase")->setChecked(true);
+    shown.view.setParams(shown.map.get());
+    QVERIFY(shown.cell("Colors").isValid());
+    shown.view.setFilterText(QStringLiteral("pixelF*"));
+    shown.view.setParams(shown.map.get());
+    QVERIFY(!shown.cell("Colors").isValid());
+    shown.view.setFilterText(QString());
     shown.click(shown.cell("Colors", 0));
     shown.view.clearParams();
     QCOMPARE(current.takeLast(), QVariantList{QString()});

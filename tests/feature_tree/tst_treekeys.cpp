@@ -73,6 +73,7 @@ private Q_SLOTS:
     void changesEveryKind_data();
     void changesEveryKind();
     void movesBetweenColumns();
+    void changesNothingUnasked();
     void leavesTheSearchItsKeys_data();
     void leavesTheSearchItsKeys();
     void goesToTheFilter();
@@ -167,6 +168,22 @@ void TestTreeKeys::leavesTheSearchItsKeys_data()
     QTest::addColumn<bool>("fromValues");
     QTest::addRow("names") << false;
     QTest::addRow("values") << true;
+}
+
+void TestTreeKeys::changesNothingUnasked()
+{
+    ShownView shown;
+    QVERIFY(shown.show());
+    QVERIFY(walkTo(shown, "Flag"));
+    press(Qt::Key_Right);
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Space, {}, QStringLiteral(" "), true);
+    QCoreApplication::sendEvent(shown.tree, &held);
+    QCOMPARE(shown.port.writeCount(), uint64_t(0));
+    shown.tree->setEditTriggers(QTreeView::NoEditTriggers);
+    for (const int key : {Qt::Key_Space, Qt::Key_F2, Qt::Key_Return})
+        press(key);
+    QVERIFY(!hasEditor(shown));
+    QCOMPARE(shown.port.writeCount(), uint64_t(0));
 }
 
 void TestTreeKeys::leavesTheSearchItsKeys()
