@@ -19,6 +19,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 #include <QTextDocument>
 #include <QToolTip>
 #include <QTreeView>
@@ -599,8 +600,11 @@ private Q_SLOTS:
             if (std::exchange(isAsked, true))
                 return;
             OrvSim::unplug(monochrome);
+            const QSignalSpy resets(shown.model(), &QAbstractItemModel::modelReset);
             meanwhile(shown);
             QCoreApplication::processEvents();
+            if (dialog)
+                QCOMPARE(resets.size(), 0);
         };
         GenApi::INode *const node = params->GetNodeMap()->GetNode("DeviceSelector");
         const auto handle =
@@ -613,6 +617,26 @@ private Q_SLOTS:
             return;
         }
         QTRY_VERIFY(!shown.model()->getItemIdx(QLatin1String(monochrome)).isValid());
+    }
+
+    /** On a screen that is too small all of it can be scrolled to. */
+    void fitsTheScreen()
+    {
+        const QFont usual = QApplication::font();
+        QFont large = usual;
+        large.setPointSize(40);
+        QApplication::setFont(large);
+        {
+            Shown shown;
+            SetIpDialog setIp;
+            setIp.show();
+            for (const QDialog *const dialog : std::initializer_list<const QDialog *>{shown.dialog.get(), &setIp}) {
+                const QSize room = dialog->screen()->availableSize();
+                QVERIFY(dialog->width() <= room.width() && dialog->height() <= room.height());
+            }
+            QVERIFY(!edit(setIp, "ipEdit")->visibleRegion().isEmpty());
+        }
+        QApplication::setFont(usual);
     }
 
     void goesOnPollingAfterAnException()

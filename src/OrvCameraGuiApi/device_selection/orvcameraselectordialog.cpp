@@ -208,7 +208,7 @@ OrvCameraSelectorDialogPrivate::OrvCameraSelectorDialogPrivate(OrvCameraSelector
 void OrvCameraSelectorDialogPrivate::init(bool poll)
 {
     ui.setupUi(q);
-    openWithinScreen(*q);
+    scrollWhereTooSmall(*q);
     q->installEventFilter(this);
     ui.splitter->setStretchFactor(0, 1);
     ui.splitter->setStretchFactor(1, 1);

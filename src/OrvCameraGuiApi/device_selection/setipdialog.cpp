@@ -10,6 +10,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QScrollArea>
 
 #include <algorithm>
 
@@ -130,7 +131,7 @@ SetIpDialog::SetIpDialog(QWidget *parent)
     d->ui.setupUi(this);
     d->showAsInactive(palette());
     d->makeRoom();
-    openWithinScreen(*this);
+    scrollWhereTooSmall(*this);
     for (QLineEdit *edit : {d->ui.ipEdit, d->ui.netmaskEdit, d->ui.gatewayEdit}) {
         edit->setValidator(new IP4Validator(edit));
         new WholePaste(edit);
@@ -244,4 +245,7 @@ void SetIpDialog::showEvent(QShowEvent *event)
     edit->setFocus();
     const int start = edit->text().lastIndexOf(QLatin1Char('.')) + 1;
     edit->setSelection(start, edit->text().size() - start);
+    // On a screen that is too small; the area itself follows the focus later, where people take it.
+    if (auto *const area = findChild<QScrollArea *>())
+        area->ensureWidgetVisible(edit);
 }
