@@ -203,6 +203,9 @@ private Q_SLOTS:
 
     void showsWhatThereIsToKnow()
     {
+        OrvSim::DeviceSpec fast = cameraNamed("fast");
+        fast.usbVersion = 0x300;
+        OrvSim::addDevice("ORV-XHCI-0", fast);
         Shown shown;
         shown.click(twoFrame);
         const QStringList device = shown.devicePane();
@@ -231,6 +234,9 @@ private Q_SLOTS:
             QBrush(Qt::red));
         QCOMPARE(shown.devicePane().size(), 8);
         QCOMPARE(shown.interfacePane().size(), 3);
+        shown.click("fast");
+        QCOMPARE(shown.devicePane().at(usb), QStringLiteral("USB Version=0x0300"));
+        QVERIFY(!shown.part<QTreeView>("deviceInfoView")->model()->index(usb, 1).data(Qt::ForegroundRole).isValid());
     }
 
     void namesEachTypeOfInterface()
@@ -528,6 +534,7 @@ private Q_SLOTS:
                 OrvSim::DeviceSpec camera = cameraNamed(name);
                 camera.id = id;
                 camera.displayName = name;
+                camera.macAddress = name[0] == 't' ? 2 : 1;
                 camera.network = {0xC0A80A14, 0xFFFFFF00, 0};
                 OrvSim::addDevice("ORV-ETH-0", camera);
             }
@@ -539,6 +546,7 @@ private Q_SLOTS:
             OrvSim::unplug(monochrome);
             QTRY_VERIFY(!shown.model()->getItemIdx(QLatin1String(monochrome)).isValid());
             QCOMPARE(current(), QStringLiteral("two"));
+            QVERIFY(shown.devicePane().contains(QStringLiteral("MAC Address=00:00:00:00:00:02")));
             OrvTest::whenOpen<SetIpDialog>([&](SetIpDialog &dialog) { dialog.accept(); });
             QTest::mouseClick(shown.setIp(), Qt::LeftButton);
             QVERIFY(shown.devicePane().contains(QStringLiteral("IP Address=192.168.10.2")));
@@ -635,6 +643,9 @@ private Q_SLOTS:
                 QVERIFY(dialog->width() <= room.width() && dialog->height() <= room.height());
             }
             QVERIFY(!edit(setIp, "ipEdit")->visibleRegion().isEmpty());
+            setIp.activateWindow(); // to be destroyed while it has the focus
+            QVERIFY(QTest::qWaitForWindowActive(&setIp));
+            QTRY_VERIFY(edit(setIp, "ipEdit")->hasFocus());
         }
         QApplication::setFont(usual);
     }
