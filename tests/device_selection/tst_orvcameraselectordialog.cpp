@@ -530,11 +530,11 @@ private Q_SLOTS:
         SystemPolling::period = shortPeriod;
         for (const OrvSim::Text &id : {OrvSim::Text("same"), OrvSim::Text()}) {
             OrvSim::reset();
-            for (const char *name : {"one", "two"}) {
+            for (const char *name : {"one", "two", "three"}) {
                 OrvSim::DeviceSpec camera = cameraNamed(name);
                 camera.id = id;
                 camera.displayName = name;
-                camera.macAddress = name[0] == 't' ? 2 : 1;
+                camera.macAddress = name[1] == 'w' ? 2 : 1;
                 camera.network = {0xC0A80A14, 0xFFFFFF00, 0};
                 OrvSim::addDevice("ORV-ETH-0", camera);
             }
@@ -610,7 +610,8 @@ private Q_SLOTS:
             OrvSim::unplug(monochrome);
             const QSignalSpy resets(shown.model(), &QAbstractItemModel::modelReset);
             meanwhile(shown);
-            QCoreApplication::processEvents();
+            for (int i = 0; i < 10; ++i)
+                QCoreApplication::processEvents();
             if (dialog)
                 QCOMPARE(resets.size(), 0);
         };
