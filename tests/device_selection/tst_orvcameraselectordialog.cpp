@@ -4,6 +4,8 @@
 #include <OrvCameraGuiApi/device_selection/setipdialog.h>
 #include <OrvCameraGuiApi/device_selection/systempolling.h>
 
+#include <GenApi/NodeCallback.h>
+
 #include <orvtest.h>
 #include <simtest.h>
 #include <whenopen.h>
@@ -17,12 +19,14 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 #include <QTextDocument>
 #include <QToolTip>
 #include <QTreeView>
 
 #include <memory>
 #include <pthread.h>
+#include <stdexcept>
 #include <thread>
 
 using namespace SimTest;
@@ -95,6 +99,27 @@ struct Shown
 
     const Held<OrvCam::System> system;
     std::unique_ptr<OrvGui::OrvCameraSelectorDialog> dialog;
+};
+
+/** Does something when the widget is hidden, before anybody is told why. */
+class WhenHidden : public QObject
+{
+public:
+    WhenHidden(QWidget &widget, std::function<void()> action)
+        : m_action(std::move(action))
+    {
+        widget.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Hide)
+            m_action();
+        return false;
+    }
+
+private:
+    const std::function<void()> m_action;
 };
 
 /** What the user or the world does. */
@@ -178,6 +203,9 @@ private Q_SLOTS:
 
     void showsWhatThereIsToKnow()
     {
+        OrvSim::DeviceSpec fast = cameraNamed("fast");
+        fast.usbVersion = 0x300;
+        OrvSim::addDevice("ORV-XHCI-0", fast);
         Shown shown;
         shown.click(twoFrame);
         const QStringList device = shown.devicePane();
@@ -206,6 +234,9 @@ private Q_SLOTS:
             QBrush(Qt::red));
         QCOMPARE(shown.devicePane().size(), 8);
         QCOMPARE(shown.interfacePane().size(), 3);
+        shown.click("fast");
+        QCOMPARE(shown.devicePane().at(usb), QStringLiteral("USB Version=0x0300"));
+        QVERIFY(!shown.part<QTreeView>("deviceInfoView")->model()->index(usb, 1).data(Qt::ForegroundRole).isValid());
     }
 
     void namesEachTypeOfInterface()
@@ -373,6 +404,29 @@ private Q_SLOTS:
         QToolTip::hideText();
     }
 
+    /** Lines, and texts of any length, leave rows their height and tool tips a size. */
+    void showsTextsInALine()
+    {
+        OrvSim::InterfaceSpec spec;
+        spec.name = "lines";
+        spec.id = "lines";
+        spec.description = "one\ntwo\xe2\x80\xa8three" + std::string(5000, 'W');
+        OrvSim::addInterface(spec);
+        Shown shown;
+        shown.click("lines");
+        const auto height = [&](const char *id) {
+            return shown.tree()->visualRect(shown.model()->getItemIdx(QLatin1String(id))).height();
+        };
+        QCOMPARE(height("lines"), height("ORV-ETH-0"));
+        auto *const pane = shown.part<QTreeView>("interfaceInfoView");
+        const QRect place = pane->visualRect(pane->model()->index(0, 1));
+        QCOMPARE(place.height(), pane->visualRect(pane->model()->index(1, 1)).height());
+        QHelpEvent help(QEvent::ToolTip, place.center(), pane->viewport()->mapToGlobal(place.center()));
+        QCoreApplication::sendEvent(pane->viewport(), &help);
+        QVERIFY(QToolTip::text().startsWith(QStringLiteral("one\ntwo")) && QToolTip::text().size() < 2000);
+        QToolTip::hideText();
+    }
+
     void asksForTheAccessOnceMore()
     {
         Shown shown;
@@ -470,6 +524,145 @@ private Q_SLOTS:
         QVERIFY(!shown.ok()->isEnabled());
     }
 
+    /** Cameras with one identifier, or none, are told apart by their objects. */
+    void tellsEqualIdentifiersApart()
+    {
+        SystemPolling::period = shortPeriod;
+        for (const OrvSim::Text &id : {OrvSim::Text("same"), OrvSim::Text()}) {
+            OrvSim::reset();
+            for (const char *name : {"one", "two", "three"}) {
+                OrvSim::DeviceSpec camera = cameraNamed(name);
+                camera.id = id;
+                camera.displayName = name;
+                camera.macAddress = name[1] == 'w' ? 2 : 1;
+                camera.network = {0xC0A80A14, 0xFFFFFF00, 0};
+                OrvSim::addDevice("ORV-ETH-0", camera);
+            }
+            Shown shown(true);
+            const auto current = [&] { return shown.tree()->currentIndex().data().toString(); };
+            const auto cameras = shown.tree()->model()->match(shown.model()->getFirstIdx(), Qt::DisplayRole,
+                                                              QStringLiteral("two"), 1, Qt::MatchRecursive);
+            shown.tree()->setCurrentIndex(cameras.constFirst());
+            OrvSim::unplug(monochrome);
+            QTRY_VERIFY(!shown.model()->getItemIdx(QLatin1String(monochrome)).isValid());
+            QCOMPARE(current(), QStringLiteral("two"));
+            QVERIFY(shown.devicePane().contains(QStringLiteral("MAC Address=00:00:00:00:00:02")));
+            OrvTest::whenOpen<SetIpDialog>([&](SetIpDialog &dialog) { dialog.accept(); });
+            QTest::mouseClick(shown.setIp(), Qt::LeftButton);
+            QVERIFY(shown.devicePane().contains(QStringLiteral("IP Address=192.168.10.2")));
+
+            // Gone, it is not mistaken for its neighbour, neither here nor by the address that it was to get.
+            OrvTest::whenOpen<SetIpDialog>([&](SetIpDialog &dialog) {
+                OrvSim::unplug("two");
+                dialog.accept();
+            });
+            QTest::mouseClick(shown.setIp(), Qt::LeftButton);
+            QTRY_VERIFY(qobject_cast<QMessageBox *>(QApplication::activeModalWidget()));
+            press(*static_cast<QMessageBox *>(QApplication::activeModalWidget()), QMessageBox::Ok);
+            QTRY_COMPARE(shown.currentId(), QStringLiteral("ORV-ETH-0"));
+            OrvSim::replug("two");
+            QTRY_COMPARE(current(), QStringLiteral("two"));
+        }
+    }
+
+    /** The camera access library may process events while it is asked; what happens then waits for its answer. */
+    void livesWhileItsQuestionsTakeTime_data()
+    {
+        QTest::addColumn<Step>("activity");
+        QTest::addColumn<Step>("meanwhile");
+        const auto row = [](const char *name, Step activity, Step meanwhile) {
+            QTest::newRow(name) << std::move(activity) << std::move(meanwhile);
+        };
+        const Step key = [](const Shown &shown) { QTest::keyClick(shown.tree(), Qt::Key_Down); };
+        const Step afterRescan = [key](const Shown &shown) {
+            shown.rescan()->click();
+            key(shown);
+        };
+        const Step setIp = [](const Shown &shown) {
+            OrvTest::whenOpen<SetIpDialog>([](SetIpDialog &dialog) { dialog.accept(); });
+            shown.setIp()->click();
+        };
+        const Step rescan = [](const Shown &shown) { shown.rescan()->click(); };
+        const Step poll = [](const Shown &shown) { shown.letPollingLook(); };
+        const Step destroy = [](const Shown &shown) { delete shown.part<QWidget>("infoWidget")->window(); };
+        row("rescan while moving", key, rescan);
+        row("rescan while returning", afterRescan, rescan);
+        row("rescan while setting an address", setIp, rescan);
+        row("polled while moving", key, poll);
+        row("polled while returning", afterRescan, poll);
+        row("polled while setting an address", setIp, poll);
+        row(
+            "destroyed while setting an address", [](const Shown &shown) { shown.setIp()->click(); }, destroy);
+    }
+
+    void livesWhileItsQuestionsTakeTime()
+    {
+        QFETCH(Step, activity);
+        QFETCH(Step, meanwhile);
+        Shown shown;
+        shown.click(twoFrame);
+        const QPointer<QDialog> dialog(shown.dialog.get());
+        OrvGenParam::Array *const params = findDevice(*shown.system, twoFrame)->GetInterface()->GetParameters(nullptr);
+        bool isAsked = false;
+        const auto interrupt = [&](GenApi::INode *) {
+            if (std::exchange(isAsked, true))
+                return;
+            OrvSim::unplug(monochrome);
+            const QSignalSpy resets(shown.model(), &QAbstractItemModel::modelReset);
+            meanwhile(shown);
+            for (int i = 0; i < 10; ++i)
+                QCoreApplication::processEvents();
+            if (dialog)
+                QCOMPARE(resets.size(), 0);
+        };
+        GenApi::INode *const node = params->GetNodeMap()->GetNode("DeviceSelector");
+        const auto handle =
+            GenApi::Register(node, std::function<void(GenApi::INode *)>(interrupt), GenApi::cbPostOutsideLock);
+        activity(shown);
+        GenApi::Deregister(handle);
+        QVERIFY(isAsked);
+        if (!dialog) {
+            static_cast<void>(shown.dialog.release());
+            return;
+        }
+        QTRY_VERIFY(!shown.model()->getItemIdx(QLatin1String(monochrome)).isValid());
+    }
+
+    /** On a screen that is too small all of it can be scrolled to. */
+    void fitsTheScreen()
+    {
+        const QFont usual = QApplication::font();
+        QFont large = usual;
+        large.setPointSize(40);
+        QApplication::setFont(large);
+        {
+            Shown shown;
+            SetIpDialog setIp;
+            setIp.show();
+            for (const QDialog *const dialog : std::initializer_list<const QDialog *>{shown.dialog.get(), &setIp}) {
+                const QSize room = dialog->screen()->availableSize();
+                QVERIFY(dialog->width() <= room.width() && dialog->height() <= room.height());
+            }
+            QVERIFY(!edit(setIp, "ipEdit")->visibleRegion().isEmpty());
+            setIp.activateWindow(); // to be destroyed while it has the focus
+            QVERIFY(QTest::qWaitForWindowActive(&setIp));
+            QTRY_VERIFY(edit(setIp, "ipEdit")->hasFocus());
+        }
+        QApplication::setFont(usual);
+    }
+
+    void goesOnPollingAfterAnException()
+    {
+        std::atomic<int> steps{0};
+        SystemPolling::period = shortPeriod;
+        SystemPolling polling([&] {
+            ++steps;
+            throw std::runtime_error("of a camera access library");
+        });
+        QVERIFY(polling.start());
+        QTRY_VERIFY(steps > 1);
+    }
+
     void rescansWhenAsked()
     {
         Shown shown;
@@ -499,6 +692,9 @@ private Q_SLOTS:
         QCOMPARE(shown.currentId(), QLatin1String(twoFrame));
         QVERIFY(shown.ok()->isEnabled());
         QTest::keyClick(shown.tree(), Qt::Key_Down);
+        QCOMPARE(shown.currentId(), QLatin1String(stray));
+        rescan();
+        QTest::keyClick(shown.tree(), Qt::Key_Down, Qt::ControlModifier);
         QCOMPARE(shown.currentId(), QLatin1String(stray));
         rescan();
         shown.tree()->setFocus();
@@ -576,17 +772,40 @@ private Q_SLOTS:
         QVERIFY(isOpen("ORV-XHCI-0"));
     }
 
+    void leavesClosedWhichOfTwoWasClosed()
+    {
+        OrvSim::clear();
+        for (const char *name : {"one", "two"}) {
+            OrvSim::InterfaceSpec spec;
+            spec.name = name;
+            spec.id = "twin";
+            OrvSim::addInterface(spec);
+        }
+        OrvSim::addDevice("one", cameraNamed("camera"));
+        Shown shown;
+        shown.tree()->collapse(shown.model()->index(1, 0));
+        shown.rescan()->click();
+        QVERIFY(shown.tree()->isExpanded(shown.model()->index(0, 0)));
+        QVERIFY(!shown.tree()->isExpanded(shown.model()->index(1, 0)));
+    }
+
     /** What happens after OK does not reach what was chosen, until the dialog is shown again. */
     void keepsWhatWasChosen()
     {
         Shown shown;
         shown.click(monochrome);
         OrvCam::DeviceInfo *const camera = shown.dialog->selectedCamera();
+        OrvCam::DeviceInfo *atOnce = nullptr;
+        const auto change = [&] {
+            OrvSim::unplug(monochrome);
+            shown.letPollingLook();
+            for (int i = 0; i < 10; ++i)
+                QCoreApplication::processEvents();
+            atOnce = shown.dialog->selectedCamera();
+        };
+        WhenHidden changing(*shown.dialog, change);
         QTest::mouseClick(shown.ok(), Qt::LeftButton);
-        OrvSim::unplug(monochrome);
-        shown.letPollingLook();
-        for (int i = 0; i < 10; ++i)
-            QCoreApplication::processEvents();
+        QCOMPARE(atOnce, camera);
         QCOMPARE(shown.dialog->selectedCamera(), camera);
         shown.dialog->show();
         QVERIFY(!shown.dialog->selectedCamera());

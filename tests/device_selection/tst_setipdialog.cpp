@@ -2,6 +2,7 @@
 
 #include <orvtest.h>
 
+#include <QClipboard>
 #include <QDialogButtonBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -45,6 +46,7 @@ private Q_SLOTS:
     void remarks_data();
     void remarks();
     void lastOctetIsReplaced();
+    void pastesWholeAddresses();
     void anyConfigurationCanBeAccepted();
 };
 
@@ -183,6 +185,23 @@ void tst_SetIpDialog::lastOctetIsReplaced()
     QCOMPARE(dialog.ipAddress(), 0xC0A80139U);
     QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("6")); // an octet ends at 255
     QCOMPARE(dialog.ipAddress(), 0xC0A80139U);
+}
+
+/** Also over the last octet, which is selected at first. */
+void tst_SetIpDialog::pastesWholeAddresses()
+{
+    Dialog dialog;
+    dialog.show();
+    const std::pair<const char *, const char *> rows[] = {
+        {"10.1.2.3", "10.1.2.3"}, {"77", "192.168.1.77"}, {"10.1.2.3/8", "192.168.1.11"}};
+    for (const auto &[pasted, text] : rows) {
+        QLineEdit *const edit = dialog.edit("ipEdit");
+        edit->setText(QStringLiteral("192.168.1.11"));
+        edit->setSelection(10, 2);
+        QGuiApplication::clipboard()->setText(QLatin1String(pasted));
+        QTest::keyClick(edit, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(edit->text(), QLatin1String(text));
+    }
 }
 
 void tst_SetIpDialog::anyConfigurationCanBeAccepted()

@@ -2,6 +2,8 @@
 
 #include <OrvCameraGuiApi/device_selection/devicetreenode.h>
 
+#include <QPointer>
+
 #include <algorithm>
 #include <utility>
 
@@ -34,6 +36,34 @@ bool isText(const char *utf8, const QString &text)
     const QLatin1String bytes(utf8);
     const auto isAscii = [](char byte) { return static_cast<signed char>(byte) >= 0; };
     return std::all_of(bytes.begin(), bytes.end(), isAscii) ? bytes == text : QString::fromUtf8(utf8) == text;
+}
+
+/** As if no other item had that identifier. */
+DeviceTreeModel::Key plainKey(InterfaceNode *transport, DeviceInfoNode *device)
+{
+    DeviceTreeModel::Key key;
+    key.isItem = true;
+    key.isDevice = device;
+    key.transport = transport->object()->GetID();
+    key.transportObject = transport->object();
+    if (device) {
+        key.device = device->object()->GetID();
+        key.deviceObject = device->object();
+    }
+    return key;
+}
+
+/** Whether the items are of one kind and have one identifier. */
+bool isAlike(const DeviceTreeModel::Key &one, const DeviceTreeModel::Key &other)
+{
+    if (one.isDevice != other.isDevice)
+        return false;
+    return one.isDevice ? one.device == other.device : one.transport == other.transport;
+}
+
+bool isSameObject(const DeviceTreeModel::Key &one, const DeviceTreeModel::Key &other)
+{
+    return one.isDevice ? one.deviceObject == other.deviceObject : one.transportObject == other.transportObject;
 }
 
 } // namespace
@@ -140,36 +170,58 @@ QModelIndex DeviceTreeModel::getItemIdx(const QString &id) const
     return {};
 }
 
+/** Every item that has been fetched, in the order of the tree; the device is null for an interface itself. */
+void DeviceTreeModel::forEachItem(const Visit &visit) const
+{
+    for (int row = 0; row < m_root->childCount(); ++row) {
+        auto *const transport = static_cast<InterfaceNode *>(m_root->child(row));
+        visit(transport, nullptr);
+        for (int below = 0; below < transport->childCount(); ++below)
+            visit(transport, static_cast<DeviceInfoNode *>(transport->child(below)));
+    }
+}
+
 DeviceTreeModel::Key DeviceTreeModel::keyOf(const QModelIndex &index) const
 {
-    const QVariant object = data(index, Qt::UserRole);
-    if (auto *const transport = object.value<OrvCam::Interface *>())
-        return {true, false, QByteArray(transport->GetID()), QByteArray()};
-    auto *const device = object.value<OrvCam::DeviceInfo *>();
-    if (!device)
+    if (!index.isValid())
         return {};
-    return {true, true, keyOf(index.parent()).transport, QByteArray(device->GetID())};
+    const bool isDevice = index.parent().isValid();
+    auto *const transport = static_cast<InterfaceNode *>(nodeOf(isDevice ? index.parent() : index));
+    auto *const device = isDevice ? static_cast<DeviceInfoNode *>(nodeOf(index)) : nullptr;
+    Key key = plainKey(transport, device);
+    forEachItem([&](InterfaceNode *otherTransport, DeviceInfoNode *otherDevice) {
+        const Key other = plainKey(otherTransport, otherDevice);
+        if (isAlike(other, key) && !isSameObject(other, key))
+            key.isUnique = false;
+    });
+    return key;
 }
 
 QModelIndex DeviceTreeModel::indexOf(const Key &key) const
 {
-    QModelIndex elsewhere;
-    for (int row = 0; key.isItem && row < m_root->childCount(); ++row) {
-        auto *const transport = static_cast<InterfaceNode *>(m_root->child(row));
-        const bool isBelow = key.transport == transport->object()->GetID();
-        if (!key.isDevice && isBelow)
-            return index(transport);
-        for (int below = 0; key.isDevice && below < transport->childCount(); ++below) {
-            auto *const device = static_cast<DeviceInfoNode *>(transport->child(below));
-            if (key.device != device->object()->GetID())
-                continue;
-            if (isBelow)
-                return index(device);
-            if (!elsewhere.isValid())
-                elsewhere = index(device);
-        }
-    }
-    return elsewhere;
+    DeviceTreeNode *best = nullptr;
+    int bestRank = -1;
+    bool isObject = false;
+    Key first;
+    bool isUnique = key.isUnique;
+    forEachItem([&](InterfaceNode *transport, DeviceInfoNode *device) {
+        const Key item = plainKey(transport, device);
+        if (!key.isItem || !isAlike(item, key))
+            return;
+        if (first.isItem && !isSameObject(item, first))
+            isUnique = false;
+        else
+            first = item;
+        // A device may be listed below several interfaces of one identifier.
+        const int rank = 4 * int(isSameObject(item, key)) + 2 * int(item.transport == key.transport)
+            + int(item.transportObject == key.transportObject);
+        if (rank <= bestRank)
+            return;
+        bestRank = rank;
+        isObject = isSameObject(item, key);
+        best = device ? static_cast<DeviceTreeNode *>(device) : transport;
+    });
+    return best && (isObject || isUnique) ? index(best) : QModelIndex();
 }
 
 QModelIndex DeviceTreeModel::getFirstIdx() const
@@ -215,7 +267,10 @@ DeviceTreeModel::Snapshot DeviceTreeModel::enumerate() const
 
 void DeviceTreeModel::rescan()
 {
-    show(enumerate());
+    const QPointer<DeviceTreeModel> alive(this);
+    Snapshot found = enumerate();
+    if (alive) // the library may process events while it looks
+        show(std::move(found));
 }
 
 int DeviceTreeModel::checkNew()

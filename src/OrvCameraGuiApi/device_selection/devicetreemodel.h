@@ -6,12 +6,15 @@
 #include <QByteArray>
 #include <QStringList>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
 #include <vector>
 
+class DeviceInfoNode;
 class DeviceTreeNode;
+class InterfaceNode;
 class RootNode;
 
 Q_DECLARE_METATYPE(OrvCam::DeviceInfo *)
@@ -40,13 +43,16 @@ public:
     /** By the identifier of the interface. */
     using Devices = std::map<QString, std::vector<OrvCam::DeviceInfo *>>;
 
-    /** Tells an item from all others by the bytes of the identifiers, in whatever list it stands; by default none. */
+    /** Tells an item from all others, in whatever list it stands, first of all by identifiers; by default none. */
     struct Key
     {
         bool isItem = false;
         bool isDevice = false;
+        bool isUnique = true; ///< no other object of its kind has the same identifier
         QByteArray transport; ///< of the interface, which the item itself may be
         QByteArray device;
+        const void *transportObject = nullptr; ///< to be compared only: it may be gone
+        const void *deviceObject = nullptr;
     };
 
     /** Enumerates \a system, which outlives the model; null has no interfaces. */
@@ -81,7 +87,8 @@ public:
 
     /**
      * The item of that key, or the device below another interface if it has gone there; invalid when there is none.
-     * Unlike texts, bytes are never alike where identifiers differ. Only what has been fetched is searched.
+     * Unlike texts, bytes are never alike where identifiers differ. Where several objects have one identifier, only
+     * the object itself is it. Only what has been fetched is searched.
      */
     QModelIndex indexOf(const Key &key) const;
 
@@ -124,6 +131,9 @@ private:
 
     using Snapshot = std::shared_ptr<const State>;
 
+    using Visit = std::function<void(InterfaceNode *transport, DeviceInfoNode *device)>;
+
+    void forEachItem(const Visit &visit) const;
     Snapshot enumerate() const;
     void show(Snapshot state);
     DeviceTreeNode *nodeOf(const QModelIndex &index) const;

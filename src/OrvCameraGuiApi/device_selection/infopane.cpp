@@ -2,16 +2,19 @@
 
 #include <OrvCameraGuiApi/device_selection/ip4validator.h>
 #include <OrvCameraGuiApi/device_selection/mactext.h>
+#include <OrvCameraGuiApi/device_selection/onelinedelegate.h>
 #include <OrvCameraGuiApi/windows/plaintooltip.h>
 
 #include <QBrush>
 #include <QHeaderView>
 #include <QHelpEvent>
+#include <QPointer>
 #include <QStandardItemModel>
 #include <QStyle>
 #include <QToolTip>
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace {
@@ -84,31 +87,37 @@ constexpr std::int64_t missing = -1;
 
 /**
  * Where the device stands in the list that its interface has now; the interface is not told to look again. The object
- * itself counts before another of the same identifier.
+ * itself counts before another of the same identifier, which counts only if there is no third.
  */
-std::int64_t placeOf(OrvCam::DeviceInfo &device)
+std::int64_t placeOf(OrvCam::DeviceInfo &device, bool isUnique)
 {
     OrvCam::Interface *const transport = device.GetInterface();
     OrvCam::DeviceInfoList *const list = transport ? transport->GetDeviceInfoList() : nullptr;
     if (!list)
         return missing;
     const QByteArray id(device.GetID());
-    std::int64_t place = missing;
+    std::int64_t own = missing;
+    std::int64_t alike = missing;
+    int count = 0;
     std::int64_t i = 0;
     for (auto *entry = list->GetSize() != 0 ? list->GetFirst() : nullptr; entry; entry = list->GetNext(), ++i) {
-        if (id == entry->GetID() && (place == missing || entry == &device))
-            place = i;
+        if (id != entry->GetID())
+            continue;
+        ++count;
+        alike = i;
+        if (entry == &device)
+            own = i;
     }
     list->Release();
-    return place;
+    return own != missing || !isUnique || count != 1 ? own : alike;
 }
 
 /** Red where the camera has fewer than the bandwidth of USB 3. */
-void addUsbVersion(QStandardItemModel &rows, OrvGenParam::Array *params, OrvCam::DeviceInfo &device)
+void addUsbVersion(QStandardItemModel &rows, OrvGenParam::Array *params, OrvCam::DeviceInfo &device, bool isUnique)
 {
     const char *const feature = "DeviceUSBVersionDetected";
     OrvCamErr err = OrvCamErr_Ok;
-    if (!params || !params->GetInt(feature, &err) || !selectDevice(params, device))
+    if (!params || !params->GetInt(feature, &err) || !selectDevice(params, device, isUnique))
         return;
     const std::int64_t version = integerOf(params, feature).value_or(0);
     if (version == 0)
@@ -150,9 +159,9 @@ std::optional<std::int64_t> integerOf(OrvGenParam::Array *params, const char *na
     return params && err == OrvCamErr_Ok ? std::optional<std::int64_t>(value) : std::nullopt;
 }
 
-bool selectDevice(OrvGenParam::Array *params, OrvCam::DeviceInfo &device)
+bool selectDevice(OrvGenParam::Array *params, OrvCam::DeviceInfo &device, bool isUnique)
 {
-    const std::int64_t place = params ? placeOf(device) : missing;
+    const std::int64_t place = params ? placeOf(device, isUnique) : missing;
     return place != missing && params->SetIntegerValue("DeviceSelector", place) == OrvCamErr_Ok;
 }
 
@@ -165,14 +174,16 @@ InfoPane::InfoPane(QWidget *parent)
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setAlternatingRowColors(true);
-    // The values have half of it. What comes from a camera may be longer; its tool tip has it whole.
+    setItemDelegate(new OneLineDelegate(this));
+    // The values have half of it. What comes from a camera may be longer; its tool tip has it.
     const int margins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1);
     setMinimumWidth(2 * (widestOwnText(fontMetrics()) + margins + frameWidth()));
 }
 
-void InfoPane::showDevice(OrvCam::DeviceInfo &device)
+void InfoPane::showDevice(OrvCam::DeviceInfo &device, bool isUnique)
 {
-    auto *const rows = new QStandardItemModel(this);
+    const QPointer<InfoPane> alive(this);
+    auto rows = std::make_unique<QStandardItemModel>();
     OrvCam::Interface *const transport = device.GetInterface();
     OrvGenParam::Array *const params = parametersOf(transport);
     const bool isGigE = transport && transport->GetType() == OrvCam::InterfaceTypeGigEVision;
@@ -182,21 +193,23 @@ void InfoPane::showDevice(OrvCam::DeviceInfo &device)
     addRow(*rows, "Serial number", QString::fromUtf8(device.GetSerialNumber()));
     addRow(*rows, "Version", QString::fromUtf8(device.GetVersion()));
     addRow(*rows, "User name", QString::fromUtf8(device.GetUserDefinedName()));
-    addUsbVersion(*rows, params, device);
+    addUsbVersion(*rows, params, device, isUnique);
     addRow(*rows, "Access status", accessText(device.GetAccessStatus()));
     if (isGigE) {
-        if (selectDevice(params, device))
+        if (selectDevice(params, device, isUnique))
             addMac(*rows, params, "GevDeviceMACAddress");
         addText(*rows, "IP Address", device, &OrvCam::DeviceInfo::GetIPAddress);
         addText(*rows, "Netmask", device, &OrvCam::DeviceInfo::GetSubnetMask);
         addText(*rows, "Gateway", device, &OrvCam::DeviceInfo::GetGateway);
     }
-    showRows(rows);
+    if (alive) // the library may process events while it is asked
+        showRows(rows.release());
 }
 
 void InfoPane::showInterface(OrvCam::Interface &transport)
 {
-    auto *const rows = new QStandardItemModel(this);
+    const QPointer<InfoPane> alive(this);
+    auto rows = std::make_unique<QStandardItemModel>();
     const std::int32_t type = transport.GetType();
     addRow(*rows, "Description", QString::fromUtf8(transport.GetDescription()));
     addRow(*rows, "Type", typeText(type));
@@ -207,7 +220,8 @@ void InfoPane::showInterface(OrvCam::Interface &transport)
         addAddress(*rows, params, "IP Address", "GevInterfaceSubnetIPAddress");
         addAddress(*rows, params, "Netmask", "GevInterfaceSubnetMask");
     }
-    showRows(rows);
+    if (alive) // the library may process events while it is asked
+        showRows(rows.release());
 }
 
 void InfoPane::rememberWidth()
@@ -218,6 +232,7 @@ void InfoPane::rememberWidth()
 
 void InfoPane::showRows(QStandardItemModel *rows)
 {
+    rows->setParent(this);
     QAbstractItemModel *const formerRows = model();
     QItemSelectionModel *const formerSelection = selectionModel();
     setModel(rows);
@@ -242,7 +257,7 @@ bool InfoPane::viewportEvent(QEvent *event)
         return QTreeView::viewportEvent(event);
     const auto *const help = static_cast<QHelpEvent *>(event);
     const QModelIndex index = indexAt(help->pos());
-    QToolTip::showText(help->globalPos(), plainToolTip(index.data(Qt::ToolTipRole).toString()), viewport(),
+    QToolTip::showText(help->globalPos(), plainToolTip(shortened(index.data(Qt::ToolTipRole).toString())), viewport(),
                        visualRect(index));
     return true;
 }

@@ -13,9 +13,10 @@ std::optional<std::int64_t> integerOf(OrvGenParam::Array *params, const char *na
 
 /**
  * Whether the features of the device's interface that speak of a device now speak of that. What is shown may be older
- * than what the interface lists, so its place is looked up there; false when it is missing.
+ * than what the interface lists, so its place is looked up there; false when it is missing. One that has its identifier
+ * for itself may have become another object.
  */
-bool selectDevice(OrvGenParam::Array *params, OrvCam::DeviceInfo &device);
+bool selectDevice(OrvGenParam::Array *params, OrvCam::DeviceInfo &device, bool isUnique);
 
 /** A table of what there is to know about one object: labels and values. */
 class InfoPane : public QTreeView
@@ -26,7 +27,7 @@ public:
     explicit InfoPane(QWidget *parent = nullptr);
 
     /** Both are asked now and not kept. */
-    void showDevice(OrvCam::DeviceInfo &device);
+    void showDevice(OrvCam::DeviceInfo &device, bool isUnique);
     void showInterface(OrvCam::Interface &transport);
 
     /** From now on the width of the label column survives what is shown next. */

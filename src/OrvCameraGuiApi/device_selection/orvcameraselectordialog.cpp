@@ -5,6 +5,7 @@
 #include <OrvCameraGuiApi/device_selection/infopane.h>
 #include <OrvCameraGuiApi/device_selection/ip4proposal.h>
 #include <OrvCameraGuiApi/device_selection/ip4validator.h>
+#include <OrvCameraGuiApi/device_selection/onelinedelegate.h>
 #include <OrvCameraGuiApi/device_selection/privateslotforwarder.h>
 #include <OrvCameraGuiApi/device_selection/setipdialog.h>
 #include <OrvCameraGuiApi/device_selection/systempolling.h>
@@ -22,6 +23,9 @@
 #include <algorithm>
 #include <atomic>
 #include <optional>
+#include <type_traits>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -39,6 +43,16 @@ bool isOpenable(OrvCam::DeviceInfo *device)
     return status != OrvCam::AccessStatusNoAccess && status != OrvCam::AccessStatusIpSubnetMismatch;
 }
 
+/**
+ * The GigE Vision interface on which the device was found, if that is one. The device itself tells, not the item above:
+ * where two interfaces have one identifier, devices stand below both.
+ */
+OrvCam::Interface *gigEOf(OrvCam::DeviceInfo *device)
+{
+    OrvCam::Interface *const transport = device ? device->GetInterface() : nullptr;
+    return transport && transport->GetType() == OrvCam::InterfaceTypeGigEVision ? transport : nullptr;
+}
+
 /** What the person has confirmed. */
 struct IpConfiguration
 {
@@ -46,6 +60,52 @@ struct IpConfiguration
     unsigned int mask;
     unsigned int gateway;
 };
+
+/** What the person begins with. */
+struct IpProposal
+{
+    unsigned long long adapterMac = 0;
+    unsigned int adapterAddress = 0;
+    unsigned int adapterMask = 0;
+    unsigned long long mac = 0;
+    IpConfiguration camera{};
+};
+
+/** Nothing when a feature cannot be read. */
+std::optional<IpProposal> proposalFor(OrvCam::DeviceInfo &device, bool isUnique, OrvCam::Interface &transport,
+                                      const QVector<unsigned int> &taken)
+{
+    OrvCamErr err = OrvCamErr_Ok;
+    OrvGenParam::Array *const params = transport.GetParameters(&err);
+    if (err != OrvCamErr_Ok || !selectDevice(params, device, isUnique))
+        return std::nullopt;
+    const auto read = [params](const char *feature, auto &target) {
+        const auto value = integerOf(params, feature);
+        if (value)
+            target = static_cast<std::decay_t<decltype(target)>>(*value);
+        return value.has_value();
+    };
+    IpProposal proposal;
+    if (!read("GevInterfaceMACAddress", proposal.adapterMac)
+        || !read("GevInterfaceSubnetIPAddress", proposal.adapterAddress)
+        || !read("GevInterfaceSubnetMask", proposal.adapterMask) || !read("GevDeviceMACAddress", proposal.mac)
+        || !read("GevDeviceForceGateway", proposal.camera.gateway))
+        return std::nullopt;
+    proposal.camera.address = proposedAddress(proposal.adapterAddress, proposal.adapterMask, taken);
+    proposal.camera.mask = proposal.adapterMask;
+    return proposal;
+}
+
+void fill(SetIpDialog &dialog, const IpProposal &proposal)
+{
+    dialog.setNicMACAddress(proposal.adapterMac);
+    dialog.setNicIPAddress(proposal.adapterAddress);
+    dialog.setNicNetmask(proposal.adapterMask);
+    dialog.setMACAddress(proposal.mac);
+    dialog.setIPAddress(proposal.camera.address);
+    dialog.setNetmask(proposal.camera.mask);
+    dialog.setGateway(proposal.camera.gateway);
+}
 
 } // namespace
 
@@ -68,25 +128,24 @@ public:
     QModelIndex currentIndex() const { return ui.deviceTreeView->currentIndex(); }
     OrvCam::DeviceInfo *deviceAt(const QModelIndex &index) const;
     OrvCam::Interface *interfaceAt(const QModelIndex &index) const;
-    OrvCam::Interface *gigEOf(OrvCam::DeviceInfo *device) const;
 
     void look();
+    void catchUp();
     void adoptChange();
     void setPolling(bool on);
     void rescan();
     void moveTo(const QModelIndex &index, QItemSelectionModel::SelectionFlags how);
     bool returnToWanted();
     bool takesKey(const QKeyEvent &press);
-    void closeAgain(const QList<QByteArray> &transports);
+    void closeAgain(const QList<DeviceTreeModel::Key> &transports);
     void currentChanged(const QModelIndex &index);
-    void fillInfo(const QModelIndex &index);
+    void fillInfo(OrvCam::DeviceInfo *device, OrvCam::Interface *transport, bool isUnique);
     void showContextMenu(const QPoint &position);
     void acceptChosen();
 
     void setIpAddress();
     void setIpAddressFromMenu();
-    bool force(const DeviceTreeModel::Key &key, const IpConfiguration &wantedIp) const;
-    bool fill(SetIpDialog &dialog, OrvCam::DeviceInfo *device, OrvGenParam::Array &params) const;
+    bool force(const DeviceTreeModel::Key &key, const IpConfiguration &wantedIp);
     QVector<unsigned int> addressesBeside(OrvCam::DeviceInfo *device) const;
     bool isConfirmed() const;
     void tellFailure() const;
@@ -99,11 +158,38 @@ public:
     DeviceTreeModel *const model;
     DeviceTreeModel::Key wanted; ///< what the user went to last, to be current again whenever it is there
     bool isOwnMove = false; ///< it is not the user who makes another item current
-    QList<QByteArray> closed; ///< the interfaces that the user has closed
+    QList<DeviceTreeModel::Key> closed; ///< the interfaces that the user has closed
     std::optional<OrvCam::DeviceInfo *> chosen; ///< from acceptance on
+    int questions = 0; ///< to the camera system, on the stack
+    bool wantsRescan = false; ///< as soon as there is none
     int menuFlows = 0; ///< handlers of the context menu on the stack
     std::atomic<bool> hasChanged{false}; ///< the thread has seen a change that has not been adopted
     SystemPolling polling; ///< the last member: the thread uses the others
+};
+
+/**
+ * A question to the camera system, whose library may process events until it answers. The tree stays as it is
+ * meanwhile: what has come up is done afterwards, unless the dialog has gone.
+ */
+class Question
+{
+public:
+    explicit Question(OrvCameraSelectorDialogPrivate &asking)
+        : m_asking(&asking)
+    {
+        ++asking.questions;
+    }
+
+    ~Question()
+    {
+        if (m_asking && --m_asking->questions == 0)
+            m_asking->catchUp();
+    }
+
+    Q_DISABLE_COPY(Question)
+
+private:
+    const QPointer<OrvCameraSelectorDialogPrivate> m_asking;
 };
 
 void PrivateSlotForwarder::onSystemChanged()
@@ -122,12 +208,13 @@ OrvCameraSelectorDialogPrivate::OrvCameraSelectorDialogPrivate(OrvCameraSelector
 void OrvCameraSelectorDialogPrivate::init(bool poll)
 {
     ui.setupUi(q);
-    openWithinScreen(*q);
+    scrollWhereTooSmall(*q);
     q->installEventFilter(this);
     ui.splitter->setStretchFactor(0, 1);
     ui.splitter->setStretchFactor(1, 1);
     initButtons(poll);
     ui.deviceTreeView->setModel(model);
+    ui.deviceTreeView->setItemDelegate(new OneLineDelegate(ui.deviceTreeView));
     connectTree();
     connectButtons();
     QObject::connect(&forwarder, &PrivateSlotForwarder::systemChanged, &forwarder,
@@ -162,9 +249,11 @@ void OrvCameraSelectorDialogPrivate::connectTree()
     QObject::connect(tree, &QTreeView::customContextMenuRequested, q,
                      [this](const QPoint &position) { showContextMenu(position); });
     QObject::connect(tree, &QTreeView::collapsed, q,
-                     [this](const QModelIndex &index) { closed.append(model->keyOf(index).transport); });
-    QObject::connect(tree, &QTreeView::expanded, q,
-                     [this](const QModelIndex &index) { closed.removeAll(model->keyOf(index).transport); });
+                     [this](const QModelIndex &index) { closed.append(model->keyOf(index)); });
+    QObject::connect(tree, &QTreeView::expanded, q, [this](const QModelIndex &index) {
+        const auto isOpen = [&](const DeviceTreeModel::Key &key) { return model->indexOf(key) == index; };
+        closed.erase(std::remove_if(closed.begin(), closed.end(), isOpen), closed.end());
+    });
     QObject::connect(model, &QAbstractItemModel::modelReset, tree, &QTreeView::expandAll);
     tree->installEventFilter(this);
 }
@@ -172,7 +261,10 @@ void OrvCameraSelectorDialogPrivate::connectTree()
 void OrvCameraSelectorDialogPrivate::connectButtons()
 {
     QObject::connect(ui.buttonBox, &QDialogButtonBox::accepted, q, [this] { acceptChosen(); });
-    QObject::connect(q, &QDialog::accepted, this, [this] { chosen = deviceAt(currentIndex()); });
+    QObject::connect(q, &QDialog::accepted, this, [this] {
+        if (!chosen) // by a call of accept()
+            chosen = deviceAt(currentIndex());
+    });
     QObject::connect(ui.buttonBox, &QDialogButtonBox::rejected, q, &QDialog::reject);
     QObject::connect(ui.pollingCheckBox, &QCheckBox::clicked, q, [this](bool checked) { setPolling(checked); });
     QObject::connect(rescanButton, &QPushButton::clicked, q, [this] { rescan(); });
@@ -192,16 +284,6 @@ OrvCam::Interface *OrvCameraSelectorDialogPrivate::interfaceAt(const QModelIndex
     return transport.data(Qt::UserRole).value<OrvCam::Interface *>();
 }
 
-/**
- * The GigE Vision interface on which the device was found, if that is one. The device itself tells, not the item above:
- * where two interfaces have one identifier, devices stand below both.
- */
-OrvCam::Interface *OrvCameraSelectorDialogPrivate::gigEOf(OrvCam::DeviceInfo *device) const
-{
-    OrvCam::Interface *const transport = device ? device->GetInterface() : nullptr;
-    return transport && transport->GetType() == OrvCam::InterfaceTypeGigEVision ? transport : nullptr;
-}
-
 /** On the polling thread. */
 void OrvCameraSelectorDialogPrivate::look()
 {
@@ -211,17 +293,27 @@ void OrvCameraSelectorDialogPrivate::look()
     forwarder.notify();
 }
 
+/** Later, for what is on the stack may go on with the tree. */
+void OrvCameraSelectorDialogPrivate::catchUp()
+{
+    if (hasChanged)
+        forwarder.notify();
+    if (std::exchange(wantsRescan, false))
+        QMetaObject::invokeMethod(
+            this, [this] { rescan(); }, Qt::QueuedConnection);
+}
+
 /** What the user went to last is current again if it is there, else what is current now, else the first interface. */
 void OrvCameraSelectorDialogPrivate::adoptChange()
 {
     // A camera that has been chosen stays so; the change is adopted when the dialog is shown again.
-    if (chosen)
+    if (chosen || questions > 0)
         return;
     // Several notifications of one change are on their way when the GUI thread is busy for long.
     if (!hasChanged.exchange(false))
         return;
     const DeviceTreeModel::Key current = model->keyOf(currentIndex());
-    const QList<QByteArray> transports = closed;
+    const QList<DeviceTreeModel::Key> transports = closed;
     model->updateModel();
     QModelIndex index = model->indexOf(wanted);
     if (!index.isValid())
@@ -241,9 +333,18 @@ void OrvCameraSelectorDialogPrivate::setPolling(bool on)
 
 void OrvCameraSelectorDialogPrivate::rescan()
 {
-    hasChanged = false; // what polling found last is older, and may name what is gone
-    const QList<QByteArray> transports = closed;
-    model->rescan();
+    wantsRescan = questions > 0;
+    if (wantsRescan)
+        return;
+    const QPointer<QObject> alive(this);
+    const QList<DeviceTreeModel::Key> transports = closed;
+    {
+        const Question question(*this);
+        hasChanged = false; // what polling found last is older, and may name what is gone
+        model->rescan();
+    }
+    if (!alive)
+        return;
     closeAgain(transports);
     currentChanged(currentIndex());
 }
@@ -269,7 +370,7 @@ bool OrvCameraSelectorDialogPrivate::returnToWanted()
 /** Whether the view is not to see the key any more. */
 bool OrvCameraSelectorDialogPrivate::takesKey(const QKeyEvent &press)
 {
-    const bool isPlain = !(press.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier));
+    const bool isPlain = !(press.modifiers() & ~(Qt::ShiftModifier | Qt::ControlModifier | Qt::KeypadModifier));
     if (!isPlain)
         return false;
     if (currentIndex().isValid()) {
@@ -301,41 +402,59 @@ bool OrvCameraSelectorDialogPrivate::eventFilter(QObject *watched, QEvent *event
     return false;
 }
 
-void OrvCameraSelectorDialogPrivate::closeAgain(const QList<QByteArray> &transports)
+void OrvCameraSelectorDialogPrivate::closeAgain(const QList<DeviceTreeModel::Key> &transports)
 {
-    for (const QByteArray &transport : transports)
-        ui.deviceTreeView->collapse(model->indexOf({true, false, transport, QByteArray()}));
+    for (const DeviceTreeModel::Key &transport : transports)
+        ui.deviceTreeView->collapse(model->indexOf(transport));
     closed = transports; // also of those that may come back
 }
 
 void OrvCameraSelectorDialogPrivate::currentChanged(const QModelIndex &index)
 {
+    const DeviceTreeModel::Key key = model->keyOf(index);
     if (index.isValid() && !(isOwnMove && wanted.isItem))
-        wanted = model->keyOf(index);
-    fillInfo(index);
+        wanted = key;
     OrvCam::DeviceInfo *const device = deviceAt(index);
-    okButton()->setEnabled(isOpenable(device));
-    ui.setIpButton->setEnabled(gigEOf(device));
+    const QPointer<QObject> alive(this);
+    const Question question(*this);
+    fillInfo(device, interfaceAt(index), key.isUnique);
+    const bool isUsable = isOpenable(device);
+    const bool isGigE = gigEOf(device);
+    if (!alive)
+        return;
+    okButton()->setEnabled(isUsable);
+    ui.setIpButton->setEnabled(isGigE);
 }
 
 /** Another program may have opened the camera since it was looked at. */
 void OrvCameraSelectorDialogPrivate::acceptChosen()
 {
-    if (isOpenable(deviceAt(currentIndex())))
-        q->accept();
-    else
-        currentChanged(currentIndex());
+    const QPointer<QObject> alive(this);
+    OrvCam::DeviceInfo *const device = deviceAt(currentIndex());
+    const bool isUsable = [&] {
+        const Question question(*this);
+        return isOpenable(device);
+    }();
+    if (!alive)
+        return;
+    if (!isUsable || deviceAt(currentIndex()) != device)
+        return currentChanged(currentIndex());
+    chosen = device; // before anybody hears of it
+    q->accept();
+    if (alive && q->isVisible()) // a derived class has not accepted it
+        chosen.reset();
 }
 
-void OrvCameraSelectorDialogPrivate::fillInfo(const QModelIndex &index)
+void OrvCameraSelectorDialogPrivate::fillInfo(OrvCam::DeviceInfo *device, OrvCam::Interface *transport, bool isUnique)
 {
-    if (!index.data(Qt::UserRole).isValid())
+    if (!transport)
         return;
     ui.interfaceInfoView->rememberWidth();
     ui.deviceInfoView->rememberWidth();
-    if (OrvCam::DeviceInfo *const device = deviceAt(index))
-        ui.deviceInfoView->showDevice(*device);
-    if (OrvCam::Interface *const transport = interfaceAt(index))
+    const QPointer<QObject> alive(this);
+    if (device)
+        ui.deviceInfoView->showDevice(*device, isUnique);
+    if (alive)
         ui.interfaceInfoView->showInterface(*transport);
 }
 
@@ -346,28 +465,30 @@ void OrvCameraSelectorDialogPrivate::showContextMenu(const QPoint &position)
 }
 
 /**
- * While the dialogs are open the world goes on: the camera may go, the tree change, this dialog be destroyed. So they
- * live on the heap, and after each of them everything is asked anew.
+ * While the dialogs are open, and while the camera is asked, the world goes on: the camera may go, the tree change,
+ * this dialog be destroyed. So they live on the heap, and after each of them everything is asked anew.
  */
 void OrvCameraSelectorDialogPrivate::setIpAddress()
 {
     const QModelIndex index = currentIndex();
+    const DeviceTreeModel::Key key = model->keyOf(index);
     OrvCam::DeviceInfo *const device = deviceAt(index);
-    OrvCam::Interface *const transport = gigEOf(device);
-    if (!transport)
+    const QPointer<OrvCameraSelectorDialog> alive(q);
+    std::optional<IpProposal> proposal;
+    {
+        const Question question(*this);
+        OrvCam::Interface *const transport = gigEOf(device);
+        if (!transport)
+            return;
+        proposal = proposalFor(*device, key.isUnique, *transport, addressesBeside(device));
+    }
+    if (!alive)
         return;
-    OrvCamErr err = OrvCamErr_Ok;
-    OrvGenParam::Array *const params = transport->GetParameters(&err);
-    if (err != OrvCamErr_Ok || !selectDevice(params, *device))
+    if (!proposal)
         return tellFailure();
 
-    const DeviceTreeModel::Key key = model->keyOf(index);
-    const QPointer<OrvCameraSelectorDialog> alive(q);
     const QPointer<SetIpDialog> dialog(new SetIpDialog(q));
-    if (!fill(*dialog, device, *params)) {
-        delete dialog;
-        return tellFailure();
-    }
+    fill(*dialog, *proposal);
     const bool isAccepted = dialog->exec() == QDialog::Accepted;
     if (!alive || !dialog)
         return;
@@ -376,7 +497,10 @@ void OrvCameraSelectorDialogPrivate::setIpAddress()
     delete dialog;
     if (!isAccepted || (!isValid && !isConfirmed()) || !alive)
         return;
-    if (!force(key, entered))
+    const bool isForced = force(key, entered);
+    if (!alive)
+        return;
+    if (!isForced)
         return tellFailure();
     currentChanged(currentIndex());
 }
@@ -396,39 +520,15 @@ void OrvCameraSelectorDialogPrivate::setIpAddressFromMenu()
 }
 
 /** The device may stand elsewhere by now, or have gone; another one must not get its address. */
-bool OrvCameraSelectorDialogPrivate::force(const DeviceTreeModel::Key &key, const IpConfiguration &wantedIp) const
+bool OrvCameraSelectorDialogPrivate::force(const DeviceTreeModel::Key &key, const IpConfiguration &wantedIp)
 {
+    const Question question(*this);
     OrvCam::DeviceInfo *const device = deviceAt(model->indexOf(key));
     OrvCam::Interface *const transport = gigEOf(device);
     OrvCamErr err = OrvCamErr_Ok;
     OrvGenParam::Array *const params = transport ? transport->GetParameters(&err) : nullptr;
-    return err == OrvCamErr_Ok && params && selectDevice(params, *device)
+    return err == OrvCamErr_Ok && params && selectDevice(params, *device, key.isUnique)
         && device->ForceIP(wantedIp.address, wantedIp.mask, wantedIp.gateway) == OrvCamErr_Ok;
-}
-
-/** False when a feature cannot be read. */
-bool OrvCameraSelectorDialogPrivate::fill(SetIpDialog &dialog, OrvCam::DeviceInfo *device,
-                                          OrvGenParam::Array &params) const
-{
-    const auto read = [&](const char *feature, auto &&use) {
-        const auto value = integerOf(&params, feature);
-        if (value)
-            use(*value);
-        return value.has_value();
-    };
-    const auto address = [](std::int64_t value) { return static_cast<unsigned int>(value); };
-    const auto mac = [](std::int64_t value) { return static_cast<unsigned long long>(value); };
-    const auto proposed = [&](std::int64_t adapter) {
-        const auto mask = address(integerOf(&params, "GevInterfaceSubnetMask").value_or(0));
-        return proposedAddress(address(adapter), mask, addressesBeside(device));
-    };
-    return read("GevInterfaceMACAddress", [&](std::int64_t value) { dialog.setNicMACAddress(mac(value)); })
-        && read("GevInterfaceSubnetIPAddress", [&](std::int64_t value) { dialog.setNicIPAddress(address(value)); })
-        && read("GevInterfaceSubnetMask", [&](std::int64_t value) { dialog.setNicNetmask(address(value)); })
-        && read("GevDeviceMACAddress", [&](std::int64_t value) { dialog.setMACAddress(mac(value)); })
-        && read("GevInterfaceSubnetIPAddress", [&](std::int64_t value) { dialog.setIPAddress(proposed(value)); })
-        && read("GevInterfaceSubnetMask", [&](std::int64_t value) { dialog.setNetmask(address(value)); })
-        && read("GevDeviceForceGateway", [&](std::int64_t value) { dialog.setGateway(address(value)); });
 }
 
 /** Whether a configuration that looks wrong is meant; the dialog may be gone afterwards. */
@@ -450,21 +550,31 @@ bool OrvCameraSelectorDialogPrivate::isConfirmed() const
 /** What all network adapters, and the cameras but for that one, have as addresses. */
 QVector<unsigned int> OrvCameraSelectorDialogPrivate::addressesBeside(OrvCam::DeviceInfo *device) const
 {
-    QVector<unsigned int> addresses;
+    // Found before any of them is asked.
+    std::vector<OrvCam::Interface *> transports;
+    std::vector<OrvCam::DeviceInfo *> others;
     for (int row = 0; row < model->rowCount(); ++row) {
         const QModelIndex index = model->index(row, 0);
-        OrvCam::Interface *const transport = interfaceAt(index);
-        if (transport->GetType() != OrvCam::InterfaceTypeGigEVision)
-            continue;
+        transports.push_back(interfaceAt(index));
+        for (int below = 0; below < model->rowCount(index); ++below)
+            others.push_back(deviceAt(model->index(below, 0, index)));
+    }
+    others.erase(std::remove(others.begin(), others.end(), device), others.end());
+
+    QVector<unsigned int> addresses;
+    for (OrvCam::Interface *const transport : transports) {
         OrvCamErr err = OrvCamErr_Ok;
-        if (const auto own = integerOf(transport->GetParameters(&err), "GevInterfaceSubnetIPAddress"))
+        const bool isGigE = transport->GetType() == OrvCam::InterfaceTypeGigEVision;
+        const auto own =
+            isGigE ? integerOf(transport->GetParameters(&err), "GevInterfaceSubnetIPAddress") : std::nullopt;
+        if (own)
             addresses.append(static_cast<unsigned int>(*own));
-        for (int below = 0; below < model->rowCount(index); ++below) {
-            OrvCam::DeviceInfo *const other = deviceAt(model->index(below, 0, index));
-            const char *const text = other->GetIPAddress(&err);
-            if (other != device && err == OrvCamErr_Ok && text)
-                addresses.append(IP4Validator::getIp(QString::fromUtf8(text)));
-        }
+    }
+    for (OrvCam::DeviceInfo *const other : others) {
+        OrvCamErr err = OrvCamErr_Ok;
+        const char *const text = gigEOf(other) ? other->GetIPAddress(&err) : nullptr;
+        if (err == OrvCamErr_Ok && text)
+            addresses.append(IP4Validator::getIp(QString::fromUtf8(text)));
     }
     return addresses;
 }

@@ -7,6 +7,11 @@
 
 #include <ui_setipdialog.h>
 
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QScrollArea>
+
 #include <algorithm>
 
 class SetIpDialogPrivate
@@ -45,6 +50,33 @@ void write(QLineEdit *edit, unsigned int address)
 {
     edit->setText(IP4Validator::getIpStr(address));
 }
+
+/** Whole addresses that are pasted take the place of all of the text, wherever the cursor is: nothing else would fit.
+ */
+class WholePaste : public QObject
+{
+public:
+    explicit WholePaste(QLineEdit *edit)
+        : QObject(edit)
+        , m_edit(edit)
+    {
+        edit->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->matches(QKeySequence::Paste)) {
+            QString text = QGuiApplication::clipboard()->text();
+            int position = 0;
+            if (!text.isEmpty() && m_edit->validator()->validate(text, position) == QValidator::Acceptable)
+                m_edit->selectAll();
+        }
+        return false;
+    }
+
+private:
+    QLineEdit *const m_edit;
+};
 
 } // namespace
 
@@ -99,9 +131,11 @@ SetIpDialog::SetIpDialog(QWidget *parent)
     d->ui.setupUi(this);
     d->showAsInactive(palette());
     d->makeRoom();
-    openWithinScreen(*this);
-    for (QLineEdit *edit : {d->ui.ipEdit, d->ui.netmaskEdit, d->ui.gatewayEdit})
+    scrollWhereTooSmall(*this);
+    for (QLineEdit *edit : {d->ui.ipEdit, d->ui.netmaskEdit, d->ui.gatewayEdit}) {
         edit->setValidator(new IP4Validator(edit));
+        new WholePaste(edit);
+    }
     for (QLineEdit *edit : {d->ui.ipEdit, d->ui.netmaskEdit})
         connect(edit, &QLineEdit::textChanged, this, &SetIpDialog::checkSubnet);
     for (QLineEdit *edit : {d->ui.nicIpEdit, d->ui.nicNetmaskEdit, d->ui.ipEdit, d->ui.netmaskEdit, d->ui.gatewayEdit})
@@ -211,4 +245,7 @@ void SetIpDialog::showEvent(QShowEvent *event)
     edit->setFocus();
     const int start = edit->text().lastIndexOf(QLatin1Char('.')) + 1;
     edit->setSelection(start, edit->text().size() - start);
+    // On a screen that is too small; the area itself follows the focus later, where people take it.
+    if (auto *const area = findChild<QScrollArea *>())
+        area->ensureWidgetVisible(edit);
 }

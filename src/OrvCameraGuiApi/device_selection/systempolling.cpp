@@ -1,5 +1,6 @@
 #include <OrvCameraGuiApi/device_selection/systempolling.h>
 
+#include <exception>
 #include <system_error>
 
 std::chrono::milliseconds SystemPolling::period(1000);
@@ -44,7 +45,11 @@ void SystemPolling::run(std::chrono::milliseconds pause)
     std::unique_lock<std::mutex> lock(m_mutex);
     while (m_isOn) {
         lock.unlock();
-        m_step();
+        try {
+            m_step();
+        } catch (const std::exception &) {
+            // A library of somebody else's: it may do better next time, and must not end the process from here.
+        }
         lock.lock();
         m_wake.wait_for(lock, pause, [this] { return !m_isOn; });
     }

@@ -15,7 +15,7 @@
 class SystemPolling
 {
 public:
-    /** \a step is called on the thread. */
+    /** \a step is called on the thread; what it throws ends it only that once. */
     explicit SystemPolling(std::function<void()> step);
     /** Stops. */
     ~SystemPolling();

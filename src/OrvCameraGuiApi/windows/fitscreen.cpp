@@ -70,12 +70,15 @@ public:
         setFocusPolicy(Qt::NoFocus);
         setWidgetResizable(true);
         // Tab alone is followed by the area itself. A window that becomes active stays as it is.
-        connect(qApp, &QApplication::focusChanged, this, [this](QWidget *former, QWidget *now) {
+        m_following = connect(qApp, &QApplication::focusChanged, this, [this](QWidget *former, QWidget *now) {
             const QWidget *const contents = widget();
             if (contents && former && now && contents->isAncestorOf(former) && contents->isAncestorOf(now))
                 ensureWidgetVisible(now);
         });
     }
+
+    /** Before the contents go, and the focus with them. */
+    ~ContentsArea() override { disconnect(m_following); }
 
     QSize sizeHint() const override { return widget() ? withinRoom(widget()->sizeHint()) : QSize(); }
     QSize minimumSizeHint() const override { return widget() ? withinRoom(widget()->minimumSizeHint()) : QSize(); }
@@ -96,6 +99,8 @@ private:
             size.rwidth() += verticalScrollBar()->sizeHint().width();
         return size.boundedTo(room);
     }
+
+    QMetaObject::Connection m_following;
 };
 
 } // namespace
