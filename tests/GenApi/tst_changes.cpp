@@ -53,6 +53,14 @@ void tst_Changes::caching_data()
            "N N* N& R& # N # K K* K& R& #", "0 0 unknown unknown r2w0 0 r1w0 0 0 kept kept r1w0");
     addRow("a refused write drops what was kept", cached("WriteThrough"), "N N=-1 N& R& N # N=x N&",
            "0 !OutOfRange unknown kept 0 r1w0 !InvalidArgument kept");
+    addRow("a value that fails a check is not kept anew",
+           reg("IntReg", "R", "0") + node("Integer", "N", "<pInvalidator>R</pInvalidator><Value>7</Value><Max>5</Max>")
+               + node("Float", "F", "<pValue>N</pValue><Max>6</Max>"),
+           "F+ F& F F+ F& R=1 N+ N&", "!OutOfRange unknown 6.5 !OutOfRange kept ok !OutOfRange unknown");
+    addRow("copies: what is read past the caches is not kept",
+           reg("IntReg", "R", "0") + node("IntSwissKnife", "K", "<Formula>3</Formula>")
+               + node("Integer", "N", "<pValue>K</pValue><pValueCopy>R</pValueCopy>"),
+           "N* N& N N&", "3 unknown 3 kept");
     addRow("a self-clearing entry is asked for as long as it is current",
            reg("IntReg", "R", "0")
                + node("Enumeration", "E",
@@ -88,6 +96,14 @@ void tst_Changes::callbacks_data()
                       "Index='1'>B</pValueIndexed>")
                + node("Integer", "M", "<pValue>A</pValue><pValueCopy>B</pValueCopy>"),
            "N=1 ^ M=2 ^ I=1 N ^", "ok A,B,M,N ok A,B,M,N ok 2 I,N");
+    addRow("a formula that an index may pick has not changed, what lies below the others has",
+           node("Integer", "I", "<Value>0</Value>") + reg("IntReg", "R", "0") + reg("IntReg", "S", "4")
+               + node("Integer", "A", "<pValue>R</pValue>")
+               + node("IntSwissKnife", "K", "<pVariable Name='S'>S</pVariable><Formula>S</Formula>")
+               + node("Integer", "N",
+                      "<pIndex>I</pIndex><pValueIndexed Index='1'>A</pValueIndexed><pValueIndexed Index='2'>K"
+                      "</pValueIndexed><ValueDefault>5</ValueDefault>"),
+           "N=1 ^", "ok A,N,R");
     addRow("a refused write is not told",
            reg("IntReg", "A", "0") + reg("IntReg", "B", "0", "<AccessMode>RO</AccessMode>")
                + node("Integer", "N", "<pValue>A</pValue><pValueCopy>B</pValueCopy>"),
@@ -130,6 +146,10 @@ void tst_Changes::commands_data()
            "ok C,R 3 running  ok C,R done C,R done ");
     addRow("written as text", command, "C C=anything C=0 R C=1 R C C.",
            "0 !InvalidArgument !InvalidArgument 0 ok 3 1 running");
+    addRow("asked whether it is done, it tells of errors",
+           node("Enumeration", "E", "<EnumEntry Name='Bad'><Value>1</Value></EnumEntry><Value>1</Value>")
+               + node("Command", "C", "<pError>E</pError><Value>0</Value><CommandValue>3</CommandValue>"),
+           "C.", "!Runtime");
     addRow("nothing to read back",
            reg("IntReg", "R", "0", "<AccessMode>WO</AccessMode>")
                + node("Command", "C", "<pValue>R</pValue><CommandValue>3</CommandValue>"),

@@ -11,7 +11,7 @@ int64_t FormulaVariable::intValue(bool ignoreCache) const
     node->requireUsable();
     switch (property) {
     case Property::Value:
-        node->requireReadable();
+        node->requireReadable(ignoreCache);
         return node->intNumber(ignoreCache);
     case Property::Minimum:
         return node->intMin();
@@ -30,7 +30,7 @@ double FormulaVariable::floatValue(bool ignoreCache) const
     node->requireUsable();
     switch (property) {
     case Property::Value:
-        node->requireReadable();
+        node->requireReadable(ignoreCache);
         return node->floatValue(ignoreCache);
     case Property::Minimum:
         return node->floatMin();
@@ -109,10 +109,10 @@ void SwissKnifeNode<Base>::setValue(Number, bool, Changes &)
 }
 
 template <typename Base>
-EAccessMode ConverterNode<Base>::valueAccess(Node::When when) const
+EAccessMode ConverterNode<Base>::valueAccess() const
 {
-    const EAccessMode mode = m_node->accessMode(when);
-    return when == Node::When::Ever || mode == NI ? mode : combined(mode, this->variablesAccess());
+    const EAccessMode mode = m_node->accessMode();
+    return mode == NI ? mode : combined(mode, this->variablesAccess());
 }
 
 template <typename Base>
@@ -125,7 +125,7 @@ template <typename Base>
 auto ConverterNode<Base>::value(bool ignoreCache) -> Number
 {
     this->requireUsable();
-    m_node->requireReadable();
+    m_node->requireReadable(ignoreCache);
     return this->run(m_formulaFrom, Base::valueOf(*m_node, ignoreCache), ignoreCache);
 }
 

@@ -169,12 +169,9 @@ public:
 protected:
     bool keepsFresh() const override { return true; }
     GenApi::EAccessMode firstAccess() const override { return combined(this->readAccess(), this->variablesAccess()); }
-    GenApi::EAccessMode valueAccess(Node::When when) const override
-    {
-        if (when == Node::When::Ever)
-            return Base::isWrittenLate ? GenApi::RW : GenApi::RO;
-        return combined(GenApi::RO, this->variablesAccess());
-    }
+    GenApi::EAccessMode valueAccess() const override { return combined(GenApi::RO, this->variablesAccess()); }
+    GenApi::EAccessMode endAccess() const override { return Base::isWrittenLate ? GenApi::RW : GenApi::RO; }
+    bool takesWrites() const override { return false; }
     Number value(bool ignoreCache) override;
     void setValue(Number value, bool verify, Changes &changes) override;
 
@@ -213,7 +210,7 @@ public:
     }
 
 protected:
-    GenApi::EAccessMode valueAccess(Node::When when) const override;
+    GenApi::EAccessMode valueAccess() const override;
     Number value(bool ignoreCache) override;
     void setValue(Number value, bool verify, Changes &changes) override;
     std::pair<Number, Number> range() override { return {limit(false), limit(true)}; }

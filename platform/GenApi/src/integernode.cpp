@@ -7,13 +7,13 @@ namespace OrvGenApi {
 using namespace GenApi;
 
 template <typename Number>
-EAccessMode NumberSource<Number>::access(Node::When when) const
+EAccessMode NumberSource<Number>::access() const
 {
     if (m_indexed && !picked())
         return m_indexed->index && m_indexed->index->accessMode() == NI ? NI : NA;
     const Node *const node = m_indexed ? picked()->node() : m_value.node();
-    EAccessMode mode = node ? node->accessMode(when) : RW;
-    if (m_copies && when == Node::When::Now) {
+    EAccessMode mode = node ? node->accessMode() : RW;
+    if (m_copies) {
         for (const Node *copy : m_copies->nodes) {
             const EAccessMode access = copy->accessMode();
             mode = combined(mode, access == WO ? RW : access); // is never read
@@ -79,15 +79,9 @@ template <typename Number>
 void NumberSource<Number>::write(Node &owner, Number value, bool verify, Changes &changes)
 {
     Ref &target = current(owner);
-    if (m_indexed) {
-        // Whatever the index may pick belongs to this value, written now or not.
-        for (const Item &item : m_indexed->items) {
-            if (Node *const node = item.value.node()) {
-                node->dropCache();
-                changes.add(*node);
-            }
-        }
-    }
+    // Whatever the index may pick belongs to this value, written now or not.
+    if (m_indexed)
+        forEachTarget([&changes](Node &node) { node.addEnds(changes); });
     if (Node *const node = target.node()) {
         writeLinked(*node, value, verify, changes);
     } else {

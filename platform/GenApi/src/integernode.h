@@ -24,7 +24,7 @@ public:
     Node *limitingNode(const Node &owner);
 
     bool hasCopies() const { return m_copies != nullptr; }
-    GenApi::EAccessMode access(Node::When when) const;
+    GenApi::EAccessMode access() const;
 
     /** What \a limits allow. */
     static GenApi::EAccessMode readAccess(std::initializer_list<Ref> limits);
@@ -34,6 +34,24 @@ public:
     bool knowsCopiedRange(const Node &owner) const { return m_copies->rangeIn == owner.map().evaluation(); }
     Number value(const Node &owner, bool ignoreCache) { return current(owner).value(ignoreCache); }
     void write(Node &owner, Number value, bool verify, Changes &changes);
+
+    /** Calls \a visit(node) for all nodes that a write may reach. */
+    template <typename Visit>
+    void forEachTarget(const Visit &visit) const
+    {
+        if (Node *const always = node())
+            visit(*always);
+        if (m_indexed) {
+            for (const Item &item : m_indexed->items) {
+                if (Node *const picked = item.value.node())
+                    visit(*picked);
+            }
+        }
+        if (m_copies) {
+            for (Node *copy : m_copies->nodes)
+                visit(*copy);
+        }
+    }
 
 private:
     friend class DescriptionLoader;
@@ -80,6 +98,16 @@ public:
     using IntegerBase::IntegerBase;
 
     Node *valueNode() override { return m_source.node(); }
+    void addEnds(Changes &changes) override
+    {
+        bool endsHere = true;
+        m_source.forEachTarget([&](Node &node) {
+            endsHere = false;
+            node.addEnds(changes);
+        });
+        if (endsHere)
+            Node::addEnds(changes);
+    }
     int64_t intMin() override;
     int64_t intMax() override;
     std::pair<int64_t, int64_t> intRange() override;
@@ -93,14 +121,14 @@ public:
     }
 
 protected:
-    GenApi::EAccessMode valueAccess(When when) const override { return m_source.access(when); }
+    GenApi::EAccessMode valueAccess() const override { return m_source.access(); }
     int64_t readInt(bool ignoreCache) override { return m_source.value(*this, ignoreCache); }
     void writeInt(int64_t value, bool verify, Changes &changes) override
     {
         m_source.write(*this, value, verify, changes);
     }
     bool keepsWritten() const override { return !m_source.hasCopies(); }
-    bool keepsFresh() const override { return m_source.node() && m_source.node()->keepsFresh(); }
+    bool keepsFresh() const override { return keepsWritten() && m_source.node() && m_source.node()->keepsFresh(); }
     bool ignoresConditions() const override { return m_source.isIndexed(); }
     GenApi::EAccessMode readAccess() const override
     {
@@ -125,6 +153,16 @@ public:
     using FloatBase::FloatBase;
 
     Node *valueNode() override { return m_source.node(); }
+    void addEnds(Changes &changes) override
+    {
+        bool endsHere = true;
+        m_source.forEachTarget([&](Node &node) {
+            endsHere = false;
+            node.addEnds(changes);
+        });
+        if (endsHere)
+            Node::addEnds(changes);
+    }
     double floatMin() override;
     double floatMax() override;
     std::pair<double, double> floatRange() override;
@@ -149,14 +187,14 @@ public:
     }
 
 protected:
-    GenApi::EAccessMode valueAccess(When when) const override { return m_source.access(when); }
+    GenApi::EAccessMode valueAccess() const override { return m_source.access(); }
     double readFloat(bool ignoreCache) override { return m_source.value(*this, ignoreCache); }
     void writeFloat(double value, bool verify, Changes &changes) override
     {
         m_source.write(*this, value, verify, changes);
     }
     bool keepsWritten() const override { return !m_source.hasCopies(); }
-    bool keepsFresh() const override { return m_source.node() && m_source.node()->keepsFresh(); }
+    bool keepsFresh() const override { return keepsWritten() && m_source.node() && m_source.node()->keepsFresh(); }
     bool ignoresConditions() const override { return m_source.isIndexed(); }
     GenApi::EAccessMode readAccess() const override
     {

@@ -37,9 +37,11 @@ void Changes::addRead(Node &node)
     while (!open.empty()) {
         Node *const next = open.back();
         open.pop_back();
+        // Who passes a value on or takes it knows of it: an access mode that could not be worked out stays so.
+        const bool staysOpen = next->m_accessOpen && (next == &node || next->m_passesOn);
         if (next != &node)
             next->dropCache();
-        next->m_accessOpen = false;
+        next->m_accessOpen = staysOpen;
         if (next->m_changeList != m_list) {
             next->m_changeList = m_list;
             m_nodes.push_back(next);
@@ -288,19 +290,14 @@ void Node::GetSelectingFeatures(FeatureList_t &Features) const
 EAccessMode Node::accessMode() const
 {
     if (m_accessEvaluation == m_map.evaluation())
-        return m_access;
+        return withParts(m_access);
     if (m_accessOpen)
-        return openAccess();
+        return withParts(openAccess());
     m_accessOpen = true;
-    m_access = computeAccessMode(When::Now);
+    m_access = computeAccessMode();
     m_accessOpen = false;
     m_accessEvaluation = m_map.evaluation();
-    return m_access;
-}
-
-EAccessMode Node::accessMode(When when) const
-{
-    return when == When::Now ? accessMode() : computeAccessMode(when);
+    return withParts(m_access);
 }
 
 namespace {
@@ -322,17 +319,12 @@ EAccessMode allowed(Node *condition, bool wanted, EAccessMode mode)
  * First what is read has to be there, conditions included; then it is asked whether the node is implemented, available
  * and, where it could be written, locked, each only as long as it matters: what is not asked cannot fail.
  */
-EAccessMode Node::computeAccessMode(When when) const
+EAccessMode Node::computeAccessMode() const
 {
     const Descent descent(*this);
     const Verification unverified(m_map, false);
     if (m_broken || m_imposedAccess == NI)
         return NI;
-    if (when == When::Ever) {
-        // Who writes without checks is held back by an imposed mode only where nothing says whether there is the node.
-        const EAccessMode own = m_accessOpen || !m_isImplemented ? RW : allowed(m_isImplemented, true, NI);
-        return combined(m_isImplemented ? own : m_imposedAccess, valueAccess(when));
-    }
     EAccessMode mode = RW;
     if (!ignoresConditions()) {
         mode = firstAccess();
@@ -347,7 +339,15 @@ EAccessMode Node::computeAccessMode(When when) const
         if (mode == NI)
             return NI;
     }
-    return combined(mode, combined(m_imposedAccess, valueAccess(when)));
+    return combined(mode, combined(m_imposedAccess, valueAccess()));
+}
+
+/** Who writes without checks is held back by an imposed mode only where nothing says whether there is the node. */
+EAccessMode Node::everAccess() const
+{
+    const Descent descent(*this);
+    const Verification unverified(m_map, false);
+    return combined(ownAccess(), endAccess());
 }
 
 EAccessMode Node::availability(const Node *node)
@@ -374,17 +374,25 @@ bool Node::isFulfilled(Node &node)
     return isReadable(node.accessMode()) && node.intValue(false) != 0;
 }
 
-void Node::requireReadable() const
+void Node::requireReadable(bool ignoreCache) const
 {
-    if (!isReadable(accessMode()))
-        throwNoAccess("readable");
+    const auto forget = [&] { m_accessOpen = m_accessOpen && !ignoreCache; };
+    try {
+        if (!isReadable(accessMode()))
+            throwNoAccess("readable");
+    } catch (...) {
+        forget();
+        throw;
+    }
+    forget();
 }
 
 void Node::requireWritable(bool verify) const
 {
-    const bool isOpen = verify && isWritable(accessMode());
-    // A mode that could not be worked out still has to be one that may be.
-    if (verify ? !isOpen || (m_accessOpen && !isWritable(accessMode(When::Ever))) : !isWritable(accessMode(When::Ever)))
+    EAccessMode mode = verify ? accessMode() : everAccess();
+    if (verify && m_accessOpen) // one that could not be worked out still has to be one that may be
+        mode = combined(mode, combined(m_imposedAccess, endAccess()));
+    if (!isWritable(mode))
         throwNoAccess("writable");
 }
 
@@ -472,6 +480,9 @@ double Node::floatValue(bool ignoreCache)
 /** Rounded, and down to the grid of what takes integers in steps. */
 void Node::setFloatValue(double value, bool verify, Changes &changes)
 {
+    constexpr double limit = 9223372036854775808.0;
+    if (!(value >= -limit && value <= limit)) // what is hardly too large becomes as large as can be
+        ORV_THROW(OutOfRangeException, std::string("node '") + m_name + "': the number is no 64-bit integer");
     int64_t rounded = roundedToInteger(value);
     if (incrementMode() == fixedIncrement) {
         const int64_t increment = intIncrement();
@@ -528,7 +539,8 @@ std::string Node::text(bool ignoreCache)
 {
     if (isFloat()) {
         const double value = floatValue(ignoreCache); // first: it is kept even if there are no limits to be had
-        return formatFloat(value, displayNotation(), displayPrecision(), floatRange());
+        return formatFloat(
+            value, displayNotation(), displayPrecision(), [this] { return floatMin(); }, [this] { return floatMax(); });
     }
     return formatInteger(intValue(ignoreCache), representation());
 }
@@ -560,6 +572,17 @@ int64_t Node::entryValue(std::string_view symbolic)
 {
     ORV_THROW(InvalidArgumentException,
               std::string("node '") + m_name + "' has no entry '" + std::string(symbolic) + "'");
+}
+
+void Node::addEnds(Changes &changes)
+{
+    const Descent descent(*this);
+    if (Node *const node = valueNode()) {
+        node->addEnds(changes);
+    } else if (takesWrites()) {
+        dropCache();
+        changes.add(*this);
+    }
 }
 
 void Node::addDependent(Node &node)

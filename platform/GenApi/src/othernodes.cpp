@@ -29,11 +29,15 @@ void CategoryNode::setText(const std::string &, bool, Changes &)
     ORV_THROW(AccessException, std::string("category '") + name() + "' has no value");
 }
 
-/** Conditions of a category decide only whether it is implemented: what stands in it may be looked at. */
-EAccessMode CategoryNode::computeAccessMode(When) const
+/**
+ * Conditions of a category decide only whether it is implemented: what stands in it may be looked at. Once it has been
+ * found to be there it stays, whatever becomes of its features, which are not asked again.
+ */
+EAccessMode CategoryNode::computeAccessMode() const
 {
     try {
-        return isImplemented() ? combined(combined(imposedAccess(), RO), hasImplemented() ? RW : NI) : NI;
+        m_isThere = m_isThere || (isImplemented() && hasImplemented());
+        return combined(combined(imposedAccess(), RO), m_isThere ? RW : NI);
     } catch (...) {
         m_accessOpen = false; // told every time
         throw;
@@ -49,26 +53,31 @@ bool CategoryNode::isImplemented() const
 
 bool CategoryNode::hasImplemented() const
 {
-    // Categories may be nested to any depth, and may even stand in themselves.
+    // Categories may be nested to any depth, and may even stand in themselves. They are asked in their order, so that
+    // nothing behind the first implemented feature is.
     const uint64_t mark = ++m_map.m_walk;
-    std::vector<const CategoryNode *> open{this};
+    std::vector<std::pair<const CategoryNode *, std::size_t>> open{{this, 0}};
     m_searchMark = mark;
     while (!open.empty()) {
-        const CategoryNode *const category = open.back();
-        open.pop_back();
-        for (const Node *feature : category->m_features) {
-            if (feature->interfaceType() != intfICategory) {
-                if (feature->accessMode() != NI)
-                    return true;
-                continue;
-            }
-            const auto inner = static_cast<const CategoryNode *>(feature);
-            if (inner->m_searchMark == mark)
-                continue;
-            inner->m_searchMark = mark;
-            if (inner->isImplemented())
-                open.push_back(inner);
+        auto &[category, next] = open.back();
+        if (next == category->m_features.size()) {
+            open.pop_back();
+            continue;
         }
+        const Node *const feature = category->m_features[next++];
+        if (feature->interfaceType() != intfICategory) {
+            if (feature->accessMode() != NI)
+                return true;
+            continue;
+        }
+        const auto inner = static_cast<const CategoryNode *>(feature);
+        if (inner->m_isThere)
+            return true;
+        if (inner->m_searchMark == mark)
+            continue;
+        inner->m_searchMark = mark;
+        if (inner->isImplemented())
+            open.emplace_back(inner, 0);
     }
     return false;
 }
@@ -84,7 +93,7 @@ void BooleanNode::SetValue(bool Value, bool Verify)
 bool BooleanNode::GetValue(bool Verify, bool IgnoreCache) const
 {
     const Entry entry(*this, "GetValue");
-    requireReadable();
+    requireReadable(IgnoreCache);
     const Verification verification(m_map, Verify);
     const bool value = isOn(IgnoreCache);
     if (Verify)
@@ -146,7 +155,6 @@ void CommandNode::execute(Changes &changes)
 
 bool CommandNode::IsDone(bool Verify)
 {
-    (void)Verify;
     bool ended = false;
     bool done = true;
     {
@@ -157,6 +165,10 @@ bool CommandNode::IsDone(bool Verify)
     }
     if (ended) // the device has changed: tell those who watch
         change("IsDone", [this](Changes &changes) { addEnd(changes); });
+    if (Verify) {
+        const Entry entry(*this, "IsDone");
+        checkError();
+    }
     return done;
 }
 
@@ -258,7 +270,7 @@ void EnumerationNode::SetIntValue(int64_t Value, bool Verify)
 int64_t EnumerationNode::GetIntValue(bool Verify, bool IgnoreCache)
 {
     const Entry entry(*this, "GetIntValue");
-    requireReadable();
+    requireReadable(IgnoreCache);
     const Verification verification(m_map, Verify);
     const int64_t value = intValue(IgnoreCache);
     if (Verify)
@@ -294,12 +306,14 @@ IEnumEntry *EnumerationNode::GetCurrentEntry(bool Verify, bool IgnoreCache)
 {
     (void)Verify;
     const Entry entry(*this, "GetCurrentEntry");
-    requireReadable();
+    requireReadable(IgnoreCache);
     return find(intValue(IgnoreCache));
 }
 
-EAccessMode EnumerationNode::valueAccess(When when) const
+EAccessMode EnumerationNode::withParts(EAccessMode own) const
 {
+    if (own == NI)
+        return NI;
     EAccessMode best = m_entries.empty() ? RW : NI;
     for (const EnumEntryNode *entry : m_entries) {
         const EAccessMode mode = entry->accessMode();
@@ -310,7 +324,7 @@ EAccessMode EnumerationNode::valueAccess(When when) const
             break;
         }
     }
-    return m_value.node() ? combined(best, m_value.node()->accessMode(when)) : best;
+    return combined(own, best);
 }
 
 void EnumerationNode::setIntValue(int64_t value, bool verify, Changes &changes)

@@ -32,7 +32,7 @@ public:
     void setText(const std::string &text, bool verify, Changes &changes) override;
 
 protected:
-    GenApi::EAccessMode computeAccessMode(When when) const override;
+    GenApi::EAccessMode computeAccessMode() const override;
 
 private:
     friend class DescriptionLoader;
@@ -43,6 +43,7 @@ private:
     std::vector<Node *> m_features;
     GenApi::EVisibility m_derivedVisibility = GenApi::Invisible;
     mutable uint64_t m_searchMark = 0; ///< the last search for an implemented feature that came here
+    mutable bool m_isThere = false; ///< an implemented feature has been found
 };
 
 /** A truth value kept as one of two integers. */
@@ -65,9 +66,9 @@ public:
     void setText(const std::string &text, bool verify, Changes &changes) override;
 
 protected:
-    GenApi::EAccessMode valueAccess(When when) const override
+    GenApi::EAccessMode valueAccess() const override
     {
-        return m_value.node() ? m_value.node()->accessMode(when) : GenApi::RW;
+        return m_value.node() ? m_value.node()->accessMode() : GenApi::RW;
     }
 
 private:
@@ -103,9 +104,9 @@ public:
     void setText(const std::string &text, bool verify, Changes &changes) override;
 
 protected:
-    GenApi::EAccessMode valueAccess(When when) const override
+    GenApi::EAccessMode valueAccess() const override
     {
-        return m_value.node() ? m_value.node()->accessMode(when) : GenApi::RW;
+        return m_value.node() ? m_value.node()->accessMode() : GenApi::RW;
     }
     GenApi::EAccessMode readAccess() const override
     {
@@ -146,7 +147,7 @@ public:
 protected:
     GenApi::EAccessMode openAccess() const override { return GenApi::RO; }
     GenApi::EAccessMode firstAccess() const override { return readAccess(); }
-    GenApi::EAccessMode valueAccess(When) const override { return GenApi::RO; }
+    GenApi::EAccessMode valueAccess() const override { return GenApi::RO; }
 
 private:
     friend class DescriptionLoader;
@@ -198,10 +199,13 @@ public:
     int64_t entryValue(std::string_view symbolic) override;
 
 protected:
-    GenApi::EAccessMode firstAccess() const override { return combined(readAccess(), availability(m_value.node())); }
+    GenApi::EAccessMode valueAccess() const override
+    {
+        return m_value.node() ? m_value.node()->accessMode() : GenApi::RW;
+    }
 
     /** Nothing can be chosen where no entry is: then the enumeration is not available or not implemented itself. */
-    GenApi::EAccessMode valueAccess(When when) const override;
+    GenApi::EAccessMode withParts(GenApi::EAccessMode own) const override;
 
 private:
     friend class DescriptionLoader;
