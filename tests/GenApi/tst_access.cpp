@@ -117,6 +117,26 @@ void tst_Access::access_data()
                    "<pIsLocked>Broken</pIsLocked><EnumEntry Name='A'><Value>0</Value><pIsLocked>Broken</pIsLocked>"
                    "</EnumEntry><Value>0</Value>"),
         "E? E? F? F? F?", "!LogicalError RO !LogicalError !LogicalError RW");
+    addRow("entries whose conditions cannot be kept count as readable for the next one who asks",
+           reg("IntReg", "W", "0", "<AccessMode>WO</AccessMode><Cachable>NoCache</Cachable>")
+               + node("IntSwissKnife", "K", "<pVariable Name='W'>W</pVariable><Formula>W</Formula>")
+               + node("Enumeration", "E",
+                      "<EnumEntry Name='A'><Value>0</Value><pIsAvailable>K</pIsAvailable></EnumEntry><Value>0</Value>"),
+           "E? E? E? E?", "!Access RW !Access RW");
+    addRow("a formula refuses a write where it is to happen, and reading it past the caches tries nothing anew",
+           broken + node("IntSwissKnife", "K", "<pIsLocked>Broken</pIsLocked><Formula>1</Formula>")
+               + node("SwissKnife", "S", "<Formula>1</Formula>"),
+           "K? K* K=x K=1 K:=1 S=1 S:=1", "!LogicalError 1 !InvalidArgument !Access !Access !Access !LogicalError");
+    addRow("a float asks the steps of an integer, which has to be available, checked or not",
+           broken + reg("IntReg", "R", "0", "<pIsAvailable>Z</pIsAvailable>") + node("Float", "F", "<pValue>R</pValue>")
+               + node("Integer", "N", "<pValue>R</pValue>"),
+           "R:=1 N:=1 F:=1 Z=1 F:=1", "ok ok !Access ok ok");
+    addRow("an integer over an enumeration needs an entry that can be chosen",
+           broken
+               + node("Enumeration", "E",
+                      "<EnumEntry Name='A'><Value>0</Value><pIsAvailable>Z</pIsAvailable></EnumEntry><Value>0</Value>")
+               + node("Integer", "N", "<pValue>E</pValue>"),
+           "N:=0 E:=A Z=1 N:=5 E", "!Access ok ok ok A");
     addRow("a category that has been found stays, and asks no further than needed",
            broken + plain("<pIsImplemented>Z</pIsImplemented>") + node("Category", "C", "<pFeature>N</pFeature>")
                + node("Category", "D", "<pFeature>I</pFeature><pFeature>M</pFeature>")

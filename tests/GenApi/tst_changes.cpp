@@ -61,6 +61,17 @@ void tst_Changes::caching_data()
            reg("IntReg", "R", "0") + node("IntSwissKnife", "K", "<Formula>3</Formula>")
                + node("Integer", "N", "<pValue>K</pValue><pValueCopy>R</pValueCopy>"),
            "N* N& N N&", "3 unknown 3 kept");
+    addRow("nothing is kept past a reading past the caches, even a refused one",
+           reg("IntReg", "R", "0")
+               + node("Integer", "N", "<ImposedAccessMode>WO</ImposedAccessMode><pValue>R</pValue>"),
+           "R=1 R& N* R&", "ok kept !Access unknown");
+    addRow("an index that picks but formulas: what is read past the caches is kept",
+           node("IntSwissKnife", "K", "<Formula>3</Formula>") + node("Integer", "I", "<Value>0</Value>")
+               + node("Integer", "N",
+                      "<pIndex>I</pIndex><pValueIndexed Index='1'>K</pValueIndexed><ValueDefault>5</ValueDefault>")
+               + node("Integer", "M",
+                      "<pIndex>I</pIndex><pValueIndexed Index='1'>K</pValueIndexed><pValueDefault>I</pValueDefault>"),
+           "N* N& M* M&", "5 kept 0 unknown");
     addRow("a self-clearing entry is asked for as long as it is current",
            reg("IntReg", "R", "0")
                + node("Enumeration", "E",
@@ -146,6 +157,12 @@ void tst_Changes::commands_data()
            "ok C,R 3 running  ok C,R done C,R done ");
     addRow("written as text", command, "C C=anything C=0 R C=1 R C C.",
            "0 !InvalidArgument !InvalidArgument 0 ok 3 1 running");
+    addRow("seen to be done by its text", command, "C! ^ R=0 ^ C ^ C ^", "ok C,R ok C,R 0 C,R 0 ");
+    addRow("errors are told when the device is done, and nothing else then",
+           reg("IntReg", "R", "0")
+               + node("Enumeration", "E", "<EnumEntry Name='Bad'><Value>1</Value></EnumEntry><Value>1</Value>")
+               + node("Command", "C", "<pError>E</pError><pValue>R</pValue><CommandValue>3</CommandValue>"),
+           "C! C. ^ R=0 ^ C. C. ^ C=1", "ok running C,R ok C,R !Runtime !Runtime  !Runtime");
     addRow("asked whether it is done, it tells of errors",
            node("Enumeration", "E", "<EnumEntry Name='Bad'><Value>1</Value></EnumEntry><Value>1</Value>")
                + node("Command", "C", "<pError>E</pError><Value>0</Value><CommandValue>3</CommandValue>"),

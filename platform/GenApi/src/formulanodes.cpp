@@ -102,9 +102,12 @@ auto SwissKnifeNode<Base>::value(bool ignoreCache) -> Number
     return this->run(m_formula, 0, ignoreCache);
 }
 
+/** Where nothing else has refused it before: a mode that could not be worked out, or a write without checks. */
 template <typename Base>
 void SwissKnifeNode<Base>::setValue(Number, bool, Changes &)
 {
+    if (Base::kind == Formula::Kind::Integer)
+        this->throwNoAccess("writable");
     ORV_THROW(LogicalErrorException, std::string("node '") + this->name() + "' is computed and cannot be written");
 }
 

@@ -81,7 +81,7 @@ void NumberSource<Number>::write(Node &owner, Number value, bool verify, Changes
     Ref &target = current(owner);
     // Whatever the index may pick belongs to this value, written now or not.
     if (m_indexed)
-        forEachTarget([&changes](Node &node) { node.addEnds(changes); });
+        addEnds(changes);
     if (Node *const node = target.node()) {
         writeLinked(*node, value, verify, changes);
     } else {
@@ -92,6 +92,40 @@ void NumberSource<Number>::write(Node &owner, Number value, bool verify, Changes
         for (Node *copy : m_copies->nodes)
             writeLinked(*copy, value, verify, changes);
     }
+}
+
+template <typename Number>
+bool NumberSource<Number>::addEnds(Changes &changes)
+{
+    // Only where there are several ways they may come together again.
+    if (uint64_t *const told = m_indexed ? &m_indexed->endsIn : m_copies ? &m_copies->endsIn : nullptr) {
+        if (*told == changes.list())
+            return true;
+        *told = changes.list();
+    }
+    bool any = false;
+    forEachTarget([&](Node &node) {
+        any = true;
+        node.addEnds(changes);
+    });
+    return any;
+}
+
+template <typename Number>
+bool NumberSource<Number>::keepsFresh() const
+{
+    if (!m_indexed)
+        return node() && !m_copies && node()->keepsFresh();
+    if (!m_indexed->keepsFresh) {
+        bool any = false;
+        bool all = true;
+        forEachTarget([&](const Node &node) {
+            any = true;
+            all = all && node.keepsFresh();
+        });
+        m_indexed->keepsFresh = any && all;
+    }
+    return *m_indexed->keepsFresh;
 }
 
 template <typename Number>

@@ -46,12 +46,20 @@ public:
                 if (Node *const picked = item.value.node())
                     visit(*picked);
             }
+            if (Node *const picked = m_indexed->fallback.node())
+                visit(*picked);
         }
         if (m_copies) {
             for (Node *copy : m_copies->nodes)
                 visit(*copy);
         }
     }
+
+    /** Tells \a changes of the ends of all these, once; false when there are none. */
+    bool addEnds(Changes &changes);
+
+    /** Whether all that it may be read from keeps what was read past the caches. */
+    bool keepsFresh() const;
 
 private:
     friend class DescriptionLoader;
@@ -69,6 +77,8 @@ private:
         Ref fallback;
         Ref *picked = nullptr; ///< what the last evaluation found
         uint64_t pickedIn = 0; ///< that evaluation
+        std::optional<bool> keepsFresh; ///< once it has been worked out
+        uint64_t endsIn = 0; ///< the last list of changes that was told of the ends
     };
 
     /** Nodes that are written with the value. */
@@ -77,6 +87,7 @@ private:
         std::vector<Node *> nodes;
         std::pair<Number, Number> range{};
         uint64_t rangeIn = 0; ///< the evaluation that worked it out
+        uint64_t endsIn = 0; ///< the last list of changes that was told of the ends
     };
 
     Indexed &indexed();
@@ -100,12 +111,8 @@ public:
     Node *valueNode() override { return m_source.node(); }
     void addEnds(Changes &changes) override
     {
-        bool endsHere = true;
-        m_source.forEachTarget([&](Node &node) {
-            endsHere = false;
-            node.addEnds(changes);
-        });
-        if (endsHere)
+        const Descent descent(*this);
+        if (!m_source.addEnds(changes))
             Node::addEnds(changes);
     }
     int64_t intMin() override;
@@ -128,7 +135,7 @@ protected:
         m_source.write(*this, value, verify, changes);
     }
     bool keepsWritten() const override { return !m_source.hasCopies(); }
-    bool keepsFresh() const override { return keepsWritten() && m_source.node() && m_source.node()->keepsFresh(); }
+    bool keepsFresh() const override { return m_source.keepsFresh(); }
     bool ignoresConditions() const override { return m_source.isIndexed(); }
     GenApi::EAccessMode readAccess() const override
     {
@@ -155,12 +162,8 @@ public:
     Node *valueNode() override { return m_source.node(); }
     void addEnds(Changes &changes) override
     {
-        bool endsHere = true;
-        m_source.forEachTarget([&](Node &node) {
-            endsHere = false;
-            node.addEnds(changes);
-        });
-        if (endsHere)
+        const Descent descent(*this);
+        if (!m_source.addEnds(changes))
             Node::addEnds(changes);
     }
     double floatMin() override;
@@ -194,7 +197,7 @@ protected:
         m_source.write(*this, value, verify, changes);
     }
     bool keepsWritten() const override { return !m_source.hasCopies(); }
-    bool keepsFresh() const override { return keepsWritten() && m_source.node() && m_source.node()->keepsFresh(); }
+    bool keepsFresh() const override { return m_source.keepsFresh(); }
     bool ignoresConditions() const override { return m_source.isIndexed(); }
     GenApi::EAccessMode readAccess() const override
     {

@@ -291,10 +291,17 @@ EAccessMode Node::accessMode() const
 {
     if (m_accessEvaluation == m_map.evaluation())
         return withParts(m_access);
-    if (m_accessOpen)
+    if (m_accessOpen) {
+        m_accessOpen = m_accessComputing || staysOpen();
         return withParts(openAccess());
+    }
     m_accessOpen = true;
-    m_access = computeAccessMode();
+    {
+        m_accessComputing = true;
+        const auto end = [](bool *computing) { *computing = false; };
+        const std::unique_ptr<bool, decltype(end)> computed(&m_accessComputing, end);
+        m_access = computeAccessMode();
+    }
     m_accessOpen = false;
     m_accessEvaluation = m_map.evaluation();
     return withParts(m_access);
@@ -350,6 +357,12 @@ EAccessMode Node::everAccess() const
     return combined(ownAccess(), endAccess());
 }
 
+bool Node::hasCachableConditions() const
+{
+    const auto isCachable = [](const Node *node) { return !node || node->cachingMode() != NoCache; };
+    return isCachable(m_isImplemented) && isCachable(m_isAvailable) && isCachable(m_isLocked);
+}
+
 EAccessMode Node::availability(const Node *node)
 {
     const EAccessMode mode = node ? node->accessMode() : RW;
@@ -376,15 +389,24 @@ bool Node::isFulfilled(Node &node)
 
 void Node::requireReadable(bool ignoreCache) const
 {
-    const auto forget = [&] { m_accessOpen = m_accessOpen && !ignoreCache; };
+    const bool forgets = ignoreCache && takesWrites();
     try {
         if (!isReadable(accessMode()))
             throwNoAccess("readable");
     } catch (...) {
-        forget();
+        if (forgets)
+            dropChain();
         throw;
     }
-    forget();
+    m_accessOpen = m_accessOpen && !forgets;
+}
+
+/** Drops what is kept from here down to where the value ends: as if it had been read past the caches. */
+void Node::dropChain() const
+{
+    unsigned left = 1000; // links do not go round, but nobody waits for a chain that is longer than can be read
+    for (Node *node = const_cast<Node *>(this); node && left > 0; node = node->valueNode(), --left)
+        node->dropCache();
 }
 
 void Node::requireWritable(bool verify) const
@@ -480,6 +502,8 @@ double Node::floatValue(bool ignoreCache)
 /** Rounded, and down to the grid of what takes integers in steps. */
 void Node::setFloatValue(double value, bool verify, Changes &changes)
 {
+    if (interfaceType() == intfIInteger)
+        requireAvailable(); // its steps are asked for, checked or not
     constexpr double limit = 9223372036854775808.0;
     if (!(value >= -limit && value <= limit)) // what is hardly too large becomes as large as can be
         ORV_THROW(OutOfRangeException, std::string("node '") + m_name + "': the number is no 64-bit integer");

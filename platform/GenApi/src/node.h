@@ -53,6 +53,7 @@ public:
     void countWrite(const Node &node);
 
     const std::vector<Node *> &nodes() const { return m_nodes; }
+    uint64_t list() const { return m_list; }
     bool contains(const Node &node) const;
 
     /** The port has failed while writing: what the device holds nobody knows, so that those who watch have to ask. */
@@ -157,7 +158,8 @@ public:
 
     /**
      * Throw an access exception when that is not possible now; without \a verify only where it never is. Who reads past
-     * the caches has a mode that could not be worked out tried anew next time.
+     * the caches has a mode that could not be worked out tried anew next time, and finds nothing kept even if he is
+     * refused.
      */
     void requireReadable(bool ignoreCache = false) const;
     void requireWritable(bool verify = true) const;
@@ -280,11 +282,19 @@ protected:
     virtual GenApi::EAccessMode openAccess() const { return combined(GenApi::RW, m_imposedAccess); }
     GenApi::EAccessMode imposedAccess() const { return m_imposedAccess; }
 
+    /** Whether a mode that could not be worked out counts as that for all who ask, not just for the next. */
+    virtual bool staysOpen() const { return true; }
+
+    /** Whether the node's own conditions may be kept. */
+    bool hasCachableConditions() const;
+
     /** What the node itself ever allows. */
     GenApi::EAccessMode ownAccess() const { return m_isImplemented || m_broken ? implementation() : m_imposedAccess; }
 
     /** Whether a written value that has led to an error is not kept. */
     virtual bool checksBeforeKeeping() const { return false; }
+
+    void dropChain() const;
 
     /** Throws when the node that tells about errors tells of one. */
     void checkError() const;
@@ -314,6 +324,7 @@ protected:
     };
 
     mutable bool m_accessOpen = false; ///< the access mode is being worked out, or could not be
+    mutable bool m_accessComputing = false; ///< it is being worked out
 
 private:
     friend class DescriptionLoader;

@@ -140,7 +140,11 @@ void BooleanNode::setText(const std::string &text, bool verify, Changes &changes
 void CommandNode::Execute(bool Verify)
 {
     (void)Verify;
-    change("Execute", [&](Changes &changes) { execute(changes); });
+    change("Execute", [&](Changes &changes) {
+        execute(changes);
+        if (!m_value.node()) // intentionally: while the device is busy with it there is no error yet
+            checkError();
+    });
 }
 
 /** Unlike a value, a command is never given where it is locked or not available. */
@@ -150,26 +154,41 @@ void CommandNode::execute(Changes &changes)
     setIntValue(m_commandValue.value(), true, changes);
     m_running = m_value.node() != nullptr;
     restartPollClock();
-    checkError();
 }
 
 bool CommandNode::IsDone(bool Verify)
 {
-    bool ended = false;
     bool done = true;
     {
         const Entry entry(*this, "IsDone");
         done = isDone();
-        ended = done && m_running && isReadable(accessMode());
-        m_running = m_running && !done;
     }
-    if (ended) // the device has changed: tell those who watch
-        change("IsDone", [this](Changes &changes) { addEnd(changes); });
-    if (Verify) {
-        const Entry entry(*this, "IsDone");
-        checkError();
-    }
+    if (done)
+        end(Verify);
     return done;
+}
+
+gcstring CommandNode::ToString(bool Verify, bool IgnoreCache)
+{
+    const gcstring text = ValueNode::ToString(Verify, IgnoreCache);
+    if (text == "0")
+        end(Verify);
+    return text;
+}
+
+/** The device has been seen to be done: it has changed, so that those who watch are told. */
+void CommandNode::end(bool verify)
+{
+    bool hasChanged = false;
+    {
+        const Entry entry(*this, "IsDone");
+        hasChanged = m_running && isReadable(accessMode());
+        m_running = false;
+        if (verify)
+            checkError();
+    }
+    if (hasChanged)
+        change("IsDone", [this](Changes &changes) { addEnd(changes); });
 }
 
 void CommandNode::addEnd(Changes &changes)
@@ -212,6 +231,7 @@ void CommandNode::setText(const std::string &text, bool, Changes &changes)
                   std::string("command '") + name() + "': '" + text + "' does not mean to execute it");
     }
     execute(changes);
+    checkError();
 }
 
 int64_t EnumEntryNode::GetValue()
@@ -410,7 +430,9 @@ void EnumerationNode::setFloatValue(double value, bool verify, Changes &changes)
         if (isReadable(entry->accessMode()) && (!nearest || distance(entry) < distance(nearest)))
             nearest = entry;
     }
-    setIntValue(nearest ? nearest->m_value : roundedToInteger(value), verify, changes);
+    if (!nearest)
+        throwNoAccess("writable");
+    setIntValue(nearest->m_value, verify, changes);
 }
 
 std::string EnumerationNode::text(bool ignoreCache)

@@ -89,6 +89,7 @@ public:
 
     void Execute(bool Verify) override;
     bool IsDone(bool Verify) override;
+    GenICam::gcstring ToString(bool Verify, bool IgnoreCache) override;
 
     GenApi::EInterfaceType interfaceType() const override { return GenApi::intfICommand; }
     bool isNumber() const override { return true; }
@@ -121,6 +122,7 @@ private:
     bool isDone();
     void execute(Changes &changes);
     void addEnd(Changes &changes);
+    void end(bool verify);
 
     IntRef m_value;
     IntRef m_commandValue;
@@ -146,6 +148,7 @@ public:
 
 protected:
     GenApi::EAccessMode openAccess() const override { return GenApi::RO; }
+    bool staysOpen() const override { return hasCachableConditions(); }
     GenApi::EAccessMode firstAccess() const override { return readAccess(); }
     GenApi::EAccessMode valueAccess() const override { return GenApi::RO; }
 
