@@ -137,6 +137,17 @@ void tst_Access::access_data()
                       "<EnumEntry Name='A'><Value>0</Value><pIsAvailable>Z</pIsAvailable></EnumEntry><Value>0</Value>")
                + node("Integer", "N", "<pValue>E</pValue>"),
            "N:=0 E:=A Z=1 N:=5 E", "!Access ok ok ok A");
+    addRow("an index that throws does so every time",
+           broken + node("Integer", "N", "<pIndex>Broken</pIndex><ValueDefault>3</ValueDefault>"), "N? N? Six=1 N? N",
+           "!LogicalError !LogicalError ok RW 3");
+    addRow("a mode that was worked out stands when what it was made of throws",
+           broken + node("Integer", "N", "<pIsAvailable>M</pIsAvailable><Value>1</Value>")
+               + node("Integer", "M", "<pIsAvailable>Broken</pIsAvailable><pValue>Six</pValue>"),
+           "M? N? M* N?", "!LogicalError RW 6 RW");
+    addRow("a reading past the caches leaves formulas below as they are",
+           broken + node("Integer", "N", "<pValue>K</pValue>")
+               + node("IntSwissKnife", "K", "<pIsLocked>Broken</pIsLocked><Formula>1</Formula>"),
+           "N? N? N* N? K?", "!LogicalError RW 1 RW RW");
     addRow("a category that has been found stays, and asks no further than needed",
            broken + plain("<pIsImplemented>Z</pIsImplemented>") + node("Category", "C", "<pFeature>N</pFeature>")
                + node("Category", "D", "<pFeature>I</pFeature><pFeature>M</pFeature>")

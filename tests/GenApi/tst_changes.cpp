@@ -135,6 +135,11 @@ void tst_Changes::polling_data()
                       "<EnumEntry Name='A'><Value>0</Value></EnumEntry><pValue>R</pValue><PollingTime>10</PollingTime>")
                + node("Command", "C", "<pValue>R</pValue><CommandValue>1</CommandValue><PollingTime>10</PollingTime>"),
            "@10 ^ C! ^ @9 ^ @1 ^", "ok  ok C,E,R ok  ok C");
+    addRow("an enumeration whose current entry may end by itself",
+           node("Enumeration", "E",
+                "<EnumEntry Name='A'><Value>0</Value></EnumEntry><EnumEntry Name='B'><Value>1</Value>"
+                "<IsSelfClearing>Yes</IsSelfClearing></EnumEntry><Value>0</Value><PollingTime>10</PollingTime>"),
+           "@10 ^ E=B ^ @10 ^", "ok  ok E ok E");
     addRow("each at its own pace", polled, "@950 ^ @50 ^", "ok N,R ok Slow");
     addRow("time does not run backwards, nor over", polled, "@-500 @9223372036854775807 ^ @99 @9223372036854775807 ^",
            "ok ok N,R,Slow ok ok N,R,Slow");

@@ -222,14 +222,14 @@ EIncMode IntegerNode::incrementMode()
 std::vector<int64_t> IntegerNode::validInts(bool bounded)
 {
     std::vector<int64_t> values;
-    Node *const node = m_source.currentNode(*this);
     if (m_validValues)
         values = *m_validValues;
-    else if (node)
+    else if (Node *const node = m_source.currentNode(*this))
         values = node->validInts(false);
     if (bounded) {
-        const int64_t maximum = intMax();
-        keepInside(values, {intMin(), maximum});
+        // The limits of its own are known even where there is no value.
+        const int64_t maximum = m_maximum.isSet() ? m_maximum.value() : intMax();
+        keepInside(values, {m_minimum.isSet() ? m_minimum.value() : intMin(), maximum});
     }
     return values;
 }

@@ -38,10 +38,13 @@ void Changes::addRead(Node &node)
         Node *const next = open.back();
         open.pop_back();
         // Who passes a value on or takes it knows of it: an access mode that could not be worked out stays so.
-        const bool staysOpen = next->m_accessOpen && (next == &node || next->m_passesOn);
+        const bool keepsAccess = next == &node || next->m_passesOn;
+        const bool staysOpen = next->m_accessOpen && keepsAccess;
+        const bool staysKnown = next->m_accessKnown && keepsAccess;
         if (next != &node)
             next->dropCache();
         next->m_accessOpen = staysOpen;
+        next->m_accessKnown = staysKnown;
         if (next->m_changeList != m_list) {
             next->m_changeList = m_list;
             m_nodes.push_back(next);
@@ -285,7 +288,8 @@ void Node::GetSelectingFeatures(FeatureList_t &Features) const
 
 /**
  * Access modes may hang on one another in a circle, through the entries of an enumeration: a mode that is being worked
- * out counts as RW. So does one whose conditions have thrown, which is told once, until something changes.
+ * out counts as RW. So does one whose conditions have thrown, which is told once, until something changes. One that was
+ * worked out before stands even if a condition throws now.
  */
 EAccessMode Node::accessMode() const
 {
@@ -296,13 +300,19 @@ EAccessMode Node::accessMode() const
         return withParts(openAccess());
     }
     m_accessOpen = true;
-    {
-        m_accessComputing = true;
-        const auto end = [](bool *computing) { *computing = false; };
-        const std::unique_ptr<bool, decltype(end)> computed(&m_accessComputing, end);
+    m_accessComputing = true;
+    try {
         m_access = computeAccessMode();
+    } catch (...) {
+        m_accessComputing = false;
+        if (ignoresConditions())
+            forgetAccess(); // told every time
+        if (!m_accessKnown)
+            throw;
     }
     m_accessOpen = false;
+    m_accessComputing = false;
+    m_accessKnown = hasCachableConditions() && !dependsOnPort();
     m_accessEvaluation = m_map.evaluation();
     return withParts(m_access);
 }
@@ -398,14 +408,16 @@ void Node::requireReadable(bool ignoreCache) const
             dropChain();
         throw;
     }
-    m_accessOpen = m_accessOpen && !forgets;
+    if (forgets)
+        forgetAccess();
 }
 
 /** Drops what is kept from here down to where the value ends: as if it had been read past the caches. */
 void Node::dropChain() const
 {
     unsigned left = 1000; // links do not go round, but nobody waits for a chain that is longer than can be read
-    for (Node *node = const_cast<Node *>(this); node && left > 0; node = node->valueNode(), --left)
+    for (Node *node = const_cast<Node *>(this); node && node->takesWrites() && left > 0;
+         node = node->valueNode(), --left)
         node->dropCache();
 }
 

@@ -138,7 +138,7 @@ public:
     virtual bool takesWrites() const { return true; }
 
     /** Whether there is something to poll for. */
-    virtual bool isPolled() const { return true; }
+    virtual bool isPolled() { return true; }
     virtual GenApi::EInterfaceType interfaceType() const = 0;
 
     /** What may be done now, with all that this node depends on. */
@@ -184,7 +184,7 @@ public:
     void setCachingMode(GenApi::ECachingMode mode) { m_cachingMode = mode; }
 
     /** Forgets what is kept of the device's state. */
-    virtual void dropCache() { m_accessOpen = false; }
+    virtual void dropCache() { forgetAccess(); }
     virtual bool isCacheValid() const { return true; }
 
     /** Whether a value that was read past the caches is kept. */
@@ -285,6 +285,9 @@ protected:
     /** Whether a mode that could not be worked out counts as that for all who ask, not just for the next. */
     virtual bool staysOpen() const { return true; }
 
+    /** Whether a port is asked for the mode, whose failure has to be told. */
+    virtual bool dependsOnPort() const { return false; }
+
     /** Whether the node's own conditions may be kept. */
     bool hasCachableConditions() const;
 
@@ -295,6 +298,11 @@ protected:
     virtual bool checksBeforeKeeping() const { return false; }
 
     void dropChain() const;
+    void forgetAccess() const
+    {
+        m_accessOpen = false;
+        m_accessKnown = false;
+    }
 
     /** Throws when the node that tells about errors tells of one. */
     void checkError() const;
@@ -325,6 +333,7 @@ protected:
 
     mutable bool m_accessOpen = false; ///< the access mode is being worked out, or could not be
     mutable bool m_accessComputing = false; ///< it is being worked out
+    mutable bool m_accessKnown = false; ///< it was worked out, and nothing has changed since
 
 private:
     friend class DescriptionLoader;

@@ -221,7 +221,7 @@ void Node::change(const char *operation, const Write &write)
             write(changes);
             if (!changes.contains(*this)) {
                 changes.add(*this);
-                m_accessOpen = false;
+                forgetAccess();
             }
         } catch (...) {
             failure = std::current_exception(); // what was changed before it is asked for again

@@ -39,7 +39,7 @@ EAccessMode CategoryNode::computeAccessMode() const
         m_isThere = m_isThere || (isImplemented() && hasImplemented());
         return combined(combined(imposedAccess(), RO), m_isThere ? RW : NI);
     } catch (...) {
-        m_accessOpen = false; // told every time
+        forgetAccess(); // told every time
         throw;
     }
 }
@@ -383,6 +383,16 @@ int64_t EnumerationNode::intValue(bool ignoreCache)
     const Renewal renewal(m_map);
     m_map.startEvaluation();
     return m_value.value(true);
+}
+
+bool EnumerationNode::isPolled()
+{
+    try {
+        const EnumEntryNode *const current = m_hasSelfClearing ? find(m_value.value()) : nullptr;
+        return current && current->m_selfClearing;
+    } catch (const GenICam::GenericException &) {
+        return false; // what cannot be read does not end all polling
+    }
 }
 
 std::pair<double, double> EnumerationNode::floatRange()

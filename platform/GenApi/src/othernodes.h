@@ -98,7 +98,7 @@ public:
     void setIntValue(int64_t value, bool verify, Changes &changes) override;
 
     Node *valueNode() override { return m_value.node(); }
-    bool isPolled() const override { return m_running; }
+    bool isPolled() override { return m_running; }
 
     /** 1 as long as the device is busy with it, else 0. */
     std::string text(bool ignoreCache) override;
@@ -194,8 +194,8 @@ public:
     double floatMax() override;
     std::pair<double, double> floatRange() override;
     GenApi::EIncMode incrementMode() override { return GenApi::noIncrement; }
-    /** Intentionally: what an entry stands for is polled where it is kept, in a register. */
-    bool isPolled() const override { return false; }
+    /** Intentionally: what an entry stands for is polled where it is kept, unless it may end by itself. */
+    bool isPolled() override;
     void checkValue() override;
     std::string text(bool ignoreCache) override;
     void setText(const std::string &text, bool verify, Changes &changes) override;

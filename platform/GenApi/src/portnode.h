@@ -40,6 +40,7 @@ public:
 protected:
     GenApi::EAccessMode valueAccess() const override;
     GenApi::EAccessMode endAccess() const override { return valueAccess(); }
+    bool dependsOnPort() const override { return true; }
 
 private:
     friend class DescriptionLoader;

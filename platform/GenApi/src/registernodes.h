@@ -124,6 +124,7 @@ protected:
     GenApi::EAccessMode readAccess() const override { return combined(Node::readAccess(), m_register.placeAccess()); }
     GenApi::EAccessMode firstAccess() const override { return readAccess(); }
     bool checksBeforeKeeping() const override { return true; }
+    bool dependsOnPort() const override { return true; }
 
     RegisterData m_register;
 };
