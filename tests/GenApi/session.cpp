@@ -118,7 +118,7 @@ QByteArray Session::ask(INode *node, const QByteArray &what)
         CNodePtr(node)->InvalidateNode();
         return "ok";
     }
-    const QByteArray value = CValuePtr(node)->ToString(false, what == "*").c_str();
+    const QByteArray value = CValuePtr(node)->ToString(what == "+", what == "*").c_str();
     if (what != ":")
         return value;
     const CFloatPtr number(node);

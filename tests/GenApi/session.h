@@ -26,6 +26,7 @@ public:
      *
      *     N?      the access mode
      *     N       the value as text         N*  the same without the cache      N&  whether the value is kept
+     *     N+      the same with checks
      *     N:      value min..max, then /increment or {valid values}
      *     N=text  FromString: "ok"          N:=text  the same without checks
      *     N!      Execute: "ok"             N.  IsDone

@@ -83,6 +83,77 @@ void tst_Access::access_data()
                + node("Integer", "M", "<ImposedAccessMode>RO</ImposedAccessMode><pValue>R</pValue>")
                + node("Command", "C", "<pIsLocked>On</pIsLocked><Value>0</Value><CommandValue>1</CommandValue>"),
            "N:=5 Z=1 R M:=6 R C:=1", "ok ok 5 !Access 5 !Access");
+    const QByteArray broken = node("Boolean", "Broken", "<pValue>Six</pValue>")
+        + node("Integer", "Six", "<Value>6</Value>") + node("Integer", "Z", "<Value>0</Value>")
+        + reg("IntReg", "Reg", "0")
+        + reg("IntReg", "Const", "0", "<AccessMode>RO</AccessMode>"); // Broken throws when it is read
+    addRow("who passes a value on keeps a mode that could not be worked out, who converts it does not",
+           broken + plain("<pIsLocked>Broken</pIsLocked>")
+               + node("Integer", "M", "<pIsLocked>Broken</pIsLocked><pValue>Reg</pValue>")
+               + node("Boolean", "B", "<pIsLocked>Broken</pIsLocked><pValue>Reg</pValue>"),
+           "N? N=1 N? M? M=1 M? B? B=1 B? Reg=1 M?",
+           "!LogicalError ok RW !LogicalError ok RW !LogicalError ok !LogicalError ok !LogicalError");
+    addRow("who reads past the caches has it tried anew", broken + plain("<pIsLocked>Broken</pIsLocked>"),
+           "N? N? N* N? N* N*", "!LogicalError RW 7 !LogicalError 7 !LogicalError");
+    addRow("unchecked writes ask whether there is the node", broken + plain("<pIsImplemented>Broken</pIsImplemented>"),
+           "N? N? N:=1 N:=1 N=1", "!LogicalError RW !LogicalError !LogicalError ok");
+    addRow("with such a mode what lies below refuses, after the checks here",
+           broken + node("Integer", "N", "<pIsAvailable>Broken</pIsAvailable><pValue>Const</pValue><Max>9</Max>")
+               + reg("IntReg", "R", "0", "<AccessMode>RO</AccessMode><pIsAvailable>Broken</pIsAvailable>"),
+           "N? N=10 N=x N=9 R? R=-1", "!LogicalError !OutOfRange !InvalidArgument !Access !LogicalError !Access");
+    addRow("what cannot be written is not asked for locks",
+           broken
+               + node("Enumeration", "E",
+                      "<pIsLocked>Broken</pIsLocked><EnumEntry Name='A'><Value>0</Value></EnumEntry>"
+                      "<pValue>Const</pValue>"),
+           "E?", "RO");
+    addRow(
+        "entries are asked whatever became of the enumeration",
+        broken
+            + node(
+                "Enumeration", "E",
+                "<EnumEntry Name='A'><Value>0</Value><pIsLocked>Broken</pIsLocked></EnumEntry><pValue>Const</pValue>")
+            + node("Enumeration", "F",
+                   "<pIsLocked>Broken</pIsLocked><EnumEntry Name='A'><Value>0</Value><pIsLocked>Broken</pIsLocked>"
+                   "</EnumEntry><Value>0</Value>"),
+        "E? E? F? F? F?", "!LogicalError RO !LogicalError !LogicalError RW");
+    addRow("entries whose conditions cannot be kept count as readable for the next one who asks",
+           reg("IntReg", "W", "0", "<AccessMode>WO</AccessMode><Cachable>NoCache</Cachable>")
+               + node("IntSwissKnife", "K", "<pVariable Name='W'>W</pVariable><Formula>W</Formula>")
+               + node("Enumeration", "E",
+                      "<EnumEntry Name='A'><Value>0</Value><pIsAvailable>K</pIsAvailable></EnumEntry><Value>0</Value>"),
+           "E? E? E? E?", "!Access RW !Access RW");
+    addRow("a formula refuses a write where it is to happen, and reading it past the caches tries nothing anew",
+           broken + node("IntSwissKnife", "K", "<pIsLocked>Broken</pIsLocked><Formula>1</Formula>")
+               + node("SwissKnife", "S", "<Formula>1</Formula>"),
+           "K? K* K=x K=1 K:=1 S=1 S:=1", "!LogicalError 1 !InvalidArgument !Access !Access !Access !LogicalError");
+    addRow("a float asks the steps of an integer, which has to be available, checked or not",
+           broken + reg("IntReg", "R", "0", "<pIsAvailable>Z</pIsAvailable>") + node("Float", "F", "<pValue>R</pValue>")
+               + node("Integer", "N", "<pValue>R</pValue>"),
+           "R:=1 N:=1 F:=1 Z=1 F:=1", "ok ok !Access ok ok");
+    addRow("an integer over an enumeration needs an entry that can be chosen",
+           broken
+               + node("Enumeration", "E",
+                      "<EnumEntry Name='A'><Value>0</Value><pIsAvailable>Z</pIsAvailable></EnumEntry><Value>0</Value>")
+               + node("Integer", "N", "<pValue>E</pValue>"),
+           "N:=0 E:=A Z=1 N:=5 E", "!Access ok ok ok A");
+    addRow("an index that throws does so every time",
+           broken + node("Integer", "N", "<pIndex>Broken</pIndex><ValueDefault>3</ValueDefault>"), "N? N? Six=1 N? N",
+           "!LogicalError !LogicalError ok RW 3");
+    addRow("a mode that was worked out stands when what it was made of throws",
+           broken + node("Integer", "N", "<pIsAvailable>M</pIsAvailable><Value>1</Value>")
+               + node("Integer", "M", "<pIsAvailable>Broken</pIsAvailable><pValue>Six</pValue>"),
+           "M? N? M* N?", "!LogicalError RW 6 RW");
+    addRow("a reading past the caches leaves formulas below as they are",
+           broken + node("Integer", "N", "<pValue>K</pValue>")
+               + node("IntSwissKnife", "K", "<pIsLocked>Broken</pIsLocked><Formula>1</Formula>"),
+           "N? N? N* N? K?", "!LogicalError RW 1 RW RW");
+    addRow("a category that has been found stays, and asks no further than needed",
+           broken + plain("<pIsImplemented>Z</pIsImplemented>") + node("Category", "C", "<pFeature>N</pFeature>")
+               + node("Category", "D", "<pFeature>I</pFeature><pFeature>M</pFeature>")
+               + node("Category", "I", "<pFeature>Six</pFeature><pFeature>M</pFeature>")
+               + node("Integer", "M", "<pIsImplemented>Broken</pIsImplemented><Value>0</Value>"),
+           "C? Z=1 C? Z=0 C? N? D? M?", "NI ok RO ok RO NI RO !LogicalError");
     addRow("a choice that hangs on what it chooses",
            "<Enumeration Name='S'><EnumEntry Name='A'><Value>0</Value></EnumEntry><EnumEntry Name='B'><Value>1</Value>"
            "<pIsImplemented>V</pIsImplemented></EnumEntry><pValue>R</pValue></Enumeration>"

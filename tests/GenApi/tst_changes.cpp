@@ -53,6 +53,25 @@ void tst_Changes::caching_data()
            "N N* N& R& # N # K K* K& R& #", "0 0 unknown unknown r2w0 0 r1w0 0 0 kept kept r1w0");
     addRow("a refused write drops what was kept", cached("WriteThrough"), "N N=-1 N& R& N # N=x N&",
            "0 !OutOfRange unknown kept 0 r1w0 !InvalidArgument kept");
+    addRow("a value that fails a check is not kept anew",
+           reg("IntReg", "R", "0") + node("Integer", "N", "<pInvalidator>R</pInvalidator><Value>7</Value><Max>5</Max>")
+               + node("Float", "F", "<pValue>N</pValue><Max>6</Max>"),
+           "F+ F& F F+ F& R=1 N+ N&", "!OutOfRange unknown 6.5 !OutOfRange kept ok !OutOfRange unknown");
+    addRow("copies: what is read past the caches is not kept",
+           reg("IntReg", "R", "0") + node("IntSwissKnife", "K", "<Formula>3</Formula>")
+               + node("Integer", "N", "<pValue>K</pValue><pValueCopy>R</pValueCopy>"),
+           "N* N& N N&", "3 unknown 3 kept");
+    addRow("nothing is kept past a reading past the caches, even a refused one",
+           reg("IntReg", "R", "0")
+               + node("Integer", "N", "<ImposedAccessMode>WO</ImposedAccessMode><pValue>R</pValue>"),
+           "R=1 R& N* R&", "ok kept !Access unknown");
+    addRow("an index that picks but formulas: what is read past the caches is kept",
+           node("IntSwissKnife", "K", "<Formula>3</Formula>") + node("Integer", "I", "<Value>0</Value>")
+               + node("Integer", "N",
+                      "<pIndex>I</pIndex><pValueIndexed Index='1'>K</pValueIndexed><ValueDefault>5</ValueDefault>")
+               + node("Integer", "M",
+                      "<pIndex>I</pIndex><pValueIndexed Index='1'>K</pValueIndexed><pValueDefault>I</pValueDefault>"),
+           "N* N& M* M&", "5 kept 0 unknown");
     addRow("a self-clearing entry is asked for as long as it is current",
            reg("IntReg", "R", "0")
                + node("Enumeration", "E",
@@ -88,6 +107,14 @@ void tst_Changes::callbacks_data()
                       "Index='1'>B</pValueIndexed>")
                + node("Integer", "M", "<pValue>A</pValue><pValueCopy>B</pValueCopy>"),
            "N=1 ^ M=2 ^ I=1 N ^", "ok A,B,M,N ok A,B,M,N ok 2 I,N");
+    addRow("a formula that an index may pick has not changed, what lies below the others has",
+           node("Integer", "I", "<Value>0</Value>") + reg("IntReg", "R", "0") + reg("IntReg", "S", "4")
+               + node("Integer", "A", "<pValue>R</pValue>")
+               + node("IntSwissKnife", "K", "<pVariable Name='S'>S</pVariable><Formula>S</Formula>")
+               + node("Integer", "N",
+                      "<pIndex>I</pIndex><pValueIndexed Index='1'>A</pValueIndexed><pValueIndexed Index='2'>K"
+                      "</pValueIndexed><ValueDefault>5</ValueDefault>"),
+           "N=1 ^", "ok A,N,R");
     addRow("a refused write is not told",
            reg("IntReg", "A", "0") + reg("IntReg", "B", "0", "<AccessMode>RO</AccessMode>")
                + node("Integer", "N", "<pValue>A</pValue><pValueCopy>B</pValueCopy>"),
@@ -108,6 +135,11 @@ void tst_Changes::polling_data()
                       "<EnumEntry Name='A'><Value>0</Value></EnumEntry><pValue>R</pValue><PollingTime>10</PollingTime>")
                + node("Command", "C", "<pValue>R</pValue><CommandValue>1</CommandValue><PollingTime>10</PollingTime>"),
            "@10 ^ C! ^ @9 ^ @1 ^", "ok  ok C,E,R ok  ok C");
+    addRow("an enumeration whose current entry may end by itself",
+           node("Enumeration", "E",
+                "<EnumEntry Name='A'><Value>0</Value></EnumEntry><EnumEntry Name='B'><Value>1</Value>"
+                "<IsSelfClearing>Yes</IsSelfClearing></EnumEntry><Value>0</Value><PollingTime>10</PollingTime>"),
+           "@10 ^ E=B ^ @10 ^", "ok  ok E ok E");
     addRow("each at its own pace", polled, "@950 ^ @50 ^", "ok N,R ok Slow");
     addRow("time does not run backwards, nor over", polled, "@-500 @9223372036854775807 ^ @99 @9223372036854775807 ^",
            "ok ok N,R,Slow ok ok N,R,Slow");
@@ -130,6 +162,16 @@ void tst_Changes::commands_data()
            "ok C,R 3 running  ok C,R done C,R done ");
     addRow("written as text", command, "C C=anything C=0 R C=1 R C C.",
            "0 !InvalidArgument !InvalidArgument 0 ok 3 1 running");
+    addRow("seen to be done by its text", command, "C! ^ R=0 ^ C ^ C ^", "ok C,R ok C,R 0 C,R 0 ");
+    addRow("errors are told when the device is done, and nothing else then",
+           reg("IntReg", "R", "0")
+               + node("Enumeration", "E", "<EnumEntry Name='Bad'><Value>1</Value></EnumEntry><Value>1</Value>")
+               + node("Command", "C", "<pError>E</pError><pValue>R</pValue><CommandValue>3</CommandValue>"),
+           "C! C. ^ R=0 ^ C. C. ^ C=1", "ok running C,R ok C,R !Runtime !Runtime  !Runtime");
+    addRow("asked whether it is done, it tells of errors",
+           node("Enumeration", "E", "<EnumEntry Name='Bad'><Value>1</Value></EnumEntry><Value>1</Value>")
+               + node("Command", "C", "<pError>E</pError><Value>0</Value><CommandValue>3</CommandValue>"),
+           "C.", "!Runtime");
     addRow("nothing to read back",
            reg("IntReg", "R", "0", "<AccessMode>WO</AccessMode>")
                + node("Command", "C", "<pValue>R</pValue><CommandValue>3</CommandValue>"),

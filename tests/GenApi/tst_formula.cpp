@@ -115,6 +115,8 @@ void tst_Formula::integers_data()
     row("ABS(-9223372036854775807 - 1)", Smallest);
     row("9007199254740993 * 3 / 3", 9007199254740993);
     row("2**63 - 2**64", 0);
+    row("1863166525 ** 2", 3471389499880575625);
+    row("(-2) ** 63 + 3 ** 39", -5170816883835799541);
     row("0 ** -1", Smallest);
     row("(-1)**-3 + 1**-9 + 5**-1", 0);
     row("-7 / 2 * 10 + -7 % 2", -31);
@@ -189,6 +191,7 @@ void tst_Formula::errors_data()
     row("A / Z", "division by zero");
     row("A ? A : A / Z", "division by zero");
     row("A % Z", "division by zero");
+    row("1 / 2e-16", "division by zero", "division by zero");
     row("SQRT(B)", "no finite result", "nan");
 }
 

@@ -126,6 +126,12 @@ void tst_Values::numbers_data()
            "3 -4..9/1 ok -3 ok !OutOfRange");
     addRow("float over integer", source + node("Float", "N", "<pValue>S</pValue><Max>50.5</Max>"),
            "N: N=11.9 S N=-8 S N=51", "7 -8..50.5/3 ok 10 ok -8 !OutOfRange");
+    addRow("no integer takes what has more than 64 bits",
+           node("Integer", "S", "<Value>7</Value>")
+               + node("Converter", "C",
+                      "<FormulaTo>FROM * 100</FormulaTo><FormulaFrom>TO / 100</FormulaFrom><pValue>S</pValue>"
+                      "<Slope>Varying</Slope>"),
+           "C=1e17 S C:=-1e300 S C=1e16 S", "!OutOfRange 7 !OutOfRange 7 ok 1000000000000000000");
     addRow("float grid", node("Float", "N", "<Value>0</Value><Min>-1</Min><Max>1</Max><Inc>0.1</Inc>"),
            "N: N=0.3 N=0.35 N=1.1 N=nan N=inf", "0 -1..1/0.1 ok ok !OutOfRange !InvalidArgument !InvalidArgument");
     const QByteArray mode = node("Enumeration", "E",
@@ -245,6 +251,10 @@ void tst_Values::texts_data()
                 "<Value>1</Value><Min>0.123456789</Min><Max>12345.678901</Max><DisplayNotation>Fixed</DisplayNotation>"
                 "<DisplayPrecision>2</DisplayPrecision>"),
            "N=0.123456789 N N=12345.678901 N", "ok 0.13 ok 12345.67");
+    addRow("the minimum does not matter for a text over the maximum",
+           node("Float", "N", "<Value>2.75</Value><Max>1</Max><pMin>W</pMin>")
+               + reg("IntReg", "W", "0", "<AccessMode>WO</AccessMode>"),
+           "N N:=0.5 N", "2.745 ok !Access");
     addRow("boolean", node("Boolean", "B", "<Value>true</Value>"), "B B=false B B=1.5 B B=True B=2",
            "1 ok 0 ok 1 !InvalidArgument !InvalidArgument");
     addRow("enumeration",

@@ -115,9 +115,15 @@ int64_t IntArithmetic::squareRoot(Value a)
     return wrapped(root);
 }
 
-/** Cut off; what is too large in either direction gives the smallest number. */
+/** Exact, cut off; what is too large in either direction gives the smallest number. */
 int64_t IntArithmetic::power(Value base, Value exponent)
 {
+    Value exact = 1;
+    bool fits = exponent >= 0 && exponent < 64;
+    for (Value left = exponent; fits && left > 0; --left)
+        fits = !__builtin_mul_overflow(exact, base, &exact);
+    if (fits)
+        return exact;
     constexpr double limit = 9223372036854775808.0;
     const double result = std::pow(static_cast<double>(base), static_cast<double>(exponent));
     return result > -limit && result < limit ? static_cast<Value>(result) : std::numeric_limits<Value>::min();
@@ -232,17 +238,22 @@ double FloatArithmetic::binary(Op op, Value a, Value b)
     }
 }
 
+/** What can hardly be told from 0 is as bad. */
+void FloatArithmetic::requireDivisor(Value b)
+{
+    if (std::abs(b) < std::numeric_limits<Value>::epsilon())
+        throw FormulaError{"division by zero"};
+}
+
 double FloatArithmetic::divide(Value a, Value b)
 {
-    if (std::abs(b) < std::numeric_limits<Value>::min()) // what hardly differs from it is as bad
-        throw FormulaError{"division by zero"};
+    requireDivisor(b);
     return a / b;
 }
 
 double FloatArithmetic::modulo(Value a, Value b)
 {
-    if (b == 0)
-        throw FormulaError{"division by zero"};
+    requireDivisor(b);
     return std::fmod(a, b);
 }
 

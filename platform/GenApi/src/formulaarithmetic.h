@@ -88,6 +88,7 @@ struct FloatArithmetic
 
 private:
     static Value transcendental(Op op, Value a);
+    static void requireDivisor(Value b);
     static Value divide(Value a, Value b);
     static Value modulo(Value a, Value b);
     static Value roundTo(Value a, Value digits);

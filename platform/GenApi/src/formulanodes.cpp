@@ -11,7 +11,7 @@ int64_t FormulaVariable::intValue(bool ignoreCache) const
     node->requireUsable();
     switch (property) {
     case Property::Value:
-        node->requireReadable();
+        node->requireReadable(ignoreCache);
         return node->intNumber(ignoreCache);
     case Property::Minimum:
         return node->intMin();
@@ -30,7 +30,7 @@ double FormulaVariable::floatValue(bool ignoreCache) const
     node->requireUsable();
     switch (property) {
     case Property::Value:
-        node->requireReadable();
+        node->requireReadable(ignoreCache);
         return node->floatValue(ignoreCache);
     case Property::Minimum:
         return node->floatMin();
@@ -102,17 +102,20 @@ auto SwissKnifeNode<Base>::value(bool ignoreCache) -> Number
     return this->run(m_formula, 0, ignoreCache);
 }
 
+/** Where nothing else has refused it before: a mode that could not be worked out, or a write without checks. */
 template <typename Base>
 void SwissKnifeNode<Base>::setValue(Number, bool, Changes &)
 {
+    if (Base::kind == Formula::Kind::Integer)
+        this->throwNoAccess("writable");
     ORV_THROW(LogicalErrorException, std::string("node '") + this->name() + "' is computed and cannot be written");
 }
 
 template <typename Base>
-EAccessMode ConverterNode<Base>::valueAccess(Node::When when) const
+EAccessMode ConverterNode<Base>::valueAccess() const
 {
-    const EAccessMode mode = m_node->accessMode(when);
-    return when == Node::When::Ever || mode == NI ? mode : combined(mode, this->variablesAccess());
+    const EAccessMode mode = m_node->accessMode();
+    return mode == NI ? mode : combined(mode, this->variablesAccess());
 }
 
 template <typename Base>
@@ -125,7 +128,7 @@ template <typename Base>
 auto ConverterNode<Base>::value(bool ignoreCache) -> Number
 {
     this->requireUsable();
-    m_node->requireReadable();
+    m_node->requireReadable(ignoreCache);
     return this->run(m_formulaFrom, Base::valueOf(*m_node, ignoreCache), ignoreCache);
 }
 

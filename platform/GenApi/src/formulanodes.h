@@ -72,7 +72,6 @@ protected:
 
     static std::pair<Number, Number> fullRange() { return {int64Min, int64Max}; }
     static GenApi::EIncMode ownIncrementMode() { return GenApi::fixedIncrement; }
-    static constexpr bool isWrittenLate = false;
     static Number evaluate(const Formula &formula, VariableSource<Number> &source)
     {
         return formula.evaluateInt(source);
@@ -108,7 +107,6 @@ protected:
 
     static std::pair<Number, Number> fullRange();
     static GenApi::EIncMode ownIncrementMode() { return GenApi::noIncrement; }
-    static constexpr bool isWrittenLate = true; ///< that a formula cannot be written is found when it is to happen
     static Number evaluate(const Formula &formula, VariableSource<Number> &source)
     {
         return formula.evaluateFloat(source);
@@ -169,12 +167,8 @@ public:
 protected:
     bool keepsFresh() const override { return true; }
     GenApi::EAccessMode firstAccess() const override { return combined(this->readAccess(), this->variablesAccess()); }
-    GenApi::EAccessMode valueAccess(Node::When when) const override
-    {
-        if (when == Node::When::Ever)
-            return Base::isWrittenLate ? GenApi::RW : GenApi::RO;
-        return combined(GenApi::RO, this->variablesAccess());
-    }
+    GenApi::EAccessMode valueAccess() const override { return combined(GenApi::RO, this->variablesAccess()); }
+    bool takesWrites() const override { return false; }
     Number value(bool ignoreCache) override;
     void setValue(Number value, bool verify, Changes &changes) override;
 
@@ -213,7 +207,7 @@ public:
     }
 
 protected:
-    GenApi::EAccessMode valueAccess(Node::When when) const override;
+    GenApi::EAccessMode valueAccess() const override;
     Number value(bool ignoreCache) override;
     void setValue(Number value, bool verify, Changes &changes) override;
     std::pair<Number, Number> range() override { return {limit(false), limit(true)}; }

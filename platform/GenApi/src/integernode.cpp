@@ -7,13 +7,13 @@ namespace OrvGenApi {
 using namespace GenApi;
 
 template <typename Number>
-EAccessMode NumberSource<Number>::access(Node::When when) const
+EAccessMode NumberSource<Number>::access() const
 {
     if (m_indexed && !picked())
         return m_indexed->index && m_indexed->index->accessMode() == NI ? NI : NA;
     const Node *const node = m_indexed ? picked()->node() : m_value.node();
-    EAccessMode mode = node ? node->accessMode(when) : RW;
-    if (m_copies && when == Node::When::Now) {
+    EAccessMode mode = node ? node->accessMode() : RW;
+    if (m_copies) {
         for (const Node *copy : m_copies->nodes) {
             const EAccessMode access = copy->accessMode();
             mode = combined(mode, access == WO ? RW : access); // is never read
@@ -79,15 +79,9 @@ template <typename Number>
 void NumberSource<Number>::write(Node &owner, Number value, bool verify, Changes &changes)
 {
     Ref &target = current(owner);
-    if (m_indexed) {
-        // Whatever the index may pick belongs to this value, written now or not.
-        for (const Item &item : m_indexed->items) {
-            if (Node *const node = item.value.node()) {
-                node->dropCache();
-                changes.add(*node);
-            }
-        }
-    }
+    // Whatever the index may pick belongs to this value, written now or not.
+    if (m_indexed)
+        addEnds(changes);
     if (Node *const node = target.node()) {
         writeLinked(*node, value, verify, changes);
     } else {
@@ -98,6 +92,40 @@ void NumberSource<Number>::write(Node &owner, Number value, bool verify, Changes
         for (Node *copy : m_copies->nodes)
             writeLinked(*copy, value, verify, changes);
     }
+}
+
+template <typename Number>
+bool NumberSource<Number>::addEnds(Changes &changes)
+{
+    // Only where there are several ways they may come together again.
+    if (uint64_t *const told = m_indexed ? &m_indexed->endsIn : m_copies ? &m_copies->endsIn : nullptr) {
+        if (*told == changes.list())
+            return true;
+        *told = changes.list();
+    }
+    bool any = false;
+    forEachTarget([&](Node &node) {
+        any = true;
+        node.addEnds(changes);
+    });
+    return any;
+}
+
+template <typename Number>
+bool NumberSource<Number>::keepsFresh() const
+{
+    if (!m_indexed)
+        return node() && !m_copies && node()->keepsFresh();
+    if (!m_indexed->keepsFresh) {
+        bool any = false;
+        bool all = true;
+        forEachTarget([&](const Node &node) {
+            any = true;
+            all = all && node.keepsFresh();
+        });
+        m_indexed->keepsFresh = any && all;
+    }
+    return *m_indexed->keepsFresh;
 }
 
 template <typename Number>
@@ -194,14 +222,14 @@ EIncMode IntegerNode::incrementMode()
 std::vector<int64_t> IntegerNode::validInts(bool bounded)
 {
     std::vector<int64_t> values;
-    Node *const node = m_source.currentNode(*this);
     if (m_validValues)
         values = *m_validValues;
-    else if (node)
+    else if (Node *const node = m_source.currentNode(*this))
         values = node->validInts(false);
     if (bounded) {
-        const int64_t maximum = intMax();
-        keepInside(values, {intMin(), maximum});
+        // The limits of its own are known even where there is no value.
+        const int64_t maximum = m_maximum.isSet() ? m_maximum.value() : intMax();
+        keepInside(values, {m_minimum.isSet() ? m_minimum.value() : intMin(), maximum});
     }
     return values;
 }

@@ -24,7 +24,7 @@ public:
     Node *limitingNode(const Node &owner);
 
     bool hasCopies() const { return m_copies != nullptr; }
-    GenApi::EAccessMode access(Node::When when) const;
+    GenApi::EAccessMode access() const;
 
     /** What \a limits allow. */
     static GenApi::EAccessMode readAccess(std::initializer_list<Ref> limits);
@@ -34,6 +34,32 @@ public:
     bool knowsCopiedRange(const Node &owner) const { return m_copies->rangeIn == owner.map().evaluation(); }
     Number value(const Node &owner, bool ignoreCache) { return current(owner).value(ignoreCache); }
     void write(Node &owner, Number value, bool verify, Changes &changes);
+
+    /** Calls \a visit(node) for all nodes that a write may reach. */
+    template <typename Visit>
+    void forEachTarget(const Visit &visit) const
+    {
+        if (Node *const always = node())
+            visit(*always);
+        if (m_indexed) {
+            for (const Item &item : m_indexed->items) {
+                if (Node *const picked = item.value.node())
+                    visit(*picked);
+            }
+            if (Node *const picked = m_indexed->fallback.node())
+                visit(*picked);
+        }
+        if (m_copies) {
+            for (Node *copy : m_copies->nodes)
+                visit(*copy);
+        }
+    }
+
+    /** Tells \a changes of the ends of all these, once; false when there are none. */
+    bool addEnds(Changes &changes);
+
+    /** Whether all that it may be read from keeps what was read past the caches. */
+    bool keepsFresh() const;
 
 private:
     friend class DescriptionLoader;
@@ -51,6 +77,8 @@ private:
         Ref fallback;
         Ref *picked = nullptr; ///< what the last evaluation found
         uint64_t pickedIn = 0; ///< that evaluation
+        std::optional<bool> keepsFresh; ///< once it has been worked out
+        uint64_t endsIn = 0; ///< the last list of changes that was told of the ends
     };
 
     /** Nodes that are written with the value. */
@@ -59,6 +87,7 @@ private:
         std::vector<Node *> nodes;
         std::pair<Number, Number> range{};
         uint64_t rangeIn = 0; ///< the evaluation that worked it out
+        uint64_t endsIn = 0; ///< the last list of changes that was told of the ends
     };
 
     Indexed &indexed();
@@ -80,6 +109,12 @@ public:
     using IntegerBase::IntegerBase;
 
     Node *valueNode() override { return m_source.node(); }
+    void addEnds(Changes &changes) override
+    {
+        const Descent descent(*this);
+        if (!m_source.addEnds(changes))
+            Node::addEnds(changes);
+    }
     int64_t intMin() override;
     int64_t intMax() override;
     std::pair<int64_t, int64_t> intRange() override;
@@ -93,14 +128,14 @@ public:
     }
 
 protected:
-    GenApi::EAccessMode valueAccess(When when) const override { return m_source.access(when); }
+    GenApi::EAccessMode valueAccess() const override { return m_source.access(); }
     int64_t readInt(bool ignoreCache) override { return m_source.value(*this, ignoreCache); }
     void writeInt(int64_t value, bool verify, Changes &changes) override
     {
         m_source.write(*this, value, verify, changes);
     }
     bool keepsWritten() const override { return !m_source.hasCopies(); }
-    bool keepsFresh() const override { return m_source.node() && m_source.node()->keepsFresh(); }
+    bool keepsFresh() const override { return m_source.keepsFresh(); }
     bool ignoresConditions() const override { return m_source.isIndexed(); }
     GenApi::EAccessMode readAccess() const override
     {
@@ -125,6 +160,12 @@ public:
     using FloatBase::FloatBase;
 
     Node *valueNode() override { return m_source.node(); }
+    void addEnds(Changes &changes) override
+    {
+        const Descent descent(*this);
+        if (!m_source.addEnds(changes))
+            Node::addEnds(changes);
+    }
     double floatMin() override;
     double floatMax() override;
     std::pair<double, double> floatRange() override;
@@ -149,14 +190,14 @@ public:
     }
 
 protected:
-    GenApi::EAccessMode valueAccess(When when) const override { return m_source.access(when); }
+    GenApi::EAccessMode valueAccess() const override { return m_source.access(); }
     double readFloat(bool ignoreCache) override { return m_source.value(*this, ignoreCache); }
     void writeFloat(double value, bool verify, Changes &changes) override
     {
         m_source.write(*this, value, verify, changes);
     }
     bool keepsWritten() const override { return !m_source.hasCopies(); }
-    bool keepsFresh() const override { return m_source.node() && m_source.node()->keepsFresh(); }
+    bool keepsFresh() const override { return m_source.keepsFresh(); }
     bool ignoresConditions() const override { return m_source.isIndexed(); }
     GenApi::EAccessMode readAccess() const override
     {

@@ -37,9 +37,14 @@ void Changes::addRead(Node &node)
     while (!open.empty()) {
         Node *const next = open.back();
         open.pop_back();
+        // Who passes a value on or takes it knows of it: an access mode that could not be worked out stays so.
+        const bool keepsAccess = next == &node || next->m_passesOn;
+        const bool staysOpen = next->m_accessOpen && keepsAccess;
+        const bool staysKnown = next->m_accessKnown && keepsAccess;
         if (next != &node)
             next->dropCache();
-        next->m_accessOpen = false;
+        next->m_accessOpen = staysOpen;
+        next->m_accessKnown = staysKnown;
         if (next->m_changeList != m_list) {
             next->m_changeList = m_list;
             m_nodes.push_back(next);
@@ -283,24 +288,33 @@ void Node::GetSelectingFeatures(FeatureList_t &Features) const
 
 /**
  * Access modes may hang on one another in a circle, through the entries of an enumeration: a mode that is being worked
- * out counts as RW. So does one whose conditions have thrown, which is told once, until something changes.
+ * out counts as RW. So does one whose conditions have thrown, which is told once, until something changes. One that was
+ * worked out before stands even if a condition throws now.
  */
 EAccessMode Node::accessMode() const
 {
     if (m_accessEvaluation == m_map.evaluation())
-        return m_access;
-    if (m_accessOpen)
-        return openAccess();
+        return withParts(m_access);
+    if (m_accessOpen) {
+        m_accessOpen = m_accessComputing || staysOpen();
+        return withParts(openAccess());
+    }
     m_accessOpen = true;
-    m_access = computeAccessMode(When::Now);
+    m_accessComputing = true;
+    try {
+        m_access = computeAccessMode();
+    } catch (...) {
+        m_accessComputing = false;
+        if (ignoresConditions())
+            forgetAccess(); // told every time
+        if (!m_accessKnown)
+            throw;
+    }
     m_accessOpen = false;
+    m_accessComputing = false;
+    m_accessKnown = hasCachableConditions() && !dependsOnPort();
     m_accessEvaluation = m_map.evaluation();
-    return m_access;
-}
-
-EAccessMode Node::accessMode(When when) const
-{
-    return when == When::Now ? accessMode() : computeAccessMode(when);
+    return withParts(m_access);
 }
 
 namespace {
@@ -322,17 +336,12 @@ EAccessMode allowed(Node *condition, bool wanted, EAccessMode mode)
  * First what is read has to be there, conditions included; then it is asked whether the node is implemented, available
  * and, where it could be written, locked, each only as long as it matters: what is not asked cannot fail.
  */
-EAccessMode Node::computeAccessMode(When when) const
+EAccessMode Node::computeAccessMode() const
 {
     const Descent descent(*this);
     const Verification unverified(m_map, false);
     if (m_broken || m_imposedAccess == NI)
         return NI;
-    if (when == When::Ever) {
-        // Who writes without checks is held back by an imposed mode only where nothing says whether there is the node.
-        const EAccessMode own = m_accessOpen || !m_isImplemented ? RW : allowed(m_isImplemented, true, NI);
-        return combined(m_isImplemented ? own : m_imposedAccess, valueAccess(when));
-    }
     EAccessMode mode = RW;
     if (!ignoresConditions()) {
         mode = firstAccess();
@@ -347,7 +356,21 @@ EAccessMode Node::computeAccessMode(When when) const
         if (mode == NI)
             return NI;
     }
-    return combined(mode, combined(m_imposedAccess, valueAccess(when)));
+    return combined(mode, combined(m_imposedAccess, valueAccess()));
+}
+
+/** Who writes without checks is held back by an imposed mode only where nothing says whether there is the node. */
+EAccessMode Node::everAccess() const
+{
+    const Descent descent(*this);
+    const Verification unverified(m_map, false);
+    return combined(ownAccess(), endAccess());
+}
+
+bool Node::hasCachableConditions() const
+{
+    const auto isCachable = [](const Node *node) { return !node || node->cachingMode() != NoCache; };
+    return isCachable(m_isImplemented) && isCachable(m_isAvailable) && isCachable(m_isLocked);
 }
 
 EAccessMode Node::availability(const Node *node)
@@ -374,17 +397,36 @@ bool Node::isFulfilled(Node &node)
     return isReadable(node.accessMode()) && node.intValue(false) != 0;
 }
 
-void Node::requireReadable() const
+void Node::requireReadable(bool ignoreCache) const
 {
-    if (!isReadable(accessMode()))
-        throwNoAccess("readable");
+    const bool forgets = ignoreCache && takesWrites();
+    try {
+        if (!isReadable(accessMode()))
+            throwNoAccess("readable");
+    } catch (...) {
+        if (forgets)
+            dropChain();
+        throw;
+    }
+    if (forgets)
+        forgetAccess();
+}
+
+/** Drops what is kept from here down to where the value ends: as if it had been read past the caches. */
+void Node::dropChain() const
+{
+    unsigned left = 1000; // links do not go round, but nobody waits for a chain that is longer than can be read
+    for (Node *node = const_cast<Node *>(this); node && node->takesWrites() && left > 0;
+         node = node->valueNode(), --left)
+        node->dropCache();
 }
 
 void Node::requireWritable(bool verify) const
 {
-    const bool isOpen = verify && isWritable(accessMode());
-    // A mode that could not be worked out still has to be one that may be.
-    if (verify ? !isOpen || (m_accessOpen && !isWritable(accessMode(When::Ever))) : !isWritable(accessMode(When::Ever)))
+    EAccessMode mode = verify ? accessMode() : everAccess();
+    if (verify && m_accessOpen) // one that could not be worked out still has to be one that may be
+        mode = combined(mode, combined(m_imposedAccess, endAccess()));
+    if (!isWritable(mode))
         throwNoAccess("writable");
 }
 
@@ -472,6 +514,11 @@ double Node::floatValue(bool ignoreCache)
 /** Rounded, and down to the grid of what takes integers in steps. */
 void Node::setFloatValue(double value, bool verify, Changes &changes)
 {
+    if (interfaceType() == intfIInteger)
+        requireAvailable(); // its steps are asked for, checked or not
+    constexpr double limit = 9223372036854775808.0;
+    if (!(value >= -limit && value <= limit)) // what is hardly too large becomes as large as can be
+        ORV_THROW(OutOfRangeException, std::string("node '") + m_name + "': the number is no 64-bit integer");
     int64_t rounded = roundedToInteger(value);
     if (incrementMode() == fixedIncrement) {
         const int64_t increment = intIncrement();
@@ -528,7 +575,8 @@ std::string Node::text(bool ignoreCache)
 {
     if (isFloat()) {
         const double value = floatValue(ignoreCache); // first: it is kept even if there are no limits to be had
-        return formatFloat(value, displayNotation(), displayPrecision(), floatRange());
+        return formatFloat(
+            value, displayNotation(), displayPrecision(), [this] { return floatMin(); }, [this] { return floatMax(); });
     }
     return formatInteger(intValue(ignoreCache), representation());
 }
@@ -560,6 +608,17 @@ int64_t Node::entryValue(std::string_view symbolic)
 {
     ORV_THROW(InvalidArgumentException,
               std::string("node '") + m_name + "' has no entry '" + std::string(symbolic) + "'");
+}
+
+void Node::addEnds(Changes &changes)
+{
+    const Descent descent(*this);
+    if (Node *const node = valueNode()) {
+        node->addEnds(changes);
+    } else if (takesWrites()) {
+        dropCache();
+        changes.add(*this);
+    }
 }
 
 void Node::addDependent(Node &node)

@@ -53,6 +53,7 @@ public:
     void countWrite(const Node &node);
 
     const std::vector<Node *> &nodes() const { return m_nodes; }
+    uint64_t list() const { return m_list; }
     bool contains(const Node &node) const;
 
     /** The port has failed while writing: what the device holds nobody knows, so that those who watch have to ask. */
@@ -130,19 +131,21 @@ public:
     /** The node that this one's value is written to; null where it ends here. */
     virtual Node *valueNode() { return nullptr; }
 
-    /** Whether there is something to poll for. */
-    virtual bool isPolled() const { return true; }
-    virtual GenApi::EInterfaceType interfaceType() const = 0;
+    /** Tells \a changes of all registers and constants that a write of the value may reach. */
+    virtual void addEnds(Changes &changes);
 
-    /** Which conditions count for an access mode. */
-    enum class When : uint8_t {
-        Now,
-        Ever ///< whether a node is available or locked now does not matter
-    };
+    /** Whether a value can be written where it ends here. */
+    virtual bool takesWrites() const { return true; }
+
+    /** Whether there is something to poll for. */
+    virtual bool isPolled() { return true; }
+    virtual GenApi::EInterfaceType interfaceType() const = 0;
 
     /** What may be done now, with all that this node depends on. */
     GenApi::EAccessMode accessMode() const;
-    GenApi::EAccessMode accessMode(When when) const;
+
+    /** What the node itself ever allows, whatever is available or locked now, and whatever its value is linked to. */
+    GenApi::EAccessMode everAccess() const;
 
     /** What the condition that the node is implemented allows: RW, NA when it cannot be read, or NI. */
     GenApi::EAccessMode implementation() const;
@@ -153,8 +156,12 @@ public:
         return m_isImplemented ? m_isImplemented->accessMode() : GenApi::RW;
     }
 
-    /** Throw an access exception when that is not possible now; without \a verify only where it never is. */
-    void requireReadable() const;
+    /**
+     * Throw an access exception when that is not possible now; without \a verify only where it never is. Who reads past
+     * the caches has a mode that could not be worked out tried anew next time, and finds nothing kept even if he is
+     * refused.
+     */
+    void requireReadable(bool ignoreCache = false) const;
     void requireWritable(bool verify = true) const;
     void requireAvailable() const;
 
@@ -177,7 +184,7 @@ public:
     void setCachingMode(GenApi::ECachingMode mode) { m_cachingMode = mode; }
 
     /** Forgets what is kept of the device's state. */
-    virtual void dropCache() { m_accessOpen = false; }
+    virtual void dropCache() { forgetAccess(); }
     virtual bool isCacheValid() const { return true; }
 
     /** Whether a value that was read past the caches is kept. */
@@ -248,9 +255,15 @@ public:
 
 protected:
     /** What this node's value allows, without the node's own conditions. */
-    virtual GenApi::EAccessMode valueAccess(When) const { return GenApi::RW; }
+    virtual GenApi::EAccessMode valueAccess() const { return GenApi::RW; }
 
-    virtual GenApi::EAccessMode computeAccessMode(When when) const;
+    /** The same where the value ends here; RW where another node has it. */
+    virtual GenApi::EAccessMode endAccess() const { return GenApi::RW; }
+
+    virtual GenApi::EAccessMode computeAccessMode() const;
+
+    /** \a own, the node's own mode, with that of parts which have conditions of their own; they are always asked. */
+    virtual GenApi::EAccessMode withParts(GenApi::EAccessMode own) const { return own; }
 
     /** What the nodes allow that are read for anything but the value: NI or NA where they are that, else RW. */
     virtual GenApi::EAccessMode readAccess() const { return availabilityOf({m_error, m_blocksPolling}); }
@@ -258,7 +271,7 @@ protected:
     /** What all that is read and written allows, before the node's own conditions are asked. */
     virtual GenApi::EAccessMode firstAccess() const
     {
-        const GenApi::EAccessMode mode = valueAccess(When::Now);
+        const GenApi::EAccessMode mode = valueAccess();
         return mode == GenApi::NI ? mode : combined(mode, readAccess());
     }
 
@@ -269,11 +282,27 @@ protected:
     virtual GenApi::EAccessMode openAccess() const { return combined(GenApi::RW, m_imposedAccess); }
     GenApi::EAccessMode imposedAccess() const { return m_imposedAccess; }
 
+    /** Whether a mode that could not be worked out counts as that for all who ask, not just for the next. */
+    virtual bool staysOpen() const { return true; }
+
+    /** Whether a port is asked for the mode, whose failure has to be told. */
+    virtual bool dependsOnPort() const { return false; }
+
+    /** Whether the node's own conditions may be kept. */
+    bool hasCachableConditions() const;
+
     /** What the node itself ever allows. */
-    GenApi::EAccessMode ownAccess() const { return m_isImplemented ? implementation() : m_imposedAccess; }
+    GenApi::EAccessMode ownAccess() const { return m_isImplemented || m_broken ? implementation() : m_imposedAccess; }
 
     /** Whether a written value that has led to an error is not kept. */
     virtual bool checksBeforeKeeping() const { return false; }
+
+    void dropChain() const;
+    void forgetAccess() const
+    {
+        m_accessOpen = false;
+        m_accessKnown = false;
+    }
 
     /** Throws when the node that tells about errors tells of one. */
     void checkError() const;
@@ -285,7 +314,26 @@ protected:
     [[noreturn]] void throwNoNumber() const;
 
     NodeMapImpl &m_map;
+    /** Marks a node as passing on a value that it keeps. */
+    class PassingOn
+    {
+    public:
+        PassingOn(Node &node, bool keeps)
+            : m_node(node)
+        {
+            m_node.m_passesOn = keeps;
+        }
+        ~PassingOn() { m_node.m_passesOn = false; }
+        PassingOn(const PassingOn &) = delete;
+        PassingOn &operator=(const PassingOn &) = delete;
+
+    private:
+        Node &m_node;
+    };
+
     mutable bool m_accessOpen = false; ///< the access mode is being worked out, or could not be
+    mutable bool m_accessComputing = false; ///< it is being worked out
+    mutable bool m_accessKnown = false; ///< it was worked out, and nothing has changed since
 
 private:
     friend class DescriptionLoader;
@@ -323,6 +371,7 @@ private:
     bool m_streamable = false;
     bool m_isFeature = false;
     bool m_standardNameSpace = false;
+    bool m_passesOn = false; ///< a written value that will be kept
 
     friend class Changes;
     friend class NodeMapImpl;

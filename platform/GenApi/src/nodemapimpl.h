@@ -219,8 +219,10 @@ void Node::change(const char *operation, const Write &write)
         Changes changes(m_map);
         try {
             write(changes);
-            if (!changes.contains(*this))
+            if (!changes.contains(*this)) {
                 changes.add(*this);
+                forgetAccess();
+            }
         } catch (...) {
             failure = std::current_exception(); // what was changed before it is asked for again
         }

@@ -216,12 +216,12 @@ std::string formatFloat(double value, GenApi::EDisplayNotation notation, int64_t
 }
 
 std::string formatFloat(double value, GenApi::EDisplayNotation notation, int64_t precision,
-                        const std::pair<double, double> &limits)
+                        const std::function<double()> &minimum, const std::function<double()> &maximum)
 {
     std::string text = formatFloat(value, notation, precision);
     const double shown = parseFloat(text).value_or(value);
-    const bool isOver = shown > limits.second;
-    if (!isOver && !(shown < limits.first))
+    const bool isOver = shown > maximum();
+    if (!isOver && !(shown < minimum()))
         return text;
     const std::size_t point = text.find('.');
     std::size_t digits = 0;

@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <functional>
 #include <limits>
 #include <optional>
 #include <string>
@@ -44,9 +45,9 @@ std::string formatFloat(double value, GenApi::EDisplayNotation notation, int64_t
 
 /**
  * The same, so that the text may be written back: one that is rounded over a limit is moved inwards by half a unit of
- * its last digit.
+ * its last digit. The minimum is not asked for where the text is over the maximum.
  */
 std::string formatFloat(double value, GenApi::EDisplayNotation notation, int64_t precision,
-                        const std::pair<double, double> &limits);
+                        const std::function<double()> &minimum, const std::function<double()> &maximum);
 
 } // namespace OrvGenApi

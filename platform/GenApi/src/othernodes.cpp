@@ -29,13 +29,17 @@ void CategoryNode::setText(const std::string &, bool, Changes &)
     ORV_THROW(AccessException, std::string("category '") + name() + "' has no value");
 }
 
-/** Conditions of a category decide only whether it is implemented: what stands in it may be looked at. */
-EAccessMode CategoryNode::computeAccessMode(When) const
+/**
+ * Conditions of a category decide only whether it is implemented: what stands in it may be looked at. Once it has been
+ * found to be there it stays, whatever becomes of its features, which are not asked again.
+ */
+EAccessMode CategoryNode::computeAccessMode() const
 {
     try {
-        return isImplemented() ? combined(combined(imposedAccess(), RO), hasImplemented() ? RW : NI) : NI;
+        m_isThere = m_isThere || (isImplemented() && hasImplemented());
+        return combined(combined(imposedAccess(), RO), m_isThere ? RW : NI);
     } catch (...) {
-        m_accessOpen = false; // told every time
+        forgetAccess(); // told every time
         throw;
     }
 }
@@ -49,26 +53,31 @@ bool CategoryNode::isImplemented() const
 
 bool CategoryNode::hasImplemented() const
 {
-    // Categories may be nested to any depth, and may even stand in themselves.
+    // Categories may be nested to any depth, and may even stand in themselves. They are asked in their order, so that
+    // nothing behind the first implemented feature is.
     const uint64_t mark = ++m_map.m_walk;
-    std::vector<const CategoryNode *> open{this};
+    std::vector<std::pair<const CategoryNode *, std::size_t>> open{{this, 0}};
     m_searchMark = mark;
     while (!open.empty()) {
-        const CategoryNode *const category = open.back();
-        open.pop_back();
-        for (const Node *feature : category->m_features) {
-            if (feature->interfaceType() != intfICategory) {
-                if (feature->accessMode() != NI)
-                    return true;
-                continue;
-            }
-            const auto inner = static_cast<const CategoryNode *>(feature);
-            if (inner->m_searchMark == mark)
-                continue;
-            inner->m_searchMark = mark;
-            if (inner->isImplemented())
-                open.push_back(inner);
+        auto &[category, next] = open.back();
+        if (next == category->m_features.size()) {
+            open.pop_back();
+            continue;
         }
+        const Node *const feature = category->m_features[next++];
+        if (feature->interfaceType() != intfICategory) {
+            if (feature->accessMode() != NI)
+                return true;
+            continue;
+        }
+        const auto inner = static_cast<const CategoryNode *>(feature);
+        if (inner->m_isThere)
+            return true;
+        if (inner->m_searchMark == mark)
+            continue;
+        inner->m_searchMark = mark;
+        if (inner->isImplemented())
+            open.emplace_back(inner, 0);
     }
     return false;
 }
@@ -84,7 +93,7 @@ void BooleanNode::SetValue(bool Value, bool Verify)
 bool BooleanNode::GetValue(bool Verify, bool IgnoreCache) const
 {
     const Entry entry(*this, "GetValue");
-    requireReadable();
+    requireReadable(IgnoreCache);
     const Verification verification(m_map, Verify);
     const bool value = isOn(IgnoreCache);
     if (Verify)
@@ -131,7 +140,11 @@ void BooleanNode::setText(const std::string &text, bool verify, Changes &changes
 void CommandNode::Execute(bool Verify)
 {
     (void)Verify;
-    change("Execute", [&](Changes &changes) { execute(changes); });
+    change("Execute", [&](Changes &changes) {
+        execute(changes);
+        if (!m_value.node()) // intentionally: while the device is busy with it there is no error yet
+            checkError();
+    });
 }
 
 /** Unlike a value, a command is never given where it is locked or not available. */
@@ -141,23 +154,41 @@ void CommandNode::execute(Changes &changes)
     setIntValue(m_commandValue.value(), true, changes);
     m_running = m_value.node() != nullptr;
     restartPollClock();
-    checkError();
 }
 
 bool CommandNode::IsDone(bool Verify)
 {
-    (void)Verify;
-    bool ended = false;
     bool done = true;
     {
         const Entry entry(*this, "IsDone");
         done = isDone();
-        ended = done && m_running && isReadable(accessMode());
-        m_running = m_running && !done;
     }
-    if (ended) // the device has changed: tell those who watch
-        change("IsDone", [this](Changes &changes) { addEnd(changes); });
+    if (done)
+        end(Verify);
     return done;
+}
+
+gcstring CommandNode::ToString(bool Verify, bool IgnoreCache)
+{
+    const gcstring text = ValueNode::ToString(Verify, IgnoreCache);
+    if (text == "0")
+        end(Verify);
+    return text;
+}
+
+/** The device has been seen to be done: it has changed, so that those who watch are told. */
+void CommandNode::end(bool verify)
+{
+    bool hasChanged = false;
+    {
+        const Entry entry(*this, "IsDone");
+        hasChanged = m_running && isReadable(accessMode());
+        m_running = false;
+        if (verify)
+            checkError();
+    }
+    if (hasChanged)
+        change("IsDone", [this](Changes &changes) { addEnd(changes); });
 }
 
 void CommandNode::addEnd(Changes &changes)
@@ -200,6 +231,7 @@ void CommandNode::setText(const std::string &text, bool, Changes &changes)
                   std::string("command '") + name() + "': '" + text + "' does not mean to execute it");
     }
     execute(changes);
+    checkError();
 }
 
 int64_t EnumEntryNode::GetValue()
@@ -258,7 +290,7 @@ void EnumerationNode::SetIntValue(int64_t Value, bool Verify)
 int64_t EnumerationNode::GetIntValue(bool Verify, bool IgnoreCache)
 {
     const Entry entry(*this, "GetIntValue");
-    requireReadable();
+    requireReadable(IgnoreCache);
     const Verification verification(m_map, Verify);
     const int64_t value = intValue(IgnoreCache);
     if (Verify)
@@ -294,12 +326,14 @@ IEnumEntry *EnumerationNode::GetCurrentEntry(bool Verify, bool IgnoreCache)
 {
     (void)Verify;
     const Entry entry(*this, "GetCurrentEntry");
-    requireReadable();
+    requireReadable(IgnoreCache);
     return find(intValue(IgnoreCache));
 }
 
-EAccessMode EnumerationNode::valueAccess(When when) const
+EAccessMode EnumerationNode::withParts(EAccessMode own) const
 {
+    if (own == NI)
+        return NI;
     EAccessMode best = m_entries.empty() ? RW : NI;
     for (const EnumEntryNode *entry : m_entries) {
         const EAccessMode mode = entry->accessMode();
@@ -310,7 +344,7 @@ EAccessMode EnumerationNode::valueAccess(When when) const
             break;
         }
     }
-    return m_value.node() ? combined(best, m_value.node()->accessMode(when)) : best;
+    return combined(own, best);
 }
 
 void EnumerationNode::setIntValue(int64_t value, bool verify, Changes &changes)
@@ -349,6 +383,16 @@ int64_t EnumerationNode::intValue(bool ignoreCache)
     const Renewal renewal(m_map);
     m_map.startEvaluation();
     return m_value.value(true);
+}
+
+bool EnumerationNode::isPolled()
+{
+    try {
+        const EnumEntryNode *const current = m_hasSelfClearing ? find(m_value.value()) : nullptr;
+        return current && current->m_selfClearing;
+    } catch (const GenICam::GenericException &) {
+        return false; // what cannot be read does not end all polling
+    }
 }
 
 std::pair<double, double> EnumerationNode::floatRange()
@@ -396,7 +440,9 @@ void EnumerationNode::setFloatValue(double value, bool verify, Changes &changes)
         if (isReadable(entry->accessMode()) && (!nearest || distance(entry) < distance(nearest)))
             nearest = entry;
     }
-    setIntValue(nearest ? nearest->m_value : roundedToInteger(value), verify, changes);
+    if (!nearest)
+        throwNoAccess("writable");
+    setIntValue(nearest->m_value, verify, changes);
 }
 
 std::string EnumerationNode::text(bool ignoreCache)

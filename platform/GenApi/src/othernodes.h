@@ -32,7 +32,7 @@ public:
     void setText(const std::string &text, bool verify, Changes &changes) override;
 
 protected:
-    GenApi::EAccessMode computeAccessMode(When when) const override;
+    GenApi::EAccessMode computeAccessMode() const override;
 
 private:
     friend class DescriptionLoader;
@@ -43,6 +43,7 @@ private:
     std::vector<Node *> m_features;
     GenApi::EVisibility m_derivedVisibility = GenApi::Invisible;
     mutable uint64_t m_searchMark = 0; ///< the last search for an implemented feature that came here
+    mutable bool m_isThere = false; ///< an implemented feature has been found
 };
 
 /** A truth value kept as one of two integers. */
@@ -65,9 +66,9 @@ public:
     void setText(const std::string &text, bool verify, Changes &changes) override;
 
 protected:
-    GenApi::EAccessMode valueAccess(When when) const override
+    GenApi::EAccessMode valueAccess() const override
     {
-        return m_value.node() ? m_value.node()->accessMode(when) : GenApi::RW;
+        return m_value.node() ? m_value.node()->accessMode() : GenApi::RW;
     }
 
 private:
@@ -88,6 +89,7 @@ public:
 
     void Execute(bool Verify) override;
     bool IsDone(bool Verify) override;
+    GenICam::gcstring ToString(bool Verify, bool IgnoreCache) override;
 
     GenApi::EInterfaceType interfaceType() const override { return GenApi::intfICommand; }
     bool isNumber() const override { return true; }
@@ -96,16 +98,16 @@ public:
     void setIntValue(int64_t value, bool verify, Changes &changes) override;
 
     Node *valueNode() override { return m_value.node(); }
-    bool isPolled() const override { return m_running; }
+    bool isPolled() override { return m_running; }
 
     /** 1 as long as the device is busy with it, else 0. */
     std::string text(bool ignoreCache) override;
     void setText(const std::string &text, bool verify, Changes &changes) override;
 
 protected:
-    GenApi::EAccessMode valueAccess(When when) const override
+    GenApi::EAccessMode valueAccess() const override
     {
-        return m_value.node() ? m_value.node()->accessMode(when) : GenApi::RW;
+        return m_value.node() ? m_value.node()->accessMode() : GenApi::RW;
     }
     GenApi::EAccessMode readAccess() const override
     {
@@ -120,6 +122,7 @@ private:
     bool isDone();
     void execute(Changes &changes);
     void addEnd(Changes &changes);
+    void end(bool verify);
 
     IntRef m_value;
     IntRef m_commandValue;
@@ -145,8 +148,9 @@ public:
 
 protected:
     GenApi::EAccessMode openAccess() const override { return GenApi::RO; }
+    bool staysOpen() const override { return hasCachableConditions(); }
     GenApi::EAccessMode firstAccess() const override { return readAccess(); }
-    GenApi::EAccessMode valueAccess(When) const override { return GenApi::RO; }
+    GenApi::EAccessMode valueAccess() const override { return GenApi::RO; }
 
 private:
     friend class DescriptionLoader;
@@ -190,18 +194,21 @@ public:
     double floatMax() override;
     std::pair<double, double> floatRange() override;
     GenApi::EIncMode incrementMode() override { return GenApi::noIncrement; }
-    /** Intentionally: what an entry stands for is polled where it is kept, in a register. */
-    bool isPolled() const override { return false; }
+    /** Intentionally: what an entry stands for is polled where it is kept, unless it may end by itself. */
+    bool isPolled() override;
     void checkValue() override;
     std::string text(bool ignoreCache) override;
     void setText(const std::string &text, bool verify, Changes &changes) override;
     int64_t entryValue(std::string_view symbolic) override;
 
 protected:
-    GenApi::EAccessMode firstAccess() const override { return combined(readAccess(), availability(m_value.node())); }
+    GenApi::EAccessMode valueAccess() const override
+    {
+        return m_value.node() ? m_value.node()->accessMode() : GenApi::RW;
+    }
 
     /** Nothing can be chosen where no entry is: then the enumeration is not available or not implemented itself. */
-    GenApi::EAccessMode valueAccess(When when) const override;
+    GenApi::EAccessMode withParts(GenApi::EAccessMode own) const override;
 
 private:
     friend class DescriptionLoader;

@@ -58,7 +58,7 @@ void PortNode::keep(int64_t address, int64_t length, std::string bytes)
     m_kept[{address, length}] = std::move(bytes);
 }
 
-GenApi::EAccessMode PortNode::valueAccess(When) const
+GenApi::EAccessMode PortNode::valueAccess() const
 {
     GenApi::EAccessMode mode = m_isChunk ? GenApi::NA : GenApi::NI; // a chunk comes and goes
     if (m_port)

@@ -38,7 +38,9 @@ public:
     void drop(int64_t address, int64_t length) { m_kept.erase({address, length}); }
 
 protected:
-    GenApi::EAccessMode valueAccess(When) const override;
+    GenApi::EAccessMode valueAccess() const override;
+    GenApi::EAccessMode endAccess() const override { return valueAccess(); }
+    bool dependsOnPort() const override { return true; }
 
 private:
     friend class DescriptionLoader;

@@ -19,9 +19,14 @@ constexpr int64_t maximumLength = 16 * 1024 * 1024; ///< bytes; longer registers
 
 } // namespace
 
-EAccessMode RegisterData::access(Node::When when) const
+EAccessMode RegisterData::access() const
 {
-    return m_port ? combined(m_accessMode, m_port->accessMode(when)) : NI;
+    return m_port ? combined(m_accessMode, m_port->accessMode()) : NI;
+}
+
+EAccessMode RegisterData::everAccess() const
+{
+    return m_port ? combined(m_accessMode, m_port->everAccess()) : NI;
 }
 
 EAccessMode RegisterData::placeAccess() const
@@ -260,7 +265,7 @@ void StringBase::SetValue(const gcstring &Value, bool Verify)
 gcstring StringBase::GetValue(bool Verify, bool IgnoreCache)
 {
     const Entry entry(*this, "GetValue");
-    requireReadable();
+    requireReadable(IgnoreCache);
     const Verification verification(m_map, Verify);
     const std::string value = text(IgnoreCache);
     if (Verify)
@@ -279,7 +284,7 @@ std::string StringNode::text(bool ignoreCache)
 {
     if (!m_node)
         return m_text;
-    m_node->requireReadable();
+    m_node->requireReadable(ignoreCache);
     return m_node->text(ignoreCache);
 }
 

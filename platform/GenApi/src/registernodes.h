@@ -20,7 +20,10 @@ public:
         IntRef offset;
     };
 
-    GenApi::EAccessMode access(Node::When when) const;
+    GenApi::EAccessMode access() const;
+
+    /** What it ever allows. */
+    GenApi::EAccessMode everAccess() const;
 
     /** What the nodes allow that say where it is. */
     GenApi::EAccessMode placeAccess() const;
@@ -78,7 +81,9 @@ public:
     {
         this->change("Set", [&](Changes &changes) {
             this->requireWritable(Verify);
+            const bool isOpen = this->m_accessOpen;
             Base::dropCache();
+            this->m_accessOpen = isOpen;
             m_register.set(*this, pBuffer, Length, changes);
         });
     }
@@ -87,7 +92,7 @@ public:
     {
         (void)Verify;
         const Entry entry(*this, "Get");
-        this->requireReadable();
+        this->requireReadable(IgnoreCache);
         m_register.get(*this, pBuffer, Length, IgnoreCache);
     }
 
@@ -114,10 +119,12 @@ public:
 protected:
     friend class DescriptionLoader;
 
-    GenApi::EAccessMode valueAccess(Node::When when) const override { return m_register.access(when); }
+    GenApi::EAccessMode valueAccess() const override { return m_register.access(); }
+    GenApi::EAccessMode endAccess() const override { return m_register.everAccess(); }
     GenApi::EAccessMode readAccess() const override { return combined(Node::readAccess(), m_register.placeAccess()); }
     GenApi::EAccessMode firstAccess() const override { return readAccess(); }
     bool checksBeforeKeeping() const override { return true; }
+    bool dependsOnPort() const override { return true; }
 
     RegisterData m_register;
 };
@@ -224,7 +231,7 @@ public:
     int64_t maximumTextLength() override;
 
 protected:
-    GenApi::EAccessMode valueAccess(When when) const override { return m_node ? m_node->accessMode(when) : GenApi::RW; }
+    GenApi::EAccessMode valueAccess() const override { return m_node ? m_node->accessMode() : GenApi::RW; }
 
 private:
     friend class DescriptionLoader;

@@ -18,7 +18,7 @@ void IntegerBase::SetValue(int64_t Value, bool Verify)
 int64_t IntegerBase::GetValue(bool Verify, bool IgnoreCache)
 {
     const Entry entry(*this, "GetValue");
-    requireReadable();
+    requireReadable(IgnoreCache);
     const Verification verification(m_map, Verify);
     return intValue(IgnoreCache);
 }
@@ -124,10 +124,14 @@ void IntegerBase::dropCache()
 int64_t IntegerBase::intValue(bool ignoreCache)
 {
     const bool mustVerify = m_map.m_verifying && m_kept.mustCheck(*this);
+    const bool wasKept = m_kept.isKept();
     const int64_t value = m_kept.valueOr(*this, ignoreCache, mustVerify, [&] { return readInt(ignoreCache); });
     if (mustVerify) {
+        const bool isKept = m_kept.isKept();
+        m_kept.setKept(wasKept); // a value that fails is not kept anew
         checkRange(value);
         checkError();
+        m_kept.setKept(isKept);
     }
     return value;
 }
@@ -140,10 +144,14 @@ void IntegerBase::setIntValue(int64_t value, bool verify, Changes &changes)
     requireWritable(verify);
     if (verify)
         checkRange(value);
-    writeInt(value, verify, changes);
+    const bool keeps = cachingMode() == WriteThrough && keepsWritten();
+    {
+        const PassingOn passingOn(*this, keeps);
+        writeInt(value, verify, changes);
+    }
     if (verify && checksBeforeKeeping())
         checkError();
-    if (cachingMode() == WriteThrough && keepsWritten())
+    if (keeps)
         m_kept.keep(value);
     if (verify && !checksBeforeKeeping())
         checkError();
@@ -160,7 +168,7 @@ void FloatBase::SetValue(double Value, bool Verify)
 double FloatBase::GetValue(bool Verify, bool IgnoreCache)
 {
     const Entry entry(*this, "GetValue");
-    requireReadable();
+    requireReadable(IgnoreCache);
     const Verification verification(m_map, Verify);
     return floatValue(IgnoreCache);
 }
@@ -286,10 +294,14 @@ void FloatBase::dropCache()
 double FloatBase::floatValue(bool ignoreCache)
 {
     const bool mustVerify = m_map.m_verifying && m_kept.mustCheck(*this);
+    const bool wasKept = m_kept.isKept();
     const double value = m_kept.valueOr(*this, ignoreCache, mustVerify, [&] { return readFloat(ignoreCache); });
     if (mustVerify) {
+        const bool isKept = m_kept.isKept();
+        m_kept.setKept(wasKept); // a value that fails is not kept anew
         checkRange(value);
         checkError();
+        m_kept.setKept(isKept);
     }
     return value;
 }
@@ -301,10 +313,14 @@ void FloatBase::setFloatValue(double value, bool verify, Changes &changes)
     requireWritable(verify);
     if (verify)
         checkRange(value);
-    writeFloat(value, verify, changes);
+    const bool keeps = cachingMode() == WriteThrough && keepsWritten();
+    {
+        const PassingOn passingOn(*this, keeps);
+        writeFloat(value, verify, changes);
+    }
     if (verify && checksBeforeKeeping())
         checkError();
-    if (cachingMode() == WriteThrough && keepsWritten())
+    if (keeps)
         m_kept.keep(value);
     if (verify && !checksBeforeKeeping())
         checkError();

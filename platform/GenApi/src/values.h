@@ -35,7 +35,7 @@ public:
     {
         if (m_kind != Kind::Link)
             return m_constant;
-        m_node->requireReadable();
+        m_node->requireReadable(ignoreCache);
         if constexpr (std::is_same_v<Number, double>)
             return m_node->floatValue(ignoreCache);
         else
@@ -76,7 +76,7 @@ public:
     GenICam::gcstring ToString(bool Verify, bool IgnoreCache) override
     {
         const Entry entry(*this, "ToString");
-        requireReadable();
+        requireReadable(IgnoreCache);
         const Verification verification(m_map, Verify);
         const std::string result = text(IgnoreCache);
         if (Verify)
@@ -109,6 +109,7 @@ class KeptNumber
 {
 public:
     bool isKept() const { return m_isKept; }
+    void setKept(bool isKept) { m_isKept = isKept; }
     void drop()
     {
         m_isKept = false;
