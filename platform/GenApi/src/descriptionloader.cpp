@@ -36,6 +36,8 @@ void DescriptionLoader::load()
         fail(root, std::string("no GenICam description: the root element is '") + root.name() + "'");
     m_map.m_modelName = root.attribute("ModelName").value();
     m_map.m_vendorName = root.attribute("VendorName").value();
+    constexpr std::size_t usualNode = 100; // characters, of the smaller ones: finding room again and again takes long
+    m_map.reserve(m_xml.size() / usualNode);
     createNodes(root, 0);
     for (std::size_t i = 0; i < m_sources.size(); ++i)
         read(Source(m_sources[i])); // a copy: reading may make further nodes

@@ -53,6 +53,10 @@ public:
     /** Counts a write to \a node; throws when one write by a user leads to more than any device can mean. */
     void countWrite(const Node &node);
 
+    /** A node has found \a value within limits that are those of \a next, which need not look again. */
+    void noteChecked(const Node &next, int64_t value) { m_checked = {&next, value}; }
+    bool isChecked(const Node &node, int64_t value) const { return m_checked == std::pair(&node, value); }
+
     const std::vector<Node *> &nodes() const { return m_nodes; }
     bool contains(const Node &node) const;
 
@@ -65,6 +69,7 @@ private:
     const uint64_t m_list; ///< marks the nodes that are in m_nodes
     unsigned m_writes = 0;
     bool m_portHasFailed = false;
+    std::pair<const Node *, int64_t> m_checked{nullptr, 0};
     std::vector<Node *> m_nodes;
 };
 

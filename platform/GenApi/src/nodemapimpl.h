@@ -96,6 +96,9 @@ public:
     /** Copies \a text into the map's memory; the same pointer as long as the map lives, never null. */
     const char *keep(std::string_view text);
 
+    /** Makes room for about that many nodes. */
+    void reserve(std::size_t nodes) { m_byName.reserve(nodes); }
+
     /** Takes ownership; false when there is a node of that name. */
     bool add(std::unique_ptr<Node> node);
 
@@ -136,6 +139,20 @@ public:
     };
     Extras extrasOf(const Node &node) const;
 
+    /** The value that was found within a node's limits last when it was read. */
+    struct CheckedRead
+    {
+        const Node *node = nullptr;
+        int64_t value = 0;
+        uint64_t evaluation = 0;
+
+        bool isOf(const Node *other, int64_t read, uint64_t now) const
+        {
+            return node == other && value == read && evaluation == now;
+        }
+    };
+
+    CheckedRead m_checkedRead;
     std::unordered_map<const Node *, Extras> m_extras;
     std::vector<std::unique_ptr<Node>> m_nodes;
     std::string m_description; ///< as it was read, for questions that the nodes have no answer to

@@ -126,7 +126,9 @@ int64_t IntegerBase::intValue(bool ignoreCache)
     const bool mustVerify = m_map.m_verifying && m_kept.mustCheck(*this);
     const int64_t value = m_kept.valueOr(*this, ignoreCache, mustVerify, [&] { return readInt(ignoreCache); });
     if (mustVerify) {
-        checkRange(value);
+        if (m_hasImposedLimits || !isCheckedBelow(value))
+            checkRange(value);
+        m_map.m_checkedRead = {this, value, m_map.evaluation()};
         checkError();
     }
     return value;
@@ -138,7 +140,7 @@ void IntegerBase::setIntValue(int64_t value, bool verify, Changes &changes)
     const Descent descent(*this);
     m_kept.drop();
     requireWritable(verify);
-    if (verify)
+    if (verify && (m_hasImposedLimits || !changes.isChecked(*this, value)))
         checkRange(value);
     writeInt(value, verify, changes);
     if (verify && checksBeforeKeeping())
