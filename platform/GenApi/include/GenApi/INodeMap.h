@@ -53,8 +53,7 @@ struct ORV_GENAPI_EXPORT INodeMap
     /**
      * Writes all values of the list, through a stacked port in one access. A value that cannot be written does not hold
      * back the others: it is told in \a pErrorList, unless that is null, and the result is false. Names that the map
-     * does not have are passed over. With \a featureStreaming the device is told before and after, as far as it has the
-     * commands for it.
+     * does not have are passed over. \a featureStreaming changes nothing.
      */
     virtual bool ConcatenatedWrite(CNodeWriteConcatenator *pConcatenatedWrite, bool featureStreaming = true,
                                    GENICAM_NAMESPACE::gcstring_vector *pErrorList = nullptr) = 0;
