@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <sstream>
 #include <unordered_map>
 
 namespace OrvGenApi {
@@ -22,18 +23,35 @@ DescriptionLoader::~DescriptionLoader() = default;
 
 void DescriptionLoader::load()
 {
+    if (m_xml.size() > UINT32_MAX)
+        ORV_THROW(RuntimeException, m_sourceName + ": too large");
+    m_map.m_description = m_xml; // before the parser writes into it
     const pugi::xml_parse_result result = m_document.load_buffer_inplace(m_xml.data(), m_xml.size());
     if (!result)
         failAt(result.offset, std::string("no well-formed XML: ") + result.description());
+    if (result.encoding != pugi::encoding_utf8)
+        convertToUtf8();
     const Element root = m_document.document_element();
     if (std::strcmp(root.name(), "RegisterDescription") != 0)
         fail(root, std::string("no GenICam description: the root element is '") + root.name() + "'");
     m_map.m_modelName = root.attribute("ModelName").value();
     m_map.m_vendorName = root.attribute("VendorName").value();
+    constexpr std::size_t usualNode = 100; // characters, of the smaller ones: finding room again and again takes long
+    m_map.reserve(m_xml.size() / usualNode);
     createNodes(root, 0);
     for (std::size_t i = 0; i < m_sources.size(); ++i)
         read(Source(m_sources[i])); // a copy: reading may make further nodes
     finish();
+}
+
+/** Texts that the nodes read again later have to be those that the places of the elements belong to. */
+void DescriptionLoader::convertToUtf8()
+{
+    std::ostringstream converted;
+    m_document.save(converted, "", pugi::format_indent, pugi::encoding_utf8);
+    m_xml = converted.str();
+    m_map.m_description = m_xml;
+    m_document.load_buffer_inplace(m_xml.data(), m_xml.size(), pugi::parse_default, pugi::encoding_utf8);
 }
 
 void DescriptionLoader::createNodes(const Element &parent, int depth)
@@ -59,12 +77,22 @@ std::string DescriptionLoader::nameOf(const Element &element) const
     return name;
 }
 
+/** Where \a element begins, with its bracket. */
+uint32_t DescriptionLoader::textPosition(const Element &element)
+{
+    return static_cast<uint32_t>(std::max<std::ptrdiff_t>(element.offset_debug() - 1, 0));
+}
+
 template <typename T>
 T &DescriptionLoader::create(const Element &element, const std::string &name, const Element &common)
 {
     auto owned = std::make_unique<T>(m_map, m_map.keep(name));
     T &node = *owned;
     node.m_index = static_cast<uint32_t>(m_map.m_nodes.size());
+    const Element &outer = common ? common : element;
+    node.m_descriptionBegin = textPosition(outer);
+    node.m_descriptionEnd =
+        outer.next_sibling() ? textPosition(outer.next_sibling()) : static_cast<uint32_t>(m_xml.size());
     node.m_standardNameSpace = std::strcmp(element.attribute("NameSpace").value(), "Standard") == 0;
     if (!m_map.add(std::move(owned)))
         fail(element, "there are two nodes '" + name + "'");

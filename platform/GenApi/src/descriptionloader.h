@@ -46,6 +46,9 @@ private:
         Element common; ///< the StructReg that a StructEntry stands in
     };
 
+    void convertToUtf8();
+    static uint32_t textPosition(const Element &element);
+
     // Finding and making nodes
     void createNodes(const Element &parent, int depth);
     void createNode(const Element &element);

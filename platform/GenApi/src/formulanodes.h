@@ -164,6 +164,8 @@ public:
     using FormulaNode<Base>::FormulaNode;
     using typename Base::Number;
 
+    void checkFormulas() const override { m_formula.requireUsable(); }
+
 protected:
     bool keepsFresh() const override { return true; }
     GenApi::EAccessMode firstAccess() const override { return combined(this->readAccess(), this->variablesAccess()); }
@@ -186,6 +188,11 @@ public:
     using FormulaNode<Base>::FormulaNode;
     using typename Base::Number;
 
+    void checkFormulas() const override
+    {
+        m_formulaTo.requireUsable();
+        m_formulaFrom.requireUsable();
+    }
     GenApi::EIncMode incrementMode() override;
     GenApi::ERepresentation representation() override
     {

@@ -132,7 +132,13 @@ protected:
     int64_t readInt(bool ignoreCache) override { return m_source.value(*this, ignoreCache); }
     void writeInt(int64_t value, bool verify, Changes &changes) override
     {
+        if (hasLimitsOfOther()) // asked on every level, a chain would cost its length squared
+            changes.noteChecked(*m_source.node(), value);
         m_source.write(*this, value, verify, changes);
+    }
+    bool isCheckedBelow(int64_t value) const override
+    {
+        return hasLimitsOfOther() && m_map.m_checkedRead.isOf(m_source.node(), value, m_map.evaluation());
     }
     bool keepsWritten() const override { return !m_source.hasCopies(); }
     bool keepsFresh() const override { return m_source.keepsFresh(); }
@@ -144,6 +150,13 @@ protected:
 
 private:
     friend class DescriptionLoader;
+
+    /** Whether limits and increment are those of the node that the value is written to. */
+    bool hasLimitsOfOther() const
+    {
+        return m_source.node() && !m_source.isIndexed() && !m_source.hasCopies() && !m_minimum.isSet()
+            && !m_maximum.isSet() && !m_increment.isSet();
+    }
 
     NumberSource<int64_t> m_source;
     IntRef m_minimum;

@@ -205,21 +205,27 @@ INode *Node::GetCastAlias() const
     return m_map.extrasOf(*this).castAlias;
 }
 
-void Node::GetChildren(NodeList_t &Children) const
+UserData_t Node::GetUserData() const
 {
-    const Entry entry(*this, "GetChildren");
-    Children.clear();
-    for (const std::unique_ptr<Node> &node : m_map.m_nodes) {
-        const std::vector<Node *> &dependents = node->m_dependents;
-        if (std::find(dependents.begin(), dependents.end(), this) != dependents.end())
-            Children.push_back(node.get());
-    }
+    const Entry entry(*this, "GetUserData");
+    return m_map.extrasOf(*this).userData;
 }
 
-void Node::GetParents(NodeList_t &Parents) const
+UserData_t Node::SetUserData(UserData_t userdata)
 {
-    const Entry entry(*this, "GetParents");
-    Parents.assign(m_dependents.begin(), m_dependents.end());
+    const Entry entry(*this, "SetUserData");
+    return std::exchange(m_map.m_extras[this].userData, userdata);
+}
+
+/** The mode changes with what is written and polled, unless a condition is read anew each time. */
+EYesNo Node::IsAccessModeCacheable() const
+{
+    const Entry entry(*this, "IsAccessModeCacheable");
+    for (const Node *condition : {m_isImplemented, m_isAvailable, m_isLocked}) {
+        if (condition && !IsCacheable(condition->cachingMode()))
+            return No;
+    }
+    return Yes;
 }
 
 void Node::ImposeAccessMode(EAccessMode ImposedAccessMode)
@@ -229,7 +235,7 @@ void Node::ImposeAccessMode(EAccessMode ImposedAccessMode)
 
 void Node::ImposeVisibility(EVisibility ImposedVisibility)
 {
-    change("ImposeVisibility", [&](Changes &) { m_visibility = Combine(m_visibility, ImposedVisibility); });
+    change("ImposeVisibility", [&](Changes &) { m_imposedVisibility = ImposedVisibility; });
 }
 
 CallbackHandleType Node::RegisterCallback(CNodeCallback *pCallback)

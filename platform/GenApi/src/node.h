@@ -6,6 +6,7 @@
 #include <Base/GCException.h>
 #include <GenApi/INode.h>
 #include <GenApi/ISelector.h>
+#include <GenApi/IUserData.h>
 #include <GenApi/IValue.h>
 
 #include <initializer_list>
@@ -52,6 +53,10 @@ public:
     /** Counts a write to \a node; throws when one write by a user leads to more than any device can mean. */
     void countWrite(const Node &node);
 
+    /** A node has found \a value within limits that are those of \a next, which need not look again. */
+    void noteChecked(const Node &next, int64_t value) { m_checked = {&next, value}; }
+    bool isChecked(const Node &node, int64_t value) const { return m_checked == std::pair(&node, value); }
+
     const std::vector<Node *> &nodes() const { return m_nodes; }
     uint64_t list() const { return m_list; }
     bool contains(const Node &node) const;
@@ -65,6 +70,7 @@ private:
     const uint64_t m_list; ///< marks the nodes that are in m_nodes
     unsigned m_writes = 0;
     bool m_portHasFailed = false;
+    std::pair<const Node *, int64_t> m_checked{nullptr, 0};
     std::vector<Node *> m_nodes;
 };
 
@@ -76,7 +82,7 @@ private:
  * out its access mode and a computed or register value at most once, so that the cost is bounded by the number of
  * nodes, however often formulas share them.
  */
-class Node : public GenApi::INode, public GenApi::ISelector
+class Node : public GenApi::INode, public GenApi::ISelector, public GenApi::IUserData
 {
 public:
     Node(NodeMapImpl &map, const char *name);
@@ -106,15 +112,23 @@ public:
 
     GenApi::ENameSpace GetNameSpace() const override;
     bool IsCachable() const override;
+    GenApi::EYesNo IsAccessModeCacheable() const override;
     bool IsDeprecated() const override;
     GenICam::gcstring GetDocuURL() const override;
     GenICam::gcstring GetEventID() const override;
     GenApi::INode *GetAlias() const override;
     GenApi::INode *GetCastAlias() const override;
-    void GetChildren(GenApi::NodeList_t &Children) const override;
+    void GetChildren(GenApi::NodeList_t &Children, GenApi::ELinkType LinkType) const override;
     void GetParents(GenApi::NodeList_t &Parents) const override;
     void ImposeAccessMode(GenApi::EAccessMode ImposedAccessMode) override;
     void ImposeVisibility(GenApi::EVisibility ImposedVisibility) override;
+    void GetPropertyNames(GenICam::gcstring_vector &PropertyNames) const override;
+    bool GetProperty(const GenICam::gcstring &PropertyName, GenICam::gcstring &ValueStr,
+                     GenICam::gcstring &AttributeStr) override;
+
+    // IUserData
+    GenApi::UserData_t GetUserData() const override;
+    GenApi::UserData_t SetUserData(GenApi::UserData_t userdata) override;
 
     // ISelector
     bool IsSelector() const override;
@@ -179,7 +193,9 @@ public:
     /** Whether \a node can be read now and is not 0. What cannot be read is not fulfilled. */
     static bool isFulfilled(Node &node);
 
-    virtual GenApi::EVisibility visibility() const { return m_visibility; }
+    /** What the description says, or what a category's features make of it. */
+    virtual GenApi::EVisibility naturalVisibility() const { return m_visibility; }
+    GenApi::EVisibility visibility() const { return GenApi::Combine(naturalVisibility(), m_imposedVisibility); }
     GenApi::ECachingMode cachingMode() const { return m_cachingMode; }
     void setCachingMode(GenApi::ECachingMode mode) { m_cachingMode = mode; }
 
@@ -248,6 +264,21 @@ public:
     bool isBroken() const { return m_broken; }
 
     const GenApi::CallbackList &callbacks() const { return m_callbacks; }
+
+    bool isFeature() const { return m_isFeature; }
+    const std::vector<Node *> &selecting() const;
+
+    /** Those that read this node; all that change with it; those where what is written to it ends. */
+    std::vector<Node *> readers() const;
+    std::vector<Node *> dependingNodes() const;
+    std::vector<Node *> terminalNodes() const;
+
+    /** Where the node's element begins in the text of the description, and where the next one does. */
+    std::size_t descriptionBegin() const { return m_descriptionBegin; }
+    std::size_t descriptionEnd() const { return m_descriptionEnd; }
+
+    /** Throws FormulaError when a formula of this node can never be evaluated. */
+    virtual void checkFormulas() const { }
 
     /** Adds to the poll clock; true when it has come to the polling time. */
     bool advancePollClock(int64_t milliseconds);
@@ -367,6 +398,9 @@ private:
     mutable GenApi::EAccessMode m_access = GenApi::NI;
     GenApi::EAccessMode m_imposedAccess = GenApi::RW;
     GenApi::EVisibility m_visibility = GenApi::Beginner;
+    GenApi::EVisibility m_imposedVisibility = GenApi::Beginner;
+    uint32_t m_descriptionBegin = 0;
+    uint32_t m_descriptionEnd = 0;
     GenApi::ECachingMode m_cachingMode = GenApi::WriteThrough; ///< with what the value is made of
     bool m_streamable = false;
     bool m_isFeature = false;

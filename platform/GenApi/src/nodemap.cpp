@@ -9,8 +9,6 @@
 
 namespace OrvGenApi {
 
-namespace {
-
 std::string contentOf(const std::string &path)
 {
     errno = 0;
@@ -24,8 +22,6 @@ std::string contentOf(const std::string &path)
     ORV_THROW(RuntimeException, path + ": cannot be read: " + std::strerror(errno));
 }
 
-} // namespace
-
 std::unique_ptr<NodeMap> NodeMap::fromFile(const std::string &path, const std::string &deviceName)
 {
     return fromString(contentOf(path), path, deviceName);
@@ -34,9 +30,15 @@ std::unique_ptr<NodeMap> NodeMap::fromFile(const std::string &path, const std::s
 std::unique_ptr<NodeMap> NodeMap::fromString(std::string_view xml, const std::string &sourceName,
                                              const std::string &deviceName)
 {
-    auto map = std::make_unique<NodeMapImpl>(deviceName);
+    return NodeMapImpl::load(std::string(xml), sourceName, deviceName);
+}
+
+std::unique_ptr<NodeMapImpl> NodeMapImpl::load(std::string xml, const std::string &sourceName,
+                                               const std::string &deviceName, GenApi::CLock *lock)
+{
+    auto map = std::make_unique<NodeMapImpl>(deviceName, lock);
     try {
-        DescriptionLoader(*map, std::string(xml), sourceName).load();
+        DescriptionLoader(*map, std::move(xml), sourceName).load();
     } catch (const std::bad_alloc &) {
         throw GenICam::BadAllocException((sourceName + ": too large").c_str(), __FILE__, __LINE__);
     }

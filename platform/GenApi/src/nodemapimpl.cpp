@@ -1,6 +1,10 @@
 #include "nodemapimpl.h"
 
+#include "formula.h"
 #include "portnode.h"
+
+#include <GenICamVersion.h>
+#include <pugixml.hpp>
 
 #include <algorithm>
 #include <cstring>
@@ -10,8 +14,9 @@ namespace OrvGenApi {
 using namespace GenApi;
 using GenICam::gcstring;
 
-NodeMapImpl::NodeMapImpl(std::string deviceName)
+NodeMapImpl::NodeMapImpl(std::string deviceName, CLock *lock)
     : m_deviceName(std::move(deviceName))
+    , m_lock(lock ? *lock : m_ownLock)
 {
 }
 
@@ -118,15 +123,89 @@ NodeMapImpl::Extras NodeMapImpl::extrasOf(const Node &node) const
 
 bool NodeMapImpl::connect(IPort *port, const std::string &portName)
 {
-    const MapLock lock(*this);
-    const auto node = dynamic_cast<PortNode *>(find(portName));
-    if (!node)
-        return false;
-    node->connect(port);
-    startEvaluation();
-    for (const std::unique_ptr<Node> &each : m_nodes)
-        each->dropCache();
+    std::vector<Node *> changed;
+    std::exception_ptr failure;
+    {
+        const MapLock lock(*this);
+        const auto node = dynamic_cast<PortNode *>(find(portName));
+        if (!node)
+            return false;
+        node->connect(port);
+        startEvaluation();
+        for (const std::unique_ptr<Node> &each : m_nodes)
+            each->dropCache();
+        Changes changes(*this);
+        changes.add(*node);
+        changed = changes.nodes();
+        fire(changed, cbPostInsideLock, failure);
+    }
+    fire(changed, cbPostOutsideLock, failure);
+    if (failure)
+        std::rethrow_exception(failure);
     return true;
+}
+
+bool NodeMapImpl::ParseSwissKnifes(GenICam::gcstring_vector *pErrorList) const
+{
+    const MapLock lock(*this);
+    bool isFine = true;
+    for (const std::unique_ptr<Node> &node : m_nodes) {
+        try {
+            node->checkFormulas();
+        } catch (const FormulaError &error) {
+            isFine = false;
+            if (pErrorList)
+                pErrorList->push_back(gcstring("node '" + std::string(node->name()) + "': " + error.message));
+        }
+    }
+    return isFine;
+}
+
+void NodeMapImpl::SetSuppressCallbackMode(ECallbackSuppressMode mode)
+{
+    const MapLock lock(*this);
+    m_suppressMode = mode;
+}
+
+void NodeMapImpl::GetGenApiVersion(GenICam::Version_t &Version, uint16_t &Build)
+{
+    Version = {GENICAM_VERSION_MAJOR, GENICAM_VERSION_MINOR, GENICAM_VERSION_SUBMINOR};
+    Build = GENICAM_VERSION_BUILD;
+}
+
+void NodeMapImpl::GetSchemaVersion(GenICam::Version_t &Version)
+{
+    Version = rootVersion("Schema");
+}
+
+void NodeMapImpl::GetDeviceVersion(GenICam::Version_t &Version)
+{
+    Version = rootVersion("");
+}
+
+/** Read from the text up to the first node: few programs ask. */
+gcstring NodeMapImpl::rootAttribute(const char *name) const
+{
+    const std::size_t end = m_nodes.empty() ? m_description.size() : m_nodes.front()->descriptionBegin();
+    pugi::xml_document document;
+    document.load_buffer(m_description.data(), end, pugi::parse_default, pugi::encoding_utf8);
+    return document.document_element().attribute(name).value();
+}
+
+GenICam::Version_t NodeMapImpl::rootVersion(const std::string &prefix) const
+{
+    const auto number = [&](const char *part) {
+        const auto value = parseInteger(rootAttribute((prefix + part).c_str()).c_str());
+        return value && *value >= 0 && *value <= UINT16_MAX ? static_cast<uint16_t>(*value) : uint16_t(0);
+    };
+    return {number("MajorVersion"), number("MinorVersion"), number("SubMinorVersion")};
+}
+
+std::string_view NodeMapImpl::descriptionOf(const Node &node) const
+{
+    const std::size_t begin = std::min(node.descriptionBegin(), m_description.size());
+    const std::size_t end = std::max(node.descriptionEnd(), begin);
+    return std::string_view(m_description).substr(begin, end - begin);
 }
 
 Node *NodeMapImpl::find(std::string_view name) const
@@ -165,6 +244,11 @@ void NodeMapImpl::fire(const std::vector<Node *> &nodes, ECallbackType moment, s
     std::vector<std::pair<Node *, CNodeCallback *>> calls;
     {
         const MapLock lock(*this);
+        if (m_suppressMode != csmOff) {
+            if (m_suppressMode == csmOnce && moment == cbPostOutsideLock)
+                m_suppressMode = csmOff;
+            return;
+        }
         for (Node *node : nodes)
             node->m_callbacks.forEach([&](CNodeCallback *callback) { calls.emplace_back(node, callback); });
         if (calls.empty())

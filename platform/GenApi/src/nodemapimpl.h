@@ -2,6 +2,8 @@
 
 #include "node.h"
 
+#include <GenApi/IDestroy.h>
+#include <GenApi/IDeviceInfo.h>
 #include <OrvGenApi/nodemap.h>
 
 #include <exception>
@@ -12,6 +14,9 @@
 namespace OrvGenApi {
 
 class PortNode;
+
+/** The bytes of the file at \a path; throws when it cannot be read. */
+std::string contentOf(const std::string &path);
 
 /** What tests make nodes do. */
 struct Faults
@@ -25,11 +30,16 @@ struct Faults
     std::vector<Fault> faults;
 };
 
-class NodeMapImpl final : public NodeMap
+class NodeMapImpl final : public NodeMap, public GenApi::IDestroy, public GenApi::IDeviceInfo, public GenApi::IUserData
 {
 public:
-    explicit NodeMapImpl(std::string deviceName);
+    /** \a lock is one that outlives the map; null makes it use its own. */
+    explicit NodeMapImpl(std::string deviceName, GenApi::CLock *lock = nullptr);
     ~NodeMapImpl() override;
+
+    /** Reads \a xml; see NodeMap::fromString(). */
+    static std::unique_ptr<NodeMapImpl> load(std::string xml, const std::string &sourceName,
+                                             const std::string &deviceName, GenApi::CLock *lock = nullptr);
 
     // INodeMap
     void GetNodes(GenApi::NodeList_t &Nodes) const override;
@@ -39,9 +49,38 @@ public:
     void Poll(int64_t ElapsedTime) override;
     GenApi::CLock &GetLock() const override { return m_lock; }
     uint64_t GetNumNodes() const override;
+    bool Connect(GenApi::IPort *pPort, const GenICam::gcstring &PortName) const override;
+    bool Connect(GenApi::IPort *pPort) const override { return Connect(pPort, "Device"); }
+    bool Connect(GenApi::IPortStacked *pPort, const GenICam::gcstring &PortName) override
+    {
+        return connect(pPort, PortName.c_str());
+    }
+    bool Connect(GenApi::IPortStacked *pPort) override { return connect(pPort, "Device"); }
+    bool ParseSwissKnifes(GenICam::gcstring_vector *pErrorList) const override;
+    GenApi::CNodeWriteConcatenator *NewNodeWriteConcatenator() const override;
+    bool ConcatenatedWrite(GenApi::CNodeWriteConcatenator *pConcatenatedWrite, bool featureStreaming,
+                           GenICam::gcstring_vector *pErrorList) override;
+    void SetSuppressCallbackMode(GenApi::ECallbackSuppressMode mode) override;
+
+    // IDestroy
+    void Destroy() override { delete this; }
+
+    // IDeviceInfo
+    GenICam::gcstring GetModelName() override { return m_modelName.c_str(); }
+    GenICam::gcstring GetVendorName() override { return m_vendorName.c_str(); }
+    GenICam::gcstring GetToolTip() override { return rootAttribute("ToolTip"); }
+    GenICam::gcstring GetStandardNameSpace() override { return rootAttribute("StandardNameSpace"); }
+    void GetGenApiVersion(GenICam::Version_t &Version, uint16_t &Build) override;
+    void GetSchemaVersion(GenICam::Version_t &Version) override;
+    void GetDeviceVersion(GenICam::Version_t &Version) override;
+    GenICam::gcstring GetProductGuid() override { return rootAttribute("ProductGuid"); }
+    GenICam::gcstring GetVersionGuid() override { return rootAttribute("VersionGuid"); }
+
+    // IUserData
+    GenApi::UserData_t GetUserData() const override { return m_userData; }
+    GenApi::UserData_t SetUserData(GenApi::UserData_t userdata) override { return std::exchange(m_userData, userdata); }
 
     // NodeMap
-    bool Connect(GenApi::IPort *pPort, const GenICam::gcstring &PortName) const override;
     bool connect(GenApi::IPort *port, const std::string &portName) override;
     std::string modelName() const override { return m_modelName; }
     std::string vendorName() const override { return m_vendorName; }
@@ -51,8 +90,14 @@ public:
     const std::string &deviceName() const { return m_deviceName; }
     Node *find(std::string_view name) const;
 
+    /** The text of the description from the node's element to the next one. */
+    std::string_view descriptionOf(const Node &node) const;
+
     /** Copies \a text into the map's memory; the same pointer as long as the map lives, never null. */
     const char *keep(std::string_view text);
+
+    /** Makes room for about that many nodes. */
+    void reserve(std::size_t nodes) { m_byName.reserve(nodes); }
 
     /** Takes ownership; false when there is a node of that name. */
     bool add(std::unique_ptr<Node> node);
@@ -86,6 +131,7 @@ public:
         const char *eventId = "";
         Node *alias = nullptr;
         Node *castAlias = nullptr;
+        GenApi::UserData_t userData = nullptr;
         bool isDeprecated = false;
         std::pair<int64_t, int64_t> intLimits{int64Min, int64Max}; ///< imposed
         std::pair<double, double> floatLimits{-std::numeric_limits<double>::infinity(),
@@ -93,8 +139,23 @@ public:
     };
     Extras extrasOf(const Node &node) const;
 
+    /** The value that was found within a node's limits last when it was read. */
+    struct CheckedRead
+    {
+        const Node *node = nullptr;
+        int64_t value = 0;
+        uint64_t evaluation = 0;
+
+        bool isOf(const Node *other, int64_t read, uint64_t now) const
+        {
+            return node == other && value == read && evaluation == now;
+        }
+    };
+
+    CheckedRead m_checkedRead;
     std::unordered_map<const Node *, Extras> m_extras;
     std::vector<std::unique_ptr<Node>> m_nodes;
+    std::string m_description; ///< as it was read, for questions that the nodes have no answer to
     std::string m_modelName;
     std::string m_vendorName;
     std::optional<Faults> m_faults;
@@ -105,8 +166,14 @@ public:
     bool m_renewing = false; ///< reads past the caches keep what they read
 
 private:
+    GenICam::gcstring rootAttribute(const char *name) const;
+    GenICam::Version_t rootVersion(const std::string &prefix) const;
+
     const std::string m_deviceName;
-    mutable GenApi::CLock m_lock;
+    mutable GenApi::CLock m_ownLock;
+    GenApi::CLock &m_lock;
+    GenApi::UserData_t m_userData = nullptr;
+    GenApi::ECallbackSuppressMode m_suppressMode = GenApi::csmOff;
     std::unordered_map<std::string_view, Node *> m_byName;
     std::vector<std::unique_ptr<char[]>> m_texts;
     std::size_t m_textUsed = 0;

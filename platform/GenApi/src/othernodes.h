@@ -26,7 +26,7 @@ public:
     void GetFeatures(GenApi::FeatureList_t &Features) const override;
 
     GenApi::EInterfaceType interfaceType() const override { return GenApi::intfICategory; }
-    GenApi::EVisibility visibility() const override { return m_derivedVisibility; }
+    GenApi::EVisibility naturalVisibility() const override { return m_derivedVisibility; }
     bool isCacheValid() const override { return false; }
     std::string text(bool ignoreCache) override;
     void setText(const std::string &text, bool verify, Changes &changes) override;

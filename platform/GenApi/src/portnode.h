@@ -2,12 +2,21 @@
 
 #include "nodemapimpl.h"
 
-#include <GenApi/IPort.h>
+#include <GenApi/IChunkPort.h>
+#include <GenApi/IPortConstruct.h>
+#include <GenApi/IPortRecorder.h>
+#include <GenApi/IPortStacked.h>
+
+#include <optional>
 
 namespace OrvGenApi {
 
 /** Passes reads and writes on to the port that is connected. */
-class PortNode final : public Node, public GenApi::IPort
+class PortNode final : public Node,
+                       public GenApi::IPortRecorder,
+                       public GenApi::IPortConstruct,
+                       public GenApi::IPortStackedConstruct,
+                       public GenApi::IChunkPort
 {
 public:
     using Node::Node;
@@ -15,13 +24,33 @@ public:
     void Read(void *pBuffer, int64_t Address, int64_t Length) override;
     void Write(const void *pBuffer, int64_t Address, int64_t Length) override;
 
+    // IPortRecorder
+    void Replay(GenApi::IPortWriteList *pPortRecorder, bool Invalidate) override;
+    void StartRecording(GenApi::IPortWriteList *pPortRecorder) override;
+    void StopRecording() override { StartRecording(nullptr); }
+
+    // IPortConstruct and IPortStackedConstruct
+    void SetPortImpl(GenApi::IPort *pPort) override { map().connect(pPort, name()); }
+    void SetPortImpl(GenApi::IPortStacked *pPort) override { map().connect(pPort, name()); }
+    GenApi::EYesNo GetSwapEndianess() override { return m_swapEndianness ? GenApi::Yes : GenApi::No; }
+
+    // IChunkPort
+    GenICam::gcstring GetChunkID() const override { return property("ChunkID"); }
+    GenApi::EYesNo CacheChunkData() const override
+    {
+        return property("CacheChunkData") == "Yes" ? GenApi::Yes : GenApi::No;
+    }
+
     GenApi::EInterfaceType interfaceType() const override { return GenApi::intfIPort; }
 
-    void connect(GenApi::IPort *port)
-    {
-        m_port = port;
-        m_kept.clear();
-    }
+    /** Tells \a port, where it wants to know, that it belongs to this node. */
+    void connect(GenApi::IPort *port);
+
+    /** From now on writes wait for the end of the stack, if the port can do several at once. */
+    void beginStack();
+
+    /** Does the writes that wait in one access. */
+    void endStack();
 
     /** Whether registers behind this port have their bytes the other way round. */
     bool swapsEndianness() const { return m_swapEndianness; }
@@ -48,6 +77,14 @@ private:
     template <typename Deed>
     void guarded(const char *what, const Deed &deed) const;
     GenApi::IPort *connected() const;
+    GenICam::gcstring property(const char *name) const;
+    void writeStack();
+
+    struct StackedWrite
+    {
+        int64_t address;
+        std::string bytes;
+    };
 
     struct Place
     {
@@ -68,6 +105,8 @@ private:
 
     std::unordered_map<Place, std::string, PlaceHash> m_kept;
     GenApi::IPort *m_port = nullptr;
+    GenApi::IPortWriteList *m_recorder = nullptr;
+    std::optional<std::vector<StackedWrite>> m_stack; ///< there while writes are collected
     bool m_swapEndianness = false;
     bool m_isChunk = false; ///< for data that come with an image
 };

@@ -129,7 +129,9 @@ int64_t IntegerBase::intValue(bool ignoreCache)
     if (mustVerify) {
         const bool isKept = m_kept.isKept();
         m_kept.setKept(wasKept); // a value that fails is not kept anew
-        checkRange(value);
+        if (m_hasImposedLimits || !isCheckedBelow(value))
+            checkRange(value);
+        m_map.m_checkedRead = {this, value, m_map.evaluation()};
         checkError();
         m_kept.setKept(isKept);
     }
@@ -142,7 +144,7 @@ void IntegerBase::setIntValue(int64_t value, bool verify, Changes &changes)
     const Descent descent(*this);
     m_kept.drop();
     requireWritable(verify);
-    if (verify)
+    if (verify && (m_hasImposedLimits || !changes.isChecked(*this, value)))
         checkRange(value);
     const bool keeps = cachingMode() == WriteThrough && keepsWritten();
     {

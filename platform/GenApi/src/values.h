@@ -188,6 +188,9 @@ protected:
     virtual int64_t readInt(bool ignoreCache) = 0;
     virtual void writeInt(int64_t value, bool verify, Changes &changes) = 0;
 
+    /** Whether a value that was just read has been found within limits that are this node's as well. */
+    virtual bool isCheckedBelow(int64_t) const { return false; }
+
     /** Whether a written value may be kept at all. */
     virtual bool keepsWritten() const { return true; }
 

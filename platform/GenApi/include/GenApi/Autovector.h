@@ -1,33 +1,45 @@
 #pragma once
 
-#include <Base/GCNamespace.h>
+#include <Base/GCTypes.h>
 
-#include <cstddef>
-#include <cstdint>
 #include <utility>
 #include <vector>
 
 namespace GENAPI_NAMESPACE {
 
-/** A list of valid values: read only, of a length fixed when it was made. */
+/** A list of valid values, of a length fixed when it was made. */
 template <typename Number>
 class Autovector
 {
 public:
     Autovector() = default;
+    explicit Autovector(std::size_t n)
+        : m_values(n)
+    {
+    }
     explicit Autovector(std::vector<Number> values)
         : m_values(std::move(values))
     {
     }
 
     std::size_t size() const { return m_values.size(); }
-    const Number &operator[](std::size_t index) const { return m_values[index]; }
+    Number &operator[](std::size_t uiIndex) { return m_values[uiIndex]; }
+    const Number &operator[](std::size_t uiIndex) const { return m_values[uiIndex]; }
 
 private:
     std::vector<Number> m_values;
 };
 
-using int64_autovector_t = Autovector<int64_t>;
-using double_autovector_t = Autovector<double>;
+class int64_autovector_t : public Autovector<int64_t>
+{
+public:
+    using Autovector::Autovector;
+};
+
+class double_autovector_t : public Autovector<double>
+{
+public:
+    using Autovector::Autovector;
+};
 
 } // namespace GENAPI_NAMESPACE

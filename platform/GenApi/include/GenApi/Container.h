@@ -1,16 +1,47 @@
 #pragma once
 
-#include <Base/GCNamespace.h>
+#include <Base/GCTypes.h>
 
 #include <vector>
 
 namespace GENAPI_NAMESPACE {
 
-struct INode;
-struct IValue;
+GENICAM_INTERFACE INode;
+GENICAM_INTERFACE IValue;
 
-/** Nodes and features in the order of their description; the pointers belong to the node map. */
-using NodeList_t = std::vector<INode *>;
-using FeatureList_t = std::vector<IValue *>;
+/** Objects of a node map, to which they belong, in the order of its description. */
+template <typename T>
+class object_vector : public std::vector<T *>
+{
+public:
+    using Vector = std::vector<T *>;
+    using Vector::erase;
+    using Vector::insert;
+    using Vector::Vector;
+
+    // Also by place.
+    void erase(std::size_t uiIndex) { this->erase(this->begin() + static_cast<std::ptrdiff_t>(uiIndex)); }
+    void insert(std::size_t uiIndex, T *const &val)
+    {
+        this->insert(this->begin() + static_cast<std::ptrdiff_t>(uiIndex), val);
+    }
+};
+
+/** Nodes. */
+class node_vector : public object_vector<INode>
+{
+public:
+    using object_vector::object_vector;
+};
+
+/** Features. */
+class value_vector : public object_vector<IValue>
+{
+public:
+    using object_vector::object_vector;
+};
+
+using NodeList_t = node_vector;
+using FeatureList_t = value_vector;
 
 } // namespace GENAPI_NAMESPACE

@@ -10,9 +10,15 @@ struct ORV_GENAPI_EXPORT ICategory : virtual public IValue
 {
     /** The direct children, in the order of the description. */
     virtual void GetFeatures(FeatureList_t &Features) const = 0;
-
-protected:
-    ~ICategory() = default;
 };
+
+template <typename T>
+class CCategoryRefT : public CValueRefT<T>
+{
+public:
+    void GetFeatures(FeatureList_t &Features) const override { this->referred().GetFeatures(Features); }
+};
+
+using CCategoryRef = CCategoryRefT<ICategory>;
 
 } // namespace GENAPI_NAMESPACE

@@ -13,9 +13,16 @@ struct ORV_GENAPI_EXPORT ICommand : virtual public IValue
     virtual bool IsDone(bool Verify = true) = 0;
 
     void operator()() { Execute(); }
-
-protected:
-    ~ICommand() = default;
 };
+
+template <typename T>
+class CCommandRefT : public CValueRefT<T>
+{
+public:
+    void Execute(bool Verify = true) override { this->referred().Execute(Verify); }
+    bool IsDone(bool Verify = true) override { return this->referred().IsDone(Verify); }
+};
+
+using CCommandRef = CCommandRefT<ICommand>;
 
 } // namespace GENAPI_NAMESPACE

@@ -15,9 +15,18 @@ struct ORV_GENAPI_EXPORT IEnumEntry : virtual public IValue
 
     /** Whether the device leaves this entry by itself. */
     virtual bool IsSelfClearing() = 0;
-
-protected:
-    ~IEnumEntry() = default;
 };
+
+template <typename T>
+class CEnumEntryRefT : public CValueRefT<T>
+{
+public:
+    int64_t GetValue() override { return this->referred().GetValue(); }
+    GENICAM_NAMESPACE::gcstring GetSymbolic() const override { return this->referred().GetSymbolic(); }
+    double GetNumericValue() override { return this->referred().GetNumericValue(); }
+    bool IsSelfClearing() override { return this->referred().IsSelfClearing(); }
+};
+
+using CEnumEntryRef = CEnumEntryRefT<IEnumEntry>;
 
 } // namespace GENAPI_NAMESPACE

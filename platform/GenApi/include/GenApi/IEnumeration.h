@@ -24,15 +24,12 @@ struct ORV_GENAPI_EXPORT IEnumeration : virtual public IValue
     /** The entry of the current value; null when no entry has it. */
     virtual IEnumEntry *GetCurrentEntry(bool Verify = false, bool IgnoreCache = false) = 0;
 
-    IEnumeration &operator=(const GENICAM_NAMESPACE::gcstring &ValueStr)
+    virtual IEnumeration &operator=(const GENICAM_NAMESPACE::gcstring &ValueStr)
     {
         FromString(ValueStr);
         return *this;
     }
     GENICAM_NAMESPACE::gcstring operator*() { return ToString(); }
-
-protected:
-    ~IEnumeration() = default;
 };
 
 } // namespace GENAPI_NAMESPACE

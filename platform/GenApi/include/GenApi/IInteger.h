@@ -5,6 +5,8 @@
 
 namespace GENAPI_NAMESPACE {
 
+GENICAM_INTERFACE IFloat;
+
 /** A signed 64-bit number. */
 struct ORV_GENAPI_EXPORT IInteger : virtual public IValue
 {
@@ -29,16 +31,46 @@ struct ORV_GENAPI_EXPORT IInteger : virtual public IValue
     virtual void ImposeMin(int64_t Value) = 0;
     virtual void ImposeMax(int64_t Value) = 0;
 
-    IInteger &operator=(int64_t Value)
+    virtual IInteger &operator=(int64_t Value)
     {
         SetValue(Value);
         return *this;
     }
     int64_t operator()() { return GetValue(); }
     int64_t operator*() { return GetValue(); }
-
-protected:
-    ~IInteger() = default;
 };
+
+template <typename T, typename I = T>
+class CIntegerRefT : public CValueRefT<T, I>
+{
+public:
+    void SetValue(int64_t Value, bool Verify = true) override { this->referred().SetValue(Value, Verify); }
+    CIntegerRefT &operator=(int64_t Value) override
+    {
+        SetValue(Value);
+        return *this;
+    }
+    int64_t GetValue(bool Verify = false, bool IgnoreCache = false) override
+    {
+        return this->referred().GetValue(Verify, IgnoreCache);
+    }
+    int64_t GetMin() override { return this->referred().GetMin(); }
+    int64_t GetMax() override { return this->referred().GetMax(); }
+    int64_t GetInc() override { return this->referred().GetInc(); }
+    EIncMode GetIncMode() override { return this->referred().GetIncMode(); }
+    int64_autovector_t GetListOfValidValues(bool bounded = true) override
+    {
+        return this->referred().GetListOfValidValues(bounded);
+    }
+    ERepresentation GetRepresentation() override { return this->referred().GetRepresentation(); }
+    GENICAM_NAMESPACE::gcstring GetUnit() override { return this->referred().GetUnit(); }
+    void ImposeMin(int64_t Value) override { this->referred().ImposeMin(Value); }
+    void ImposeMax(int64_t Value) override { this->referred().ImposeMax(Value); }
+
+    /** The node of the same value with a fraction; null when there is none. */
+    IFloat *GetFloatAlias() { return dynamic_cast<IFloat *>(this->referred().GetNode()->GetCastAlias()); }
+};
+
+using CIntegerRef = CIntegerRefT<IInteger>;
 
 } // namespace GENAPI_NAMESPACE

@@ -22,6 +22,9 @@ struct ORV_GENAPI_EXPORT INode : virtual public IBase
 
     virtual ENameSpace GetNameSpace() const = 0;
     virtual bool IsCachable() const = 0;
+
+    /** Whether the access mode changes only with what is known to change. */
+    virtual EYesNo IsAccessModeCacheable() const = 0;
     virtual bool IsDeprecated() const = 0;
 
     /** Where to read more, and the event that tells of changes; empty where the description names none. */
@@ -32,11 +35,28 @@ struct ORV_GENAPI_EXPORT INode : virtual public IBase
     virtual INode *GetAlias() const = 0;
     virtual INode *GetCastAlias() const = 0;
 
-    /** The nodes that this one changes with, and those that change with it. */
-    virtual void GetChildren(NodeList_t &Children) const = 0;
+    /**
+     * The nodes that hang on this one or on which it hangs: those it reads, for whatever purpose; those it writes;
+     * those with which it changes; those whose change changes its value; those at the end of what it writes, itself
+     * where that ends here; those that read it (ctParentNodes); all that change with it, however far away
+     * (ctDependingNodes).
+     */
+    virtual void GetChildren(NodeList_t &Children, ELinkType LinkType = ctReadingChildren) const = 0;
+
+    /** The nodes that read this one. */
     virtual void GetParents(NodeList_t &Parents) const = 0;
 
-    /** Makes the node available to fewer: for what an application must not offer. */
+    /** The names of the properties that the description gives the node, or that it has without, sorted. */
+    virtual void GetPropertyNames(GENICAM_NAMESPACE::gcstring_vector &PropertyNames) const = 0;
+
+    /**
+     * A property as text; several of one name with tabs between. \a AttributeStr becomes what the description says
+     * about them besides: the name of a variable, the index of a value. False when there is none of that name.
+     */
+    virtual bool GetProperty(const GENICAM_NAMESPACE::gcstring &PropertyName, GENICAM_NAMESPACE::gcstring &ValueStr,
+                             GENICAM_NAMESPACE::gcstring &AttributeStr) = 0;
+
+    /** Makes the node available to fewer, until another mode is imposed: for what an application must not offer. */
     virtual void ImposeAccessMode(EAccessMode ImposedAccessMode) = 0;
     virtual void ImposeVisibility(EVisibility ImposedVisibility) = 0;
 
@@ -62,9 +82,6 @@ struct ORV_GENAPI_EXPORT INode : virtual public IBase
 
     /** Removes and destroys a callback; false when this node has no such one. */
     virtual bool DeregisterCallback(CallbackHandleType hCallback) = 0;
-
-protected:
-    ~INode() = default;
 };
 
 inline bool IsReadable(EAccessMode AccessMode)
@@ -144,6 +161,14 @@ inline EAccessMode Combine(EAccessMode Peter, EAccessMode Paul)
 inline EVisibility Combine(EVisibility Peter, EVisibility Paul)
 {
     return Peter > Paul ? Peter : Paul;
+}
+
+/** How something may be cached that is made of both. */
+inline ECachingMode Combine(ECachingMode Peter, ECachingMode Paul)
+{
+    if (Peter == NoCache || Paul == NoCache)
+        return NoCache;
+    return Peter == WriteAround || Paul == WriteAround ? WriteAround : WriteThrough;
 }
 
 inline bool IsVisible(EVisibility Visibility, EVisibility MaxVisibility)

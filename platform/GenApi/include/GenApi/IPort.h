@@ -9,9 +9,22 @@ struct ORV_GENAPI_EXPORT IPort : virtual public IBase
 {
     virtual void Read(void *pBuffer, int64_t Address, int64_t Length) = 0;
     virtual void Write(const void *pBuffer, int64_t Address, int64_t Length) = 0;
-
-protected:
-    ~IPort() = default;
 };
+
+template <typename T>
+class CPortRefT : public CBaseRefT<T>
+{
+public:
+    void Read(void *pBuffer, int64_t Address, int64_t Length) override
+    {
+        this->referred().Read(pBuffer, Address, Length);
+    }
+    void Write(const void *pBuffer, int64_t Address, int64_t Length) override
+    {
+        this->referred().Write(pBuffer, Address, Length);
+    }
+};
+
+using CPortRef = CPortRefT<IPort>;
 
 } // namespace GENAPI_NAMESPACE

@@ -13,9 +13,24 @@ struct ORV_GENAPI_EXPORT IRegister : virtual public IValue
     /** Length in bytes. */
     virtual int64_t GetLength(bool Verify = false) = 0;
     virtual int64_t GetAddress(bool Verify = false) = 0;
-
-protected:
-    ~IRegister() = default;
 };
+
+template <typename T>
+class CRegisterRefT : public CValueRefT<T>
+{
+public:
+    void Set(const uint8_t *pBuffer, int64_t Length, bool Verify = true) override
+    {
+        this->referred().Set(pBuffer, Length, Verify);
+    }
+    void Get(uint8_t *pBuffer, int64_t Length, bool Verify = false, bool IgnoreCache = false) override
+    {
+        this->referred().Get(pBuffer, Length, Verify, IgnoreCache);
+    }
+    int64_t GetLength(bool Verify = false) override { return this->referred().GetLength(Verify); }
+    int64_t GetAddress(bool Verify = false) override { return this->referred().GetAddress(Verify); }
+};
+
+using CRegisterRef = CRegisterRefT<IRegister>;
 
 } // namespace GENAPI_NAMESPACE

@@ -11,9 +11,20 @@ struct ORV_GENAPI_EXPORT ISelector : virtual public IBase
     virtual bool IsSelector() const = 0;
     virtual void GetSelectedFeatures(FeatureList_t &Features) const = 0;
     virtual void GetSelectingFeatures(FeatureList_t &Features) const = 0;
-
-protected:
-    ~ISelector() = default;
 };
+
+template <typename T>
+class CSelectorRefT : public CBaseRefT<T>
+{
+public:
+    bool IsSelector() const override { return this->referred().IsSelector(); }
+    void GetSelectedFeatures(FeatureList_t &Features) const override { this->referred().GetSelectedFeatures(Features); }
+    void GetSelectingFeatures(FeatureList_t &Features) const override
+    {
+        this->referred().GetSelectingFeatures(Features);
+    }
+};
+
+using CSelectorRef = CSelectorRefT<ISelector>;
 
 } // namespace GENAPI_NAMESPACE

@@ -13,16 +13,35 @@ struct ORV_GENAPI_EXPORT IString : virtual public IValue
     /** The longest text that can be written, in bytes. */
     virtual int64_t GetMaxLength(bool Verify = false) = 0;
 
-    IString &operator=(const GENICAM_NAMESPACE::gcstring &Value)
+    virtual IString &operator=(const GENICAM_NAMESPACE::gcstring &Value)
     {
         SetValue(Value);
         return *this;
     }
     GENICAM_NAMESPACE::gcstring operator()() { return GetValue(); }
     GENICAM_NAMESPACE::gcstring operator*() { return GetValue(); }
-
-protected:
-    ~IString() = default;
 };
+
+template <typename T>
+class CStringRefT : public CValueRefT<T>
+{
+public:
+    void SetValue(const GENICAM_NAMESPACE::gcstring &Value, bool Verify = true) override
+    {
+        this->referred().SetValue(Value, Verify);
+    }
+    CStringRefT &operator=(const GENICAM_NAMESPACE::gcstring &Value) override
+    {
+        SetValue(Value);
+        return *this;
+    }
+    GENICAM_NAMESPACE::gcstring GetValue(bool Verify = false, bool IgnoreCache = false) override
+    {
+        return this->referred().GetValue(Verify, IgnoreCache);
+    }
+    int64_t GetMaxLength(bool Verify = false) override { return this->referred().GetMaxLength(Verify); }
+};
+
+using CStringRef = CStringRefT<IString>;
 
 } // namespace GENAPI_NAMESPACE

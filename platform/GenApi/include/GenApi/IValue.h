@@ -2,6 +2,7 @@
 
 #include <GenApi/Container.h>
 #include <GenApi/IBase.h>
+#include <GenApi/INode.h>
 #include <GenApi/Types.h>
 
 namespace GENAPI_NAMESPACE {
@@ -13,15 +14,30 @@ namespace GENAPI_NAMESPACE {
     GenICam::GenericException. */
 struct ORV_GENAPI_EXPORT IValue : virtual public IBase
 {
-    virtual INode *GetNode() = 0;
+    virtual INode *GetNode() { return dynamic_cast<INode *>(this); }
     virtual GENICAM_NAMESPACE::gcstring ToString(bool Verify = false, bool IgnoreCache = false) = 0;
     virtual void FromString(const GENICAM_NAMESPACE::gcstring &ValueStr, bool Verify = true) = 0;
 
     /** Whether the next read is answered without asking the device. */
     virtual bool IsValueCacheValid() const = 0;
-
-protected:
-    ~IValue() = default;
 };
+
+template <typename T, typename I = T>
+class CValueRefT : public CBaseRefT<T, I>
+{
+public:
+    INode *GetNode() override { return this->referred().GetNode(); }
+    GENICAM_NAMESPACE::gcstring ToString(bool Verify = false, bool IgnoreCache = false) override
+    {
+        return this->referred().ToString(Verify, IgnoreCache);
+    }
+    void FromString(const GENICAM_NAMESPACE::gcstring &ValueStr, bool Verify = true) override
+    {
+        this->referred().FromString(ValueStr, Verify);
+    }
+    bool IsValueCacheValid() const override { return this->referred().IsValueCacheValid(); }
+};
+
+using CValueRef = CValueRefT<IValue>;
 
 } // namespace GENAPI_NAMESPACE

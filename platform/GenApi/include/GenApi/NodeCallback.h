@@ -10,8 +10,8 @@ class ORV_GENAPI_EXPORT CNodeCallback
 {
 public:
     CNodeCallback(INode *pNode, ECallbackType CallbackType)
-        : m_node(pNode)
-        , m_type(CallbackType)
+        : m_pNode(pNode)
+        , m_CallbackType(CallbackType)
     {
     }
     virtual ~CNodeCallback() = default;
@@ -22,11 +22,11 @@ public:
     virtual void operator()(ECallbackType CallbackType) const = 0;
     virtual void Destroy() = 0;
 
-    INode *GetNode() { return m_node; }
+    INode *GetNode() { return m_pNode; }
 
 protected:
-    INode *const m_node;
-    const ECallbackType m_type;
+    INode *m_pNode;
+    ECallbackType m_CallbackType;
 
 private:
     friend class CallbackList;
@@ -36,20 +36,20 @@ private:
 
 /** Calls a function with the node, unless the function is null: what is given can be asked for that, as pointers can.
  */
-template <typename Function>
-class FunctionNodeCallback : public CNodeCallback
+template <class Function>
+class Function_NodeCallback : public CNodeCallback
 {
 public:
-    FunctionNodeCallback(INode *pNode, const Function &Func, ECallbackType CallbackType)
+    Function_NodeCallback(INode *pNode, const Function &function, ECallbackType CallbackType)
         : CNodeCallback(pNode, CallbackType)
-        , m_function(Func)
+        , m_function(function)
     {
     }
 
     void operator()(ECallbackType CallbackType) const override
     {
-        if (m_function && CallbackType == m_type)
-            m_function(m_node);
+        if (m_function && CallbackType == m_CallbackType)
+            m_function(m_pNode);
     }
 
     void Destroy() override { delete this; }
@@ -59,49 +59,64 @@ private:
 };
 
 /** Calls a member function with the node; the client outlives the registration. */
-template <typename Client, typename Member>
-class MemberNodeCallback : public CNodeCallback
+template <class Client, class Member>
+class Member_NodeCallback : public CNodeCallback
 {
 public:
-    MemberNodeCallback(INode *pNode, Client *pClient, Member pMember, ECallbackType CallbackType)
+    using PMEMBERFUNC = void (Client::*)(INode *);
+
+    Member_NodeCallback(INode *pNode, Client &client, Member member, ECallbackType CallbackType)
         : CNodeCallback(pNode, CallbackType)
-        , m_client(pClient)
-        , m_member(pMember)
+        , m_client(client)
+        , m_member(member)
     {
     }
 
     void operator()(ECallbackType CallbackType) const override
     {
-        if (CallbackType == m_type)
-            (m_client->*m_member)(m_node);
+        if (m_member && CallbackType == m_CallbackType)
+            (m_client.*m_member)(m_pNode);
     }
 
     void Destroy() override { delete this; }
 
 private:
-    Client *const m_client;
-    const Member m_member;
+    Client &m_client;
+    const PMEMBERFUNC m_member;
 };
 
-/** Calls \a Func(INode *) on every change of \a pNode until the handle is deregistered. */
-template <typename Function>
-CallbackHandleType Register(INode *pNode, const Function &Func, ECallbackType CallbackType = cbPostInsideLock)
+/** Callbacks as INode::RegisterCallback() takes them. */
+template <class Function>
+CNodeCallback *make_NodeCallback(INode *pNode, Function function, ECallbackType CallbackType)
 {
-    return pNode->RegisterCallback(new FunctionNodeCallback<Function>(pNode, Func, CallbackType));
+    return new Function_NodeCallback<Function>(pNode, function, CallbackType);
 }
 
-/** Calls (client.*member)(INode *) on every change of \a pNode until the handle is deregistered. */
-template <typename Client, typename Member>
-CallbackHandleType Register(INode *pNode, Client &client, Member member, ECallbackType CallbackType = cbPostInsideLock)
+template <class Client, class Member>
+CNodeCallback *make_NodeCallback(INode *pNode, Client &client, Member member, ECallbackType CallbackType)
 {
-    return pNode->RegisterCallback(new MemberNodeCallback<Client, Member>(pNode, &client, member, CallbackType));
+    return new Member_NodeCallback<Client, Member>(pNode, client, member, CallbackType);
+}
+
+/** Calls \a f(INode *) on every change of \a pNode until the handle is deregistered. */
+template <class Function>
+CallbackHandleType Register(INode *pNode, Function f, ECallbackType CallbackType = cbPostInsideLock)
+{
+    return pNode->RegisterCallback(make_NodeCallback(pNode, f, CallbackType));
+}
+
+/** Calls (c.*m)(INode *) on every change of \a pNode until the handle is deregistered. */
+template <class Client, class Member>
+CallbackHandleType Register(INode *pNode, Client &c, Member m, ECallbackType CallbackType = cbPostInsideLock)
+{
+    return pNode->RegisterCallback(make_NodeCallback(pNode, c, m, CallbackType));
 }
 
 /** Ends a registration. */
-inline void Deregister(CallbackHandleType hCallback)
+inline void Deregister(CallbackHandleType pCallbackInfo)
 {
-    if (hCallback)
-        reinterpret_cast<CNodeCallback *>(hCallback)->GetNode()->DeregisterCallback(hCallback);
+    if (pCallbackInfo)
+        reinterpret_cast<CNodeCallback *>(pCallbackInfo)->GetNode()->DeregisterCallback(pCallbackInfo);
 }
 
 } // namespace GENAPI_NAMESPACE

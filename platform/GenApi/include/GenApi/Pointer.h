@@ -4,7 +4,9 @@
 #include <GenApi/IBase.h>
 #include <GenApi/IBoolean.h>
 #include <GenApi/ICategory.h>
+#include <GenApi/IChunkPort.h>
 #include <GenApi/ICommand.h>
+#include <GenApi/IDeviceInfo.h>
 #include <GenApi/IEnumEntry.h>
 #include <GenApi/IEnumeration.h>
 #include <GenApi/IFloat.h>
@@ -12,12 +14,16 @@
 #include <GenApi/INode.h>
 #include <GenApi/INodeMap.h>
 #include <GenApi/IPort.h>
+#include <GenApi/IPortConstruct.h>
+#include <GenApi/IPortRecorder.h>
 #include <GenApi/IRegister.h>
 #include <GenApi/ISelector.h>
 #include <GenApi/IString.h>
+#include <GenApi/IUserData.h>
 #include <GenApi/IValue.h>
 
 #include <cstddef>
+#include <type_traits>
 
 namespace GENAPI_NAMESPACE {
 
@@ -31,37 +37,46 @@ class CPointer
 public:
     CPointer() = default;
     CPointer(B *pB)
-        : m_pointer(dynamic_cast<T *>(pB))
+        : m_pT(dynamic_cast<T *>(pB))
     {
     }
 
     CPointer &operator=(B *pB)
     {
-        m_pointer = dynamic_cast<T *>(pB);
+        m_pT = dynamic_cast<T *>(pB);
         return *this;
     }
 
-    bool IsValid() const { return m_pointer != nullptr; }
+    bool IsValid() const { return m_pT != nullptr; }
     operator bool() const { return IsValid(); }
     bool operator!() const { return !IsValid(); }
 
     // Comparing is not using: it works with null ones.
-    bool operator==(const T *pointer) const { return m_pointer == pointer; }
-    bool operator==(const CPointer &other) const { return m_pointer == other.m_pointer; }
+    bool operator==(const T *pointer) const { return m_pT == pointer; }
+    bool operator==(const CPointer &other) const { return m_pT == other.m_pT; }
     bool operator==(std::nullptr_t) const { return !IsValid(); }
-    bool operator==(int null) const
+    bool operator==(int null) const { return *this == static_cast<long>(null); }
+    bool operator==(long null) const // NULL is one
     {
         if (null != 0)
             throw GENICAM_NAMESPACE::LogicalErrorException("a pointer is compared with a number", __FILE__, __LINE__);
         return !IsValid();
     }
-    bool operator!=(const T *pointer) const { return m_pointer != pointer; }
-    bool operator!=(const CPointer &other) const { return m_pointer != other.m_pointer; }
-    bool operator!=(std::nullptr_t) const { return IsValid(); }
-    friend bool operator==(const T *pointer, const CPointer &self) { return self == pointer; }
-    friend bool operator==(std::nullptr_t, const CPointer &self) { return !self.IsValid(); }
-    friend bool operator!=(const T *pointer, const CPointer &self) { return self != pointer; }
-    friend bool operator!=(std::nullptr_t, const CPointer &self) { return self.IsValid(); }
+    template <typename Other>
+    bool operator!=(const Other &other) const
+    {
+        return !(*this == other);
+    }
+    template <typename Other, typename = std::enable_if_t<!std::is_base_of_v<CPointer, Other>>>
+    friend bool operator==(const Other &other, const CPointer &self)
+    {
+        return self == other;
+    }
+    template <typename Other, typename = std::enable_if_t<!std::is_base_of_v<CPointer, Other>>>
+    friend bool operator!=(const Other &other, const CPointer &self)
+    {
+        return !(self == other);
+    }
 
     operator T *() const { return checked(); }
     T &operator()() const { return *checked(); }
@@ -71,13 +86,12 @@ public:
 protected:
     T *checked() const
     {
-        if (!m_pointer)
+        if (!m_pT)
             throw GENICAM_NAMESPACE::LogicalErrorException("NULL pointer dereferenced", __FILE__, __LINE__);
-        return m_pointer;
+        return m_pT;
     }
 
-private:
-    T *m_pointer = nullptr;
+    T *m_pT = nullptr;
 };
 
 using CBasePtr = CPointer<IBase>;
@@ -91,7 +105,15 @@ using CRegisterPtr = CPointer<IRegister>;
 using CEnumerationPtr = CPointer<IEnumeration>;
 using CEnumEntryPtr = CPointer<IEnumEntry>;
 using CPortPtr = CPointer<IPort>;
-
+using CPortReplayPtr = CPointer<IPortReplay>;
+using CPortRecorderPtr = CPointer<IPortRecorder>;
+using CPortWriteListPtr = CPointer<IPortWriteList, IPortWriteList>;
+using CPortConstructPtr = CPointer<IPortConstruct>;
+using CPortStackedConstructPtr = CPointer<IPortStackedConstruct>;
+using CChunkPortPtr = CPointer<IChunkPort>;
+using CNodeUserDataPtr = CPointer<IUserData>;
+using CNodeMapUserDataPtr = CPointer<IUserData, INodeMap>;
+using CDeviceInfoPtr = CPointer<IDeviceInfo, INodeMap>;
 using CCommandPtr = CPointer<ICommand>;
 using CSelectorPtr = CPointer<ISelector>;
 using CNodeMapPtr = CPointer<INodeMap, INodeMap>;

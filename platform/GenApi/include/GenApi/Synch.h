@@ -41,4 +41,30 @@ private:
     CLock &m_lock;
 };
 
+/** Base of a class \a Object whose methods hold its lock: Lock l(GetLock()). */
+template <class Object>
+class LockableObject
+{
+public:
+    class Lock
+    {
+    public:
+        explicit Lock(const LockableObject &object)
+            : m_lock(object.m_Lock)
+        {
+            m_lock.Lock();
+        }
+        Lock(const Lock &) = delete;
+        Lock &operator=(const Lock &) = delete;
+        ~Lock() { m_lock.Unlock(); }
+
+    private:
+        CLock &m_lock;
+    };
+
+    Lock GetLock() const { return Lock(*this); }
+
+    mutable CLock m_Lock;
+};
+
 } // namespace GENAPI_NAMESPACE

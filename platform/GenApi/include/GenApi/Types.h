@@ -75,6 +75,24 @@ enum ECallbackType {
     cbPostOutsideLock = 2 ///< after it was released
 };
 
+/** Whether a node map calls callbacks. */
+enum ECallbackSuppressMode {
+    csmOff = 0, ///< it does
+    csmActive = 1, ///< it does not; what is left out is not made up for
+    csmOnce = 2 ///< it leaves out those of the next change
+};
+
+/** How nodes hang on one another; what each means stands at INode::GetChildren(). */
+enum ELinkType {
+    ctParentNodes = 0,
+    ctReadingChildren = 1,
+    ctWritingChildren = 2,
+    ctInvalidatingChildren = 3,
+    ctDependingNodes = 4,
+    ctTerminalNodes = 5,
+    ctValueChangingChildren = 6
+};
+
 /** Names a registered node callback until it is deregistered. */
 using CallbackHandleType = intptr_t;
 
@@ -83,6 +101,21 @@ using StringList_t = GENICAM_NAMESPACE::gcstring_vector;
 /** Where a node's name is defined. */
 enum ENameSpace { Custom = 0, Standard = 1, _UndefinedNameSpace = 2 };
 
+/** The standard that a description's standard features follow. */
+enum EStandardNameSpace { None = 0, GEV = 1, IIDC = 2, CL = 3, USB = 4, _UndefinedStandardNameSpace = 5 };
+
 enum EYesNo { No = 0, Yes = 1, _UndefinedYesNo = 2 };
+
+enum ESign { Signed = 0, Unsigned = 1, _UndefinedSign = 2 };
+
+enum EEndianess { BigEndian = 0, LittleEndian = 1, _UndefinedEndian = 2 };
+
+/** How a converted value follows the one it is made from. */
+enum ESlope { Increasing = 0, Decreasing = 1, Varying = 2, Automatic = 3, _UndefinedESlope = 4 };
+
+/** The way a formula of a converter leads. */
+enum EInputDirection { idFrom = 0, idTo = 1, idNone = 2 };
+
+enum EGenApiSchemaVersion { v1_0 = 1, v1_1 = 2, _Undefined = -1 };
 
 } // namespace GENAPI_NAMESPACE
