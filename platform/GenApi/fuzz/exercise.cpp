@@ -127,11 +127,16 @@ void readRegister(IRegister *bytes)
 void readNode(INode *node)
 {
     FeatureList_t features;
+    NodeList_t linked;
     attemptAll([&] { node->GetAccessMode(); }, [&] { node->GetVisibility(); }, [&] { node->GetCachingMode(); },
                [&] { node->GetPollingTime(); }, [&] { node->GetName(true); }, [&] { node->GetDisplayName(); },
                [&] { node->GetToolTip(); }, [&] { node->GetDescription(); }, [&] { node->IsStreamable(); },
                [&] { node->IsFeature(); }, [&] { CSelectorPtr(node)->GetSelectedFeatures(features); },
                [&] { CSelectorPtr(node)->GetSelectingFeatures(features); });
+    GenICam::gcstring_vector names;
+    attemptAll([&] { node->GetPropertyNames(names); }, [&] { node->GetParents(linked); });
+    for (int kind = ctParentNodes; kind <= ctValueChangingChildren; ++kind)
+        attempt([&] { node->GetChildren(linked, static_cast<ELinkType>(kind)); });
     if (const auto value = dynamic_cast<IValue *>(node))
         attemptAll([&] { value->IsValueCacheValid(); }, [&] { value->ToString(); },
                    [&] { value->ToString(true, true); });

@@ -285,9 +285,10 @@ bool reads(const Node &parent, const Node &child)
 
 std::vector<Node *> Node::readers() const
 {
+    const uint64_t mark = ++m_map.m_walk;
     std::vector<Node *> nodes;
     for (Node *node : m_dependents) {
-        if (std::find(nodes.begin(), nodes.end(), node) == nodes.end() && reads(*node, *this))
+        if (std::exchange(node->m_changeMark, mark) != mark && reads(*node, *this))
             nodes.push_back(node);
     }
     return nodes;
