@@ -3,6 +3,7 @@
 
 #include <cutwidget.h>
 
+#include <OrvCameraGuiApi/camconfig/featuredialogs.h>
 #include <OrvCameraGuiApi/widgets/qtorvslider.h>
 #include <OrvCameraGuiApi/widgets/qtorvsliderspinbox.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinbox.h>
@@ -32,7 +33,8 @@ using OrvGui::OrvCamConfigTriggerDialog;
 
 namespace {
 
-using Check = void (*)();
+using OrvGui::FeatureDialog;
+using Check = void (*)(const FeatureDialog &feature);
 
 /** The layouts have caught up with what the device brought, and everything fits. */
 void checkNothingIsCut(QWidget &window)
@@ -42,27 +44,27 @@ void checkNothingIsCut(QWidget &window)
 }
 
 /** Enter commits and clicks nothing; the dialog tells once that it closes, whatever closes it. */
-template <typename Dialog>
-void checkKeysAndClosing()
+void checkKeysAndClosing(const FeatureDialog &feature)
 {
     const Camera camera;
-    Dialog dialog(camera.device());
-    QSignalSpy closing(&dialog, &Dialog::closing);
-    const auto buttons = dialog.template findChildren<QPushButton *>();
+    const std::unique_ptr<QDialog> dialog(feature.make(camera.device(), nullptr));
+    int closed = 0;
+    feature.onClosing(*dialog, dialog.get(), [&] { ++closed; });
+    const auto buttons = dialog->findChildren<QPushButton *>();
     for (const QPushButton *const button : buttons)
         QVERIFY2(!button->isDefault() && !button->autoDefault(), qPrintable(button->objectName()));
-    const std::function<void()> ways[] = {[&] { QTest::keyClick(&dialog, Qt::Key_Escape); }, [&] { dialog.close(); },
-                                          [&] {
-                                              dialog.SetDevice(nullptr); // a camera that goes does not hold it open
-                                              QTest::keyClick(&dialog, Qt::Key_Escape);
-                                          }};
-    int closed = 0;
+    const std::function<void()> ways[] = {
+        [&] { QTest::keyClick(dialog.get(), Qt::Key_Escape); }, [&] { dialog->close(); },
+        [&] {
+            feature.setDevice(*dialog, nullptr); // a camera that goes does not hold it open
+            QTest::keyClick(dialog.get(), Qt::Key_Escape);
+        }};
     for (const auto &way : ways) {
-        QVERIFY(show(dialog));
-        QCOMPARE(closing.size(), closed);
+        closed = 0;
+        QVERIFY(show(*dialog));
         way();
-        QVERIFY(dialog.isHidden());
-        QCOMPARE(closing.size(), ++closed);
+        QVERIFY(dialog->isHidden());
+        QCOMPARE(closed, 1);
     }
 }
 
@@ -70,51 +72,49 @@ void checkKeysAndClosing()
  * However often the device changes, what is registered at cameras is what one device needs, and in the end nothing. A
  * device without parameters, or with an error beside them, is none.
  */
-template <typename Dialog>
-void checkDevicesInTurn()
+void checkDevicesInTurn(const FeatureDialog &feature)
 {
     {
         const Camera camera;
-        Dialog dialog(camera.device());
+        const std::unique_ptr<QDialog> dialog(feature.make(camera.device(), nullptr));
         const std::size_t sinks = OrvSim::liveObjects().sinks;
         QVERIFY(sinks > 0);
-        QVERIFY(dialog.SetDevice(camera.device()));
+        QVERIFY(feature.setDevice(*dialog, camera.device()));
         QCOMPARE(OrvSim::liveObjects().sinks, sinks);
         for (int i = 0; i < 10; ++i) {
             const Camera other(i % 2 ? SimTest::twoFrame : SimTest::monochrome);
-            QVERIFY(dialog.SetDevice(other.device()));
+            QVERIFY(feature.setDevice(*dialog, other.device()));
             QVERIFY(i % 2 == 0 || OrvSim::liveObjects().sinks == sinks);
-            QVERIFY(dialog.SetDevice(camera.device())); // before the other one goes
+            QVERIFY(feature.setDevice(*dialog, camera.device())); // before the other one goes
         }
         QCOMPARE(OrvSim::liveObjects().sinks, sinks);
         for (const auto answer :
              {OrvSim::Parameters::Null, OrvSim::Parameters::Error, OrvSim::Parameters::ArrayWithError}) {
             OrvSim::setParameters(SimTest::twoFrame, answer);
-            QVERIFY(!dialog.SetDevice(camera.device()));
+            QVERIFY(!feature.setDevice(*dialog, camera.device()));
             QCOMPARE(OrvSim::liveObjects().sinks, std::size_t(0));
         }
         OrvSim::setParameters(SimTest::twoFrame, OrvSim::Parameters::Normal);
-        QVERIFY(dialog.SetDevice(camera.device()));
+        QVERIFY(feature.setDevice(*dialog, camera.device()));
     }
     QCOMPARE(OrvSim::liveObjects().sinks, std::size_t(0));
 }
 
 /** On the camera without features, without a camera and on the full one everything fits and only the last is used. */
-template <typename Dialog>
-void checkCameras()
+void checkCameras(const FeatureDialog &feature)
 {
     const Camera bare(plugInBareCamera());
     const Camera monochrome(SimTest::monochrome);
     const Camera full;
-    Dialog dialog(nullptr);
-    const bool hasDialogState = !dialog.isEnabled(); // others have but controls that cannot be used
+    const std::unique_ptr<QDialog> dialog(feature.make(nullptr, nullptr));
+    const bool hasDialogState = !dialog->isEnabled(); // others have but controls that cannot be used
     for (OrvCam::Device *const device :
          {static_cast<OrvCam::Device *>(nullptr), full.device(), bare.device(), monochrome.device(), full.device()}) {
-        QCOMPARE(dialog.SetDevice(device), device != nullptr);
-        QCOMPARE(dialog.isEnabled(), device || !hasDialogState);
-        checkNothingIsCut(dialog);
+        QCOMPARE(feature.setDevice(*dialog, device), device != nullptr);
+        QCOMPARE(dialog->isEnabled(), device || !hasDialogState);
+        checkNothingIsCut(*dialog);
         int usable = 0;
-        const auto widgets = dialog.template findChildren<QWidget *>();
+        const auto widgets = dialog->findChildren<QWidget *>();
         for (QWidget *const widget : widgets) {
             const bool isControl = widget->inherits("QComboBox") || widget->inherits("QCheckBox")
                 || widget->inherits("QtOrvSpinBox") || widget->inherits("QtOrvSliderSpinBox")
@@ -129,13 +129,12 @@ void checkCameras()
 }
 
 /** A camera goes while all controls are being edited: nothing is written or told, and it comes back as it was. */
-template <typename Dialog>
-void checkCameraThatGoes()
+void checkCameraThatGoes(const FeatureDialog &feature)
 {
     const Camera camera;
-    Dialog dialog(camera.device());
-    QVERIFY(show(dialog));
-    const auto widgets = dialog.template findChildren<QWidget *>();
+    const std::unique_ptr<QDialog> dialog(feature.make(camera.device(), nullptr));
+    QVERIFY(show(*dialog));
+    const auto widgets = dialog->findChildren<QWidget *>();
     const auto shown = [&] {
         QStringList all;
         for (QWidget *const widget : widgets) {
@@ -145,14 +144,14 @@ void checkCameraThatGoes()
         return all;
     };
     const QStringList before = shown();
-    dialog.SetDevice(nullptr); // of whose numbers and choices nothing is left
+    feature.setDevice(*dialog, nullptr); // of whose numbers and choices nothing is left
     for (QWidget *const widget : widgets) {
         const auto *const field = qobject_cast<QAbstractSpinBox *>(widget);
         QVERIFY(!field || (field->text().isEmpty() && !field->isEnabled()));
         QVERIFY(!widget->inherits("QComboBox") || shownBy(widget).isEmpty());
         QVERIFY(!widget->inherits("QGroupBox") || !widget->isEnabled());
     }
-    QVERIFY(dialog.SetDevice(camera.device()));
+    QVERIFY(feature.setDevice(*dialog, camera.device()));
     QCOMPARE(shown(), before);
     camera.takeWrites();
     QVERIFY(OrvSim::unplug(SimTest::twoFrame));
@@ -166,9 +165,9 @@ void checkCameraThatGoes()
     }
     QVERIFY(!shownMessage());
     QCOMPARE(camera.takeWrites(), 0);
-    QVERIFY(!dialog.SetDevice(nullptr));
+    QVERIFY(!feature.setDevice(*dialog, nullptr));
     QVERIFY(OrvSim::replug(SimTest::twoFrame));
-    QVERIFY(dialog.SetDevice(camera.device()));
+    QVERIFY(feature.setDevice(*dialog, camera.device()));
     QCOMPARE(shown(), before);
 }
 
@@ -229,7 +228,7 @@ QString strobePicture(const QWidget &dialog)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Check)
+Q_DECLARE_METATYPE(const FeatureDialog *)
 
 class FeatureDialogsTest : public OrvTest::TestCase
 {
@@ -321,26 +320,17 @@ void FeatureDialogsTest::bindsBothWays()
 
 void FeatureDialogsTest::keepsTheRules_data()
 {
-    QTest::addColumn<QVector<Check>>("checks");
-    const auto addRow = [](const char *name, auto *dialog) {
-        using Dialog = std::remove_pointer_t<decltype(dialog)>;
-        QTest::newRow(name) << QVector<Check>{checkKeysAndClosing<Dialog>, checkDevicesInTurn<Dialog>,
-                                              checkCameras<Dialog>, checkCameraThatGoes<Dialog>};
-    };
-    addRow("Color", static_cast<OrvCamConfigColorDialog *>(nullptr));
-    addRow("Frame A/B", static_cast<OrvCamConfigFrameABDialog *>(nullptr));
-    addRow("Data Out", static_cast<OrvCamConfigOutputDialog *>(nullptr));
-    addRow("Pulse", static_cast<OrvCamConfigPulseDialog *>(nullptr));
-    addRow("Strobe", static_cast<OrvCamConfigStrobeDialog *>(nullptr));
-    addRow("Trigger", static_cast<OrvCamConfigTriggerDialog *>(nullptr));
+    QTest::addColumn<const FeatureDialog *>("feature");
+    for (const FeatureDialog &feature : OrvGui::featureDialogs())
+        QTest::newRow(feature.kind) << &feature;
 }
 
 void FeatureDialogsTest::keepsTheRules()
 {
-    QFETCH(QVector<Check>, checks);
-    for (const Check check : qAsConst(checks)) {
+    QFETCH(const FeatureDialog *, feature);
+    for (const Check check : {checkKeysAndClosing, checkDevicesInTurn, checkCameras, checkCameraThatGoes}) {
         OrvSim::reset();
-        check();
+        check(*feature);
     }
 }
 

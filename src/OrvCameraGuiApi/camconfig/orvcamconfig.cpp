@@ -1,12 +1,7 @@
 #include <OrvCameraGuiApi/camconfig/orvcamconfig.h>
 
 #include <OrvCameraGuiApi/camconfig/dialogs/dialogparts.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigcolordialog.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigframeabdialog.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigoutputdialog.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigpulsedialog.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigstrobedialog.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigtriggerdialog.h>
+#include <OrvCameraGuiApi/camconfig/featuredialogs.h>
 #include <OrvCameraGuiApi/camconfig/orvcamconfigaboutdialog.h>
 #include <OrvCameraGuiApi/camconfig/orvcamconfigprivate.h>
 #include <OrvCameraGuiApi/device_selection/devicetreemodel.h>
@@ -14,11 +9,14 @@
 #include <OrvCameraGuiApi/windows/fitscreen.h>
 #include <OrvCameraGuiApi/windows/plaintooltip.h>
 
+#include <QAction>
 #include <QEvent>
 #include <QLabel>
+#include <QPushButton>
 #include <QScreen>
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 #include <utility>
 
@@ -112,9 +110,7 @@ void OrvCamConfigPrivate::build()
     ui.lblTemperature->setText(QStringLiteral("%1C").arg(QChar(0x00B0)));
     createDialogs();
     connectActions();
-    adjustViewMenuActions();
     buildStatusBar();
-    initButtons();
     QObject::connect(&timer, &QTimer::timeout, q, [this] { step(); });
 }
 
@@ -154,43 +150,45 @@ void OrvCamConfigPrivate::makeRoomFor(const QString &message)
     ui.statusbar->setMinimumWidth(std::min(metrics.horizontalAdvance(message) + beside, widest));
 }
 
-template <typename Dialog>
-void OrvCamConfigPrivate::addDialog(QPushButton *button, QAction *action)
-{
-    auto *const dialog = new Dialog(nullptr, q);
-    QObject::connect(dialog, &Dialog::closing, button, [button] { button->setChecked(false); });
-    dialogs.append({dialog, button, action, [dialog](OrvCam::Device *shown) { dialog->SetDevice(shown); }});
-}
-
+/** The buttons come before the fields when Tab is pressed. */
 void OrvCamConfigPrivate::createDialogs()
 {
-    addDialog<OrvCamConfigFrameABDialog>(ui.pushBtnFrameAB, ui.actionFrame_A_B);
-    addDialog<OrvCamConfigTriggerDialog>(ui.pushBtnTrigger, ui.actionTrigger);
-    addDialog<OrvCamConfigPulseDialog>(ui.pushBtnPulse, ui.actionPulse);
-    addDialog<OrvCamConfigStrobeDialog>(ui.pushBtnStrobe, ui.actionStrobe);
-    addDialog<OrvCamConfigOutputDialog>(ui.pushBtnDataOut, ui.actionData_Out);
-    addDialog<OrvCamConfigColorDialog>(ui.pushBtnColor, ui.actionColor);
-}
-
-void OrvCamConfigPrivate::initButtons()
-{
-    for (const DialogLink &link : qAsConst(dialogs)) {
-        QDialog *const dialog = link.dialog;
-        QObject::connect(link.button, &QPushButton::toggled, dialog, [dialog](bool checked) {
-            if (checked)
-                dialog->show();
-            else if (!dialog->isHidden())
-                dialog->close();
-        });
-        new VisibilityWatch(dialog, [this] { checkViewMenu(); });
+    QWidget *before = ui.lineEditSizeFrameA->previousInFocusChain();
+    for (const FeatureDialog &feature : featureDialogs()) {
+        addDialog(feature);
+        connectDialog(dialogs.constLast());
+        QWidget::setTabOrder(before, dialogs.constLast().button);
+        before = dialogs.constLast().button;
     }
 }
 
-/** An action closes its dialog by its button. */
-void OrvCamConfigPrivate::adjustViewMenuActions()
+void OrvCamConfigPrivate::addDialog(const FeatureDialog &feature)
 {
-    for (const DialogLink &link : qAsConst(dialogs))
-        QObject::connect(link.action, &QAction::toggled, link.button, &QPushButton::setChecked);
+    const QString title = QCoreApplication::translate("OrvCamConfigMainWindow", feature.title);
+    auto *const button = new QPushButton(QIcon(QLatin1String(feature.icon)), title, ui.centralwidget);
+    button->setObjectName(QLatin1String(feature.button));
+    button->setCheckable(true);
+    auto *const action = new QAction(title, q);
+    action->setObjectName(QLatin1String(feature.action));
+    action->setCheckable(true);
+    ui.menuView->addAction(action);
+    dialogs.append({&feature, feature.make(nullptr, q), button, action, !feature.neededFeature});
+}
+
+/** The action sets the button, the button shows or closes the dialog, and both follow the dialog. */
+void OrvCamConfigPrivate::connectDialog(const DialogLink &link)
+{
+    QDialog *const dialog = link.dialog;
+    QPushButton *const button = link.button;
+    QObject::connect(link.action, &QAction::toggled, button, &QPushButton::setChecked);
+    QObject::connect(button, &QPushButton::toggled, dialog, [dialog](bool checked) {
+        if (checked)
+            dialog->show();
+        else if (!dialog->isHidden())
+            dialog->close();
+    });
+    link.feature->onClosing(*dialog, button, [button] { button->setChecked(false); });
+    new VisibilityWatch(dialog, [this] { checkViewMenu(); });
 }
 
 /**
@@ -303,6 +301,8 @@ void OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
 void OrvCamConfigPrivate::getNeededParams()
 {
     params = CameraParams(*camera.parameters());
+    for (DialogLink &link : dialogs)
+        link.isOffered = !link.feature->neededFeature || camera.enumeration(link.feature->neededFeature);
     hasFrameAB = params.frameAbSelector;
     frameMode = FrameAOnly;
     modeChanged = false;
@@ -358,7 +358,7 @@ void OrvCamConfigPrivate::onDisconnectAction()
 void OrvCamConfigPrivate::setDialogsDevice(OrvCam::Device *dialogsDevice)
 {
     for (const DialogLink &link : qAsConst(dialogs))
-        link.setDevice(dialogsDevice);
+        link.feature->setDevice(*link.dialog, dialogsDevice);
 }
 
 OrvCamConfig::OrvCamConfig(OrvCam::Device *device, QWidget *parent, Qt::WindowFlags flags)

@@ -11,7 +11,7 @@ namespace OrvGui {
 class OrvCamConfigPrivate;
 
 /**
- * The configuration window of a camera: what it does at present, and the way to the six feature dialogs.
+ * The configuration window of a camera: what it does at present, and the way to the feature dialogs.
  *
  * Size, frame rate, frame time, exposure time and temperature are read once a second. Cameras with two frame settings
  * have a column for each; to show both while both are in use, the window selects the other frame for the moment of

@@ -6,8 +6,10 @@
 #include <OrvCameraGuiApi/widgets/entryguard.h>
 
 #include <QAbstractSpinBox>
+#include <QAction>
 #include <QDialog>
 #include <QLabel>
+#include <QPushButton>
 
 #include <algorithm>
 #include <utility>
@@ -272,24 +274,24 @@ void OrvCamConfigPrivate::isShowFrameABStuff(bool show)
         fieldsB[i]->setVisible(show);
     }
     ui.lblFrameB->setVisible(show);
-    ui.actionFrame_A_B->setVisible(show);
-    ui.pushBtnFrameAB->setVisible(show);
-    if (!show)
-        ui.pushBtnFrameAB->setChecked(false);
-    layOutButtons(show);
+    offerDialogs();
 }
 
-/** In rows of three, without a gap where one is hidden. */
-void OrvCamConfigPrivate::layOutButtons(bool withFrameAB)
+/** The buttons stand in rows of three, without a gap where one is hidden. */
+void OrvCamConfigPrivate::offerDialogs()
 {
     constexpr int columns = 3;
     int place = 0;
     for (const DialogLink &link : qAsConst(dialogs)) {
+        link.action->setVisible(link.isOffered);
+        link.button->setVisible(link.isOffered);
         ui.buttonLayout->removeWidget(link.button);
-        if (link.button == ui.pushBtnFrameAB && !withFrameAB)
-            continue;
-        ui.buttonLayout->addWidget(link.button, place / columns, place % columns);
-        ++place;
+        if (link.isOffered) {
+            ui.buttonLayout->addWidget(link.button, place / columns, place % columns);
+            ++place;
+        } else {
+            link.button->setChecked(false);
+        }
     }
 }
 

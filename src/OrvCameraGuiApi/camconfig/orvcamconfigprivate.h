@@ -14,15 +14,27 @@
 
 #include <array>
 #include <atomic>
-#include <functional>
 
 class QDialog;
 class QLabel;
+class QPushButton;
 
 namespace OrvGui {
 
 class OrvCamConfigAboutDialog;
 class OrvCameraSelectorDialog;
+
+struct FeatureDialog;
+
+/** A feature dialog and what opens and closes it. */
+struct DialogLink
+{
+    const FeatureDialog *feature;
+    QDialog *dialog;
+    QPushButton *button;
+    QAction *action;
+    bool isOffered; ///< the camera, or the last one, has what the dialog needs
+};
 
 /** By which a device is found again in another enumeration; both empty for none. */
 struct DeviceIdentity
@@ -60,10 +72,8 @@ public:
     void buildStatusBar();
     void makeRoomFor(const QString &message);
     void createDialogs();
-    template <typename Dialog>
-    void addDialog(QPushButton *button, QAction *action);
-    void initButtons();
-    void adjustViewMenuActions();
+    void addDialog(const FeatureDialog &feature);
+    void connectDialog(const DialogLink &link);
     /** @} */
 
     /** \name The camera @{ */
@@ -103,7 +113,7 @@ public:
     void clearInfo(Frame frame);
     void clearStatus();
     void isShowFrameABStuff(bool show);
-    void layOutButtons(bool withFrameAB);
+    void offerDialogs();
     void doLastAdjustment();
     void checkViewMenu();
     void closeDialogs();
@@ -119,15 +129,6 @@ public:
         QLineEdit *exposureTime;
 
         std::array<QLineEdit *, 4> all() const { return {size, framesPerSecond, frameTime, exposureTime}; }
-    };
-
-    /** A feature dialog and what opens and closes it. */
-    struct DialogLink
-    {
-        QDialog *dialog;
-        QPushButton *button;
-        QAction *action;
-        std::function<void(OrvCam::Device *)> setDevice;
     };
 
     OrvCamConfig *const q;

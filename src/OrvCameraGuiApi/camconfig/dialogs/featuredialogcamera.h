@@ -19,19 +19,10 @@ namespace OrvGui {
 
 /**
  * What a feature dialog has to do with its camera: the device, its parameters, the mapper and the sinks of the dialog's
- * own. A member of the dialog's private part; lets the device go when it is destroyed.
+ * own. Lets the device go when it is destroyed.
  *
  * A device belongs to its caller and outlives its use here: the dialog is given another one, or none, before the device
  * is released.
- *
- *     bool OrvCamConfigXDialogPrivate::init(OrvCam::Device *device)
- *     {
- *         if (!isBuilt)
- *             build(); // the form, then camera.setUpDialog(q)
- *         if (!camera.setDevice(device, q))
- *             return false;
- *         camera.mapper.mapEnumParam(camera.enumeration("TriggerSource"), ui.cmBoxSource);
- *         ...
  */
 class FeatureDialogCamera
 {
@@ -51,6 +42,9 @@ public:
      * controls must have no connections but those made by the mapper or with context().
      */
     bool setDevice(OrvCam::Device *device, QDialog *dialog);
+
+    /** Unbinds and unregisters all there is; there is no device then. */
+    void letGo();
 
     /** Null unless there are parameters. */
     OrvCam::Device *device() const { return m_device; }
@@ -96,7 +90,6 @@ private:
 
     static void clearControls(QDialog *dialog);
     static void showNumbers(QDialog *dialog, bool isShown);
-    void letGo();
     void pollWhileShown(bool isShown);
 
     OrvCam::Device *m_device = nullptr;

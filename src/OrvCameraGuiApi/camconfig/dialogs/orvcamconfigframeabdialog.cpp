@@ -2,8 +2,9 @@
 
 #include <OrvCameraGuiApi/camconfig/controlwatch.h>
 #include <OrvCameraGuiApi/camconfig/dialogs/dialogparts.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/featuredialogcamera.h>
+#include <OrvCameraGuiApi/camconfig/dialogs/featuredialogprivate.h>
 #include <OrvCameraGuiApi/camconfig/dialogs/framearithmetic.h>
+#include <OrvCameraGuiApi/camconfig/showfeaturedialog.h>
 #include <OrvCameraGuiApi/widgets/entryguard.h>
 #include <OrvCameraGuiApi/widgets/numbertext.h>
 #include <OrvCameraGuiApi/widgets/qtorvdoubleslider.h>
@@ -139,18 +140,17 @@ namespace OrvGui {
 
 using namespace FrameArithmetic;
 
-class OrvCamConfigFrameABDialogPrivate : public IOrvCamConfigIntConverter, public OrvGenParam::ParamEventSink
+class OrvCamConfigFrameABDialogPrivate
+    : public IOrvCamConfigIntConverter,
+      public FeatureDialogPrivate<OrvCamConfigFrameABDialog, Ui_OrvCamConfigFrameABDialog>
 {
 public:
-    explicit OrvCamConfigFrameABDialogPrivate(OrvCamConfigFrameABDialog *dialog)
-        : q(dialog)
-    {
-    }
-    Q_DISABLE_COPY(OrvCamConfigFrameABDialogPrivate)
+    using FeatureDialogPrivate::FeatureDialogPrivate;
+    ~OrvCamConfigFrameABDialogPrivate() override { camera.letGo(); }
 
-    bool init(OrvCam::Device *device);
-    bool setDevice(OrvCam::Device *device);
-    void build();
+    void build() override;
+    bool setDevice(OrvCam::Device *device) override;
+    void bind(bool hasParameters) override;
     void buildExposureTime();
     void buildGain();
     void setCaptions();
@@ -193,20 +193,16 @@ public:
 
     std::int64_t ToControl(std::int64_t deviceValue, OrvGenParam::Int *param) override;
     std::int64_t ToDevice(std::int64_t controlValue, OrvGenParam::Int *param) override;
-    void OnParameterUpdate(OrvGenParam::Param *param) override;
+    void report(OrvGenParam::Param *param) override;
 
-    OrvCamConfigFrameABDialog *const q;
-    Ui_OrvCamConfigFrameABDialog ui;
     std::pair<QString, QString> pageTitles;
     StepWatch gainSteps;
-    bool isBuilt = false;
     bool isExposureKnown = true; ///< lines and clocks could be read
     bool isGainKnown = true; ///< both parts could be read, as far as the camera has them
     bool isShowing = false; ///< exposure time and gain follow the camera, and are not the user's
     int session = 0; ///< counts the cameras
     Cached values;
     mutable std::mutex mutex; ///< of the values; never held while a control or the camera is called
-    FeatureDialogCamera camera; ///< the last member: lets go before the others are gone
 };
 
 /** Tells, whatever was called meanwhile, whether the dialog still is there and shows the same camera. */
@@ -215,12 +211,8 @@ auto OrvCamConfigFrameABDialogPrivate::sameCamera() const
     return [this, dialog = QPointer<QDialog>(q), current = session] { return dialog && session == current; };
 }
 
-bool OrvCamConfigFrameABDialogPrivate::init(OrvCam::Device *device)
+void OrvCamConfigFrameABDialogPrivate::bind(bool)
 {
-    if (!isBuilt)
-        build();
-    ++session;
-    const bool hasParameters = setDevice(device);
     reset();
     getNeededParams();
     initComboBoxes();
@@ -235,19 +227,17 @@ bool OrvCamConfigFrameABDialogPrivate::init(OrvCam::Device *device)
     onFrameModeChanged();
     if (isSame())
         updateExposureTime();
-    return hasParameters;
 }
 
 bool OrvCamConfigFrameABDialogPrivate::setDevice(OrvCam::Device *device)
 {
+    ++session;
     const QScopedValueRollback<bool> guard(isShowing, true);
-    return camera.setDevice(device, q);
+    return FeatureDialogPrivate::setDevice(device);
 }
 
 void OrvCamConfigFrameABDialogPrivate::build()
 {
-    ui.setupUi(q);
-    camera.setUpDialog(q);
     setCaptions();
     const auto radioButtons = q->findChildren<QRadioButton *>();
     for (QRadioButton *const button : radioButtons)
@@ -261,7 +251,6 @@ void OrvCamConfigFrameABDialogPrivate::build()
         if (qstrcmp(param->GetName(), selectorFeature) == 0)
             enablePages(); // the mapper enables them by their entries alone
     });
-    isBuilt = true;
 }
 
 /** Not bound to one feature, but it takes entries as the mapper's controls do. */
@@ -751,9 +740,9 @@ std::int64_t OrvCamConfigFrameABDialogPrivate::ToDevice(std::int64_t controlValu
     return clock.lineTime == 0 ? 0 : fitted(linesOfMicroseconds(controlValue, clock), param);
 }
 
-void OrvCamConfigFrameABDialogPrivate::OnParameterUpdate(OrvGenParam::Param *param)
+void OrvCamConfigFrameABDialogPrivate::report(OrvGenParam::Param *param)
 {
-    if (camera.isForGuiThread(param, this) || !camera.parameters())
+    if (!camera.parameters())
         return;
     const QLatin1String name(param->GetName());
     auto *const number =
@@ -790,9 +779,7 @@ bool OrvCamConfigFrameABDialog::SetDevice(OrvCam::Device *device)
 
 void OrvCamConfigFrameABDialog::showEvent(QShowEvent *event)
 {
-    const auto spinBoxes = findChildren<QtOrvSpinBox *>();
-    for (QtOrvSpinBox *const spinBox : spinBoxes)
-        OrvCamConfigMapper::resizeVerticalSlider(spinBox);
+    d->fitSliders();
     QDialog::showEvent(event);
 }
 
@@ -803,3 +790,8 @@ void OrvCamConfigFrameABDialog::closeEvent(QCloseEvent *event)
 }
 
 } // namespace OrvGui
+
+void ShowFrameABDialog(OrvCam::Device *device, std::uint64_t parentWindowId)
+{
+    OrvGui::showFeatureDialog("color", device, parentWindowId); // not Frame A/B, intentionally
+}

@@ -1,7 +1,8 @@
 #include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigpulsedialog.h>
 
 #include <OrvCameraGuiApi/camconfig/dialogs/dialogparts.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/featuredialogcamera.h>
+#include <OrvCameraGuiApi/camconfig/dialogs/featuredialogprivate.h>
+#include <OrvCameraGuiApi/camconfig/showfeaturedialog.h>
 #include <OrvCameraGuiApi/widgets/qtorvslider.h>
 
 #include "ui_orvcamconfigpulsedialog.h"
@@ -66,18 +67,15 @@ QString frequencyText(double hertz)
 
 namespace OrvGui {
 
-class OrvCamConfigPulseDialogPrivate : public OrvGenParam::ParamEventSink
+class OrvCamConfigPulseDialogPrivate : public FeatureDialogPrivate<OrvCamConfigPulseDialog, Ui_OrvCamConfigPulseDialog>
 {
 public:
-    explicit OrvCamConfigPulseDialogPrivate(OrvCamConfigPulseDialog *dialog)
-        : q(dialog)
-    {
-    }
-    Q_DISABLE_COPY(OrvCamConfigPulseDialogPrivate)
+    using FeatureDialogPrivate::FeatureDialogPrivate;
+    ~OrvCamConfigPulseDialogPrivate() override { camera.letGo(); }
 
-    bool init(OrvCam::Device *device);
-    void build();
-    void bind();
+    void build() override;
+    void bind(bool hasParameters) override;
+    void bindControls();
     void connectControls();
     void makeRoomForUnits();
     void updateGranularity();
@@ -85,37 +83,26 @@ public:
     void setButtonState(bool on);
     void showNothing();
     void fixMaximumSize();
-    void OnParameterUpdate(OrvGenParam::Param *param) override;
+    void report(OrvGenParam::Param *param) override;
 
-    OrvCamConfigPulseDialog *const q;
-    Ui_OrvCamConfigPulseDialog ui;
     QButtonGroup modes;
-    bool isBuilt = false;
     std::array<std::pair<QLabel *, QString>, 3> times; ///< each with its text, in which the unit is left open
     Granularity granularity;
-    FeatureDialogCamera camera; ///< the last member: lets go before the others are gone
 };
 
-bool OrvCamConfigPulseDialogPrivate::init(OrvCam::Device *device)
+void OrvCamConfigPulseDialogPrivate::bind(bool hasParameters)
 {
-    if (!isBuilt)
-        build();
-    if (!camera.setDevice(device, q)) {
-        showNothing();
-        return false;
-    }
-    bind();
+    if (!hasParameters)
+        return showNothing();
+    bindControls();
     connectControls();
     makeRoomForUnits();
     updateGranularity();
     setButtonState(ui.pushBtnPulseEnable->isChecked());
-    return true;
 }
 
 void OrvCamConfigPulseDialogPrivate::build()
 {
-    ui.setupUi(q);
-    camera.setUpDialog(q);
     times = {
         {{ui.lblWidth, ui.lblWidth->text()}, {ui.lblPeriod, ui.lblPeriod->text()}, {ui.lblDelay, ui.lblDelay->text()}}};
     for (QtOrvSpinBox *const spinBox : {ui.spBoxPeriod, ui.spBoxWidth, ui.spBoxNumPulses})
@@ -130,10 +117,9 @@ void OrvCamConfigPulseDialogPrivate::build()
     makeRoomForUnits();
     updateGranularity();
     setButtonState(false);
-    isBuilt = true;
 }
 
-void OrvCamConfigPulseDialogPrivate::bind()
+void OrvCamConfigPulseDialogPrivate::bindControls()
 {
     OrvCamConfigMapper &mapper = camera.mapper;
     mapper.mapEnumParam(camera.enumeration(granularityFeature), ui.cmBoxGranularity);
@@ -214,10 +200,9 @@ void OrvCamConfigPulseDialogPrivate::fixMaximumSize()
     q->setMaximumSize(q->size().expandedTo(q->sizeHint()));
 }
 
-void OrvCamConfigPulseDialogPrivate::OnParameterUpdate(OrvGenParam::Param *param)
+void OrvCamConfigPulseDialogPrivate::report(OrvGenParam::Param *)
 {
-    if (!camera.isForGuiThread(param, this))
-        updateGranularity();
+    updateGranularity();
 }
 
 void OrvCamConfigPulseDialogPrivate::setButtonState(bool on)
@@ -248,8 +233,7 @@ bool OrvCamConfigPulseDialog::SetDevice(OrvCam::Device *device)
 
 void OrvCamConfigPulseDialog::showEvent(QShowEvent *event)
 {
-    for (QtOrvSpinBox *const spinBox : {d->ui.spBoxPeriod, d->ui.spBoxWidth, d->ui.spBoxNumPulses})
-        OrvCamConfigMapper::resizeHorizontalSlider(spinBox);
+    d->fitSliders();
     d->fixMaximumSize();
     QDialog::showEvent(event);
 }
@@ -261,3 +245,8 @@ void OrvCamConfigPulseDialog::closeEvent(QCloseEvent *event)
 }
 
 } // namespace OrvGui
+
+void ShowPulseDialog(OrvCam::Device *device, std::uint64_t parentWindowId)
+{
+    OrvGui::showFeatureDialog("pulse", device, parentWindowId);
+}
