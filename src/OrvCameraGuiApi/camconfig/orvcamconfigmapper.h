@@ -8,7 +8,6 @@
 #include <QHash>
 #include <QObject>
 #include <QPointer>
-#include <QSharedPointer>
 #include <QString>
 #include <QVector>
 #include <QWidget>
@@ -32,6 +31,9 @@ class QtOrvSliderSpinBox;
 class QtOrvSpinBox;
 
 namespace OrvGui {
+
+class ControlBinding;
+struct ControlEntry;
 
 /** One widget, or one group of radio buttons, that a feature is bound to. */
 struct OrvCamConfigMapData
@@ -197,44 +199,30 @@ public:
 
 private:
     class RefreshGuard;
-    struct Entry;
-    struct IntView;
-    using Records = QVector<OrvCamConfigMapData>;
+    using Binding = std::shared_ptr<ControlBinding>;
+    using Bindings = QVector<Binding>;
 
-    bool prepare(OrvGenParam::Param *param, const OrvCamConfigMapData &record);
-    QObject *newContext(const OrvCamConfigMapData &record);
+    Binding prepare(OrvGenParam::Param *param, const OrvCamConfigMapData &record);
+    int bind(OrvGenParam::Param *param, const OrvCamConfigMapData &record);
+    Binding bindingOf(OrvGenParam::Param *param, const OrvCamConfigMapData &record) const;
+    void endEntries(const QObject *control);
+    void unmap(Binding binding);
     void watch(OrvGenParam::Param *param, QWidget *control);
     void registerAt(OrvGenParam::Param *param);
-    template <typename Composite>
-    int bindNumber(OrvGenParam::Int *param, Composite *composite, const OrvCamConfigMapData &record);
-    template <typename Param>
-    int mapButton(Param *param, QAbstractButton *button, std::int32_t type);
 
     bool isBarred() const;
-    void enter(const Entry &entry);
-    void dropWhileRefreshing(const Entry &entry);
+    void enter(const ControlEntry &entry);
+    void dropWhileRefreshing(const ControlEntry &entry);
     void settle();
     void takeBack(OrvGenParam::Param *param, QWidget *control);
     void mark(OrvGenParam::Param *param, QWidget *control);
-    QString cameraText(OrvGenParam::Param *param, const QWidget *control) const;
 
     bool show(OrvGenParam::Param *param);
     void refresh(OrvGenParam::Param *param, const OrvCamConfigMapData &record);
-    template <typename Param>
-    void updateButton(Param *param, QAbstractButton *button);
-    static void setEnabled(const OrvCamConfigMapData &record, OrvGenParam::Param *param, bool enabled);
 
-    void nameRadioButtons(OrvGenParam::Enum *param, QButtonGroup *group);
-    void nameTabs(OrvGenParam::Enum *param, QTabWidget *tabWidget);
-    IntView viewOf(OrvGenParam::Int *param, IOrvCamConfigIntConverter *converter) const;
-    template <typename Control>
-    void showInt(OrvGenParam::Int *param, Control *control, IOrvCamConfigIntConverter *converter);
-
-    QHash<QString, Records> m_bindings; ///< by feature name
-    QHash<QString, QHash<QString, int>> m_tabs; ///< by feature name: from an entry's symbolic name to its tab
+    QHash<QString, Bindings> m_bindings; ///< by feature name
     const std::int64_t m_upperClamp;
     QHash<QString, OrvGenParam::Param *> m_params; ///< by feature name: where this is registered
-    QHash<const QObject *, QSharedPointer<QObject>> m_contexts; ///< by control: receives its entries while it is bound
     QHash<QString, unsigned> m_timesShown; ///< by feature name
     QHash<QString, QPointer<QWidget>> m_dropped; ///< by feature name: entered during a refresh, to be taken back
     std::function<void(OrvGenParam::Param *)> m_afterShow;

@@ -4,6 +4,7 @@
 #include <OrvCameraGuiApi/camconfig/dialogs/dialogparts.h>
 #include <OrvCameraGuiApi/camconfig/dialogs/featuredialogprivate.h>
 #include <OrvCameraGuiApi/camconfig/dialogs/framearithmetic.h>
+#include <OrvCameraGuiApi/camconfig/parameters.h>
 #include <OrvCameraGuiApi/camconfig/showfeaturedialog.h>
 #include <OrvCameraGuiApi/widgets/entryguard.h>
 #include <OrvCameraGuiApi/widgets/numbertext.h>
@@ -23,7 +24,6 @@
 
 #include <algorithm>
 #include <initializer_list>
-#include <limits>
 #include <mutex>
 #include <optional>
 #include <utility>
@@ -54,17 +54,6 @@ struct Cached
     OrvGui::FrameArithmetic::Gain gain;
     bool isTriggerOn = false; ///< as it was when the camera was set; nothing is computed with it
 };
-
-int toInt(std::int64_t value)
-{
-    using Limits = std::numeric_limits<int>;
-    return int(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
-}
-
-bool isUsable(OrvGenParam::Param *param)
-{
-    return param && param->IsAvailable() && param->IsWritable();
-}
 
 /** Tells the steps of a gain slider from what is typed, dragged or set. */
 class StepWatch : public QObject
