@@ -30,7 +30,6 @@
 
 namespace {
 
-const char *const pixelClockFeature = "PixelClock";
 const char *const lineTimeFeature = "Frame_LineTime";
 const char *const linesFeature = "Frame_ExposureLines";
 const char *const clocksFeature = "Frame_ExposureClocks";
@@ -42,17 +41,26 @@ const char *const triggerModeFeature = "TriggerMode";
 const char *const widthActualFeature = "Frame_WidthActual";
 const char *const heightActualFeature = "Frame_HeightActual";
 
-const std::int64_t usualPixelClock = 160; ///< MHz, of cameras that do not tell
+const std::int64_t usualPixelClock = 160; ///< MHz, where it cannot be read
 const double gainStep = 0.125;
 
-/** What the camera said last of the features that the dialog computes with. */
+/** The values last read of the features that the dialog computes with. */
 struct Cached
 {
-    OrvGui::FrameArithmetic::Clock clock;
-    OrvGui::FrameArithmetic::Exposure exposure;
-    OrvGui::FrameArithmetic::Exposure longestExposure;
-    OrvGui::FrameArithmetic::Gain gain;
-    bool isTriggerOn = false; ///< as it was when the camera was set; nothing is computed with it
+    std::int64_t pixelClock = usualPixelClock;
+    std::int64_t lineTime = 0;
+    std::int64_t lines = 0;
+    std::int64_t clocks = 0;
+    std::int64_t mostLines = 0;
+    std::int64_t mostClocks = 0;
+    std::int64_t coarseGain = 0;
+    std::int64_t fineGain = 0;
+    bool isTriggerOn = false; ///< when the camera was set; nothing is computed with it
+
+    OrvGui::FrameArithmetic::Clock clock() const { return {pixelClock, lineTime}; }
+    OrvGui::FrameArithmetic::Exposure exposure() const { return {lines, clocks}; }
+    OrvGui::FrameArithmetic::Exposure longestExposure() const { return {mostLines, mostClocks}; }
+    OrvGui::FrameArithmetic::Gain gain() const { return {coarseGain, fineGain}; }
 };
 
 /** Tells the steps of a gain slider from what is typed, dragged or set. */
@@ -151,11 +159,26 @@ public:
     void initSliders();
     void initTabWidget();
     void initCheckBoxes();
-    void initActualSize();
-    void initDigitalGain();
+
+    /** A feature that the dialog follows: where its value is kept, and what its change entails. */
+    struct Followed
+    {
+        const char *feature;
+        std::int64_t Cached::*value; ///< null: the value is not kept
+        std::int64_t Cached::*maximum; ///< null: the maximum is not kept
+        std::int64_t unreadable; ///< kept when the value cannot be read
+        void (OrvCamConfigFrameABDialogPrivate::*react)();
+    };
+    static const Followed followed[];
+    static const Followed *followedAs(OrvGenParam::Param *param);
 
     Cached cached() const;
     bool cache(OrvGenParam::Int *param);
+    void readExposure();
+    void readGain();
+    void clockChanged();
+    void exposureChanged();
+    void gainChanged();
     bool isBound(const char *feature, const QWidget *control) const;
     auto sameCamera() const;
 
@@ -210,8 +233,8 @@ void OrvCamConfigFrameABDialogPrivate::bind(bool)
     initSliders();
     initTabWidget();
     initCheckBoxes();
-    initActualSize();
-    initDigitalGain();
+    showActualSize();
+    updateGain();
     const auto isSame = sameCamera();
     onFrameModeChanged();
     if (isSame())
@@ -308,19 +331,38 @@ void OrvCamConfigFrameABDialogPrivate::reset()
     }
     const std::lock_guard<std::mutex> locker(mutex);
     values = Cached();
-    values.clock.pixelClock = usualPixelClock;
+}
+
+const OrvCamConfigFrameABDialogPrivate::Followed OrvCamConfigFrameABDialogPrivate::followed[] = {
+    {"PixelClock", &Cached::pixelClock, nullptr, usualPixelClock, &OrvCamConfigFrameABDialogPrivate::clockChanged},
+    {lineTimeFeature, &Cached::lineTime, nullptr, 0, &OrvCamConfigFrameABDialogPrivate::clockChanged},
+    {linesFeature, &Cached::lines, &Cached::mostLines, 0, &OrvCamConfigFrameABDialogPrivate::exposureChanged},
+    {clocksFeature, &Cached::clocks, &Cached::mostClocks, 0, &OrvCamConfigFrameABDialogPrivate::exposureChanged},
+    {fixedPeriodFeature, nullptr, nullptr, 0, &OrvCamConfigFrameABDialogPrivate::updateExposureTime},
+    {coarseGainFeature, &Cached::coarseGain, nullptr, 0, &OrvCamConfigFrameABDialogPrivate::gainChanged},
+    {fineGainFeature, &Cached::fineGain, nullptr, 0, &OrvCamConfigFrameABDialogPrivate::gainChanged},
+    {widthActualFeature, nullptr, nullptr, 0, &OrvCamConfigFrameABDialogPrivate::showActualSize},
+    {heightActualFeature, nullptr, nullptr, 0, &OrvCamConfigFrameABDialogPrivate::showActualSize}};
+
+/** Null for a feature that is not followed. */
+const OrvCamConfigFrameABDialogPrivate::Followed *
+OrvCamConfigFrameABDialogPrivate::followedAs(OrvGenParam::Param *param)
+{
+    const auto found = std::find_if(std::begin(followed), std::end(followed),
+                                    [=](const Followed &each) { return qstrcmp(each.feature, param->GetName()) == 0; });
+    return found == std::end(followed) ? nullptr : found;
 }
 
 void OrvCamConfigFrameABDialogPrivate::getNeededParams()
 {
-    for (const char *const feature : {pixelClockFeature, lineTimeFeature, linesFeature, clocksFeature}) {
-        if (OrvGenParam::Int *const param = camera.integer(feature)) {
+    for (const Followed &each : followed) {
+        if (OrvGenParam::Int *const param = camera.integer(each.feature)) {
             cache(param);
             camera.listen(param, this);
         }
     }
-    isExposureKnown = readBack({linesFeature, clocksFeature});
-    camera.listen(camera.integer(fixedPeriodFeature), this);
+    readExposure();
+    readGain();
     OrvGenParam::Enum *const triggerMode = camera.enumeration(triggerModeFeature);
     camera.listen(triggerMode, this);
     const bool isTriggerOn = triggerMode && triggerMode->GetValue(nullptr) > 0;
@@ -387,55 +429,24 @@ void OrvCamConfigFrameABDialogPrivate::initCheckBoxes()
         QObject::connect(ui.chBoxFixedPeriod, &QCheckBox::toggled, q, [this] { updateExposureTime(); });
 }
 
-void OrvCamConfigFrameABDialogPrivate::initActualSize()
-{
-    camera.listen(camera.integer(widthActualFeature), this);
-    camera.listen(camera.integer(heightActualFeature), this);
-    showActualSize();
-}
-
-void OrvCamConfigFrameABDialogPrivate::initDigitalGain()
-{
-    for (const char *const feature : {coarseGainFeature, fineGainFeature}) {
-        if (OrvGenParam::Int *const param = camera.integer(feature))
-            camera.listen(param, this);
-    }
-    isGainKnown = readBack({coarseGainFeature, fineGainFeature});
-    updateGain();
-}
-
 Cached OrvCamConfigFrameABDialogPrivate::cached() const
 {
     const std::lock_guard<std::mutex> locker(mutex);
     return values;
 }
 
-/**
- * Takes what the camera says of \a param, and of it alone: others may be about to be written. False when it says
- * nothing.
- */
+/** Reads \a param and no other: another one may be about to be written. False when it cannot be read. */
 bool OrvCamConfigFrameABDialogPrivate::cache(OrvGenParam::Int *param)
 {
-    const QLatin1String name(param->GetName());
+    const Followed *const known = followedAs(param);
     OrvCamErr err = OrvCamErr_Ok;
     const std::int64_t value = param->GetValue(&err);
     const std::int64_t maximum = param->GetMax(nullptr);
     const std::lock_guard<std::mutex> locker(mutex);
-    if (name == QLatin1String(pixelClockFeature)) {
-        values.clock.pixelClock = err == OrvCamErr_Ok ? value : usualPixelClock;
-    } else if (name == QLatin1String(lineTimeFeature)) {
-        values.clock.lineTime = value;
-    } else if (name == QLatin1String(linesFeature)) {
-        values.exposure.lines = value;
-        values.longestExposure.lines = maximum;
-    } else if (name == QLatin1String(clocksFeature)) {
-        values.exposure.clocks = value;
-        values.longestExposure.clocks = maximum;
-    } else if (name == QLatin1String(coarseGainFeature)) {
-        values.gain.coarse = value;
-    } else if (name == QLatin1String(fineGainFeature)) {
-        values.gain.fine = value;
-    }
+    if (known && known->value)
+        values.*known->value = err == OrvCamErr_Ok ? value : known->unreadable;
+    if (known && known->maximum)
+        values.*known->maximum = maximum;
     return err == OrvCamErr_Ok;
 }
 
@@ -563,9 +574,9 @@ void OrvCamConfigFrameABDialogPrivate::updateExposureTime()
     const bool isLocked = !lines->IsWritable() || !clocks->IsWritable();
     ui.spBoxExposureTime->setReadOnly(isLocked);
     const Cached now = cached();
-    const std::int64_t longest =
-        ui.chBoxFixedPeriod->isChecked() ? ui.spBoxFixedPeriod->value() : exposureTime(now.longestExposure, now.clock);
-    showTime(exposureTime(now.exposure, now.clock), longest);
+    const std::int64_t longest = ui.chBoxFixedPeriod->isChecked() ? ui.spBoxFixedPeriod->value()
+                                                                  : exposureTime(now.longestExposure(), now.clock());
+    showTime(exposureTime(now.exposure(), now.clock()), longest);
 }
 
 /** What shows already is left alone, and with it what is being typed. A time beyond the range is told in words. */
@@ -591,9 +602,9 @@ void OrvCamConfigFrameABDialogPrivate::setExposureTime(int microseconds)
         return;
     const bool isKnown = readBack({linesFeature, clocksFeature});
     const Cached now = cached();
-    const std::optional<Exposure> parts = splitExposure(microseconds, now.clock);
+    const std::optional<Exposure> parts = splitExposure(microseconds, now.clock());
     const auto isSame = sameCamera();
-    if (parts && (!isKnown || exposureTime(now.exposure, now.clock) != microseconds)) {
+    if (parts && (!isKnown || exposureTime(now.exposure(), now.clock()) != microseconds)) {
         if (!setHalf(linesFeature, ui.spBoxExposureLines, parts->lines, isKnown) || !isSame())
             return;
         setHalf(clocksFeature, ui.spBoxExposureClocks, parts->clocks, isKnown);
@@ -606,7 +617,7 @@ void OrvCamConfigFrameABDialogPrivate::setExposureTime(int microseconds)
         if (!isSame())
             return;
     }
-    isExposureKnown = readBack({linesFeature, clocksFeature});
+    readExposure();
     updateExposureTime();
 }
 
@@ -629,6 +640,16 @@ bool OrvCamConfigFrameABDialogPrivate::setHalf(const char *feature, QtOrvSpinBox
     else
         spinBox->setValue(toInt(value));
     return isSame();
+}
+
+void OrvCamConfigFrameABDialogPrivate::readExposure()
+{
+    isExposureKnown = readBack({linesFeature, clocksFeature});
+}
+
+void OrvCamConfigFrameABDialogPrivate::readGain()
+{
+    isGainKnown = readBack({coarseGainFeature, fineGainFeature});
 }
 
 /** False when one that the camera has cannot be read. */
@@ -655,7 +676,7 @@ void OrvCamConfigFrameABDialogPrivate::updateGain()
     ui.gainDigital->setRange(composedGain(lowest), composedGain(highest));
     // As the camera has it, which may lie between the steps of the entries; what shows already is left alone.
     QtOrvDoubleSpinBoxVal *const field = ui.gainDigital->spinBox();
-    const double gain = composedGain(cached().gain);
+    const double gain = composedGain(cached().gain());
     if (!SpinSlider::shows(field, gain) || SpinSlider::isEmptied(field))
         SpinSlider::showUnmoved(field, gain);
     if (!isGainKnown)
@@ -673,7 +694,7 @@ Gain OrvCamConfigFrameABDialogPrivate::partsOf(double entered) const
         range.coarse = *coarse;
     if (const auto fine = rangeOf(camera.integer(fineGainFeature)))
         range.fine = *fine;
-    return steppedGain(cached().gain, entered, range);
+    return steppedGain(cached().gain(), entered, range);
 }
 
 /** Whether the camera has another gain; of two pairs for one gain it may have either. */
@@ -681,14 +702,14 @@ bool OrvCamConfigFrameABDialogPrivate::isNews(const Gain &parts) const
 {
     const Gain settable{camera.integer(coarseGainFeature) ? parts.coarse : 0,
                         camera.integer(fineGainFeature) ? parts.fine : 0};
-    return composedGain(settable) != composedGain(cached().gain);
+    return composedGain(settable) != composedGain(cached().gain());
 }
 
 /** What the field shows of the camera's gain, which lies between its steps, was typed again. */
 bool OrvCamConfigFrameABDialogPrivate::isRetyped() const
 {
     const QtOrvDoubleSpinBoxVal *const field = ui.gainDigital->spinBox();
-    const QString shown = QString::number(composedGain(cached().gain), 'f', field->decimals());
+    const QString shown = QString::number(composedGain(cached().gain()), 'f', field->decimals());
     return gainSteps.typed() == shown.toDouble();
 }
 
@@ -697,7 +718,7 @@ void OrvCamConfigFrameABDialogPrivate::setGain(double gain)
 {
     if (isShowing)
         return;
-    isGainKnown = readBack({coarseGainFeature, fineGainFeature});
+    readGain();
     const Gain parts = partsOf(gain);
     const auto isSame = sameCamera();
     OrvCamErr coarseErr = OrvCamErr_Ok;
@@ -710,7 +731,7 @@ void OrvCamConfigFrameABDialogPrivate::setGain(double gain)
     }
     if (!isSame())
         return;
-    isGainKnown = readBack({coarseGainFeature, fineGainFeature});
+    readGain();
     updateGain();
     const bool isRefused = coarseErr != OrvCamErr_Ok || fineErr != OrvCamErr_Ok;
     if (isRefused && (!isGainKnown || isNews(parts))) // else the half that was taken was all that differed
@@ -719,13 +740,13 @@ void OrvCamConfigFrameABDialogPrivate::setGain(double gain)
 
 std::int64_t OrvCamConfigFrameABDialogPrivate::ToControl(std::int64_t deviceValue, OrvGenParam::Int *)
 {
-    return microsecondsOfLines(deviceValue, cached().clock);
+    return microsecondsOfLines(deviceValue, cached().clock());
 }
 
 /** Changed only where the camera would refuse it. */
 std::int64_t OrvCamConfigFrameABDialogPrivate::ToDevice(std::int64_t controlValue, OrvGenParam::Int *param)
 {
-    const Clock clock = cached().clock;
+    const Clock clock = cached().clock();
     return clock.lineTime == 0 ? 0 : fitted(linesOfMicroseconds(controlValue, clock), param);
 }
 
@@ -733,23 +754,31 @@ void OrvCamConfigFrameABDialogPrivate::report(OrvGenParam::Param *param)
 {
     if (!camera.parameters())
         return;
-    const QLatin1String name(param->GetName());
     auto *const number =
         param->GetType() == OrvGenParam::ParamTypeInt ? dynamic_cast<OrvGenParam::Int *>(param) : nullptr;
-    if (!number)
+    const Followed *const known = number ? followedAs(number) : nullptr;
+    if (!known)
         return;
     cache(number);
-    if (name == QLatin1String(linesFeature) || name == QLatin1String(clocksFeature))
-        isExposureKnown = readBack({linesFeature, clocksFeature});
-    if (name == QLatin1String(coarseGainFeature) || name == QLatin1String(fineGainFeature))
-        isGainKnown = readBack({coarseGainFeature, fineGainFeature});
-    if (name == QLatin1String(coarseGainFeature) || name == QLatin1String(fineGainFeature))
-        return updateGain();
-    if (name == QLatin1String(widthActualFeature) || name == QLatin1String(heightActualFeature))
-        return showActualSize();
-    if (name == QLatin1String(lineTimeFeature) || name == QLatin1String(pixelClockFeature))
-        showFixedPeriod();
+    (this->*known->react)();
+}
+
+void OrvCamConfigFrameABDialogPrivate::clockChanged()
+{
+    showFixedPeriod();
     updateExposureTime();
+}
+
+void OrvCamConfigFrameABDialogPrivate::exposureChanged()
+{
+    readExposure();
+    updateExposureTime();
+}
+
+void OrvCamConfigFrameABDialogPrivate::gainChanged()
+{
+    readGain();
+    updateGain();
 }
 
 OrvCamConfigFrameABDialog::OrvCamConfigFrameABDialog(OrvCam::Device *device, QWidget *parent)
