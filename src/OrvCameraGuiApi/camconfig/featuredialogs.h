@@ -25,7 +25,7 @@ struct FeatureDialog
     const char *neededFeature; ///< enumeration without which the dialog is not offered; null: always offered
     void (*show)(OrvCam::Device *device, std::uint64_t parentWindowId); ///< its C function
 
-    /** \name What the class has. A dialog here is always one that make() has made. @{ */
+    /** \name The class. A dialog that is passed to these functions was made by make(). @{ */
     const QMetaObject *type;
     QDialog *(*make)(OrvCam::Device *device, QWidget *parent);
     bool (*setDevice)(QDialog &dialog, OrvCam::Device *device);

@@ -22,7 +22,7 @@
 
 namespace {
 
-/** Gives a camera system back that is not kept. */
+/** Releases a camera system that is not kept. */
 struct SystemReleaser
 {
     void operator()(OrvCam::System *system) const { system->Release(); }
@@ -47,7 +47,7 @@ OrvGui::DeviceIdentity identityOf(OrvCam::DeviceInfo *info)
     return {transport ? QString::fromLatin1(transport->GetID()) : QString(), QString::fromLatin1(info->GetID())};
 }
 
-/** For people; such texts may be missing. */
+/** A name to show; a camera may lack a display name. */
 QString nameOf(OrvCam::DeviceInfo *info)
 {
     const QString name = QString::fromUtf8(info->GetDisplayName());
@@ -90,7 +90,7 @@ OrvCamConfigPrivate::~OrvCamConfigPrivate()
 {
     timer.stop();
     letGo();
-    // Here, as they tell this object when they go.
+    // While this object exists: a dialog reports to it that it is hidden.
     for (const DialogLink &link : std::exchange(dialogs, {}))
         delete link.dialog;
     delete selector;
@@ -138,7 +138,7 @@ void OrvCamConfigPrivate::buildStatusBar()
     QObject::connect(ui.statusbar, &QStatusBar::messageChanged, q, [this](const QString &text) { makeRoomFor(text); });
 }
 
-/** A message that is wider than the window would be cut; the window becomes as wide, as far as the screen goes. */
+/** The window becomes as wide as the message, up to the width of the screen; otherwise the message would be cut. */
 void OrvCamConfigPrivate::makeRoomFor(const QString &message)
 {
     ui.statusbar->setToolTip(plainToolTip(message));
@@ -192,8 +192,8 @@ void OrvCamConfigPrivate::connectDialog(const DialogLink &link)
 }
 
 /**
- * The system is held until the device is open; when none is chosen all stays as it is. While the user is asked the
- * world goes on: the camera may go, another device be set, the window be destroyed.
+ * Holds the system until the device is open. Nothing changes when the user chooses no camera. Anything may happen while
+ * the user is asked: the camera may be lost, another device be set, the window be destroyed.
  */
 void OrvCamConfigPrivate::askForCamera()
 {
@@ -210,12 +210,12 @@ void OrvCamConfigPrivate::askForCamera()
     dialog->setModal(true);
     const bool isAccepted = dialog->exec() == QDialog::Accepted;
     OrvCam::DeviceInfo *const chosen = dialog && isAccepted ? dialog->selectedCamera() : nullptr;
-    delete dialog; // its thread has ended before a device is opened
+    delete dialog; // ends its thread before a device is opened
     if (alive && chosen)
         openChosen(chosenFrom.release(), chosen);
 }
 
-/** Takes \a chosenFrom. When the device cannot be opened the window goes back to the former one, where it can. */
+/** Takes over \a chosenFrom. If the device cannot be opened, the window returns to the former one if possible. */
 void OrvCamConfigPrivate::openChosen(OrvCam::System *chosenFrom, OrvCam::DeviceInfo *chosen)
 {
     const DeviceIdentity former = identity;
@@ -238,14 +238,14 @@ void OrvCamConfigPrivate::openChosen(OrvCam::System *chosenFrom, OrvCam::DeviceI
     announceDevice();
 }
 
-/** The last thing that is done: a slot may destroy the window. */
+/** Always called last: a slot may destroy the window. */
 void OrvCamConfigPrivate::announceDevice()
 {
     if (std::exchange(announced, device) != device)
         Q_EMIT q->deviceChanged(device);
 }
 
-/** Opens and adopts a device; otherwise tells why not, and nothing has changed. */
+/** Opens and adopts a device. On failure nothing changes. */
 OrvCamErr OrvCamConfigPrivate::open(OrvCam::DeviceInfo *chosen, const DeviceIdentity &asIdentity)
 {
     OrvCamErr err = OrvCamErr_Ok;
@@ -258,7 +258,7 @@ OrvCamErr OrvCamConfigPrivate::open(OrvCam::DeviceInfo *chosen, const DeviceIden
     return OrvCamErr_Ok;
 }
 
-/** After the former device has been let go, or with that once more. */
+/** The former device has been let go, or is \a newDevice itself. */
 void OrvCamConfigPrivate::adopt(OrvCam::Device *newDevice)
 {
     init(newDevice);
@@ -266,7 +266,7 @@ void OrvCamConfigPrivate::adopt(OrvCam::Device *newDevice)
     setDialogsDevice(newDevice);
 }
 
-/** Nobody uses the device or its parameters any more when it is released, and only then goes the system. */
+/** Releases the device when nothing uses it or its parameters any more, and after that the system. */
 void OrvCamConfigPrivate::letGo()
 {
     setDialogsDevice(nullptr);
@@ -282,13 +282,13 @@ void OrvCamConfigPrivate::letGo()
         formerSystem->Release();
 }
 
-/** Reads the parameters of \a newDevice, which may be null, and starts anew. The callbacks stay as they are. */
+/** Starts again with the parameters of \a newDevice, which may be null. The callbacks stay registered. */
 void OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
 {
     const bool isSame = std::exchange(device, newDevice) == newDevice;
     params = CameraParams();
     isSelecting = false;
-    clearStatus(); // which is read anew, or cannot be
+    clearStatus();
     const bool hasParameters = camera.setDevice(device); // also unbinds the mapper
     awaitsParameters = awaitsParameters && isSame && !hasParameters;
     if (hasParameters)
@@ -317,9 +317,7 @@ void OrvCamConfigPrivate::getNeededParams()
     isModeRepeated = false;
 }
 
-/**
- * Not when a lost camera comes back: it still has them, and what it reports while they are exchanged would be missed.
- */
+/** Not called when a lost camera comes back: its callbacks are still registered, and an event could be missed. */
 void OrvCamConfigPrivate::registerCallbacks()
 {
     if (!device)
@@ -337,13 +335,13 @@ void OrvCamConfigPrivate::unregisterCallbacks()
     device->UnregisterEvent(OrvCam::EventDeviceConnected, CameraConnectCallback, this);
 }
 
-/** On any thread. */
+/** Called on any thread. */
 void OrvCamConfigPrivate::CameraConnectCallback(const void *, unsigned long, void *context)
 {
     static_cast<OrvCamConfigPrivate *>(context)->pendingEvent = Connected;
 }
 
-/** On any thread. */
+/** Called on any thread. */
 void OrvCamConfigPrivate::CameraDisconnectCallback(const void *, unsigned long, void *context)
 {
     static_cast<OrvCamConfigPrivate *>(context)->pendingEvent = Disconnected;
@@ -370,7 +368,7 @@ OrvCamConfig::OrvCamConfig(OrvCam::Device *device, QWidget *parent, Qt::WindowFl
     d->announceDevice();
     if (device)
         return;
-    // A parent that goes while the user is asked must not take along what is still being made.
+    // A parent that is destroyed while the user is asked must not destroy a window that is still being constructed.
     QMetaObject::Connection whileAsking;
     if (parent)
         whileAsking = connect(parent, &QObject::destroyed, this, [this] { setParent(nullptr, windowFlags()); });

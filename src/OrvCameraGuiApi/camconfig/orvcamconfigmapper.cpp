@@ -30,7 +30,7 @@ using Kind = OrvGui::OrvCamConfigMapData::Kind;
 
 const char *const groupNameProperty = "accessibleName";
 
-/** What is left of a field that is as large as it wants to be when its caption is taken away. */
+/** The size hint of a field without its caption. */
 QSize fieldSize(const QtOrvSpinBox *spinBox)
 {
     QSize size = spinBox->sizeHint();
@@ -49,7 +49,7 @@ bool OrvCamConfigMapData::operator==(const OrvCamConfigMapData &other) const
     return type == other.type && control == other.control && extra == other.extra;
 }
 
-/** While one lives, entries are not written. It may outlive the mapper. */
+/** Entries are not written while one exists. It may outlive the mapper. */
 class OrvCamConfigMapper::RefreshGuard
 {
 public:
@@ -77,7 +77,7 @@ OrvCamConfigMapper::OrvCamConfigMapper(std::int64_t upperClamp)
 
 OrvCamConfigMapper::~OrvCamConfigMapper() = default;
 
-/** What each binding begins with; null when nothing is bound. */
+/** The first steps of every binding; null when nothing is bound. */
 OrvCamConfigMapper::Binding OrvCamConfigMapper::prepare(OrvGenParam::Param *param, const OrvCamConfigMapData &record)
 {
     const Binding binding = ControlBinding::make(record);
@@ -87,12 +87,12 @@ OrvCamConfigMapper::Binding OrvCamConfigMapper::prepare(OrvGenParam::Param *para
         binding->setEnabled(nullptr, false);
         return nullptr;
     }
-    // A report that comes meanwhile would find half a binding.
+    // A report during the binding would find it half made.
     param->UnregisterEvent(this);
     binding->disconnectOwnSignals();
     binding->setEnabled(param, isUsable(param));
     const Bindings former = std::exchange(m_bindings[nameOf(param)], Bindings{binding});
-    // The same control bound again stays as it has just become.
+    // A control that is bound again stays connected.
     if (!former.isEmpty() && former.first()->control() != binding->control())
         unmapControl(former.first()->record());
     endEntries(binding->control());
@@ -115,7 +115,7 @@ int OrvCamConfigMapper::bind(OrvGenParam::Param *param, const OrvCamConfigMapDat
     return 1;
 }
 
-/** Of all bindings of \a control: another feature may have been bound to it before. */
+/** Ends the entries of every binding of \a control: another feature may have been bound to it. */
 void OrvCamConfigMapper::endEntries(const QObject *control)
 {
     for (const Bindings &bindings : qAsConst(m_bindings)) {
@@ -126,7 +126,7 @@ void OrvCamConfigMapper::endEntries(const QObject *control)
     }
 }
 
-/** Has \a control marked where that is needed. A refused entry is given up for the camera's value. */
+/** Lets \a control be marked. An entry that the user gives up is replaced by the camera's value. */
 void OrvCamConfigMapper::watch(OrvGenParam::Param *param, QWidget *control)
 {
     ControlWatch *const watch = ControlWatch::install(control);
@@ -148,15 +148,15 @@ void OrvCamConfigMapper::registerAt(OrvGenParam::Param *param)
     param->RegisterEvent(this);
 }
 
-/** In an event loop that a slot of a refresh runs, the user enters as always. */
+/** A slot of a refresh may run an event loop, in which the user can enter values. */
 bool OrvCamConfigMapper::isBarred() const
 {
     return isRefreshing() && m_refreshes->last() >= QThread::currentThread()->loopLevel();
 }
 
 /*
- * While the camera is told, anything may happen: it may report, and what hangs on that may unbind the parameter or
- * destroy the control and the mapper. A message needs none of them but the control.
+ * Anything may happen during the write: the camera may report, and a slot may then unbind the parameter or destroy the
+ * control and the mapper. The message needs only the control.
  */
 void OrvCamConfigMapper::enter(const ControlEntry &entry)
 {
@@ -169,7 +169,7 @@ void OrvCamConfigMapper::enter(const ControlEntry &entry)
     const QPointer<QWidget> control(entry.control);
     const QPointer<QObject> alive(&m_context);
     const OrvCamErr err = entry.write();
-    // A report that came meanwhile has shown what the camera took.
+    // A report during the write has shown the value that the camera took.
     const bool isUnheard = alive && m_params.value(name) == entry.param && m_timesShown.value(name) == timesShown;
     if (isUnheard && err == OrvCamErr_Ok) {
         if (!show(entry.param) && ControlWatch::of(control))
@@ -182,8 +182,8 @@ void OrvCamConfigMapper::enter(const ControlEntry &entry)
 }
 
 /**
- * The control's own echo is no entry. Anything else is taken back after the refresh, and marked if it comes again while
- * that is done: whoever insists on it would be asked for ever.
+ * A signal that repeats the camera's value is no entry. Any other is taken back after the refresh. One that comes while
+ * entries are taken back is marked instead: otherwise a slot that always sets the same value would never end.
  */
 void OrvCamConfigMapper::dropWhileRefreshing(const ControlEntry &entry)
 {
@@ -211,7 +211,7 @@ void OrvCamConfigMapper::settle()
     }
 }
 
-/** Shows the camera's value in the place of what was entered; where it cannot be read the entry is marked. */
+/** Shows the camera's value again; an entry is marked if that value cannot be read. */
 void OrvCamConfigMapper::takeBack(OrvGenParam::Param *param, QWidget *control)
 {
     const QPointer<QWidget> entered(control);
@@ -220,7 +220,7 @@ void OrvCamConfigMapper::takeBack(OrvGenParam::Param *param, QWidget *control)
         mark(param, entered);
 }
 
-/** A page is never left with the entry of another one: what is edited there would go to the camera's. */
+/** A tab widget goes back at once: the page on show would edit the entry that the camera has selected. */
 void OrvCamConfigMapper::mark(OrvGenParam::Param *param, QWidget *control)
 {
     if (qobject_cast<QTabWidget *>(control))
@@ -345,7 +345,7 @@ void OrvCamConfigMapper::unmapControl(const OrvCamConfigMapData &record)
     unmap(ControlBinding::make(record));
 }
 
-/** Takes a copy: what the control emits may destroy the mapper. */
+/** Takes a copy: a slot of the control may destroy the mapper. */
 void OrvCamConfigMapper::unmap(Binding binding)
 {
     // A spin box may commit what is being typed when it loses the focus.
@@ -367,7 +367,7 @@ void OrvCamConfigMapper::unmapAll()
     }
     for (OrvGenParam::Param *const param : params)
         param->UnregisterEvent(this);
-    // A field that loses the focus may tell somebody who destroys the mapper.
+    // A field that loses the focus emits signals, and a slot may destroy the mapper.
     const QPointer<QObject> alive(&m_context);
     for (const Bindings &bindings : all) {
         for (const Binding &binding : bindings) {
@@ -404,8 +404,8 @@ void OrvCamConfigMapper::OnParameterUpdate(OrvGenParam::Param *param)
 }
 
 /*
- * Walks a copy and looks at each record again: what hangs on the control's signals may bind and unbind, and destroy the
- * mapper. False when there is no value to show.
+ * Walks a copy and checks each binding again: slots of the control's signals may bind, unbind and destroy the mapper.
+ * False when there is no value to show.
  */
 bool OrvCamConfigMapper::show(OrvGenParam::Param *param)
 {

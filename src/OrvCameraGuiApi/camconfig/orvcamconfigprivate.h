@@ -36,7 +36,7 @@ struct DialogLink
     bool isOffered; ///< the camera, or the last one, has what the dialog needs
 };
 
-/** By which a device is found again in another enumeration; both empty for none. */
+/** Identifies a device in another enumeration; both texts are empty for none. */
 struct DeviceIdentity
 {
     QString transport; ///< of its interface
@@ -51,9 +51,9 @@ struct DeviceIdentity
 /**
  * The private part of OrvCamConfig.
  *
- * A camera's life here: adopt() takes a device, init() reads its parameters, letGo() gives it up. A lost device stays,
- * without parameters, until it comes back and has them again, or is let go. Events of the device come on any thread and
- * leave one word in pendingEvent, upon which the timer's step() acts.
+ * adopt() takes a device, init() reads its parameters, letGo() gives it up. A lost device stays, without parameters,
+ * until it comes back and has them again, or is let go. Events of the device come on any thread; they only store one
+ * number in pendingEvent, and the timer's step() acts on it.
  */
 class OrvCamConfigPrivate : public OrvGenParam::ParamEventSink
 {
@@ -94,7 +94,7 @@ public:
     void OnParameterUpdate(OrvGenParam::Param *param) override;
     bool readSelector();
     bool readFrameMode();
-    void hearOfFrameMode();
+    void frameModeReported();
     /** @} */
 
     /** \name What is shown @{ */

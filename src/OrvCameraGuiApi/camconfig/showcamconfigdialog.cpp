@@ -9,7 +9,7 @@
 
 namespace OrvGui {
 
-/** The window goes at the end, intentionally. */
+/** Destroys the window when it returns, intentionally. */
 template <typename Make>
 static void show(std::uint64_t parentWindowId, const Make &make)
 {

@@ -4,7 +4,7 @@
 
 namespace OrvGui {
 
-/** What the C function of a feature dialog does; \a kind is one of featureDialogs(). The dialog is gone on return. */
+/** Shows the dialog of that kind, see featureDialogs(), and destroys it: the body of its C function. */
 void showFeatureDialog(const char *kind, OrvCam::Device *device, std::uint64_t parentWindowId);
 
 } // namespace OrvGui

@@ -63,11 +63,11 @@ struct Cached
     OrvGui::FrameArithmetic::Gain gain() const { return {coarseGain, fineGain}; }
 };
 
-/** Tells the steps of a gain slider from what is typed, dragged or set. */
+/** Tells steps of a gain slider from numbers that are typed, dragged or set. */
 class StepWatch : public QObject
 {
 public:
-    /** For the life of \a gain; the watch goes first. */
+    /** Watches \a gain, which outlives the watch. */
     void watch(QtOrvGainSlider *gain)
     {
         m_field = gain->spinBox();
@@ -80,7 +80,7 @@ public:
 
     bool isStep() const { return m_isStep; }
 
-    /** The number that Return has just committed, as it was typed; none for any other entry. */
+    /** The typed number that Return has just committed; none for any other entry. */
     std::optional<double> typed() const { return m_typed; }
 
     bool eventFilter(QObject *, QEvent *event) override
@@ -122,7 +122,7 @@ private:
     std::optional<double> m_typed;
 };
 
-/** Lets the fields of composites that stand above each other begin at the same place. */
+/** Aligns the fields of composites that stand above each other. */
 template <typename... Composites>
 void alignCaptions(Composites *...composites)
 {
@@ -217,7 +217,7 @@ public:
     mutable std::mutex mutex; ///< of the values; never held while a control or the camera is called
 };
 
-/** Tells, whatever was called meanwhile, whether the dialog still is there and shows the same camera. */
+/** Answers, after any call, whether the dialog still exists and shows the same camera. */
 auto OrvCamConfigFrameABDialogPrivate::sameCamera() const
 {
     return [this, dialog = QPointer<QDialog>(q), current = session] { return dialog && session == current; };
@@ -255,7 +255,7 @@ void OrvCamConfigFrameABDialogPrivate::build()
     for (QRadioButton *const button : radioButtons)
         OrvCamConfigMapper::nameButton(button);
     pageTitles = {ui.tabFrames->tabText(0), ui.tabFrames->tabText(1)};
-    // The field that is typed in loses the focus, and with it the text, which would else go to the other frame.
+    // A click on a tab takes the focus from a field, and with it a typed text that would go to the other frame.
     ui.tabFrames->tabBar()->setFocusPolicy(Qt::WheelFocus);
     buildExposureTime();
     buildGain();
@@ -265,7 +265,7 @@ void OrvCamConfigFrameABDialogPrivate::build()
     });
 }
 
-/** Not bound to one feature, but it takes entries as the mapper's controls do. */
+/** The mapper does not bind this control, which stands for two features. It takes entries as bound ones do. */
 void OrvCamConfigFrameABDialogPrivate::buildExposureTime()
 {
     QtOrvSliderSpinBox *const time = ui.spBoxExposureTime;
@@ -311,7 +311,7 @@ void OrvCamConfigFrameABDialogPrivate::setCaptions()
     alignCaptions(ui.spBoxOffsetY, ui.spBoxHeight);
 }
 
-/** Nothing is left of the former camera that another one would take for its own. */
+/** Clears what another camera would take over from the former one. */
 void OrvCamConfigFrameABDialogPrivate::reset()
 {
     ControlWatch::of(ui.gainDigital)->clear();
@@ -456,7 +456,7 @@ bool OrvCamConfigFrameABDialogPrivate::isBound(const char *feature, const QWidge
     return !records.isEmpty() && records.first().control == control;
 }
 
-/** The camera's, as the box may show one that was refused; the box's where that cannot be read. */
+/** The camera's mode, because the box may show a refused one; the box's mode if the camera's cannot be read. */
 QString OrvCamConfigFrameABDialogPrivate::frameMode() const
 {
     OrvGenParam::Enum *const param = camera.enumeration("FrameMode");
@@ -480,13 +480,12 @@ void OrvCamConfigFrameABDialogPrivate::onFrameModeChanged()
         return;
     enablePages();
     // The mapper has selected the frame of a mode that the user chose. After a report the frame on show is selected
-    // when that is over, for it is the one that is edited from now on; unless the camera is let go before.
+    // from the event loop, because it is the one that is edited from now on.
     if (page >= 0 && isReported)
         QTimer::singleShot(0, camera.context(), [this] { selectShownFrame(); });
 }
 
-/** A feature has one control. The line time has two places: one for both frames, one in the settings of a single one.
- */
+/** The line time has two controls, one for both frames and one for a single frame, but a feature is bound to one. */
 void OrvCamConfigFrameABDialogPrivate::bindForMode(bool isSingle)
 {
     QtOrvSliderSpinBox *const lineTime = isSingle ? ui.spBoxLineTime : ui.spBoxDualLineTime;
@@ -518,7 +517,7 @@ bool OrvCamConfigFrameABDialogPrivate::canShow(int page) const
     return (only < 0 || only == page) && (!selector || (entry && entry->IsAvailable()));
 }
 
-/** The page that is shown stays enabled: disabling it would show, and so select, another one. */
+/** The current page stays enabled: disabling it would show another page, and so select another frame. */
 void OrvCamConfigFrameABDialogPrivate::enablePages()
 {
     for (int page = 0; page < ui.tabFrames->count(); ++page)
@@ -561,7 +560,7 @@ void OrvCamConfigFrameABDialogPrivate::showActualSize()
     ui.lblSizeActual->setEnabled(isKnown);
 }
 
-/** While lines or clocks are locked the time is shown all the same, and cannot be changed. */
+/** The time is read-only while lines or clocks are locked. */
 void OrvCamConfigFrameABDialogPrivate::updateExposureTime()
 {
     OrvGenParam::Int *const lines = camera.integer(linesFeature);
@@ -579,7 +578,7 @@ void OrvCamConfigFrameABDialogPrivate::updateExposureTime()
     showTime(exposureTime(now.exposure(), now.clock()), longest);
 }
 
-/** What shows already is left alone, and with it what is being typed. A time beyond the range is told in words. */
+/** A field that shows the time keeps what is being typed. A time beyond the range goes into the tool tip. */
 void OrvCamConfigFrameABDialogPrivate::showTime(std::int64_t microseconds, std::int64_t longest)
 {
     QtOrvSliderSpinBox *const time = ui.spBoxExposureTime;
@@ -595,7 +594,7 @@ void OrvCamConfigFrameABDialogPrivate::showTime(std::int64_t microseconds, std::
         watch->note(ControlWatch::valueText(ControlWatch::numberText(microseconds, time)));
 }
 
-/** The spin boxes of lines and clocks write, and tell what is refused. The time then shows what the camera has. */
+/** The spin boxes of lines and clocks write, and report what is refused. Then the time shows the camera's values. */
 void OrvCamConfigFrameABDialogPrivate::setExposureTime(int microseconds)
 {
     if (isShowing)
@@ -622,9 +621,8 @@ void OrvCamConfigFrameABDialogPrivate::setExposureTime(int microseconds)
 }
 
 /**
- * By its spin box, which shows the camera's value before, so that it says whatever differs from that. Where the camera
- * does not tell its value, the spin box says nothing for the number that it has meanwhile; then it is written all the
- * same.
+ * Sets the spin box, which first shows the camera's value so that it signals every number that differs. If the camera's
+ * value cannot be read, the spin box may have that number already and signals nothing; then it is written here.
  */
 bool OrvCamConfigFrameABDialogPrivate::setHalf(const char *feature, QtOrvSpinBox *spinBox, std::int64_t value,
                                                bool isKnown)
@@ -674,7 +672,7 @@ void OrvCamConfigFrameABDialogPrivate::updateGain()
     const Gain lowest{coarse ? coarse->GetMin(nullptr) : 0, fine ? fine->GetMin(nullptr) : 0};
     const Gain highest{coarse ? coarse->GetMax(nullptr) : 0, fine ? fine->GetMax(nullptr) : 0};
     ui.gainDigital->setRange(composedGain(lowest), composedGain(highest));
-    // As the camera has it, which may lie between the steps of the entries; what shows already is left alone.
+    // The camera's gain may lie between the steps. A field that shows it keeps what is being typed.
     QtOrvDoubleSpinBoxVal *const field = ui.gainDigital->spinBox();
     const double gain = composedGain(cached().gain());
     if (!SpinSlider::shows(field, gain) || SpinSlider::isEmptied(field))
@@ -684,7 +682,7 @@ void OrvCamConfigFrameABDialogPrivate::updateGain()
     ControlWatch::of(ui.gainDigital)->clear();
 }
 
-/** A step leads on where it is less than what the camera can tell apart. */
+/** A step that is too small for the camera leads to its next gain. */
 Gain OrvCamConfigFrameABDialogPrivate::partsOf(double entered) const
 {
     if (!gainSteps.isStep())
@@ -697,7 +695,7 @@ Gain OrvCamConfigFrameABDialogPrivate::partsOf(double entered) const
     return steppedGain(cached().gain(), entered, range);
 }
 
-/** Whether the camera has another gain; of two pairs for one gain it may have either. */
+/** Whether the camera has another gain. Two pairs of parts for the same gain are equal here. */
 bool OrvCamConfigFrameABDialogPrivate::isNews(const Gain &parts) const
 {
     const Gain settable{camera.integer(coarseGainFeature) ? parts.coarse : 0,
@@ -705,7 +703,7 @@ bool OrvCamConfigFrameABDialogPrivate::isNews(const Gain &parts) const
     return composedGain(settable) != composedGain(cached().gain());
 }
 
-/** What the field shows of the camera's gain, which lies between its steps, was typed again. */
+/** Whether the user typed the number that the field shows for a gain between its steps. */
 bool OrvCamConfigFrameABDialogPrivate::isRetyped() const
 {
     const QtOrvDoubleSpinBoxVal *const field = ui.gainDigital->spinBox();
@@ -713,7 +711,7 @@ bool OrvCamConfigFrameABDialogPrivate::isRetyped() const
     return gainSteps.typed() == shown.toDouble();
 }
 
-/** A refused half intentionally brings no message: both are read back, and the control is marked. */
+/** A refused half intentionally shows no message: both are read back, and the control is marked. */
 void OrvCamConfigFrameABDialogPrivate::setGain(double gain)
 {
     if (isShowing)
@@ -734,7 +732,7 @@ void OrvCamConfigFrameABDialogPrivate::setGain(double gain)
     readGain();
     updateGain();
     const bool isRefused = coarseErr != OrvCamErr_Ok || fineErr != OrvCamErr_Ok;
-    if (isRefused && (!isGainKnown || isNews(parts))) // else the half that was taken was all that differed
+    if (isRefused && (!isGainKnown || isNews(parts))) // else the half that was taken made the gain
         ControlWatch::of(ui.gainDigital)->mark(isGainKnown ? ui.gainDigital->spinBox()->text() : QString());
 }
 
@@ -743,7 +741,7 @@ std::int64_t OrvCamConfigFrameABDialogPrivate::ToControl(std::int64_t deviceValu
     return microsecondsOfLines(deviceValue, cached().clock());
 }
 
-/** Changed only where the camera would refuse it. */
+/** A number that the camera would refuse becomes the nearest one that it takes. */
 std::int64_t OrvCamConfigFrameABDialogPrivate::ToDevice(std::int64_t controlValue, OrvGenParam::Int *param)
 {
     const Clock clock = cached().clock();

@@ -23,7 +23,7 @@ namespace {
 
 const char *const granularityFeature = "PulseGenGranularity";
 
-/** What period and width count. */
+/** The unit of period and width. */
 struct Granularity
 {
     double perSecond = 1'000'000; ///< how many of the unit there are
@@ -142,7 +142,7 @@ void OrvCamConfigPulseDialogPrivate::connectControls()
                      [this] { setButtonState(ui.pushBtnPulseEnable->isChecked()); }); // which may be back already
 }
 
-/** For all units that the camera has, so that nothing moves or is cut when another one is chosen. */
+/** Makes room for every unit of the camera, so that nothing moves or is cut when the user chooses another one. */
 void OrvCamConfigPulseDialogPrivate::makeRoomForUnits()
 {
     OrvGenParam::Enum *const entries = camera.enumeration(granularityFeature);
@@ -165,7 +165,7 @@ void OrvCamConfigPulseDialogPrivate::makeRoomForUnits()
         fixMaximumSize();
 }
 
-/** As the camera has it, whatever stands in the list. */
+/** Follows the camera; the list may show a refused entry. */
 void OrvCamConfigPulseDialogPrivate::updateGranularity()
 {
     OrvGenParam::Enum *const param = camera.enumeration(granularityFeature);
@@ -186,7 +186,7 @@ void OrvCamConfigPulseDialogPrivate::updateDelayAndFrequency()
     ui.lineEditFreq->home(false);
 }
 
-/** Of a camera that is gone nothing is left. */
+/** Clears what is computed when there is no camera. */
 void OrvCamConfigPulseDialogPrivate::showNothing()
 {
     updateGranularity();
@@ -208,7 +208,7 @@ void OrvCamConfigPulseDialogPrivate::report(OrvGenParam::Param *)
 void OrvCamConfigPulseDialogPrivate::setButtonState(bool on)
 {
     ui.pushBtnPulseEnable->setText(on ? OrvCamConfigPulseDialog::tr("Stop") : OrvCamConfigPulseDialog::tr("Start"));
-    // Anew: with the former text went its keys. They are pressed twice, the same in every language.
+    // A new text takes the shortcut away. The shortcut, pressed twice, is the same in every language.
     constexpr int keys = Qt::CTRL + Qt::SHIFT + Qt::Key_S;
     ui.pushBtnPulseEnable->setShortcut(QKeySequence(keys, keys));
     const QString ball = on ? QStringLiteral(":/icons/greenball.ico") : QStringLiteral(":/icons/redball.ico");

@@ -18,10 +18,10 @@ namespace {
 struct Picture
 {
     const char *path;
-    const char *meaning; ///< for those who do not see it
+    const char *meaning; ///< the accessible name
 };
 
-/** By whether strobe 1, and strobe 2, count from the start of the exposure. */
+/** Indexed by whether strobe 1, and strobe 2, count from the start of the exposure. */
 const Picture pictures[2][2] = {
     {{":/images/strobeBothRead.bmp",
       QT_TRANSLATE_NOOP("OrvGui::OrvCamConfigStrobeDialog", "Both strobes count from the start of the readout")},
@@ -69,7 +69,7 @@ void OrvCamConfigStrobeDialogPrivate::build()
 {
     initCaptions();
     alignSliders();
-    // A reference box that has just been enabled again shows in the picture.
+    // The picture follows a reference box that has just been enabled again.
     camera.mapper.setAfterShow([this](OrvGenParam::Param *) { setImageState(); });
 }
 
@@ -108,7 +108,7 @@ void OrvCamConfigStrobeDialogPrivate::initSliders()
     }
 }
 
-/** One above the other they begin and end alike, whatever the caption and however large the numbers. */
+/** Aligns the sliders, which stand above each other. */
 void OrvCamConfigStrobeDialogPrivate::alignSliders()
 {
     QtOrvSliderSpinBox *const all[] = {ui.spBoxStrobe1Delay, ui.spBoxStrobe1Width, ui.spBoxStrobe2Delay,
@@ -125,7 +125,7 @@ void OrvCamConfigStrobeDialogPrivate::alignSliders()
     }
 }
 
-/** Any reference but the start of the exposure counts as the readout. */
+/** Every reference other than the start of the exposure counts as the readout. */
 void OrvCamConfigStrobeDialogPrivate::setImageState()
 {
     if (!ui.cmBoxStrobe1Ref->isEnabledTo(q) || !ui.cmBoxStrobe2Ref->isEnabledTo(q))

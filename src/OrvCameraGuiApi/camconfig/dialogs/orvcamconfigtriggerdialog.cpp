@@ -62,7 +62,7 @@ void OrvCamConfigTriggerDialogPrivate::initButton()
         camera.mapper.mapCommandParam(param, ui.pushBtnSoftwareTrigger, nullptr);
 }
 
-/** Decides alone, whatever the features themselves allow, and also for those that the camera does not have. */
+/** The only rule: it does not depend on the access to the features, nor on whether the camera has them. */
 void OrvCamConfigTriggerDialogPrivate::applyEnableRule()
 {
     for (QComboBox *const comboBox : {ui.cmBoxSource, ui.cmBoxEdge, ui.cmBoxDebounce})
