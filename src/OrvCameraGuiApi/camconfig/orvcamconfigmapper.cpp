@@ -80,7 +80,7 @@ OrvCamConfigMapper::~OrvCamConfigMapper() = default;
 /** The first steps of every binding; null when nothing is bound. */
 OrvCamConfigMapper::Binding OrvCamConfigMapper::prepare(OrvGenParam::Param *param, const OrvCamConfigMapData &record)
 {
-    const Binding binding = ControlBinding::make(record);
+    Binding binding = ControlBinding::make(record);
     if (!binding->control())
         return nullptr;
     if (!param) {
@@ -94,7 +94,7 @@ OrvCamConfigMapper::Binding OrvCamConfigMapper::prepare(OrvGenParam::Param *para
     const Bindings former = std::exchange(m_bindings[nameOf(param)], Bindings{binding});
     // A control that is bound again stays connected.
     if (!former.isEmpty() && former.first()->control() != binding->control())
-        unmapControl(former.first()->record());
+        unmap(former.first());
     endEntries(binding->control());
     return binding;
 }
@@ -345,8 +345,8 @@ void OrvCamConfigMapper::unmapControl(const OrvCamConfigMapData &record)
     unmap(ControlBinding::make(record));
 }
 
-/** Takes a copy: a slot of the control may destroy the mapper. */
-void OrvCamConfigMapper::unmap(Binding binding)
+/** The caller holds \a binding: a slot of the control may destroy the mapper. */
+void OrvCamConfigMapper::unmap(const Binding &binding)
 {
     // A spin box may commit what is being typed when it loses the focus.
     const RefreshGuard guard(this);

@@ -207,7 +207,7 @@ private:
     int bind(OrvGenParam::Param *param, const OrvCamConfigMapData &record);
     Binding bindingOf(OrvGenParam::Param *param, const OrvCamConfigMapData &record) const;
     void endEntries(const QObject *control);
-    void unmap(Binding binding);
+    void unmap(const Binding &binding);
     void watch(OrvGenParam::Param *param, QWidget *control);
     void registerAt(OrvGenParam::Param *param);
 
