@@ -2,14 +2,11 @@
 # are a component of their own, which a machine with a vendor's packages leaves out.
 include(CMakePackageConfigHelpers)
 
-# Public headers of the GUI library; camera_api is installed whole.
+# Public headers of the GUI library; camera_api is installed whole, and of the feature dialogs every class.
+file(GLOB ORV_DIALOG_HEADERS RELATIVE ${PROJECT_SOURCE_DIR}/src/OrvCameraGuiApi CONFIGURE_DEPENDS
+    ${PROJECT_SOURCE_DIR}/src/OrvCameraGuiApi/camconfig/dialogs/orvcamconfig*dialog.h)
 set(ORV_PUBLIC_HEADERS
-    camconfig/dialogs/orvcamconfigcolordialog.h
-    camconfig/dialogs/orvcamconfigframeabdialog.h
-    camconfig/dialogs/orvcamconfigoutputdialog.h
-    camconfig/dialogs/orvcamconfigpulsedialog.h
-    camconfig/dialogs/orvcamconfigstrobedialog.h
-    camconfig/dialogs/orvcamconfigtriggerdialog.h
+    ${ORV_DIALOG_HEADERS}
     camconfig/orvcamconfig.h
     camconfig/showcamconfigdialog.h
     device_selection/ip4validator.h

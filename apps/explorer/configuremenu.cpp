@@ -1,11 +1,6 @@
 #include "configuremenu.h"
 
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigcolordialog.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigframeabdialog.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigoutputdialog.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigpulsedialog.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigstrobedialog.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigtriggerdialog.h>
+#include <OrvCameraGuiApi/camconfig/featuredialogs.h>
 #include <OrvCameraGuiApi/camconfig/orvcamconfig.h>
 #include <OrvCameraGuiApi/camera_api/orvgenparam.h>
 
@@ -18,10 +13,10 @@ QString placeKey(const QAction &action)
     return action.objectName() + QStringLiteral("/geometry");
 }
 
-bool hasTwoFrames(OrvCam::Device *device)
+bool hasFeature(OrvCam::Device *device, const char *feature)
 {
     OrvGenParam::Array *const parameters = device ? device->GetCameraParameters(nullptr) : nullptr;
-    return parameters && parameters->GetEnum("FrameAB_Selector", nullptr);
+    return parameters && parameters->GetEnum(feature, nullptr);
 }
 
 } // namespace
@@ -33,13 +28,8 @@ ConfigureMenu::ConfigureMenu(QWidget *window)
     setObjectName(QStringLiteral("configure"));
     addConfigWindow();
     addSeparator();
-    addDialog<OrvGui::OrvCamConfigFrameABDialog>(tr("&Frame A/B"), "frameab");
-    m_frameAB = m_entries.back().action;
-    addDialog<OrvGui::OrvCamConfigTriggerDialog>(tr("&Trigger"), "trigger");
-    addDialog<OrvGui::OrvCamConfigPulseDialog>(tr("&Pulse"), "pulse");
-    addDialog<OrvGui::OrvCamConfigStrobeDialog>(tr("&Strobe"), "strobe");
-    addDialog<OrvGui::OrvCamConfigOutputDialog>(tr("&Data Out"), "dataout");
-    addDialog<OrvGui::OrvCamConfigColorDialog>(tr("&Color"), "color");
+    for (const OrvGui::FeatureDialog &feature : OrvGui::featureDialogs())
+        addDialog(feature);
     updateEntries();
 }
 
@@ -52,26 +42,25 @@ void ConfigureMenu::addConfigWindow()
     QAction *const action = addAction(QIcon(QStringLiteral(":/explorer/configwindow.ico")), tr("Configuration &Window"),
                                       this, &ConfigureMenu::openConfigWindow);
     action->setObjectName(QStringLiteral("configwindow"));
-    m_entries.push_back({action, make, setDevice, nullptr, {}});
+    m_entries.push_back({action, make, setDevice, nullptr, nullptr, {}});
 }
 
-template <typename Dialog>
-void ConfigureMenu::addDialog(const QString &text, const char *name)
+void ConfigureMenu::addDialog(const OrvGui::FeatureDialog &feature)
 {
-    QAction *const action = addAction(QIcon(QStringLiteral(":/icons/%1.ico").arg(QLatin1String(name))), text);
+    QAction *const action = addAction(QIcon(QLatin1String(feature.icon)), QLatin1Char('&') + tr(feature.title));
     const std::size_t index = m_entries.size();
-    action->setObjectName(QLatin1String(name));
+    action->setObjectName(QLatin1String(feature.kind));
     action->setCheckable(true);
     connect(action, &QAction::toggled, this, [this, index](bool isOn) { openDialog(m_entries[index], isOn); });
-    const auto make = [this, action]() -> QWidget * {
-        auto *const dialog = new Dialog(m_isReachable ? m_device : nullptr, m_parent);
-        connect(dialog, &Dialog::closing, action, [action] { action->setChecked(false); });
+    const auto make = [this, action, &feature]() -> QWidget * {
+        QDialog *const dialog = feature.make(m_isReachable ? m_device : nullptr, m_parent);
+        feature.onClosing(*dialog, action, [action] { action->setChecked(false); });
         return dialog;
     };
-    const auto setDevice = [](QWidget *dialog, OrvCam::Device *device) {
-        static_cast<Dialog *>(dialog)->SetDevice(device);
+    const auto setDevice = [&feature](QWidget *dialog, OrvCam::Device *device) {
+        feature.setDevice(*static_cast<QDialog *>(dialog), device);
     };
-    m_entries.push_back({action, make, setDevice, nullptr, {}});
+    m_entries.push_back({action, make, setDevice, feature.neededFeature, nullptr, {}});
 }
 
 void ConfigureMenu::setDevice(OrvCam::Device *device)
@@ -100,12 +89,13 @@ void ConfigureMenu::setReachable(bool reachable)
 void ConfigureMenu::updateEntries()
 {
     m_entries.front().action->setEnabled(m_device);
-    for (auto dialog = m_entries.begin() + 1; dialog != m_entries.end(); ++dialog)
-        dialog->action->setEnabled(m_device && m_isReachable);
-    if (!m_device || !m_isReachable || hasTwoFrames(m_device))
-        return;
-    m_frameAB->setEnabled(false);
-    m_frameAB->setChecked(false);
+    const bool hasCamera = m_device && m_isReachable;
+    for (auto dialog = m_entries.begin() + 1; dialog != m_entries.end(); ++dialog) {
+        const bool isOfUse = !dialog->neededFeature || !hasCamera || hasFeature(m_device, dialog->neededFeature);
+        dialog->action->setEnabled(hasCamera && isOfUse);
+        if (!isOfUse)
+            dialog->action->setChecked(false);
+    }
 }
 
 QStringList ConfigureMenu::windowNames() const

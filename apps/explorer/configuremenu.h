@@ -12,6 +12,10 @@ namespace OrvCam {
 class Device;
 } // namespace OrvCam
 
+namespace OrvGui {
+struct FeatureDialog;
+} // namespace OrvGui
+
 /**
  * The configuration window and the dialogs for groups of a camera's features: an entry each; that of a dialog is
  * checked while it is open. They are made when they are first opened, and then follow the camera that is shown.
@@ -51,13 +55,13 @@ private:
         QAction *action; ///< has the name
         std::function<QWidget *()> make;
         std::function<void(QWidget *, OrvCam::Device *)> setDevice;
+        const char *neededFeature; ///< without which the window is of no use; null for none
         QWidget *window; ///< null until it is first opened
         QByteArray place; ///< where it is to be opened; empty: anywhere
     };
 
     void addConfigWindow();
-    template <typename Dialog>
-    void addDialog(const QString &text, const char *name);
+    void addDialog(const OrvGui::FeatureDialog &feature);
     QWidget *windowOf(Entry &entry);
     void openConfigWindow();
     void openDialog(Entry &entry, bool isOpen);
@@ -66,6 +70,5 @@ private:
     QWidget *const m_parent;
     OrvCam::Device *m_device = nullptr;
     bool m_isReachable = true;
-    QAction *m_frameAB = nullptr;
     std::vector<Entry> m_entries; ///< the configuration window, then the dialogs
 };

@@ -48,7 +48,6 @@ class FrameArithmeticTest : public OrvTest::TestCase
 private Q_SLOTS:
     void byHand();
     void timesAreExact();
-    void nothingIsDividedByZero();
     void numbersAreClamped();
     void gainsByHand();
     void gainsAreExact();
@@ -69,26 +68,21 @@ void FrameArithmeticTest::byHand()
     };
     const Row rows[] = {
         {{160, 1600}, {10, 800}, 105, 1000, 10000},
-        {{160, 1600}, {0, 159}, 0, 0, 0},
-        {{160, 1600}, {0, 160}, 1, 1, 10},
         {{160, 1601}, {1, 0}, 10, 80, 801}, // 10.006; 800.5 goes up
-        {{40, 65535}, {3, 17}, 4915, 7, 11469}, // 4915.55; 11468.625
-        {{3, 1}, {5, 2}, 2, 4, 1}, // 2.33; 1.33
         {{1, 65535}, {65535, 65534}, 4294901759, 131072, 8589803520}, // more than 32 bits
     };
     for (const Row &row : rows) {
         QCOMPARE(exposureTime(row.exposure, row.clock), row.time);
         QCOMPARE(microsecondsOfLines(row.lines, row.clock), row.microseconds);
     }
-    QCOMPARE(linesOfMicroseconds(10000, {160, 1600}), std::int64_t(1000));
-    QCOMPARE(linesOfMicroseconds(4, {160, 1600}), std::int64_t(0)); // 0.4
     QCOMPARE(linesOfMicroseconds(5, {160, 1600}), std::int64_t(1)); // 0.5
     QCOMPARE(linesOfMicroseconds(-10, {160, 1600}), std::int64_t(0)); // -1 + 0.5, cut
-    QCOMPARE(linesOfMicroseconds(-16, {160, 1600}), std::int64_t(-1)); // -1.6 + 0.5, cut
-    const std::optional<Exposure> parts = splitExposure(105, {160, 1600});
-    QVERIFY(parts);
-    QCOMPARE(parts->lines, std::int64_t(10));
-    QCOMPARE(parts->clocks, std::int64_t(800));
+    for (const Clock clock : {Clock{0, 1600}, Clock{160, 0}}) { // nothing is divided by 0
+        QCOMPARE(microsecondsOfLines(105, clock), std::int64_t(0));
+        QCOMPARE(linesOfMicroseconds(105, clock), std::int64_t(0));
+        QCOMPARE(exposureTime({105, 320}, clock), clock.pixelClock / 80); // the clocks alone
+        QVERIFY(!splitExposure(105, clock));
+    }
 }
 
 void FrameArithmeticTest::timesAreExact()
@@ -114,20 +108,6 @@ void FrameArithmeticTest::timesAreExact()
     }
 }
 
-void FrameArithmeticTest::nothingIsDividedByZero()
-{
-    for (const std::int64_t value : {int64Min, std::int64_t(-1), std::int64_t(0), std::int64_t(105), int64Max}) {
-        QCOMPARE(microsecondsOfLines(value, {0, 1600}), std::int64_t(0));
-        QCOMPARE(microsecondsOfLines(value, {160, 0}), std::int64_t(0));
-        QCOMPARE(linesOfMicroseconds(value, {160, 0}), std::int64_t(0));
-        QCOMPARE(linesOfMicroseconds(value, {0, 1600}), std::int64_t(0));
-        QCOMPARE(exposureTime({value, value}, {0, 1600}), std::int64_t(0));
-        QCOMPARE(exposureTime({value, 320}, {160, 0}), std::int64_t(2)); // the clocks alone
-        QVERIFY(!splitExposure(value, {160, 0}));
-        QVERIFY(!splitExposure(value, {0, 1600}));
-    }
-}
-
 void FrameArithmeticTest::numbersAreClamped()
 {
     const Clock slow{1, int64Max};
@@ -135,8 +115,6 @@ void FrameArithmeticTest::numbersAreClamped()
     QCOMPARE(microsecondsOfLines(int64Max, slow), int64Max);
     QCOMPARE(microsecondsOfLines(int64Min, slow), int64Min);
     QCOMPARE(linesOfMicroseconds(int64Max, fast), int64Max);
-    QCOMPARE(linesOfMicroseconds(int64Min, fast), int64Min);
-    QCOMPARE(exposureTime({int64Max, int64Max}, slow), int64Max);
     QCOMPARE(exposureTime({int64Min, int64Min}, slow), int64Min);
     QCOMPARE(exposureTime({int64Min, 0}, {-1, 1}), int64Max);
     QCOMPARE(splitExposure(int64Max, fast)->lines, int64Max);
@@ -163,7 +141,6 @@ void FrameArithmeticTest::gainsByHand()
     const Row rows[] = {
         {3, {1, 32}, 3},         {0.5, {0, -32}, 0.5},      {0, {0, -64}, 0},
         {-1.5, {0, -160}, -1.5}, {1.99, {0, 63}, 1.984375}, {0.99, {0, 0}, 1}, // cut towards 0
-        {2, {1, 0}, 2},          {15.875, {3, 63}, 15.875}, {16, {4, 0}, 16},
     };
     for (const Row &row : rows) {
         QCOMPARE(splitGain(row.gain).coarse, row.parts.coarse);
@@ -200,22 +177,12 @@ void FrameArithmeticTest::fitsWhatIsRefused()
         std::int64_t written;
     };
     const Row rows[] = {
-        {7, {0, 10, 1}, 7},
-        {-1, {0, 10, 1}, 0},
-        {11, {0, 10, 1}, 10},
-        {5, {1, 10, 4}, 5},
-        {6, {1, 10, 4}, 5},
-        {7, {1, 10, 4}, 9}, // the greater one of two
+        {-1, {0, 10, 1}, 0},      {11, {0, 10, 1}, 10},
+        {6, {1, 10, 4}, 5},       {7, {1, 10, 4}, 9}, // the greater one of two
         {10, {1, 10, 4}, 9}, // the maximum is not taken itself
-        {-5, {-7, 10, 4}, -3},
-        {6, {0, 10, 0}, 6},
-        {6, {0, 10, -3}, 6},
+        {-5, {-7, 10, 4}, -3},    {6, {0, 10, 0}, 6},
         {6, {10, 0, 1}, 6}, // nothing is taken
-        {3, IntRange::only(8), 8},
-        {int64Min, {}, int64Min},
-        {int64Max, {}, int64Max},
-        {int64Max, {int64Min, int64Max, int64Max}, int64Max - 1},
-        {0, {int64Min, int64Max, int64Max}, -1},
+        {int64Max, {}, int64Max}, {int64Max, {int64Min, int64Max, int64Max}, int64Max - 1},
     };
     for (const Row &row : rows)
         QCOMPARE(fitted(row.value, row.range), row.written);

@@ -1,7 +1,7 @@
 #include "configwindow.h"
 #include "orvtest.h"
 
-#include <OrvCameraGuiApi/camconfig/showcamconfigdialog.h>
+#include <OrvCameraGuiApi/camconfig/featuredialogs.h>
 
 using namespace ConfigTest;
 using DialogTest::Camera;
@@ -56,12 +56,11 @@ void ShowCamConfigDialogTest::showsAndDestroys_data()
     QTest::addColumn<Function>("show");
     QTest::addColumn<QString>("window");
     QTest::newRow("window") << Function(ShowCamConfigDialog) << QStringLiteral("OrvGui::OrvCamConfig");
-    QTest::newRow("Color") << Function(ShowColorDialog) << QStringLiteral("OrvGui::OrvCamConfigColorDialog");
-    QTest::newRow("Frame A/B") << Function(ShowFrameABDialog) << QStringLiteral("OrvGui::OrvCamConfigColorDialog");
-    QTest::newRow("Data Out") << Function(ShowOutputDialog) << QStringLiteral("OrvGui::OrvCamConfigOutputDialog");
-    QTest::newRow("Pulse") << Function(ShowPulseDialog) << QStringLiteral("OrvGui::OrvCamConfigPulseDialog");
-    QTest::newRow("Strobe") << Function(ShowStrobeDialog) << QStringLiteral("OrvGui::OrvCamConfigStrobeDialog");
-    QTest::newRow("Trigger") << Function(ShowTriggerDialog) << QStringLiteral("OrvGui::OrvCamConfigTriggerDialog");
+    for (const OrvGui::FeatureDialog &dialog : OrvGui::featureDialogs()) {
+        const bool isOdd = dialog.show == ShowFrameABDialog; // shows another one
+        const QMetaObject &shown = isOdd ? OrvGui::OrvCamConfigColorDialog::staticMetaObject : *dialog.type;
+        QTest::newRow(dialog.kind) << Function(dialog.show) << QString::fromLatin1(shown.className());
+    }
 }
 
 void ShowCamConfigDialogTest::showsAndDestroys()

@@ -1,12 +1,7 @@
 #pragma once
 
 #include <OrvCameraGuiApi/camconfig/camerastatus.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigcolordialog.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigframeabdialog.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigoutputdialog.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigpulsedialog.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigstrobedialog.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigtriggerdialog.h>
+#include <OrvCameraGuiApi/camconfig/featuredialogs.h>
 #include <OrvCameraGuiApi/camconfig/orvcamconfig.h>
 #include <OrvCameraGuiApi/camconfig/orvcamconfigaboutdialog.h>
 #include <OrvCameraGuiApi/device_selection/orvcameraselectordialog.h>
@@ -34,12 +29,11 @@ inline void addRow(const char *name, Maker make)
 }
 
 /** A feature dialog with a camera and, as it looks before it gets one, without. */
-template <typename Dialog>
-void addFeatureDialog(const char *name)
+inline void addFeatureDialog(const OrvGui::FeatureDialog &dialog)
 {
-    addRow(name, [](OrvCam::System &, OrvCam::Device &camera) { return new Dialog(&camera); });
-    const QByteArray without = QByteArray(name) + " without a camera";
-    addRow(without.constData(), [](OrvCam::System &, OrvCam::Device &) { return new Dialog(nullptr); });
+    addRow(dialog.kind, [&](OrvCam::System &, OrvCam::Device &camera) { return dialog.make(&camera, nullptr); });
+    const QByteArray without = QByteArray(dialog.kind) + " without a camera";
+    addRow(without.constData(), [&](OrvCam::System &, OrvCam::Device &) { return dialog.make(nullptr, nullptr); });
 }
 
 inline void addDeviceSelection()
@@ -74,12 +68,8 @@ inline void addCameraConfiguration()
             dialog->adjustAbout(CameraParams(*params));
         return dialog;
     });
-    addFeatureDialog<OrvCamConfigFrameABDialog>("frame A/B");
-    addFeatureDialog<OrvCamConfigTriggerDialog>("trigger");
-    addFeatureDialog<OrvCamConfigPulseDialog>("pulse");
-    addFeatureDialog<OrvCamConfigStrobeDialog>("strobe");
-    addFeatureDialog<OrvCamConfigOutputDialog>("data output");
-    addFeatureDialog<OrvCamConfigColorDialog>("color");
+    for (const FeatureDialog &dialog : featureDialogs())
+        addFeatureDialog(dialog);
 }
 
 /** A test's data: a row for each window, whose column is a Maker. */

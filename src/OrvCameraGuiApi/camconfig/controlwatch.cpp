@@ -58,7 +58,7 @@ protected:
     }
 };
 
-/** What bears the frame: of a composite the field, which shows the entry. */
+/** The part that gets the frame: the field of a composite, which shows the entry. */
 QWidget *framedPart(QWidget *control)
 {
     if (auto *const composite = qobject_cast<QtOrvSpinBox *>(control))
@@ -123,8 +123,8 @@ bool ControlWatch::isPart(const QObject *object) const
 
 void ControlWatch::mark(const QString &cameraValue)
 {
-    tell(cameraValue.isEmpty() ? tr("Not taken. The camera's value cannot be read.")
-                               : tr("Not taken. The camera has %1.").arg(cameraValue));
+    describe(cameraValue.isEmpty() ? tr("Not taken. The camera's value cannot be read.")
+                                   : tr("Not taken. The camera has %1.").arg(cameraValue));
     if (m_frame)
         return;
     m_frame = new NotTakenFrame(framedPart(m_control));
@@ -138,7 +138,7 @@ void ControlWatch::mark(const QString &cameraValue)
 void ControlWatch::note(const QString &text)
 {
     if (!isMarked())
-        tell(text);
+        describe(text);
 }
 
 void ControlWatch::clear()
@@ -148,7 +148,7 @@ void ControlWatch::clear()
         qApp->removeEventFilter(this);
         delete m_frame;
     }
-    tell(QString());
+    describe(QString());
 }
 
 QString ControlWatch::numberText(std::int64_t number, const QWidget *control)
@@ -163,8 +163,8 @@ QString ControlWatch::valueText(const QString &cameraValue)
     return tr("The camera's value is %1.").arg(cameraValue);
 }
 
-/** The part with the focus bears the text too: that is where assistive tools are. */
-void ControlWatch::tell(const QString &text)
+/** Describes the part with the focus too, because assistive tools read that one. */
+void ControlWatch::describe(const QString &text)
 {
     for (QWidget *const part : {m_control, framedPart(m_control)}) {
         if (text.isEmpty()) {
@@ -182,7 +182,7 @@ void ControlWatch::tell(const QString &text)
     }
 }
 
-/** A message about the entry is no leaving, and neither is another application. */
+/** A message about the entry, or another application, does not count as leaving the control. */
 void ControlWatch::focusChanged(QWidget *now)
 {
     if (!now || qobject_cast<QMessageBox *>(now->window()))
@@ -202,11 +202,11 @@ bool ControlWatch::eventFilter(QObject *watched, QEvent *event)
     case QEvent::Wheel:
         if (!takesWheel(part) || part->hasFocus())
             return false;
-        event->ignore(); // it goes on to what lies around
+        event->ignore(); // it goes on to the surroundings
         return true;
     case QEvent::ShortcutOverride:
     case QEvent::KeyPress:
-        // In a pop-up the key closes that.
+        // In a pop-up the key closes the pop-up.
         if (!isMarked() || part->window() != m_control->window()
             || !static_cast<QKeyEvent *>(event)->matches(QKeySequence::Cancel))
             return false;

@@ -11,15 +11,14 @@
 namespace OrvGui {
 
 /**
- * Watches a control that shows a value of the camera. It keeps from the control what is nobody's entry: the wheel over
- * a part without the focus, which scrolls what lies around instead. And it tells beside the control what the control
- * itself cannot show:
+ * Watches a control that shows a value of the camera. The wheel over a part without the focus does not reach the
+ * control; it scrolls the surroundings instead. The watch shows beside the control what the control itself cannot:
  *
- * - A marked control shows an entry that the camera did not take. A frame says so, and a tool tip that is also spoken
- *   gives the camera's value. Escape and leaving the control ask the owner to take the entry back.
- * - A noted control shows the camera's value as well as it can; the tool tip gives the value itself.
+ * - A marked control shows an entry that the camera did not take. It gets a frame, and its tool tip, which is also
+ *   spoken, gives the camera's value. Escape and leaving the control ask the owner to take the entry back.
+ * - A noted control shows the nearest value that it can; the tool tip gives the camera's value.
  *
- * One is made for each control, as its child, by install().
+ * install() makes one watch for each control, as its child.
  */
 class ControlWatch : public QObject
 {
@@ -37,19 +36,19 @@ public:
     void mark(const QString &cameraValue);
     /** Shows \a text as the control's tool tip; an empty one gives the control its own tool tip back. */
     void note(const QString &text);
-    /** The control shows the camera's value, no more and no less. */
+    /** Takes mark and note away: the control shows the camera's value. */
     void clear();
 
     /** \a number as the field of \a control writes it. */
     static QString numberText(std::int64_t number, const QWidget *control);
 
-    /** What note() is given for a value that the control cannot show. */
+    /** The text of a note about a value that the control cannot show. */
     static QString valueText(const QString &cameraValue);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
-    /** A marked control was left, or Escape was pressed in it: it is to show the camera's value. */
+    /** The user left a marked control, or pressed Escape in it: it should show the camera's value. */
     void entryGivenUp();
 
 private:
@@ -58,12 +57,12 @@ private:
     void keepWheelFrom(QWidget *part);
     bool isPart(const QObject *object) const;
     void focusChanged(QWidget *now);
-    void tell(const QString &text);
+    void describe(const QString &text);
 
     QWidget *const m_control;
     QPointer<QWidget> m_frame; ///< while marked
     bool m_hasFocus = false; ///< since it was marked
-    QHash<QWidget *, QString> m_toolTips; ///< the own ones of the parts that bear a text of ours
+    QHash<QWidget *, QString> m_toolTips; ///< the parts' own tool tips, while they show a description
 };
 
 } // namespace OrvGui

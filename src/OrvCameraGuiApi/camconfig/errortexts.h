@@ -43,7 +43,7 @@ constexpr bool isMarkedForTranslation(OrvCamErr err) noexcept
     return false;
 }
 
-/** Of the codes that may come: all that have names, and what is called unknown around them. */
+/** Checks a range of codes: those with names, and some around them, which are called unknown. */
 constexpr bool areMarkedForTranslation(int first, int last) noexcept
 {
     for (int code = first; code <= last; ++code) {

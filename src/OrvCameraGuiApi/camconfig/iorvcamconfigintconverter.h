@@ -13,10 +13,10 @@ namespace OrvGui {
 class IOrvCamConfigIntConverter
 {
 public:
-    /** What to show for \a deviceValue, which may be a value, a limit or a step of \a param. */
+    /** Returns the number to show for \a deviceValue: a value, a limit or a step of \a param. */
     virtual std::int64_t ToControl(std::int64_t deviceValue, OrvGenParam::Int *param) = 0;
 
-    /** What to write to \a param for \a controlValue. */
+    /** Returns the number to write to \a param for \a controlValue. */
     virtual std::int64_t ToDevice(std::int64_t controlValue, OrvGenParam::Int *param) = 0;
 
 protected:

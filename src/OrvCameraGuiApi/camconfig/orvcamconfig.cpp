@@ -1,12 +1,7 @@
 #include <OrvCameraGuiApi/camconfig/orvcamconfig.h>
 
 #include <OrvCameraGuiApi/camconfig/dialogs/dialogparts.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigcolordialog.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigframeabdialog.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigoutputdialog.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigpulsedialog.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigstrobedialog.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigtriggerdialog.h>
+#include <OrvCameraGuiApi/camconfig/featuredialogs.h>
 #include <OrvCameraGuiApi/camconfig/orvcamconfigaboutdialog.h>
 #include <OrvCameraGuiApi/camconfig/orvcamconfigprivate.h>
 #include <OrvCameraGuiApi/device_selection/devicetreemodel.h>
@@ -14,17 +9,20 @@
 #include <OrvCameraGuiApi/windows/fitscreen.h>
 #include <OrvCameraGuiApi/windows/plaintooltip.h>
 
+#include <QAction>
 #include <QEvent>
 #include <QLabel>
+#include <QPushButton>
 #include <QScreen>
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 #include <utility>
 
 namespace {
 
-/** Gives a camera system back that is not kept. */
+/** Releases a camera system that is not kept. */
 struct SystemReleaser
 {
     void operator()(OrvCam::System *system) const { system->Release(); }
@@ -49,7 +47,7 @@ OrvGui::DeviceIdentity identityOf(OrvCam::DeviceInfo *info)
     return {transport ? QString::fromLatin1(transport->GetID()) : QString(), QString::fromLatin1(info->GetID())};
 }
 
-/** For people; such texts may be missing. */
+/** A name to show; a camera may lack a display name. */
 QString nameOf(OrvCam::DeviceInfo *info)
 {
     const QString name = QString::fromUtf8(info->GetDisplayName());
@@ -92,7 +90,7 @@ OrvCamConfigPrivate::~OrvCamConfigPrivate()
 {
     timer.stop();
     letGo();
-    // Here, as they tell this object when they go.
+    // While this object exists: a dialog reports to it that it is hidden.
     for (const DialogLink &link : std::exchange(dialogs, {}))
         delete link.dialog;
     delete selector;
@@ -112,9 +110,7 @@ void OrvCamConfigPrivate::build()
     ui.lblTemperature->setText(QStringLiteral("%1C").arg(QChar(0x00B0)));
     createDialogs();
     connectActions();
-    adjustViewMenuActions();
     buildStatusBar();
-    initButtons();
     QObject::connect(&timer, &QTimer::timeout, q, [this] { step(); });
 }
 
@@ -142,7 +138,7 @@ void OrvCamConfigPrivate::buildStatusBar()
     QObject::connect(ui.statusbar, &QStatusBar::messageChanged, q, [this](const QString &text) { makeRoomFor(text); });
 }
 
-/** A message that is wider than the window would be cut; the window becomes as wide, as far as the screen goes. */
+/** The window becomes as wide as the message, up to the width of the screen; otherwise the message would be cut. */
 void OrvCamConfigPrivate::makeRoomFor(const QString &message)
 {
     ui.statusbar->setToolTip(plainToolTip(message));
@@ -154,48 +150,50 @@ void OrvCamConfigPrivate::makeRoomFor(const QString &message)
     ui.statusbar->setMinimumWidth(std::min(metrics.horizontalAdvance(message) + beside, widest));
 }
 
-template <typename Dialog>
-void OrvCamConfigPrivate::addDialog(QPushButton *button, QAction *action)
-{
-    auto *const dialog = new Dialog(nullptr, q);
-    QObject::connect(dialog, &Dialog::closing, button, [button] { button->setChecked(false); });
-    dialogs.append({dialog, button, action, [dialog](OrvCam::Device *shown) { dialog->SetDevice(shown); }});
-}
-
+/** The buttons come before the fields when Tab is pressed. */
 void OrvCamConfigPrivate::createDialogs()
 {
-    addDialog<OrvCamConfigFrameABDialog>(ui.pushBtnFrameAB, ui.actionFrame_A_B);
-    addDialog<OrvCamConfigTriggerDialog>(ui.pushBtnTrigger, ui.actionTrigger);
-    addDialog<OrvCamConfigPulseDialog>(ui.pushBtnPulse, ui.actionPulse);
-    addDialog<OrvCamConfigStrobeDialog>(ui.pushBtnStrobe, ui.actionStrobe);
-    addDialog<OrvCamConfigOutputDialog>(ui.pushBtnDataOut, ui.actionData_Out);
-    addDialog<OrvCamConfigColorDialog>(ui.pushBtnColor, ui.actionColor);
-}
-
-void OrvCamConfigPrivate::initButtons()
-{
-    for (const DialogLink &link : qAsConst(dialogs)) {
-        QDialog *const dialog = link.dialog;
-        QObject::connect(link.button, &QPushButton::toggled, dialog, [dialog](bool checked) {
-            if (checked)
-                dialog->show();
-            else if (!dialog->isHidden())
-                dialog->close();
-        });
-        new VisibilityWatch(dialog, [this] { checkViewMenu(); });
+    QWidget *before = ui.lineEditSizeFrameA->previousInFocusChain();
+    for (const FeatureDialog &feature : featureDialogs()) {
+        addDialog(feature);
+        connectDialog(dialogs.constLast());
+        QWidget::setTabOrder(before, dialogs.constLast().button);
+        before = dialogs.constLast().button;
     }
 }
 
-/** An action closes its dialog by its button. */
-void OrvCamConfigPrivate::adjustViewMenuActions()
+void OrvCamConfigPrivate::addDialog(const FeatureDialog &feature)
 {
-    for (const DialogLink &link : qAsConst(dialogs))
-        QObject::connect(link.action, &QAction::toggled, link.button, &QPushButton::setChecked);
+    const QString title = QCoreApplication::translate("OrvCamConfigMainWindow", feature.title);
+    auto *const button = new QPushButton(QIcon(QLatin1String(feature.icon)), title, ui.centralwidget);
+    button->setObjectName(QLatin1String(feature.button));
+    button->setCheckable(true);
+    auto *const action = new QAction(title, q);
+    action->setObjectName(QLatin1String(feature.action));
+    action->setCheckable(true);
+    ui.menuView->addAction(action);
+    dialogs.append({&feature, feature.make(nullptr, q), button, action, !feature.neededFeature});
+}
+
+/** The action sets the button, the button shows or closes the dialog, and both follow the dialog. */
+void OrvCamConfigPrivate::connectDialog(const DialogLink &link)
+{
+    QDialog *const dialog = link.dialog;
+    QPushButton *const button = link.button;
+    QObject::connect(link.action, &QAction::toggled, button, &QPushButton::setChecked);
+    QObject::connect(button, &QPushButton::toggled, dialog, [dialog](bool checked) {
+        if (checked)
+            dialog->show();
+        else if (!dialog->isHidden())
+            dialog->close();
+    });
+    link.feature->onClosing(*dialog, button, [button] { button->setChecked(false); });
+    new VisibilityWatch(dialog, [this] { checkViewMenu(); });
 }
 
 /**
- * The system is held until the device is open; when none is chosen all stays as it is. While the user is asked the
- * world goes on: the camera may go, another device be set, the window be destroyed.
+ * Holds the system until the device is open. Nothing changes when the user chooses no camera. Anything may happen while
+ * the user is asked: the camera may be lost, another device be set, the window be destroyed.
  */
 void OrvCamConfigPrivate::askForCamera()
 {
@@ -212,12 +210,12 @@ void OrvCamConfigPrivate::askForCamera()
     dialog->setModal(true);
     const bool isAccepted = dialog->exec() == QDialog::Accepted;
     OrvCam::DeviceInfo *const chosen = dialog && isAccepted ? dialog->selectedCamera() : nullptr;
-    delete dialog; // its thread has ended before a device is opened
+    delete dialog; // ends its thread before a device is opened
     if (alive && chosen)
         openChosen(chosenFrom.release(), chosen);
 }
 
-/** Takes \a chosenFrom. When the device cannot be opened the window goes back to the former one, where it can. */
+/** Takes over \a chosenFrom. If the device cannot be opened, the window returns to the former one if possible. */
 void OrvCamConfigPrivate::openChosen(OrvCam::System *chosenFrom, OrvCam::DeviceInfo *chosen)
 {
     const DeviceIdentity former = identity;
@@ -240,7 +238,7 @@ void OrvCamConfigPrivate::openChosen(OrvCam::System *chosenFrom, OrvCam::DeviceI
     announceDevice();
 }
 
-/** The last thing that is done: a slot may destroy the window. */
+/** Always called last: a slot may destroy the window. */
 void OrvCamConfigPrivate::announceDevice()
 {
     const bool isOther = std::exchange(announced, device) != device;
@@ -248,7 +246,7 @@ void OrvCamConfigPrivate::announceDevice()
         Q_EMIT q->deviceChanged(device);
 }
 
-/** Opens and adopts a device; otherwise tells why not, and nothing has changed. */
+/** Opens and adopts a device. On failure nothing changes. */
 OrvCamErr OrvCamConfigPrivate::open(OrvCam::DeviceInfo *chosen, const DeviceIdentity &asIdentity)
 {
     OrvCamErr err = OrvCamErr_Ok;
@@ -261,7 +259,7 @@ OrvCamErr OrvCamConfigPrivate::open(OrvCam::DeviceInfo *chosen, const DeviceIden
     return OrvCamErr_Ok;
 }
 
-/** After the former device has been let go, or with that once more. */
+/** The former device has been let go, or is \a newDevice itself. */
 void OrvCamConfigPrivate::adopt(OrvCam::Device *newDevice)
 {
     init(newDevice);
@@ -269,7 +267,7 @@ void OrvCamConfigPrivate::adopt(OrvCam::Device *newDevice)
     setDialogsDevice(newDevice);
 }
 
-/** Nobody uses the device or its parameters any more when it is released, and only then goes the system. */
+/** Releases the device when nothing uses it or its parameters any more, and after that the system. */
 void OrvCamConfigPrivate::letGo()
 {
     setDialogsDevice(nullptr);
@@ -287,13 +285,13 @@ void OrvCamConfigPrivate::letGo()
         formerSystem->Release();
 }
 
-/** Reads the parameters of \a newDevice, which may be null, and starts anew. The callbacks stay as they are. */
+/** Starts again with the parameters of \a newDevice, which may be null. The callbacks stay registered. */
 void OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
 {
     const bool isSame = std::exchange(device, newDevice) == newDevice;
     params = CameraParams();
     isSelecting = false;
-    clearStatus(); // which is read anew, or cannot be
+    clearStatus();
     const bool hasParameters = camera.setDevice(device); // also unbinds the mapper
     awaitsParameters = awaitsParameters && isSame && !hasParameters;
     if (hasParameters)
@@ -306,6 +304,8 @@ void OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
 void OrvCamConfigPrivate::getNeededParams()
 {
     params = CameraParams(*camera.parameters());
+    for (DialogLink &link : dialogs)
+        link.isOffered = !link.feature->neededFeature || camera.enumeration(link.feature->neededFeature);
     hasFrameAB = params.frameAbSelector;
     frameMode = FrameAOnly;
     modeChanged = false;
@@ -320,9 +320,7 @@ void OrvCamConfigPrivate::getNeededParams()
     isModeRepeated = false;
 }
 
-/**
- * Not when a lost camera comes back: it still has them, and what it reports while they are exchanged would be missed.
- */
+/** Not called when a lost camera comes back: its callbacks are still registered, and an event could be missed. */
 void OrvCamConfigPrivate::registerCallbacks()
 {
     if (!device)
@@ -340,13 +338,13 @@ void OrvCamConfigPrivate::unregisterCallbacks()
     device->UnregisterEvent(OrvCam::EventDeviceConnected, CameraConnectCallback, this);
 }
 
-/** On any thread. */
+/** Called on any thread. */
 void OrvCamConfigPrivate::CameraConnectCallback(const void *, unsigned long, void *context)
 {
     static_cast<OrvCamConfigPrivate *>(context)->pendingEvent = Connected;
 }
 
-/** On any thread. */
+/** Called on any thread. */
 void OrvCamConfigPrivate::CameraDisconnectCallback(const void *, unsigned long, void *context)
 {
     static_cast<OrvCamConfigPrivate *>(context)->pendingEvent = Disconnected;
@@ -361,7 +359,7 @@ void OrvCamConfigPrivate::onDisconnectAction()
 void OrvCamConfigPrivate::setDialogsDevice(OrvCam::Device *dialogsDevice)
 {
     for (const DialogLink &link : qAsConst(dialogs))
-        link.setDevice(dialogsDevice);
+        link.feature->setDevice(*link.dialog, dialogsDevice);
 }
 
 OrvCamConfig::OrvCamConfig(OrvCam::Device *device, QWidget *parent, Qt::WindowFlags flags)
@@ -373,7 +371,7 @@ OrvCamConfig::OrvCamConfig(OrvCam::Device *device, QWidget *parent, Qt::WindowFl
     d->announceDevice();
     if (device)
         return;
-    // A parent that goes while the user is asked must not take along what is still being made.
+    // A parent that is destroyed while the user is asked must not destroy a window that is still being constructed.
     QMetaObject::Connection whileAsking;
     if (parent)
         whileAsking = connect(parent, &QObject::destroyed, this, [this] { setParent(nullptr, windowFlags()); });

@@ -11,15 +11,15 @@ namespace OrvGui {
 class OrvCamConfigPrivate;
 
 /**
- * The configuration window of a camera: what it does at present, and the way to the six feature dialogs.
+ * The configuration window of a camera: its status, and buttons that open the feature dialogs.
  *
- * Size, frame rate, frame time, exposure time and temperature are read once a second. Cameras with two frame settings
- * have a column for each; to show both while both are in use, the window selects the other frame for the moment of
- * reading once after that was chosen, and then only reads the frame that is selected. Nothing else is written but what
- * the user sets in the dialogs.
+ * Size, frame rate, frame time, exposure time and temperature are read once a second. A camera with two frame settings
+ * has a column for each. When both become in use, the window selects the other frame once, reads it, and selects the
+ * former one again; after that it only reads the frame that is selected. It writes nothing else, except what the user
+ * sets in the dialogs.
  *
- * The user can connect the window to another camera, and disconnect it. A camera that is lost and comes back is noticed
- * within a second: meanwhile the window, and its dialogs, have no camera.
+ * The user can connect the window to another camera, and disconnect it. The window notices within a second that a
+ * camera is lost, or back again; meanwhile the window and its dialogs have no camera.
  *
  * GUI thread only; events and reports of the camera may come on any thread.
  */
@@ -41,7 +41,7 @@ public:
     /**
      * Shows \a device from now on, or nothing if it is null, and lets the former device go. A device that is given here
      * stays the caller's and has to live until the window is given another one, or none, or is destroyed. The former
-     * one is released if the user had chosen it. The same device again is only read anew.
+     * one is released if the user had chosen it. The same device again is only read again.
      *
      * The user may have let a given device go: then the window does not use it any more, and it is still the caller's.
      */

@@ -27,7 +27,7 @@ OrvCamConfigAboutDialog::OrvCamConfigAboutDialog(QWidget *parent)
 
 OrvCamConfigAboutDialog::~OrvCamConfigAboutDialog() = default;
 
-/** What stands before \a value. */
+/** The caption of \a value. */
 QString OrvCamConfigAboutDialog::captionOf(const QLabel *value) const
 {
     const auto labels = findChildren<QLabel *>();

@@ -8,7 +8,6 @@
 #include <QHash>
 #include <QObject>
 #include <QPointer>
-#include <QSharedPointer>
 #include <QString>
 #include <QVector>
 #include <QWidget>
@@ -32,6 +31,9 @@ class QtOrvSliderSpinBox;
 class QtOrvSpinBox;
 
 namespace OrvGui {
+
+class ControlBinding;
+struct ControlEntry;
 
 /** One widget, or one group of radio buttons, that a feature is bound to. */
 struct OrvCamConfigMapData
@@ -61,35 +63,35 @@ struct OrvCamConfigMapData
 };
 
 /**
- * Binds camera parameters to widgets, in both directions: what the user enters is written to the camera at once, and
- * what the camera reports is shown at once.
+ * Binds camera parameters to widgets, in both directions: an entry of the user is written to the camera at once, and a
+ * report of the camera is shown at once.
  *
- * A binding is known by the parameter's name. It lasts until the parameter is unbound, bound to another widget, or the
- * mapper goes. Neither parameters nor widgets nor converters become the mapper's: a parameter has to live as long as
- * it is bound, so whoever lets a device go calls unmapAll() before, and so does whoever destroys the mapper, which does
- * not unregister itself. A widget may go at any time, a button group and a converter only after unmapping.
+ * A binding is known by the name of the parameter. It lasts until the parameter is unbound or bound to another widget,
+ * or until the mapper is destroyed. The mapper owns neither parameters nor widgets nor converters. A parameter has to
+ * live as long as it is bound: call unmapAll() before the device is let go, and before the mapper is destroyed, because
+ * the mapper does not unregister itself. A widget may be destroyed at any time, a button group and a converter only
+ * after unmapping.
  *
- * Binding takes all connections off the control's own signals; those of the owner are made after it, and again after
- * each new binding.
+ * Binding takes all connections off the control's own signals. The owner makes its connections after each binding.
  *
- * ## What is written
+ * ## Writing
  *
- * An entry: a text that was changed and committed, a step, a drag that moved, a choice; and what the program sets in a
- * bound control. It is written if it differs from the camera's value, whatever the control shows, or if that value
- * cannot be read. Nothing else is: a refresh, a change of range, Return in an untouched field or the wheel over a
- * control without the focus. What hangs on a control's signals during a refresh may bind and unbind, and destroy the
- * mapper, but what it sets in bound controls is not written.
+ * An entry is a text that was changed and committed, a step, a drag that moved or a choice; a value that the program
+ * sets in a bound control is an entry too. It is written if it differs from the camera's value, or if that value cannot
+ * be read; the value that the control shows does not matter. Nothing else is written: no refresh, no change of range,
+ * no Return in an untouched field, no turn of the wheel over a control without the focus. A slot of a control's signals
+ * may bind, unbind and destroy the mapper during a refresh; values that it sets in bound controls are not written.
  *
- * ## What is shown
+ * ## Showing
  *
- * The camera's value. An entry that is dropped without a write makes way for it at once, one that came during a refresh
- * when the event loop runs next. A refused entry stays, with a message and a mark (see ControlWatch), until the
- * camera's next report, Escape, or the focus leaves the control; choosing it again writes it again. A tab widget, whose
- * pages belong to the entries, goes back at once.
+ * Controls show the camera's value. An entry that is dropped without a write is replaced by it at once; one that came
+ * during a refresh, when the event loop runs next. A refused entry stays, with a message and a mark (see ControlWatch),
+ * until the camera's next report, Escape, or the loss of the focus; entering it again writes it again. A tab widget
+ * goes back at once, because its pages belong to the entries.
  *
- * Values, maxima and steps are limited to the upper clamp where a widget shows them, minima only to what an int can
- * hold; the tool tip gives a value that is beyond. What is entered is moved to a step of the parameter, what the camera
- * reports is shown as it is. A field is empty while its value cannot be read.
+ * Values, maxima and steps are limited to the upper clamp, minima only to an int; the tool tip gives a value that is
+ * beyond. An entry is moved to a step of the parameter, a report is shown as it is. A field is empty while its value
+ * cannot be read.
  *
  * GUI thread only, except OnParameterUpdate().
  */
@@ -104,13 +106,13 @@ public:
 
     /**
      * \name Binding
-     * Each answers 1 when the parameter was bound and 0 when it is null; the control, and its companions, are disabled
-     * then. Otherwise they are enabled exactly while the parameter is available and writable. The parameter's former
-     * control, if it was another one, is disabled and disconnected. Controls must not be null.
+     * Returns 1 when the parameter was bound. Returns 0 when it is null, and disables the control and its companions.
+     * Bound controls are enabled exactly while the parameter is available and writable. The parameter's former control,
+     * if it was another one, is disabled and disconnected. Controls must not be null.
      * @{
      */
     int mapIntParam(OrvGenParam::Int *param, QtOrvSpinBox *spinBox);
-    /** \a companions, of which some may be null, follow the state of the parameter: labels and the like. */
+    /** \a companions, labels and the like, are enabled and disabled with the control; some may be null. */
     int mapIntParam(OrvGenParam::Int *param, QtOrvSpinBox *spinBox, const QVector<QWidget *> &companions);
     /** \a converter may be null. */
     int mapIntParam(OrvGenParam::Int *param, QtOrvSliderSpinBox *spinBox, IOrvCamConfigIntConverter *converter);
@@ -126,14 +128,14 @@ public:
     int mapBooleanParam(OrvGenParam::Boolean *param, QAbstractButton *button);
 
     /**
-     * With a \a timer, which may be null, a click disables the button and starts the timer; whoever supplied it
+     * With a \a timer, which may be null, a click disables the button and starts the timer. The supplier of the timer
      * enables the button again.
      */
     int mapCommandParam(OrvGenParam::Command *param, QPushButton *button, QTimer *timer);
 
     /**
-     * Adds \a record to those of the parameter, and registers for it. The control is refreshed and enabled from the
-     * next notification on; what the user does with it is its owner's business. For kinds that nothing here binds.
+     * Adds \a record to those of the parameter, for kinds that nothing here binds. The control is refreshed and enabled
+     * with the parameter; its owner handles what the user enters.
      */
     void addRecord(OrvGenParam::Param *param, const OrvCamConfigMapData &record);
     /** @} */
@@ -147,22 +149,22 @@ public:
     /** Ends all bindings, detaches all controls, companions too, and unregisters from all parameters. */
     void unmapAll();
 
-    /** What \a feature is bound to, the main control first; empty when it is not bound. */
+    /** The records of \a feature, the main control first; empty when it is not bound. */
     QVector<OrvCamConfigMapData> bindings(const QString &feature) const;
 
     /**
-     * \a rule is called whenever a bound parameter has been shown, last, and may do what it likes: for rules of the
-     * owner that decide after the mapper.
+     * \a rule is called last whenever a bound parameter has been shown, for rules of the owner that decide after the
+     * mapper. It may bind, unbind and destroy the mapper.
      */
     void setAfterShow(const std::function<void(OrvGenParam::Param *param)> &rule) { m_afterShow = rule; }
 
-    /** Whether a refresh is going on: entries into bound controls are not written then. */
+    /** Whether a refresh is under way: entries into bound controls are not written then. */
     bool isRefreshing() const { return !m_refreshes->isEmpty(); }
 
     /**
-     * Shows the state of \a param in all that a parameter of its name is bound to. Notifications that come on another
-     * thread than the one the mapper was made on are acted upon when that thread's event loop runs next, once however
-     * many there were, if the parameter is still bound.
+     * Shows the state of \a param in all controls that are bound to its name. On a thread other than the mapper's it
+     * only notes the report; the event loop of the mapper's thread then shows the parameter, once for any number of
+     * reports, if it is still bound.
      */
     void OnParameterUpdate(OrvGenParam::Param *param) override;
 
@@ -179,15 +181,16 @@ public:
     /** @} */
 
     /**
-     * Tells in a modal message box that \a param could not be used; OrvCamErr_Ok tells nothing. Returns at once: the
-     * box lives until it is closed or \a parent, which may be null, goes. A message that is on the screen for the same
-     * \a parent already is not shown twice.
+     * Shows a modal message box: \a param could not be used. OrvCamErr_Ok shows nothing. Returns at once: the box lives
+     * until it is closed or \a parent, which may be null, is destroyed. The same message is not shown twice at a time
+     * for the same \a parent.
      */
     static void showErrorMessage(OrvCamErr err, QWidget *parent, OrvGenParam::Param *param);
 
     /**
-     * Assistive tools meet \a button by its text and before that the name of its group, which is the group's dynamic
-     * property "accessibleName"; without one by the text alone. The mapper does so whenever it gives a button a text.
+     * Sets the accessible name of \a button: the name of its group, which is the group's dynamic property
+     * "accessibleName", and the button's text. Does nothing without that property. The mapper calls this for every
+     * button that it gives a text.
      */
     static void nameButton(QAbstractButton *button);
 
@@ -197,44 +200,30 @@ public:
 
 private:
     class RefreshGuard;
-    struct Entry;
-    struct IntView;
-    using Records = QVector<OrvCamConfigMapData>;
+    using Binding = std::shared_ptr<ControlBinding>;
+    using Bindings = QVector<Binding>;
 
-    bool prepare(OrvGenParam::Param *param, const OrvCamConfigMapData &record);
-    QObject *newContext(const OrvCamConfigMapData &record);
+    Binding prepare(OrvGenParam::Param *param, const OrvCamConfigMapData &record);
+    int bind(OrvGenParam::Param *param, const OrvCamConfigMapData &record);
+    Binding bindingOf(OrvGenParam::Param *param, const OrvCamConfigMapData &record) const;
+    void endEntries(const QObject *control);
+    void unmap(const Binding &binding);
     void watch(OrvGenParam::Param *param, QWidget *control);
     void registerAt(OrvGenParam::Param *param);
-    template <typename Composite>
-    int bindNumber(OrvGenParam::Int *param, Composite *composite, const OrvCamConfigMapData &record);
-    template <typename Param>
-    int mapButton(Param *param, QAbstractButton *button, std::int32_t type);
 
     bool isBarred() const;
-    void enter(const Entry &entry);
-    void dropWhileRefreshing(const Entry &entry);
+    void enter(const ControlEntry &entry);
+    void dropWhileRefreshing(const ControlEntry &entry);
     void settle();
     void takeBack(OrvGenParam::Param *param, QWidget *control);
     void mark(OrvGenParam::Param *param, QWidget *control);
-    QString cameraText(OrvGenParam::Param *param, const QWidget *control) const;
 
     bool show(OrvGenParam::Param *param);
     void refresh(OrvGenParam::Param *param, const OrvCamConfigMapData &record);
-    template <typename Param>
-    void updateButton(Param *param, QAbstractButton *button);
-    static void setEnabled(const OrvCamConfigMapData &record, OrvGenParam::Param *param, bool enabled);
 
-    void nameRadioButtons(OrvGenParam::Enum *param, QButtonGroup *group);
-    void nameTabs(OrvGenParam::Enum *param, QTabWidget *tabWidget);
-    IntView viewOf(OrvGenParam::Int *param, IOrvCamConfigIntConverter *converter) const;
-    template <typename Control>
-    void showInt(OrvGenParam::Int *param, Control *control, IOrvCamConfigIntConverter *converter);
-
-    QHash<QString, Records> m_bindings; ///< by feature name
-    QHash<QString, QHash<QString, int>> m_tabs; ///< by feature name: from an entry's symbolic name to its tab
+    QHash<QString, Bindings> m_bindings; ///< by feature name
     const std::int64_t m_upperClamp;
     QHash<QString, OrvGenParam::Param *> m_params; ///< by feature name: where this is registered
-    QHash<const QObject *, QSharedPointer<QObject>> m_contexts; ///< by control: receives its entries while it is bound
     QHash<QString, unsigned> m_timesShown; ///< by feature name
     QHash<QString, QPointer<QWidget>> m_dropped; ///< by feature name: entered during a refresh, to be taken back
     std::function<void(OrvGenParam::Param *)> m_afterShow;

@@ -6,8 +6,10 @@
 #include <OrvCameraGuiApi/widgets/entryguard.h>
 
 #include <QAbstractSpinBox>
+#include <QAction>
 #include <QDialog>
 #include <QLabel>
+#include <QPushButton>
 
 #include <algorithm>
 #include <utility>
@@ -18,7 +20,7 @@
 
 namespace {
 
-/** After so many steps a report is about something else than what both frames were read for last. */
+/** A report counts again this many steps after both frames were read. */
 const int forgetful = 3;
 
 bool hasParameters(OrvCam::Device *device)
@@ -31,7 +33,7 @@ bool hasParameters(OrvCam::Device *device)
 
 namespace OrvGui {
 
-/** Acts on the last event, if there is one; what happens meanwhile is for the next step. */
+/** Acts on the last event, if there is one. */
 void OrvCamConfigPrivate::step()
 {
     switch (pendingEvent.exchange(NoEvent)) {
@@ -58,7 +60,7 @@ void OrvCamConfigPrivate::step()
     }
 }
 
-/** To read the other frame refreshes all fields of the dialogs, and what is typed in one of them would be lost. */
+/** Reading the other frame refreshes all fields of the dialogs: a text that is being typed would be lost. */
 bool OrvCamConfigPrivate::isTextBeingTyped() const
 {
     return std::any_of(dialogs.begin(), dialogs.end(), [](const DialogLink &link) {
@@ -80,7 +82,7 @@ void OrvCamConfigPrivate::loseCamera()
     updateStatus();
 }
 
-/** A camera may need a while before it tells its parameters. */
+/** A camera may need a while before it has its parameters. */
 void OrvCamConfigPrivate::takeBack()
 {
     init(device);
@@ -98,10 +100,10 @@ void OrvCamConfigPrivate::OnParameterUpdate(OrvGenParam::Param *param)
     if (choice && choice == params.frameAbSelector)
         readSelector();
     else if (choice && choice == params.frameMode)
-        hearOfFrameMode();
+        frameModeReported();
 }
 
-/** False when it cannot be read; what was last known stands then. */
+/** False when it cannot be read; the last known value stays then. */
 bool OrvCamConfigPrivate::readSelector()
 {
     const auto frame = valueOf(params.frameAbSelector);
@@ -110,7 +112,7 @@ bool OrvCamConfigPrivate::readSelector()
     return frame.has_value();
 }
 
-/** Whether it is another one than was last known, which stands when it cannot be read. */
+/** Whether the mode has changed. A mode that cannot be read stays as last known. */
 bool OrvCamConfigPrivate::readFrameMode()
 {
     const auto mode = valueOf(params.frameMode);
@@ -130,13 +132,13 @@ bool OrvCamConfigPrivate::readFrameMode()
 }
 
 /**
- * Reading both frames writes the selector, and may end in a report itself. So a mode that is reported again and again
- * counts once; not at all when it has just been acted upon.
+ * Reading both frames writes the selector, which may itself cause a report. A mode that is reported repeatedly
+ * therefore counts once, and not at all right after both frames were read.
  */
-void OrvCamConfigPrivate::hearOfFrameMode()
+void OrvCamConfigPrivate::frameModeReported()
 {
     if (isSelecting) {
-        isModeReported = true; // where it stays as it is nothing has happened
+        isModeReported = true; // step() acts only if the mode has changed
         return;
     }
     if (readFrameMode() || (!std::exchange(isModeRepeated, true) && stepsSinceBoth >= forgetful))
@@ -162,7 +164,7 @@ void OrvCamConfigPrivate::updateTemperature()
     ui.lineEditTemperature->setText(decimal(params.temperature));
 }
 
-/** The camera tells of the frame that is selected; in which column that stands is the caller's choice. */
+/** Shows the values of the selected frame in the column of \a frame. */
 void OrvCamConfigPrivate::updateInfo(Frame frame)
 {
     const InfoFields &fields = info[frame];
@@ -176,7 +178,7 @@ void OrvCamConfigPrivate::updateInfo(Frame frame)
 /** Selects the other frame for the moment of reading. A frame that cannot be selected is not shown. */
 void OrvCamConfigPrivate::updateBoth()
 {
-    // Anew, as another thread may have changed it just now.
+    // Again, because another thread may just have changed it.
     if (!readSelector())
         return;
     const bool isB = selectorIsB;
@@ -191,8 +193,8 @@ void OrvCamConfigPrivate::updateBoth()
 }
 
 /**
- * False when the camera does not select that frame, or when someone whom it told took the window or the camera away;
- * nothing may be used then.
+ * False when the camera does not select that frame, or when a listener destroyed the window or let the camera go; no
+ * member may be used then.
  */
 bool OrvCamConfigPrivate::selectFrame(const char *frame)
 {
@@ -214,7 +216,7 @@ OrvCamConfigPrivate::Frame OrvCamConfigPrivate::frameBeingRead() const
     return frameMode == FrameBOnly ? FrameB : FrameA;
 }
 
-/** What is not kept up to date is grey, and says so. */
+/** A column that is not kept up to date is grey, and its tool tips say so. */
 void OrvCamConfigPrivate::markColumns()
 {
     const std::array<QLabel *, 2> headers = {ui.lblFrameA, ui.lblFrameB};
@@ -233,7 +235,7 @@ void OrvCamConfigPrivate::markColumns()
     }
 }
 
-/** The usual one when it is not valid. The fields are not disabled: a person may select and copy what they show. */
+/** An invalid \a color restores the usual one. The fields stay enabled so that their texts can be copied. */
 void OrvCamConfigPrivate::setColumnColor(Frame frame, const QColor &color)
 {
     if (std::exchange(columnColors[frame], color) == color)
@@ -272,24 +274,24 @@ void OrvCamConfigPrivate::isShowFrameABStuff(bool show)
         fieldsB[i]->setVisible(show);
     }
     ui.lblFrameB->setVisible(show);
-    ui.actionFrame_A_B->setVisible(show);
-    ui.pushBtnFrameAB->setVisible(show);
-    if (!show)
-        ui.pushBtnFrameAB->setChecked(false);
-    layOutButtons(show);
+    offerDialogs();
 }
 
-/** In rows of three, without a gap where one is hidden. */
-void OrvCamConfigPrivate::layOutButtons(bool withFrameAB)
+/** The buttons stand in rows of three, without a gap where one is hidden. */
+void OrvCamConfigPrivate::offerDialogs()
 {
     constexpr int columns = 3;
     int place = 0;
     for (const DialogLink &link : qAsConst(dialogs)) {
+        link.action->setVisible(link.isOffered);
+        link.button->setVisible(link.isOffered);
         ui.buttonLayout->removeWidget(link.button);
-        if (link.button == ui.pushBtnFrameAB && !withFrameAB)
-            continue;
-        ui.buttonLayout->addWidget(link.button, place / columns, place % columns);
-        ++place;
+        if (link.isOffered) {
+            ui.buttonLayout->addWidget(link.button, place / columns, place % columns);
+            ++place;
+        } else {
+            link.button->setChecked(false);
+        }
     }
 }
 
@@ -309,7 +311,7 @@ void OrvCamConfigPrivate::doLastAdjustment()
     updateStatus();
 }
 
-/** Whichever way a dialog was opened or closed. */
+/** Follows the dialogs, however they were opened or closed. */
 void OrvCamConfigPrivate::checkViewMenu()
 {
     for (const DialogLink &link : qAsConst(dialogs)) {

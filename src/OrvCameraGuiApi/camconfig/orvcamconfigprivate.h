@@ -14,17 +14,29 @@
 
 #include <array>
 #include <atomic>
-#include <functional>
 
 class QDialog;
 class QLabel;
+class QPushButton;
 
 namespace OrvGui {
 
 class OrvCamConfigAboutDialog;
 class OrvCameraSelectorDialog;
 
-/** By which a device is found again in another enumeration; both empty for none. */
+struct FeatureDialog;
+
+/** A feature dialog and what opens and closes it. */
+struct DialogLink
+{
+    const FeatureDialog *feature;
+    QDialog *dialog;
+    QPushButton *button;
+    QAction *action;
+    bool isOffered; ///< the camera, or the last one, has what the dialog needs
+};
+
+/** Identifies a device in another enumeration; both texts are empty for none. */
 struct DeviceIdentity
 {
     QString transport; ///< of its interface
@@ -39,9 +51,9 @@ struct DeviceIdentity
 /**
  * The private part of OrvCamConfig.
  *
- * A camera's life here: adopt() takes a device, init() reads its parameters, letGo() gives it up. A lost device stays,
- * without parameters, until it comes back and has them again, or is let go. Events of the device come on any thread and
- * leave one word in pendingEvent, upon which the timer's step() acts.
+ * adopt() takes a device, init() reads its parameters, letGo() gives it up. A lost device stays, without parameters,
+ * until it comes back and has them again, or is let go. Events of the device come on any thread; they only store one
+ * number in pendingEvent, and the timer's step() acts on it.
  */
 class OrvCamConfigPrivate : public OrvGenParam::ParamEventSink
 {
@@ -60,10 +72,8 @@ public:
     void buildStatusBar();
     void makeRoomFor(const QString &message);
     void createDialogs();
-    template <typename Dialog>
-    void addDialog(QPushButton *button, QAction *action);
-    void initButtons();
-    void adjustViewMenuActions();
+    void addDialog(const FeatureDialog &feature);
+    void connectDialog(const DialogLink &link);
     /** @} */
 
     /** \name The camera @{ */
@@ -84,7 +94,7 @@ public:
     void OnParameterUpdate(OrvGenParam::Param *param) override;
     bool readSelector();
     bool readFrameMode();
-    void hearOfFrameMode();
+    void frameModeReported();
     /** @} */
 
     /** \name What is shown @{ */
@@ -103,7 +113,7 @@ public:
     void clearInfo(Frame frame);
     void clearStatus();
     void isShowFrameABStuff(bool show);
-    void layOutButtons(bool withFrameAB);
+    void offerDialogs();
     void doLastAdjustment();
     void checkViewMenu();
     void closeDialogs();
@@ -119,15 +129,6 @@ public:
         QLineEdit *exposureTime;
 
         std::array<QLineEdit *, 4> all() const { return {size, framesPerSecond, frameTime, exposureTime}; }
-    };
-
-    /** A feature dialog and what opens and closes it. */
-    struct DialogLink
-    {
-        QDialog *dialog;
-        QPushButton *button;
-        QAction *action;
-        std::function<void(OrvCam::Device *)> setDevice;
     };
 
     OrvCamConfig *const q;

@@ -12,8 +12,8 @@
 namespace OrvGui {
 
 /**
- * Brings reports to the thread that it was made on. A key that is reported again before that thread gets to it is
- * received once, so a storm of reports costs no memory. Keys arrive in the order of their first report.
+ * Brings reports to the thread that it was made on. A key that is reported several times before its event loop runs is
+ * received once, so that a storm of reports costs no memory. Keys arrive in the order of their first report.
  */
 template <typename Key>
 class ReportRelay
@@ -28,7 +28,7 @@ public:
     }
     Q_DISABLE_COPY(ReportRelay)
 
-    /** On the relay's own thread false, and nothing happens. On any other thread passes \a key on. */
+    /** False on the relay's own thread, and nothing happens; true on any other thread: \a key is passed on. */
     bool passOn(const Key &key)
     {
         if (QThread::currentThread() == m_context.thread())

@@ -1,58 +1,35 @@
 #include <OrvCameraGuiApi/camconfig/showcamconfigdialog.h>
 
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigcolordialog.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigoutputdialog.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigpulsedialog.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigstrobedialog.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigtriggerdialog.h>
+#include <OrvCameraGuiApi/camconfig/featuredialogs.h>
 #include <OrvCameraGuiApi/camconfig/orvcamconfig.h>
+#include <OrvCameraGuiApi/camconfig/showfeaturedialog.h>
 #include <OrvCameraGuiApi/windows/callerswindow.h>
+
+#include <memory>
 
 namespace OrvGui {
 
-/** The window goes at the end, intentionally. */
-template <typename Window>
-static void show(OrvCam::Device *device, std::uint64_t parentWindowId)
+/** Destroys the window when it returns, intentionally. */
+template <typename Make>
+static void show(std::uint64_t parentWindowId, const Make &make)
 {
     if (!ensureApplication())
         return;
-    Window window(device, widgetOf(parentWindowId));
-    showInFrontOf(window, parentWindowId);
+    const std::unique_ptr<QWidget> window(make(widgetOf(parentWindowId)));
+    showInFrontOf(*window, parentWindowId);
+}
+
+void showFeatureDialog(const char *kind, OrvCam::Device *device, std::uint64_t parentWindowId)
+{
+    for (const FeatureDialog &dialog : featureDialogs()) {
+        if (qstrcmp(dialog.kind, kind) == 0)
+            show(parentWindowId, [&](QWidget *parent) { return dialog.make(device, parent); });
+    }
 }
 
 } // namespace OrvGui
 
 void ShowCamConfigDialog(OrvCam::Device *device, std::uint64_t parentWindowId)
 {
-    OrvGui::show<OrvGui::OrvCamConfig>(device, parentWindowId);
-}
-
-void ShowColorDialog(OrvCam::Device *device, std::uint64_t parentWindowId)
-{
-    OrvGui::show<OrvGui::OrvCamConfigColorDialog>(device, parentWindowId);
-}
-
-void ShowFrameABDialog(OrvCam::Device *device, std::uint64_t parentWindowId)
-{
-    OrvGui::show<OrvGui::OrvCamConfigColorDialog>(device, parentWindowId); // not Frame A/B, intentionally
-}
-
-void ShowOutputDialog(OrvCam::Device *device, std::uint64_t parentWindowId)
-{
-    OrvGui::show<OrvGui::OrvCamConfigOutputDialog>(device, parentWindowId);
-}
-
-void ShowPulseDialog(OrvCam::Device *device, std::uint64_t parentWindowId)
-{
-    OrvGui::show<OrvGui::OrvCamConfigPulseDialog>(device, parentWindowId);
-}
-
-void ShowStrobeDialog(OrvCam::Device *device, std::uint64_t parentWindowId)
-{
-    OrvGui::show<OrvGui::OrvCamConfigStrobeDialog>(device, parentWindowId);
-}
-
-void ShowTriggerDialog(OrvCam::Device *device, std::uint64_t parentWindowId)
-{
-    OrvGui::show<OrvGui::OrvCamConfigTriggerDialog>(device, parentWindowId);
+    OrvGui::show(parentWindowId, [=](QWidget *parent) { return new OrvGui::OrvCamConfig(device, parent); });
 }

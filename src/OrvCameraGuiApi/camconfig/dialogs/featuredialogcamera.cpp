@@ -21,8 +21,8 @@
 namespace {
 
 /**
- * Takes from a dialog the keys that a QDialog would act upon. Escape would hide it without a closeEvent(); Return and
- * Enter, which commit a value on their way, would click a default button, that of a message that just came up included.
+ * Keeps from a dialog the keys that a QDialog acts on. Escape would hide it without a closeEvent(). Return and Enter,
+ * which have committed a value before they arrive here, would click a default button, even that of a new message.
  */
 class DialogKeys : public QObject
 {
@@ -50,7 +50,7 @@ private:
     QDialog *const m_dialog;
 };
 
-/** Lets the caption of a control grey with it. */
+/** Enables and disables the caption of a control with the control. */
 class CaptionFollows : public QObject
 {
 public:
@@ -93,7 +93,7 @@ void forEachComposite(QDialog *dialog, const Action &action)
 
 namespace OrvGui {
 
-/** Tells whether the dialog is on the screen. */
+/** Notices that the dialog is shown or hidden. */
 class FeatureDialogCamera::ShownWatch : public QObject
 {
 public:
@@ -244,7 +244,7 @@ void FeatureDialogCamera::clearControls(QDialog *dialog)
     forEachComposite(dialog, [](auto *composite) { composite->setValue(composite->minimum()); });
 }
 
-/** A camera that is not there has no numbers. Those of a camera are shown anew, for they may have been taken away. */
+/** Without a camera the fields are empty. With one they show their numbers again. */
 void FeatureDialogCamera::showNumbers(QDialog *dialog, bool isShown)
 {
     forEachComposite(dialog, [isShown](auto *composite) {

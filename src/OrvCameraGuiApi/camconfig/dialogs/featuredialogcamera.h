@@ -18,20 +18,11 @@ class QtOrvSpinBox;
 namespace OrvGui {
 
 /**
- * What a feature dialog has to do with its camera: the device, its parameters, the mapper and the sinks of the dialog's
- * own. A member of the dialog's private part; lets the device go when it is destroyed.
+ * The camera of a feature dialog: the device, its parameters, the mapper and the sinks of the dialog's
+ * own. Lets the device go when it is destroyed.
  *
  * A device belongs to its caller and outlives its use here: the dialog is given another one, or none, before the device
  * is released.
- *
- *     bool OrvCamConfigXDialogPrivate::init(OrvCam::Device *device)
- *     {
- *         if (!isBuilt)
- *             build(); // the form, then camera.setUpDialog(q)
- *         if (!camera.setDevice(device, q))
- *             return false;
- *         camera.mapper.mapEnumParam(camera.enumeration("TriggerSource"), ui.cmBoxSource);
- *         ...
  */
 class FeatureDialogCamera
 {
@@ -46,11 +37,14 @@ public:
     bool setDevice(OrvCam::Device *device);
 
     /**
-     * The same for the whole of \a dialog, which is enabled where there are parameters. Nothing of a former camera is
-     * left: lists become empty, numbers the least or, without parameters, nothing at all; buttons are unchecked. The
-     * controls must have no connections but those made by the mapper or with context().
+     * The same for the whole of \a dialog, which is enabled if there are parameters. Nothing of a former camera stays:
+     * lists become empty, buttons unchecked, numbers the least or, without parameters, empty. The controls must have
+     * only connections that were made by the mapper or with context().
      */
     bool setDevice(OrvCam::Device *device, QDialog *dialog);
+
+    /** Unbinds and unregisters all there is; there is no device then. */
+    void letGo();
 
     /** Null unless there are parameters. */
     OrvCam::Device *device() const { return m_device; }
@@ -64,8 +58,8 @@ public:
     /** @} */
 
     /**
-     * The context for the dialog's connections to its controls: they end when the device is let go, those to controls
-     * that could not be bound too. Another one with each device.
+     * The context for the dialog's connections to its controls, bound or not. They end when the device is let go; each
+     * device has a context of its own.
      */
     QObject *context() const { return m_connections.data(); }
 
@@ -74,16 +68,15 @@ public:
     void stopListening(OrvGenParam::Param *param, OrvGenParam::ParamEventSink *sink);
 
     /**
-     * For the head of the dialog's OnParameterUpdate(): false on the GUI thread. On any other thread answers true, and
-     * the sink is called on the GUI thread as soon as that gets to it, once however many reports there were, if it
-     * still listens.
+     * For the head of a sink's OnParameterUpdate(): false on the GUI thread. On any other thread true, and the sink is
+     * called from the event loop of the GUI thread, once for any number of reports, if it still listens.
      */
     bool isForGuiThread(OrvGenParam::Param *param, OrvGenParam::ParamEventSink *sink);
 
     /**
-     * To be called once, after the form is built. No button is a default one, so that Enter commits a value and does
-     * nothing else; Escape closes the dialog like its title bar does, through closeEvent(), also while it is disabled.
-     * A label is enabled while its buddy is. Features that declare a polling time are polled while the dialog is shown.
+     * Called once, after the form is built. No button is a default one, so that Enter only commits a value. Escape
+     * closes the dialog as its title bar does, through closeEvent(), even while it is disabled. A label is enabled
+     * while its buddy is. Features that declare a polling time are polled while the dialog is shown.
      */
     void setUpDialog(QDialog *dialog);
 
@@ -96,7 +89,6 @@ private:
 
     static void clearControls(QDialog *dialog);
     static void showNumbers(QDialog *dialog, bool isShown);
-    void letGo();
     void pollWhileShown(bool isShown);
 
     OrvCam::Device *m_device = nullptr;

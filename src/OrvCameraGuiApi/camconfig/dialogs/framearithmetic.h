@@ -9,12 +9,12 @@
 /**
  * How a camera counts time and gain, and how people do.
  *
- * A camera counts time in lines and in clocks: cycles of its pixel clock, which is told in MHz; the line time is told
- * in clocks. People count microseconds. What does not fit into 64 bits becomes the nearest number that does.
+ * A camera counts time in lines and in clocks. Clocks are cycles of its pixel clock, which is given in MHz; the line
+ * time is given in clocks. People count microseconds. Results beyond 64 bits become the nearest number that fits.
  */
 namespace OrvGui::FrameArithmetic {
 
-/** What turns one into the other. Nothing is divided by a 0: the answer is then 0. */
+/** The factors of the conversion. Where one of them would divide as 0, the result is 0. */
 struct Clock
 {
     std::int64_t pixelClock = 0; ///< MHz
@@ -34,7 +34,7 @@ struct Gain
     std::int64_t fine = 0;
 };
 
-/** What an integer parameter takes: the numbers minimum, minimum + increment and so on, as far as the maximum. */
+/** The numbers that an integer parameter takes: minimum, minimum + increment and so on, up to the maximum. */
 struct IntRange
 {
     std::int64_t minimum = std::numeric_limits<std::int64_t>::min();
@@ -45,7 +45,7 @@ struct IntRange
     static IntRange only(std::int64_t value) { return {value, value, 1}; }
 };
 
-/** What a camera takes of the two parts of a gain. */
+/** The ranges of the two parts of a gain. */
 struct GainRange
 {
     IntRange coarse = IntRange::only(0);
@@ -53,17 +53,17 @@ struct GainRange
 };
 
 /**
- * The nearest number that is taken, the greater one of two; \a value itself if that is, or if none is at all.
+ * The nearest number of the range, the greater one of two; \a value itself if the range is empty.
  */
 std::int64_t fitted(std::int64_t value, const IntRange &range);
 
-/** The same, \a value itself also when there is no \a param or it does not tell what it takes. */
+/** The same for the range of \a param; \a value itself if \a param is null or its range cannot be read. */
 std::int64_t fitted(std::int64_t value, OrvGenParam::Int *param);
 
-/** What \a param takes; nothing when it does not tell, or is null. */
+/** The range of \a param; nothing if it is null or cannot be read. */
 std::optional<IntRange> rangeOf(OrvGenParam::Int *param);
 
-/** In double precision: half a unit is added, and the sum intentionally cut towards 0, also when it is below 0. */
+/** In double precision: half a unit is added, and the sum is intentionally cut towards 0, even if it is negative. */
 std::int64_t microsecondsOfLines(std::int64_t lines, const Clock &clock);
 std::int64_t linesOfMicroseconds(std::int64_t microseconds, const Clock &clock);
 

@@ -1,6 +1,7 @@
 #include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigcolordialog.h>
 
-#include <OrvCameraGuiApi/camconfig/dialogs/featuredialogcamera.h>
+#include <OrvCameraGuiApi/camconfig/dialogs/featuredialogprivate.h>
+#include <OrvCameraGuiApi/camconfig/showfeaturedialog.h>
 
 #include "ui_orvcamconfigcolordialog.h"
 
@@ -25,33 +26,23 @@ struct Coefficient
 
 namespace OrvGui {
 
-class OrvCamConfigColorDialogPrivate : public OrvGenParam::ParamEventSink
+class OrvCamConfigColorDialogPrivate : public FeatureDialogPrivate<OrvCamConfigColorDialog, Ui_OrvCamConfigColorDialog>
 {
 public:
-    explicit OrvCamConfigColorDialogPrivate(OrvCamConfigColorDialog *dialog)
-        : q(dialog)
-    {
-    }
-    Q_DISABLE_COPY(OrvCamConfigColorDialogPrivate)
+    using FeatureDialogPrivate::FeatureDialogPrivate;
+    ~OrvCamConfigColorDialogPrivate() override { camera.letGo(); }
 
-    bool init(OrvCam::Device *device);
-    void build();
+    void build() override;
+    void bind(bool hasParameters) override;
     bool initCoefficient(const Coefficient &coefficient);
     void initStatistics();
-    void OnParameterUpdate(OrvGenParam::Param *param) override;
+    void report(OrvGenParam::Param *param) override;
 
-    OrvCamConfigColorDialog *const q;
-    Ui_OrvCamConfigColorDialog ui;
     std::array<Coefficient, 3> coefficients;
-    bool isBuilt = false;
-    FeatureDialogCamera camera; ///< the last member: lets go before the others are gone
 };
 
-bool OrvCamConfigColorDialogPrivate::init(OrvCam::Device *device)
+void OrvCamConfigColorDialogPrivate::bind(bool)
 {
-    if (!isBuilt)
-        build();
-    const bool hasParameters = camera.setDevice(device, q);
     camera.mapper.mapEnumParam(camera.enumeration("BalanceWhiteAuto"), ui.cmBoxWhiteBalance);
     camera.mapper.mapEnumParam(camera.enumeration("AutoTrackingSpeed"), ui.cmBoxTrackingSpeed);
     bool hasCoefficients = false;
@@ -59,17 +50,13 @@ bool OrvCamConfigColorDialogPrivate::init(OrvCam::Device *device)
         hasCoefficients |= initCoefficient(coefficient);
     ui.grBoxStatistics->setEnabled(hasCoefficients);
     initStatistics();
-    return hasParameters;
 }
 
 void OrvCamConfigColorDialogPrivate::build()
 {
-    ui.setupUi(q);
-    camera.setUpDialog(q);
     coefficients = {{{"RedCoefficient", ui.spBoxRed, ui.pushBtnRedUnity, ui.lblRedCoef},
                      {"GreenCoefficient", ui.spBoxGreen, ui.pushBtnGreenUnity, ui.lblGreenCoef},
                      {"BlueCoefficient", ui.spBoxBlue, ui.pushBtnBlueUnity, ui.lblBlueCoef}}};
-    isBuilt = true;
 }
 
 /** False when the camera does not have it. */
@@ -96,10 +83,8 @@ void OrvCamConfigColorDialogPrivate::initStatistics()
     }
 }
 
-void OrvCamConfigColorDialogPrivate::OnParameterUpdate(OrvGenParam::Param *param)
+void OrvCamConfigColorDialogPrivate::report(OrvGenParam::Param *param)
 {
-    if (camera.isForGuiThread(param, this))
-        return;
     auto *const number = dynamic_cast<OrvGenParam::Int *>(param);
     if (!number || !number->IsReadable())
         return;
@@ -125,8 +110,7 @@ bool OrvCamConfigColorDialog::SetDevice(OrvCam::Device *device)
 
 void OrvCamConfigColorDialog::showEvent(QShowEvent *event)
 {
-    for (const Coefficient &coefficient : d->coefficients)
-        OrvCamConfigMapper::resizeVerticalSlider(coefficient.spinBox);
+    d->fitSliders();
     QDialog::showEvent(event);
 }
 
@@ -137,3 +121,8 @@ void OrvCamConfigColorDialog::closeEvent(QCloseEvent *event)
 }
 
 } // namespace OrvGui
+
+void ShowColorDialog(OrvCam::Device *device, std::uint64_t parentWindowId)
+{
+    OrvGui::showFeatureDialog("color", device, parentWindowId);
+}

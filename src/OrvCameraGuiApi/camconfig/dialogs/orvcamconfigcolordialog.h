@@ -14,8 +14,9 @@ class OrvCamConfigColorDialogPrivate;
  * White balance of a color camera: automatic balance and how fast it follows, the three coefficients, each with a
  * button that sets it to a gain of 1, and the coefficients that the camera uses at the moment.
  *
- * A change is written to the camera at once, and what the camera reports is shown at once; nothing is polled. A write
- * that the camera refuses is told in a message box. What the camera does not have, or does not allow now, is disabled.
+ * A change is written to the camera at once, and a report of the camera is shown at once. Features that declare a
+ * polling time are polled while the dialog is shown. A write that the camera refuses brings a message box. Controls
+ * of features that the camera lacks or locks are disabled.
  *
  * Return commits a value and does nothing else; Escape closes. GUI thread only; reports of the camera may come on any
  * thread.
@@ -30,14 +31,14 @@ public:
     ~OrvCamConfigColorDialog() override;
 
     /**
-     * Shows \a device from now on, or nothing if it is null; false when it has no parameters to show, and all controls
-     * are disabled then. The device stays the caller's and has to live until the dialog is given another one, or none,
-     * or is destroyed.
+     * Shows \a device, or nothing if it is null. False when it has no parameters to show; all controls are disabled
+     * then. The device stays the caller's and has to live until the dialog is given another one, or none, or is
+     * destroyed.
      */
     bool SetDevice(OrvCam::Device *device);
 
 Q_SIGNALS:
-    /** The dialog is about to close, whether by its title bar, by Escape or by close(). */
+    /** The dialog is about to close, by its title bar, by Escape or by close(). */
     void closing();
 
 protected:

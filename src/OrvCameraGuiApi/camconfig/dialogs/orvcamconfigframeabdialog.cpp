@@ -2,8 +2,10 @@
 
 #include <OrvCameraGuiApi/camconfig/controlwatch.h>
 #include <OrvCameraGuiApi/camconfig/dialogs/dialogparts.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/featuredialogcamera.h>
+#include <OrvCameraGuiApi/camconfig/dialogs/featuredialogprivate.h>
 #include <OrvCameraGuiApi/camconfig/dialogs/framearithmetic.h>
+#include <OrvCameraGuiApi/camconfig/parameters.h>
+#include <OrvCameraGuiApi/camconfig/showfeaturedialog.h>
 #include <OrvCameraGuiApi/widgets/entryguard.h>
 #include <OrvCameraGuiApi/widgets/numbertext.h>
 #include <OrvCameraGuiApi/widgets/qtorvdoubleslider.h>
@@ -22,14 +24,12 @@
 
 #include <algorithm>
 #include <initializer_list>
-#include <limits>
 #include <mutex>
 #include <optional>
 #include <utility>
 
 namespace {
 
-const char *const pixelClockFeature = "PixelClock";
 const char *const lineTimeFeature = "Frame_LineTime";
 const char *const linesFeature = "Frame_ExposureLines";
 const char *const clocksFeature = "Frame_ExposureClocks";
@@ -41,35 +41,33 @@ const char *const triggerModeFeature = "TriggerMode";
 const char *const widthActualFeature = "Frame_WidthActual";
 const char *const heightActualFeature = "Frame_HeightActual";
 
-const std::int64_t usualPixelClock = 160; ///< MHz, of cameras that do not tell
+const std::int64_t usualPixelClock = 160; ///< MHz, where it cannot be read
 const double gainStep = 0.125;
 
-/** What the camera said last of the features that the dialog computes with. */
+/** The values last read of the features that the dialog computes with. */
 struct Cached
 {
-    OrvGui::FrameArithmetic::Clock clock;
-    OrvGui::FrameArithmetic::Exposure exposure;
-    OrvGui::FrameArithmetic::Exposure longestExposure;
-    OrvGui::FrameArithmetic::Gain gain;
-    bool isTriggerOn = false; ///< as it was when the camera was set; nothing is computed with it
+    std::int64_t pixelClock = usualPixelClock;
+    std::int64_t lineTime = 0;
+    std::int64_t lines = 0;
+    std::int64_t clocks = 0;
+    std::int64_t mostLines = 0;
+    std::int64_t mostClocks = 0;
+    std::int64_t coarseGain = 0;
+    std::int64_t fineGain = 0;
+    bool isTriggerOn = false; ///< when the camera was set; nothing is computed with it
+
+    OrvGui::FrameArithmetic::Clock clock() const { return {pixelClock, lineTime}; }
+    OrvGui::FrameArithmetic::Exposure exposure() const { return {lines, clocks}; }
+    OrvGui::FrameArithmetic::Exposure longestExposure() const { return {mostLines, mostClocks}; }
+    OrvGui::FrameArithmetic::Gain gain() const { return {coarseGain, fineGain}; }
 };
 
-int toInt(std::int64_t value)
-{
-    using Limits = std::numeric_limits<int>;
-    return int(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
-}
-
-bool isUsable(OrvGenParam::Param *param)
-{
-    return param && param->IsAvailable() && param->IsWritable();
-}
-
-/** Tells the steps of a gain slider from what is typed, dragged or set. */
+/** Tells steps of a gain slider from numbers that are typed, dragged or set. */
 class StepWatch : public QObject
 {
 public:
-    /** For the life of \a gain; the watch goes first. */
+    /** Watches \a gain, which outlives the watch. */
     void watch(QtOrvGainSlider *gain)
     {
         m_field = gain->spinBox();
@@ -82,7 +80,7 @@ public:
 
     bool isStep() const { return m_isStep; }
 
-    /** The number that Return has just committed, as it was typed; none for any other entry. */
+    /** The typed number that Return has just committed; none for any other entry. */
     std::optional<double> typed() const { return m_typed; }
 
     bool eventFilter(QObject *, QEvent *event) override
@@ -124,7 +122,7 @@ private:
     std::optional<double> m_typed;
 };
 
-/** Lets the fields of composites that stand above each other begin at the same place. */
+/** Aligns the fields of composites that stand above each other. */
 template <typename... Composites>
 void alignCaptions(Composites *...composites)
 {
@@ -139,18 +137,17 @@ namespace OrvGui {
 
 using namespace FrameArithmetic;
 
-class OrvCamConfigFrameABDialogPrivate : public IOrvCamConfigIntConverter, public OrvGenParam::ParamEventSink
+class OrvCamConfigFrameABDialogPrivate
+    : public IOrvCamConfigIntConverter,
+      public FeatureDialogPrivate<OrvCamConfigFrameABDialog, Ui_OrvCamConfigFrameABDialog>
 {
 public:
-    explicit OrvCamConfigFrameABDialogPrivate(OrvCamConfigFrameABDialog *dialog)
-        : q(dialog)
-    {
-    }
-    Q_DISABLE_COPY(OrvCamConfigFrameABDialogPrivate)
+    using FeatureDialogPrivate::FeatureDialogPrivate;
+    ~OrvCamConfigFrameABDialogPrivate() override { camera.letGo(); }
 
-    bool init(OrvCam::Device *device);
-    bool setDevice(OrvCam::Device *device);
-    void build();
+    void build() override;
+    bool setDevice(OrvCam::Device *device) override;
+    void bind(bool hasParameters) override;
     void buildExposureTime();
     void buildGain();
     void setCaptions();
@@ -162,11 +159,26 @@ public:
     void initSliders();
     void initTabWidget();
     void initCheckBoxes();
-    void initActualSize();
-    void initDigitalGain();
+
+    /** A feature that the dialog follows: where its value is kept, and what its change entails. */
+    struct Followed
+    {
+        const char *feature;
+        std::int64_t Cached::*value; ///< null: the value is not kept
+        std::int64_t Cached::*maximum; ///< null: the maximum is not kept
+        std::int64_t unreadable; ///< kept when the value cannot be read
+        void (OrvCamConfigFrameABDialogPrivate::*react)();
+    };
+    static const Followed followed[];
+    static const Followed *followedAs(OrvGenParam::Param *param);
 
     Cached cached() const;
     bool cache(OrvGenParam::Int *param);
+    void readExposure();
+    void readGain();
+    void clockChanged();
+    void exposureChanged();
+    void gainChanged();
     bool isBound(const char *feature, const QWidget *control) const;
     auto sameCamera() const;
 
@@ -193,34 +205,26 @@ public:
 
     std::int64_t ToControl(std::int64_t deviceValue, OrvGenParam::Int *param) override;
     std::int64_t ToDevice(std::int64_t controlValue, OrvGenParam::Int *param) override;
-    void OnParameterUpdate(OrvGenParam::Param *param) override;
+    void report(OrvGenParam::Param *param) override;
 
-    OrvCamConfigFrameABDialog *const q;
-    Ui_OrvCamConfigFrameABDialog ui;
     std::pair<QString, QString> pageTitles;
     StepWatch gainSteps;
-    bool isBuilt = false;
     bool isExposureKnown = true; ///< lines and clocks could be read
     bool isGainKnown = true; ///< both parts could be read, as far as the camera has them
     bool isShowing = false; ///< exposure time and gain follow the camera, and are not the user's
     int session = 0; ///< counts the cameras
     Cached values;
     mutable std::mutex mutex; ///< of the values; never held while a control or the camera is called
-    FeatureDialogCamera camera; ///< the last member: lets go before the others are gone
 };
 
-/** Tells, whatever was called meanwhile, whether the dialog still is there and shows the same camera. */
+/** Answers, after any call, whether the dialog still exists and shows the same camera. */
 auto OrvCamConfigFrameABDialogPrivate::sameCamera() const
 {
     return [this, dialog = QPointer<QDialog>(q), current = session] { return dialog && session == current; };
 }
 
-bool OrvCamConfigFrameABDialogPrivate::init(OrvCam::Device *device)
+void OrvCamConfigFrameABDialogPrivate::bind(bool)
 {
-    if (!isBuilt)
-        build();
-    ++session;
-    const bool hasParameters = setDevice(device);
     reset();
     getNeededParams();
     initComboBoxes();
@@ -229,31 +233,29 @@ bool OrvCamConfigFrameABDialogPrivate::init(OrvCam::Device *device)
     initSliders();
     initTabWidget();
     initCheckBoxes();
-    initActualSize();
-    initDigitalGain();
+    showActualSize();
+    updateGain();
     const auto isSame = sameCamera();
     onFrameModeChanged();
     if (isSame())
         updateExposureTime();
-    return hasParameters;
 }
 
 bool OrvCamConfigFrameABDialogPrivate::setDevice(OrvCam::Device *device)
 {
+    ++session;
     const QScopedValueRollback<bool> guard(isShowing, true);
-    return camera.setDevice(device, q);
+    return FeatureDialogPrivate::setDevice(device);
 }
 
 void OrvCamConfigFrameABDialogPrivate::build()
 {
-    ui.setupUi(q);
-    camera.setUpDialog(q);
     setCaptions();
     const auto radioButtons = q->findChildren<QRadioButton *>();
     for (QRadioButton *const button : radioButtons)
         OrvCamConfigMapper::nameButton(button);
     pageTitles = {ui.tabFrames->tabText(0), ui.tabFrames->tabText(1)};
-    // The field that is typed in loses the focus, and with it the text, which would else go to the other frame.
+    // A click on a tab takes the focus from a field, and with it a typed text that would go to the other frame.
     ui.tabFrames->tabBar()->setFocusPolicy(Qt::WheelFocus);
     buildExposureTime();
     buildGain();
@@ -261,10 +263,9 @@ void OrvCamConfigFrameABDialogPrivate::build()
         if (qstrcmp(param->GetName(), selectorFeature) == 0)
             enablePages(); // the mapper enables them by their entries alone
     });
-    isBuilt = true;
 }
 
-/** Not bound to one feature, but it takes entries as the mapper's controls do. */
+/** The mapper does not bind this control, which stands for two features. It takes entries as bound ones do. */
 void OrvCamConfigFrameABDialogPrivate::buildExposureTime()
 {
     QtOrvSliderSpinBox *const time = ui.spBoxExposureTime;
@@ -310,7 +311,7 @@ void OrvCamConfigFrameABDialogPrivate::setCaptions()
     alignCaptions(ui.spBoxOffsetY, ui.spBoxHeight);
 }
 
-/** Nothing is left of the former camera that another one would take for its own. */
+/** Clears what another camera would take over from the former one. */
 void OrvCamConfigFrameABDialogPrivate::reset()
 {
     ControlWatch::of(ui.gainDigital)->clear();
@@ -330,19 +331,38 @@ void OrvCamConfigFrameABDialogPrivate::reset()
     }
     const std::lock_guard<std::mutex> locker(mutex);
     values = Cached();
-    values.clock.pixelClock = usualPixelClock;
+}
+
+const OrvCamConfigFrameABDialogPrivate::Followed OrvCamConfigFrameABDialogPrivate::followed[] = {
+    {"PixelClock", &Cached::pixelClock, nullptr, usualPixelClock, &OrvCamConfigFrameABDialogPrivate::clockChanged},
+    {lineTimeFeature, &Cached::lineTime, nullptr, 0, &OrvCamConfigFrameABDialogPrivate::clockChanged},
+    {linesFeature, &Cached::lines, &Cached::mostLines, 0, &OrvCamConfigFrameABDialogPrivate::exposureChanged},
+    {clocksFeature, &Cached::clocks, &Cached::mostClocks, 0, &OrvCamConfigFrameABDialogPrivate::exposureChanged},
+    {fixedPeriodFeature, nullptr, nullptr, 0, &OrvCamConfigFrameABDialogPrivate::updateExposureTime},
+    {coarseGainFeature, &Cached::coarseGain, nullptr, 0, &OrvCamConfigFrameABDialogPrivate::gainChanged},
+    {fineGainFeature, &Cached::fineGain, nullptr, 0, &OrvCamConfigFrameABDialogPrivate::gainChanged},
+    {widthActualFeature, nullptr, nullptr, 0, &OrvCamConfigFrameABDialogPrivate::showActualSize},
+    {heightActualFeature, nullptr, nullptr, 0, &OrvCamConfigFrameABDialogPrivate::showActualSize}};
+
+/** Null for a feature that is not followed. */
+const OrvCamConfigFrameABDialogPrivate::Followed *
+OrvCamConfigFrameABDialogPrivate::followedAs(OrvGenParam::Param *param)
+{
+    const auto found = std::find_if(std::begin(followed), std::end(followed),
+                                    [=](const Followed &each) { return qstrcmp(each.feature, param->GetName()) == 0; });
+    return found == std::end(followed) ? nullptr : found;
 }
 
 void OrvCamConfigFrameABDialogPrivate::getNeededParams()
 {
-    for (const char *const feature : {pixelClockFeature, lineTimeFeature, linesFeature, clocksFeature}) {
-        if (OrvGenParam::Int *const param = camera.integer(feature)) {
+    for (const Followed &each : followed) {
+        if (OrvGenParam::Int *const param = camera.integer(each.feature)) {
             cache(param);
             camera.listen(param, this);
         }
     }
-    isExposureKnown = readBack({linesFeature, clocksFeature});
-    camera.listen(camera.integer(fixedPeriodFeature), this);
+    readExposure();
+    readGain();
     OrvGenParam::Enum *const triggerMode = camera.enumeration(triggerModeFeature);
     camera.listen(triggerMode, this);
     const bool isTriggerOn = triggerMode && triggerMode->GetValue(nullptr) > 0;
@@ -409,55 +429,24 @@ void OrvCamConfigFrameABDialogPrivate::initCheckBoxes()
         QObject::connect(ui.chBoxFixedPeriod, &QCheckBox::toggled, q, [this] { updateExposureTime(); });
 }
 
-void OrvCamConfigFrameABDialogPrivate::initActualSize()
-{
-    camera.listen(camera.integer(widthActualFeature), this);
-    camera.listen(camera.integer(heightActualFeature), this);
-    showActualSize();
-}
-
-void OrvCamConfigFrameABDialogPrivate::initDigitalGain()
-{
-    for (const char *const feature : {coarseGainFeature, fineGainFeature}) {
-        if (OrvGenParam::Int *const param = camera.integer(feature))
-            camera.listen(param, this);
-    }
-    isGainKnown = readBack({coarseGainFeature, fineGainFeature});
-    updateGain();
-}
-
 Cached OrvCamConfigFrameABDialogPrivate::cached() const
 {
     const std::lock_guard<std::mutex> locker(mutex);
     return values;
 }
 
-/**
- * Takes what the camera says of \a param, and of it alone: others may be about to be written. False when it says
- * nothing.
- */
+/** Reads \a param and no other: another one may be about to be written. False when it cannot be read. */
 bool OrvCamConfigFrameABDialogPrivate::cache(OrvGenParam::Int *param)
 {
-    const QLatin1String name(param->GetName());
+    const Followed *const known = followedAs(param);
     OrvCamErr err = OrvCamErr_Ok;
     const std::int64_t value = param->GetValue(&err);
     const std::int64_t maximum = param->GetMax(nullptr);
     const std::lock_guard<std::mutex> locker(mutex);
-    if (name == QLatin1String(pixelClockFeature)) {
-        values.clock.pixelClock = err == OrvCamErr_Ok ? value : usualPixelClock;
-    } else if (name == QLatin1String(lineTimeFeature)) {
-        values.clock.lineTime = value;
-    } else if (name == QLatin1String(linesFeature)) {
-        values.exposure.lines = value;
-        values.longestExposure.lines = maximum;
-    } else if (name == QLatin1String(clocksFeature)) {
-        values.exposure.clocks = value;
-        values.longestExposure.clocks = maximum;
-    } else if (name == QLatin1String(coarseGainFeature)) {
-        values.gain.coarse = value;
-    } else if (name == QLatin1String(fineGainFeature)) {
-        values.gain.fine = value;
-    }
+    if (known && known->value)
+        values.*known->value = err == OrvCamErr_Ok ? value : known->unreadable;
+    if (known && known->maximum)
+        values.*known->maximum = maximum;
     return err == OrvCamErr_Ok;
 }
 
@@ -467,7 +456,7 @@ bool OrvCamConfigFrameABDialogPrivate::isBound(const char *feature, const QWidge
     return !records.isEmpty() && records.first().control == control;
 }
 
-/** The camera's, as the box may show one that was refused; the box's where that cannot be read. */
+/** The camera's mode, because the box may show a refused one; the box's mode if the camera's cannot be read. */
 QString OrvCamConfigFrameABDialogPrivate::frameMode() const
 {
     OrvGenParam::Enum *const param = camera.enumeration("FrameMode");
@@ -491,13 +480,12 @@ void OrvCamConfigFrameABDialogPrivate::onFrameModeChanged()
         return;
     enablePages();
     // The mapper has selected the frame of a mode that the user chose. After a report the frame on show is selected
-    // when that is over, for it is the one that is edited from now on; unless the camera is let go before.
+    // from the event loop, because it is the one that is edited from now on.
     if (page >= 0 && isReported)
         QTimer::singleShot(0, camera.context(), [this] { selectShownFrame(); });
 }
 
-/** A feature has one control. The line time has two places: one for both frames, one in the settings of a single one.
- */
+/** The line time has two controls, one for both frames and one for a single frame, but a feature is bound to one. */
 void OrvCamConfigFrameABDialogPrivate::bindForMode(bool isSingle)
 {
     QtOrvSliderSpinBox *const lineTime = isSingle ? ui.spBoxLineTime : ui.spBoxDualLineTime;
@@ -529,7 +517,7 @@ bool OrvCamConfigFrameABDialogPrivate::canShow(int page) const
     return (only < 0 || only == page) && (!selector || (entry && entry->IsAvailable()));
 }
 
-/** The page that is shown stays enabled: disabling it would show, and so select, another one. */
+/** The current page stays enabled: disabling it would show another page, and so select another frame. */
 void OrvCamConfigFrameABDialogPrivate::enablePages()
 {
     for (int page = 0; page < ui.tabFrames->count(); ++page)
@@ -572,7 +560,7 @@ void OrvCamConfigFrameABDialogPrivate::showActualSize()
     ui.lblSizeActual->setEnabled(isKnown);
 }
 
-/** While lines or clocks are locked the time is shown all the same, and cannot be changed. */
+/** The time is read-only while lines or clocks are locked. */
 void OrvCamConfigFrameABDialogPrivate::updateExposureTime()
 {
     OrvGenParam::Int *const lines = camera.integer(linesFeature);
@@ -585,12 +573,12 @@ void OrvCamConfigFrameABDialogPrivate::updateExposureTime()
     const bool isLocked = !lines->IsWritable() || !clocks->IsWritable();
     ui.spBoxExposureTime->setReadOnly(isLocked);
     const Cached now = cached();
-    const std::int64_t longest =
-        ui.chBoxFixedPeriod->isChecked() ? ui.spBoxFixedPeriod->value() : exposureTime(now.longestExposure, now.clock);
-    showTime(exposureTime(now.exposure, now.clock), longest);
+    const std::int64_t longest = ui.chBoxFixedPeriod->isChecked() ? ui.spBoxFixedPeriod->value()
+                                                                  : exposureTime(now.longestExposure(), now.clock());
+    showTime(exposureTime(now.exposure(), now.clock()), longest);
 }
 
-/** What shows already is left alone, and with it what is being typed. A time beyond the range is told in words. */
+/** A field that shows the time keeps what is being typed. A time beyond the range goes into the tool tip. */
 void OrvCamConfigFrameABDialogPrivate::showTime(std::int64_t microseconds, std::int64_t longest)
 {
     QtOrvSliderSpinBox *const time = ui.spBoxExposureTime;
@@ -606,16 +594,16 @@ void OrvCamConfigFrameABDialogPrivate::showTime(std::int64_t microseconds, std::
         watch->note(ControlWatch::valueText(ControlWatch::numberText(microseconds, time)));
 }
 
-/** The spin boxes of lines and clocks write, and tell what is refused. The time then shows what the camera has. */
+/** The spin boxes of lines and clocks write, and report what is refused. Then the time shows the camera's values. */
 void OrvCamConfigFrameABDialogPrivate::setExposureTime(int microseconds)
 {
     if (isShowing)
         return;
     const bool isKnown = readBack({linesFeature, clocksFeature});
     const Cached now = cached();
-    const std::optional<Exposure> parts = splitExposure(microseconds, now.clock);
+    const std::optional<Exposure> parts = splitExposure(microseconds, now.clock());
     const auto isSame = sameCamera();
-    if (parts && (!isKnown || exposureTime(now.exposure, now.clock) != microseconds)) {
+    if (parts && (!isKnown || exposureTime(now.exposure(), now.clock()) != microseconds)) {
         if (!setHalf(linesFeature, ui.spBoxExposureLines, parts->lines, isKnown) || !isSame())
             return;
         setHalf(clocksFeature, ui.spBoxExposureClocks, parts->clocks, isKnown);
@@ -628,14 +616,13 @@ void OrvCamConfigFrameABDialogPrivate::setExposureTime(int microseconds)
         if (!isSame())
             return;
     }
-    isExposureKnown = readBack({linesFeature, clocksFeature});
+    readExposure();
     updateExposureTime();
 }
 
 /**
- * By its spin box, which shows the camera's value before, so that it says whatever differs from that. Where the camera
- * does not tell its value, the spin box says nothing for the number that it has meanwhile; then it is written all the
- * same.
+ * Sets the spin box, which first shows the camera's value so that it signals every number that differs. If the camera's
+ * value cannot be read, the spin box may have that number already and signals nothing; then it is written here.
  */
 bool OrvCamConfigFrameABDialogPrivate::setHalf(const char *feature, QtOrvSpinBox *spinBox, std::int64_t value,
                                                bool isKnown)
@@ -651,6 +638,16 @@ bool OrvCamConfigFrameABDialogPrivate::setHalf(const char *feature, QtOrvSpinBox
     else
         spinBox->setValue(toInt(value));
     return isSame();
+}
+
+void OrvCamConfigFrameABDialogPrivate::readExposure()
+{
+    isExposureKnown = readBack({linesFeature, clocksFeature});
+}
+
+void OrvCamConfigFrameABDialogPrivate::readGain()
+{
+    isGainKnown = readBack({coarseGainFeature, fineGainFeature});
 }
 
 /** False when one that the camera has cannot be read. */
@@ -675,9 +672,9 @@ void OrvCamConfigFrameABDialogPrivate::updateGain()
     const Gain lowest{coarse ? coarse->GetMin(nullptr) : 0, fine ? fine->GetMin(nullptr) : 0};
     const Gain highest{coarse ? coarse->GetMax(nullptr) : 0, fine ? fine->GetMax(nullptr) : 0};
     ui.gainDigital->setRange(composedGain(lowest), composedGain(highest));
-    // As the camera has it, which may lie between the steps of the entries; what shows already is left alone.
+    // The camera's gain may lie between the steps. A field that shows it keeps what is being typed.
     QtOrvDoubleSpinBoxVal *const field = ui.gainDigital->spinBox();
-    const double gain = composedGain(cached().gain);
+    const double gain = composedGain(cached().gain());
     if (!SpinSlider::shows(field, gain) || SpinSlider::isEmptied(field))
         SpinSlider::showUnmoved(field, gain);
     if (!isGainKnown)
@@ -685,7 +682,7 @@ void OrvCamConfigFrameABDialogPrivate::updateGain()
     ControlWatch::of(ui.gainDigital)->clear();
 }
 
-/** A step leads on where it is less than what the camera can tell apart. */
+/** A step that is too small for the camera leads to its next gain. */
 Gain OrvCamConfigFrameABDialogPrivate::partsOf(double entered) const
 {
     if (!gainSteps.isStep())
@@ -695,31 +692,31 @@ Gain OrvCamConfigFrameABDialogPrivate::partsOf(double entered) const
         range.coarse = *coarse;
     if (const auto fine = rangeOf(camera.integer(fineGainFeature)))
         range.fine = *fine;
-    return steppedGain(cached().gain, entered, range);
+    return steppedGain(cached().gain(), entered, range);
 }
 
-/** Whether the camera has another gain; of two pairs for one gain it may have either. */
+/** Whether the camera has another gain. Two pairs of parts for the same gain are equal here. */
 bool OrvCamConfigFrameABDialogPrivate::isNews(const Gain &parts) const
 {
     const Gain settable{camera.integer(coarseGainFeature) ? parts.coarse : 0,
                         camera.integer(fineGainFeature) ? parts.fine : 0};
-    return composedGain(settable) != composedGain(cached().gain);
+    return composedGain(settable) != composedGain(cached().gain());
 }
 
-/** What the field shows of the camera's gain, which lies between its steps, was typed again. */
+/** Whether the user typed the number that the field shows for a gain between its steps. */
 bool OrvCamConfigFrameABDialogPrivate::isRetyped() const
 {
     const QtOrvDoubleSpinBoxVal *const field = ui.gainDigital->spinBox();
-    const QString shown = QString::number(composedGain(cached().gain), 'f', field->decimals());
+    const QString shown = QString::number(composedGain(cached().gain()), 'f', field->decimals());
     return gainSteps.typed() == shown.toDouble();
 }
 
-/** A refused half intentionally brings no message: both are read back, and the control is marked. */
+/** A refused half intentionally shows no message: both are read back, and the control is marked. */
 void OrvCamConfigFrameABDialogPrivate::setGain(double gain)
 {
     if (isShowing)
         return;
-    isGainKnown = readBack({coarseGainFeature, fineGainFeature});
+    readGain();
     const Gain parts = partsOf(gain);
     const auto isSame = sameCamera();
     OrvCamErr coarseErr = OrvCamErr_Ok;
@@ -732,46 +729,54 @@ void OrvCamConfigFrameABDialogPrivate::setGain(double gain)
     }
     if (!isSame())
         return;
-    isGainKnown = readBack({coarseGainFeature, fineGainFeature});
+    readGain();
     updateGain();
     const bool isRefused = coarseErr != OrvCamErr_Ok || fineErr != OrvCamErr_Ok;
-    if (isRefused && (!isGainKnown || isNews(parts))) // else the half that was taken was all that differed
+    if (isRefused && (!isGainKnown || isNews(parts))) // else the half that was taken made the gain
         ControlWatch::of(ui.gainDigital)->mark(isGainKnown ? ui.gainDigital->spinBox()->text() : QString());
 }
 
 std::int64_t OrvCamConfigFrameABDialogPrivate::ToControl(std::int64_t deviceValue, OrvGenParam::Int *)
 {
-    return microsecondsOfLines(deviceValue, cached().clock);
+    return microsecondsOfLines(deviceValue, cached().clock());
 }
 
-/** Changed only where the camera would refuse it. */
+/** A number that the camera would refuse becomes the nearest one that it takes. */
 std::int64_t OrvCamConfigFrameABDialogPrivate::ToDevice(std::int64_t controlValue, OrvGenParam::Int *param)
 {
-    const Clock clock = cached().clock;
+    const Clock clock = cached().clock();
     return clock.lineTime == 0 ? 0 : fitted(linesOfMicroseconds(controlValue, clock), param);
 }
 
-void OrvCamConfigFrameABDialogPrivate::OnParameterUpdate(OrvGenParam::Param *param)
+void OrvCamConfigFrameABDialogPrivate::report(OrvGenParam::Param *param)
 {
-    if (camera.isForGuiThread(param, this) || !camera.parameters())
+    if (!camera.parameters())
         return;
-    const QLatin1String name(param->GetName());
     auto *const number =
         param->GetType() == OrvGenParam::ParamTypeInt ? dynamic_cast<OrvGenParam::Int *>(param) : nullptr;
-    if (!number)
+    const Followed *const known = number ? followedAs(number) : nullptr;
+    if (!known)
         return;
     cache(number);
-    if (name == QLatin1String(linesFeature) || name == QLatin1String(clocksFeature))
-        isExposureKnown = readBack({linesFeature, clocksFeature});
-    if (name == QLatin1String(coarseGainFeature) || name == QLatin1String(fineGainFeature))
-        isGainKnown = readBack({coarseGainFeature, fineGainFeature});
-    if (name == QLatin1String(coarseGainFeature) || name == QLatin1String(fineGainFeature))
-        return updateGain();
-    if (name == QLatin1String(widthActualFeature) || name == QLatin1String(heightActualFeature))
-        return showActualSize();
-    if (name == QLatin1String(lineTimeFeature) || name == QLatin1String(pixelClockFeature))
-        showFixedPeriod();
+    (this->*known->react)();
+}
+
+void OrvCamConfigFrameABDialogPrivate::clockChanged()
+{
+    showFixedPeriod();
     updateExposureTime();
+}
+
+void OrvCamConfigFrameABDialogPrivate::exposureChanged()
+{
+    readExposure();
+    updateExposureTime();
+}
+
+void OrvCamConfigFrameABDialogPrivate::gainChanged()
+{
+    readGain();
+    updateGain();
 }
 
 OrvCamConfigFrameABDialog::OrvCamConfigFrameABDialog(OrvCam::Device *device, QWidget *parent)
@@ -790,9 +795,7 @@ bool OrvCamConfigFrameABDialog::SetDevice(OrvCam::Device *device)
 
 void OrvCamConfigFrameABDialog::showEvent(QShowEvent *event)
 {
-    const auto spinBoxes = findChildren<QtOrvSpinBox *>();
-    for (QtOrvSpinBox *const spinBox : spinBoxes)
-        OrvCamConfigMapper::resizeVerticalSlider(spinBox);
+    d->fitSliders();
     QDialog::showEvent(event);
 }
 
@@ -803,3 +806,8 @@ void OrvCamConfigFrameABDialog::closeEvent(QCloseEvent *event)
 }
 
 } // namespace OrvGui
+
+void ShowFrameABDialog(OrvCam::Device *device, std::uint64_t parentWindowId)
+{
+    OrvGui::showFeatureDialog("color", device, parentWindowId); // not Frame A/B, intentionally
+}

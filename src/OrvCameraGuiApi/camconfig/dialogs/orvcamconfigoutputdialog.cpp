@@ -1,6 +1,7 @@
 #include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigoutputdialog.h>
 
-#include <OrvCameraGuiApi/camconfig/dialogs/featuredialogcamera.h>
+#include <OrvCameraGuiApi/camconfig/dialogs/featuredialogprivate.h>
+#include <OrvCameraGuiApi/camconfig/showfeaturedialog.h>
 
 #include "ui_orvcamconfigoutputdialog.h"
 
@@ -11,47 +12,34 @@
 namespace OrvGui {
 
 class OrvCamConfigOutputDialogPrivate
+    : public FeatureDialogPrivate<OrvCamConfigOutputDialog, Ui_OrvCamConfigOutputDialog>
 {
 public:
-    explicit OrvCamConfigOutputDialogPrivate(OrvCamConfigOutputDialog *dialog)
-        : q(dialog)
-    {
-    }
-    Q_DISABLE_COPY(OrvCamConfigOutputDialogPrivate)
+    using FeatureDialogPrivate::FeatureDialogPrivate;
+    ~OrvCamConfigOutputDialogPrivate() override { camera.letGo(); }
 
-    bool init(OrvCam::Device *device);
-    void build();
+    void build() override;
+    void bind(bool hasParameters) override;
     void initComboBoxes();
     void initSpinBoxes();
     void initCheckBoxes();
-
-    OrvCamConfigOutputDialog *const q;
-    Ui_OrvCamConfigOutputDialog ui;
-    bool isBuilt = false;
-    FeatureDialogCamera camera;
 };
 
-bool OrvCamConfigOutputDialogPrivate::init(OrvCam::Device *device)
+void OrvCamConfigOutputDialogPrivate::bind(bool hasParameters)
 {
-    if (!isBuilt)
-        build();
-    if (!camera.setDevice(device, q))
-        return false;
+    if (!hasParameters)
+        return;
     initComboBoxes();
     initSpinBoxes();
     initCheckBoxes();
-    return true;
 }
 
 void OrvCamConfigOutputDialogPrivate::build()
 {
-    ui.setupUi(q);
-    camera.setUpDialog(q);
     for (QtOrvSpinBox *const spinBox : {ui.spBoxDpcDynThres, ui.spBoxHpcDynThres})
         spinBox->setLeftLabelText(OrvCamConfigOutputDialog::tr("Dyn.Thres.:"));
     // Its features stay bound all the same.
     ui.groupBox->hide();
-    isBuilt = true;
 }
 
 void OrvCamConfigOutputDialogPrivate::initComboBoxes()
@@ -95,8 +83,7 @@ bool OrvCamConfigOutputDialog::SetDevice(OrvCam::Device *device)
 
 void OrvCamConfigOutputDialog::showEvent(QShowEvent *event)
 {
-    OrvCamConfigMapper::resizeVerticalSlider(d->ui.spBoxDpcDynThres);
-    OrvCamConfigMapper::resizeVerticalSlider(d->ui.spBoxHpcDynThres);
+    d->fitSliders();
     QDialog::showEvent(event);
 }
 
@@ -107,3 +94,8 @@ void OrvCamConfigOutputDialog::closeEvent(QCloseEvent *event)
 }
 
 } // namespace OrvGui
+
+void ShowOutputDialog(OrvCam::Device *device, std::uint64_t parentWindowId)
+{
+    OrvGui::showFeatureDialog("dataout", device, parentWindowId);
+}

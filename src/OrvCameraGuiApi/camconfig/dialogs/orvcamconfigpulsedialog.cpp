@@ -1,7 +1,8 @@
 #include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigpulsedialog.h>
 
 #include <OrvCameraGuiApi/camconfig/dialogs/dialogparts.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/featuredialogcamera.h>
+#include <OrvCameraGuiApi/camconfig/dialogs/featuredialogprivate.h>
+#include <OrvCameraGuiApi/camconfig/showfeaturedialog.h>
 #include <OrvCameraGuiApi/widgets/qtorvslider.h>
 
 #include "ui_orvcamconfigpulsedialog.h"
@@ -22,7 +23,7 @@ namespace {
 
 const char *const granularityFeature = "PulseGenGranularity";
 
-/** What period and width count. */
+/** The unit of period and width. */
 struct Granularity
 {
     double perSecond = 1'000'000; ///< how many of the unit there are
@@ -66,18 +67,15 @@ QString frequencyText(double hertz)
 
 namespace OrvGui {
 
-class OrvCamConfigPulseDialogPrivate : public OrvGenParam::ParamEventSink
+class OrvCamConfigPulseDialogPrivate : public FeatureDialogPrivate<OrvCamConfigPulseDialog, Ui_OrvCamConfigPulseDialog>
 {
 public:
-    explicit OrvCamConfigPulseDialogPrivate(OrvCamConfigPulseDialog *dialog)
-        : q(dialog)
-    {
-    }
-    Q_DISABLE_COPY(OrvCamConfigPulseDialogPrivate)
+    using FeatureDialogPrivate::FeatureDialogPrivate;
+    ~OrvCamConfigPulseDialogPrivate() override { camera.letGo(); }
 
-    bool init(OrvCam::Device *device);
-    void build();
-    void bind();
+    void build() override;
+    void bind(bool hasParameters) override;
+    void bindControls();
     void connectControls();
     void makeRoomForUnits();
     void updateGranularity();
@@ -85,37 +83,26 @@ public:
     void setButtonState(bool on);
     void showNothing();
     void fixMaximumSize();
-    void OnParameterUpdate(OrvGenParam::Param *param) override;
+    void report(OrvGenParam::Param *param) override;
 
-    OrvCamConfigPulseDialog *const q;
-    Ui_OrvCamConfigPulseDialog ui;
     QButtonGroup modes;
-    bool isBuilt = false;
     std::array<std::pair<QLabel *, QString>, 3> times; ///< each with its text, in which the unit is left open
     Granularity granularity;
-    FeatureDialogCamera camera; ///< the last member: lets go before the others are gone
 };
 
-bool OrvCamConfigPulseDialogPrivate::init(OrvCam::Device *device)
+void OrvCamConfigPulseDialogPrivate::bind(bool hasParameters)
 {
-    if (!isBuilt)
-        build();
-    if (!camera.setDevice(device, q)) {
-        showNothing();
-        return false;
-    }
-    bind();
+    if (!hasParameters)
+        return showNothing();
+    bindControls();
     connectControls();
     makeRoomForUnits();
     updateGranularity();
     setButtonState(ui.pushBtnPulseEnable->isChecked());
-    return true;
 }
 
 void OrvCamConfigPulseDialogPrivate::build()
 {
-    ui.setupUi(q);
-    camera.setUpDialog(q);
     times = {
         {{ui.lblWidth, ui.lblWidth->text()}, {ui.lblPeriod, ui.lblPeriod->text()}, {ui.lblDelay, ui.lblDelay->text()}}};
     for (QtOrvSpinBox *const spinBox : {ui.spBoxPeriod, ui.spBoxWidth, ui.spBoxNumPulses})
@@ -130,10 +117,9 @@ void OrvCamConfigPulseDialogPrivate::build()
     makeRoomForUnits();
     updateGranularity();
     setButtonState(false);
-    isBuilt = true;
 }
 
-void OrvCamConfigPulseDialogPrivate::bind()
+void OrvCamConfigPulseDialogPrivate::bindControls()
 {
     OrvCamConfigMapper &mapper = camera.mapper;
     mapper.mapEnumParam(camera.enumeration(granularityFeature), ui.cmBoxGranularity);
@@ -156,7 +142,7 @@ void OrvCamConfigPulseDialogPrivate::connectControls()
                      [this] { setButtonState(ui.pushBtnPulseEnable->isChecked()); }); // which may be back already
 }
 
-/** For all units that the camera has, so that nothing moves or is cut when another one is chosen. */
+/** Makes room for every unit of the camera, so that nothing moves or is cut when the user chooses another one. */
 void OrvCamConfigPulseDialogPrivate::makeRoomForUnits()
 {
     OrvGenParam::Enum *const entries = camera.enumeration(granularityFeature);
@@ -179,7 +165,7 @@ void OrvCamConfigPulseDialogPrivate::makeRoomForUnits()
         fixMaximumSize();
 }
 
-/** As the camera has it, whatever stands in the list. */
+/** Follows the camera; the list may show a refused entry. */
 void OrvCamConfigPulseDialogPrivate::updateGranularity()
 {
     OrvGenParam::Enum *const param = camera.enumeration(granularityFeature);
@@ -200,7 +186,7 @@ void OrvCamConfigPulseDialogPrivate::updateDelayAndFrequency()
     ui.lineEditFreq->home(false);
 }
 
-/** Of a camera that is gone nothing is left. */
+/** Clears what is computed when there is no camera. */
 void OrvCamConfigPulseDialogPrivate::showNothing()
 {
     updateGranularity();
@@ -214,16 +200,15 @@ void OrvCamConfigPulseDialogPrivate::fixMaximumSize()
     q->setMaximumSize(q->size().expandedTo(q->sizeHint()));
 }
 
-void OrvCamConfigPulseDialogPrivate::OnParameterUpdate(OrvGenParam::Param *param)
+void OrvCamConfigPulseDialogPrivate::report(OrvGenParam::Param *)
 {
-    if (!camera.isForGuiThread(param, this))
-        updateGranularity();
+    updateGranularity();
 }
 
 void OrvCamConfigPulseDialogPrivate::setButtonState(bool on)
 {
     ui.pushBtnPulseEnable->setText(on ? OrvCamConfigPulseDialog::tr("Stop") : OrvCamConfigPulseDialog::tr("Start"));
-    // Anew: with the former text went its keys. They are pressed twice, the same in every language.
+    // A new text takes the shortcut away. The shortcut, pressed twice, is the same in every language.
     constexpr int keys = Qt::CTRL + Qt::SHIFT + Qt::Key_S;
     ui.pushBtnPulseEnable->setShortcut(QKeySequence(keys, keys));
     const QString ball = on ? QStringLiteral(":/icons/greenball.ico") : QStringLiteral(":/icons/redball.ico");
@@ -248,8 +233,7 @@ bool OrvCamConfigPulseDialog::SetDevice(OrvCam::Device *device)
 
 void OrvCamConfigPulseDialog::showEvent(QShowEvent *event)
 {
-    for (QtOrvSpinBox *const spinBox : {d->ui.spBoxPeriod, d->ui.spBoxWidth, d->ui.spBoxNumPulses})
-        OrvCamConfigMapper::resizeHorizontalSlider(spinBox);
+    d->fitSliders();
     d->fixMaximumSize();
     QDialog::showEvent(event);
 }
@@ -261,3 +245,8 @@ void OrvCamConfigPulseDialog::closeEvent(QCloseEvent *event)
 }
 
 } // namespace OrvGui
+
+void ShowPulseDialog(OrvCam::Device *device, std::uint64_t parentWindowId)
+{
+    OrvGui::showFeatureDialog("pulse", device, parentWindowId);
+}

@@ -1,7 +1,8 @@
 #include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigstrobedialog.h>
 
 #include <OrvCameraGuiApi/camconfig/dialogs/dialogparts.h>
-#include <OrvCameraGuiApi/camconfig/dialogs/featuredialogcamera.h>
+#include <OrvCameraGuiApi/camconfig/dialogs/featuredialogprivate.h>
+#include <OrvCameraGuiApi/camconfig/showfeaturedialog.h>
 #include <OrvCameraGuiApi/widgets/qtorvslider.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval.h>
 
@@ -17,10 +18,10 @@ namespace {
 struct Picture
 {
     const char *path;
-    const char *meaning; ///< for those who do not see it
+    const char *meaning; ///< the accessible name
 };
 
-/** By whether strobe 1, and strobe 2, count from the start of the exposure. */
+/** Indexed by whether strobe 1, and strobe 2, count from the start of the exposure. */
 const Picture pictures[2][2] = {
     {{":/images/strobeBothRead.bmp",
       QT_TRANSLATE_NOOP("OrvGui::OrvCamConfigStrobeDialog", "Both strobes count from the start of the readout")},
@@ -38,52 +39,38 @@ const Picture pictures[2][2] = {
 namespace OrvGui {
 
 class OrvCamConfigStrobeDialogPrivate
+    : public FeatureDialogPrivate<OrvCamConfigStrobeDialog, Ui_OrvCamConfigStrobeDialog>
 {
 public:
-    explicit OrvCamConfigStrobeDialogPrivate(OrvCamConfigStrobeDialog *dialog)
-        : q(dialog)
-    {
-    }
-    Q_DISABLE_COPY(OrvCamConfigStrobeDialogPrivate)
+    using FeatureDialogPrivate::FeatureDialogPrivate;
+    ~OrvCamConfigStrobeDialogPrivate() override { camera.letGo(); }
 
-    bool init(OrvCam::Device *device);
-    void build();
+    void build() override;
+    void bind(bool hasParameters) override;
     void initCaptions();
     void initComboBoxes();
     void initSliders();
     void alignSliders();
     void setImageState();
     void show(const Picture &picture);
-
-    OrvCamConfigStrobeDialog *const q;
-    Ui_OrvCamConfigStrobeDialog ui;
-    bool isBuilt = false;
-    FeatureDialogCamera camera; ///< the last member: lets go before the others are gone
 };
 
-bool OrvCamConfigStrobeDialogPrivate::init(OrvCam::Device *device)
+void OrvCamConfigStrobeDialogPrivate::bind(bool hasParameters)
 {
-    if (!isBuilt)
-        build();
-    const bool hasParameters = camera.setDevice(device, q);
     show(pictures[true][true]);
     if (!hasParameters)
-        return false;
+        return;
     initComboBoxes();
     initSliders();
     alignSliders();
-    return true;
 }
 
 void OrvCamConfigStrobeDialogPrivate::build()
 {
-    ui.setupUi(q);
-    camera.setUpDialog(q);
     initCaptions();
     alignSliders();
-    // A reference box that has just been enabled again shows in the picture.
+    // The picture follows a reference box that has just been enabled again.
     camera.mapper.setAfterShow([this](OrvGenParam::Param *) { setImageState(); });
-    isBuilt = true;
 }
 
 void OrvCamConfigStrobeDialogPrivate::initCaptions()
@@ -121,7 +108,7 @@ void OrvCamConfigStrobeDialogPrivate::initSliders()
     }
 }
 
-/** One above the other they begin and end alike, whatever the caption and however large the numbers. */
+/** Aligns the sliders, which stand above each other. */
 void OrvCamConfigStrobeDialogPrivate::alignSliders()
 {
     QtOrvSliderSpinBox *const all[] = {ui.spBoxStrobe1Delay, ui.spBoxStrobe1Width, ui.spBoxStrobe2Delay,
@@ -138,7 +125,7 @@ void OrvCamConfigStrobeDialogPrivate::alignSliders()
     }
 }
 
-/** Any reference but the start of the exposure counts as the readout. */
+/** Every reference other than the start of the exposure counts as the readout. */
 void OrvCamConfigStrobeDialogPrivate::setImageState()
 {
     if (!ui.cmBoxStrobe1Ref->isEnabledTo(q) || !ui.cmBoxStrobe2Ref->isEnabledTo(q))
@@ -176,3 +163,8 @@ void OrvCamConfigStrobeDialog::closeEvent(QCloseEvent *event)
 }
 
 } // namespace OrvGui
+
+void ShowStrobeDialog(OrvCam::Device *device, std::uint64_t parentWindowId)
+{
+    OrvGui::showFeatureDialog("strobe", device, parentWindowId);
+}

@@ -1,6 +1,7 @@
 #include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigtriggerdialog.h>
 
-#include <OrvCameraGuiApi/camconfig/dialogs/featuredialogcamera.h>
+#include <OrvCameraGuiApi/camconfig/dialogs/featuredialogprivate.h>
+#include <OrvCameraGuiApi/camconfig/showfeaturedialog.h>
 
 #include "ui_orvcamconfigtriggerdialog.h"
 
@@ -9,47 +10,34 @@
 namespace OrvGui {
 
 class OrvCamConfigTriggerDialogPrivate
+    : public FeatureDialogPrivate<OrvCamConfigTriggerDialog, Ui_OrvCamConfigTriggerDialog>
 {
 public:
-    explicit OrvCamConfigTriggerDialogPrivate(OrvCamConfigTriggerDialog *dialog)
-        : q(dialog)
-    {
-    }
-    Q_DISABLE_COPY(OrvCamConfigTriggerDialogPrivate)
+    using FeatureDialogPrivate::FeatureDialogPrivate;
+    ~OrvCamConfigTriggerDialogPrivate() override { camera.letGo(); }
 
-    bool init(OrvCam::Device *device);
-    void build();
+    void build() override;
+    void bind(bool hasParameters) override;
     void initCheckBox();
     void initComboBoxes();
     void initButton();
     void applyEnableRule();
     void applySoftwareRule();
-
-    OrvCamConfigTriggerDialog *const q;
-    Ui_OrvCamConfigTriggerDialog ui;
-    bool isBuilt = false;
-    FeatureDialogCamera camera; ///< the last member: lets go before the others are gone
 };
 
-bool OrvCamConfigTriggerDialogPrivate::init(OrvCam::Device *device)
+void OrvCamConfigTriggerDialogPrivate::bind(bool hasParameters)
 {
-    if (!isBuilt)
-        build();
-    if (!camera.setDevice(device, q))
-        return false;
+    if (!hasParameters)
+        return;
     initCheckBox();
     initComboBoxes();
     initButton();
     applyEnableRule();
-    return true;
 }
 
 void OrvCamConfigTriggerDialogPrivate::build()
 {
-    ui.setupUi(q);
-    camera.setUpDialog(q);
     camera.mapper.setAfterShow([this](OrvGenParam::Param *) { applyEnableRule(); });
-    isBuilt = true;
 }
 
 void OrvCamConfigTriggerDialogPrivate::initCheckBox()
@@ -74,7 +62,7 @@ void OrvCamConfigTriggerDialogPrivate::initButton()
         camera.mapper.mapCommandParam(param, ui.pushBtnSoftwareTrigger, nullptr);
 }
 
-/** Decides alone, whatever the features themselves allow, and also for those that the camera does not have. */
+/** The only rule: it does not depend on the access to the features, nor on whether the camera has them. */
 void OrvCamConfigTriggerDialogPrivate::applyEnableRule()
 {
     for (QComboBox *const comboBox : {ui.cmBoxSource, ui.cmBoxEdge, ui.cmBoxDebounce})
@@ -109,3 +97,8 @@ void OrvCamConfigTriggerDialog::closeEvent(QCloseEvent *event)
 }
 
 } // namespace OrvGui
+
+void ShowTriggerDialog(OrvCam::Device *device, std::uint64_t parentWindowId)
+{
+    OrvGui::showFeatureDialog("trigger", device, parentWindowId);
+}

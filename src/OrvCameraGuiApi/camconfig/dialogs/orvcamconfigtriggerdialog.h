@@ -11,13 +11,13 @@ namespace OrvGui {
 class OrvCamConfigTriggerDialogPrivate;
 
 /**
- * What triggers a camera: whether triggering is on, its source, edge and debounce time, and a button that triggers.
+ * The trigger of a camera: whether triggering is on, its source, edge and debounce time, and a button that triggers.
  *
- * The lists are enabled exactly while triggering is on, the button while the source is "Software" besides, whatever the
- * features themselves allow; what cannot be written is not.
+ * The lists are enabled exactly while triggering is on, the button while the source is also "Software", even if the
+ * features cannot be written; then nothing is written.
  *
- * A change is written to the camera at once, and what the camera reports is shown at once; nothing is polled. A write
- * that the camera refuses is told in a message box.
+ * A change is written to the camera at once, and a report of the camera is shown at once. Features that declare a
+ * polling time are polled while the dialog is shown. A write that the camera refuses brings a message box.
  *
  * Return commits a value and does nothing else; Escape closes. GUI thread only; reports of the camera may come on any
  * thread.
@@ -32,14 +32,13 @@ public:
     ~OrvCamConfigTriggerDialog() override;
 
     /**
-     * Shows \a device from now on, or nothing if it is null; false when it has no parameters to show, and the dialog is
-     * disabled then. The device stays the caller's and has to live until the dialog is given another one, or none, or
-     * is destroyed.
+     * Shows \a device, or nothing if it is null. False when it has no parameters to show; the dialog is disabled then.
+     * The device stays the caller's and has to live until the dialog is given another one, or none, or is destroyed.
      */
     bool SetDevice(OrvCam::Device *device);
 
 Q_SIGNALS:
-    /** The dialog is about to close, whether by its title bar, by Escape or by close(). */
+    /** The dialog is about to close, by its title bar, by Escape or by close(). */
     void closing();
 
 protected:

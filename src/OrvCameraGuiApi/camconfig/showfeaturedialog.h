@@ -1,0 +1,10 @@
+#pragma once
+
+#include <OrvCameraGuiApi/camconfig/showcamconfigdialog.h>
+
+namespace OrvGui {
+
+/** Shows the dialog of that kind, see featureDialogs(), and destroys it: the body of its C function. */
+void showFeatureDialog(const char *kind, OrvCam::Device *device, std::uint64_t parentWindowId);
+
+} // namespace OrvGui
