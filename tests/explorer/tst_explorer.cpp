@@ -1,5 +1,7 @@
 #include "orvtest.h"
 
+#include <OrvCameraGuiApi/camconfig/featuredialogs.h>
+
 #include <QDirIterator>
 #include <QImage>
 #include <QProcess>
@@ -123,9 +125,10 @@ void ExplorerTest::drawsItsWindow_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QStringList>("pictures");
     const auto list = [](const char *names) { return QString::fromLatin1(names).split(QLatin1Char(' ')); };
-    QTest::newRow("simulated camera") << QStringList()
-                                      << list("explorer widgets filteroptions filter errors about configwindow frameab "
-                                              "trigger pulse strobe dataout color setip selectcamera");
+    QStringList pictures = list("explorer widgets filteroptions filter errors about configwindow");
+    for (const OrvGui::FeatureDialog &dialog : OrvGui::featureDialogs())
+        pictures.append(QLatin1String(dialog.kind));
+    QTest::newRow("simulated camera") << QStringList() << pictures + list("setip selectcamera");
     QTest::newRow("description") << QStringList{QStringLiteral("--xml"), dataFile("probe.xml")}
                                  << list("explorer widgets filteroptions filter errors setip selectcamera");
 }
