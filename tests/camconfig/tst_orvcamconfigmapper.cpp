@@ -1,7 +1,7 @@
 #include "dialogtest.h"
 #include "fakeparams.h"
+#include "input.h"
 #include "orvtest.h"
-#include "sliderhandle.h"
 
 #include <OrvCameraGuiApi/camconfig/controlwatch.h>
 #include <OrvCameraGuiApi/camconfig/orvcamconfigmapper.h>

@@ -1,6 +1,6 @@
 #include "bindings.h"
 #include "dialogtest.h"
-#include "sliderhandle.h"
+#include "input.h"
 
 #include <OrvCameraGuiApi/camconfig/controlwatch.h>
 
