@@ -78,8 +78,10 @@ public:
      */
     int64_t evaluateInt(Symbols &symbols) const;
 
-    /** The value of a formula of Kind::Float, which may be infinite or no number. A division by zero throws
-     * FormulaError. */
+    /**
+     * The value of a formula of Kind::Float, which may be infinite or no number. A division by zero, or by what is
+     * nearer to it than the epsilon, throws FormulaError.
+     */
     double evaluateFloat(Symbols &symbols) const;
 
     Kind kind() const { return m_kind; }
