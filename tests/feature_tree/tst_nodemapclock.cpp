@@ -53,6 +53,29 @@ public:
     {
         return m_camera.map->Connect(port, name);
     }
+    bool Connect(GenApi::IPort *port) const override { return m_camera.map->Connect(port); }
+    bool Connect(GenApi::IPortStacked *port, const GenICam::gcstring &name) override
+    {
+        return m_camera.map->Connect(port, name);
+    }
+    bool Connect(GenApi::IPortStacked *port) override { return m_camera.map->Connect(port); }
+    bool ParseSwissKnifes(GenICam::gcstring_vector *errors) const override
+    {
+        return m_camera.map->ParseSwissKnifes(errors);
+    }
+    GenApi::CNodeWriteConcatenator *NewNodeWriteConcatenator() const override
+    {
+        return m_camera.map->NewNodeWriteConcatenator();
+    }
+    bool ConcatenatedWrite(GenApi::CNodeWriteConcatenator *writes, bool streaming,
+                           GenICam::gcstring_vector *errors) override
+    {
+        return m_camera.map->ConcatenatedWrite(writes, streaming, errors);
+    }
+    void SetSuppressCallbackMode(GenApi::ECallbackSuppressMode mode) override
+    {
+        m_camera.map->SetSuppressCallbackMode(mode);
+    }
 
     int64_t time() const { return std::accumulate(polls.begin(), polls.end(), int64_t(0)); }
 
