@@ -30,14 +30,13 @@ void CategoryNode::setText(const std::string &, bool, Changes &)
 }
 
 /**
- * Conditions of a category decide only whether it is implemented: what stands in it may be looked at. Once it has been
- * found to be there it stays, whatever becomes of its features, which are not asked again.
+ * Conditions of a category decide only whether it is implemented: what stands in it may be looked at.
  */
 EAccessMode CategoryNode::computeAccessMode() const
 {
     try {
-        m_isThere = m_isThere || (isImplemented() && hasImplemented());
-        return combined(combined(imposedAccess(), RO), m_isThere ? RW : NI);
+        const bool isThere = isImplemented() && hasImplemented();
+        return combined(combined(imposedAccess(), RO), isThere ? RW : NI);
     } catch (...) {
         forgetAccess(); // told every time
         throw;
@@ -71,8 +70,6 @@ bool CategoryNode::hasImplemented() const
             continue;
         }
         const auto inner = static_cast<const CategoryNode *>(feature);
-        if (inner->m_isThere)
-            return true;
         if (inner->m_searchMark == mark)
             continue;
         inner->m_searchMark = mark;

@@ -43,7 +43,6 @@ private:
     std::vector<Node *> m_features;
     GenApi::EVisibility m_derivedVisibility = GenApi::Invisible;
     mutable uint64_t m_searchMark = 0; ///< the last search for an implemented feature that came here
-    mutable bool m_isThere = false; ///< an implemented feature has been found
 };
 
 /** A truth value kept as one of two integers. */
