@@ -86,7 +86,7 @@ class Node : public GenApi::INode, public GenApi::ISelector, public GenApi::IUse
 {
 public:
     Node(NodeMapImpl &map, const char *name);
-    virtual ~Node();
+    ~Node() override;
     Node(const Node &) = delete;
     Node &operator=(const Node &) = delete;
 
