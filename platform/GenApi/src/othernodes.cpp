@@ -167,7 +167,7 @@ bool CommandNode::IsDone(bool Verify)
 
 gcstring CommandNode::ToString(bool Verify, bool IgnoreCache)
 {
-    const gcstring text = ValueNode::ToString(Verify, IgnoreCache);
+    gcstring text = ValueNode::ToString(Verify, IgnoreCache);
     if (text == "0")
         end(Verify);
     return text;

@@ -6,6 +6,7 @@
 #include <functional>
 #include <set>
 #include <sstream>
+#include <utility>
 
 namespace GENAPI_NAMESPACE {
 
@@ -36,7 +37,7 @@ void CSelectorState::AddSelector(IValue &item)
 
 void CSelectorState::AddSelector(gcstring name, gcstring value)
 {
-    m_selectors.emplace_back(name, value);
+    m_selectors.emplace_back(std::move(name), std::move(value));
 }
 
 gcstring CSelectorState::GetNodeName()
@@ -106,7 +107,7 @@ private:
 
     static void findSelectors(INode *node, Selectors &selectors);
     static std::vector<gcstring> valuesOf(IValue &selector);
-    void addForEach(IValue &feature, const Selectors &selectors, std::size_t place, CSelectorState state);
+    void addForEach(IValue &feature, const Selectors &selectors, std::size_t place, const CSelectorState &state);
     void addValue(IValue &feature, const CSelectorState &state);
 
     CFeatureBag &m_bag;
@@ -167,7 +168,7 @@ void BagFiller::addValue(IValue &feature, const CSelectorState &state)
     ++m_count;
 }
 
-void BagFiller::addForEach(IValue &feature, const Selectors &selectors, std::size_t place, CSelectorState state)
+void BagFiller::addForEach(IValue &feature, const Selectors &selectors, std::size_t place, const CSelectorState &state)
 {
     if (place == selectors.size()) {
         addValue(feature, state);
@@ -180,7 +181,7 @@ void BagFiller::addForEach(IValue &feature, const Selectors &selectors, std::siz
             selector.FromString(value);
         CSelectorState extended = state;
         extended.AddSelector(selector.GetNode()->GetName(), value);
-        addForEach(feature, selectors, place + 1, std::move(extended));
+        addForEach(feature, selectors, place + 1, extended);
     }
 }
 

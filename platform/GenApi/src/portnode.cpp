@@ -87,6 +87,7 @@ void PortNode::writeStack()
     std::vector<StackedWrite> writes;
     writes.swap(*m_stack);
     std::vector<PORT_REGISTER_STACK_ENTRY> entries;
+    entries.reserve(writes.size());
     for (StackedWrite &write : writes)
         entries.push_back({static_cast<uint64_t>(write.address), write.bytes.data(), write.bytes.size()});
     guarded("writing", [&] { dynamic_cast<IPortStacked &>(*connected()).Write(entries.data(), entries.size()); });
