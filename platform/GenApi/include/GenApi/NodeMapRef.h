@@ -46,7 +46,8 @@ public:
     }
     CNodeMapRefT &operator=(const CNodeMapRefT &Them)
     {
-        share(Them);
+        if (&Them != this)
+            share(Them);
         return *this;
     }
     CNodeMapRefT &operator=(INodeMap *pNodeMap)
@@ -55,7 +56,7 @@ public:
         take(pNodeMap);
         return *this;
     }
-    virtual ~CNodeMapRefT() = default;
+    virtual ~CNodeMapRefT() = default; // NOLINT(modernize-use-override): the base of a generated class may have none
 
     /** Lets go of the map. */
     void _Destroy()
