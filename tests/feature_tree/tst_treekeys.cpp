@@ -1,7 +1,7 @@
 #include "orvtest.h"
 #include "shownview.h"
 
-#include <OrvCameraGuiApi/feature_tree/readabledelegate.h>
+#include <OrvCameraGuiApi/windows/readabledelegate.h>
 
 #include <OrvGenApi/testing/faults.h>
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <locale>
 #include <sstream>
 #include <unordered_map>
 
@@ -111,6 +112,7 @@ std::string normalized(const std::string &kind, const std::string &name, const s
     if (isNumber && (name == "NumericValue" || contains(floatKinds, kind))) {
         if (const std::optional<double> value = parseFloat(text)) {
             std::ostringstream written;
+            written.imbue(std::locale::classic()); // whatever the program has made the global one
             written.precision(15);
             written << *value;
             return written.str();

@@ -2,6 +2,7 @@
 
 #include <OrvCameraGuiApi/camconfig/controlwatch.h>
 #include <OrvCameraGuiApi/camconfig/parameters.h>
+#include <OrvCameraGuiApi/widgets/integers.h>
 
 #include <QAbstractButton>
 #include <QButtonGroup>
@@ -221,7 +222,7 @@ private:
         m_meanings.last().value = value;
         button->setText(nameOf(entry));
         OrvCamConfigMapper::nameButton(button);
-        if (value == toInt(value))
+        if (value == Integers::clampedToInt(value))
             group()->setId(button, int(value));
     }
 

@@ -2,6 +2,7 @@
 #include <OrvCameraGuiApi/camconfig/controlwatch.h>
 #include <OrvCameraGuiApi/camconfig/parameters.h>
 #include <OrvCameraGuiApi/widgets/entryguard.h>
+#include <OrvCameraGuiApi/widgets/integers.h>
 #include <OrvCameraGuiApi/widgets/qtorvslider.h>
 #include <OrvCameraGuiApi/widgets/qtorvsliderspinbox.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinbox.h>
@@ -113,7 +114,7 @@ public:
         auto *const validator = qobject_cast<QIntValidator *>(const_cast<QValidator *>(lineEdit->validator()));
         if (validator) {
             const std::int64_t maximum = std::min(number->GetMax(nullptr), upperClamp);
-            validator->setRange(toInt(number->GetMin(nullptr)), toInt(maximum));
+            validator->setRange(Integers::clampedToInt(number->GetMin(nullptr)), Integers::clampedToInt(maximum));
         }
         OrvCamErr err = OrvCamErr_Ok;
         const std::int64_t value = std::min(number->GetValue(&err), upperClamp);
@@ -163,12 +164,14 @@ private:
     {
         OrvCamErr err = OrvCamErr_Ok;
         IntView view;
-        view.minimum = toInt(toControl(param->GetMin(nullptr), param));
-        view.maximum = std::max(view.minimum, toInt(std::min(toControl(param->GetMax(nullptr), param), upperClamp)));
-        view.step = std::max(1, toInt(toControl(param->GetIncrement(nullptr), param)));
+        view.minimum = Integers::clampedToInt(toControl(param->GetMin(nullptr), param));
+        view.maximum = std::max(view.minimum,
+                                Integers::clampedToInt(std::min(toControl(param->GetMax(nullptr), param), upperClamp)));
+        view.step = std::max(1, Integers::clampedToInt(toControl(param->GetIncrement(nullptr), param)));
         view.trueValue = toControl(param->GetValue(&err), param);
         view.isKnown = err == OrvCamErr_Ok;
-        view.value = std::clamp(toInt(std::min(view.trueValue, upperClamp)), view.minimum, view.maximum);
+        view.value =
+            std::clamp(Integers::clampedToInt(std::min(view.trueValue, upperClamp)), view.minimum, view.maximum);
         return view;
     }
 };

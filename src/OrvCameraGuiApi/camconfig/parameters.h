@@ -5,9 +5,7 @@
 #include <QByteArray>
 #include <QString>
 
-#include <algorithm>
 #include <cstdint>
-#include <limits>
 
 /** \file Questions to parameters that several places ask. */
 
@@ -27,13 +25,6 @@ inline QString nameOf(OrvGenParam::EnumEntry *entry)
 inline bool isUsable(OrvGenParam::Param *param)
 {
     return param && param->IsAvailable() && param->IsWritable();
-}
-
-/** The nearest int. */
-inline int toInt(std::int64_t value)
-{
-    using Limits = std::numeric_limits<int>;
-    return int(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
 }
 
 /** The symbolic value, else the number; empty when it cannot be read. */

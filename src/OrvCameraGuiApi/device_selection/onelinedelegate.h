@@ -1,6 +1,6 @@
 #pragma once
 
-#include <OrvCameraGuiApi/feature_tree/readabledelegate.h>
+#include <OrvCameraGuiApi/windows/readabledelegate.h>
 
 /** As much of a text as a person reads; laying out more takes time, and a text of a camera may be of any length. */
 QString shortened(const QString &text);

@@ -1,6 +1,5 @@
 #include <OrvCameraGuiApi/device_selection/systempolling.h>
 
-#include <exception>
 #include <system_error>
 
 std::chrono::milliseconds SystemPolling::period(1000);
@@ -47,8 +46,9 @@ void SystemPolling::run(std::chrono::milliseconds pause)
         lock.unlock();
         try {
             m_step();
-        } catch (const std::exception &) {
-            // A library of somebody else's: it may do better next time, and must not end the process from here.
+        } catch (...) {
+            // A library of somebody else's, whose exceptions need not be std::exception: it may do better next time,
+            // and must not end the process from here.
         }
         lock.lock();
         m_wake.wait_for(lock, pause, [this] { return !m_isOn; });

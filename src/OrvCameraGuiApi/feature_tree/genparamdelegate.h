@@ -1,6 +1,6 @@
 #pragma once
 
-#include <OrvCameraGuiApi/feature_tree/readabledelegate.h>
+#include <OrvCameraGuiApi/windows/readabledelegate.h>
 
 class QKeyEvent;
 

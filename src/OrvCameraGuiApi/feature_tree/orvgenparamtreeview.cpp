@@ -12,10 +12,10 @@
 #include <OrvCameraGuiApi/feature_tree/genparamtreevisibilityfilterproxymodel.h>
 #include <OrvCameraGuiApi/feature_tree/nodemapclock.h>
 #include <OrvCameraGuiApi/feature_tree/opencalls.h>
-#include <OrvCameraGuiApi/feature_tree/readabledelegate.h>
 #include <OrvCameraGuiApi/feature_tree/treestate.h>
 #include <OrvCameraGuiApi/feature_tree/treeviewresizer.h>
 #include <OrvCameraGuiApi/windows/fitscreen.h>
+#include <OrvCameraGuiApi/windows/readabledelegate.h>
 
 #include "ui_genparamtreeview.h"
 

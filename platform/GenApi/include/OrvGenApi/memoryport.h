@@ -21,7 +21,7 @@ public:
     using Background = std::function<uint8_t(uint64_t address)>;
 
     explicit MemoryPort(Background background = {});
-    virtual ~MemoryPort();
+    ~MemoryPort() override;
     MemoryPort(const MemoryPort &) = delete;
     MemoryPort &operator=(const MemoryPort &) = delete;
 

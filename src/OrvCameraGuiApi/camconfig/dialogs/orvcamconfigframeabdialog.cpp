@@ -7,6 +7,7 @@
 #include <OrvCameraGuiApi/camconfig/parameters.h>
 #include <OrvCameraGuiApi/camconfig/showfeaturedialog.h>
 #include <OrvCameraGuiApi/widgets/entryguard.h>
+#include <OrvCameraGuiApi/widgets/integers.h>
 #include <OrvCameraGuiApi/widgets/numbertext.h>
 #include <OrvCameraGuiApi/widgets/qtorvdoubleslider.h>
 #include <OrvCameraGuiApi/widgets/qtorvslider.h>
@@ -582,8 +583,8 @@ void OrvCamConfigFrameABDialogPrivate::updateExposureTime()
 void OrvCamConfigFrameABDialogPrivate::showTime(std::int64_t microseconds, std::int64_t longest)
 {
     QtOrvSliderSpinBox *const time = ui.spBoxExposureTime;
-    time->setRange(0, toInt(longest));
-    const int shown = std::clamp(toInt(microseconds), time->minimum(), time->maximum());
+    time->setRange(0, Integers::clampedToInt(longest));
+    const int shown = std::clamp(Integers::clampedToInt(microseconds), time->minimum(), time->maximum());
     if (time->value() != shown || SpinSlider::isEmptied(time->spinBox()))
         SpinSlider::showUnmoved(time->spinBox(), shown);
     if (!isExposureKnown)
@@ -636,7 +637,7 @@ bool OrvCamConfigFrameABDialogPrivate::setHalf(const char *feature, QtOrvSpinBox
     if (half && !isKnown && spinBox->value() == value && half->IsWritable())
         OrvCamConfigMapper::showErrorMessage(half->SetValue(value), spinBox, half);
     else
-        spinBox->setValue(toInt(value));
+        spinBox->setValue(Integers::clampedToInt(value));
     return isSame();
 }
 

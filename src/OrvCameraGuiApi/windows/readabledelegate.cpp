@@ -1,4 +1,4 @@
-#include <OrvCameraGuiApi/feature_tree/readabledelegate.h>
+#include <OrvCameraGuiApi/windows/readabledelegate.h>
 
 #include <OrvCameraGuiApi/windows/plaintooltip.h>
 
