@@ -1,0 +1,48 @@
+#pragma once
+
+#include "gvcp.h"
+#include "udpsocket.h"
+
+#include <chrono>
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace OrvCameraApi {
+
+/** Talks to one device, without controlling it. Used by one thread, except stop(). */
+class GvcpClient
+{
+public:
+    struct Patience
+    {
+        std::chrono::milliseconds once{200}; ///< for the acknowledge of one packet
+        int attempts = 3;
+        std::chrono::milliseconds longest{1000}; ///< with everything that pending acknowledges ask for
+    };
+
+    /** \a local is the address of the adapter through which the device is reached. */
+    GvcpClient(std::uint32_t local, const Endpoint &device, Patience patience = {});
+
+    /** Ends the request that is running, without an answer, and all later ones; any thread. */
+    void stop() const { m_socket.wake(); }
+
+    /** The values of the registers, with as few packets as possible; none if the device does not answer or refuses. */
+    std::optional<std::vector<std::uint32_t>> readRegisters(const std::vector<std::uint32_t> &addresses);
+
+    /** \a length bytes; none if the device does not answer or refuses. */
+    std::optional<Gvcp::Packet> readMemory(std::uint32_t address, std::uint32_t length);
+
+    /** The acknowledge of \a packet; packets from elsewhere and for other requests are ignored. */
+    std::optional<Gvcp::Acknowledge> request(const Gvcp::Packet &packet);
+
+    std::uint16_t nextId();
+
+private:
+    UdpSocket m_socket;
+    const Endpoint m_device;
+    const Patience m_patience;
+    std::uint16_t m_id = 0;
+};
+
+} // namespace OrvCameraApi

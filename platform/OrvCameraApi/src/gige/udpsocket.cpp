@@ -1,0 +1,120 @@
+#include "udpsocket.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+
+#include <arpa/inet.h>
+#include <fcntl.h>
+#include <net/if.h>
+#include <netinet/in.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace OrvCameraApi {
+
+namespace {
+
+sockaddr_in toSystem(const Endpoint &endpoint)
+{
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_port = htons(endpoint.port);
+    address.sin_addr.s_addr = htonl(endpoint.address);
+    return address;
+}
+
+Endpoint fromSystem(const sockaddr_in &address)
+{
+    return {ntohl(address.sin_addr.s_addr), ntohs(address.sin_port)};
+}
+
+/** Milliseconds for poll(), rounded up so that it never spins before the deadline. */
+int millisecondsUntil(UdpSocket::Clock::time_point deadline)
+{
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - UdpSocket::Clock::now()).count();
+    return int(std::clamp<std::int64_t>(left, 0, 60'000));
+}
+
+} // namespace
+
+UdpSocket::UdpSocket(const Endpoint &local)
+{
+    std::array<int, 2> pipe{};
+    if (::pipe2(pipe.data(), O_CLOEXEC | O_NONBLOCK) == 0) {
+        m_wakeReader = pipe[0];
+        m_wakeWriter = pipe[1];
+    }
+    m_socket = ::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    const sockaddr_in address = toSystem(local);
+    if (m_socket >= 0 && ::bind(m_socket, reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0) {
+        ::close(m_socket);
+        m_socket = -1;
+    }
+}
+
+UdpSocket::~UdpSocket()
+{
+    for (const int descriptor : {m_socket, m_wakeReader, m_wakeWriter}) {
+        if (descriptor >= 0)
+            ::close(descriptor);
+    }
+}
+
+Endpoint UdpSocket::local() const
+{
+    sockaddr_in address{};
+    socklen_t size = sizeof address;
+    if (::getsockname(m_socket, reinterpret_cast<sockaddr *>(&address), &size) != 0)
+        return {};
+    return fromSystem(address);
+}
+
+bool UdpSocket::allowBroadcast(unsigned adapterIndex)
+{
+    const int on = 1;
+    ip_mreqn adapter{};
+    adapter.imr_ifindex = int(adapterIndex);
+    return ::setsockopt(m_socket, SOL_SOCKET, SO_BROADCAST, &on, sizeof on) == 0
+        && ::setsockopt(m_socket, IPPROTO_IP, IP_MULTICAST_IF, &adapter, sizeof adapter) == 0;
+}
+
+bool UdpSocket::send(const std::vector<std::uint8_t> &bytes, const Endpoint &to) const
+{
+    const sockaddr_in address = toSystem(to);
+    return ::sendto(m_socket, bytes.data(), bytes.size(), MSG_NOSIGNAL, reinterpret_cast<const sockaddr *>(&address),
+                    sizeof address)
+        == ssize_t(bytes.size());
+}
+
+std::optional<Datagram> UdpSocket::receive(Clock::time_point deadline) const
+{
+    for (;;) {
+        std::array<pollfd, 2> waiting = {{{m_socket, POLLIN, 0}, {m_wakeReader, POLLIN, 0}}};
+        const int ready = ::poll(waiting.data(), waiting.size(), millisecondsUntil(deadline));
+        if (waiting[1].revents || (ready == 0 && Clock::now() >= deadline) || (ready < 0 && errno != EINTR))
+            return std::nullopt;
+        if (!waiting[0].revents)
+            continue;
+        Datagram datagram;
+        datagram.bytes.resize(65536);
+        sockaddr_in from{};
+        socklen_t size = sizeof from;
+        const ssize_t count = ::recvfrom(m_socket, datagram.bytes.data(), datagram.bytes.size(), 0,
+                                         reinterpret_cast<sockaddr *>(&from), &size);
+        if (count < 0)
+            continue; // an error that an earlier packet has left, for instance that nobody listens
+        datagram.bytes.resize(std::size_t(count));
+        datagram.from = fromSystem(from);
+        return datagram;
+    }
+}
+
+void UdpSocket::wake() const
+{
+    const char byte = 0;
+    [[maybe_unused]] const ssize_t written = ::write(m_wakeWriter, &byte, 1);
+}
+
+} // namespace OrvCameraApi
