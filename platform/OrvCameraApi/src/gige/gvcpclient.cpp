@@ -4,7 +4,7 @@
 
 namespace OrvCameraApi {
 
-GvcpClient::GvcpClient(std::uint32_t local, const Endpoint &device, Patience patience)
+GvcpClient::GvcpClient(std::uint32_t local, const Endpoint &device, const GvcpPatience &patience)
     : m_socket({local, 0})
     , m_device(device)
     , m_patience(patience)

@@ -10,19 +10,21 @@
 
 namespace OrvCameraApi {
 
+/** How long to wait for a device. */
+struct GvcpPatience
+{
+    std::chrono::milliseconds once{200}; ///< for the acknowledge of one packet
+    int attempts = 3;
+    std::chrono::milliseconds longest{1000}; ///< with everything that pending acknowledges ask for
+};
+
 /** Talks to one device, without controlling it. Used by one thread, except stop(). */
 class GvcpClient
 {
 public:
-    struct Patience
-    {
-        std::chrono::milliseconds once{200}; ///< for the acknowledge of one packet
-        int attempts = 3;
-        std::chrono::milliseconds longest{1000}; ///< with everything that pending acknowledges ask for
-    };
 
     /** \a local is the address of the adapter through which the device is reached. */
-    GvcpClient(std::uint32_t local, const Endpoint &device, Patience patience = {});
+    GvcpClient(std::uint32_t local, const Endpoint &device, const GvcpPatience &patience = {});
 
     /** Ends the request that is running, without an answer, and all later ones; any thread. */
     void stop() const { m_socket.wake(); }
@@ -41,7 +43,7 @@ public:
 private:
     UdpSocket m_socket;
     const Endpoint m_device;
-    const Patience m_patience;
+    const GvcpPatience m_patience;
     std::uint16_t m_id = 0;
 };
 
