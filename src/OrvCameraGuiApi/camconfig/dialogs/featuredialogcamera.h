@@ -1,5 +1,6 @@
 #pragma once
 
+#include <OrvCameraGuiApi/background/reportrelay.h>
 #include <OrvCameraGuiApi/camconfig/orvcamconfigmapper.h>
 #include <OrvCameraGuiApi/camera_api/orvcam.h>
 #include <OrvCameraGuiApi/camera_api/orvgenparam.h>
