@@ -2,7 +2,7 @@
 #include "shownview.h"
 #include "simtest.h"
 
-#include <OrvCameraGuiApi/feature_tree/nodemapclock.h>
+#include <OrvCameraGuiApi/background/nodemapclock.h>
 
 #include <numeric>
 

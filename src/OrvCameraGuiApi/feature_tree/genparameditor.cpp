@@ -1,6 +1,6 @@
 #include <OrvCameraGuiApi/feature_tree/genparameditor.h>
 
-#include <OrvCameraGuiApi/device_selection/ip4validator.h>
+#include <OrvCameraGuiApi/addresses/ip4validator.h>
 #include <OrvCameraGuiApi/widgets/namedcombobox.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
 

@@ -1,7 +1,7 @@
 #include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
 
-#include <OrvCameraGuiApi/device_selection/ip4validator.h>
-#include <OrvCameraGuiApi/device_selection/mactext.h>
+#include <OrvCameraGuiApi/addresses/ip4validator.h>
+#include <OrvCameraGuiApi/addresses/mactext.h>
 #include <OrvCameraGuiApi/feature_tree/controldata.h>
 
 #include <algorithm>

@@ -1,6 +1,4 @@
-#include <OrvCameraGuiApi/feature_tree/nodemapclock.h>
-
-#include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
+#include <OrvCameraGuiApi/background/nodemapclock.h>
 
 #include <QHash>
 #include <QScopedValueRollback>
@@ -56,7 +54,11 @@ void NodeMapClock::poll()
         return;
     const auto alive = shared_from_this(); // a report may end the last use
     const QScopedValueRollback<bool> polling(m_isPolling, true);
-    failureOf([this] { m_map->Poll(m_sincePoll.restart()); });
+    try {
+        m_map->Poll(m_sincePoll.restart());
+    } catch (...) {
+        // Whatever a camera's library throws: the next poll tries again.
+    }
 }
 
 NodeMapClock::Use::Use(GenApi::INodeMap *map, Role role)
