@@ -1,5 +1,7 @@
 #include <OrvCameraGuiApi/background/nodemapclock.h>
 
+#include <OrvCameraGuiApi/background/periods.h>
+
 #include <QHash>
 #include <QScopedValueRollback>
 
@@ -11,8 +13,6 @@ using Clocks = QHash<GenApi::INodeMap *, std::weak_ptr<NodeMapClock>>;
 Q_GLOBAL_STATIC(Clocks, runningClocks)
 
 } // namespace
-
-std::chrono::milliseconds NodeMapClock::period{200};
 
 NodeMapClock::NodeMapClock(GenApi::INodeMap *map)
     : m_map(map)
@@ -44,7 +44,7 @@ void NodeMapClock::count(Role role, int difference)
     if (!isNeeded)
         m_timer.stop();
     else if (!m_timer.isActive())
-        m_timer.start(period);
+        m_timer.start(OrvGui::periods().poll);
 }
 
 /** Not once more from an event loop that a report runs. */
