@@ -1,7 +1,7 @@
 #include <OrvCameraGuiApi/feature_tree/featuretree.h>
 
+#include <OrvCameraGuiApi/feature_tree/featurehandler.h>
 #include <OrvCameraGuiApi/feature_tree/featureselection.h>
-#include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 #include <OrvCameraGuiApi/feature_tree/opencalls.h>
 
@@ -28,14 +28,6 @@ public:
 private:
     const OpenCalls::Call m_call;
 };
-
-bool isCommand(const QModelIndex &index)
-{
-    auto *const value = index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
-    bool is = false;
-    failureOf([&] { is = nodeOf(value)->GetPrincipalInterfaceType() == GenApi::intfICommand; });
-    return is;
-}
 
 } // namespace
 
@@ -201,13 +193,13 @@ bool FeatureTree::handleSpace(const QKeyEvent &event)
     const QPersistentModelIndex value(editableValue());
     if (!value.isValid() || value != currentIndex())
         return false;
-    const QVariant content = value.data(Qt::EditRole);
-    const bool isBoolean = content.userType() == QMetaType::Bool;
-    if (!isBoolean && !isCommand(value))
+    auto *const feature = value.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
+    const QVariant content = FeatureHandler::of(feature).valueAtSpace(value.data(Qt::EditRole));
+    if (!content.isValid())
         return false;
-    // What is read may have taken the row away. A key held too long writes once.
+    // Reading may have taken the row away. A key held too long writes once.
     if (value.isValid() && !event.isAutoRepeat())
-        model()->setData(value, !(isBoolean && content.toBool()));
+        model()->setData(value, content);
     return true;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <OrvCameraGuiApi/feature_tree/controldata.h>
 #include <OrvCameraGuiApi/windows/readabledelegate.h>
 
 class QKeyEvent;
@@ -69,7 +70,7 @@ protected:
 private:
     class MouseTracker;
 
-    void connectEditor(QWidget *editor, int kind) const;
+    void connectEditor(QWidget *editor, ControlData::Kind kind) const;
     bool fitToFeature(QWidget *editor, const QModelIndex &index) const;
     bool commitTyped(QWidget *editor) const;
     bool filterEnter(QWidget *editor, QKeyEvent *event);

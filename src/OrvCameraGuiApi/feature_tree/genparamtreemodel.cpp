@@ -1,7 +1,7 @@
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 
 #include <OrvCameraGuiApi/feature_tree/blockarena.h>
-#include <OrvCameraGuiApi/feature_tree/genparameditor.h>
+#include <OrvCameraGuiApi/feature_tree/featurehandler.h>
 #include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
 #include <OrvCameraGuiApi/feature_tree/genparamwhatsthis.h>
 #include <OrvCameraGuiApi/feature_tree/nodechangeforwarder.h>
@@ -107,14 +107,6 @@ private:
     GenApi::CLock &m_lock;
 };
 
-GenApi::INodeMap *nodeMapOf(OrvGenParam::Array *params)
-{
-    GenApi::INodeMap *nodeMap = nullptr;
-    if (params)
-        failureOf([&] { nodeMap = params->GetNodeMap(); });
-    return nodeMap;
-}
-
 } // namespace
 
 class GenParamTreeModelPrivate
@@ -145,7 +137,7 @@ public:
     QString nameToolTip(const GenParamFeature &feature) const;
     QVariant valueData(const QModelIndex &index, int role);
     QVariant readValue(const GenParamFeature &feature, int role) const;
-    QVariant valueForeground(const GenParamFeature &feature, GenApi::EInterfaceType type) const;
+    QVariant valueForeground(const GenParamFeature &feature, bool isRead) const;
     void recordError(const QModelIndex &index, const QString &message, int role);
 
     GenParamTreeModel *const q;
@@ -340,7 +332,7 @@ bool GenParamTreeModelPrivate::hasError(const GenParamFeature &feature) const
 QVariant GenParamTreeModelPrivate::controlData(const GenParamFeature &feature) const
 {
     ControlData control;
-    failureOf([&] { control = createGenParamEditor(feature); });
+    failureOf([&] { control = FeatureHandler::of(feature).createEditor(feature); });
     return control.editor ? QVariant::fromValue(control) : QVariant();
 }
 
@@ -402,11 +394,11 @@ QVariant GenParamTreeModelPrivate::valueData(const QModelIndex &index, int role)
 
 QVariant GenParamTreeModelPrivate::readValue(const GenParamFeature &feature, int role) const
 {
-    const GenApi::EInterfaceType type = feature.type();
-    if (type == GenApi::intfICategory)
+    const FeatureHandler &handler = FeatureHandler::of(feature);
+    if (!handler.hasValue())
         return {};
     if (role == Qt::ForegroundRole)
-        return valueForeground(feature, type);
+        return valueForeground(feature, handler.isRead());
     if (role == Qt::ToolTipRole) {
         if (hasError(feature))
             return q->m_errors.firstMessage(feature.name());
@@ -415,17 +407,17 @@ QVariant GenParamTreeModelPrivate::readValue(const GenParamFeature &feature, int
     const GenApi::EAccessMode mode = feature.accessMode();
     if (mode < GenApi::WO)
         return GenParamTreeModel::tr("<Value not available>");
-    if (type != GenApi::intfICommand && !isReadable(mode))
+    if (handler.isRead() && !isReadable(mode))
         return GenParamTreeModel::tr("<Value not readable>");
-    return role == Qt::DisplayRole ? feature.displayText(type) : feature.editValue(type);
+    return role == Qt::DisplayRole ? handler.text(feature) : handler.editValue(feature);
 }
 
-QVariant GenParamTreeModelPrivate::valueForeground(const GenParamFeature &feature, GenApi::EInterfaceType type) const
+QVariant GenParamTreeModelPrivate::valueForeground(const GenParamFeature &feature, bool isRead) const
 {
     if (hasError(feature))
         return QBrush(errorColor);
     const GenApi::EAccessMode mode = feature.accessMode();
-    const bool hasText = isReadable(mode) || type == GenApi::intfICommand;
+    const bool hasText = isReadable(mode) || !isRead;
     return hasText && isWritable(mode) ? QVariant() : paletteBrush(QPalette::Disabled, QPalette::Text);
 }
 
@@ -558,10 +550,9 @@ bool GenParamTreeModel::setData(const QModelIndex &index, const QVariant &value,
         return false;
     const OpenCalls::Call call;
     const GenParamFeature feature = d->featureOf(index);
-    const bool isListed = value.userType() == qMetaTypeId<VariantData>();
     bool isWritten = false;
     const auto failure =
-        failureOf([&] { isWritten = feature.write(isListed ? value.value<VariantData>().value : value); });
+        failureOf([&] { isWritten = FeatureHandler::of(feature).write(feature, withoutWrapper(value)); });
     if (failure) {
         const QPointer<GenParamTreeModel> alive(this);
         const QPersistentModelIndex written(index);

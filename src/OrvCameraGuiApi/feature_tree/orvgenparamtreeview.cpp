@@ -37,14 +37,6 @@
 
 namespace {
 
-GenApi::INodeMap *nodeMapOf(OrvGenParam::Array *params)
-{
-    GenApi::INodeMap *nodeMap = nullptr;
-    if (params)
-        failureOf([&] { nodeMap = params->GetNodeMap(); });
-    return nodeMap;
-}
-
 GenApi::IValue *featureOf(const QModelIndex &index)
 {
     return index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
