@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QAbstractItemModel>
+#include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 
 #include <vector>
 
@@ -33,7 +33,7 @@ void forEachCategory(const QAbstractItemModel &model, const QModelIndex &parent,
             continue;
         }
         level.next = row + 1;
-        const QModelIndex index = model.index(row, 0, level.parent);
+        const QModelIndex index = model.index(row, GenParamTreeModel::NameColumn, level.parent);
         visit(index, levels.size() - 1);
         levels.push_back({index, 0, model.rowCount(index) - 1});
     }

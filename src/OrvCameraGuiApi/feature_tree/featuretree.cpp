@@ -175,10 +175,13 @@ bool FeatureTree::openValue(const QKeyEvent &event)
 bool FeatureTree::moveBetweenColumns(bool forward)
 {
     const QModelIndex current = currentIndex();
-    const int column = forward ? GenParamTreeModel::ValueColumn : GenParamTreeModel::NameColumn;
-    const QModelIndex target = current.sibling(current.row(), column);
+    int column = current.column();
+    do {
+        column += forward ? 1 : -1;
+    } while (isColumnHidden(column));
+    const QModelIndex target = current.siblingAtColumn(column);
     const bool isFeature = !isFirstColumnSpanned(current.row(), current.parent()) && !model()->hasChildren(current);
-    if (!isFeature || !target.isValid() || target == current || isColumnHidden(column))
+    if (!isFeature || !target.isValid())
         return false;
     moveCurrentTo(target);
     return true;
@@ -291,7 +294,7 @@ void FeatureTree::findRowsOnScreen()
 /** A name counts always, as the tree asks then whether its row has others below it. */
 bool FeatureTree::concerns(const QModelIndex &topLeft, const QModelIndex &bottomRight) const
 {
-    const bool isOneValue = topLeft == bottomRight && topLeft.column() > 0;
+    const bool isOneValue = topLeft == bottomRight && topLeft.column() > GenParamTreeModel::NameColumn;
     return !isOneValue || m_rowsOnScreen.isEmpty() || !uniformRowHeights() || QAccessible::isActive()
         || m_rowsOnScreen.contains(identityOf(topLeft)) || isPersistentEditorOpen(topLeft);
 }

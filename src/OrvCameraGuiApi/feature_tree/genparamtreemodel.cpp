@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <limits>
 #include <map>
 #include <memory>
@@ -132,7 +133,7 @@ public:
     bool hasError(const GenParamFeature &feature) const;
 
     QVariant controlData(const GenParamFeature &feature) const;
-    QVariant nameData(const GenParamFeature &feature, int role) const;
+    QVariant nameData(const QModelIndex &index, int role);
     QString displayName(const GenParamFeature &feature) const;
     QString nameToolTip(const GenParamFeature &feature) const;
     QVariant valueData(const QModelIndex &index, int role);
@@ -156,6 +157,27 @@ public:
     qint64 rowsInAll = 0;
     const QExplicitlySharedDataPointer<NodeChangeForwarder> forwarder;
 };
+
+namespace {
+
+/** What a column shows of a feature. The number of a column is its place in the table. */
+struct ModelColumn
+{
+    const char *title; ///< untranslated
+    QVariant (GenParamTreeModelPrivate::*data)(const QModelIndex &index, int role); ///< for what differs by column
+    bool isEditable; ///< when the feature can be written
+    bool followsNode; ///< a change of the node changes the cell
+
+    static const ModelColumn all[];
+    static const ModelColumn &of(const QModelIndex &index) { return all[index.column()]; }
+};
+
+const ModelColumn ModelColumn::all[] = {
+    {QT_TRANSLATE_NOOP("GenParamTreeModel", "Name"), &GenParamTreeModelPrivate::nameData, false, false},
+    {QT_TRANSLATE_NOOP("GenParamTreeModel", "Value"), &GenParamTreeModelPrivate::valueData, true, true},
+};
+
+} // namespace
 
 GenParamTreeModelPrivate::GenParamTreeModelPrivate(GenParamTreeModel *model, GenApi::INodeMap *map)
     : q(model)
@@ -306,8 +328,13 @@ const char *GenParamTreeModelPrivate::keepText(const GenICam::gcstring &text)
 void GenParamTreeModelPrivate::nodeChanged(FeatureEntry &entry)
 {
     const OpenCalls::Call call;
-    const QModelIndex cell = q->createIndex(entry.second.row, GenParamTreeModel::ValueColumn, &entry);
-    Q_EMIT q->dataChanged(cell, cell, QVector<int>());
+    const QPointer<GenParamTreeModel> alive(q);
+    for (int column = 0; alive && column < int(std::size(ModelColumn::all)); ++column) {
+        if (!ModelColumn::all[column].followsNode)
+            continue;
+        const QModelIndex cell = q->createIndex(entry.second.row, column, &entry);
+        Q_EMIT q->dataChanged(cell, cell, QVector<int>());
+    }
 }
 
 FeatureEntry &GenParamTreeModelPrivate::entryOf(const QModelIndex &index)
@@ -336,8 +363,9 @@ QVariant GenParamTreeModelPrivate::controlData(const GenParamFeature &feature) c
     return control.editor ? QVariant::fromValue(control) : QVariant();
 }
 
-QVariant GenParamTreeModelPrivate::nameData(const GenParamFeature &feature, int role) const
+QVariant GenParamTreeModelPrivate::nameData(const QModelIndex &index, int role)
 {
+    const GenParamFeature feature = featureOf(index);
     switch (role) {
     case Qt::DisplayRole:
         return displayName(feature);
@@ -480,21 +508,13 @@ int GenParamTreeModel::rowCount(const QModelIndex &parent) const
 
 int GenParamTreeModel::columnCount(const QModelIndex &) const
 {
-    return 2;
+    return int(std::size(ModelColumn::all));
 }
 
 QVariant GenParamTreeModel::headerData(int section, Qt::Orientation, int role) const
 {
-    if (role != Qt::DisplayRole)
-        return {};
-    switch (section) {
-    case NameColumn:
-        return tr("Name");
-    case ValueColumn:
-        return tr("Value");
-    default:
-        return {};
-    }
+    const bool isColumn = section >= 0 && section < columnCount();
+    return isColumn && role == Qt::DisplayRole ? tr(ModelColumn::all[section].title) : QVariant();
 }
 
 Qt::ItemFlags GenParamTreeModel::flags(const QModelIndex &index) const
@@ -503,7 +523,7 @@ Qt::ItemFlags GenParamTreeModel::flags(const QModelIndex &index) const
         return Qt::NoItemFlags;
     const OpenCalls::Call call;
     Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
-    if (index.column() == ValueColumn) {
+    if (ModelColumn::of(index).isEditable) {
         failureOf([&] {
             if (isWritable(d->featureOf(index).accessMode()))
                 flags |= Qt::ItemIsEditable;
@@ -527,7 +547,7 @@ QVariant GenParamTreeModel::data(const QModelIndex &index, int role) const
     case Qt::WhatsThisRole:
         return genParamWhatsThis(d->featureOf(index));
     default:
-        return index.column() == NameColumn ? d->nameData(d->featureOf(index), role) : d->valueData(index, role);
+        return (d.data()->*ModelColumn::of(index).data)(index, role);
     }
 }
 
@@ -546,7 +566,7 @@ void GenParamTreeModel::clearErrors()
 
 bool GenParamTreeModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
-    if (!index.isValid() || index.column() != ValueColumn || role != Qt::EditRole)
+    if (!index.isValid() || !ModelColumn::of(index).isEditable || role != Qt::EditRole)
         return false;
     const OpenCalls::Call call;
     const GenParamFeature feature = d->featureOf(index);

@@ -22,6 +22,7 @@
 #include <QAction>
 #include <QElapsedTimer>
 #include <QFocusFrame>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QScopedValueRollback>
@@ -232,7 +233,7 @@ void OrvGenParamTreeViewPrivate::init(GenApi::INodeMap *map)
     initButtons();
     filterOptions = new FilterOptions(q);
     install(map);
-    ui.treeView->setItemDelegateForColumn(GenParamTreeModel::NameColumn, new ReadableDelegate(q));
+    ui.treeView->setItemDelegate(new ReadableDelegate(q));
     ui.treeView->setItemDelegateForColumn(GenParamTreeModel::ValueColumn, new GenParamDelegate(q));
     auto *const resizer = new TreeViewResizer(ui.treeView);
     firstShow = QObject::connect(resizer, &TreeViewResizer::showed, q, [this] {
@@ -418,11 +419,13 @@ void OrvGenParamTreeViewPrivate::connectProxy()
                      });
 }
 
+/** Into equal parts; the last column takes what is left. */
 void OrvGenParamTreeViewPrivate::splitColumns()
 {
-    const int width = ui.treeView->columnWidth(GenParamTreeModel::NameColumn)
-        + ui.treeView->columnWidth(GenParamTreeModel::ValueColumn);
-    ui.treeView->setColumnWidth(GenParamTreeModel::NameColumn, width / 2);
+    const QHeaderView *const header = ui.treeView->header();
+    const int width = header->length();
+    for (int column = 0; column < header->count() - 1; ++column)
+        ui.treeView->setColumnWidth(column, width / header->count());
 }
 
 void OrvGenParamTreeViewPrivate::currentChanged(const QModelIndex &index)
