@@ -42,8 +42,8 @@ FeatureTree::FeatureTree(QWidget *parent)
 }
 
 /**
- * Called before other slots are. A program may open and close categories by itself, outside of any call, and Qt does
- * not tell when it has ended: what is given up meanwhile is kept until the control is back at the event loop.
+ * Called before other slots. A program may open and close categories outside of any call, and Qt does not signal the
+ * end. So a call is kept open until control returns to the event loop.
  */
 void FeatureTree::keepWhatIsInUse()
 {
@@ -52,8 +52,8 @@ void FeatureTree::keepWhatIsInUse()
 }
 
 /**
- * By their places and not each as the one below the last: a category that stands in several places has the same rows in
- * all of them, and Qt would go on at the place that it comes upon first, for ever if that is the one above.
+ * Found by place, not by indexBelow(): a category that stands in several places has the same rows in all of them. Qt
+ * continues at the place that it finds first, and never ends if that is the one above.
  */
 QVector<FeatureTree::Row> FeatureTree::rowsOnScreen() const
 {
@@ -77,7 +77,7 @@ void FeatureTree::endEditing(const QModelIndex &index)
     if (!editor)
         return;
     commitData(editor);
-    // What came of the write may have closed it already.
+    // The write may have closed it already.
     if (editor && indexWidget(edited) == editor)
         closeEditor(editor, QAbstractItemDelegate::NoHint);
 }
@@ -107,7 +107,8 @@ bool FeatureTree::event(QEvent *event)
     return QTreeView::event(event);
 }
 
-/** Among the names, whichever column is current: among values it would read them all and open the editor of a match. */
+/** Searches the names, whichever column is current: a search of values would read all and open the editor of a match.
+ */
 void FeatureTree::keyboardSearch(const QString &search)
 {
     m_sinceSearch.start();
@@ -149,7 +150,7 @@ bool FeatureTree::handleKey(const QKeyEvent &event)
     }
 }
 
-/** Of the current row; invalid when it cannot be edited by keys. */
+/** The value cell of the current row; invalid when it cannot be edited by keys. */
 QModelIndex FeatureTree::editableValue() const
 {
     const QModelIndex current = currentIndex();
@@ -231,7 +232,7 @@ void FeatureTree::setReadOnly(bool readOnly)
     m_isReadOnly = readOnly;
     if (!readOnly)
         return;
-    // Those of other rows too, which a program may have opened; what is no editor, the view lets be.
+    // Editors of other rows too, which a program may have opened. The view ignores children that are no editors.
     const QList<QWidget *> children = viewport()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
     for (const QPointer<QWidget> editor : children) {
         if (editor)
@@ -246,7 +247,7 @@ bool FeatureTree::edit(const QModelIndex &index, EditTrigger trigger, QEvent *ev
     return QTreeView::edit(index, trigger, event);
 }
 
-/** To the outermost category that is closed: the tree opens those above the current item by itself. */
+/** Moves to the outermost closed category: the view itself opens the categories above the current item. */
 void FeatureTree::moveCurrentIntoSight()
 {
     const auto inSight = [this] {
@@ -259,7 +260,7 @@ void FeatureTree::moveCurrentIntoSight()
     };
     if (inSight() == currentIndex())
         return;
-    // By itself, as the write may change which rows there are.
+    // Separately, because the write may change the rows.
     endEditing(currentIndex());
     const QModelIndex visible = inSight();
     if (visible != currentIndex())
@@ -275,7 +276,7 @@ void FeatureTree::dataChanged(const QModelIndex &topLeft, const QModelIndex &bot
         viewport()->update();
 }
 
-/** Before anything is painted: what is painted may change what has been painted already. */
+/** Finds the rows before painting, which may change the values of rows that are painted already. */
 void FeatureTree::paintEvent(QPaintEvent *event)
 {
     executeDelayedItemsLayout();
@@ -291,7 +292,7 @@ void FeatureTree::findRowsOnScreen()
         ++m_rowsOnScreen[identityOf(row.index)];
 }
 
-/** A name counts always, as the tree asks then whether its row has others below it. */
+/** A changed name always concerns the tree, which then checks whether the row has children. */
 bool FeatureTree::concerns(const QModelIndex &topLeft, const QModelIndex &bottomRight) const
 {
     const bool isOneValue = topLeft == bottomRight && topLeft.column() > GenParamTreeModel::NameColumn;
@@ -299,7 +300,7 @@ bool FeatureTree::concerns(const QModelIndex &topLeft, const QModelIndex &bottom
         || m_rowsOnScreen.contains(identityOf(topLeft)) || isPersistentEditorOpen(topLeft);
 }
 
-/** Whether a row on the screen is, or may be, in another place than the one that Qt takes it to be in. */
+/** Whether a row on the screen stands, or may stand, in another place than the one that Qt takes it for. */
 bool FeatureTree::isElsewhereToo(const QModelIndex &index) const
 {
     const int places = m_rowsOnScreen.value(identityOf(index));

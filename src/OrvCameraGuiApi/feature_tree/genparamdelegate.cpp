@@ -61,7 +61,7 @@ bool isEnter(const QKeyEvent &event)
     return event.key() == Qt::Key_Enter || event.key() == Qt::Key_Return;
 }
 
-/** What a box of Qt's own steps from: it would read what is typed in its own way. */
+/** Whether \a event makes a box step: one of Qt's would step from the typed text as it reads it itself. */
 bool isStep(const QEvent &event)
 {
     if (event.type() == QEvent::MouseButtonPress)
@@ -78,7 +78,7 @@ EntryGuard *guardOf(const QWidget *editor)
     return EntryGuard::of(qobject_cast<const QAbstractSpinBox *>(editor));
 }
 
-/** What an editor was loaded with and what the user has done to it since; a child of the editor. */
+/** The value that an editor was loaded with, and what the user has done since; a child of the editor. */
 class EditorSession : public QObject
 {
     Q_OBJECT
@@ -91,14 +91,14 @@ public:
     bool isLoaded() const { return m_isLoaded; }
     bool isLoadedWith(const QVariant &value) const { return m_isLoaded && isSame(m_loadedValue, value); }
     void setLoaded(const QModelIndex &index, const QVariant &value);
-    /** Of what was loaded last; invalid when that has gone. */
+    /** The cell that was loaded last; invalid when it is gone. */
     QModelIndex index() const { return m_index; }
 
     /** \a confirmed: the user has ended the entry with Enter. */
     void setConfirmed(bool confirmed) { m_isConfirmed = confirmed && m_isTouched; }
     bool hasEntry(const QModelIndex &index) const;
 
-    /** Whatever comes of it, an entry is written once; the live value may then take its place. */
+    /** An entry is written once, even if that fails; the feature's value may replace it from now on. */
     void beginWriting();
 
     /** A mouse button was pressed on the editor. @{ */
@@ -126,7 +126,7 @@ EditorSession::EditorSession(QWidget *editor)
     , m_handler(EditorHandler::of(*editor))
 {
     const auto touch = [this] { m_isTouched = true; };
-    // What is typed into a number is the guard's to tell: it may come to nothing again.
+    // The guard knows whether the text typed into a number is an entry: it may be taken back.
     if (const EntryGuard *const guard = guardOf(editor))
         connect(guard, &EntryGuard::entered, this, [this] { m_isTouched = m_isConfirmed = true; });
     else if (const QLineEdit *const field = m_handler.textField(*editor))
@@ -235,12 +235,12 @@ private:
     QWidget *const m_editor;
 };
 
-/** The press goes on to \a watched, unless that is gone by then. */
+/** \a watched gets the press too, unless it is destroyed by then. */
 bool GenParamDelegate::MouseTracker::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::MouseButtonPress || !watched->isWidgetType())
         return false;
-    // Who gets the press tells where the mouse is: an editor that has just appeared under it does not know yet.
+    // Not underMouse(): an editor that has just appeared under the mouse does not know it yet.
     if (belongsTo(static_cast<QWidget *>(watched), m_editor))
         return false;
     const QPointer<QObject> receiver(watched);
@@ -262,7 +262,7 @@ QWidget *GenParamDelegate::createEditor(QWidget *parent, const QStyleOptionViewI
 {
     const QPersistentModelIndex edited(index);
     const auto control = index.data(GenParamTreeModel::ControlDataRole).value<ControlData>();
-    // What is read to make an editor may have taken the feature away.
+    // Reading may have taken the feature away: OpenCalls.
     if (index.isValid() && !edited.isValid()) {
         delete control.editor;
         return nullptr;
@@ -286,7 +286,7 @@ QWidget *GenParamDelegate::createEditor(QWidget *parent, const QStyleOptionViewI
 
 void GenParamDelegate::connectEditor(QWidget *editor, ControlData::Kind kind) const
 {
-    // Editors are made by a const operation, but what they have to say later comes from the delegate itself.
+    // The operation is const, but the delegate emits signals for the editor later.
     auto *const self = const_cast<GenParamDelegate *>(this);
     const auto commit = [self, editor](EditorHandler::After after) {
         const QPointer<QWidget> alive(editor);
@@ -330,7 +330,7 @@ void GenParamDelegate::setEditorData(QWidget *editor, const QModelIndex &index) 
     const QPersistentModelIndex edited(index);
     const bool isFitted = session.isLoaded() && fitToFeature(editor, index);
     const QVariant value = index.data(Qt::EditRole);
-    // Polling reports many a value that is still the same: cursor and selection then stay as they are.
+    // Polling often reports a value that is still the same. Cursor and selection stay as they are then.
     if (!isFitted && session.isLoadedWith(withoutWrapper(value)))
         return;
     const EditorHandler &handler = EditorHandler::of(*editor);
@@ -342,7 +342,7 @@ void GenParamDelegate::setEditorData(QWidget *editor, const QModelIndex &index) 
         if (!showsPlaceholder(*editor, index, value) && !load(*editor, value))
             ReadableDelegate::setEditorData(editor, index);
     }
-    // What is typed next is to replace the new value as it would have replaced the old one.
+    // The next key replaces the new value as it would have replaced the old one.
     if (isSelected)
         field->selectAll();
     session.setLoaded(edited, withoutWrapper(value));
@@ -353,7 +353,7 @@ void GenParamDelegate::setEditorData(QWidget *editor, const QModelIndex &index) 
     }
 }
 
-/** With the value its range, increment, choices and unit may have changed. Whether anything had to be changed here. */
+/** Range, increment, choices and unit may have changed with the value. True when the editor had to be changed. */
 bool GenParamDelegate::fitToFeature(QWidget *editor, const QModelIndex &index) const
 {
     const std::unique_ptr<QWidget> fresh(index.data(GenParamTreeModel::ControlDataRole).value<ControlData>().editor);
@@ -366,7 +366,7 @@ bool GenParamDelegate::fitToFeature(QWidget *editor, const QModelIndex &index) c
     const EditorFit fit = handler.handles(*editor) ? handler.fit(*editor, *fresh) : EditorFit::OtherClass;
     if (fit != EditorFit::OtherClass)
         return fit == EditorFit::Changed;
-    // Not at once: whoever reports the change goes on using the editor.
+    // Not at once: the caller goes on using the editor.
     const auto close = [self = QPointer<GenParamDelegate>(const_cast<GenParamDelegate *>(this)), editor] {
         if (self)
             Q_EMIT self->closeEditor(editor, NoHint);
@@ -377,7 +377,7 @@ bool GenParamDelegate::fitToFeature(QWidget *editor, const QModelIndex &index) c
 
 void GenParamDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
 {
-    // Some view may have got another model meanwhile, which would take the index for its own.
+    // A view may have got another model meanwhile, which would take the index for its own.
     if (!editor || !model || index.model() != model)
         return;
     const OpenCalls::Call call;
@@ -400,8 +400,8 @@ void GenParamDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, 
 }
 
 /**
- * An integer that is typed counts with Enter only, a fraction always; what is left of a cut-off number never does.
- * False when something is typed that does not count: what was stepped to before is given up by that.
+ * A typed integer counts only with Enter, a typed fraction always, the rest of a number that was cut off never. False
+ * when the typed text does not count; a number that was reached by steps before is dropped with it.
  */
 bool GenParamDelegate::commitTyped(QWidget *editor) const
 {
@@ -422,7 +422,6 @@ void GenParamDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionV
         editor->setGeometry(option.rect);
 }
 
-/** The view gives it up in the middle of a write too, and whoever writes goes on using it. */
 void GenParamDelegate::destroyEditor(QWidget *editor, const QModelIndex &) const
 {
     OpenCalls::retire(editor);
@@ -443,7 +442,7 @@ bool GenParamDelegate::eventFilter(QObject *watched, QEvent *event)
     }
     if (editor && event->type() == QEvent::MouseButtonPress)
         EditorSession::of(editor).setPressed();
-    // The second half of the double click that has opened a box is no press on the arrow that has come under the mouse.
+    // The second press of the double click that opened a box must not step it: an arrow may have appeared under it.
     if (editor && event->type() == QEvent::MouseButtonDblClick && guardOf(editor)
         && !EditorSession::of(editor).isPressed())
         return true;
@@ -472,7 +471,7 @@ bool GenParamDelegate::filterEnter(QWidget *editor, QKeyEvent *event)
     return !isAcceptable; // else the editor handles the key too
 }
 
-/** When the event loop runs next, unless the editor has gone by then: Qt would use it nevertheless. */
+/** From the event loop, unless the editor is destroyed by then: Qt would use it nevertheless. */
 void GenParamDelegate::endEditingSoon(QWidget *editor)
 {
     const auto end = [self = QPointer<GenParamDelegate>(this), editor] {
@@ -485,7 +484,7 @@ void GenParamDelegate::endEditingSoon(QWidget *editor)
     QMetaObject::invokeMethod(editor, end, Qt::QueuedConnection);
 }
 
-/** What cannot be entered leaves the editor open, with the limits beside it. */
+/** A text that is no number in the range leaves the editor open, and the limits are shown beside it. */
 bool GenParamDelegate::filterEnterOfNumber(QWidget *editor)
 {
     EntryGuard &guard = *guardOf(editor);
@@ -497,7 +496,7 @@ bool GenParamDelegate::filterEnterOfNumber(QWidget *editor)
             setEditorData(editor, index);
         return true;
     }
-    // Steps that led back to the number that was loaded are an entry too, if the feature has another one by now.
+    // Steps back to the number that was loaded are an entry too if the feature has another number by now.
     EditorSession::of(editor).setConfirmed(true);
     endEditingSoon(editor);
     return true;

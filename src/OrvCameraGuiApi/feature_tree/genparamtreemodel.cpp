@@ -29,17 +29,17 @@ struct IndexFeature;
 /** A row's identity; the internal pointer of model indexes. */
 using FeatureEntry = std::pair<GenApi::IValue *const, IndexFeature>;
 
-/** Where a feature stands. There is one a feature, so it is kept small. */
+/** Where a feature stands. Small, because every feature has one. */
 struct IndexFeature
 {
     FeatureEntry *parent = nullptr; ///< null at the root level
-    FeatureEntry **children = nullptr; ///< null for what is no category, and for one that is not entered
+    FeatureEntry **children = nullptr; ///< null unless it is a category whose features have been added
     qint32 row = 0;
     qint32 childCount = 0;
     const char *name = ""; ///< of the node, UTF-8, in the arena
 };
 
-/** All that there is of the features. */
+/** The memory of all features. */
 struct Memory
 {
     BlockArena arena; ///< of the entries, the child arrays and the names
@@ -57,11 +57,11 @@ struct Visit
     qint64 rows; ///< so far, with those in the categories that it has
 };
 
-// What a view that expands all can take: it is recursive, and rows that stand in several places are rows each time.
+// The most that a view can expand: it is recursive, and counts a row that stands in several places each time.
 constexpr size_t maximumDepth = 1000;
 constexpr qint64 maximumRows = 1000000;
 
-/** Of what has failed. */
+/** The color of failures. */
 constexpr QColor errorColor(255, 0, 0);
 
 QBrush paletteBrush(QPalette::ColorGroup group, QPalette::ColorRole role)
@@ -77,7 +77,7 @@ void registerMetaTypes()
     qRegisterMetaType<VariantData>("VariantData");
 }
 
-/** Saves a cast that fails, which costs more than all else that is done for a feature. */
+/** Saves a failing cast, which costs more than everything else that is done for a feature. */
 bool mayBeCategory(GenApi::INode *node)
 {
     bool mayBe = true;
@@ -85,14 +85,15 @@ bool mayBeCategory(GenApi::INode *node)
     return mayBe;
 }
 
-/** The nodes of a large camera do not fit into a cache: waiting for each is a quarter of the time that a tree takes. */
+/** The nodes of a large camera do not fit into a cache. Waiting for each takes a quarter of the time to build a tree.
+ */
 void prefetch(const GenApi::FeatureList_t &features, size_t index)
 {
     if (index < features.size())
         __builtin_prefetch(features[index]);
 }
 
-/** Holds a node map's lock, which GenApi takes again, at less cost, in all that is asked meanwhile. */
+/** Holds a node map's lock. Every access to a node takes it again, which is cheaper while it is held. */
 class NodeMapLock
 {
 public:
@@ -143,7 +144,7 @@ public:
 
     GenParamTreeModel *const q;
     GenApi::INodeMap *const nodeMap;
-    bool addressesAreDeclared = false; ///< the node map tells which integers are addresses: names tell nothing
+    bool addressesAreDeclared = false; ///< by the node map: names do not decide which integers are addresses
     const GenICam::gcstring currentAddressName = "GevCurrentIPAddress";
     bool isReleased = false; ///< nothing may ask a node any more
     std::vector<GenApi::CallbackHandleType> callbacks;
@@ -197,7 +198,7 @@ GenParamTreeModelPrivate::~GenParamTreeModelPrivate()
     release();
 }
 
-/** The features stay while somebody up the stack may be using them. */
+/** The memory stays while it may be in use: OpenCalls. */
 void GenParamTreeModelPrivate::release()
 {
     forwarder->detach();
@@ -283,8 +284,8 @@ FeatureEntry *GenParamTreeModelPrivate::addFeature(GenApi::IValue *value, Featur
 }
 
 /**
- * A feature that is listed again keeps the place of its first occurrence, intentionally. Only a category that cannot be
- * shown once more gets an entry for this one row, without children.
+ * A repeated feature keeps the place of its first occurrence, intentionally. Only a category whose children cannot
+ * stand here again gets an entry for this row, without children.
  */
 FeatureEntry *GenParamTreeModelPrivate::furtherOccurrence(FeatureEntry *first, FeatureEntry *parent, qint32 row)
 {
@@ -294,7 +295,7 @@ FeatureEntry *GenParamTreeModelPrivate::furtherOccurrence(FeatureEntry *first, F
     return new (place) FeatureEntry(first->first, IndexFeature{parent, nullptr, row, 0, first->second.name});
 }
 
-/** Otherwise a view that expands all would find no end: inside itself, or in ever more places of one another. */
+/** False inside itself and beyond the limit of rows: a view that expands all would not come to an end. */
 bool GenParamTreeModelPrivate::canStandAgain(const FeatureEntry &category, const FeatureEntry *parent)
 {
     while (parent && parent != &category)
@@ -307,7 +308,7 @@ bool GenParamTreeModelPrivate::canStandAgain(const FeatureEntry &category, const
     return true;
 }
 
-/** Keeps the name, and learns from it whether this node map declares addresses. */
+/** Keeps the name, and finds out by it whether this node map declares addresses. */
 void GenParamTreeModelPrivate::describe(FeatureEntry &entry, const GenApi::INode &node)
 {
     const GenICam::gcstring name = node.GetName();
@@ -355,7 +356,7 @@ bool GenParamTreeModelPrivate::hasError(const GenParamFeature &feature) const
     return q->m_errors.hasErrors() && q->m_errors.hasError(feature.name());
 }
 
-/** Invalid where there is no editor, or a getter that one needs throws. */
+/** Invalid when the handler has no editor, or when a getter throws. */
 QVariant GenParamTreeModelPrivate::controlData(const GenParamFeature &feature) const
 {
     ControlData control;
@@ -402,7 +403,7 @@ QString GenParamTreeModelPrivate::nameToolTip(const GenParamFeature &feature) co
 
 QVariant GenParamTreeModelPrivate::valueData(const QModelIndex &index, int role)
 {
-    // Views ask for many more roles at every repaint; those ask no node.
+    // Views ask for many more roles at every repaint. These must not ask a node.
     if (role != Qt::DisplayRole && role != Qt::EditRole && role != Qt::ToolTipRole && role != Qt::ForegroundRole)
         return {};
     const GenParamFeature feature = featureOf(index);
@@ -411,7 +412,7 @@ QVariant GenParamTreeModelPrivate::valueData(const QModelIndex &index, int role)
         recordError(index, *failure, role);
         return role == Qt::DisplayRole ? GenParamTreeModel::tr("ERROR") : QVariant();
     }
-    // A tool tip that could not be read stays recorded, intentionally: from then on the tip is that message.
+    // A failed read of the tool tip stays recorded, intentionally: its message is the tool tip from then on.
     if (role != Qt::ToolTipRole && hasError(feature)) {
         const QString name = feature.name();
         if (q->m_errors.ClearError(name, role))
@@ -449,7 +450,7 @@ QVariant GenParamTreeModelPrivate::valueForeground(const GenParamFeature &featur
     return hasText && isWritable(mode) ? QVariant() : paletteBrush(QPalette::Disabled, QPalette::Text);
 }
 
-/** Slots of the signal may call back into the model: nothing is done after it. */
+/** Does nothing after the signal, whose slots may call back into the model. */
 void GenParamTreeModelPrivate::recordError(const QModelIndex &index, const QString &message, int role)
 {
     const QString name = featureOf(index).name();
