@@ -4,7 +4,7 @@
 #include <OrvCameraGuiApi/feature_tree/featurehandler.h>
 #include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
 #include <OrvCameraGuiApi/feature_tree/genparamwhatsthis.h>
-#include <OrvCameraGuiApi/feature_tree/nodechangeforwarder.h>
+#include <OrvCameraGuiApi/feature_tree/nodechangecallback.h>
 #include <OrvCameraGuiApi/feature_tree/opencalls.h>
 
 #include <QBrush>
@@ -19,6 +19,7 @@
 #include <limits>
 #include <map>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -156,7 +157,7 @@ public:
     std::vector<Visit> visits; ///< while the tree is built: the way from the root to the category being visited
     QHash<const FeatureEntry *, qint64> rowsIn; ///< the categories that have been visited, while the tree is built
     qint64 rowsInAll = 0;
-    const QExplicitlySharedDataPointer<NodeChangeForwarder> forwarder;
+    std::optional<OrvGui::ReportRelay<FeatureEntry *>> changes; ///< of nodes; none once released
 };
 
 namespace {
@@ -183,7 +184,7 @@ const ModelColumn ModelColumn::all[] = {
 GenParamTreeModelPrivate::GenParamTreeModelPrivate(GenParamTreeModel *model, GenApi::INodeMap *map)
     : q(model)
     , nodeMap(map)
-    , forwarder(new NodeChangeForwarder(model, [this](void *tag) { nodeChanged(*static_cast<FeatureEntry *>(tag)); }))
+    , changes([this](FeatureEntry *entry) { nodeChanged(*entry); })
 {
     registerMetaTypes();
     if (failureOf([this] { build(); }))
@@ -201,7 +202,7 @@ GenParamTreeModelPrivate::~GenParamTreeModelPrivate()
 /** The memory stays while it may be in use: OpenCalls. */
 void GenParamTreeModelPrivate::release()
 {
-    forwarder->detach();
+    changes.reset();
     for (const GenApi::CallbackHandleType callback : std::exchange(callbacks, {}))
         failureOf([&] { GenApi::Deregister(callback); });
     rootChildCount = 0;
@@ -269,7 +270,7 @@ FeatureEntry *GenParamTreeModelPrivate::addFeature(GenApi::IValue *value, Featur
     GenApi::INode *node = nullptr;
     failureOf([&] {
         node = nodeOf(value);
-        callbacks.push_back(GenApi::Register(node, NodeChangeCallback(forwarder, &entry)));
+        callbacks.push_back(GenApi::Register(node, NodeChangeCallback<FeatureEntry *>(changes->reporter(), &entry)));
     });
     if (!isNew)
         return furtherOccurrence(&entry, parent, row);

@@ -1,7 +1,7 @@
 #include <OrvCameraGuiApi/feature_tree/featurehandler.h>
 
-#include <OrvCameraGuiApi/device_selection/ip4validator.h>
-#include <OrvCameraGuiApi/device_selection/mactext.h>
+#include <OrvCameraGuiApi/addresses/ip4validator.h>
+#include <OrvCameraGuiApi/addresses/mactext.h>
 #include <OrvCameraGuiApi/feature_tree/framelesseditor.h>
 #include <OrvCameraGuiApi/feature_tree/genparamwhatsthis.h>
 #include <OrvCameraGuiApi/widgets/integers.h>

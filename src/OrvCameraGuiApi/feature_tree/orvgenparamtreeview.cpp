@@ -1,5 +1,6 @@
 #include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
 
+#include <OrvCameraGuiApi/background/nodemapclock.h>
 #include <OrvCameraGuiApi/camera_api/orvgenparam.h>
 #include <OrvCameraGuiApi/feature_tree/categoryspans.h>
 #include <OrvCameraGuiApi/feature_tree/featureselection.h>
@@ -10,7 +11,6 @@
 #include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreevisibilityfilterproxymodel.h>
-#include <OrvCameraGuiApi/feature_tree/nodemapclock.h>
 #include <OrvCameraGuiApi/feature_tree/opencalls.h>
 #include <OrvCameraGuiApi/feature_tree/treestate.h>
 #include <OrvCameraGuiApi/feature_tree/treeviewresizer.h>
