@@ -1,3 +1,4 @@
+#include <OrvCameraGuiApi/background/periods.h>
 #include <OrvCameraGuiApi/device_selection/devicetreemodel.h>
 #include <OrvCameraGuiApi/device_selection/infopane.h>
 #include <OrvCameraGuiApi/device_selection/orvcameraselectordialog.h>
@@ -19,6 +20,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QTextDocument>
 #include <QToolTip>
@@ -33,6 +35,7 @@ using namespace SimTest;
 
 namespace {
 
+using Pause = QScopedValueRollback<std::chrono::milliseconds>;
 constexpr auto shortPeriod = std::chrono::milliseconds(5);
 
 /** The dialog on the simulated system, shown, and what a person finds in it. */
@@ -158,10 +161,9 @@ private Q_SLOTS:
     {
         TestCase::init();
         OrvSim::reset();
-        SystemPolling::period = std::chrono::milliseconds(1000);
     }
 
-    void initTestCase() { QCOMPARE(SystemPolling::period.count(), 1000); }
+    void initTestCase() { QCOMPARE(int(OrvGui::Periods().search.count()), 1000); }
 
     void picksADevice()
     {
@@ -505,7 +507,7 @@ private Q_SLOTS:
     /** Two identifiers of Latin-1 that look the same as UTF-8. */
     void tellsIdentifiersApart()
     {
-        SystemPolling::period = shortPeriod;
+        const Pause pause(OrvGui::periods().search, shortPeriod);
         for (const auto &[name, id] : {std::pair("one", "camera \xe8"), std::pair("two", "camera \xe9")}) {
             OrvSim::DeviceSpec camera = cameraNamed(name);
             camera.id = id;
@@ -527,7 +529,7 @@ private Q_SLOTS:
     /** Cameras with one identifier, or none, are told apart by their objects. */
     void tellsEqualIdentifiersApart()
     {
-        SystemPolling::period = shortPeriod;
+        const Pause pause(OrvGui::periods().search, shortPeriod);
         for (const OrvSim::Text &id : {OrvSim::Text("same"), OrvSim::Text()}) {
             OrvSim::reset();
             for (const char *name : {"one", "two", "three"}) {
@@ -654,7 +656,7 @@ private Q_SLOTS:
     void goesOnPollingAfterAnException()
     {
         std::atomic<int> steps{0};
-        SystemPolling::period = shortPeriod;
+        const Pause pause(OrvGui::periods().search, shortPeriod);
         SystemPolling polling([&] {
             ++steps;
             throw "of a camera access library"; // no std::exception, as those of GenICam
@@ -737,7 +739,7 @@ private Q_SLOTS:
     {
         QFETCH(Step, meanwhile);
         QFETCH(QString, then);
-        SystemPolling::period = shortPeriod;
+        const Pause pause(OrvGui::periods().search, shortPeriod);
         Shown shown(true);
         shown.click(twoFrame);
         OrvSim::unplug(twoFrame);
@@ -827,7 +829,7 @@ private Q_SLOTS:
 
     void followsTheSystemWhilePolling()
     {
-        SystemPolling::period = shortPeriod;
+        const Pause pause(OrvGui::periods().search, shortPeriod);
         Shown shown(true);
         QVERIFY(shown.dialog->isPollChecked() && !shown.rescan()->isEnabled());
         shown.click(twoFrame);
@@ -848,7 +850,7 @@ private Q_SLOTS:
     /** Whatever the pause is: switching off and closing do not wait for its end. */
     void polls()
     {
-        SystemPolling::period = std::chrono::hours(1);
+        const Pause pause(OrvGui::periods().search, std::chrono::hours(1));
         Shown shown;
         auto *const check = shown.part<QCheckBox>("pollingCheckBox");
         for (int i = 0; i < 3; ++i) {
@@ -907,7 +909,7 @@ private Q_SLOTS:
 
     void staysResponsiveWhileASearchHangs()
     {
-        SystemPolling::period = shortPeriod;
+        const Pause pause(OrvGui::periods().search, shortPeriod);
         Shown shown(true);
         OrvSim::stall(OrvSim::Call::ReEnumerateDevices);
         QVERIFY(OrvSim::waitUntilStalled(OrvSim::Call::ReEnumerateDevices, 5s));
@@ -928,7 +930,7 @@ private Q_SLOTS:
 
     void livesThroughMuchPlugging()
     {
-        SystemPolling::period = shortPeriod;
+        const Pause pause(OrvGui::periods().search, shortPeriod);
         Shown shown(true);
         QSignalSpy resets(shown.model(), &QAbstractItemModel::modelReset);
         std::atomic<bool> isOver{false};
@@ -1132,7 +1134,7 @@ private Q_SLOTS:
     {
         QFETCH(std::function<void()>, fault);
         QFETCH(bool, isAsked);
-        SystemPolling::period = shortPeriod;
+        const Pause pause(OrvGui::periods().search, shortPeriod);
         if (fault)
             fault(); // before the panes read, and the node map keeps, what is to be read
         Shown shown(true);
