@@ -252,6 +252,20 @@ private Q_SLOTS:
         QVERIFY(FilteredRows::isShown(*image) && !FilteredRows::isShown(*again));
     }
 
+    /** Also of rows that pass the filter themselves. */
+    void invalidatesIndexesBelowACategoryThatGoes()
+    {
+        Filtered filtered(description().replace("<Category Name=\"Inner\">",
+                                                "<Category Name=\"Inner\"><pIsImplemented>Switch</pIsImplemented>"));
+        filtered.proxy.setFilterVisibility(2);
+        const QModelIndex inner = filtered.proxy.index(0, 0, filtered.proxy.index(2, 0));
+        const QPersistentModelIndex gain(filtered.proxy.index(0, 0, inner));
+        QCOMPARE(gain.data().toString(), QStringLiteral("Expert Gain"));
+        filtered.setValue("Switch", 0);
+        filtered.proxy.invalidate(); // before the event loop runs, which would remove the row
+        QVERIFY(!gain.isValid());
+    }
+
     void goesWithItsSource()
     {
         const FeatureCamera camera(description());
