@@ -14,12 +14,20 @@ public:
     bool hasValue() const override { return false; }
 };
 
-std::vector<HandledType> allHandlers()
+const CategoryHandler category;
+const DefaultHandler fallback;
+
+/** By the numbers of the types: values are read at every repaint, so finding a handler must cost next to nothing. */
+std::vector<const FeatureHandler *> allHandlers()
 {
-    static const CategoryHandler category;
-    std::vector<HandledType> all = {{GenApi::intfICategory, &category}};
-    for (const auto &family : {numberHandlers(), choiceHandlers(), textHandlers()})
-        all.insert(all.end(), family.begin(), family.end());
+    std::vector<const FeatureHandler *> all;
+    for (const auto &family : {numberHandlers(), choiceHandlers(), textHandlers(),
+                               std::vector<HandledType>{{GenApi::intfICategory, &category}}}) {
+        for (const HandledType &row : family) {
+            all.resize(std::max(all.size(), size_t(row.type) + 1), &fallback);
+            all[size_t(row.type)] = row.handler;
+        }
+    }
     return all;
 }
 
@@ -27,11 +35,9 @@ std::vector<HandledType> allHandlers()
 
 const FeatureHandler &FeatureHandler::of(GenApi::EInterfaceType type)
 {
-    static const DefaultHandler fallback;
-    static const std::vector<HandledType> all = allHandlers();
-    const auto found =
-        std::find_if(all.begin(), all.end(), [type](const HandledType &row) { return row.type == type; });
-    return found == all.end() ? fallback : *found->handler;
+    static const std::vector<const FeatureHandler *> all = allHandlers();
+    const auto number = size_t(type);
+    return number < all.size() ? *all[number] : fallback;
 }
 
 const FeatureHandler &FeatureHandler::of(GenApi::IValue *value)
