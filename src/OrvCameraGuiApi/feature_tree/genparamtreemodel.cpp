@@ -86,8 +86,7 @@ bool mayBeCategory(GenApi::INode *node)
     return mayBe;
 }
 
-/** The nodes of a large camera do not fit into a cache. Waiting for each takes a quarter of the time to build a tree.
- */
+/** The nodes of a large camera do not fit into a cache. Waiting for them is a quarter of the time to build a tree. */
 void prefetch(const GenApi::FeatureList_t &features, size_t index)
 {
     if (index < features.size())
