@@ -21,18 +21,6 @@ void press(int key, Qt::KeyboardModifiers modifiers = {})
     QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
 }
 
-void typeKeys(const QString &text)
-{
-    for (const QChar key : text)
-        QTest::keyClick(QApplication::focusWidget(), key.toLatin1());
-}
-
-bool hasEditor(const ShownView &shown)
-{
-    const auto children = shown.tree->viewport()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-    return std::any_of(children.begin(), children.end(), [](QWidget *child) { return child->isVisible(); });
-}
-
 /** With Tab into the tree, and Down until the feature is current. */
 bool walkTo(const ShownView &shown, const char *name)
 {
@@ -70,8 +58,6 @@ class TestTreeKeys : public OrvTest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void changesEveryKind_data();
-    void changesEveryKind();
     void movesBetweenColumns();
     void changesNothingUnasked();
     void leavesTheSearchItsKeys_data();
@@ -80,64 +66,6 @@ private Q_SLOTS:
     void paintsReadably_data();
     void paintsReadably();
 };
-
-void TestTreeKeys::changesEveryKind_data()
-{
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<QString>("keys"); ///< ">" and "<" are Right and Left, "2" is F2, "_" Down
-    QTest::addColumn<QString>("entry");
-    QTest::addColumn<QString>("text");
-    const auto row = [](const char *name, const char *keys, const char *entry, const char *text) {
-        QTest::addRow("%s %s", name, QByteArray(keys).replace('\r', "Enter").constData())
-            << QByteArray(name) << QString::fromLatin1(keys) << QString::fromLatin1(entry) << QString::fromLatin1(text);
-    };
-    for (const char *open : {"2", "\r", ">2", ">\r"}) {
-        row("Exposure Time", open, "40\r", "40us");
-        row("GevSCDA", open, "192.168.1.7\r", "192.168.1.7");
-        row("GevMACAddress", open, "258\r", "00:00:00:00:01:02");
-        row("Mask", open, "beef\r", "BEEF");
-        row("Gain", open, "2.5\r", "2.500dB");
-        row("Label", open, "abc\r", "abc");
-        row("Binning", open, "_", "4px");
-        row("Mode", open, "_", "Continuous");
-        row("Flag", open, "^", "True");
-        row("Start", open, " ", "Execute");
-        row("Start", open, "\r", "Execute");
-    }
-    row("Flag", ">", " ", "True");
-    row("Start", ">", " ", "Execute");
-}
-
-void TestTreeKeys::changesEveryKind()
-{
-    QFETCH(QByteArray, name);
-    QFETCH(QString, keys);
-    QFETCH(QString, entry);
-    QFETCH(QString, text);
-    ShownView shown;
-    QVERIFY(shown.show());
-    QVERIFY(walkTo(shown, name));
-    QVERIFY(!hasEditor(shown));
-    const auto play = [](const QString &sequence) {
-        for (const QChar key : sequence) {
-            const int special[] = {'>', Qt::Key_Right, '^', Qt::Key_Up, '_', Qt::Key_Down, '\r', Qt::Key_Return};
-            const auto *const found = std::find(std::begin(special), std::end(special), int(key.toLatin1()));
-            if (found == std::end(special))
-                typeKeys(key);
-            else
-                press(found[1]);
-        }
-    };
-    play(QString(keys).remove(QLatin1Char('2')));
-    if (keys.contains(QLatin1Char('2')))
-        press(Qt::Key_F2);
-    const QByteArray content(shown.port.writeCount() ? "written" : "untouched");
-    QCOMPARE(content, QByteArray("untouched"));
-    play(entry);
-    QTRY_COMPARE(shown.cell(name.constData()).data().toString(), text);
-    if (name != "Gain" && name != "Binning")
-        QCOMPARE(shown.port.writeCount(), uint64_t(1));
-}
 
 void TestTreeKeys::movesBetweenColumns()
 {
@@ -148,7 +76,7 @@ void TestTreeKeys::movesBetweenColumns()
         QVERIFY(walkTo(shown, "Label"));
         press(mirrored ? Qt::Key_Left : Qt::Key_Right);
         QCOMPARE(shown.tree->currentIndex(), shown.cell("Label"));
-        QVERIFY(!hasEditor(shown));
+        QVERIFY(!shown.editor());
         press(mirrored ? Qt::Key_Right : Qt::Key_Left);
         QCOMPARE(shown.tree->currentIndex(), shown.cell("Label", 0));
         QVERIFY(shown.tree->hasFocus());
@@ -156,7 +84,7 @@ void TestTreeKeys::movesBetweenColumns()
         QVERIFY(walkTo(shown, "Serial"));
         press(Qt::Key_F2);
         press(Qt::Key_Space);
-        QVERIFY(!hasEditor(shown));
+        QVERIFY(!shown.editor());
         press(Qt::Key_Tab);
         QVERIFY(!shown.tree->hasFocus());
         QCOMPARE(shown.port.writeCount(), uint64_t(0));
@@ -182,7 +110,7 @@ void TestTreeKeys::changesNothingUnasked()
     shown.tree->setEditTriggers(QTreeView::NoEditTriggers);
     for (const int key : {Qt::Key_Space, Qt::Key_F2, Qt::Key_Return})
         press(key);
-    QVERIFY(!hasEditor(shown));
+    QVERIFY(!shown.editor());
     QCOMPARE(shown.port.writeCount(), uint64_t(0));
 }
 
@@ -194,10 +122,10 @@ void TestTreeKeys::leavesTheSearchItsKeys()
     QVERIFY(walkTo(shown, "Flag"));
     if (fromValues)
         press(Qt::Key_Right);
-    typeKeys(QStringLiteral("plain n"));
+    shown.press(QStringLiteral("plain n"));
     QCOMPARE(shown.tree->currentIndex().data().toString(), QStringLiteral("Plain Numbers"));
-    typeKeys(QStringLiteral("u"));
-    QVERIFY(!hasEditor(shown));
+    shown.press(QStringLiteral("u"));
+    QVERIFY(!shown.editor());
     QCOMPARE(shown.tree->currentIndex().data().toString(), QStringLiteral("Plain Numbers"));
     QCOMPARE(shown.port.writeCount(), uint64_t(0));
 }
