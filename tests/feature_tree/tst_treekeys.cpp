@@ -60,7 +60,6 @@ class TestTreeKeys : public OrvTest::TestCase
 private Q_SLOTS:
     void movesBetweenColumns();
     void changesNothingUnasked();
-    void leavesTheSearchItsKeys_data();
     void leavesTheSearchItsKeys();
     void goesToTheFilter();
     void paintsReadably_data();
@@ -91,13 +90,6 @@ void TestTreeKeys::movesBetweenColumns()
     }
 }
 
-void TestTreeKeys::leavesTheSearchItsKeys_data()
-{
-    QTest::addColumn<bool>("fromValues");
-    QTest::addRow("names") << false;
-    QTest::addRow("values") << true;
-}
-
 void TestTreeKeys::changesNothingUnasked()
 {
     ShownView shown;
@@ -116,18 +108,19 @@ void TestTreeKeys::changesNothingUnasked()
 
 void TestTreeKeys::leavesTheSearchItsKeys()
 {
-    QFETCH(bool, fromValues);
-    ShownView shown;
-    QVERIFY(shown.show());
-    QVERIFY(walkTo(shown, "Flag"));
-    if (fromValues)
-        press(Qt::Key_Right);
-    shown.press(QStringLiteral("plain n"));
-    QCOMPARE(shown.tree->currentIndex().data().toString(), QStringLiteral("Plain Numbers"));
-    shown.press(QStringLiteral("u"));
-    QVERIFY(!shown.editor());
-    QCOMPARE(shown.tree->currentIndex().data().toString(), QStringLiteral("Plain Numbers"));
-    QCOMPARE(shown.port.writeCount(), uint64_t(0));
+    for (const bool fromValues : {false, true}) {
+        ShownView shown;
+        QVERIFY(shown.show());
+        QVERIFY(walkTo(shown, "Flag"));
+        if (fromValues)
+            press(Qt::Key_Right);
+        for (const char *const keys : {"plain n", "u"}) {
+            shown.press(QLatin1String(keys));
+            QCOMPARE(shown.tree->currentIndex().data().toString(), QStringLiteral("Plain Numbers"));
+        }
+        QVERIFY(!shown.editor());
+        QCOMPARE(shown.port.writeCount(), uint64_t(0));
+    }
 }
 
 void TestTreeKeys::goesToTheFilter()

@@ -194,6 +194,9 @@ void TestTreeWrites::fitsUntouchedEditors()
     shown.node("Mode")->InvalidateNode();
     QCOMPARE(mode->count(), 1);
     QCOMPARE(mode->currentText(), QStringLiteral("Off"));
+    set(shown, "There", 1);
+    shown.node("Mode")->InvalidateNode();
+    QCOMPARE(mode->count(), 2);
     QCOMPARE(shown.editor(), mode);
 }
 
