@@ -9,11 +9,9 @@
 
 #include <QAbstractProxyModel>
 #include <QComboBox>
-#include <QDialog>
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTimer>
 #include <QToolTip>
 #include <QWheelEvent>
 
@@ -95,7 +93,6 @@ private Q_SLOTS:
     void walkingWritesNothing_data();
     void walkingWritesNothing();
     void followsTheValueUntilTouched();
-    void survivesItsEditorGoingWhileItWrites();
     void writesForeignEditors();
 };
 
@@ -327,33 +324,6 @@ void TestGenParamDelegate::followsTheValueUntilTouched()
     tree.press(QStringLiteral("a"));
     QCOMPARE(edit->text(), QStringLiteral("abc"));
     QCOMPARE(tree.writes, 1);
-}
-
-/** An application that tells of the error in a dialog, and drops the features while that is open. */
-void TestGenParamDelegate::survivesItsEditorGoingWhileItWrites()
-{
-    for (const auto &[name, keys] :
-         {std::pair("Flag", "^"), std::pair("Start", " "), std::pair("Label", "abc|"), std::pair("Exposure", "40\r")}) {
-        EditedTree tree;
-        failGetter(*tree.map, name, qstrcmp(name, "Start") ? "SetValue" : "Execute");
-        const QString text = tree.text(name);
-        const QPointer<QWidget> editor = tree.open<QWidget>(name);
-        QVERIFY(editor);
-        QObject::connect(tree.model, &GenParamTreeModel::errorAppeared, &tree.view, [&tree, editor] {
-            QDialog dialog;
-            QTimer::singleShot(0, &dialog, [&] {
-                tree.view.clearParams();
-                QTimer::singleShot(0, &dialog, &QDialog::accept);
-            });
-            dialog.exec();
-            QVERIFY(editor);
-        });
-        tree.press(QLatin1String(keys));
-        QTRY_VERIFY(!editor);
-        QCOMPARE(tree.failures, 1);
-        tree.view.setParams(tree.map.get());
-        QCOMPARE(tree.text(name), text);
-    }
 }
 
 void TestGenParamDelegate::writesForeignEditors()
