@@ -124,6 +124,7 @@ void TestGenParamDelegate::edits_data()
     row("Exposure", "30000\b\b8\r", "308us", 1);
     row("Mask", "xyz\r", "0", 0);
     row("GevSCDA", "192.168.1.7|", "192.168.1.7", 1);
+    row("GevSCDA", "x192.168.1.7\r", "192.168.1.7", 1); // a letter is not taken
     row("GevSCDA", "192.168.\r", "0.0.0.0", 0);
     row("GevSCDA", "192.168.|", "0.0.0.0", 0);
     row("GevSCDA", "\b\r", "0.0.0.0", 0);
