@@ -761,7 +761,7 @@ void OrvCamConfigTest::leavesNothingBehind()
 {
     const QScopedValueRollback<std::chrono::milliseconds> period(OrvGui::CameraParams::period,
                                                                  std::chrono::milliseconds(1));
-    constexpr int settledAfter = isHeapMeasured ? 25 : 5;
+    constexpr int settledAfter = isHeapMeasured ? 15 : 5;
     constexpr int rounds = 4 * settledAfter;
     std::size_t early = 0;
     for (int round = 1; round <= rounds; ++round) {
