@@ -100,6 +100,17 @@ struct ShownView : FeatureCamera
         return qobject_cast<Editor *>(editor());
     }
 
+    /** With Tab into the tree, and Down until that row is current. */
+    bool walkTo(const QModelIndex &row) const
+    {
+        for (int i = 0; i < 20 && !tree->hasFocus(); ++i)
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        const QModelIndex name = row.siblingAtColumn(GenParamTreeModel::NameColumn);
+        for (int i = 0; i < 40 && tree->hasFocus() && tree->currentIndex() != name; ++i)
+            QTest::keyClick(tree, Qt::Key_Down);
+        return tree->hasFocus() && name.isValid() && tree->currentIndex() == name;
+    }
+
     void clickOutside() const { WindowMouse::click(part<QWidget>("whatsThisLabel"), QPoint(5, 5)); }
 
     /**

@@ -32,8 +32,6 @@ struct EditedTree : ShownView
     template <typename Editor>
     Editor *open(const char *name);
     void click(const QModelIndex &index);
-    /** With Tab into the tree, and Down until the feature is current. */
-    void walkTo(const char *name);
     /** The model reports it at once. */
     void setRegister(const char *name, qint64 value) { node<GenApi::CIntegerPtr>(name)->SetValue(value); }
 
@@ -66,16 +64,6 @@ void EditedTree::click(const QModelIndex &index)
 {
     tree->scrollTo(index);
     WindowMouse::click(tree->viewport(), tree->visualRect(index).center());
-}
-
-void EditedTree::walkTo(const char *name)
-{
-    for (int i = 0; i < 20 && !tree->hasFocus(); ++i)
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    const QModelIndex target = cell(name).siblingAtColumn(GenParamTreeModel::NameColumn);
-    for (int i = 0; i < 40 && tree->currentIndex() != target; ++i)
-        QTest::keyClick(tree, Qt::Key_Down);
-    QCOMPARE(tree->currentIndex(), target);
 }
 
 } // namespace
@@ -184,7 +172,7 @@ void TestGenParamDelegate::edits()
     if (opening.isEmpty()) {
         tree.click(tree.cell(name));
     } else {
-        tree.walkTo(name);
+        QVERIFY(tree.walkTo(tree.cell(name)));
         QVERIFY(!tree.editor());
         tree.press(opening);
     }

@@ -21,16 +21,6 @@ void press(int key, Qt::KeyboardModifiers modifiers = {})
     QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
 }
 
-/** With Tab into the tree, and Down until the feature is current. */
-bool walkTo(const ShownView &shown, const char *name)
-{
-    for (int i = 0; i < 20 && !shown.tree->hasFocus(); ++i)
-        press(Qt::Key_Tab);
-    for (int i = 0; i < 40 && shown.tree->currentIndex().data().toString() != QLatin1String(name); ++i)
-        press(Qt::Key_Down);
-    return shown.tree->hasFocus() && shown.tree->currentIndex() == shown.cell(name, 0);
-}
-
 double luminance(const QColor &color)
 {
     const auto linear = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
@@ -72,7 +62,7 @@ void TestTreeKeys::movesBetweenColumns()
         ShownView shown;
         shown.view.setLayoutDirection(mirrored ? Qt::RightToLeft : Qt::LeftToRight);
         QVERIFY(shown.show());
-        QVERIFY(walkTo(shown, "Label"));
+        QVERIFY(shown.walkTo(shown.cell("Label")));
         press(mirrored ? Qt::Key_Left : Qt::Key_Right);
         QCOMPARE(shown.tree->currentIndex(), shown.cell("Label"));
         QVERIFY(!shown.editor());
@@ -80,7 +70,7 @@ void TestTreeKeys::movesBetweenColumns()
         QCOMPARE(shown.tree->currentIndex(), shown.cell("Label", 0));
         QVERIFY(shown.tree->hasFocus());
         // Read-only values have no editor, and Tab leaves the tree.
-        QVERIFY(walkTo(shown, "Serial"));
+        QVERIFY(shown.walkTo(shown.cell("Serial")));
         press(Qt::Key_F2);
         press(Qt::Key_Space);
         QVERIFY(!shown.editor());
@@ -94,7 +84,7 @@ void TestTreeKeys::changesNothingUnasked()
 {
     ShownView shown;
     QVERIFY(shown.show());
-    QVERIFY(walkTo(shown, "Flag"));
+    QVERIFY(shown.walkTo(shown.cell("Flag")));
     press(Qt::Key_Right);
     QKeyEvent held(QEvent::KeyPress, Qt::Key_Space, {}, QStringLiteral(" "), true);
     QCoreApplication::sendEvent(shown.tree, &held);
@@ -111,7 +101,7 @@ void TestTreeKeys::leavesTheSearchItsKeys()
     for (const bool fromValues : {false, true}) {
         ShownView shown;
         QVERIFY(shown.show());
-        QVERIFY(walkTo(shown, "Flag"));
+        QVERIFY(shown.walkTo(shown.cell("Flag")));
         if (fromValues)
             press(Qt::Key_Right);
         for (const char *const keys : {"plain n", "u"}) {
