@@ -17,7 +17,7 @@
 
 namespace {
 
-/** What the camera access library hands out is given back by Release(). */
+/** Objects of the camera access library are returned by Release(). */
 struct Releaser
 {
     template <typename T>

@@ -12,7 +12,7 @@ class DeviceInfo;
 class System;
 } // namespace OrvCam
 
-/** Something that has features to show. Its node map lives as long as it does. */
+/** A node map to show, and the object that it belongs to. The node map lives as long as the source. */
 class CameraSource
 {
 public:
@@ -24,17 +24,17 @@ public:
     /** Never null. */
     virtual GenApi::INodeMap *nodeMap() const = 0;
 
-    /** What to call it in a title. */
+    /** The name for titles. */
     virtual QString name() const = 0;
 
-    /** The identifier of the camera; empty where there is none. */
+    /** The identifier of the camera; empty if there is none. */
     virtual QString id() const { return {}; }
 
-    /** The opened camera; null where there is none. */
+    /** The opened camera; null if there is none. */
     virtual OrvCam::Device *device() const { return nullptr; }
 };
 
-/** Thrown when there is nothing to show; the message is one line for people. */
+/** Thrown if a source cannot be opened; the message is one line for the user. */
 struct CameraSourceError
 {
     QString message;

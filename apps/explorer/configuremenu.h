@@ -32,15 +32,16 @@ public:
     explicit ConfigureMenu(QWidget *window);
 
     /**
-     * Shows \a device, or no camera if it is null, in all windows. It stays the caller's and lives until another one
-     * is set.
+     * Shows \a device, or no camera if it is null, in all windows. The caller keeps it; it must live until
+     * another one is set.
      */
     void setDevice(OrvCam::Device *device);
 
-    /** Whether the camera can be reached at present: while it cannot, the dialogs have none. A new one can be. */
+    /** Sets whether the camera can be reached; otherwise the dialogs have no camera. A new camera counts as reachable.
+     */
     void setReachable(bool reachable);
 
-    /** Where the windows are; one that is not open yet will open where it was. */
+    /** The places of the windows, including those that are opened later. */
     void saveSettings(QSettings &settings) const;
     void restoreSettings(const QSettings &settings);
 

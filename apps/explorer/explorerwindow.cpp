@@ -162,7 +162,7 @@ void ExplorerWindow::createViewMenu()
     QMenu *const view = menuBar()->addMenu(tr("&View"));
     QAction *const refreshing = view->addAction(iconOf("refresh"), tr("&Refresh Values"), this,
                                                 &ExplorerWindow::refresh, QKeySequence::Refresh);
-    setTip(*refreshing, tr("Read the values of the tree anew"));
+    setTip(*refreshing, tr("Read the values of the tree again"));
     view->addSeparator();
     m_polling = view->addAction(iconOf("poll"), tr("&Poll"));
     m_polling->setObjectName(QStringLiteral("poll"));
@@ -373,7 +373,7 @@ void ExplorerWindow::saveSettings(QSettings &settings) const
     settings.endGroup();
 }
 
-/** What is missing stays as it is. The file may have been edited: what it says is no more than a wish. */
+/** Missing settings change nothing. The user may have edited the file, so every value is checked. */
 void ExplorerWindow::restoreSettings(QSettings &settings)
 {
     restoreGeometry(settings.value(geometryKey).toByteArray());

@@ -38,16 +38,15 @@ public:
     /** Shows the camera with that identifier instead; what keeps it from that, a message tells, and nothing changes. */
     void showCamera(const QString &id);
 
-    /** Shows that GenICam description instead; the same holds. */
+    /** Shows that GenICam description instead, likewise. */
     void showDescription(const QString &path);
 
-    /** Writes what saveState() of the view gives into the file, or arranges the view by what is in it. */
+    /** Writes the state of the view into the file, or restores it from the file. */
     void saveStateTo(const QString &path);
     void loadStateFrom(const QString &path);
 
     /**
-     * What is remembered from one run to the next: the windows' places, how the tree of each camera is arranged, the
-     * polling.
+     * Settings between runs: the places of the windows, the polling, and the arrangement of the tree for each camera.
      */
     void saveSettings(QSettings &settings) const;
     void restoreSettings(QSettings &settings);

@@ -59,7 +59,7 @@ int saveScreenshots(ExplorerWindow &window, const QString &directory)
     return print(screenshots.files().join(QLatin1Char('\n')) + QLatin1Char('\n'));
 }
 
-/** What the command line asks for; null when people are to be asked. */
+/** The source that the command line names; null if the user has to choose one. */
 std::unique_ptr<CameraSource> sourceOf(const Options &options)
 {
     if (!options.xmlFile.isEmpty())

@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-/** What the command line asks for. */
+/** The options of the command line. */
 struct Options
 {
     enum class Action {

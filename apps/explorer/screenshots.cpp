@@ -26,7 +26,7 @@ Widget *part(QWidget &window, const char *name)
     return window.findChild<Widget *>(QLatin1String(name));
 }
 
-/** What the configuration window shows comes with its first look at the camera. */
+/** The configuration window is empty until it has read the camera for the first time. */
 void waitForText(const QLineEdit &field)
 {
     const QDeadlineTimer deadline(longestWait);

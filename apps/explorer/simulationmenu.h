@@ -7,8 +7,8 @@
 class Drift;
 
 /**
- * Plugs simulated cameras in and out; makes features of one fail and recover, lets it refuse all writes, and lets its
- * values drift. All but the first is disabled while there is none.
+ * Plugs simulated cameras in and out. For the current camera, makes features fail and recover, refuses all writes, and
+ * lets values drift; these entries are disabled without a simulated camera.
  */
 class SimulationMenu : public QMenu
 {
@@ -17,17 +17,17 @@ class SimulationMenu : public QMenu
 public:
     explicit SimulationMenu(QWidget *parent);
 
-    /** \a id is empty for what is no simulated camera; \a nodeMap is what the application reads it with. */
+    /** \a id is empty if the camera is not simulated; \a nodeMap is the application's node map of it. */
     void setCamera(const QString &id, GenApi::INodeMap *nodeMap);
 
-    /** The node name of the feature that is to fail; empty for none. */
+    /** The node name of the feature that will fail; empty for none. */
     void setFeature(const QString &name);
 
 Q_SIGNALS:
     /** The camera behaves differently from now on. */
     void changed();
 
-    /** What came of it, for people. */
+    /** The result of a command, for the status bar. */
     void told(const QString &message);
 
 private:

@@ -45,6 +45,10 @@ private Q_SLOTS:
     void connectsToAnotherCamera();
     void goesBackToTheFormerCamera();
     void survivesWhatHappensWhileItAsks();
+
+private:
+    const QScopedValueRollback<std::chrono::milliseconds> m_period{OrvGui::periods().status,
+                                                                   std::chrono::milliseconds(5)};
 };
 
 namespace {
@@ -58,7 +62,7 @@ QString fromForm(const char *text)
 void waitForSteps(int count)
 {
     bool isOver = false;
-    QTimer::singleShot((count + 3) * OrvGui::CameraParams::period, [&] { isOver = true; });
+    QTimer::singleShot((count + 3) * OrvGui::periods().status, [&] { isOver = true; });
     QTRY_VERIFY(isOver);
 }
 
@@ -126,8 +130,7 @@ QString aboutText(const OrvCamConfig &window, const char *label)
 
 void OrvCamConfigTest::initTestCase()
 {
-    QCOMPARE(int(OrvGui::CameraParams::period.count()), 1000);
-    OrvGui::CameraParams::period = std::chrono::milliseconds(5);
+    QCOMPARE(int(OrvGui::Periods().status.count()), 1000);
 }
 
 void OrvCamConfigTest::init()
@@ -246,7 +249,7 @@ void OrvCamConfigTest::countsRepeatedModesOnce()
         const OrvCamConfig window(camera.device());
         QTimer polls;
         connect(&polls, &QTimer::timeout, &window, [&] { camera.params()->GetNodeMap()->Poll(1000); });
-        polls.start(OrvGui::CameraParams::period);
+        polls.start(OrvGui::periods().status);
         waitForSteps(100);
         QTRY_VERIFY(reports.count > 50);
         QCOMPARE(camera.takeWrites(), 2);

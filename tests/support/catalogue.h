@@ -14,7 +14,7 @@ struct CatalogueEntry
     QString state; ///< empty for one that is finished
 };
 
-/** What is in a .ts file; empty when it cannot be read. */
+/** The content of a .ts file; empty if it cannot be read. */
 QVector<CatalogueEntry> readCatalogue(const QString &path);
 
 } // namespace OrvTest

@@ -25,8 +25,8 @@ protected Q_SLOTS:
 };
 
 /**
- * What the library says for \a text, in the language that the test runs in: the text itself but in a second run with
- * the pseudo language (see orv_add_test()).
+ * The library's text for \a text in the language of the test: the text itself, or its translation in the run with the
+ * pseudo language (see orv_add_test()).
  */
 QString translated(const char *context, const char *text);
 

@@ -2,6 +2,7 @@
 // from looking at elsewhere.
 
 #include <QApplication>
+#include <QEvent>
 #include <QTimer>
 
 #include <thread>
@@ -10,9 +11,12 @@ int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
     int number = 0;
-    std::thread other([&number] {
-        for (int i = 0; i < 1000; ++i)
+    QObject receiver;
+    std::thread other([&] {
+        for (int i = 0; i < 1000; ++i) {
             ++number;
+            QCoreApplication::postEvent(&receiver, new QEvent(QEvent::User));
+        }
     });
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &timer, [&number] { ++number; });

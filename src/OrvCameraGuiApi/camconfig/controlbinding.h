@@ -68,7 +68,7 @@ public:
     void disconnectOwnSignals() const;
 
 protected:
-    /** What the control shows for a number of the camera. */
+    /** The number that the control shows for the camera's \a value. */
     virtual std::int64_t toControl(std::int64_t value, OrvGenParam::Int *) const { return value; }
 
 private:

@@ -15,7 +15,7 @@
 #include <utility>
 
 /*
- * What the configuration window shows: the status of the camera, once a second, and which dialogs are open.
+ * The configuration window's content: the status of the camera, once a second, and the state of the dialogs' buttons.
  */
 
 namespace {

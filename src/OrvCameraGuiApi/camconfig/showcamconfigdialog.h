@@ -9,19 +9,19 @@
  * \file
  * Functions with C linkage that show the configuration window or one of its dialogs; this header needs no Qt.
  *
- * Each makes the window for \a device, shows it, and destroys it when it returns: intentionally no event loop is run,
- * so that the window is seen only for as long as the application keeps the screen as it is. Windows that stay are made
- * with the classes, OrvGui::OrvCamConfig and the others.
+ * Each function creates the window for \a device, shows it, and destroys it when it returns. It intentionally runs no
+ * event loop, so the window is visible only until the application repaints the screen. Use the classes,
+ * OrvGui::OrvCamConfig and the others, for windows that stay.
  *
- * \a device stays the caller's, and may be null: the dialogs are empty then, and ShowCamConfigDialog() asks the user
+ * The caller keeps \a device, which may be null. The dialogs are empty then, and ShowCamConfigDialog() asks the user
  * for a camera before it returns.
  *
- * \a parentWindowId is a native window that the new one stands in front of; 0 for none, and a number that is no window
- * does no harm. If it is a Qt window of this process, that becomes the parent widget.
+ * \a parentWindowId is a native window, and the new window stays in front of it. 0 stands for none; an invalid number
+ * does no harm. A Qt window of this process becomes the parent widget.
  *
- * Where there is no Qt application object yet, one is made, with Qt::AA_UseHighDpiPixmaps, and never destroyed. Where
- * there is one without widgets (QGuiApplication, QCoreApplication) nothing happens. All calls come from the GUI thread;
- * none of them throws.
+ * The functions create a Qt application object if there is none, with Qt::AA_UseHighDpiPixmaps, and never destroy it.
+ * They do nothing if the application object has no widgets (QGuiApplication, QCoreApplication). GUI thread only;
+ * nothing throws.
  */
 extern "C" {
 

@@ -16,11 +16,11 @@ class Int;
 class String;
 
 /**
- * All parameters of a device or an interface, by feature name (UTF-8). Lives as long as the object that it came from,
- * and so do the parameters.
+ * All parameters of a device or an interface, by feature name (UTF-8). The array and its parameters live as
+ * long as the object that returned the array.
  *
- * A lookup is null when there is no such feature or when it has another kind; \a err, which may be null, tells which.
- * A null name is an invalid argument. Every operation may be called from any thread.
+ * A lookup returns null if the feature does not exist or is of another kind; \a err, which may be null, gets the
+ * reason. A null name is an invalid argument. Every operation may be called from any thread.
  */
 class ORV_CAMERA_API Array
 {
@@ -34,13 +34,13 @@ public:
     virtual Int *GetInt(const char *name, OrvCamErr *err) = 0;
     virtual String *GetString(const char *name, OrvCamErr *err) = 0;
 
-    /** The node map behind the parameters; belongs to the array. */
+    /** The node map of the parameters; owned by the array. */
     virtual GenApi::INodeMap *GetNodeMap() = 0;
 
     /** Sets an integer feature by name. */
     virtual OrvCamErr SetIntegerValue(const char *name, std::int64_t value) = 0;
 
-    /** Reads an integer feature by name; 0 and the reason in \a err when that fails. */
+    /** Reads an integer feature by name; on failure returns 0 and stores the reason in \a err, which may be null. */
     virtual std::int64_t GetIntegerValue(const char *name, OrvCamErr *err) = 0;
 };
 

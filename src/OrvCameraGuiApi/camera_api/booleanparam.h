@@ -4,7 +4,7 @@
 
 namespace OrvGenParam {
 
-/** A truth value. */
+/** A boolean feature. */
 class ORV_CAMERA_API Boolean : public virtual Param
 {
 protected:

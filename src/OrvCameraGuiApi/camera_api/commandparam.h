@@ -4,14 +4,14 @@
 
 namespace OrvGenParam {
 
-/** Something the camera can be told to do. */
+/** A command feature. */
 class ORV_CAMERA_API Command : public virtual Param
 {
 protected:
     ~Command() override = default;
 
 public:
-    /** Tells the camera; does not wait until it is done. */
+    /** Starts the command; does not wait until it is done. */
     virtual OrvCamErr Execute() = 0;
 };
 

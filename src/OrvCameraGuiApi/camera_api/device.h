@@ -17,12 +17,12 @@ enum DeviceEvent : std::uint32_t {
     EventDeviceDisconnected = 1004 ///< the device was lost
 };
 
-/** Receives a device event; \a eventData, which may be null, is valid during the call only. */
+/** Receives a device event. \a eventData may be null and is valid during the call only. */
 using DeviceEventCallback = void (*)(const void *eventData, unsigned long eventDataSize, void *context);
 
 /**
- * A device that has been opened with OrvCam_CreateDevice(). Belongs to the camera access library; whoever opened it
- * releases it. Until then every operation may be called from any thread.
+ * A device opened by OrvCam_CreateDevice(). Owned by the camera access library until the opener releases it. Until then
+ * all operations may be called from any thread.
  */
 class ORV_CAMERA_API Device
 {
@@ -31,28 +31,27 @@ protected:
 
 public:
     /**
-     * Closes the device. Its parameters go with it: everyone who uses them has let go before, sinks unregistered.
-     * Callbacks that are registered are dropped as by UnregisterEvent().
+     * Closes the device and destroys its parameters. Their users must have let go of them before, with all sinks
+     * unregistered. Drops registered callbacks like UnregisterEvent().
      */
     virtual void Release() = 0;
 
     /**
-     * Calls \a callback with \a context on every \a eventId from now on, on any thread of the library's choice. The
-     * context, which may be null, stays the caller's; a callback that is null is an invalid argument.
+     * Calls \a callback with \a context for every event \a eventId from now on, on any thread. The caller keeps the
+     * context, which may be null. A null callback is an invalid argument.
      */
     virtual OrvCamErr RegisterEvent(std::uint32_t eventId, DeviceEventCallback callback, void *context) = 0;
 
     /**
-     * Ends the registration of exactly this triple; one that is not registered is no error. Returns only after a call
-     * of the callback that is running has ended, and the callback is not called again. Called from that very callback
-     * it returns at once; the callback is not called again either.
+     * Ends the registration of exactly this triple; a triple that is not registered is no error. Waits until a running
+     * call of the callback has ended, except within that call. The callback is not called again.
      */
     virtual OrvCamErr UnregisterEvent(std::uint32_t eventId, DeviceEventCallback callback, void *context) = 0;
 
     /**
-     * The camera's features, or null; \a err may be null. The array and its parameters live as long as the device
-     * object, through loss and return of the camera: while it is gone their operations fail. Events tell of loss and
-     * return, not notifications.
+     * The features of the camera, or null; \a err may be null. The array and its parameters live as long as the device
+     * object, even while the camera is lost; their operations fail then. Events report loss and return, parameter
+     * notifications do not.
      */
     virtual OrvGenParam::Array *GetCameraParameters(OrvCamErr *err) = 0;
 };

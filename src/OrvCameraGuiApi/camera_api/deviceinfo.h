@@ -18,11 +18,11 @@ enum AccessStatus : std::int32_t {
 };
 
 /**
- * The description of a device that was found on an interface.
+ * The description of a device on an interface.
  *
- * Belongs to the system and lives as long as it does: there is one object for every device, whatever is listed
- * meanwhile. One whose device was unplugged keeps its texts; its operations then fail. Every operation may be called
- * from any thread. Texts are UTF-8 but for the identifier, live as long as the object and may be null.
+ * Owned by the system, with the same lifetime: there is one object for each device, whatever the lists contain. It
+ * keeps its texts when the device is unplugged, and its operations fail. All operations may be called from any thread.
+ * Texts are UTF-8, except the identifier, live as long as the object and may be null.
  */
 class ORV_CAMERA_API DeviceInfo
 {
@@ -39,19 +39,19 @@ public:
     virtual const char *GetVendor() = 0;
     virtual const char *GetModel() = 0;
 
-    /** The name for people in lists. */
+    /** The display name in lists. */
     virtual const char *GetDisplayName() = 0;
 
     virtual const char *GetUserDefinedName() = 0;
     virtual const char *GetSerialNumber() = 0;
     virtual const char *GetVersion() = 0;
 
-    /** An AccessStatus, or a code without a name. Follows the device. */
+    /** The present AccessStatus, or a code without a name. */
     virtual std::int32_t GetAccessStatus() = 0;
 
     /**
-     * The device's address, subnet mask and gateway, dotted. They have a value on GigE Vision interfaces; elsewhere,
-     * and when the device is gone, the text is null and \a err, which may be null, gets a failure.
+     * The device's address, subnet mask and gateway in dotted notation. On other interfaces than GigE Vision, and when
+     * the device is gone, the text is null and \a err, which may be null, gets an error.
      */
     virtual const char *GetIPAddress(OrvCamErr *err) = 0;
     virtual const char *GetSubnetMask(OrvCamErr *err) = 0;

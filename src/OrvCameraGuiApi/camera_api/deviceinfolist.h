@@ -9,8 +9,8 @@ namespace OrvCam {
 class DeviceInfo;
 
 /**
- * The devices found by one Interface::GetDeviceInfoList(): a snapshot that is walked forward. It is used by one thread
- * at a time. Descriptions outlive the list that named them, see DeviceInfo.
+ * The devices found by one Interface::GetDeviceInfoList(): a snapshot with a forward iterator. Only one thread at a
+ * time may use it. Device descriptions outlive the list, see DeviceInfo.
  */
 class ORV_CAMERA_API DeviceInfoList
 {
@@ -18,15 +18,15 @@ protected:
     virtual ~DeviceInfoList() = default;
 
 public:
-    /** Ends the list; no pointer to it is good afterwards. */
+    /** Destroys the list. */
     virtual void Release() = 0;
 
     virtual std::size_t GetSize() = 0;
 
-    /** Goes to the first entry; null when the list is empty. */
+    /** Moves to the first entry; returns null if the list is empty. */
     virtual DeviceInfo *GetFirst() = 0;
 
-    /** Goes to the entry after the one returned last, the first one on a new list; null from the end on. */
+    /** Moves to the next entry, on a new list to the first; returns null at the end and after it. */
     virtual DeviceInfo *GetNext() = 0;
 };
 

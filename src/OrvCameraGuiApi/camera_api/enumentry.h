@@ -4,7 +4,7 @@
 
 namespace OrvGenParam {
 
-/** One choice of an enumeration. IsAvailable() tells whether it may be chosen now. Belongs to its enumeration. */
+/** An entry of an enumeration, which owns it. IsAvailable() returns whether it can be chosen now. */
 class ORV_CAMERA_API EnumEntry : public virtual Param
 {
 protected:
@@ -13,7 +13,7 @@ protected:
 public:
     virtual std::int64_t GetValue(OrvCamErr *err) = 0;
 
-    /** The symbolic name, UTF-8; stays the same for the life of the object. */
+    /** The symbolic name, UTF-8; constant for the life of the object. */
     virtual const char *GetValueStr(OrvCamErr *err) = 0;
 };
 

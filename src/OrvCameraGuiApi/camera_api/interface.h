@@ -13,7 +13,7 @@ namespace OrvCam {
 
 class DeviceInfoList;
 
-/** The kinds of interface that have a name; a system may answer any other code as well. */
+/** The interface types that have a name; a system may return other codes too. */
 enum InterfaceType : std::int32_t {
     InterfaceTypeUsb3Vision = 1,
     InterfaceTypeGigEVision = 2,
@@ -25,8 +25,8 @@ enum InterfaceType : std::int32_t {
 /**
  * A transport interface of the host: a network adapter, a USB host controller, a frame grabber.
  *
- * Belongs to the system and lives as long as it does: there is one object for every interface, whatever is listed
- * meanwhile, and nothing of it changes in place. One that was unplugged keeps its texts; its operations then fail.
+ * Owned by the system, with the same lifetime: there is one object for each interface, whatever the lists contain. Its
+ * properties never change. An interface that was unplugged keeps its texts, and its operations fail.
  * Every operation may be called from any thread. Texts live as long as the object and may be null.
  */
 class ORV_CAMERA_API Interface
@@ -35,17 +35,17 @@ protected:
     virtual ~Interface() = default;
 
 public:
-    /** The devices that are known to be on this interface. The caller releases the list; null when there is none. */
+    /** The known devices of this interface. The caller releases the list; null if there is none. */
     virtual DeviceInfoList *GetDeviceInfoList() = 0;
 
     /**
-     * Asks the library to look for devices, for at most \a timeout (in the library's own unit, milliseconds in ours).
-     * \a changed, which may be null, is set when the known devices are others than before. Whether the search happens
-     * during the call is the library's choice: what it found is seen in GetDeviceInfoList(), at once or later.
+     * Asks the library to search for devices, for at most \a timeout (in the library's unit; milliseconds in the
+     * stand-in). \a changed, which may be null, receives whether the known devices have changed. The library may search
+     * during the call or later; GetDeviceInfoList() has the result.
      */
     virtual OrvCamErr ReEnumerateDevices(bool *changed, std::uint32_t timeout) = 0;
 
-    /** The name for people; UTF-8. */
+    /** The display name; UTF-8. */
     virtual const char *GetDescription() = 0;
 
     /** An InterfaceType, or a code without a name. */
@@ -58,12 +58,12 @@ public:
     virtual const char *GetVersion() = 0;
 
     /**
-     * The features of the transport layer; belongs to the interface and lives as long. Null when there are none.
+     * The features of the transport layer; owned by the interface, with the same lifetime. Null if there are none.
      * \a err may be null.
      *
-     * "DeviceSelector" chooses the device, by its row on the interface, that the features "Device..." and
-     * "GevDevice..." speak of; the others speak of the interface. Addresses are integers whose first written part is
-     * the most significant byte: 32 bits of IPv4, the low 48 bits for a MAC address.
+     * "DeviceSelector" selects a device by its index on the interface. The features "Device..." and "GevDevice..."
+     * describe this device, all others the interface. Addresses are integers with the first byte of the text as the
+     * most significant one: 32 bits for IPv4, the low 48 bits for a MAC address.
      */
     virtual OrvGenParam::Array *GetParameters(OrvCamErr *err) = 0;
 };

@@ -9,8 +9,8 @@ namespace OrvCam {
 class Interface;
 
 /**
- * The interfaces found by one System::GetInterfaceList(): a snapshot that is walked forward. It is used by one thread
- * at a time. Interfaces outlive the list that named them, see Interface.
+ * The interfaces found by one System::GetInterfaceList(): a snapshot with a forward iterator. Only one thread at a
+ * time may use it. Interfaces outlive the list, see Interface.
  */
 class ORV_CAMERA_API InterfaceList
 {
@@ -18,15 +18,15 @@ protected:
     virtual ~InterfaceList() = default;
 
 public:
-    /** Ends the list; no pointer to it is good afterwards. */
+    /** Destroys the list. */
     virtual void Release() = 0;
 
     virtual std::size_t GetSize() = 0;
 
-    /** Goes to the first entry; null when the list is empty. */
+    /** Moves to the first entry; returns null if the list is empty. */
     virtual Interface *GetFirst() = 0;
 
-    /** Goes to the entry after the one returned last, the first one on a new list; null from the end on. */
+    /** Moves to the next entry, on a new list to the first; returns null at the end and after it. */
     virtual Interface *GetNext() = 0;
 };
 

@@ -4,7 +4,7 @@
 
 namespace OrvGenParam {
 
-/** A signed 64-bit number, in whatever unit the feature has. */
+/** An integer feature, 64 bits signed, in the unit of the feature. */
 class ORV_CAMERA_API Int : public virtual Param
 {
 protected:
@@ -16,7 +16,7 @@ public:
     virtual std::int64_t GetMin(OrvCamErr *err) = 0;
     virtual std::int64_t GetMax(OrvCamErr *err) = 0;
 
-    /** The step between valid values; may be 0, which is to be used as 1. */
+    /** The step between valid values; 0 counts as 1. */
     virtual std::int64_t GetIncrement(OrvCamErr *err) = 0;
 };
 

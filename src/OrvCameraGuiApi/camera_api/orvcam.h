@@ -24,15 +24,15 @@ constexpr std::int32_t DeviceAccessControl = 2;
 extern "C" {
 
 /**
- * The camera system of the process, or null when there is none to be had. References are counted: each successful call
- * is given back by one OrvCam::System::Release(). May be called from any thread.
+ * The camera system of the process, or null if it is not available. References are counted: each successful call needs
+ * one OrvCam::System::Release(). May be called from any thread.
  */
 ORV_CAMERA_API OrvCam::System *OrvCam_GetSystem();
 
 /**
- * Opens the described device. Whoever calls this releases the device. Null when the device cannot be opened; \a err,
- * which may be null, gets the outcome; a null description is an invalid argument. \a accessMode is the library's own
- * code, see OrvCam::DeviceAccessControl.
+ * Opens the device; the caller releases it. Returns null if the device cannot be opened. \a err, which may be null,
+ * gets the result; a null \a deviceInfo is an invalid argument. \a accessMode is a code of the library, see
+ * OrvCam::DeviceAccessControl.
  */
 ORV_CAMERA_API OrvCam::Device *OrvCam_CreateDevice(OrvCam::DeviceInfo *deviceInfo, std::int32_t accessMode,
                                                    OrvCamErr *err);

@@ -28,9 +28,8 @@ using ::OrvCamErr;
 } // namespace OrvGenParam
 
 /**
- * What a failure is called, ASCII, never null. The match is exact, for the codes have gaps: a code without a name,
- * positive ones included, is "Unknown code". That is intentionally not the "Unknown error" that has a code of its own.
- * Success has no description; its text is empty.
+ * The description of an error code, ASCII, never null. Codes without a name, including positive ones, are "Unknown
+ * code". This intentionally differs from "Unknown error", which has its own code. The text for success is empty.
  */
 constexpr const char *orvCamErrDescription(OrvCamErr err) noexcept
 {

@@ -9,7 +9,7 @@ namespace OrvGenParam {
 
 class ParamEventSink;
 
-/** What Param::GetType() answers. Only the codes of integers and enumerations are the same in every library. */
+/** The results of Param::GetType(). Only the codes of integers and enumerations are the same in every library. */
 enum ParamType : std::int32_t {
     ParamTypeInt = 1,
     ParamTypeBoolean = 2,
@@ -20,12 +20,12 @@ enum ParamType : std::int32_t {
 };
 
 /**
- * One feature of a camera or an interface: what all kinds have in common. A virtual base of every kind; a dynamic_cast
- * leads back to the kind.
+ * A feature of a camera or an interface. The virtual base of all parameter types; a dynamic_cast converts it to its
+ * type.
  *
- * Belongs to its Array and lives as long. Nothing throws: a getter that fails answers 0, false or null and stores the
- * reason in its last argument, which may be null; success stores 0 there. A setter that fails leaves the value as it
- * was. Every operation may be called from any thread; a call may wait for one on another thread, and for the device.
+ * Owned by its Array, with the same lifetime. Nothing throws. A getter that fails returns 0, false or null and stores
+ * the reason in its last argument, which may be null; success stores 0 there. A setter that fails leaves the value
+ * unchanged. All operations may be called from any thread; a call may wait for another thread and for the device.
  */
 class ORV_CAMERA_API Param
 {

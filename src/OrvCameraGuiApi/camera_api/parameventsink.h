@@ -6,15 +6,15 @@ namespace OrvGenParam {
 
 class Param;
 
-/** Receives the changes of parameters. Implemented by whoever wants to know; belongs to its implementer. */
+/** Receives the changes of parameters. Implemented and owned by the application. */
 class ORV_CAMERA_API ParamEventSink
 {
 public:
     virtual ~ParamEventSink() = default;
 
     /**
-     * Value, range or access of \a param changed. Called once for a change, on the thread whose call made the change.
-     * It may register and unregister any sink, and destroy this one.
+     * The value, range or access of \a param has changed. Called once for each change, on the thread that made it. An
+     * implementation may register and unregister any sink, and destroy this one.
      */
     virtual void OnParameterUpdate(Param *param) = 0;
 };

@@ -4,14 +4,14 @@
 
 namespace OrvGenParam {
 
-/** A text. */
+/** A string feature. */
 class ORV_CAMERA_API String : public virtual Param
 {
 protected:
     ~String() override = default;
 
 public:
-    /** UTF-8; valid until the next call of this function on this object. Null only when reading failed. */
+    /** UTF-8; valid until the next call of this function on this object. Null only if reading fails. */
     virtual const char *GetValue(OrvCamErr *err) = 0;
 };
 

@@ -8,11 +8,11 @@ namespace OrvCam {
 
 class InterfaceList;
 
-/** The mask of GetInterfaceList() that leaves nothing out. The meaning of its single bits is the library's. */
+/** The mask of GetInterfaceList() for all interfaces. The library defines the single bits. */
 constexpr std::uint32_t AllInterfaceTypes = 255;
 
 /**
- * The camera system of the process: the root of all interfaces and devices. Belongs to the camera access library.
+ * The camera system of the process, the root of all interfaces and devices. Owned by the camera access library.
  *
  * Every operation may be called from any thread.
  */
@@ -23,14 +23,13 @@ protected:
 
 public:
     /**
-     * Gives back one successful OrvCam_GetSystem(). With the last one go all interfaces and device descriptions;
-     * devices that are open stay until they are released themselves.
+     * Ends one reference from OrvCam_GetSystem(). The last one destroys all interfaces and device descriptions. Open
+     * devices live until their own Release().
      */
     virtual void Release() = 0;
 
     /**
-     * The interfaces whose type is in \a typeMask, as the system knows them now. The caller releases the list; null
-     * when there is nothing to list.
+     * The known interfaces whose type is in \a typeMask. The caller releases the list; null if there is none.
      */
     virtual InterfaceList *GetInterfaceList(std::uint32_t typeMask) = 0;
 };

@@ -27,8 +27,8 @@ bool hasGroups(const QLocale &locale);
 std::optional<qint64> toInteger(const QString &text, const QLocale &locale, int base = 10);
 
 /**
- * The finite number that all of \a text stands for, if any. Where groups are shown, a point followed by more than
- * \a decimals digits is a group separator.
+ * The finite number that all of \a text stands for, if any. If \a locale shows groups, a point followed by
+ * more than \a decimals digits is a group separator.
  */
 std::optional<double> toDouble(const QString &text, const QLocale &locale, int decimals);
 

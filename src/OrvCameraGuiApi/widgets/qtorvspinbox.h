@@ -117,8 +117,8 @@ public Q_SLOTS:
 Q_SIGNALS:
     void valueChanged(int value);
     /**
-     * Follows the number's signal. \a text is the whole text of the spin box, but the plain number on release of the
-     * slider.
+     * Follows the signal with the number. \a text is the whole text of the spin box; on release of the slider it is
+     * the plain number.
      */
     void valueChanged(const QString &text);
     void rangeChanged(int minimum, int maximum);

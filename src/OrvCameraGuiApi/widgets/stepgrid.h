@@ -13,8 +13,8 @@ int snappedToGrid(int value, int minimum, int maximum, int step);
 long long snappedToGrid(long long value, long long minimum, long long maximum, long long step);
 
 /**
- * The same for numbers with decimals. Where the grid cannot be computed (NaN, infinite width) the value stays, but is
- * at most the maximum.
+ * The same for numbers with decimals. If the grid cannot be computed (NaN, infinite width), the value stays, limited to
+ * the maximum.
  */
 double snappedToGrid(double value, double minimum, double maximum, double step);
 

@@ -11,7 +11,7 @@
 
 namespace {
 
-/** What Qt chooses its platform by; without any it would end the process. */
+/** Qt chooses its platform by these variables. Without any of them it would end the process. */
 bool isDisplaySet()
 {
     const auto isSet = [](const char *variable) { return !qEnvironmentVariableIsEmpty(variable); };

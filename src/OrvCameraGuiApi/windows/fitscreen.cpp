@@ -38,7 +38,7 @@ public:
         constexpr auto whole = Qt::WindowMaximized | Qt::WindowFullScreen;
         if (!window->isWindow() || (window->windowState() & whole))
             return false;
-        // What is in the window is shown before the window, so it learns a given size when that is polished.
+        // Children are shown before the window, so they get an explicit size when the window is polished.
         const bool isPolished = event->type() == QEvent::Polish && window->testAttribute(Qt::WA_Resized);
         if (isPolished || (event->type() == QEvent::Show && !event->spontaneous()))
             fit(*window);

@@ -14,7 +14,7 @@
  */
 namespace OrvGui::FrameArithmetic {
 
-/** The factors of the conversion. Where one of them would divide as 0, the result is 0. */
+/** The factors of the conversion. A result is 0 if its divisor is 0. */
 struct Clock
 {
     std::int64_t pixelClock = 0; ///< MHz
@@ -86,8 +86,8 @@ Gain splitGain(double gain);
 Gain nextGain(const Gain &from, bool isGreater, const GainRange &range);
 
 /**
- * The parts for a step from \a from to the gain \a to: splitGain() of that, fitted to what is taken. Where a step is
- * less than what the camera can tell apart these would be \a from again, or lie behind it; then it is nextGain().
+ * The parts for a step from \a from to the gain \a to: splitGain() of \a to, fitted to the range. If the camera cannot
+ * resolve the step, the result would be \a from or lie behind it; then it is nextGain().
  */
 Gain steppedGain(const Gain &from, double to, const GainRange &range);
 

@@ -5,11 +5,10 @@
 #include <QElapsedTimer>
 #include <QTimer>
 
-#include <chrono>
 #include <memory>
 
 /**
- * Polls a node map while somebody looks at it.
+ * Polls a node map every Periods::poll while somebody looks at it.
  *
  * There is one clock a node map, however many look: a map adds what each poll tells to the time that has passed, and
  * two pollers would have its features read twice as often as they declare. A poll tells the real time since the last
@@ -45,9 +44,6 @@ public:
         std::shared_ptr<NodeMapClock> m_clock;
         Role m_role = Looks;
     };
-
-    /** How often a map is polled; for clocks that start afterwards. */
-    static std::chrono::milliseconds period;
 
     ~NodeMapClock();
 
