@@ -45,6 +45,7 @@ public:
 
     /** Tells \a port, where it wants to know, that it belongs to this node. */
     void connect(GenApi::IPort *port);
+    bool isConnected() const { return m_port; }
 
     /** From now on writes wait for the end of the stack, if the port can do several at once. */
     void beginStack();
@@ -67,6 +68,7 @@ public:
     void drop(int64_t address, int64_t length) { m_kept.erase({address, length}); }
 
 protected:
+    GenApi::EAccessMode firstAccess() const override { return GenApi::RW; }
     GenApi::EAccessMode valueAccess() const override;
     GenApi::EAccessMode endAccess() const override { return valueAccess(); }
     bool dependsOnPort() const override { return true; }

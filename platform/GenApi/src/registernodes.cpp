@@ -29,14 +29,19 @@ EAccessMode RegisterData::everAccess() const
     return m_port ? combined(m_accessMode, m_port->everAccess()) : NI;
 }
 
+EAccessMode RegisterData::portAccess() const
+{
+    return Node::availability(m_port);
+}
+
 EAccessMode RegisterData::placeAccess() const
 {
-    EAccessMode mode = Node::availabilityOf({m_port, m_length.node()});
+    EAccessMode mode = RW;
     for (const AddressTerm &term : m_addressTerms) {
         if (mode != NI)
             mode = combined(mode, Node::availabilityOf({term.value.node(), term.offset.node()}));
     }
-    return mode;
+    return mode == NI ? mode : combined(mode, Node::availability(m_length.node()));
 }
 
 int64_t RegisterData::length(const Node &owner)
@@ -83,6 +88,8 @@ void RegisterData::requirePort(const Node &owner) const
 {
     if (!m_port)
         throwProperty(owner, "it has no port");
+    if (!m_port->isConnected())
+        owner.throwNoAccess("available, nor is its port");
 }
 
 std::string RegisterData::read(Node &owner, bool ignoreCache)
@@ -265,7 +272,8 @@ void StringBase::SetValue(const gcstring &Value, bool Verify)
 gcstring StringBase::GetValue(bool Verify, bool IgnoreCache)
 {
     const Entry entry(*this, "GetValue");
-    requireReadable(IgnoreCache);
+    FreshReading reading(*this, IgnoreCache);
+    requireReadable(reading);
     const Verification verification(m_map, Verify);
     const std::string value = text(IgnoreCache);
     if (Verify)
@@ -350,7 +358,6 @@ std::string RegisterNode::text(bool ignoreCache)
 
 void RegisterNode::setText(const std::string &text, bool verify, Changes &changes)
 {
-    requireWritable(verify);
     std::string_view digits = trimmed(text);
     if (digits.substr(0, 2) == "0x" || digits.substr(0, 2) == "0X")
         digits.remove_prefix(2);
@@ -363,6 +370,7 @@ void RegisterNode::setText(const std::string &text, bool verify, Changes &change
     }
     if (bytes.empty() || bytes.size() * 2 != digits.size())
         ORV_THROW(InvalidArgumentException, std::string("node '") + name() + "': not the bytes of a register");
+    requireWritable(verify);
     bytes.resize(std::min(bytes.size(), static_cast<std::size_t>(m_register.length(*this))));
     m_register.write(*this, std::move(bytes), changes);
 }
