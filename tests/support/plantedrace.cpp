@@ -13,10 +13,9 @@ int main(int argc, char **argv)
     int number = 0;
     QObject receiver;
     std::thread other([&] {
-        for (int i = 0; i < 1000; ++i) {
+        QCoreApplication::postEvent(&receiver, new QEvent(QEvent::User)); // unseen, unlike what follows
+        for (int i = 0; i < 1000; ++i)
             ++number;
-            QCoreApplication::postEvent(&receiver, new QEvent(QEvent::User));
-        }
     });
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &timer, [&number] { ++number; });

@@ -19,11 +19,12 @@ void WakeUp::post()
 
 bool WakeUp::event(QEvent *event)
 {
-    if (event->type() != QEvent::User)
-        return QObject::event(event);
+    // Every event runs the action, of whatever type: only Qt's own lock, which a sanitizer may not see, orders what the
+    // posting thread has written into the event.
     const std::function<void()> action = m_action;
+    const bool isHandled = QObject::event(event);
     action();
-    return true;
+    return isHandled;
 }
 
 } // namespace OrvGui

@@ -12,7 +12,7 @@ class WakeUp : public QObject
 public:
     explicit WakeUp(std::function<void()> action);
 
-    /** The action runs once for each call; any thread. */
+    /** The action runs at least once after each call; any thread. */
     void post();
 
     /** The action may destroy this. */
