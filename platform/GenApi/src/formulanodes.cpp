@@ -183,6 +183,8 @@ auto ConverterNode<Base>::validValues() -> std::vector<Number>
     return values;
 }
 
+template class FormulaNode<IntegerFormulaBase>;
+template class FormulaNode<FloatFormulaBase>;
 template class SwissKnifeNode<IntegerFormulaBase>;
 template class SwissKnifeNode<FloatFormulaBase>;
 template class ConverterNode<IntegerFormulaBase>;

@@ -243,6 +243,8 @@ private:
     std::array<uint64_t, 2> m_limitsIn{}; ///< the evaluations that computed them
 };
 
+extern template class FormulaNode<IntegerFormulaBase>;
+extern template class FormulaNode<FloatFormulaBase>;
 extern template class SwissKnifeNode<IntegerFormulaBase>;
 extern template class SwissKnifeNode<FloatFormulaBase>;
 extern template class ConverterNode<IntegerFormulaBase>;
