@@ -360,7 +360,7 @@ EAccessMode EnumerationNode::withParts(EAccessMode own, bool) const
     return combined(own, best);
 }
 
-/** Its own mode is asked for but once, as it may answer the second time otherwise. */
+/** Asks for the own access mode only once, because a second answer may differ. */
 void EnumerationNode::FromString(const gcstring &ValueStr, bool Verify)
 {
     change("FromString", [&](Changes &changes) {
