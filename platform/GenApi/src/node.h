@@ -209,7 +209,11 @@ public:
     void requireUsable() const;
 
     /** NI or NA where \a node is that, else RW. */
-    static GenApi::EAccessMode availability(const Node *node);
+    static GenApi::EAccessMode availability(const Node *node)
+    {
+        const GenApi::EAccessMode mode = node ? node->accessMode() : GenApi::RW;
+        return mode == GenApi::NI || mode == GenApi::NA ? mode : GenApi::RW;
+    }
 
     /** The same for several; those behind one that is not implemented are not asked. */
     static GenApi::EAccessMode availabilityOf(std::initializer_list<const Node *> nodes);
