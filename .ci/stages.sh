@@ -4,7 +4,7 @@
 
 stages=(format tidy sanitizers threads fuzz genicam consumers abi docs packages test)
 declare -A about=(
-    [format]="sources are formatted, scripts are sound"
+    [format]="sources are formatted, scripts are sound, rooms include as drawn"
     [tidy]="clang-tidy on src/ and platform/"
     [sanitizers]="whole suite with address and undefined-behaviour sanitizers"
     [threads]="tests labelled threads, with the thread sanitizer"
@@ -21,7 +21,8 @@ stage_format() {
     install_packages clang-format shellcheck
     git ls-files -z '*.cpp' '*.h' | xargs -0 -n 40 clang-format --dry-run --Werror
     shellcheck -x run test .ci/run .ci/stages.sh .ci/common.sh .ci/consumers .ci/genicam-build .ci/genicam-prefix \
-        .ci/packages .ci/abi .ci/docs .ci/follow docs/pictures .ci/tidy .ci/fuzz .ci/bare-debian benchmarks/run
+        .ci/packages .ci/abi .ci/docs .ci/follow docs/pictures .ci/tidy .ci/fuzz .ci/bare-debian .ci/rooms benchmarks/run
+    .ci/rooms
 }
 
 stage_tidy() {

@@ -7,6 +7,7 @@ file(GLOB ORV_DIALOG_HEADERS RELATIVE ${PROJECT_SOURCE_DIR}/src/OrvCameraGuiApi 
     ${PROJECT_SOURCE_DIR}/src/OrvCameraGuiApi/camconfig/dialogs/orvcamconfig*dialog.h)
 set(ORV_PUBLIC_HEADERS
     ${ORV_DIALOG_HEADERS}
+    addresses/ip4validator.h
     camconfig/orvcamconfig.h
     camconfig/showcamconfigdialog.h
     device_selection/ip4validator.h

@@ -57,6 +57,11 @@ void tst_Changes::caching_data()
            reg("IntReg", "R", "0") + node("Integer", "N", "<pInvalidator>R</pInvalidator><Value>7</Value><Max>5</Max>")
                + node("Float", "F", "<pValue>N</pValue><Max>6</Max>"),
            "F+ F& F F+ F& R=1 N+ N&", "!OutOfRange unknown 6.5 !OutOfRange kept ok !OutOfRange unknown");
+    addRow("what hands on the result of a formula keeps it too",
+           node("IntSwissKnife", "K", "<Formula>1</Formula>") + node("Boolean", "B", "<pValue>K</pValue>")
+               + node("Enumeration", "E", "<EnumEntry Name='A'><Value>1</Value></EnumEntry><pValue>K</pValue>")
+               + node("Integer", "N", "<pValue>B</pValue>") + node("Float", "F", "<pValue>E</pValue>"),
+           "N* N& F* F&", "1 kept 1 kept");
     addRow("copies: what is read past the caches is not kept",
            reg("IntReg", "R", "0") + node("IntSwissKnife", "K", "<Formula>3</Formula>")
                + node("Integer", "N", "<pValue>K</pValue><pValueCopy>R</pValueCopy>"),
@@ -168,6 +173,11 @@ void tst_Changes::commands_data()
                + node("Enumeration", "E", "<EnumEntry Name='Bad'><Value>1</Value></EnumEntry><Value>1</Value>")
                + node("Command", "C", "<pError>E</pError><pValue>R</pValue><CommandValue>3</CommandValue>"),
            "C! C. ^ R=0 ^ C. C. ^ C=1", "ok running C,R ok C,R !Runtime !Runtime  !Runtime");
+    addRow("errors are told at once where it cannot be asked whether the device is done",
+           reg("IntReg", "R", "0", "<AccessMode>WO</AccessMode>")
+               + node("Enumeration", "E", "<EnumEntry Name='Bad'><Value>1</Value></EnumEntry><Value>1</Value>")
+               + node("Command", "C", "<pError>E</pError><pValue>R</pValue><CommandValue>3</CommandValue>"),
+           "C! C.", "!Runtime !Runtime");
     addRow("asked whether it is done, it tells of errors",
            node("Enumeration", "E", "<EnumEntry Name='Bad'><Value>1</Value></EnumEntry><Value>1</Value>")
                + node("Command", "C", "<pError>E</pError><Value>0</Value><CommandValue>3</CommandValue>"),
@@ -176,6 +186,10 @@ void tst_Changes::commands_data()
            reg("IntReg", "R", "0", "<AccessMode>WO</AccessMode>")
                + node("Command", "C", "<pValue>R</pValue><CommandValue>3</CommandValue>"),
            "C! # C. #", "ok r0w1 done r0w0");
+    addRow("nothing to poll then",
+           reg("IntReg", "R", "0", "<AccessMode>WO</AccessMode>")
+               + node("Command", "C", "<pValue>R</pValue><CommandValue>3</CommandValue><PollingTime>9</PollingTime>"),
+           "C! ^ @9 ^", "ok C,R ok ");
 }
 
 void tst_Changes::noticesWhatTheDeviceChanged()
@@ -189,8 +203,12 @@ void tst_Changes::noticesWhatTheDeviceChanged()
     };
     QCOMPARE(session.run("K"), QByteArray("0"));
     set(4);
-    // Who asks past the caches sees it, and only who asks so.
-    QCOMPARE(session.run("K R* K K* K"), QByteArray("0 4 0 8 8"));
+    // Who asks past the caches sees it, and then all that depends on it do, without being called back.
+    QCOMPARE(session.run("K ^ R* ^ K"), QByteArray("0  4  8"));
+    set(2);
+    QCOMPARE(session.run("K K* K"), QByteArray("8 4 4"));
+    set(4);
+    QCOMPARE(session.run("R K*"), QByteArray("2 8"));
     QCOMPARE(session.run("C! C."), QByteArray("ok running"));
     set(0);
     QCOMPARE(session.run("R C. R K"), QByteArray("4 done 0 0")); // whether a command is done only the device can tell

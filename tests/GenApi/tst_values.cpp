@@ -103,6 +103,16 @@ void tst_Values::numbers_data()
            source + node("Integer", "N", "<Value>5</Value><pMin>S</pMin><pMax>M</pMax><pInc>I</pInc>")
                + node("Integer", "M", "<Value>27</Value>") + node("Integer", "I", "<Value>10</Value>"),
            "N: S=1 N: N=11 N=12", "5 7..27/10 ok 5 1..27/10 ok !OutOfRange");
+    addRow("limits without end are the largest numbers",
+           node("SwissKnife", "Low", "<Formula>LN(0)</Formula>")
+               + node("SwissKnife", "High", "<Formula>-LN(0)</Formula>")
+               + node("Float", "N", "<Value>1</Value><pMin>Low</pMin><pMax>High</pMax>")
+               + node("Float", "Zero", "<Value>1</Value><Min>0</Min>")
+               + node("Converter", "C",
+                      "<FormulaTo>EXP(FROM)</FormulaTo><FormulaFrom>LN(TO)</FormulaFrom><pValue>Zero</pValue>"),
+           "N: C:", "1 -1.79769e+308..1.79769e+308 0 -1.79769e+308..709.783");
+    addRow("a negative whole number has a fraction of -0", node("SwissKnife", "K", "<Formula>FRAC(-2)</Formula>"), "K",
+           "-0");
     addRow("the widest increment",
            node("Integer", "N", "<Value>0</Value><Min>-9223372036854775808</Min><Inc>0x7FFFFFFFFFFFFFFF</Inc>"),
            "N=-1 N=9223372036854775806 N=0", "ok ok !OutOfRange");

@@ -3,6 +3,7 @@
 #include "dialogtest.h"
 #include "whenopen.h"
 
+#include <OrvCameraGuiApi/background/periods.h>
 #include <OrvCameraGuiApi/camconfig/camerastatus.h>
 #include <OrvCameraGuiApi/camconfig/orvcamconfig.h>
 #include <OrvCameraGuiApi/device_selection/devicetreemodel.h>
@@ -14,6 +15,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QTreeView>
 
 #include <tuple>

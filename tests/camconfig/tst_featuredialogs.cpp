@@ -1,8 +1,10 @@
 #include "bindings.h"
 #include "dialogtest.h"
+#include "input.h"
 
 #include <cutwidget.h>
 
+#include <OrvCameraGuiApi/camconfig/controlwatch.h>
 #include <OrvCameraGuiApi/camconfig/featuredialogs.h>
 #include <OrvCameraGuiApi/widgets/qtorvslider.h>
 #include <OrvCameraGuiApi/widgets/qtorvsliderspinbox.h>
@@ -14,13 +16,16 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPixmap>
 #include <QPushButton>
+#include <QSlider>
 
 #include <thread>
 
 using namespace DialogTest;
 using Bindings::Walk;
+using OrvGui::ControlWatch;
 using OrvGui::OrvCamConfigColorDialog;
 using OrvGui::OrvCamConfigFrameABDialog;
 using OrvGui::OrvCamConfigOutputDialog;
@@ -242,6 +247,49 @@ QString strobePicture(const QWidget &dialog)
                       QStringLiteral("/images/strobeBothRead.bmp")});
 }
 
+const char *const locales[] = {"C", "de_DE", "ar_EG"};
+
+/** What bears the marks of a control: of radio buttons the one that is checked. */
+QWidget *markedPart(QWidget *control)
+{
+    auto *const button = qobject_cast<QAbstractButton *>(control);
+    return button && button->group() && button->group()->checkedButton() ? button->group()->checkedButton() : control;
+}
+
+bool isMarked(QWidget *control)
+{
+    const ControlWatch *const watch = ControlWatch::of(markedPart(control));
+    return watch && watch->isMarked();
+}
+
+void turnWheelOver(QWidget *widget)
+{
+    const QPointF middle = widget->rect().center();
+    QWheelEvent turn(middle, widget->mapToGlobal(middle.toPoint()), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                     Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(widget, &turn);
+}
+
+/** All that a hand does in a control without entering anything. */
+void touch(QWidget *widget)
+{
+    widget->setFocus();
+    if (!widget->hasFocus())
+        return;
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Shift})
+        QTest::keyClick(widget, key);
+    if (auto *const slider = qobject_cast<QSlider *>(widget))
+        QTest::mouseClick(slider, Qt::LeftButton, {}, handle(*slider));
+    if (!qobject_cast<QAbstractSpinBox *>(widget))
+        return;
+    for (const Qt::Key leave : {Qt::Key_Return, Qt::Key_Tab}) { // a number that was deleted is none
+        widget->setFocus();
+        QTest::keyClick(widget, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(widget, Qt::Key_Delete);
+        QTest::keyClick(widget, leave);
+    }
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(const FeatureDialog *)
@@ -252,8 +300,11 @@ class FeatureDialogsTest : public OrvTest::TestCase
 
 private Q_SLOTS:
     void init();
+    void cleanup();
     void bindsBothWays_data();
     void bindsBothWays();
+    void nothingEnteredNothingWritten_data();
+    void nothingEnteredNothingWritten();
     void keepsTheRules_data();
     void keepsTheRules();
     void slidersFitTheirFields();
@@ -277,23 +328,38 @@ void FeatureDialogsTest::init()
     OrvSim::reset();
 }
 
+void FeatureDialogsTest::cleanup()
+{
+    QLocale::setDefault(QLocale::c());
+    TestCase::cleanup();
+}
+
 void FeatureDialogsTest::bindsBothWays_data()
 {
+    QTest::addColumn<QLocale>("locale");
     QTest::addColumn<Walk>("walk");
     const QVector<Walk> walks = Bindings::all();
-    for (const Walk &walk : walks)
-        QTest::newRow(walk.row.feature) << walk;
+    for (const char *const locale : locales) {
+        for (const Walk &walk : walks) {
+            const bool isNumber = QByteArray(walk.row.control).startsWith("spBox");
+            if (isNumber || locale == locales[0])
+                QTest::addRow("%s %s", locale, walk.row.feature) << QLocale(QLatin1String(locale)) << walk;
+        }
+    }
 }
 
 /**
  * A feature and its control are in step: what the user sets is written once, what the camera reports is shown, and
- * nothing is written for that. A write that the camera refuses is told. Without the feature the control is disabled.
+ * nothing is written for that. A write that the camera refuses is told, and what is not the camera's is marked. Without
+ * the feature the control is disabled.
  */
 void FeatureDialogsTest::bindsBothWays()
 {
+    QFETCH(QLocale, locale);
     QFETCH(Walk, walk);
     const auto &[make, given, row] = walk;
     const auto shownAs = [&row = row](const QByteArray &value) { return row.shownAs(value); };
+    QLocale::setDefault(locale);
     const Camera camera;
     const std::unique_ptr<QDialog> dialog(make(camera.device()));
     QVERIFY(show(*dialog));
@@ -301,7 +367,10 @@ void FeatureDialogsTest::bindsBothWays()
         QVERIFY(camera.set(feature, value));
     QWidget *const widget = control(*dialog, row.control);
     QVERIFY(widget && widget->isEnabled());
-    QCOMPARE(shownBy(widget), QLatin1String(shownAs(camera.value(row.feature).toLatin1())));
+    const auto isTrue = [&, feature = row.feature] {
+        return shownBy(widget) == QLatin1String(shownAs(camera.value(feature).toLatin1()));
+    };
+    QVERIFY(isTrue());
     camera.takeWrites();
 
     enterInto(widget, shownAs(row.next));
@@ -311,7 +380,7 @@ void FeatureDialogsTest::bindsBothWays()
     QVERIFY(camera.set(row.feature, row.reported));
     QCOMPARE(shownBy(widget), QLatin1String(shownAs(row.reported)));
     QCOMPARE(camera.takeWrites(), 1);
-    QVERIFY(!shownMessage());
+    QVERIFY(!shownMessage() && !isMarked(widget));
 
     QVERIFY(camera.refuse(row.feature));
     if (auto *const box = qobject_cast<QComboBox *>(widget))
@@ -323,6 +392,22 @@ void FeatureDialogsTest::bindsBothWays()
     QCOMPARE(takeMessage(), refusal(row.feature, "GenICam: Generic error"));
     QVERIFY(!shownMessage());
     QCOMPARE(camera.value(row.feature), QLatin1String(row.reported));
+    QVERIFY(isTrue() || isMarked(widget));
+    if (isMarked(widget))
+        QTest::keyClick(widget->focusProxy() ? widget->focusProxy() : markedPart(widget), Qt::Key_Escape);
+    QVERIFY(isTrue() && !isMarked(widget));
+    QVERIFY(dialog->isVisible());
+
+    camera.takeWrites();
+    QVERIFY(OrvSim::unplug(SimTest::twoFrame)); // of which the dialog is not told
+    enterInto(widget, shownAs(row.next));
+    QVERIFY(!shownMessage());
+    QVERIFY(isTrue() || isMarked(widget) || !widget->isEnabled());
+    QCOMPARE(camera.takeWrites(), 0);
+    QVERIFY(OrvSim::replug(SimTest::twoFrame));
+    auto *const frameAb = qobject_cast<OrvGui::OrvCamConfigFrameABDialog *>(dialog.get());
+    QVERIFY(!frameAb || frameAb->SetDevice(camera.device()));
+    QVERIFY(!frameAb || isTrue());
 
     const Camera without(plugInChangedCamera({row.feature}));
     for (const auto &[feature, value] : given)
@@ -330,6 +415,55 @@ void FeatureDialogsTest::bindsBothWays()
     const std::unique_ptr<QDialog> poor(make(without.device()));
     const bool hasOwnRule = qobject_cast<OrvCamConfigTriggerDialog *>(poor.get());
     QCOMPARE(control(*poor, row.control)->isEnabled(), hasOwnRule);
+}
+
+void FeatureDialogsTest::nothingEnteredNothingWritten_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::addColumn<Walk>("walk");
+    const QVector<Walk> walks = Bindings::all();
+    for (const char *const locale : locales) {
+        for (int i = 0; i < walks.size(); ++i) {
+            if (i == 0 || walks.at(i).make != walks.at(i - 1).make) // each dialog once, with what its features need
+                QTest::addRow("%s %s", locale, walks.at(i).row.feature)
+                    << QLocale(QLatin1String(locale)) << walks.at(i);
+        }
+    }
+}
+
+void FeatureDialogsTest::nothingEnteredNothingWritten()
+{
+    QFETCH(QLocale, locale);
+    QFETCH(Walk, walk);
+    QLocale::setDefault(locale);
+    const Camera camera;
+    for (const auto &[feature, value] : qAsConst(walk.given))
+        QVERIFY(camera.set(feature, value));
+    // Between the steps and the positions that a control can take by itself.
+    for (const auto &[feature, value] : {std::pair("Frame_FixedFramePeriodValue", "1003"), {"Strobe2Width", "1003"}})
+        camera.set(feature, value);
+    camera.takeWrites();
+    const std::unique_ptr<QDialog> dialog(walk.make(camera.device()));
+    QVERIFY(show(*dialog));
+    QCOMPARE(camera.takeWrites(), 0);
+    const auto widgets = dialog->findChildren<QWidget *>();
+    for (QWidget *const widget : widgets) {
+        dialog->setFocus();
+        if (!widget->isVisible() || !widget->isEnabled() || widget->isWindow())
+            continue;
+        turnWheelOver(widget);
+        QVERIFY2(camera.takeWrites() == 0, qPrintable(widget->objectName()));
+        touch(widget);
+        QVERIFY2(camera.takeWrites() == 0, qPrintable(widget->objectName()));
+    }
+    for (const char *const other : locales)
+        dialog->setLocale(QLocale(QLatin1String(other)));
+    QVERIFY(camera.set("Frame_LineTime", "3200")); // ranges change
+    QVERIFY(camera.set("Frame_DecimationMode", "Averaging"));
+    QVERIFY(camera.set("Frame_FixedFramePeriodValue", "300"));
+    QTest::qWait(0);
+    QCOMPARE(camera.takeWrites(), 3);
+    QVERIFY(!shownMessage());
 }
 
 void FeatureDialogsTest::keepsTheRules_data()
@@ -404,7 +538,7 @@ void FeatureDialogsTest::colorStatistics()
     for (const QByteArray color : {"Red", "Green", "Blue"}) {
         const auto *const shown = part<QLabel>(dialog, "lbl" + color + "Coef");
         QCOMPARE(shown->text(), camera.value(color + "Coefficient"));
-        type(part<QtOrvSpinBox>(dialog, "spBox" + color)->spinBox(), "12");
+        DialogTest::type(part<QtOrvSpinBox>(dialog, "spBox" + color)->spinBox(), "12");
         QVERIFY(camera.set(color + "Coefficient", "300"));
         QCOMPARE(shown->text(), QStringLiteral("300"));
         std::thread([&] { camera.set(color + "Coefficient", "301"); }).join();

@@ -5,6 +5,7 @@
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
 
 #include <QGridLayout>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QStatusBar>
 
@@ -23,7 +24,6 @@ class OrvCamConfigTest : public OrvTest::TestCase
 private Q_SLOTS:
     void initTestCase();
     void init();
-    void namesItsParts();
     void followsTheFrameMode();
     void followsTheSelector();
     void readsBothFramesOnce();
@@ -45,6 +45,11 @@ private Q_SLOTS:
     void connectsToAnotherCamera();
     void goesBackToTheFormerCamera();
     void survivesWhatHappensWhileItAsks();
+    void showsUnits();
+
+private:
+    const QScopedValueRollback<std::chrono::milliseconds> m_period{OrvGui::periods().status,
+                                                                   std::chrono::milliseconds(5)};
 };
 
 namespace {
@@ -58,7 +63,7 @@ QString fromForm(const char *text)
 void waitForSteps(int count)
 {
     bool isOver = false;
-    QTimer::singleShot((count + 3) * OrvGui::CameraParams::period, [&] { isOver = true; });
+    QTimer::singleShot((count + 3) * OrvGui::periods().status, [&] { isOver = true; });
     QTRY_VERIFY(isOver);
 }
 
@@ -126,31 +131,13 @@ QString aboutText(const OrvCamConfig &window, const char *label)
 
 void OrvCamConfigTest::initTestCase()
 {
-    QCOMPARE(int(OrvGui::CameraParams::period.count()), 1000);
-    OrvGui::CameraParams::period = std::chrono::milliseconds(5);
+    QCOMPARE(int(OrvGui::Periods().status.count()), 1000);
 }
 
 void OrvCamConfigTest::init()
 {
     TestCase::init();
     OrvSim::reset();
-}
-
-void OrvCamConfigTest::namesItsParts()
-{
-    const Camera camera;
-    const OrvCamConfig window(camera.device());
-    QCOMPARE(window.objectName(), QStringLiteral("OrvCamConfigMainWindow"));
-    const std::pair<const char *, QString> units[] = {{"lblFrameTime", QStringLiteral("\u03bcs")},
-                                                      {"lblExposure", QStringLiteral("\u03bcs")},
-                                                      {"lblTemperature", QStringLiteral("\u00b0C")}};
-    for (const auto &[name, text] : units)
-        QCOMPARE(part<QLabel>(window, name)->text(), text);
-    for (const Parts &parts : dialogs) {
-        auto *const button = part<QPushButton>(window, parts.button);
-        QVERIFY2(button->isCheckable() && !button->icon().pixmap(16).isNull(), parts.button);
-        QCOMPARE(button->text(), part<QAction>(window, parts.action)->text());
-    }
 }
 
 void OrvCamConfigTest::followsTheFrameMode()
@@ -246,7 +233,7 @@ void OrvCamConfigTest::countsRepeatedModesOnce()
         const OrvCamConfig window(camera.device());
         QTimer polls;
         connect(&polls, &QTimer::timeout, &window, [&] { camera.params()->GetNodeMap()->Poll(1000); });
-        polls.start(OrvGui::CameraParams::period);
+        polls.start(OrvGui::periods().status);
         waitForSteps(100);
         QTRY_VERIFY(reports.count > 50);
         QCOMPARE(camera.takeWrites(), 2);
@@ -734,6 +721,15 @@ void OrvCamConfigTest::survivesWhatHappensWhileItAsks()
         QCOMPARE(statusText(orphan), disconnected());
     }
     QVERIFY(isNothingHeld());
+}
+
+void OrvCamConfigTest::showsUnits()
+{
+    const Camera camera;
+    const OrvCamConfig window(camera.device());
+    QCOMPARE(part<QLabel>(window, "lblFrameTime")->text(), QStringLiteral("\u03bcs"));
+    QCOMPARE(part<QLabel>(window, "lblExposure")->text(), QStringLiteral("\u03bcs"));
+    QCOMPARE(part<QLabel>(window, "lblTemperature")->text(), QStringLiteral("\u00b0C"));
 }
 
 ORV_TEST_MAIN(OrvCamConfigTest)

@@ -18,6 +18,8 @@ private Q_SLOTS:
     void leavesNothingBehind();
 
 private:
+    const QScopedValueRollback<std::chrono::milliseconds> m_period{OrvGui::periods().status,
+                                                                   std::chrono::milliseconds(1)};
     void work(int round);
 };
 
@@ -42,7 +44,6 @@ std::size_t heapInUse()
 
 void OrvCamConfigEnduranceTest::initTestCase()
 {
-    OrvGui::CameraParams::period = std::chrono::milliseconds(1);
     OrvSim::reset();
 }
 

@@ -39,17 +39,10 @@ class ShowCamConfigDialogTest : public OrvTest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void makesTheApplicationItNeeds();
     void showsAndDestroys_data();
     void showsAndDestroys();
     void asksWithoutADevice();
 };
-
-void ShowCamConfigDialogTest::makesTheApplicationItNeeds()
-{
-    QVERIFY(qobject_cast<QApplication *>(QCoreApplication::instance()));
-    QVERIFY(QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps));
-}
 
 void ShowCamConfigDialogTest::showsAndDestroys_data()
 {

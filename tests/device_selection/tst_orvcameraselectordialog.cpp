@@ -1,3 +1,4 @@
+#include <OrvCameraGuiApi/background/periods.h>
 #include <OrvCameraGuiApi/device_selection/devicetreemodel.h>
 #include <OrvCameraGuiApi/device_selection/infopane.h>
 #include <OrvCameraGuiApi/device_selection/orvcameraselectordialog.h>
@@ -19,6 +20,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QTextDocument>
 #include <QToolTip>
@@ -33,6 +35,7 @@ using namespace SimTest;
 
 namespace {
 
+using Pause = QScopedValueRollback<std::chrono::milliseconds>;
 constexpr auto shortPeriod = std::chrono::milliseconds(5);
 
 /** The dialog on the simulated system, shown, and what a person finds in it. */
@@ -158,10 +161,9 @@ private Q_SLOTS:
     {
         TestCase::init();
         OrvSim::reset();
-        SystemPolling::period = std::chrono::milliseconds(1000);
     }
 
-    void initTestCase() { QCOMPARE(SystemPolling::period.count(), 1000); }
+    void initTestCase() { QCOMPARE(int(OrvGui::Periods().search.count()), 1000); }
 
     void picksADevice()
     {
@@ -237,37 +239,6 @@ private Q_SLOTS:
         shown.click("fast");
         QCOMPARE(shown.devicePane().at(usb), QStringLiteral("USB Version=0x0300"));
         QVERIFY(!shown.part<QTreeView>("deviceInfoView")->model()->index(usb, 1).data(Qt::ForegroundRole).isValid());
-    }
-
-    void namesEachTypeOfInterface()
-    {
-        const char *const types[] = {"Custom",    "USB3 Vision", "GigE Vision", "CameraLink",
-                                     "CoaXPress", "HD-SDI",      "Custom"};
-        for (int type = 0; type < 7; ++type) {
-            const bool isGigE = type == OrvCam::InterfaceTypeGigEVision;
-            OrvSim::clear();
-            OrvSim::InterfaceSpec spec;
-            spec.name = "any";
-            spec.id = "any";
-            spec.description = "Port \xc3\xa4";
-            spec.type = type;
-            spec.macAddress = 0x1A2B3C4D5E;
-            spec.network = {0xC0A80001, 0xFF000000, 0};
-            OrvSim::addInterface(spec);
-            OrvSim::addDevice("any", cameraNamed("camera"));
-            QStringList rows = {QStringLiteral("Description=Port ä"),
-                                QLatin1String("Type=") + QLatin1String(types[type]), QStringLiteral("Version=")};
-            if (isGigE)
-                rows << QStringLiteral("MAC Address=00:1A:2B:3C:4D:5E") << QStringLiteral("IP Address=192.168.0.1")
-                     << QStringLiteral("Netmask=255.0.0.0");
-            Shown shown;
-            for (const char *id : {"any", "camera"}) {
-                shown.click(id);
-                QCOMPARE(shown.interfacePane(), rows);
-            }
-            QCOMPARE(shown.setIp()->isEnabled(), isGigE);
-            QCOMPARE(shown.devicePane().size(), isGigE ? 11 : 7);
-        }
     }
 
     /** Where interfaces have one identifier, a device may stand below another than its own. */
@@ -505,7 +476,7 @@ private Q_SLOTS:
     /** Two identifiers of Latin-1 that look the same as UTF-8. */
     void tellsIdentifiersApart()
     {
-        SystemPolling::period = shortPeriod;
+        const Pause pause(OrvGui::periods().search, shortPeriod);
         for (const auto &[name, id] : {std::pair("one", "camera \xe8"), std::pair("two", "camera \xe9")}) {
             OrvSim::DeviceSpec camera = cameraNamed(name);
             camera.id = id;
@@ -527,7 +498,7 @@ private Q_SLOTS:
     /** Cameras with one identifier, or none, are told apart by their objects. */
     void tellsEqualIdentifiersApart()
     {
-        SystemPolling::period = shortPeriod;
+        const Pause pause(OrvGui::periods().search, shortPeriod);
         for (const OrvSim::Text &id : {OrvSim::Text("same"), OrvSim::Text()}) {
             OrvSim::reset();
             for (const char *name : {"one", "two", "three"}) {
@@ -654,26 +625,13 @@ private Q_SLOTS:
     void goesOnPollingAfterAnException()
     {
         std::atomic<int> steps{0};
-        SystemPolling::period = shortPeriod;
+        const Pause pause(OrvGui::periods().search, shortPeriod);
         SystemPolling polling([&] {
             ++steps;
             throw "of a camera access library"; // no std::exception, as those of GenICam
         });
         QVERIFY(polling.start());
         QTRY_VERIFY(steps > 1);
-    }
-
-    void rescansWhenAsked()
-    {
-        Shown shown;
-        QVERIFY(shown.rescan()->isEnabled() && !shown.dialog->isPollChecked());
-        shown.click(twoFrame);
-        OrvSim::unplug(monochrome);
-        QVERIFY(shown.model()->getItemIdx(QLatin1String(monochrome)).isValid());
-        QTest::mouseClick(shown.rescan(), Qt::LeftButton);
-        QVERIFY(!shown.model()->getItemIdx(QLatin1String(monochrome)).isValid());
-        QVERIFY(shown.model()->getItemIdx(QLatin1String(twoFrame)).isValid()); // expanded
-        QVERIFY(!shown.dialog->selectedCamera() && !shown.ok()->isEnabled() && !shown.setIp()->isEnabled());
     }
 
     /** After a rescan nothing is current; the first key or the focus goes on where the user was. */
@@ -684,10 +642,14 @@ private Q_SLOTS:
         const auto rescan = [&] {
             QTest::mouseClick(shown.rescan(), Qt::LeftButton);
             shown.rescan()->setFocus();
-            QVERIFY(!shown.tree()->currentIndex().isValid() && !shown.ok()->isEnabled());
+            QVERIFY(!shown.tree()->currentIndex().isValid() && !shown.dialog->selectedCamera());
+            QVERIFY(!shown.ok()->isEnabled() && !shown.setIp()->isEnabled());
         };
         shown.click(twoFrame);
+        OrvSim::unplug(monochrome);
+        QVERIFY(shown.model()->getItemIdx(QLatin1String(monochrome)).isValid()); // nobody has looked
         rescan();
+        QVERIFY(!shown.model()->getItemIdx(QLatin1String(monochrome)).isValid());
         QTest::keyClick(shown.tree(), Qt::Key_Down);
         QCOMPARE(shown.currentId(), QLatin1String(twoFrame));
         QVERIFY(shown.ok()->isEnabled());
@@ -737,7 +699,7 @@ private Q_SLOTS:
     {
         QFETCH(Step, meanwhile);
         QFETCH(QString, then);
-        SystemPolling::period = shortPeriod;
+        const Pause pause(OrvGui::periods().search, shortPeriod);
         Shown shown(true);
         shown.click(twoFrame);
         OrvSim::unplug(twoFrame);
@@ -827,7 +789,7 @@ private Q_SLOTS:
 
     void followsTheSystemWhilePolling()
     {
-        SystemPolling::period = shortPeriod;
+        const Pause pause(OrvGui::periods().search, shortPeriod);
         Shown shown(true);
         QVERIFY(shown.dialog->isPollChecked() && !shown.rescan()->isEnabled());
         shown.click(twoFrame);
@@ -848,7 +810,7 @@ private Q_SLOTS:
     /** Whatever the pause is: switching off and closing do not wait for its end. */
     void polls()
     {
-        SystemPolling::period = std::chrono::hours(1);
+        const Pause pause(OrvGui::periods().search, std::chrono::hours(1));
         Shown shown;
         auto *const check = shown.part<QCheckBox>("pollingCheckBox");
         for (int i = 0; i < 3; ++i) {
@@ -907,7 +869,7 @@ private Q_SLOTS:
 
     void staysResponsiveWhileASearchHangs()
     {
-        SystemPolling::period = shortPeriod;
+        const Pause pause(OrvGui::periods().search, shortPeriod);
         Shown shown(true);
         OrvSim::stall(OrvSim::Call::ReEnumerateDevices);
         QVERIFY(OrvSim::waitUntilStalled(OrvSim::Call::ReEnumerateDevices, 5s));
@@ -928,7 +890,7 @@ private Q_SLOTS:
 
     void livesThroughMuchPlugging()
     {
-        SystemPolling::period = shortPeriod;
+        const Pause pause(OrvGui::periods().search, shortPeriod);
         Shown shown(true);
         QSignalSpy resets(shown.model(), &QAbstractItemModel::modelReset);
         std::atomic<bool> isOver{false};
@@ -976,31 +938,6 @@ private Q_SLOTS:
         QVERIFY(shown.ok()->isEnabled());
     }
 
-    void proposesANeighbour()
-    {
-        for (const auto &[adapter, proposed] :
-             {std::pair(0xC0A80A0AU, "192.168.10.11"), std::pair(0xC0A80A80U, "192.168.10.129"),
-              std::pair(0xC0A80AC8U, "192.168.10.199")}) {
-            OrvSim::clear();
-            OrvSim::InterfaceSpec ethernet;
-            ethernet.name = "eth";
-            ethernet.id = "eth";
-            ethernet.network = {adapter, 0xFFFFFF00, 0};
-            OrvSim::addInterface(ethernet);
-            OrvSim::addDevice("eth", cameraNamed("camera"));
-            Shown shown;
-            shown.click("camera");
-            QString seen;
-            OrvTest::whenOpen<SetIpDialog>([&](SetIpDialog &dialog) {
-                seen = edit(dialog, "ipEdit")->text();
-                dialog.reject();
-            });
-            QTest::mouseClick(shown.setIp(), Qt::LeftButton);
-            QCOMPARE(seen, QLatin1String(proposed));
-            QVERIFY(!QApplication::activeModalWidget()); // cancelled: no message
-        }
-    }
-
     void proposesAFreeAddress_data()
     {
         QTest::addColumn<uint>("adapter");
@@ -1015,6 +952,8 @@ private Q_SLOTS:
         };
         const uint wide = 0xFFFFFF00;
         row("its own", net + 10, wide, {net + 11}, 0, "192.168.10.11");
+        row("above", net + 128, wide, {0}, 0, "192.168.10.129");
+        row("below", net + 200, wide, {0}, 0, "192.168.10.199");
         row("another camera's", net + 10, wide, {0, net + 11}, 0, "192.168.10.12");
         row("other cameras'", net + 10, wide, {0, net + 11, net + 13, net + 12}, 0, "192.168.10.14");
         row("another adapter's", net + 10, wide, {0}, net + 11, "192.168.10.12");
@@ -1053,55 +992,39 @@ private Q_SLOTS:
         });
         QTest::mouseClick(shown.setIp(), Qt::LeftButton);
         QCOMPARE(seen, proposed);
+        QVERIFY(!QApplication::activeModalWidget()); // cancelled: no message
     }
 
-    /** What the dialog remarks is asked about as well; the address is the broadcast address of the adapter's subnet. */
-    void warnsOfARemark()
-    {
-        for (const auto answer : {QMessageBox::Ok, QMessageBox::Ignore}) {
-            Shown shown;
-            shown.click(twoFrame);
-            bool isAsked = false;
-            OrvTest::whenOpen<SetIpDialog>([&](SetIpDialog &dialog) {
-                edit(dialog, "ipEdit")->setText(QStringLiteral("192.168.10.255"));
-                QVERIFY(dialog.isAddressValid() && dialog.isMaskValid());
-                OrvTest::whenOpen<QMessageBox>([&](QMessageBox &box) {
-                    isAsked = box.windowTitle() == QStringLiteral("IP Configuration Warning");
-                    press(box, answer);
-                });
-                dialog.accept();
-            });
-            QTest::mouseClick(shown.setIp(), Qt::LeftButton);
-            QVERIFY(isAsked);
-            QCOMPARE(shown.devicePane().contains(QStringLiteral("IP Address=192.168.10.255")),
-                     answer == QMessageBox::Ignore);
-        }
-    }
-
+    /** The dialog finds fault with the first address by itself, and only remarks that the second is the broadcast one.
+     */
     void warnsOfAWrongAddress()
     {
-        for (const auto answer : {QMessageBox::Ok, QMessageBox::Ignore}) {
-            const bool isIgnored = answer == QMessageBox::Ignore;
-            Shown shown;
-            shown.click(twoFrame);
-            const QStringList before = shown.devicePane();
-            OrvTest::whenOpen<SetIpDialog>([&](SetIpDialog &dialog) {
-                edit(dialog, "ipEdit")->setText(QStringLiteral("10.1.2.3"));
-                OrvTest::whenOpen<QMessageBox>([&](QMessageBox &box) {
-                    QCOMPARE(box.windowTitle(), QStringLiteral("IP Configuration Warning"));
-                    QCOMPARE(
-                        box.text(),
-                        QStringLiteral("Specified IP Configuraion is not correct, camera may become undiscoverable\n"
-                                       "Press OK to skip the IP Configuration, or press Ignore to confirm"));
-                    QCOMPARE(box.icon(), QMessageBox::Critical);
-                    press(box, answer);
+        for (const auto &[address, isValid] : {std::pair("10.1.2.3", false), std::pair("192.168.10.255", true)}) {
+            for (const auto answer : {QMessageBox::Ok, QMessageBox::Ignore}) {
+                const bool isIgnored = answer == QMessageBox::Ignore;
+                Shown shown;
+                shown.click(twoFrame);
+                const QStringList before = shown.devicePane();
+                bool isAsked = false;
+                OrvTest::whenOpen<SetIpDialog>([&, text = address, valid = isValid](SetIpDialog &dialog) {
+                    edit(dialog, "ipEdit")->setText(QLatin1String(text));
+                    QCOMPARE(dialog.isAddressValid(), valid);
+                    OrvTest::whenOpen<QMessageBox>([&](QMessageBox &box) {
+                        isAsked = box.windowTitle() == QStringLiteral("IP Configuration Warning")
+                            && box.icon() == QMessageBox::Critical
+                            && box.text()
+                                == QStringLiteral("Specified IP Configuraion is not correct, camera may become "
+                                                  "undiscoverable\nPress OK to skip the IP Configuration, or press "
+                                                  "Ignore to confirm");
+                        press(box, answer);
+                    });
+                    dialog.accept();
                 });
-                dialog.accept();
-            });
-            QTest::mouseClick(shown.setIp(), Qt::LeftButton);
-            QCOMPARE(shown.devicePane().contains(QStringLiteral("IP Address=10.1.2.3")), isIgnored);
-            QCOMPARE(shown.devicePane() == before, !isIgnored);
-            QCOMPARE(shown.ok()->isEnabled(), !isIgnored);
+                QTest::mouseClick(shown.setIp(), Qt::LeftButton);
+                QVERIFY(isAsked);
+                QCOMPARE(shown.devicePane() == before, !isIgnored);
+                QCOMPARE(shown.devicePane().contains(QLatin1String("IP Address=") + QLatin1String(address)), isIgnored);
+            }
         }
     }
 
@@ -1132,7 +1055,7 @@ private Q_SLOTS:
     {
         QFETCH(std::function<void()>, fault);
         QFETCH(bool, isAsked);
-        SystemPolling::period = shortPeriod;
+        const Pause pause(OrvGui::periods().search, shortPeriod);
         if (fault)
             fault(); // before the panes read, and the node map keeps, what is to be read
         Shown shown(true);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "featurecamera.h"
+#include "windowmouse.h"
 
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 #include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
@@ -9,6 +10,9 @@
 #include <QPaintEvent>
 #include <QTreeView>
 #include <QtTest>
+
+#include <algorithm>
+#include <map>
 
 /** What is painted of a widget. */
 class PaintLog : public QObject
@@ -77,6 +81,58 @@ struct ShownView : FeatureCamera
     {
         tree->scrollTo(index);
         QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier, tree->visualRect(index).center());
+    }
+
+    /** The editor that is open, or null. */
+    QWidget *editor() const
+    {
+        const auto children = tree->viewport()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+        const auto open =
+            std::find_if(children.begin(), children.end(), [](QWidget *child) { return child->isVisible(); });
+        return open == children.end() ? nullptr : *open;
+    }
+
+    /** Clicks the value cell; null when no such editor opens. */
+    template <typename Editor = QWidget>
+    Editor *open(const char *name) const
+    {
+        click(cell(name));
+        return qobject_cast<Editor *>(editor());
+    }
+
+    /** With Tab into the tree, and Down until that row is current. */
+    bool walkTo(const QModelIndex &row) const
+    {
+        for (int i = 0; i < 20 && !tree->hasFocus(); ++i)
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        const QModelIndex name = row.siblingAtColumn(GenParamTreeModel::NameColumn);
+        for (int i = 0; i < 40 && tree->hasFocus() && tree->currentIndex() != name; ++i)
+            QTest::keyClick(tree, Qt::Key_Down);
+        return tree->hasFocus() && name.isValid() && tree->currentIndex() == name;
+    }
+
+    void clickOutside() const { WindowMouse::click(part<QWidget>("whatsThisLabel"), QPoint(5, 5)); }
+
+    /**
+     * As a user does, into whatever has the focus now: "^" "_" "<" ">" are the arrow keys, "~" is F2, "*" selects all
+     * and "|" is a click outside.
+     */
+    void press(const QString &keys) const
+    {
+        const std::map<char, Qt::Key> special = {{'^', Qt::Key_Up},    {'_', Qt::Key_Down}, {'<', Qt::Key_Left},
+                                                 {'>', Qt::Key_Right}, {'~', Qt::Key_F2},   {'\r', Qt::Key_Return}};
+        for (const QChar key : keys) {
+            QWidget *const focus = QApplication::focusWidget();
+            const auto found = special.find(key.toLatin1());
+            if (key == QLatin1Char('|'))
+                clickOutside();
+            else if (key == QLatin1Char('*'))
+                QTest::keyClick(focus, Qt::Key_A, Qt::ControlModifier);
+            else if (found != special.end())
+                QTest::keyClick(focus, found->second);
+            else
+                QTest::keyClick(focus, key.toLatin1());
+        }
     }
 
     /** Opens the editor of the cell with the mouse and types; null when no editor opens. */

@@ -1,6 +1,6 @@
 #include "featurecamera.h"
 
-#include <OrvCameraGuiApi/device_selection/ip4validator.h>
+#include <OrvCameraGuiApi/feature_tree/genparamerrorcontroller.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
 #include <OrvGenApi/testing/faults.h>
@@ -84,12 +84,11 @@ private Q_SLOTS:
     void whatsThis();
     void editors_data();
     void editors();
-    void editorsFollowTheFeature();
     void readsOnlyWhatARoleNeeds();
     void reportsAFailedReadOnce();
     void writes_data();
     void writes();
-    void reportsFailedWrites();
+    void listsErrorsInOrder();
     void slotsMayCallBack();
     void queuesChangesOfOtherThreads();
     void dropsChangesWhenItGoes();
@@ -307,9 +306,10 @@ void TestGenParamTreeModel::editors_data()
     };
     row("Exposure", ControlData::SpinBox64,
         "minimum=-4 maximum=4000 singleStep=4 displayIntegerBase=10 frame=false accelerated=true "
-        "keyboardTracking=false");
+        "keyboardTracking=false validateStepping=true ignoreFocusOut=true");
     row("Mask", ControlData::SpinBox64,
-        "minimum=-9223372036854775808 maximum=9223372036854775807 singleStep=1 displayIntegerBase=16");
+        "minimum=-9223372036854775808 maximum=9223372036854775807 singleStep=1 displayIntegerBase=16 "
+        "validateStepping=false");
     row("GevMACAddress", ControlData::SpinBox64, "displayIntegerBase=10");
     row("Gain", ControlData::DoubleSpinBox,
         "minimum=0.25 maximum=8.25 singleStep=0.25 decimals=3 suffix=dB frame=false accelerated=true");
@@ -339,28 +339,16 @@ void TestGenParamTreeModel::editors()
     QVERIFY(!editor->parent());
     if (const auto *box = qobject_cast<QComboBox *>(editor.get()))
         editor->setProperty("items", itemsOf(*box).join(QLatin1Char(',')));
+    if (const auto *box = qobject_cast<QtOrvSpinBoxVal64 *>(editor.get())) {
+        editor->setProperty("validateStepping", box->validateStepping());
+        editor->setProperty("ignoreFocusOut", box->ignoreFocusOut());
+    }
     const QStringList expected = properties.split(QLatin1Char(' '));
     for (const QString &property : expected) {
         const QByteArray name = property.section(QLatin1Char('='), 0, 0).toLatin1();
         QCOMPARE(QString::fromLatin1(name) + QLatin1Char('=') + editor->property(name.constData()).toString(),
                  property);
     }
-}
-
-void TestGenParamTreeModel::editorsFollowTheFeature()
-{
-    const FeatureTree tree;
-    const auto editor = [&](const char *name) {
-        return std::unique_ptr<QWidget>(
-            tree.value(name, GenParamTreeModel::ControlDataRole).value<ControlData>().editor);
-    };
-    for (const auto &[name, steps] : {std::pair("Exposure", true), std::pair("Mask", false)}) {
-        const auto box = editor(name);
-        QCOMPARE(qobject_cast<QtOrvSpinBoxVal64 *>(box.get())->validateStepping(), steps);
-        QVERIFY(qobject_cast<QtOrvSpinBoxVal64 *>(box.get())->ignoreFocusOut());
-    }
-    const auto address = editor("GevSCDA");
-    QVERIFY(qobject_cast<const IP4Validator *>(qobject_cast<QLineEdit *>(address.get())->validator()));
 }
 
 void TestGenParamTreeModel::readsOnlyWhatARoleNeeds()
@@ -412,6 +400,8 @@ void TestGenParamTreeModel::reportsAFailedReadOnce()
     failGetter(*tree.map, "Exposure", "GetValue");
     cell.data();
     QCOMPARE(appeared.takeFirst().at(2).toString(), QStringLiteral("Unknown Error"));
+    QVERIFY(!tree.model->setData(cell, 4001)); // out of range
+    QCOMPARE(appeared.takeFirst().last().toInt(), int(GenParamTreeModel::ValueInterfaceRole));
 }
 
 void TestGenParamTreeModel::writes_data()
@@ -471,15 +461,17 @@ void TestGenParamTreeModel::writes()
     }
 }
 
-void TestGenParamTreeModel::reportsFailedWrites()
+void TestGenParamTreeModel::listsErrorsInOrder()
 {
-    const FeatureTree tree;
-    const QModelIndex cell = tree.cell("Exposure");
-    QSignalSpy appeared(tree.model.get(), &GenParamTreeModel::errorAppeared);
-    QVERIFY(!tree.model->setData(cell, 4001));
-    QCOMPARE(appeared.size(), 1);
-    QCOMPARE(appeared.first().at(3).toInt(), 256);
-    QCOMPARE(tree.port.writeCount(), quint64(0));
+    GenParamErrorController errors;
+    QCOMPARE(errors.GetErrorInfo(), QString());
+    errors.SetError(QStringLiteral("Width"), QStringLiteral("out of %3 range %1"), 256);
+    errors.SetError(QStringLiteral("Width"), QStringLiteral("none"), 9);
+    errors.SetError(QStringLiteral("Gain"), QString(), 0);
+    QCOMPARE(errors.GetErrorInfo(),
+             QStringLiteral("{Gain}{id:0}:  \n{Width}{id:9}: none \n{Width}{id:256}: out of %3 range %1 \n"));
+    QCOMPARE(errors.firstMessage(QStringLiteral("Width")), QStringLiteral("none"));
+    QVERIFY(!errors.ClearError(QStringLiteral("Other"), 0));
 }
 
 void TestGenParamTreeModel::slotsMayCallBack()

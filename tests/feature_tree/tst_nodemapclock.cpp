@@ -2,7 +2,10 @@
 #include "shownview.h"
 #include "simtest.h"
 
-#include <OrvCameraGuiApi/feature_tree/nodemapclock.h>
+#include <OrvCameraGuiApi/background/nodemapclock.h>
+#include <OrvCameraGuiApi/background/periods.h>
+
+#include <QScopedValueRollback>
 
 #include <numeric>
 
@@ -19,6 +22,10 @@ private Q_SLOTS:
     void leavesThePollingToATree();
     void survivesReports();
     void showsHowACameraEndsABalance();
+
+private:
+    const QScopedValueRollback<std::chrono::milliseconds> m_period{OrvGui::periods().poll,
+                                                                   std::chrono::milliseconds(5)};
 };
 
 namespace {
@@ -106,8 +113,7 @@ void work(qint64 milliseconds)
 
 void NodeMapClockTest::initTestCase()
 {
-    QCOMPARE(int(NodeMapClock::period.count()), 200);
-    NodeMapClock::period = std::chrono::milliseconds(5);
+    QCOMPARE(int(OrvGui::Periods().poll.count()), 200);
     OrvSim::reset();
 }
 

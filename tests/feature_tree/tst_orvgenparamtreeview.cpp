@@ -54,10 +54,8 @@ class TestOrvGenParamTreeView : public OrvTest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void icons();
     void showsErrors();
     void repaintsAStandingFaultOnce();
-    void reportsAFailedWrite();
     void expandsAndCollapses();
     void dividesTheColumnsOnce();
     void filters();
@@ -69,17 +67,6 @@ private Q_SLOTS:
     void loadsStates_data();
     void loadsStates();
 };
-
-void TestOrvGenParamTreeView::icons()
-{
-    for (const char *name :
-         {"collapse_all", "expand_all", "ok", "err", "clear_left", "options", "options-c", "options-w", "options-cw"}) {
-        for (const auto &[suffix, size] : {std::pair("", 16), std::pair("@2x", 32)}) {
-            const QImage image(QStringLiteral("://images//%1%2.png").arg(QLatin1String(name), QLatin1String(suffix)));
-            QCOMPARE(image.size(), QSize(size, size));
-        }
-    }
-}
 
 void TestOrvGenParamTreeView::showsErrors()
 {
@@ -139,27 +126,6 @@ void TestOrvGenParamTreeView::repaintsAStandingFaultOnce()
         QVERIFY2(paints.count <= 4, getter);
         QVERIFY(shown.isRed(shown.cell("Exposure Time", GenParamTreeModel::NameColumn)));
     }
-}
-
-void TestOrvGenParamTreeView::reportsAFailedWrite()
-{
-    ShownView shown;
-    QVERIFY(shown.show());
-    failGetter(*shown.map, "Label", "SetValue", "write protected");
-    const QModelIndex name = shown.cell("Label", GenParamTreeModel::NameColumn);
-    auto *const status = shown.part<QToolButton>("pbStatus");
-    QVERIFY(shown.enter("Label", "new"));
-    QVERIFY(showsIcon(status->icon(), "://images//err.png"));
-    shown.tree->clearSelection();
-    QVERIFY(shown.isRed(name));
-    QCOMPARE(name.data(Qt::ToolTipRole).toString(), QStringLiteral("write protected"));
-
-    clearFaults(*shown.map);
-    QVERIFY(shown.enter("Label", "newer"));
-    QVERIFY(showsIcon(status->icon(), "://images//ok.png"));
-    shown.tree->clearSelection();
-    QVERIFY(!shown.isRed(name));
-    QCOMPARE(shown.cell("Label").data().toString(), QStringLiteral("newer"));
 }
 
 void TestOrvGenParamTreeView::expandsAndCollapses()

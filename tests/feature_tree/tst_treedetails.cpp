@@ -43,14 +43,6 @@ QByteArray detailNodes()
 <Integer Name="Hidden"><Visibility>Guru</Visibility><Value>7</Value></Integer>)";
 }
 
-template <typename Editor>
-Editor *editorOf(ShownView &shown, const char *name)
-{
-    shown.click(shown.cell(name));
-    const auto editors = shown.tree->viewport()->findChildren<Editor *>(QString(), Qt::FindDirectChildrenOnly);
-    return editors.isEmpty() ? nullptr : editors.last();
-}
-
 QStringList expandedIn(const ShownView &shown)
 {
     QStringList names;
@@ -85,25 +77,25 @@ void TestTreeDetails::offersWhatIsTaken()
     ShownView shown(detailNodes());
     shown.node<GenApi::CIntegerPtr>("BeyondReg")->SetValue(5000);
     QVERIFY(shown.show());
-    const auto *const beyond = editorOf<QAbstractSpinBox>(shown, "Beyond");
+    const auto *const beyond = shown.open<QAbstractSpinBox>("Beyond");
     QVERIFY(beyond);
     QCOMPARE(beyond->text(), QStringLiteral("5000"));
 
-    auto *const secret = editorOf<QLineEdit>(shown, "Secret");
+    auto *const secret = shown.open<QLineEdit>("Secret");
     QVERIFY(secret);
     QCOMPARE(secret->text(), QString());
     QCOMPARE(secret->placeholderText(), QStringLiteral("<Value not readable>"));
     QTest::keyClicks(secret, QStringLiteral("abc\r"));
     QTRY_COMPARE(shown.port.writeCount(), uint64_t(2));
 
-    const auto *const blob = editorOf<QLineEdit>(shown, "Blob");
+    const auto *const blob = shown.open<QLineEdit>("Blob");
     QVERIFY(!blob || blob->isReadOnly());
-    const auto *const narrow = editorOf<QDoubleSpinBox>(shown, "Narrow");
+    const auto *const narrow = shown.open<QDoubleSpinBox>("Narrow");
     QVERIFY(narrow);
     QCOMPARE(narrow->decimals(), 2);
     QCOMPARE(narrow->minimum(), 0.13);
     QCOMPARE(narrow->maximum(), 8.12);
-    const auto *const fine = editorOf<QDoubleSpinBox>(shown, "Fine");
+    const auto *const fine = shown.open<QDoubleSpinBox>("Fine");
     QVERIFY(fine);
     QCOMPARE(fine->decimals(), 3);
     QCOMPARE(fine->singleStep(), 0.125);
@@ -140,7 +132,7 @@ void TestTreeDetails::marksWhatCannotBeRead()
         const auto *const number = qobject_cast<QAbstractSpinBox *>(editor);
         return box ? box->currentText() : number ? number->text() : static_cast<QLineEdit *>(editor)->text();
     };
-    auto *const editor = editorOf<QWidget>(shown, name.constData());
+    auto *const editor = shown.open<QWidget>(name.constData());
     QVERIFY(editor);
     const QString text = textOf(editor);
     QCOMPARE(text.isEmpty(), getter.isEmpty());
@@ -155,6 +147,7 @@ void TestTreeDetails::marksWhatCannotBeRead()
     clearFaults(*shown.map);
     shown.node(node.constData())->InvalidateNode();
     QCOMPARE(textOf(editor), text);
+    QVERIFY(!field || getter.isEmpty() || field->placeholderText().isEmpty());
     // Nothing was entered.
     const uint64_t writes = shown.port.writeCount();
     QTest::keyClick(editor, Qt::Key_Return);
@@ -177,6 +170,11 @@ void TestTreeDetails::forgetsErrors()
         return isEntered && isRed();
     };
     QVERIFY(failWrite());
+    QCOMPARE(label.data(Qt::ToolTipRole).toString(), QStringLiteral("no"));
+    shown.tree->clearSelection();
+    QVERIFY(shown.enter("Label", "newer")); // a write that succeeds
+    QVERIFY(!isRed());
+    QVERIFY(failWrite());
     shown.node("Label")->InvalidateNode(); // the same value once more
     QCoreApplication::processEvents();
     QVERIFY(isRed());
@@ -187,13 +185,13 @@ void TestTreeDetails::forgetsErrors()
         clearFaults(*shown.map);
     }
     QVERIFY(isRed());
+    QSignalSpy written(&shown.view, &OrvGui::OrvGenParamTreeView::featureWritten);
     shown.node<GenApi::CStringPtr>("Label")->SetValue("other");
     QTRY_VERIFY(!isRed());
 
     auto *const status = shown.part<QToolButton>("pbStatus");
     QVERIFY(failWrite());
     QCOMPARE(status->actions().size(), 1);
-    QSignalSpy written(&shown.view, &OrvGui::OrvGenParamTreeView::featureWritten);
     status->actions().constFirst()->trigger();
     QVERIFY(!isRed());
     QCOMPARE(status->accessibleName(), QStringLiteral("No errors"));
@@ -308,7 +306,8 @@ void TestTreeDetails::keepsStates()
 
 void TestTreeDetails::shortensEndlessWords()
 {
-    ShownView shown(detailNodes().replace("LONG", QByteArray(100000, 'x') + " &amp; end"));
+    ShownView shown(
+        detailNodes().replace("LONG", QByteArray(100000, 'x') + " &amp; end " + QByteArray(1997, 'y') + "&amp;z"));
     QVERIFY(shown.show());
     QElapsedTimer time;
     time.start();
@@ -317,6 +316,7 @@ void TestTreeDetails::shortensEndlessWords()
     QVERIFY2(time.elapsed() < 2000, qPrintable(QString::number(time.elapsed())));
     const QString text = shown.part<QTextBrowser>("whatsThisLabel")->toPlainText();
     QVERIFY(text.contains(QStringLiteral("xxx\u2026 & end")));
+    QVERIFY(text.contains(QStringLiteral("yyy\u2026"))); // not within an entity
     QVERIFY(shown.cell("Long", 0).data(Qt::WhatsThisRole).toString().size() > 100000);
 }
 
@@ -332,6 +332,7 @@ void TestTreeDetails::servesIntegrators()
     QCOMPARE(current.takeLast(), QVariantList{QStringLiteral("PixelFormat")});
     QCOMPARE(shown.cell("Colors").data(View::FeatureNameRole).toString(), QStringLiteral("PixelFormat"));
     QVERIFY(shown.enter("Colors", "3"));
+    QCOMPARE(current.size(), 0); // the same feature
     QCOMPARE(written.takeLast(), QVariantList{QStringLiteral("PixelFormat")});
     failGetter(*shown.map, "PixelFormat", "SetValue", "no");
     shown.tree->clearSelection();

@@ -21,28 +21,6 @@ void press(int key, Qt::KeyboardModifiers modifiers = {})
     QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
 }
 
-void typeKeys(const QString &text)
-{
-    for (const QChar key : text)
-        QTest::keyClick(QApplication::focusWidget(), key.toLatin1());
-}
-
-bool hasEditor(const ShownView &shown)
-{
-    const auto children = shown.tree->viewport()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-    return std::any_of(children.begin(), children.end(), [](QWidget *child) { return child->isVisible(); });
-}
-
-/** With Tab into the tree, and Down until the feature is current. */
-bool walkTo(const ShownView &shown, const char *name)
-{
-    for (int i = 0; i < 20 && !shown.tree->hasFocus(); ++i)
-        press(Qt::Key_Tab);
-    for (int i = 0; i < 40 && shown.tree->currentIndex().data().toString() != QLatin1String(name); ++i)
-        press(Qt::Key_Down);
-    return shown.tree->hasFocus() && shown.tree->currentIndex() == shown.cell(name, 0);
-}
-
 double luminance(const QColor &color)
 {
     const auto linear = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
@@ -70,74 +48,13 @@ class TestTreeKeys : public OrvTest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void changesEveryKind_data();
-    void changesEveryKind();
     void movesBetweenColumns();
     void changesNothingUnasked();
-    void leavesTheSearchItsKeys_data();
     void leavesTheSearchItsKeys();
     void goesToTheFilter();
     void paintsReadably_data();
     void paintsReadably();
 };
-
-void TestTreeKeys::changesEveryKind_data()
-{
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<QString>("keys"); ///< ">" and "<" are Right and Left, "2" is F2, "_" Down
-    QTest::addColumn<QString>("entry");
-    QTest::addColumn<QString>("text");
-    const auto row = [](const char *name, const char *keys, const char *entry, const char *text) {
-        QTest::addRow("%s %s", name, QByteArray(keys).replace('\r', "Enter").constData())
-            << QByteArray(name) << QString::fromLatin1(keys) << QString::fromLatin1(entry) << QString::fromLatin1(text);
-    };
-    for (const char *open : {"2", "\r", ">2", ">\r"}) {
-        row("Exposure Time", open, "40\r", "40us");
-        row("GevSCDA", open, "192.168.1.7\r", "192.168.1.7");
-        row("GevMACAddress", open, "258\r", "00:00:00:00:01:02");
-        row("Mask", open, "beef\r", "BEEF");
-        row("Gain", open, "2.5\r", "2.500dB");
-        row("Label", open, "abc\r", "abc");
-        row("Binning", open, "_", "4px");
-        row("Mode", open, "_", "Continuous");
-        row("Flag", open, "^", "True");
-        row("Start", open, " ", "Execute");
-        row("Start", open, "\r", "Execute");
-    }
-    row("Flag", ">", " ", "True");
-    row("Start", ">", " ", "Execute");
-}
-
-void TestTreeKeys::changesEveryKind()
-{
-    QFETCH(QByteArray, name);
-    QFETCH(QString, keys);
-    QFETCH(QString, entry);
-    QFETCH(QString, text);
-    ShownView shown;
-    QVERIFY(shown.show());
-    QVERIFY(walkTo(shown, name));
-    QVERIFY(!hasEditor(shown));
-    const auto play = [](const QString &sequence) {
-        for (const QChar key : sequence) {
-            const int special[] = {'>', Qt::Key_Right, '^', Qt::Key_Up, '_', Qt::Key_Down, '\r', Qt::Key_Return};
-            const auto *const found = std::find(std::begin(special), std::end(special), int(key.toLatin1()));
-            if (found == std::end(special))
-                typeKeys(key);
-            else
-                press(found[1]);
-        }
-    };
-    play(QString(keys).remove(QLatin1Char('2')));
-    if (keys.contains(QLatin1Char('2')))
-        press(Qt::Key_F2);
-    const QByteArray content(shown.port.writeCount() ? "written" : "untouched");
-    QCOMPARE(content, QByteArray("untouched"));
-    play(entry);
-    QTRY_COMPARE(shown.cell(name.constData()).data().toString(), text);
-    if (name != "Gain" && name != "Binning")
-        QCOMPARE(shown.port.writeCount(), uint64_t(1));
-}
 
 void TestTreeKeys::movesBetweenColumns()
 {
@@ -145,36 +62,29 @@ void TestTreeKeys::movesBetweenColumns()
         ShownView shown;
         shown.view.setLayoutDirection(mirrored ? Qt::RightToLeft : Qt::LeftToRight);
         QVERIFY(shown.show());
-        QVERIFY(walkTo(shown, "Label"));
+        QVERIFY(shown.walkTo(shown.cell("Label")));
         press(mirrored ? Qt::Key_Left : Qt::Key_Right);
         QCOMPARE(shown.tree->currentIndex(), shown.cell("Label"));
-        QVERIFY(!hasEditor(shown));
+        QVERIFY(!shown.editor());
         press(mirrored ? Qt::Key_Right : Qt::Key_Left);
         QCOMPARE(shown.tree->currentIndex(), shown.cell("Label", 0));
         QVERIFY(shown.tree->hasFocus());
         // Read-only values have no editor, and Tab leaves the tree.
-        QVERIFY(walkTo(shown, "Serial"));
+        QVERIFY(shown.walkTo(shown.cell("Serial")));
         press(Qt::Key_F2);
         press(Qt::Key_Space);
-        QVERIFY(!hasEditor(shown));
+        QVERIFY(!shown.editor());
         press(Qt::Key_Tab);
         QVERIFY(!shown.tree->hasFocus());
         QCOMPARE(shown.port.writeCount(), uint64_t(0));
     }
 }
 
-void TestTreeKeys::leavesTheSearchItsKeys_data()
-{
-    QTest::addColumn<bool>("fromValues");
-    QTest::addRow("names") << false;
-    QTest::addRow("values") << true;
-}
-
 void TestTreeKeys::changesNothingUnasked()
 {
     ShownView shown;
     QVERIFY(shown.show());
-    QVERIFY(walkTo(shown, "Flag"));
+    QVERIFY(shown.walkTo(shown.cell("Flag")));
     press(Qt::Key_Right);
     QKeyEvent held(QEvent::KeyPress, Qt::Key_Space, {}, QStringLiteral(" "), true);
     QCoreApplication::sendEvent(shown.tree, &held);
@@ -182,24 +92,25 @@ void TestTreeKeys::changesNothingUnasked()
     shown.tree->setEditTriggers(QTreeView::NoEditTriggers);
     for (const int key : {Qt::Key_Space, Qt::Key_F2, Qt::Key_Return})
         press(key);
-    QVERIFY(!hasEditor(shown));
+    QVERIFY(!shown.editor());
     QCOMPARE(shown.port.writeCount(), uint64_t(0));
 }
 
 void TestTreeKeys::leavesTheSearchItsKeys()
 {
-    QFETCH(bool, fromValues);
-    ShownView shown;
-    QVERIFY(shown.show());
-    QVERIFY(walkTo(shown, "Flag"));
-    if (fromValues)
-        press(Qt::Key_Right);
-    typeKeys(QStringLiteral("plain n"));
-    QCOMPARE(shown.tree->currentIndex().data().toString(), QStringLiteral("Plain Numbers"));
-    typeKeys(QStringLiteral("u"));
-    QVERIFY(!hasEditor(shown));
-    QCOMPARE(shown.tree->currentIndex().data().toString(), QStringLiteral("Plain Numbers"));
-    QCOMPARE(shown.port.writeCount(), uint64_t(0));
+    for (const bool fromValues : {false, true}) {
+        ShownView shown;
+        QVERIFY(shown.show());
+        QVERIFY(shown.walkTo(shown.cell("Flag")));
+        if (fromValues)
+            press(Qt::Key_Right);
+        for (const char *const keys : {"plain n", "u"}) {
+            shown.press(QLatin1String(keys));
+            QCOMPARE(shown.tree->currentIndex().data().toString(), QStringLiteral("Plain Numbers"));
+        }
+        QVERIFY(!shown.editor());
+        QCOMPARE(shown.port.writeCount(), uint64_t(0));
+    }
 }
 
 void TestTreeKeys::goesToTheFilter()

@@ -115,10 +115,13 @@ struct Stage
     QPointer<QTreeView> tree;
 };
 
+using Slot = std::function<void()>;
+using Listen = std::function<void(Stage &, const Slot &)>;
+
 struct Signal
 {
     const char *name;
-    std::function<void(Stage &, const std::function<void()> &)> listen;
+    Listen listen;
 };
 
 struct Action
@@ -133,6 +136,13 @@ GenParamTreeModel *modelOf(const Stage &stage)
     return static_cast<GenParamTreeModel *>(proxy->sourceModel());
 }
 
+/** To a signal of what \a sender gives. */
+template <typename Sender, typename Emitted>
+Listen listenTo(Sender *(*sender)(const Stage &stage), Emitted emitted)
+{
+    return [=](Stage &stage, const Slot &slot) { QObject::connect(sender(stage), emitted, stage.tree, slot); };
+}
+
 /** With all that is put off until events are processed. */
 void runEventLoop()
 {
@@ -143,7 +153,9 @@ void runEventLoop()
 
 const std::vector<Signal> &signalsOfTheTree()
 {
-    using Slot = std::function<void()>;
+    const auto model = +[](const Stage &stage) { return stage.tree->model(); };
+    const auto selection = +[](const Stage &stage) { return stage.tree->selectionModel(); };
+    const auto tree = +[](const Stage &stage) { return stage.tree.data(); };
     static const std::vector<Signal> all = {
         {"port read", [](Stage &stage, const Slot &slot) { stage.port.onRead = slot; }},
         {"port write", [](Stage &stage, const Slot &slot) { stage.port.onWrite = slot; }},
@@ -153,35 +165,20 @@ const std::vector<Signal> &signalsOfTheTree()
              for (const char *name : {"Amount", "Label", "Mode"})
                  GenApi::Register(stage.camera.map->GetNode(name), callback);
          }},
-        {"changed value",
+        {"error",
          [](Stage &stage, const Slot &slot) {
-             QObject::connect(stage.tree->model(), &QAbstractItemModel::dataChanged, stage.tree, slot);
-         }},
-        {"current item",
-         [](Stage &stage, const Slot &slot) {
-             QObject::connect(stage.tree->selectionModel(), &QItemSelectionModel::currentChanged, stage.tree, slot);
-         }},
-        {"selection",
-         [](Stage &stage, const Slot &slot) {
-             QObject::connect(stage.tree->selectionModel(), &QItemSelectionModel::selectionChanged, stage.tree, slot);
-         }},
-        {"layout",
-         [](Stage &stage, const Slot &slot) {
-             QObject::connect(stage.tree->model(), &QAbstractItemModel::layoutChanged, stage.tree, slot);
-         }},
-        {"rows",
-         [](Stage &stage, const Slot &slot) {
-             QObject::connect(stage.tree->model(), &QAbstractItemModel::rowsAboutToBeRemoved, stage.tree, slot);
-         }},
-        {"collapsed",
-         [](Stage &stage, const Slot &slot) { QObject::connect(stage.tree, &QTreeView::collapsed, stage.tree, slot); }},
-        {"expanded",
-         [](Stage &stage, const Slot &slot) { QObject::connect(stage.tree, &QTreeView::expanded, stage.tree, slot); }},
-        {"error", [](Stage &stage, const Slot &slot) {
              OrvGenApi::testing::failGetter(*stage.camera.map, "Mode", "SetIntValue", "no");
              OrvGenApi::testing::failGetter(*stage.camera.map, "Label", "GetValue", "no");
              QObject::connect(modelOf(stage), &GenParamTreeModel::errorAppeared, stage.tree, slot);
-         }}};
+         }},
+        {"changed value", listenTo(model, &QAbstractItemModel::dataChanged)},
+        {"layout", listenTo(model, &QAbstractItemModel::layoutChanged)},
+        {"rows", listenTo(model, &QAbstractItemModel::rowsAboutToBeRemoved)},
+        {"current item", listenTo(selection, &QItemSelectionModel::currentChanged)},
+        {"selection", listenTo(selection, &QItemSelectionModel::selectionChanged)},
+        {"collapsed", listenTo(tree, &QTreeView::collapsed)},
+        {"expanded", listenTo(tree, &QTreeView::expanded)},
+    };
     return all;
 }
 

@@ -2,7 +2,7 @@
 
 #include "fuzzer.h"
 
-#include <OrvCameraGuiApi/device_selection/ip4validator.h>
+#include <OrvCameraGuiApi/addresses/ip4validator.h>
 
 #include <QRegularExpression>
 

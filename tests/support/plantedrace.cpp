@@ -2,6 +2,7 @@
 // from looking at elsewhere.
 
 #include <QApplication>
+#include <QEvent>
 #include <QTimer>
 
 #include <thread>
@@ -10,7 +11,9 @@ int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
     int number = 0;
-    std::thread other([&number] {
+    QObject receiver;
+    std::thread other([&] {
+        QCoreApplication::postEvent(&receiver, new QEvent(QEvent::User)); // unseen, unlike what follows
         for (int i = 0; i < 1000; ++i)
             ++number;
     });

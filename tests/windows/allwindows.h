@@ -1,5 +1,6 @@
 #pragma once
 
+#include <OrvCameraGuiApi/background/periods.h>
 #include <OrvCameraGuiApi/camconfig/camerastatus.h>
 #include <OrvCameraGuiApi/camconfig/featuredialogs.h>
 #include <OrvCameraGuiApi/camconfig/orvcamconfig.h>

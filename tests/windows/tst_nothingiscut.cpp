@@ -30,7 +30,7 @@ private Q_SLOTS:
     void valuesInConfigurationWindow()
     {
         const SimTest::Held<OrvCam::Device> camera = SimTest::open(SimTest::twoFrame);
-        const QScopedValueRollback<std::chrono::milliseconds> period(OrvGui::CameraParams::period,
+        const QScopedValueRollback<std::chrono::milliseconds> period(OrvGui::periods().status,
                                                                      std::chrono::milliseconds(10));
         OrvGui::OrvCamConfig window(camera.get());
         window.show();

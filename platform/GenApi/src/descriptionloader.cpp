@@ -196,6 +196,42 @@ void DescriptionLoader::checkLinks()
     walkEdges("the selectors go round in a circle: ", [](const Edge &) {});
     m_edges = readEdges;
     spreadSelections();
+    spreadVaryingAccess();
+}
+
+/** A condition that is read anew each time makes the access mode vary of its node, and of all that reads that one. */
+void DescriptionLoader::spreadVaryingAccess()
+{
+    std::vector<Node *> open;
+    const auto add = [&open](Node &node) {
+        if (!std::exchange(node.m_accessVaries, true))
+            open.push_back(&node);
+    };
+    for (const std::unique_ptr<Node> &node : m_map.m_nodes) {
+        if (!node->hasCachableConditions())
+            add(*node);
+    }
+    if (open.empty())
+        return;
+    const std::vector<std::vector<uint32_t>> readers = readersOfNodes();
+    while (!open.empty()) {
+        const Node &node = *open.back();
+        open.pop_back();
+        for (const uint32_t reader : readers[node.m_index])
+            add(*m_map.m_nodes[reader]);
+        for (Node *dependent : node.m_dependents) {
+            if (node.interfaceType() == intfIEnumEntry || dependent->interfaceType() == intfICategory)
+                add(*dependent); // what is made of it
+        }
+    }
+}
+
+std::vector<std::vector<uint32_t>> DescriptionLoader::readersOfNodes() const
+{
+    std::vector<std::vector<uint32_t>> readers(m_map.m_nodes.size());
+    for (const Edge &edge : m_edges)
+        readers[edge.to].push_back(edge.from);
+    return readers;
 }
 
 /** What reads a selected node, for its value, a limit or a condition, is selected as well. */
@@ -208,11 +244,8 @@ void DescriptionLoader::spreadSelections()
     for (const std::unique_ptr<Node> &node : m_map.m_nodes) {
         if (!node->m_selectorLinks || node->m_selectorLinks->selected.empty())
             continue;
-        if (readers.empty()) {
-            readers.resize(m_map.m_nodes.size());
-            for (const Edge &edge : m_edges)
-                readers[edge.to].push_back(edge.from);
-        }
+        if (readers.empty())
+            readers = readersOfNodes();
         std::vector<Node *> open = node->m_selectorLinks->selected;
         for (const Node *each : open)
             seenBy[each->m_index] = node.get();
@@ -241,7 +274,10 @@ void DescriptionLoader::spreadSelections()
     }
 }
 
-/** Visits all edges, those of a node after those of the nodes they lead to. */
+/**
+ * Visits all edges, those of a node after those of the nodes they lead to. The walk goes depth first with a path of its
+ * own, because chains may be longer than the stack; an edge back to a node on the path closes a circle.
+ */
 template <typename Visit>
 void DescriptionLoader::walkEdges(const char *circle, const Visit &visit)
 {

@@ -115,6 +115,10 @@ private:
     void finish();
     void checkLinks();
     void spreadSelections();
+    void spreadVaryingAccess();
+
+    /** The places of those that read each node. */
+    std::vector<std::vector<uint32_t>> readersOfNodes() const;
     template <typename Visit>
     void walkEdges(const char *circle, const Visit &visit);
     void markFeatures();

@@ -12,6 +12,9 @@ namespace OrvGenApi {
 
 namespace {
 
+// A program is a list of words: the operator in the lowest byte, its argument above, where it has one. Operands stand
+// in front of their operator, so that one loop with one stack evaluates any formula, and numbers too large for a word
+// stand in a table of their own.
 constexpr unsigned ArgumentShift = 8;
 constexpr int32_t SmallLiteralLimit = 1 << 23; ///< a small literal is at least its negative and less than it
 

@@ -171,7 +171,7 @@ double FloatArithmetic::unary(Op op, Value a)
     case Op::Trunc:
         return std::trunc(a);
     case Op::Frac:
-        return a - std::trunc(a);
+        return std::copysign(a - std::trunc(a), a); // a negative whole number leaves -0
     default: {
         // Intentionally: that a NaN has a sign says nothing but which processor it comes from.
         const Value result = transcendental(op, a);
@@ -259,11 +259,13 @@ double FloatArithmetic::modulo(Value a, Value b)
 
 double FloatArithmetic::roundTo(Value a, Value digits)
 {
-    constexpr int64_t most = std::numeric_limits<Value>::max_exponent10;
+    constexpr int64_t most = 2 * std::numeric_limits<Value>::max_exponent10;
     const int64_t places = std::clamp(toInteger(digits), -most, most);
     const Value scale = std::pow(10.0, static_cast<Value>(std::abs(places)));
-    const Value rounded = places < 0 ? std::round(a / scale) * scale : std::round(a * scale) / scale;
-    return std::isfinite(rounded) ? rounded : a;
+    const Value rounded = std::round(places < 0 ? a / scale : a * scale);
+    if (a == 0 || rounded == 0 || std::isinf(rounded)) // intentionally: a number with too many places is infinite
+        return a == 0 ? a : rounded;
+    return places < 0 ? rounded * scale : rounded / scale;
 }
 
 } // namespace OrvGenApi

@@ -129,7 +129,11 @@ auto ConverterNode<Base>::value(bool ignoreCache) -> Number
 {
     this->requireUsable();
     m_node->requireReadable(ignoreCache);
-    return this->run(m_formulaFrom, Base::valueOf(*m_node, ignoreCache), ignoreCache);
+    const Number read = Base::valueOf(*m_node, ignoreCache);
+    std::optional<Renewal> renewal; // of the variables
+    if (ignoreCache)
+        renewal.emplace(this->map());
+    return this->run(m_formulaFrom, read, ignoreCache);
 }
 
 template <typename Base>
@@ -147,7 +151,7 @@ auto ConverterNode<Base>::limit(bool upper) -> Number
     if (m_slope == Slope::None && Base::kind == Formula::Kind::Integer)
         return 0; // intentionally: only a float without a slope counts as increasing
     if (m_limitsIn[upper] != this->map().evaluation()) {
-        m_limits[upper] = computeLimit(upper);
+        m_limits[upper] = Base::finite(computeLimit(upper), upper);
         m_limitsIn[upper] = this->map().evaluation();
     }
     return m_limits[upper];
@@ -179,6 +183,8 @@ auto ConverterNode<Base>::validValues() -> std::vector<Number>
     return values;
 }
 
+template class FormulaNode<IntegerFormulaBase>;
+template class FormulaNode<FloatFormulaBase>;
 template class SwissKnifeNode<IntegerFormulaBase>;
 template class SwissKnifeNode<FloatFormulaBase>;
 template class ConverterNode<IntegerFormulaBase>;

@@ -71,6 +71,7 @@ protected:
     virtual std::vector<Number> validValues() { return {}; }
 
     static std::pair<Number, Number> fullRange() { return {int64Min, int64Max}; }
+    static Number finite(Number limit, bool) { return limit; }
     static GenApi::EIncMode ownIncrementMode() { return GenApi::fixedIncrement; }
     static Number evaluate(const Formula &formula, VariableSource<Number> &source)
     {
@@ -106,6 +107,7 @@ protected:
     virtual std::vector<Number> validValues() { return {}; }
 
     static std::pair<Number, Number> fullRange();
+    static Number finite(Number limit, bool upper) { return finiteLimit(limit, upper); }
     static GenApi::EIncMode ownIncrementMode() { return GenApi::noIncrement; }
     static Number evaluate(const Formula &formula, VariableSource<Number> &source)
     {
@@ -145,6 +147,11 @@ public:
 protected:
     /** RW where all variables are available; one that can only be written fails when it is asked. */
     GenApi::EAccessMode variablesAccess() const;
+    GenApi::EAccessMode readAccess() const override
+    {
+        const GenApi::EAccessMode mode = Base::readAccess();
+        return mode == GenApi::NI ? mode : combined(mode, variablesAccess());
+    }
 
     /** Evaluates with \a converted in the slot behind the variables; a formula without a value is a logical error. */
     Number run(const Formula &formula, Number converted, bool ignoreCache) const;
@@ -168,7 +175,7 @@ public:
 
 protected:
     bool keepsFresh() const override { return true; }
-    GenApi::EAccessMode firstAccess() const override { return combined(this->readAccess(), this->variablesAccess()); }
+    GenApi::EAccessMode firstAccess() const override { return GenApi::RW; }
     GenApi::EAccessMode valueAccess() const override { return combined(GenApi::RO, this->variablesAccess()); }
     bool takesWrites() const override { return false; }
     Number value(bool ignoreCache) override;
@@ -214,6 +221,7 @@ public:
     }
 
 protected:
+    GenApi::EAccessMode firstAccess() const override { return m_node->accessMode(); }
     GenApi::EAccessMode valueAccess() const override;
     Number value(bool ignoreCache) override;
     void setValue(Number value, bool verify, Changes &changes) override;
@@ -235,6 +243,8 @@ private:
     std::array<uint64_t, 2> m_limitsIn{}; ///< the evaluations that computed them
 };
 
+extern template class FormulaNode<IntegerFormulaBase>;
+extern template class FormulaNode<FloatFormulaBase>;
 extern template class SwissKnifeNode<IntegerFormulaBase>;
 extern template class SwissKnifeNode<FloatFormulaBase>;
 extern template class ConverterNode<IntegerFormulaBase>;

@@ -7,13 +7,19 @@ namespace OrvGenApi {
 using namespace GenApi;
 
 template <typename Number>
-EAccessMode NumberSource<Number>::access() const
+EAccessMode NumberSource<Number>::valueAccess() const
 {
     if (m_indexed && !picked())
         return m_indexed->index && m_indexed->index->accessMode() == NI ? NI : NA;
     const Node *const node = m_indexed ? picked()->node() : m_value.node();
-    EAccessMode mode = node ? node->accessMode() : RW;
-    if (m_copies) {
+    return node ? node->accessMode() : RW;
+}
+
+template <typename Number>
+EAccessMode NumberSource<Number>::access() const
+{
+    EAccessMode mode = valueAccess();
+    if (m_copies && !(m_indexed && !picked())) {
         for (const Node *copy : m_copies->nodes) {
             const EAccessMode access = copy->accessMode();
             mode = combined(mode, access == WO ? RW : access); // is never read
@@ -129,9 +135,15 @@ bool NumberSource<Number>::keepsFresh() const
 }
 
 template <typename Number>
-EAccessMode NumberSource<Number>::readAccess(std::initializer_list<Ref> limits)
+EAccessMode NumberSource<Number>::readAccess(std::initializer_list<Ref> limits) const
 {
     EAccessMode mode = RW;
+    if (m_copies) {
+        for (const Node *copy : m_copies->nodes) {
+            if (mode != NI)
+                mode = combined(mode, Node::availability(copy));
+        }
+    }
     for (const Ref &limit : limits) {
         if (mode != NI)
             mode = combined(mode, Node::availability(limit.node()));
@@ -248,7 +260,7 @@ double FloatNode::floatMin()
     if (m_source.isIndexed())
         m_source.currentNode(*this); // without a value there are no limits
     if (m_minimum.isSet())
-        return m_minimum.value();
+        return finiteLimit(m_minimum.value(), false);
     Node *const node = m_source.limitingNode(*this);
     return node ? node->floatMin() : FloatBase::floatMin();
 }
@@ -258,7 +270,7 @@ double FloatNode::floatMax()
     if (m_source.isIndexed())
         m_source.currentNode(*this); // without a value there are no limits
     if (m_maximum.isSet())
-        return m_maximum.value();
+        return finiteLimit(m_maximum.value(), true);
     Node *const node = m_source.limitingNode(*this);
     return node ? node->floatMax() : FloatBase::floatMax();
 }

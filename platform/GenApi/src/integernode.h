@@ -24,10 +24,12 @@ public:
     Node *limitingNode(const Node &owner);
 
     bool hasCopies() const { return m_copies != nullptr; }
+    /** What the value allows; the same with its copies. */
+    GenApi::EAccessMode valueAccess() const;
     GenApi::EAccessMode access() const;
 
-    /** What \a limits allow. */
-    static GenApi::EAccessMode readAccess(std::initializer_list<Ref> limits);
+    /** What copies and \a limits allow. */
+    GenApi::EAccessMode readAccess(std::initializer_list<Ref> limits) const;
 
     /** \a range as far as all copies take it; worked out once an evaluation. */
     std::pair<Number, Number> copiedRange(const Node &owner, std::pair<Number, Number> range);
@@ -143,9 +145,11 @@ protected:
     bool keepsWritten() const override { return !m_source.hasCopies(); }
     bool keepsFresh() const override { return m_source.keepsFresh(); }
     bool ignoresConditions() const override { return m_source.isIndexed(); }
+    GenApi::EAccessMode firstAccess() const override { return m_source.valueAccess(); }
     GenApi::EAccessMode readAccess() const override
     {
-        return combined(Node::readAccess(), m_source.readAccess({m_minimum, m_maximum, m_increment}));
+        const GenApi::EAccessMode mode = Node::readAccess();
+        return mode == GenApi::NI ? mode : combined(mode, m_source.readAccess({m_minimum, m_maximum, m_increment}));
     }
 
 private:
@@ -212,9 +216,11 @@ protected:
     bool keepsWritten() const override { return !m_source.hasCopies(); }
     bool keepsFresh() const override { return m_source.keepsFresh(); }
     bool ignoresConditions() const override { return m_source.isIndexed(); }
+    GenApi::EAccessMode firstAccess() const override { return m_source.valueAccess(); }
     GenApi::EAccessMode readAccess() const override
     {
-        return combined(Node::readAccess(), m_source.readAccess({m_minimum, m_maximum, m_increment}));
+        const GenApi::EAccessMode mode = Node::readAccess();
+        return mode == GenApi::NI ? mode : combined(mode, m_source.readAccess({m_minimum, m_maximum, m_increment}));
     }
 
 private:

@@ -217,15 +217,10 @@ UserData_t Node::SetUserData(UserData_t userdata)
     return std::exchange(m_map.m_extras[this].userData, userdata);
 }
 
-/** The mode changes with what is written and polled, unless a condition is read anew each time. */
 EYesNo Node::IsAccessModeCacheable() const
 {
     const Entry entry(*this, "IsAccessModeCacheable");
-    for (const Node *condition : {m_isImplemented, m_isAvailable, m_isLocked}) {
-        if (condition && !IsCacheable(condition->cachingMode()))
-            return No;
-    }
-    return Yes;
+    return m_accessVaries ? No : Yes;
 }
 
 void Node::ImposeAccessMode(EAccessMode ImposedAccessMode)
@@ -300,10 +295,10 @@ void Node::GetSelectingFeatures(FeatureList_t &Features) const
 EAccessMode Node::accessMode() const
 {
     if (m_accessEvaluation == m_map.evaluation())
-        return withParts(m_access);
+        return withParts(m_access, false);
     if (m_accessOpen) {
         m_accessOpen = m_accessComputing || staysOpen();
-        return withParts(openAccess());
+        return withParts(openAccess(), true);
     }
     m_accessOpen = true;
     m_accessComputing = true;
@@ -313,14 +308,16 @@ EAccessMode Node::accessMode() const
         m_accessComputing = false;
         if (ignoresConditions())
             forgetAccess(); // told every time
+        else if (m_map.m_trying)
+            m_accessOpen = false; // told to the next who asks
         if (!m_accessKnown)
             throw;
     }
     m_accessOpen = false;
     m_accessComputing = false;
-    m_accessKnown = hasCachableConditions() && !dependsOnPort();
+    m_accessKnown = !m_accessVaries && !dependsOnPort();
     m_accessEvaluation = m_map.evaluation();
-    return withParts(m_access);
+    return withParts(m_access, false);
 }
 
 namespace {
@@ -339,8 +336,9 @@ EAccessMode allowed(Node *condition, bool wanted, EAccessMode mode)
 } // namespace
 
 /**
- * First what is read has to be there, conditions included; then it is asked whether the node is implemented, available
- * and, where it could be written, locked, each only as long as it matters: what is not asked cannot fail.
+ * First what is read has to be there: the value, the conditions, then all else. After that it is asked whether the node
+ * is implemented, available and, where it could be written, locked, each only as long as it matters: what is not asked
+ * cannot fail.
  */
 EAccessMode Node::computeAccessMode() const
 {
@@ -351,13 +349,16 @@ EAccessMode Node::computeAccessMode() const
     EAccessMode mode = RW;
     if (!ignoresConditions()) {
         mode = firstAccess();
-        if (mode != NI)
+        const bool isConditional = m_isImplemented || m_isAvailable || m_isLocked; // few nodes are
+        if (isConditional && mode != NI)
             mode = combined(mode, availabilityOf({m_isImplemented, m_isAvailable, m_isLocked}));
         if (mode != NI)
+            mode = combined(mode, readAccess());
+        if (isConditional && mode != NI)
             mode = combined(mode, allowed(m_isImplemented, true, NI));
-        if (IsAvailable(mode))
+        if (isConditional && IsAvailable(mode))
             mode = combined(mode, allowed(m_isAvailable, true, NA));
-        if (isWritable(mode))
+        if (isConditional && isWritable(mode))
             mode = combined(mode, allowed(m_isLocked, false, RO));
         if (mode == NI)
             return NI;
@@ -379,17 +380,13 @@ bool Node::hasCachableConditions() const
     return isCachable(m_isImplemented) && isCachable(m_isAvailable) && isCachable(m_isLocked);
 }
 
-EAccessMode Node::availability(const Node *node)
-{
-    const EAccessMode mode = node ? node->accessMode() : RW;
-    return mode == NI || mode == NA ? mode : RW;
-}
-
 EAccessMode Node::availabilityOf(std::initializer_list<const Node *> nodes)
 {
     EAccessMode mode = RW;
-    for (auto node = nodes.begin(); node != nodes.end() && mode != NI; ++node)
-        mode = combined(mode, availability(*node));
+    for (auto node = nodes.begin(); node != nodes.end() && mode != NI; ++node) {
+        if (*node)
+            mode = combined(mode, availability(*node));
+    }
     return mode;
 }
 
@@ -405,26 +402,30 @@ bool Node::isFulfilled(Node &node)
 
 void Node::requireReadable(bool ignoreCache) const
 {
-    const bool forgets = ignoreCache && takesWrites();
-    try {
-        if (!isReadable(accessMode()))
-            throwNoAccess("readable");
-    } catch (...) {
-        if (forgets)
-            dropChain();
-        throw;
-    }
-    if (forgets)
+    if (!isReadable(accessMode()))
+        throwNoAccess("readable");
+    if (ignoreCache && takesWrites() && !m_map.m_renewing)
         forgetAccess();
 }
 
-/** Drops what is kept from here down to where the value ends: as if it had been read past the caches. */
-void Node::dropChain() const
+Node::FreshReading::~FreshReading()
 {
-    unsigned left = 1000; // links do not go round, but nobody waits for a chain that is longer than can be read
-    for (Node *node = const_cast<Node *>(this); node && node->takesWrites() && left > 0;
-         node = node->valueNode(), --left)
-        node->dropCache();
+    if (!m_node)
+        return;
+    try {
+        if (!m_isReadable && m_node->takesWrites())
+            m_node->dropCache();
+        Changes unnoticed(m_node->map());
+        m_node->addEnds(unnoticed);
+    } catch (...) {
+        // Links that lead too deep: nothing that could be read has been kept.
+    }
+}
+
+void Node::requireReadable(FreshReading &reading) const
+{
+    requireReadable(reading.ignoresCache());
+    reading.m_isReadable = true;
 }
 
 void Node::requireWritable(bool verify) const

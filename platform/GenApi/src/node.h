@@ -172,11 +172,35 @@ public:
 
     /**
      * Throw an access exception when that is not possible now; without \a verify only where it never is. Who reads past
-     * the caches has a mode that could not be worked out tried anew next time, and finds nothing kept even if he is
-     * refused.
+     * the caches has a mode that could not be worked out tried anew next time.
      */
     void requireReadable(bool ignoreCache = false) const;
     void requireWritable(bool verify = true) const;
+
+    /**
+     * Held while a user reads: past the caches he may meet a new value, so that nothing stays kept that depends on it,
+     * even if he is refused. Nobody is called back.
+     */
+    class FreshReading
+    {
+    public:
+        FreshReading(const Node &node, bool ignoreCache)
+            : m_node(ignoreCache ? const_cast<Node *>(&node) : nullptr)
+        {
+        }
+        ~FreshReading();
+        FreshReading(const FreshReading &) = delete;
+        FreshReading &operator=(const FreshReading &) = delete;
+
+        bool ignoresCache() const { return m_node; }
+
+    private:
+        friend class Node;
+
+        Node *const m_node; ///< null where the caches are asked
+        bool m_isReadable = false;
+    };
+    void requireReadable(FreshReading &reading) const;
     void requireAvailable() const;
 
     [[noreturn]] void throwNoAccess(const char *what) const;
@@ -185,7 +209,11 @@ public:
     void requireUsable() const;
 
     /** NI or NA where \a node is that, else RW. */
-    static GenApi::EAccessMode availability(const Node *node);
+    static GenApi::EAccessMode availability(const Node *node)
+    {
+        const GenApi::EAccessMode mode = node ? node->accessMode() : GenApi::RW;
+        return mode == GenApi::NI || mode == GenApi::NA ? mode : GenApi::RW;
+    }
 
     /** The same for several; those behind one that is not implemented are not asked. */
     static GenApi::EAccessMode availabilityOf(std::initializer_list<const Node *> nodes);
@@ -293,18 +321,24 @@ protected:
 
     virtual GenApi::EAccessMode computeAccessMode() const;
 
-    /** \a own, the node's own mode, with that of parts which have conditions of their own; they are always asked. */
-    virtual GenApi::EAccessMode withParts(GenApi::EAccessMode own) const { return own; }
-
-    /** What the nodes allow that are read for anything but the value: NI or NA where they are that, else RW. */
-    virtual GenApi::EAccessMode readAccess() const { return availabilityOf({m_error, m_blocksPolling}); }
-
-    /** What all that is read and written allows, before the node's own conditions are asked. */
-    virtual GenApi::EAccessMode firstAccess() const
+    /**
+     * \a own, the node's own mode, with that of parts which have conditions of their own; they are always asked. \a
+     * isOpen: the own mode is not known.
+     */
+    virtual GenApi::EAccessMode withParts(GenApi::EAccessMode own, bool isOpen) const
     {
-        const GenApi::EAccessMode mode = valueAccess();
-        return mode == GenApi::NI ? mode : combined(mode, readAccess());
+        (void)isOpen;
+        return own;
     }
+
+    /** What is asked before the node's own conditions: where the value comes from. */
+    virtual GenApi::EAccessMode firstAccess() const { return valueAccess(); }
+
+    /**
+     * What the nodes allow that are read for anything but the value, asked behind the conditions: NI or NA where they
+     * are that, else RW. Those behind one that is not implemented are not asked.
+     */
+    virtual GenApi::EAccessMode readAccess() const { return availabilityOf({m_error, m_blocksPolling}); }
 
     /** Intentionally, a value that is picked by an index is there for whoever can read the index. */
     virtual bool ignoresConditions() const { return false; }
@@ -322,13 +356,15 @@ protected:
     /** Whether the node's own conditions may be kept. */
     bool hasCachableConditions() const;
 
+    /** Whether the access mode hangs on a condition that is read anew each time, here or in anything that is read. */
+    bool accessVaries() const { return m_accessVaries; }
+
     /** What the node itself ever allows. */
     GenApi::EAccessMode ownAccess() const { return m_isImplemented || m_broken ? implementation() : m_imposedAccess; }
 
     /** Whether a written value that has led to an error is not kept. */
     virtual bool checksBeforeKeeping() const { return false; }
 
-    void dropChain() const;
     void forgetAccess() const
     {
         m_accessOpen = false;
@@ -405,6 +441,7 @@ private:
     bool m_streamable = false;
     bool m_isFeature = false;
     bool m_standardNameSpace = false;
+    bool m_accessVaries = false;
     bool m_passesOn = false; ///< a written value that will be kept
 
     friend class Changes;

@@ -239,6 +239,10 @@ bool NodeMapImpl::add(std::unique_ptr<Node> node)
     return true;
 }
 
+/**
+ * The callbacks are listed under the lock and called from the list, as one may register or deregister others. Each is
+ * looked for once more before its turn, and those taken out meanwhile are destroyed by the last run that ends.
+ */
 void NodeMapImpl::fire(const std::vector<Node *> &nodes, ECallbackType moment, std::exception_ptr &failure)
 {
     std::vector<std::pair<Node *, CNodeCallback *>> calls;

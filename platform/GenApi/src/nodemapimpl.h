@@ -164,6 +164,7 @@ public:
     unsigned m_depth = 0; ///< nodes that are asking others
     bool m_verifying = false; ///< values that are read have to be within their limits
     bool m_renewing = false; ///< reads past the caches keep what they read
+    bool m_trying = false; ///< access modes that cannot be worked out are asked for again
 
 private:
     GenICam::gcstring rootAttribute(const char *name) const;
@@ -257,6 +258,24 @@ private:
     const bool m_before;
 };
 
+/** Leaves access modes that cannot be worked out to the next one who asks. */
+class Trial
+{
+public:
+    Trial(NodeMapImpl &map, bool isOn)
+        : m_map(map)
+        , m_before(std::exchange(map.m_trying, map.m_trying || isOn))
+    {
+    }
+    ~Trial() { m_map.m_trying = m_before; }
+    Trial(const Trial &) = delete;
+    Trial &operator=(const Trial &) = delete;
+
+private:
+    NodeMapImpl &m_map;
+    const bool m_before;
+};
+
 /** Makes all values that are read be checked as well, or not any more. */
 class Verification
 {
@@ -276,6 +295,10 @@ private:
     const bool m_before;
 };
 
+/**
+ * Whatever changes a node goes through here: the list of what has changed grows while the write goes down to the
+ * registers, then all on it are called back inside the lock, and once more outside of it.
+ */
 template <typename Write>
 void Node::change(const char *operation, const Write &write)
 {

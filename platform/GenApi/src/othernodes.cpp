@@ -30,17 +30,20 @@ void CategoryNode::setText(const std::string &, bool, Changes &)
 }
 
 /**
- * Conditions of a category decide only whether it is implemented: what stands in it may be looked at.
+ * Conditions of a category decide only whether it is implemented: what stands in it may be looked at. Once there is an
+ * answer it stands where one of them throws, and whoever asks that feature itself is told.
  */
 EAccessMode CategoryNode::computeAccessMode() const
 {
+    const Trial trial(m_map, m_wasThere.has_value());
     try {
-        const bool isThere = isImplemented() && hasImplemented();
-        return combined(combined(imposedAccess(), RO), isThere ? RW : NI);
+        m_wasThere = isImplemented() && hasImplemented();
     } catch (...) {
-        forgetAccess(); // told every time
-        throw;
+        forgetAccess();
+        if (!m_wasThere)
+            throw; // told every time
     }
+    return combined(combined(imposedAccess(), RO), *m_wasThere ? RW : NI);
 }
 
 /** A condition that cannot be asked leaves a category where it is. */
@@ -90,7 +93,8 @@ void BooleanNode::SetValue(bool Value, bool Verify)
 bool BooleanNode::GetValue(bool Verify, bool IgnoreCache) const
 {
     const Entry entry(*this, "GetValue");
-    requireReadable(IgnoreCache);
+    FreshReading reading(*this, IgnoreCache);
+    requireReadable(reading);
     const Verification verification(m_map, Verify);
     const bool value = isOn(IgnoreCache);
     if (Verify)
@@ -139,7 +143,7 @@ void CommandNode::Execute(bool Verify)
     (void)Verify;
     change("Execute", [&](Changes &changes) {
         execute(changes);
-        if (!m_value.node()) // intentionally: while the device is busy with it there is no error yet
+        if (!m_running) // intentionally: while the device is busy with it there is no error yet
             checkError();
     });
 }
@@ -148,8 +152,9 @@ void CommandNode::Execute(bool Verify)
 void CommandNode::execute(Changes &changes)
 {
     requireWritable();
+    const bool isToEnd = m_value.node() && isReadable(accessMode()); // else nobody can see it end
     setIntValue(m_commandValue.value(), true, changes);
-    m_running = m_value.node() != nullptr;
+    m_running = isToEnd;
     restartPollClock();
 }
 
@@ -194,6 +199,15 @@ void CommandNode::addEnd(Changes &changes)
     while (Node *const next = last->valueNode())
         last = next;
     changes.addRead(*last);
+}
+
+bool CommandNode::isPolled()
+{
+    try {
+        return m_running && isReadable(accessMode());
+    } catch (const GenICam::GenericException &) {
+        return false; // what cannot be asked does not end all polling
+    }
 }
 
 bool CommandNode::isDone()
@@ -287,7 +301,8 @@ void EnumerationNode::SetIntValue(int64_t Value, bool Verify)
 int64_t EnumerationNode::GetIntValue(bool Verify, bool IgnoreCache)
 {
     const Entry entry(*this, "GetIntValue");
-    requireReadable(IgnoreCache);
+    FreshReading reading(*this, IgnoreCache);
+    requireReadable(reading);
     const Verification verification(m_map, Verify);
     const int64_t value = intValue(IgnoreCache);
     if (Verify)
@@ -323,11 +338,12 @@ IEnumEntry *EnumerationNode::GetCurrentEntry(bool Verify, bool IgnoreCache)
 {
     (void)Verify;
     const Entry entry(*this, "GetCurrentEntry");
-    requireReadable(IgnoreCache);
+    FreshReading reading(*this, IgnoreCache);
+    requireReadable(reading);
     return find(intValue(IgnoreCache));
 }
 
-EAccessMode EnumerationNode::withParts(EAccessMode own) const
+EAccessMode EnumerationNode::withParts(EAccessMode own, bool) const
 {
     if (own == NI)
         return NI;
@@ -344,12 +360,32 @@ EAccessMode EnumerationNode::withParts(EAccessMode own) const
     return combined(own, best);
 }
 
+/** Asks for the own access mode only once, because a second answer may differ. */
+void EnumerationNode::FromString(const gcstring &ValueStr, bool Verify)
+{
+    change("FromString", [&](Changes &changes) {
+        const Verification verification(m_map, Verify);
+        if (Verify)
+            requireWritable();
+        const int64_t value = entryValue(ValueStr.c_str());
+        if (Verify)
+            choose(value, true, changes);
+        else
+            setIntValue(value, false, changes);
+    });
+}
+
 void EnumerationNode::setIntValue(int64_t value, bool verify, Changes &changes)
 {
     if (verify)
         requireWritable();
     else if (!isWritable(ownAccess()))
         throwNoAccess("writable");
+    choose(value, verify, changes);
+}
+
+void EnumerationNode::choose(int64_t value, bool verify, Changes &changes)
+{
     const EnumEntryNode *const entry = find(value);
     if (!entry) {
         ORV_THROW(InvalidArgumentException,
@@ -359,7 +395,8 @@ void EnumerationNode::setIntValue(int64_t value, bool verify, Changes &changes)
         entry->requireReadable();
     else if (entry->implementation() != RW)
         entry->throwNoAccess("implemented");
-    requireWritable(verify);
+    if (!verify)
+        requireWritable(false);
     if (Node *const node = m_value.node()) {
         writeLinked(*node, value, verify, changes);
     } else {

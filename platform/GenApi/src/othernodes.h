@@ -6,6 +6,8 @@
 #include <GenApi/ICommand.h>
 #include <GenApi/IEnumeration.h>
 
+#include <optional>
+
 namespace OrvGenApi {
 
 /** A node without a value, to which others are linked. */
@@ -42,6 +44,7 @@ private:
 
     std::vector<Node *> m_features;
     GenApi::EVisibility m_derivedVisibility = GenApi::Invisible;
+    mutable std::optional<bool> m_wasThere; ///< the last answer
     mutable uint64_t m_searchMark = 0; ///< the last search for an implemented feature that came here
 };
 
@@ -58,6 +61,7 @@ public:
     bool isNumber() const override { return true; }
     Node *valueNode() override { return m_value.node(); }
     bool isCacheValid() const override { return !m_value.node() || m_value.node()->isCacheValid(); }
+    bool keepsFresh() const override { return m_value.node() && m_value.node()->keepsFresh(); }
 
     /** As a number: 1 or 0, whatever stands for it. */
     int64_t intValue(bool ignoreCache) override { return isOn(ignoreCache); }
@@ -97,7 +101,9 @@ public:
     void setIntValue(int64_t value, bool verify, Changes &changes) override;
 
     Node *valueNode() override { return m_value.node(); }
-    bool isPolled() override { return m_running; }
+
+    /** Whether it is done can only be seen where its value can be read. */
+    bool isPolled() override;
 
     /** 1 as long as the device is busy with it, else 0. */
     std::string text(bool ignoreCache) override;
@@ -108,11 +114,14 @@ protected:
     {
         return m_value.node() ? m_value.node()->accessMode() : GenApi::RW;
     }
-    GenApi::EAccessMode readAccess() const override
+
+    /** Nothing can be done without the value that is to be written. */
+    GenApi::EAccessMode withParts(GenApi::EAccessMode own, bool isOpen) const override
     {
-        const GenApi::EAccessMode mode = combined(Node::readAccess(), availability(m_commandValue.node()));
-        const bool isBlind = m_commandValue.node() && !isReadable(m_commandValue.node()->accessMode());
-        return isBlind ? combined(mode, GenApi::NA) : mode;
+        const GenApi::EAccessMode mode = m_commandValue.node() ? m_commandValue.node()->accessMode() : GenApi::RW;
+        if (isOpen || isReadable(mode))
+            return own;
+        return combined(own, mode == GenApi::NI ? mode : GenApi::NA);
     }
 
 private:
@@ -146,9 +155,9 @@ public:
     void setText(const std::string &text, bool verify, Changes &changes) override;
 
 protected:
-    GenApi::EAccessMode openAccess() const override { return GenApi::RO; }
-    bool staysOpen() const override { return hasCachableConditions(); }
-    GenApi::EAccessMode firstAccess() const override { return readAccess(); }
+    GenApi::EAccessMode openAccess() const override { return combined(GenApi::RO, imposedAccess()); }
+    bool staysOpen() const override { return !accessVaries(); }
+    GenApi::EAccessMode firstAccess() const override { return GenApi::RW; }
     GenApi::EAccessMode valueAccess() const override { return GenApi::RO; }
 
 private:
@@ -176,11 +185,13 @@ public:
     GenApi::IEnumEntry *GetEntryByName(const GenICam::gcstring &Symbolic) override;
     GenApi::IEnumEntry *GetEntry(int64_t IntValue) override;
     GenApi::IEnumEntry *GetCurrentEntry(bool Verify, bool IgnoreCache) override;
+    void FromString(const GenICam::gcstring &ValueStr, bool Verify) override;
 
     GenApi::EInterfaceType interfaceType() const override { return GenApi::intfIEnumeration; }
     bool isNumber() const override { return true; }
     Node *valueNode() override { return m_value.node(); }
     bool isCacheValid() const override { return !m_value.node() || m_value.node()->isCacheValid(); }
+    bool keepsFresh() const override { return m_value.node() && m_value.node()->keepsFresh(); }
     int64_t intValue(bool ignoreCache) override;
     void setIntValue(int64_t value, bool verify, Changes &changes) override;
 
@@ -206,12 +217,16 @@ protected:
         return m_value.node() ? m_value.node()->accessMode() : GenApi::RW;
     }
 
+    bool staysOpen() const override { return !accessVaries(); }
+
     /** Nothing can be chosen where no entry is: then the enumeration is not available or not implemented itself. */
-    GenApi::EAccessMode withParts(GenApi::EAccessMode own) const override;
+    GenApi::EAccessMode withParts(GenApi::EAccessMode own, bool isOpen) const override;
 
 private:
     friend class DescriptionLoader;
 
+    /** Sets the value, whose own mode has been looked at when \a verify. */
+    void choose(int64_t value, bool verify, Changes &changes);
     EnumEntryNode *find(int64_t value) const;
     EnumEntryNode *find(std::string_view symbolic) const;
 

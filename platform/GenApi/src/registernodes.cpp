@@ -29,14 +29,19 @@ EAccessMode RegisterData::everAccess() const
     return m_port ? combined(m_accessMode, m_port->everAccess()) : NI;
 }
 
+EAccessMode RegisterData::portAccess() const
+{
+    return Node::availability(m_port);
+}
+
 EAccessMode RegisterData::placeAccess() const
 {
-    EAccessMode mode = Node::availabilityOf({m_port, m_length.node()});
+    EAccessMode mode = RW;
     for (const AddressTerm &term : m_addressTerms) {
         if (mode != NI)
             mode = combined(mode, Node::availabilityOf({term.value.node(), term.offset.node()}));
     }
-    return mode;
+    return mode == NI ? mode : combined(mode, Node::availability(m_length.node()));
 }
 
 int64_t RegisterData::length(const Node &owner)
@@ -83,22 +88,41 @@ void RegisterData::requirePort(const Node &owner) const
 {
     if (!m_port)
         throwProperty(owner, "it has no port");
+    if (!m_port->isConnected())
+        owner.throwNoAccess("available, nor is its port");
+}
+
+/** Registers seldom move: the port need not look for the range each time. */
+PortNode::Kept &RegisterData::kept(const PortNode::Range &range)
+{
+    if (m_keptEpoch != m_port->keptEpoch() || !(m_kept->first == range)) {
+        m_kept = &m_port->kept(range);
+        m_keptEpoch = m_port->keptEpoch();
+    }
+    return m_kept->second;
+}
+
+void RegisterData::drop(const PortNode::Range &range)
+{
+    if (m_keptEpoch == m_port->keptEpoch() && m_kept->first == range)
+        m_kept->second.reset();
+    else
+        m_port->drop(range);
 }
 
 std::string RegisterData::read(Node &owner, bool ignoreCache)
 {
     requirePort(owner);
     const Place at = place(owner);
+    const PortNode::Range range{at.address, at.length};
     const bool isKept = owner.cachingMode() != NoCache;
-    if (!ignoreCache && isKept) {
-        if (const std::string *const kept = m_port->kept(at.address, at.length))
-            return *kept;
-    }
-    m_port->drop(at.address, at.length);
+    if (!ignoreCache && isKept && kept(range))
+        return *kept(range);
+    drop(range);
     std::string bytes(static_cast<std::size_t>(at.length), '\0');
     m_port->read(bytes.data(), at.address, at.length);
     if (isKept && (!ignoreCache || owner.map().m_renewing))
-        m_port->keep(at.address, at.length, bytes);
+        kept(range) = bytes;
     return bytes;
 }
 
@@ -106,7 +130,8 @@ void RegisterData::write(Node &owner, std::string bytes, Changes &changes)
 {
     requirePort(owner);
     const Place at = place(owner);
-    m_port->drop(at.address, at.length);
+    const PortNode::Range range{at.address, at.length};
+    drop(range);
     changes.add(owner); // before writing: when the port fails half-way, nothing that was kept can be trusted
     try {
         m_port->write(bytes.data(), at.address, static_cast<int64_t>(bytes.size()));
@@ -115,13 +140,13 @@ void RegisterData::write(Node &owner, std::string bytes, Changes &changes)
         throw;
     }
     if (owner.cachingMode() == WriteThrough && static_cast<int64_t>(bytes.size()) == at.length)
-        m_port->keep(at.address, at.length, std::move(bytes));
+        kept(range) = std::move(bytes);
 }
 
 void RegisterData::dropCache()
 {
     if (m_port && m_place.addressIn != 0)
-        m_port->drop(m_place.address, m_place.length);
+        drop({m_place.address, m_place.length});
 }
 
 /** A part of a register, from its start, is as good as the whole. */
@@ -265,7 +290,8 @@ void StringBase::SetValue(const gcstring &Value, bool Verify)
 gcstring StringBase::GetValue(bool Verify, bool IgnoreCache)
 {
     const Entry entry(*this, "GetValue");
-    requireReadable(IgnoreCache);
+    FreshReading reading(*this, IgnoreCache);
+    requireReadable(reading);
     const Verification verification(m_map, Verify);
     const std::string value = text(IgnoreCache);
     if (Verify)
@@ -350,7 +376,6 @@ std::string RegisterNode::text(bool ignoreCache)
 
 void RegisterNode::setText(const std::string &text, bool verify, Changes &changes)
 {
-    requireWritable(verify);
     std::string_view digits = trimmed(text);
     if (digits.substr(0, 2) == "0x" || digits.substr(0, 2) == "0X")
         digits.remove_prefix(2);
@@ -363,6 +388,7 @@ void RegisterNode::setText(const std::string &text, bool verify, Changes &change
     }
     if (bytes.empty() || bytes.size() * 2 != digits.size())
         ORV_THROW(InvalidArgumentException, std::string("node '") + name() + "': not the bytes of a register");
+    requireWritable(verify);
     bytes.resize(std::min(bytes.size(), static_cast<std::size_t>(m_register.length(*this))));
     m_register.write(*this, std::move(bytes), changes);
 }

@@ -25,7 +25,9 @@ public:
     /** What it ever allows. */
     GenApi::EAccessMode everAccess() const;
 
-    /** What the nodes allow that say where it is. */
+    GenApi::EAccessMode portAccess() const; ///< NI or NA where it is that, else RW
+
+    /** What the nodes allow that say where it is: first for its address, then for its length. */
     GenApi::EAccessMode placeAccess() const;
 
     /** Both are checked: an address that overflows or a length that makes no sense throws. */
@@ -56,6 +58,8 @@ private:
         uint64_t lengthIn = 0;
     };
 
+    PortNode::Kept &kept(const PortNode::Range &range);
+    void drop(const PortNode::Range &range);
     const Place &place(const Node &owner);
     int64_t computeAddress(const Node &owner);
     void requirePort(const Node &owner) const;
@@ -65,6 +69,8 @@ private:
     std::vector<AddressTerm> m_addressTerms;
     IntRef m_length;
     Place m_place;
+    PortNode::KeptRange *m_kept = nullptr; ///< found last, good in m_keptEpoch of the port
+    uint64_t m_keptEpoch = 0;
     GenApi::EAccessMode m_accessMode = GenApi::RO;
     GenApi::ECachingMode m_cachable = GenApi::WriteThrough;
     bool m_bigEndian = false;
@@ -92,7 +98,8 @@ public:
     {
         (void)Verify;
         const Entry entry(*this, "Get");
-        this->requireReadable(IgnoreCache);
+        Node::FreshReading reading(*this, IgnoreCache);
+        this->requireReadable(reading);
         m_register.get(*this, pBuffer, Length, IgnoreCache);
     }
 
@@ -121,8 +128,12 @@ protected:
 
     GenApi::EAccessMode valueAccess() const override { return m_register.access(); }
     GenApi::EAccessMode endAccess() const override { return m_register.everAccess(); }
-    GenApi::EAccessMode readAccess() const override { return combined(Node::readAccess(), m_register.placeAccess()); }
-    GenApi::EAccessMode firstAccess() const override { return readAccess(); }
+    GenApi::EAccessMode firstAccess() const override { return m_register.portAccess(); }
+    GenApi::EAccessMode readAccess() const override
+    {
+        const GenApi::EAccessMode mode = Base::readAccess();
+        return mode == GenApi::NI ? mode : combined(mode, m_register.placeAccess());
+    }
     bool checksBeforeKeeping() const override { return true; }
     bool dependsOnPort() const override { return true; }
 

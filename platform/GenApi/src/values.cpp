@@ -18,7 +18,8 @@ void IntegerBase::SetValue(int64_t Value, bool Verify)
 int64_t IntegerBase::GetValue(bool Verify, bool IgnoreCache)
 {
     const Entry entry(*this, "GetValue");
-    requireReadable(IgnoreCache);
+    FreshReading reading(*this, IgnoreCache);
+    requireReadable(reading);
     const Verification verification(m_map, Verify);
     return intValue(IgnoreCache);
 }
@@ -170,7 +171,8 @@ void FloatBase::SetValue(double Value, bool Verify)
 double FloatBase::GetValue(bool Verify, bool IgnoreCache)
 {
     const Entry entry(*this, "GetValue");
-    requireReadable(IgnoreCache);
+    FreshReading reading(*this, IgnoreCache);
+    requireReadable(reading);
     const Verification verification(m_map, Verify);
     return floatValue(IgnoreCache);
 }

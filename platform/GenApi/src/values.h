@@ -76,7 +76,8 @@ public:
     GenICam::gcstring ToString(bool Verify, bool IgnoreCache) override
     {
         const Entry entry(*this, "ToString");
-        requireReadable(IgnoreCache);
+        FreshReading reading(*this, IgnoreCache);
+        requireReadable(reading);
         const Verification verification(m_map, Verify);
         const std::string result = text(IgnoreCache);
         if (Verify)
@@ -202,6 +203,13 @@ private:
 
     bool m_hasImposedLimits = false;
 };
+
+/** \a limit, but infinity, which leaves all numbers free, as the largest or smallest one. */
+inline double finiteLimit(double limit, bool upper)
+{
+    constexpr double largest = std::numeric_limits<double>::max();
+    return upper ? std::min(limit, largest) : std::max(limit, -largest);
+}
 
 /** Base of all nodes that are floating-point numbers on the outside. */
 class FloatBase : public ValueNode<GenApi::IFloat>

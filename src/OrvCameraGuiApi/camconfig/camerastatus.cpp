@@ -2,8 +2,6 @@
 
 namespace OrvGui {
 
-std::chrono::milliseconds CameraParams::period{1000};
-
 CameraParams::CameraParams(OrvGenParam::Array &params)
     : frameAbSelector(params.GetEnum("FrameAB_Selector", nullptr))
     , frameMode(params.GetEnum("FrameMode", nullptr))

@@ -4,7 +4,6 @@
 
 #include <QString>
 
-#include <chrono>
 #include <cstdint>
 #include <optional>
 
@@ -15,9 +14,6 @@ struct CameraParams
 {
     CameraParams() = default;
     explicit CameraParams(OrvGenParam::Array &params);
-
-    /** The status is read, and events are acted upon, that often; for windows that are given a camera afterwards. */
-    static std::chrono::milliseconds period;
 
     OrvGenParam::Enum *frameAbSelector = nullptr;
     OrvGenParam::Enum *frameMode = nullptr;

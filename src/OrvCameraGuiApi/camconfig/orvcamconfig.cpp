@@ -1,5 +1,6 @@
 #include <OrvCameraGuiApi/camconfig/orvcamconfig.h>
 
+#include <OrvCameraGuiApi/background/periods.h>
 #include <OrvCameraGuiApi/camconfig/dialogs/dialogparts.h>
 #include <OrvCameraGuiApi/camconfig/featuredialogs.h>
 #include <OrvCameraGuiApi/camconfig/orvcamconfigaboutdialog.h>
@@ -297,7 +298,7 @@ void OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
     if (hasParameters)
         getNeededParams();
     q->setEnabled(true);
-    timer.start(CameraParams::period);
+    timer.start(periods().status);
     doLastAdjustment();
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <OrvCameraGuiApi/background/reportrelay.h>
 #include <OrvCameraGuiApi/camconfig/iorvcamconfigintconverter.h>
-#include <OrvCameraGuiApi/camconfig/reportrelay.h>
 #include <OrvCameraGuiApi/camera_api/orvgenparam.h>
 
 #include <QCoreApplication>

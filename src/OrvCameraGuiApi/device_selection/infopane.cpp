@@ -1,7 +1,7 @@
 #include <OrvCameraGuiApi/device_selection/infopane.h>
 
-#include <OrvCameraGuiApi/device_selection/ip4validator.h>
-#include <OrvCameraGuiApi/device_selection/mactext.h>
+#include <OrvCameraGuiApi/addresses/ip4validator.h>
+#include <OrvCameraGuiApi/addresses/mactext.h>
 #include <OrvCameraGuiApi/device_selection/onelinedelegate.h>
 #include <OrvCameraGuiApi/windows/plaintooltip.h>
 

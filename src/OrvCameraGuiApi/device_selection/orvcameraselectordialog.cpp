@@ -1,10 +1,10 @@
 #include <OrvCameraGuiApi/device_selection/orvcameraselectordialog.h>
 
+#include <OrvCameraGuiApi/addresses/ip4validator.h>
 #include <OrvCameraGuiApi/camera_api/orvgenparam.h>
 #include <OrvCameraGuiApi/device_selection/devicetreemodel.h>
 #include <OrvCameraGuiApi/device_selection/infopane.h>
 #include <OrvCameraGuiApi/device_selection/ip4proposal.h>
-#include <OrvCameraGuiApi/device_selection/ip4validator.h>
 #include <OrvCameraGuiApi/device_selection/onelinedelegate.h>
 #include <OrvCameraGuiApi/device_selection/privateslotforwarder.h>
 #include <OrvCameraGuiApi/device_selection/setipdialog.h>

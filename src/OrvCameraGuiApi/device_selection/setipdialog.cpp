@@ -1,8 +1,8 @@
 #include <OrvCameraGuiApi/device_selection/setipdialog.h>
 
+#include <OrvCameraGuiApi/addresses/ip4validator.h>
+#include <OrvCameraGuiApi/addresses/mactext.h>
 #include <OrvCameraGuiApi/device_selection/ip4proposal.h>
-#include <OrvCameraGuiApi/device_selection/ip4validator.h>
-#include <OrvCameraGuiApi/device_selection/mactext.h>
 #include <OrvCameraGuiApi/windows/fitscreen.h>
 
 #include <ui_setipdialog.h>

@@ -1,8 +1,8 @@
 #include <OrvCameraGuiApi/device_selection/systempolling.h>
 
-#include <system_error>
+#include <OrvCameraGuiApi/background/periods.h>
 
-std::chrono::milliseconds SystemPolling::period(1000);
+#include <system_error>
 
 SystemPolling::SystemPolling(std::function<void()> step)
     : m_step(std::move(step))
@@ -20,7 +20,7 @@ bool SystemPolling::start()
         return true;
     m_isOn = true;
     try {
-        m_thread = std::thread([this, pause = period] { run(pause); });
+        m_thread = std::thread([this, pause = OrvGui::periods().search] { run(pause); });
     } catch (const std::system_error &) {
         m_isOn = false;
     }

@@ -9,8 +9,8 @@
 #include <thread>
 
 /**
- * A thread that does something again and again, with a pause in between. start(), stop() and the destructor are called
- * on one thread.
+ * A thread that does something again and again, with a pause of Periods::search in between. start(), stop() and the
+ * destructor are called on one thread.
  */
 class SystemPolling
 {
@@ -26,9 +26,6 @@ public:
 
     /** Returns when the step that is running has ended, at once during a pause. */
     void stop();
-
-    /** The pause, for what starts afterwards; not to be set while anything runs. */
-    static std::chrono::milliseconds period;
 
 private:
     void run(std::chrono::milliseconds pause);

@@ -4,7 +4,7 @@
 
 #include <QTreeView>
 
-/** From top to bottom: the tree looks for each row near the one before. Reading may take the tree's model away. */
+/** From top to bottom: the tree searches for each row near the former. Reading may take its model away: OpenCalls. */
 void setSpanForChildren(QTreeView &tree, const QModelIndex &parent, int first, int last)
 {
     const QAbstractItemModel *const model = tree.model();

@@ -1,7 +1,6 @@
 #include <OrvCameraGuiApi/feature_tree/categorywalk.h>
 
 #include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
-#include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreevisibilityfilterproxymodel.h>
 
 int nextCategory(const QAbstractItemModel &model, const QModelIndex &parent, int row, int last)

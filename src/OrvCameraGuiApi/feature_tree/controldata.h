@@ -28,3 +28,9 @@ struct VariantData
 
 Q_DECLARE_METATYPE(ControlData)
 Q_DECLARE_METATYPE(VariantData)
+
+/** The value inside a VariantData; any other \a value itself. */
+inline QVariant withoutWrapper(const QVariant &value)
+{
+    return value.userType() == qMetaTypeId<VariantData>() ? value.value<VariantData>().value : value;
+}

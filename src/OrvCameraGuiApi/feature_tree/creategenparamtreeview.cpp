@@ -85,7 +85,7 @@ void DestroyGenParamTreeView(IOrvGenParamTreeView *view)
         delete view;
         return;
     }
-    // A callback of the node map that the view is using.
+    // Called back while the view is in use.
     own->clearParams();
     own->hide();
     OpenCalls::retire(own);

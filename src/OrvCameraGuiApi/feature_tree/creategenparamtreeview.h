@@ -46,7 +46,7 @@ ORV_CAMERAGUIAPI_EXPORT void ShowGenParamTreeView(OrvGui::IOrvGenParamTreeView *
 /**
  * Closes and destroys the view; null does nothing. Also from a callback of the node map while a view is reading or
  * writing: then the view lets go of the node map and disappears at once, and is freed when its events are processed
- * next. Its C++ object must not be deleted there: as with any widget, that is for QObject::deleteLater().
+ * next. C++ code must not delete the object there, see OrvGui::OrvGenParamTreeView.
  */
 ORV_CAMERAGUIAPI_EXPORT void DestroyGenParamTreeView(OrvGui::IOrvGenParamTreeView *view);
 }

@@ -15,7 +15,7 @@ FeatureSelection::FeatureSelection(QAbstractItemModel *model, FeatureTree *tree)
 void FeatureSelection::setCurrentIndex(const QModelIndex &index, QItemSelectionModel::SelectionFlags command)
 {
     const OpenCalls::Call call;
-    // These hold what Qt passes to slots by reference, also when one of them takes the row away.
+    // Qt passes indexes to slots by reference. These stay valid when a slot takes the row away.
     const QPersistentModelIndex former(currentIndex());
     QPersistentModelIndex target(index);
     if (target != former && m_tree->selectionModel() == this) {

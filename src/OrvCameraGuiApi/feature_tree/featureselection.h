@@ -5,8 +5,8 @@
 class FeatureTree;
 
 /**
- * The current item and the selection of a feature tree. What is entered in an open editor is written before the current
- * item moves, as the write may change rows, and the current item with them: Qt would go on with indexes from before.
+ * The current item and the selection of a feature tree. The entry in an open editor is written before the current item
+ * moves: the write may change rows, and with them the current item, and Qt would go on with former indexes.
  */
 class FeatureSelection : public QItemSelectionModel
 {
@@ -21,7 +21,7 @@ public:
     void setCurrentIndex(const QModelIndex &index, QItemSelectionModel::SelectionFlags command) override;
     void select(const QItemSelection &selection, QItemSelectionModel::SelectionFlags command) override;
 
-    /** Where the current item is about to move; invalid when it is not, or when it has been taken away. @{ */
+    /** The index to which the current item is about to move; invalid otherwise, and when the row is gone. @{ */
     QModelIndex target() const { return m_target; }
     void setTarget(const QModelIndex &index) { m_target = index; }
     /** @} */

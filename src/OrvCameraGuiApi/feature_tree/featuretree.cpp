@@ -1,7 +1,7 @@
 #include <OrvCameraGuiApi/feature_tree/featuretree.h>
 
+#include <OrvCameraGuiApi/feature_tree/featurehandler.h>
 #include <OrvCameraGuiApi/feature_tree/featureselection.h>
-#include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 #include <OrvCameraGuiApi/feature_tree/opencalls.h>
 
@@ -29,14 +29,6 @@ private:
     const OpenCalls::Call m_call;
 };
 
-bool isCommand(const QModelIndex &index)
-{
-    auto *const value = index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
-    bool is = false;
-    failureOf([&] { is = nodeOf(value)->GetPrincipalInterfaceType() == GenApi::intfICommand; });
-    return is;
-}
-
 } // namespace
 
 FeatureTree::FeatureTree(QWidget *parent)
@@ -50,8 +42,8 @@ FeatureTree::FeatureTree(QWidget *parent)
 }
 
 /**
- * Called before other slots are. A program may open and close categories by itself, outside of any call, and Qt does
- * not tell when it has ended: what is given up meanwhile is kept until the control is back at the event loop.
+ * Called before other slots. A program may open and close categories outside of any call, and Qt does not signal the
+ * end. So a call is kept open until control returns to the event loop.
  */
 void FeatureTree::keepWhatIsInUse()
 {
@@ -60,8 +52,8 @@ void FeatureTree::keepWhatIsInUse()
 }
 
 /**
- * By their places and not each as the one below the last: a category that stands in several places has the same rows in
- * all of them, and Qt would go on at the place that it comes upon first, for ever if that is the one above.
+ * Found by place, not by indexBelow(): a category that stands in several places has the same rows in all of them. Qt
+ * continues at the place that it finds first, and never ends if that is the one above.
  */
 QVector<FeatureTree::Row> FeatureTree::rowsOnScreen() const
 {
@@ -85,7 +77,7 @@ void FeatureTree::endEditing(const QModelIndex &index)
     if (!editor)
         return;
     commitData(editor);
-    // What came of the write may have closed it already.
+    // The write may have closed it already.
     if (editor && indexWidget(edited) == editor)
         closeEditor(editor, QAbstractItemDelegate::NoHint);
 }
@@ -115,7 +107,8 @@ bool FeatureTree::event(QEvent *event)
     return QTreeView::event(event);
 }
 
-/** Among the names, whichever column is current: among values it would read them all and open the editor of a match. */
+/** Searches the names, whichever column is current: a search of values would read all and open the editor of a match.
+ */
 void FeatureTree::keyboardSearch(const QString &search)
 {
     m_sinceSearch.start();
@@ -157,7 +150,7 @@ bool FeatureTree::handleKey(const QKeyEvent &event)
     }
 }
 
-/** Of the current row; invalid when it cannot be edited by keys. */
+/** The value cell of the current row; invalid when it cannot be edited by keys. */
 QModelIndex FeatureTree::editableValue() const
 {
     const QModelIndex current = currentIndex();
@@ -183,10 +176,13 @@ bool FeatureTree::openValue(const QKeyEvent &event)
 bool FeatureTree::moveBetweenColumns(bool forward)
 {
     const QModelIndex current = currentIndex();
-    const int column = forward ? GenParamTreeModel::ValueColumn : GenParamTreeModel::NameColumn;
-    const QModelIndex target = current.sibling(current.row(), column);
+    int column = current.column();
+    do {
+        column += forward ? 1 : -1;
+    } while (isColumnHidden(column));
+    const QModelIndex target = current.siblingAtColumn(column);
     const bool isFeature = !isFirstColumnSpanned(current.row(), current.parent()) && !model()->hasChildren(current);
-    if (!isFeature || !target.isValid() || target == current || isColumnHidden(column))
+    if (!isFeature || !target.isValid())
         return false;
     moveCurrentTo(target);
     return true;
@@ -201,13 +197,13 @@ bool FeatureTree::handleSpace(const QKeyEvent &event)
     const QPersistentModelIndex value(editableValue());
     if (!value.isValid() || value != currentIndex())
         return false;
-    const QVariant content = value.data(Qt::EditRole);
-    const bool isBoolean = content.userType() == QMetaType::Bool;
-    if (!isBoolean && !isCommand(value))
+    auto *const feature = value.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
+    const QVariant content = FeatureHandler::of(feature).valueAtSpace(value.data(Qt::EditRole));
+    if (!content.isValid())
         return false;
-    // What is read may have taken the row away. A key held too long writes once.
+    // Reading may have taken the row away. A key held too long writes once.
     if (value.isValid() && !event.isAutoRepeat())
-        model()->setData(value, !(isBoolean && content.toBool()));
+        model()->setData(value, content);
     return true;
 }
 
@@ -236,7 +232,7 @@ void FeatureTree::setReadOnly(bool readOnly)
     m_isReadOnly = readOnly;
     if (!readOnly)
         return;
-    // Those of other rows too, which a program may have opened; what is no editor, the view lets be.
+    // Editors of other rows too, which a program may have opened. The view ignores children that are no editors.
     const QList<QWidget *> children = viewport()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
     for (const QPointer<QWidget> editor : children) {
         if (editor)
@@ -251,7 +247,7 @@ bool FeatureTree::edit(const QModelIndex &index, EditTrigger trigger, QEvent *ev
     return QTreeView::edit(index, trigger, event);
 }
 
-/** To the outermost category that is closed: the tree opens those above the current item by itself. */
+/** Moves to the outermost closed category: the view itself opens the categories above the current item. */
 void FeatureTree::moveCurrentIntoSight()
 {
     const auto inSight = [this] {
@@ -264,7 +260,7 @@ void FeatureTree::moveCurrentIntoSight()
     };
     if (inSight() == currentIndex())
         return;
-    // By itself, as the write may change which rows there are.
+    // Separately, because the write may change the rows.
     endEditing(currentIndex());
     const QModelIndex visible = inSight();
     if (visible != currentIndex())
@@ -280,7 +276,7 @@ void FeatureTree::dataChanged(const QModelIndex &topLeft, const QModelIndex &bot
         viewport()->update();
 }
 
-/** Before anything is painted: what is painted may change what has been painted already. */
+/** Finds the rows before painting, which may change the values of rows that are painted already. */
 void FeatureTree::paintEvent(QPaintEvent *event)
 {
     executeDelayedItemsLayout();
@@ -296,15 +292,15 @@ void FeatureTree::findRowsOnScreen()
         ++m_rowsOnScreen[identityOf(row.index)];
 }
 
-/** A name counts always, as the tree asks then whether its row has others below it. */
+/** A changed name always concerns the tree, which then checks whether the row has children. */
 bool FeatureTree::concerns(const QModelIndex &topLeft, const QModelIndex &bottomRight) const
 {
-    const bool isOneValue = topLeft == bottomRight && topLeft.column() > 0;
+    const bool isOneValue = topLeft == bottomRight && topLeft.column() > GenParamTreeModel::NameColumn;
     return !isOneValue || m_rowsOnScreen.isEmpty() || !uniformRowHeights() || QAccessible::isActive()
         || m_rowsOnScreen.contains(identityOf(topLeft)) || isPersistentEditorOpen(topLeft);
 }
 
-/** Whether a row on the screen is, or may be, in another place than the one that Qt takes it to be in. */
+/** Whether a row on the screen stands, or may stand, in another place than the one that Qt takes it for. */
 bool FeatureTree::isElsewhereToo(const QModelIndex &index) const
 {
     const int places = m_rowsOnScreen.value(identityOf(index));

@@ -10,17 +10,17 @@ class FeatureSelection;
 
 /**
  * A tree view for large models whose values change often. A changed value costs next to nothing unless its row is on
- * the screen or its editor is open: QTreeView searches the row among all that are expanded, which with many rows takes
- * longer than all else that is done about a change.
+ * the screen or its editor is open. QTreeView searches for the row among all expanded rows, which takes longer than
+ * everything else that a change causes.
  *
- * For rows of one height; with others it is a QTreeView.
+ * This needs rows of one height; with others the class works like QTreeView.
  *
- * All can be done by keys. On a feature's row F2 and Return open the editor of its value, whichever column is current.
- * Right and Left move between the columns and open nothing. In the value column Space toggles a boolean and executes a
- * command; while names are being searched by typing it belongs to the search. This comes beside the edit triggers, and
- * what is not editable, or has its trigger for keys taken away, stays as it is.
+ * Everything can be done by keys. On a feature's row F2 and Return open the editor of its value, whichever column is
+ * current. Right and Left move between the columns and open nothing. In the value column Space toggles a boolean and
+ * executes a command; during a search by typing it belongs to the search. The edit triggers work as usual beside these
+ * keys. A value that is not editable stays as it is, and without EditKeyPressed among the triggers so does every value.
  *
- * The current item is never inside a category that is closed: it moves to that, without opening an editor.
+ * The current item is never inside a closed category: it moves to the category, without opening an editor.
  */
 class FeatureTree : public QTreeView
 {
@@ -29,32 +29,32 @@ class FeatureTree : public QTreeView
 public:
     explicit FeatureTree(QWidget *parent = nullptr);
 
-    /** A row that can be seen, at least in part. */
+    /** A row that is visible at least in part. */
     struct Row
     {
-        QModelIndex index; ///< in the column that is shown first
+        QModelIndex index; ///< in the first visible column
         QRect rect; ///< of all columns, in viewport coordinates
     };
 
-    /** From top to bottom; rows that stand in several places are there several times. For rows of one height. */
+    /** From top to bottom; a row that stands in several places is listed for each. For rows of one height. */
     QVector<Row> rowsOnScreen() const;
 
-    /** Writes what is entered in the editor that is open at \a index, if it counts, and closes the editor. */
+    /** Writes the entry in the editor that is open at \a index, if it counts, and closes the editor. */
     void endEditing(const QModelIndex &index);
 
-    /** Whether the keys go to the tree or to an editor in it, with all that this has opened. */
+    /** Whether the focus is in the tree, in an editor or in a window that an editor has opened. */
     bool hasFocusInside() const;
 
-    /** Makes \a index the current one, whatever the edit triggers are, without opening an editor there. */
+    /** Makes \a index current without opening an editor, whatever the edit triggers are. */
     void moveCurrentTo(const QModelIndex &index);
 
-    /** Has a FeatureSelection then, unless there is no \a model; the former selection model is freed. */
+    /** Sets a FeatureSelection too, if there is a \a model, and gives up the former selection model. */
     void setModel(QAbstractItemModel *model) override;
 
-    /** Null without a model, or when somebody has set another selection model. */
+    /** Null without a model, and when the selection model is another one. */
     FeatureSelection *featureSelection() const;
 
-    /** Whether no editor opens and no key changes a value; what is open closes unwritten. Off by default. */
+    /** Whether no editor opens and no key changes a value. Editors that are open close unwritten. Off by default. */
     bool isReadOnly() const { return m_isReadOnly; }
     void setReadOnly(bool readOnly);
 
@@ -85,11 +85,11 @@ private:
     bool isElsewhereToo(const QModelIndex &index) const;
 
     /**
-     * By internal identifier and row, in how many places each is; a row that has come since then is being painted
-     * anyhow, or will be.
+     * The rows on the screen, by internal identifier and row number, and the number of places of each, at the last
+     * paint. A row that has been inserted since then is painted anyhow.
      */
     QHash<QPair<quintptr, int>, int> m_rowsOnScreen;
     QElapsedTimer m_sinceSearch; ///< since the last key of a search by typing
     bool m_isReadOnly = false;
-    bool m_opensNothing = false; ///< the current item moves by itself
+    bool m_opensNothing = false; ///< while the current item moves without the user
 };

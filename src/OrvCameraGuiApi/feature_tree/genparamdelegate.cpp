@@ -1,21 +1,18 @@
 #include <OrvCameraGuiApi/feature_tree/genparamdelegate.h>
 
 #include <OrvCameraGuiApi/feature_tree/controldata.h>
-#include <OrvCameraGuiApi/feature_tree/editorfit.h>
+#include <OrvCameraGuiApi/feature_tree/editorhandler.h>
+#include <OrvCameraGuiApi/feature_tree/featurehandler.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 #include <OrvCameraGuiApi/feature_tree/opencalls.h>
 #include <OrvCameraGuiApi/widgets/entryguard.h>
-#include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
 
+#include <QAbstractSpinBox>
 #include <QApplication>
-#include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QMetaProperty>
 #include <QPersistentModelIndex>
 #include <QPointer>
-#include <QPushButton>
 #include <QSignalBlocker>
 
 #include <cmath>
@@ -29,53 +26,6 @@ bool belongsTo(const QWidget *widget, const QWidget *owner)
     while (widget && widget != owner)
         widget = widget->parentWidget();
     return widget;
-}
-
-/** Where text is typed; null in an editor without. */
-QLineEdit *textFieldOf(QWidget *editor)
-{
-    auto *const field = qobject_cast<QLineEdit *>(editor);
-    return field || !qobject_cast<QAbstractSpinBox *>(editor) ? field : editor->findChild<QLineEdit *>();
-}
-
-/** A validator may put a text right. */
-bool hasAcceptableText(QWidget *editor)
-{
-    if (auto *const edit = qobject_cast<QLineEdit *>(editor)) {
-        if (edit->hasAcceptableInput() || !edit->validator())
-            return edit->hasAcceptableInput();
-        QString text = edit->text();
-        edit->validator()->fixup(text);
-        edit->setText(text);
-        return edit->hasAcceptableInput();
-    }
-    const auto *const box = qobject_cast<const QAbstractSpinBox *>(editor);
-    QString text = box ? box->text() : QString();
-    int position = 0;
-    return !box || box->validate(text, position) == QValidator::Acceptable;
-}
-
-/** Of which nothing may be written, whoever asks: a view that changes its current item does not ask a validator. */
-bool hasBadEntry(const QWidget *editor)
-{
-    if (const auto *const box = qobject_cast<const QComboBox *>(editor))
-        return box->currentIndex() < 0;
-    const auto *const edit = qobject_cast<const QLineEdit *>(editor);
-    return edit && !edit->hasAcceptableInput();
-}
-
-/** What the model would be given: a combo box's item data, else the property that views go by. */
-QVariant valueOf(const QWidget *editor)
-{
-    const auto *const box = qobject_cast<const QComboBox *>(editor);
-    return box ? box->currentData(Qt::UserRole) : editor->metaObject()->userProperty().read(editor);
-}
-
-/** What tells whether an editor was changed: of a combo box the item, as several may have the same data. */
-QVariant contentOf(const QWidget *editor)
-{
-    const auto *const box = qobject_cast<const QComboBox *>(editor);
-    return box ? box->currentIndex() : valueOf(editor);
 }
 
 /** Exact, unlike the comparison of variants: numbers differ however near they are, and nothing is converted. */
@@ -95,11 +45,6 @@ GenApi::IValue *featureOf(const QModelIndex &index)
     return index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
 }
 
-QVariant withoutWrapper(const QVariant &value)
-{
-    return value.userType() == qMetaTypeId<VariantData>() ? value.value<VariantData>().value : value;
-}
-
 /** For assistive tools; the line edit of a spin box is called like that. */
 void nameAfterFeature(QWidget *editor, const QModelIndex &index)
 {
@@ -107,7 +52,7 @@ void nameAfterFeature(QWidget *editor, const QModelIndex &index)
         return;
     const QString name = index.sibling(index.row(), GenParamTreeModel::NameColumn).data().toString();
     editor->setAccessibleName(name);
-    if (QLineEdit *const field = textFieldOf(editor))
+    if (QLineEdit *const field = EditorHandler::of(*editor).textField(*editor))
         field->setAccessibleName(name);
 }
 
@@ -116,7 +61,7 @@ bool isEnter(const QKeyEvent &event)
     return event.key() == Qt::Key_Enter || event.key() == Qt::Key_Return;
 }
 
-/** What a box of Qt's own steps from: it would read what is typed in its own way. */
+/** Whether \a event makes a box step: one of Qt's would step from the typed text as it reads it itself. */
 bool isStep(const QEvent &event)
 {
     if (event.type() == QEvent::MouseButtonPress)
@@ -133,7 +78,7 @@ EntryGuard *guardOf(const QWidget *editor)
     return EntryGuard::of(qobject_cast<const QAbstractSpinBox *>(editor));
 }
 
-/** What an editor was loaded with and what the user has done to it since; a child of the editor. */
+/** The value that an editor was loaded with, and what the user has done since; a child of the editor. */
 class EditorSession : public QObject
 {
     Q_OBJECT
@@ -146,14 +91,14 @@ public:
     bool isLoaded() const { return m_isLoaded; }
     bool isLoadedWith(const QVariant &value) const { return m_isLoaded && isSame(m_loadedValue, value); }
     void setLoaded(const QModelIndex &index, const QVariant &value);
-    /** Of what was loaded last; invalid when that has gone. */
+    /** The cell that was loaded last; invalid when it is gone. */
     QModelIndex index() const { return m_index; }
 
     /** \a confirmed: the user has ended the entry with Enter. */
     void setConfirmed(bool confirmed) { m_isConfirmed = confirmed && m_isTouched; }
     bool hasEntry(const QModelIndex &index) const;
 
-    /** Whatever comes of it, an entry is written once; the live value may then take its place. */
+    /** An entry is written once, even if that fails; the feature's value may replace it from now on. */
     void beginWriting();
 
     /** A mouse button was pressed on the editor. @{ */
@@ -165,6 +110,7 @@ private:
     explicit EditorSession(QWidget *editor);
 
     QWidget *const m_editor;
+    const EditorHandler &m_handler;
     QPersistentModelIndex m_index;
     QVariant m_loadedValue; ///< the feature's
     QVariant m_loadedContent; ///< what the editor made of it
@@ -177,18 +123,16 @@ private:
 EditorSession::EditorSession(QWidget *editor)
     : QObject(editor)
     , m_editor(editor)
+    , m_handler(EditorHandler::of(*editor))
 {
     const auto touch = [this] { m_isTouched = true; };
-    // What is typed into a number is the guard's to tell: it may come to nothing again.
+    // The guard knows whether the text typed into a number is an entry: it may be taken back.
     if (const EntryGuard *const guard = guardOf(editor))
         connect(guard, &EntryGuard::entered, this, [this] { m_isTouched = m_isConfirmed = true; });
-    else if (const QLineEdit *const field = textFieldOf(editor))
+    else if (const QLineEdit *const field = m_handler.textField(*editor))
         connect(field, &QLineEdit::textEdited, this, touch);
-    // Loading keeps the editor quiet: what it emits is the user's doing.
-    if (const auto *const box = qobject_cast<QtOrvSpinBoxVal64 *>(editor))
-        connect(box, qOverload<long long>(&QtOrvSpinBoxVal64::valueChanged), this, touch);
-    else if (const auto *const doubleBox = qobject_cast<QDoubleSpinBox *>(editor))
-        connect(doubleBox, qOverload<double>(&QDoubleSpinBox::valueChanged), this, touch);
+    // Signals are blocked while a value is loaded: the user causes those that come.
+    m_handler.connectSteps(*editor, this, touch);
 }
 
 EditorSession *EditorSession::find(const QWidget *editor)
@@ -212,86 +156,63 @@ void EditorSession::setLoaded(const QModelIndex &index, const QVariant &value)
 {
     m_index = index;
     m_loadedValue = value;
-    m_loadedContent = contentOf(m_editor);
+    m_loadedContent = m_handler.content(*m_editor);
     m_isLoaded = true;
 }
 
 /** An editor that nothing was ever loaded into always has one. */
 bool EditorSession::hasEntry(const QModelIndex &index) const
 {
-    if (!m_isLoaded || !isSame(contentOf(m_editor), m_loadedContent))
+    if (!m_isLoaded || !isSame(m_handler.content(*m_editor), m_loadedContent))
         return true;
-    return m_isConfirmed && !isSame(valueOf(m_editor), withoutWrapper(index.data(Qt::EditRole)));
+    return m_isConfirmed && !isSame(m_handler.value(*m_editor), withoutWrapper(index.data(Qt::EditRole)));
 }
 
 void EditorSession::beginWriting()
 {
     m_loadedValue.clear();
-    m_loadedContent = contentOf(m_editor);
+    m_loadedContent = m_handler.content(*m_editor);
     m_isTouched = false;
     m_isConfirmed = false;
 }
 
-template <typename Editor, typename Value>
-void setValueOf(QWidget *editor, void (Editor::*setter)(Value), const QVariant &value)
-{
-    if (auto *const expected = qobject_cast<Editor *>(editor))
-        (expected->*setter)(value.value<std::decay_t<Value>>());
-}
-
 /**
- * What stands in the place of a value that cannot be read is nothing to be edited. Nor is the number that a box has
- * nevertheless: it would be taken for the feature's.
+ * Shows that there is no value where it cannot be read: a text that says so is not to be edited, nor is the number that
+ * a box has all the same, which would be taken for the feature's. False when there is a value to be loaded.
  */
-bool showsPlaceholder(QWidget *editor, const QModelIndex &index, const QVariant &value)
+bool showsPlaceholder(QWidget &editor, const QModelIndex &index, const QVariant &value)
 {
+    const EditorHandler &handler = EditorHandler::of(editor);
     const bool isText = value.userType() == QMetaType::QString;
-    if (value.isValid() && !isText) {
-        if (QLineEdit *const field = textFieldOf(editor))
-            field->setPlaceholderText(QString());
-        return false;
-    }
-    if (auto *const box = qobject_cast<QComboBox *>(editor)) {
-        box->setCurrentIndex(-1);
-        box->update();
+    const bool hasValue = value.isValid() && !isText;
+    if (!hasValue && handler.showNothing(editor))
         return true;
-    }
-    QLineEdit *const field = textFieldOf(editor);
+    QLineEdit *const field = handler.textField(editor);
     if (!field)
         return false;
-    const bool hasValue = field == editor && isText && canRead(featureOf(index));
-    field->setPlaceholderText(hasValue ? QString() : isText ? value.toString() : index.data().toString());
-    if (!hasValue) {
-        const QSignalBlocker quiet(field); // a box would think of it as typed
+    const bool isEditable = hasValue || (field == &editor && isText && canRead(featureOf(index)));
+    field->setPlaceholderText(isEditable ? QString() : isText ? value.toString() : index.data().toString());
+    if (!isEditable) {
+        const QSignalBlocker quiet(field); // a box would take it for typed
         field->clear();
     }
-    return !hasValue;
+    return !isEditable;
 }
 
-/** False when \a value is of a type that none of the model's editors shows. */
-bool load(QWidget *editor, const QVariant &value)
+/** False when none of the model's editors shows \a value. An editor that shows other values stays as it is. */
+bool load(QWidget &editor, const QVariant &value)
 {
-    switch (value.userType()) {
-    case QMetaType::LongLong:
-        setValueOf(editor, &QtOrvSpinBoxVal64::setValue, value);
-        return true;
-    case QMetaType::Double:
-        setValueOf(editor, &QDoubleSpinBox::setValue, value);
-        return true;
-    case QMetaType::QString:
-        setValueOf(editor, &QLineEdit::setText, value);
-        return true;
-    default:
-        break;
-    }
-    if (value.userType() != QMetaType::Bool && value.userType() != QMetaType::ULongLong
-        && value.userType() < QMetaType::User)
-        return false;
-    if (auto *const box = qobject_cast<QComboBox *>(editor)) {
-        box->setCurrentIndex(box->findData(withoutWrapper(value)));
-        box->update(); // not left to the signals, which are held
-    }
-    return true;
+    const EditorHandler *const handler = EditorHandler::forValue(value);
+    if (handler && handler->handles(editor))
+        handler->load(editor, value);
+    return handler;
+}
+
+/** Both may be null. */
+void refineEditor(QWidget *editor, GenApi::IValue *feature)
+{
+    if (editor && feature)
+        failureOf([&] { FeatureHandler::of(feature).refineEditor(*editor, *feature); });
 }
 
 } // namespace
@@ -314,12 +235,12 @@ private:
     QWidget *const m_editor;
 };
 
-/** The press goes on to \a watched, unless that is gone by then. */
+/** \a watched gets the press too, unless it is destroyed by then. */
 bool GenParamDelegate::MouseTracker::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::MouseButtonPress || !watched->isWidgetType())
         return false;
-    // Who gets the press tells where the mouse is: an editor that has just appeared under it does not know yet.
+    // Not underMouse(): an editor that has just appeared under the mouse does not know it yet.
     if (belongsTo(static_cast<QWidget *>(watched), m_editor))
         return false;
     const QPointer<QObject> receiver(watched);
@@ -341,7 +262,7 @@ QWidget *GenParamDelegate::createEditor(QWidget *parent, const QStyleOptionViewI
 {
     const QPersistentModelIndex edited(index);
     const auto control = index.data(GenParamTreeModel::ControlDataRole).value<ControlData>();
-    // What is read to make an editor may have taken the feature away.
+    // Reading may have taken the feature away: OpenCalls.
     if (index.isValid() && !edited.isValid()) {
         delete control.editor;
         return nullptr;
@@ -363,32 +284,24 @@ QWidget *GenParamDelegate::createEditor(QWidget *parent, const QStyleOptionViewI
     return control.editor;
 }
 
-void GenParamDelegate::connectEditor(QWidget *editor, int kind) const
+void GenParamDelegate::connectEditor(QWidget *editor, ControlData::Kind kind) const
 {
-    // Editors are made by a const operation, but what they have to say later comes from the delegate itself.
+    // The operation is const, but the delegate emits signals for the editor later.
     auto *const self = const_cast<GenParamDelegate *>(this);
-    if (auto *const button = qobject_cast<QPushButton *>(editor); button && kind == ControlData::PushButton) {
-        connect(button, &QPushButton::clicked, this, [self, button] {
-            button->setWindowModified(true);
-            Q_EMIT self->commitData(button);
-        });
-    } else if (auto *const box = qobject_cast<QComboBox *>(editor); box && kind == ControlData::ComboBox) {
-        // A new combo box shows its first item, which is not the value of a feature that cannot be read.
-        box->setCurrentIndex(-1);
-        connect(box, qOverload<int>(&QComboBox::currentIndexChanged), this, [self, box] {
-            const QPointer<QComboBox> alive(box);
-            Q_EMIT self->commitData(box);
-            if (alive)
-                Q_EMIT self->closeEditor(box, NoHint);
-        });
-    } else {
-        // Typing alone changes no value: a text that is no number would leave behind what its beginning stood for.
-        if (auto *const number = qobject_cast<QAbstractSpinBox *>(editor)) {
-            number->setKeyboardTracking(false);
-            EntryGuard::install(number);
-        }
-        captureMouseForEditor(editor);
+    const auto commit = [self, editor](EditorHandler::After after) {
+        const QPointer<QWidget> alive(editor);
+        Q_EMIT self->commitData(editor);
+        if (alive && after == EditorHandler::After::Closes)
+            Q_EMIT self->closeEditor(editor, NoHint);
+    };
+    if (EditorHandler::of(*editor).connectEntries(*editor, kind, this, commit))
+        return;
+    // Typing alone changes no value: a text that is no number would leave behind the number that it began with.
+    if (auto *const number = qobject_cast<QAbstractSpinBox *>(editor)) {
+        number->setKeyboardTracking(false);
+        EntryGuard::install(number);
     }
+    captureMouseForEditor(editor);
 }
 
 void GenParamDelegate::captureMouseForEditor(QWidget *editor) const
@@ -417,18 +330,19 @@ void GenParamDelegate::setEditorData(QWidget *editor, const QModelIndex &index) 
     const QPersistentModelIndex edited(index);
     const bool isFitted = session.isLoaded() && fitToFeature(editor, index);
     const QVariant value = index.data(Qt::EditRole);
-    // Polling reports many a value that is still the same: cursor and selection then stay as they are.
+    // Polling often reports a value that is still the same. Cursor and selection stay as they are then.
     if (!isFitted && session.isLoadedWith(withoutWrapper(value)))
         return;
-    QLineEdit *const field = textFieldOf(editor);
+    const EditorHandler &handler = EditorHandler::of(*editor);
+    QLineEdit *const field = handler.textField(*editor);
     const bool isSelected = field && field->hasSelectedText();
     {
         const QSignalBlocker quiet(editor);
-        includeValue(editor, value);
-        if (!showsPlaceholder(editor, index, value) && !load(editor, value))
+        handler.includeValue(*editor, value);
+        if (!showsPlaceholder(*editor, index, value) && !load(*editor, value))
             ReadableDelegate::setEditorData(editor, index);
     }
-    // What is typed next is to replace the new value as it would have replaced the old one.
+    // The next key replaces the new value as it would have replaced the old one.
     if (isSelected)
         field->selectAll();
     session.setLoaded(edited, withoutWrapper(value));
@@ -439,17 +353,20 @@ void GenParamDelegate::setEditorData(QWidget *editor, const QModelIndex &index) 
     }
 }
 
-/** With the value its range, increment, choices and unit may have changed. Whether anything had to be changed here. */
+/** Range, increment, choices and unit may have changed with the value. True when the editor had to be changed. */
 bool GenParamDelegate::fitToFeature(QWidget *editor, const QModelIndex &index) const
 {
     const std::unique_ptr<QWidget> fresh(index.data(GenParamTreeModel::ControlDataRole).value<ControlData>().editor);
+    if (!fresh)
+        return false;
+    const EditorHandler &handler = EditorHandler::of(*fresh);
     refineEditor(fresh.get(), featureOf(index));
-    includeValue(fresh.get(), index.data(Qt::EditRole));
+    handler.includeValue(*fresh, index.data(Qt::EditRole));
     const QSignalBlocker quiet(editor);
-    const EditorFit fit = fitEditor(editor, fresh.get());
+    const EditorFit fit = handler.handles(*editor) ? handler.fit(*editor, *fresh) : EditorFit::OtherClass;
     if (fit != EditorFit::OtherClass)
         return fit == EditorFit::Changed;
-    // Not at once: whoever reports the change goes on using the editor.
+    // Not at once: the caller goes on using the editor.
     const auto close = [self = QPointer<GenParamDelegate>(const_cast<GenParamDelegate *>(this)), editor] {
         if (self)
             Q_EMIT self->closeEditor(editor, NoHint);
@@ -460,39 +377,40 @@ bool GenParamDelegate::fitToFeature(QWidget *editor, const QModelIndex &index) c
 
 void GenParamDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
 {
-    // Some view may have got another model meanwhile, which would take the index for its own.
+    // A view may have got another model meanwhile, which would take the index for its own.
     if (!editor || !model || index.model() != model)
         return;
     const OpenCalls::Call call;
     EditorSession &session = EditorSession::of(editor);
-    if (auto *const button = qobject_cast<QPushButton *>(editor)) {
-        if (!button->isWindowModified())
-            return;
-        button->setWindowModified(false);
-        session.beginWriting();
-        model->setData(index, true, Qt::EditRole);
+    const EditorHandler &handler = EditorHandler::of(*editor);
+    if (handler.isButton()) {
+        if (handler.takePress(*editor)) {
+            session.beginWriting();
+            model->setData(index, true, Qt::EditRole);
+        }
         return;
     }
-    if (!commitTyped(editor) || hasBadEntry(editor) || !session.hasEntry(index))
+    if (!commitTyped(editor) || handler.hasBadEntry(*editor) || !session.hasEntry(index))
         return;
     session.beginWriting();
-    if (qobject_cast<QComboBox *>(editor))
-        model->setData(index, valueOf(editor), Qt::EditRole);
-    else
+    if (handler.isDefault())
         ReadableDelegate::setModelData(editor, model, index);
+    else
+        model->setData(index, handler.value(*editor), Qt::EditRole);
 }
 
 /**
- * An integer that is typed counts with Enter only, a fraction always; what is left of a cut-off number never does.
- * False when something is typed that does not count: what was stepped to before is given up by that.
+ * A typed integer counts only with Enter, a typed fraction always, the rest of a number that was cut off never. False
+ * when the typed text does not count; a number that was reached by steps before is dropped with it.
  */
 bool GenParamDelegate::commitTyped(QWidget *editor) const
 {
-    auto *const number = qobject_cast<QDoubleSpinBox *>(editor);
+    const bool countsWhenLeft = EditorHandler::of(*editor).countsWhenLeft();
     EntryGuard *const guard = guardOf(editor);
     if (guard && (guard->isTouched() || guard->isBlocked()))
-        return number && guard->commit();
-    if (number && !guard && EditorSession::of(editor).isTouched())
+        return countsWhenLeft && guard->commit();
+    auto *const number = qobject_cast<QAbstractSpinBox *>(editor);
+    if (countsWhenLeft && number && !guard && EditorSession::of(editor).isTouched())
         number->interpretText();
     return true;
 }
@@ -504,7 +422,6 @@ void GenParamDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionV
         editor->setGeometry(option.rect);
 }
 
-/** The view gives it up in the middle of a write too, and whoever writes goes on using it. */
 void GenParamDelegate::destroyEditor(QWidget *editor, const QModelIndex &) const
 {
     OpenCalls::retire(editor);
@@ -525,7 +442,7 @@ bool GenParamDelegate::eventFilter(QObject *watched, QEvent *event)
     }
     if (editor && event->type() == QEvent::MouseButtonPress)
         EditorSession::of(editor).setPressed();
-    // The second half of the double click that has opened a box is no press on the arrow that has come under the mouse.
+    // The second press of the double click that opened a box must not step it: an arrow may have appeared under it.
     if (editor && event->type() == QEvent::MouseButtonDblClick && guardOf(editor)
         && !EditorSession::of(editor).isPressed())
         return true;
@@ -538,21 +455,23 @@ bool GenParamDelegate::eventFilter(QObject *watched, QEvent *event)
 
 bool GenParamDelegate::filterEnter(QWidget *editor, QKeyEvent *event)
 {
-    if (auto *const button = qobject_cast<QPushButton *>(editor)) {
-        if (!event->isAutoRepeat()) // a key held too long executes once
-            button->click();
+    // A key held too long executes a command once.
+    const EditorHandler &handler = EditorHandler::of(*editor);
+    if (handler.isButton()) {
+        if (!event->isAutoRepeat())
+            handler.press(*editor);
         return true;
     }
     if (guardOf(editor))
         return filterEnterOfNumber(editor);
-    const bool isAcceptable = hasAcceptableText(editor);
+    const bool isAcceptable = handler.hasAcceptableText(*editor);
     EditorSession::of(editor).setConfirmed(isAcceptable);
     if (isAcceptable)
         endEditingSoon(editor);
     return !isAcceptable; // else the editor handles the key too
 }
 
-/** When the event loop runs next, unless the editor has gone by then: Qt would use it nevertheless. */
+/** From the event loop, unless the editor is destroyed by then: Qt would use it nevertheless. */
 void GenParamDelegate::endEditingSoon(QWidget *editor)
 {
     const auto end = [self = QPointer<GenParamDelegate>(this), editor] {
@@ -565,7 +484,7 @@ void GenParamDelegate::endEditingSoon(QWidget *editor)
     QMetaObject::invokeMethod(editor, end, Qt::QueuedConnection);
 }
 
-/** What cannot be entered leaves the editor open, with the limits beside it. */
+/** A text that is no number in the range leaves the editor open, and the limits are shown beside it. */
 bool GenParamDelegate::filterEnterOfNumber(QWidget *editor)
 {
     EntryGuard &guard = *guardOf(editor);
@@ -577,7 +496,7 @@ bool GenParamDelegate::filterEnterOfNumber(QWidget *editor)
             setEditorData(editor, index);
         return true;
     }
-    // Steps that led back to the number that was loaded are an entry too, if the feature has another one by now.
+    // Steps back to the number that was loaded are an entry too if the feature has another number by now.
     EditorSession::of(editor).setConfirmed(true);
     endEditingSoon(editor);
     return true;

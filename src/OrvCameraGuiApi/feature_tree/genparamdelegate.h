@@ -1,18 +1,20 @@
 #pragma once
 
+#include <OrvCameraGuiApi/feature_tree/controldata.h>
 #include <OrvCameraGuiApi/windows/readabledelegate.h>
 
 class QKeyEvent;
 
 /**
- * Edits the values of a GenParamTreeModel, directly or behind proxies, with the editors that the model makes.
+ * Edits the values of a GenParamTreeModel, directly or behind proxies, with the editors that the model makes. The
+ * differences between them are in EditorHandler.
  *
- * Nothing is written that the user did not enter, so a view may open editors wherever the current item goes. An editor
- * that still shows what was loaded closes without writing, and so does a combo box without current item, a text that
- * its validator does not accept and a button that was not clicked. While an editor is untouched it follows the value of
- * its feature, and with it range, increment, choices and unit; what the user has begun to enter is neither replaced nor
- * written when the value changes meanwhile. Where the value cannot be read, or is no number though the editor is for
- * one, the editor has nothing but a unit, or what the view shows as its placeholder.
+ * Only what the user has entered is written, so a view may open editors wherever the current item goes. An editor that
+ * still shows the value that was loaded closes without writing. So do a combo box without current item, a text that its
+ * validator does not accept and a button that was not clicked. An untouched editor follows the value of its feature,
+ * and its range, increment, choices and unit. An entry that the user has begun is neither replaced nor written when the
+ * value changes. When the value cannot be read, or is no number although the editor is for numbers, the editor shows
+ * only its unit, or the text of the view as its placeholder.
  *
  * When an entry is written:
  * - a combo box: as soon as another item becomes current; it closes then;
@@ -21,14 +23,14 @@ class QKeyEvent;
  *   integer that was typed counts only with Enter; one that was stepped to counts always, unless something was typed
  *   in its place.
  *
- * Numbers are read as EntryGuard tells: in the locale and with both decimal signs, as a whole or not at all. Enter on
- * what is no number in the range leaves the editor open, shows the value again and tells the limits.
+ * EntryGuard reads numbers: in the locale and with both decimal signs, as a whole or not at all. Enter on a text that
+ * is no number in the range leaves the editor open, shows the value again and displays the limits.
  *
- * An entry equal to what was loaded is written too if it was confirmed and the feature has another value by then, or
- * one that the editor could not show: with Enter, and a fraction also by leaving its editor. The mouse wheel changes no
- * value: it scrolls the view.
+ * A confirmed entry is written also when it equals the value that was loaded, if the feature has another value by then,
+ * or one that the editor could not show. Enter confirms an entry; a fraction is confirmed also by leaving its editor.
+ * The mouse wheel changes no value: it scrolls the view.
  *
- * A write that fails is the model's to report; the editor closes all the same and the view shows the value as it is.
+ * The model reports a write that fails. The editor closes all the same, and the view shows the feature's value.
  */
 class GenParamDelegate : public ReadableDelegate
 {
@@ -38,7 +40,7 @@ public:
     explicit GenParamDelegate(QObject *parent = nullptr);
     ~GenParamDelegate() override;
 
-    /** The editor that the model hands out for \a index, now owned by \a parent; the base class's where it has none. */
+    /** The editor that the model makes for \a index, owned by \a parent; the base class's when it makes none. */
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
     /**
@@ -54,12 +56,12 @@ public:
     void updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
                               const QModelIndex &index) const override;
 
-    /** Deletes \a editor later; not before a read or write that is going on has ended. */
+    /** Gives \a editor up: OpenCalls. */
     void destroyEditor(QWidget *editor, const QModelIndex &index) const override;
 
     /**
      * From now on \a editor loses the focus, which ends editing, at the next press of a mouse button anywhere in the
-     * application but on the editor, its pop-ups and its context menu. Null is ignored.
+     * application except on the editor, its pop-ups and its context menu. Null is ignored.
      */
     void captureMouseForEditor(QWidget *editor) const;
 
@@ -69,7 +71,7 @@ protected:
 private:
     class MouseTracker;
 
-    void connectEditor(QWidget *editor, int kind) const;
+    void connectEditor(QWidget *editor, ControlData::Kind kind) const;
     bool fitToFeature(QWidget *editor, const QModelIndex &index) const;
     bool commitTyped(QWidget *editor) const;
     bool filterEnter(QWidget *editor, QKeyEvent *event);

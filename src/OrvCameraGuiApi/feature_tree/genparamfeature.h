@@ -8,10 +8,17 @@
 
 #include <optional>
 
-/** What people read, in the translation context of the model. */
+namespace OrvGenParam {
+class Array;
+}
+
+/** Texts that people read, in the translation context of the model. */
 struct GenParamText
 {
     Q_DECLARE_TR_FUNCTIONS(GenParamTreeModel)
+
+public:
+    static QString truth(bool value) { return value ? tr("True") : tr("False"); }
 };
 
 /** A text of a node map. */
@@ -23,8 +30,17 @@ inline QString fromGenICam(const GenICam::gcstring &text)
 /** The node of \a value, which may be null; throws when there is none. */
 GenApi::INode *nodeOf(GenApi::IValue *value);
 
+/** The node map behind \a params, which may be null; null when it has none. Throws nothing. */
+GenApi::INodeMap *nodeMapOf(OrvGenParam::Array *params);
+
 /** Whether \a value, which may be null, is a category; throws nothing. */
 bool isCategory(GenApi::IValue *value);
+
+/** Whether the value of \a feature, which may be null, can be read; true also when GenApi cannot answer. */
+bool canRead(GenApi::IValue *feature);
+
+/** The integer nearest to \a value; none when it is no number or does not fit into 64 bits. */
+std::optional<qint64> toInteger(const QVariant &value);
 
 /** Runs \a action; the text for people about what it threw, never empty, or nothing when it went well. */
 template <typename Action>
@@ -37,15 +53,16 @@ std::optional<QString> failureOf(Action &&action)
     } catch (const GenICam::GenericException &exception) {
         description = QString::fromUtf8(exception.GetDescription());
     } catch (...) {
-        // Whatever else a camera's library throws has no text for people.
+        // Anything else that a camera's library throws has no text for people.
     }
     return description.isEmpty() ? GenParamText::tr("Unknown Error") : description;
 }
 
 /**
- * One feature of a node map, as the feature tree shows and writes it. Made anew for each use; owns nothing.
+ * One feature of a node map, as the feature tree knows it. Created for each use; owns nothing. How it is shown, edited
+ * and written depends on its type: FeatureHandler.
  *
- * Except where it says otherwise an operation asks the node, which may read the device, and passes on what that throws.
+ * Except where it says otherwise, an operation asks the node and passes on the exceptions of GenApi.
  */
 class GenParamFeature
 {
@@ -64,40 +81,28 @@ public:
 
     GenApi::IValue *value() const { return m_value; }
 
-    /** The node's name; asks nobody. */
+    /** The node's name. Neither asks the node. @{ */
     QString name() const { return QString::fromUtf8(m_name); }
+    const char *utf8Name() const { return m_name; }
+    /** @} */
+
+    bool namesDecide() const { return m_namesDecide; }
 
     /** The node; throws when there is none. */
     GenApi::INode *node() const { return nodeOf(m_value); }
 
     GenApi::EAccessMode accessMode() const { return m_value ? m_value->GetAccessMode() : GenApi::NI; }
+
+    /** The principal interface type; intfIBase without a value. */
     GenApi::EInterfaceType type() const;
 
-    /** How \a number, which is this feature, is shown. */
-    GenApi::ERepresentation representation(GenApi::IInteger &number) const;
-
-    /** The value as people read it, in \a type, which is type(); invalid where there is none. */
-    QVariant displayText(GenApi::EInterfaceType type) const;
-
-    /** The value as an editor takes it, in \a type, which is type(); invalid where there is none. */
-    QVariant editValue(GenApi::EInterfaceType type) const;
-
-    /**
-     * Writes \a value, verified, or executes the command, whatever the value. False, and nothing written, when the
-     * feature cannot be written or the value does not convert to its type.
-     */
-    bool write(const QVariant &value) const;
-
 private:
-    bool writeInteger(const QVariant &value) const;
-    bool writeEnumeration(const QVariant &value) const;
-
     GenApi::IValue *m_value;
     const char *m_name;
     bool m_namesDecide;
 };
 
-/** Whether a value can be read or written in that mode. */
+/** Whether a value can be read or written in that mode. @{ */
 inline bool isReadable(GenApi::EAccessMode mode)
 {
     return mode == GenApi::RO || mode == GenApi::RW;
@@ -106,6 +111,4 @@ inline bool isWritable(GenApi::EAccessMode mode)
 {
     return mode == GenApi::WO || mode == GenApi::RW;
 }
-
-/** The digits to show of a floating-point feature, within what Qt can format. */
-int displayPrecision(const GenApi::IFloat &value);
+/** @} */

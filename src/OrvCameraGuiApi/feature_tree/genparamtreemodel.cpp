@@ -1,10 +1,10 @@
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 
 #include <OrvCameraGuiApi/feature_tree/blockarena.h>
-#include <OrvCameraGuiApi/feature_tree/genparameditor.h>
+#include <OrvCameraGuiApi/feature_tree/featurehandler.h>
 #include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
 #include <OrvCameraGuiApi/feature_tree/genparamwhatsthis.h>
-#include <OrvCameraGuiApi/feature_tree/nodechangeforwarder.h>
+#include <OrvCameraGuiApi/feature_tree/nodechangecallback.h>
 #include <OrvCameraGuiApi/feature_tree/opencalls.h>
 
 #include <QBrush>
@@ -15,9 +15,11 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <limits>
 #include <map>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -28,17 +30,17 @@ struct IndexFeature;
 /** A row's identity; the internal pointer of model indexes. */
 using FeatureEntry = std::pair<GenApi::IValue *const, IndexFeature>;
 
-/** Where a feature stands. There is one a feature, so it is kept small. */
+/** Where a feature stands. Small, because every feature has one. */
 struct IndexFeature
 {
     FeatureEntry *parent = nullptr; ///< null at the root level
-    FeatureEntry **children = nullptr; ///< null for what is no category, and for one that is not entered
+    FeatureEntry **children = nullptr; ///< null unless it is a category whose features have been added
     qint32 row = 0;
     qint32 childCount = 0;
     const char *name = ""; ///< of the node, UTF-8, in the arena
 };
 
-/** All that there is of the features. */
+/** The memory of all features. */
 struct Memory
 {
     BlockArena arena; ///< of the entries, the child arrays and the names
@@ -56,11 +58,11 @@ struct Visit
     qint64 rows; ///< so far, with those in the categories that it has
 };
 
-// What a view that expands all can take: it is recursive, and rows that stand in several places are rows each time.
+// The most that a view can expand: it is recursive, and counts a row that stands in several places each time.
 constexpr size_t maximumDepth = 1000;
 constexpr qint64 maximumRows = 1000000;
 
-/** Of what has failed. */
+/** The color of failures. */
 constexpr QColor errorColor(255, 0, 0);
 
 QBrush paletteBrush(QPalette::ColorGroup group, QPalette::ColorRole role)
@@ -76,7 +78,7 @@ void registerMetaTypes()
     qRegisterMetaType<VariantData>("VariantData");
 }
 
-/** Saves a cast that fails, which costs more than all else that is done for a feature. */
+/** Saves a failing cast, which costs more than everything else that is done for a feature. */
 bool mayBeCategory(GenApi::INode *node)
 {
     bool mayBe = true;
@@ -84,14 +86,14 @@ bool mayBeCategory(GenApi::INode *node)
     return mayBe;
 }
 
-/** The nodes of a large camera do not fit into a cache: waiting for each is a quarter of the time that a tree takes. */
+/** The nodes of a large camera do not fit into a cache. Waiting for them is a quarter of the time to build a tree. */
 void prefetch(const GenApi::FeatureList_t &features, size_t index)
 {
     if (index < features.size())
         __builtin_prefetch(features[index]);
 }
 
-/** Holds a node map's lock, which GenApi takes again, at less cost, in all that is asked meanwhile. */
+/** Holds a node map's lock. Every access to a node takes it again, which is cheaper while it is held. */
 class NodeMapLock
 {
 public:
@@ -106,14 +108,6 @@ public:
 private:
     GenApi::CLock &m_lock;
 };
-
-GenApi::INodeMap *nodeMapOf(OrvGenParam::Array *params)
-{
-    GenApi::INodeMap *nodeMap = nullptr;
-    if (params)
-        failureOf([&] { nodeMap = params->GetNodeMap(); });
-    return nodeMap;
-}
 
 } // namespace
 
@@ -140,17 +134,17 @@ public:
     bool hasError(const GenParamFeature &feature) const;
 
     QVariant controlData(const GenParamFeature &feature) const;
-    QVariant nameData(const GenParamFeature &feature, int role) const;
+    QVariant nameData(const QModelIndex &index, int role);
     QString displayName(const GenParamFeature &feature) const;
     QString nameToolTip(const GenParamFeature &feature) const;
     QVariant valueData(const QModelIndex &index, int role);
     QVariant readValue(const GenParamFeature &feature, int role) const;
-    QVariant valueForeground(const GenParamFeature &feature, GenApi::EInterfaceType type) const;
+    QVariant valueForeground(const GenParamFeature &feature, bool isRead) const;
     void recordError(const QModelIndex &index, const QString &message, int role);
 
     GenParamTreeModel *const q;
     GenApi::INodeMap *const nodeMap;
-    bool addressesAreDeclared = false; ///< the node map tells which integers are addresses: names tell nothing
+    bool addressesAreDeclared = false; ///< by the node map: names do not decide which integers are addresses
     const GenICam::gcstring currentAddressName = "GevCurrentIPAddress";
     bool isReleased = false; ///< nothing may ask a node any more
     std::vector<GenApi::CallbackHandleType> callbacks;
@@ -162,13 +156,34 @@ public:
     std::vector<Visit> visits; ///< while the tree is built: the way from the root to the category being visited
     QHash<const FeatureEntry *, qint64> rowsIn; ///< the categories that have been visited, while the tree is built
     qint64 rowsInAll = 0;
-    const QExplicitlySharedDataPointer<NodeChangeForwarder> forwarder;
+    std::optional<OrvGui::ReportRelay<FeatureEntry *>> changes; ///< of nodes; none once released
 };
+
+namespace {
+
+/** What a column shows of a feature. The number of a column is its place in the table. */
+struct ModelColumn
+{
+    const char *title; ///< untranslated
+    QVariant (GenParamTreeModelPrivate::*data)(const QModelIndex &index, int role); ///< for what differs by column
+    bool isEditable; ///< when the feature can be written
+    bool followsNode; ///< a change of the node changes the cell
+
+    static const ModelColumn all[];
+    static const ModelColumn &of(const QModelIndex &index) { return all[index.column()]; }
+};
+
+const ModelColumn ModelColumn::all[] = {
+    {QT_TRANSLATE_NOOP("GenParamTreeModel", "Name"), &GenParamTreeModelPrivate::nameData, false, false},
+    {QT_TRANSLATE_NOOP("GenParamTreeModel", "Value"), &GenParamTreeModelPrivate::valueData, true, true},
+};
+
+} // namespace
 
 GenParamTreeModelPrivate::GenParamTreeModelPrivate(GenParamTreeModel *model, GenApi::INodeMap *map)
     : q(model)
     , nodeMap(map)
-    , forwarder(new NodeChangeForwarder(model, [this](void *tag) { nodeChanged(*static_cast<FeatureEntry *>(tag)); }))
+    , changes([this](FeatureEntry *entry) { nodeChanged(*entry); })
 {
     registerMetaTypes();
     if (failureOf([this] { build(); }))
@@ -183,10 +198,10 @@ GenParamTreeModelPrivate::~GenParamTreeModelPrivate()
     release();
 }
 
-/** The features stay while somebody up the stack may be using them. */
+/** The memory stays while it may be in use: OpenCalls. */
 void GenParamTreeModelPrivate::release()
 {
-    forwarder->detach();
+    changes.reset();
     for (const GenApi::CallbackHandleType callback : std::exchange(callbacks, {}))
         failureOf([&] { GenApi::Deregister(callback); });
     rootChildCount = 0;
@@ -254,7 +269,7 @@ FeatureEntry *GenParamTreeModelPrivate::addFeature(GenApi::IValue *value, Featur
     GenApi::INode *node = nullptr;
     failureOf([&] {
         node = nodeOf(value);
-        callbacks.push_back(GenApi::Register(node, NodeChangeCallback(forwarder, &entry)));
+        callbacks.push_back(GenApi::Register(node, NodeChangeCallback<FeatureEntry *>(changes->reporter(), &entry)));
     });
     if (!isNew)
         return furtherOccurrence(&entry, parent, row);
@@ -269,8 +284,8 @@ FeatureEntry *GenParamTreeModelPrivate::addFeature(GenApi::IValue *value, Featur
 }
 
 /**
- * A feature that is listed again keeps the place of its first occurrence, intentionally. Only a category that cannot be
- * shown once more gets an entry for this one row, without children.
+ * A repeated feature keeps the place of its first occurrence, intentionally. Only a category whose children cannot
+ * stand here again gets an entry for this row, without children.
  */
 FeatureEntry *GenParamTreeModelPrivate::furtherOccurrence(FeatureEntry *first, FeatureEntry *parent, qint32 row)
 {
@@ -280,7 +295,7 @@ FeatureEntry *GenParamTreeModelPrivate::furtherOccurrence(FeatureEntry *first, F
     return new (place) FeatureEntry(first->first, IndexFeature{parent, nullptr, row, 0, first->second.name});
 }
 
-/** Otherwise a view that expands all would find no end: inside itself, or in ever more places of one another. */
+/** False inside itself and beyond the limit of rows: a view that expands all would not come to an end. */
 bool GenParamTreeModelPrivate::canStandAgain(const FeatureEntry &category, const FeatureEntry *parent)
 {
     while (parent && parent != &category)
@@ -293,7 +308,7 @@ bool GenParamTreeModelPrivate::canStandAgain(const FeatureEntry &category, const
     return true;
 }
 
-/** Keeps the name, and learns from it whether this node map declares addresses. */
+/** Keeps the name, and finds out by it whether this node map declares addresses. */
 void GenParamTreeModelPrivate::describe(FeatureEntry &entry, const GenApi::INode &node)
 {
     const GenICam::gcstring name = node.GetName();
@@ -314,8 +329,13 @@ const char *GenParamTreeModelPrivate::keepText(const GenICam::gcstring &text)
 void GenParamTreeModelPrivate::nodeChanged(FeatureEntry &entry)
 {
     const OpenCalls::Call call;
-    const QModelIndex cell = q->createIndex(entry.second.row, GenParamTreeModel::ValueColumn, &entry);
-    Q_EMIT q->dataChanged(cell, cell, QVector<int>());
+    const QPointer<GenParamTreeModel> alive(q);
+    for (int column = 0; alive && column < int(std::size(ModelColumn::all)); ++column) {
+        if (!ModelColumn::all[column].followsNode)
+            continue;
+        const QModelIndex cell = q->createIndex(entry.second.row, column, &entry);
+        Q_EMIT q->dataChanged(cell, cell, QVector<int>());
+    }
 }
 
 FeatureEntry &GenParamTreeModelPrivate::entryOf(const QModelIndex &index)
@@ -336,16 +356,17 @@ bool GenParamTreeModelPrivate::hasError(const GenParamFeature &feature) const
     return q->m_errors.hasErrors() && q->m_errors.hasError(feature.name());
 }
 
-/** Invalid where there is no editor, or a getter that one needs throws. */
+/** Invalid when the handler has no editor, or when a getter throws. */
 QVariant GenParamTreeModelPrivate::controlData(const GenParamFeature &feature) const
 {
     ControlData control;
-    failureOf([&] { control = createGenParamEditor(feature); });
+    failureOf([&] { control = FeatureHandler::of(feature).createEditor(feature); });
     return control.editor ? QVariant::fromValue(control) : QVariant();
 }
 
-QVariant GenParamTreeModelPrivate::nameData(const GenParamFeature &feature, int role) const
+QVariant GenParamTreeModelPrivate::nameData(const QModelIndex &index, int role)
 {
+    const GenParamFeature feature = featureOf(index);
     switch (role) {
     case Qt::DisplayRole:
         return displayName(feature);
@@ -382,7 +403,7 @@ QString GenParamTreeModelPrivate::nameToolTip(const GenParamFeature &feature) co
 
 QVariant GenParamTreeModelPrivate::valueData(const QModelIndex &index, int role)
 {
-    // Views ask for many more roles at every repaint; those ask no node.
+    // Views ask for many more roles at every repaint. These must not ask a node.
     if (role != Qt::DisplayRole && role != Qt::EditRole && role != Qt::ToolTipRole && role != Qt::ForegroundRole)
         return {};
     const GenParamFeature feature = featureOf(index);
@@ -391,7 +412,7 @@ QVariant GenParamTreeModelPrivate::valueData(const QModelIndex &index, int role)
         recordError(index, *failure, role);
         return role == Qt::DisplayRole ? GenParamTreeModel::tr("ERROR") : QVariant();
     }
-    // A tool tip that could not be read stays recorded, intentionally: from then on the tip is that message.
+    // A failed read of the tool tip stays recorded, intentionally: its message is the tool tip from then on.
     if (role != Qt::ToolTipRole && hasError(feature)) {
         const QString name = feature.name();
         if (q->m_errors.ClearError(name, role))
@@ -402,11 +423,11 @@ QVariant GenParamTreeModelPrivate::valueData(const QModelIndex &index, int role)
 
 QVariant GenParamTreeModelPrivate::readValue(const GenParamFeature &feature, int role) const
 {
-    const GenApi::EInterfaceType type = feature.type();
-    if (type == GenApi::intfICategory)
+    const FeatureHandler &handler = FeatureHandler::of(feature);
+    if (!handler.hasValue())
         return {};
     if (role == Qt::ForegroundRole)
-        return valueForeground(feature, type);
+        return valueForeground(feature, handler.isRead());
     if (role == Qt::ToolTipRole) {
         if (hasError(feature))
             return q->m_errors.firstMessage(feature.name());
@@ -415,21 +436,21 @@ QVariant GenParamTreeModelPrivate::readValue(const GenParamFeature &feature, int
     const GenApi::EAccessMode mode = feature.accessMode();
     if (mode < GenApi::WO)
         return GenParamTreeModel::tr("<Value not available>");
-    if (type != GenApi::intfICommand && !isReadable(mode))
+    if (handler.isRead() && !isReadable(mode))
         return GenParamTreeModel::tr("<Value not readable>");
-    return role == Qt::DisplayRole ? feature.displayText(type) : feature.editValue(type);
+    return role == Qt::DisplayRole ? handler.text(feature) : handler.editValue(feature);
 }
 
-QVariant GenParamTreeModelPrivate::valueForeground(const GenParamFeature &feature, GenApi::EInterfaceType type) const
+QVariant GenParamTreeModelPrivate::valueForeground(const GenParamFeature &feature, bool isRead) const
 {
     if (hasError(feature))
         return QBrush(errorColor);
     const GenApi::EAccessMode mode = feature.accessMode();
-    const bool hasText = isReadable(mode) || type == GenApi::intfICommand;
+    const bool hasText = isReadable(mode) || !isRead;
     return hasText && isWritable(mode) ? QVariant() : paletteBrush(QPalette::Disabled, QPalette::Text);
 }
 
-/** Slots of the signal may call back into the model: nothing is done after it. */
+/** Does nothing after the signal, whose slots may call back into the model. */
 void GenParamTreeModelPrivate::recordError(const QModelIndex &index, const QString &message, int role)
 {
     const QString name = featureOf(index).name();
@@ -488,21 +509,13 @@ int GenParamTreeModel::rowCount(const QModelIndex &parent) const
 
 int GenParamTreeModel::columnCount(const QModelIndex &) const
 {
-    return 2;
+    return int(std::size(ModelColumn::all));
 }
 
 QVariant GenParamTreeModel::headerData(int section, Qt::Orientation, int role) const
 {
-    if (role != Qt::DisplayRole)
-        return {};
-    switch (section) {
-    case NameColumn:
-        return tr("Name");
-    case ValueColumn:
-        return tr("Value");
-    default:
-        return {};
-    }
+    const bool isColumn = section >= 0 && section < columnCount();
+    return isColumn && role == Qt::DisplayRole ? tr(ModelColumn::all[section].title) : QVariant();
 }
 
 Qt::ItemFlags GenParamTreeModel::flags(const QModelIndex &index) const
@@ -511,7 +524,7 @@ Qt::ItemFlags GenParamTreeModel::flags(const QModelIndex &index) const
         return Qt::NoItemFlags;
     const OpenCalls::Call call;
     Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
-    if (index.column() == ValueColumn) {
+    if (ModelColumn::of(index).isEditable) {
         failureOf([&] {
             if (isWritable(d->featureOf(index).accessMode()))
                 flags |= Qt::ItemIsEditable;
@@ -535,7 +548,7 @@ QVariant GenParamTreeModel::data(const QModelIndex &index, int role) const
     case Qt::WhatsThisRole:
         return genParamWhatsThis(d->featureOf(index));
     default:
-        return index.column() == NameColumn ? d->nameData(d->featureOf(index), role) : d->valueData(index, role);
+        return (d.data()->*ModelColumn::of(index).data)(index, role);
     }
 }
 
@@ -554,14 +567,13 @@ void GenParamTreeModel::clearErrors()
 
 bool GenParamTreeModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
-    if (!index.isValid() || index.column() != ValueColumn || role != Qt::EditRole)
+    if (!index.isValid() || !ModelColumn::of(index).isEditable || role != Qt::EditRole)
         return false;
     const OpenCalls::Call call;
     const GenParamFeature feature = d->featureOf(index);
-    const bool isListed = value.userType() == qMetaTypeId<VariantData>();
     bool isWritten = false;
     const auto failure =
-        failureOf([&] { isWritten = feature.write(isListed ? value.value<VariantData>().value : value); });
+        failureOf([&] { isWritten = FeatureHandler::of(feature).write(feature, withoutWrapper(value)); });
     if (failure) {
         const QPointer<GenParamTreeModel> alive(this);
         const QPersistentModelIndex written(index);

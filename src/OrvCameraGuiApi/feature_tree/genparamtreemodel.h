@@ -14,17 +14,18 @@ class GenParamTreeModelPrivate;
 Q_DECLARE_METATYPE(GenApi::IValue *)
 
 /**
- * The features of a node map: names in column 0, values in column 1, categories with rows of their own.
+ * The features of a node map: names in column 0, values in column 1; a category has its features as child rows.
  *
  * The tree is built once, in the constructor. A feature that several categories list is a row of each of them, but its
- * parent() and the cell that is reported as changed are those of its first occurrence; this is intentional. Nothing but
- * names is kept: values are read when they are asked for, and only by the roles that need them.
+ * parent() and the cell that is reported as changed are those of its first occurrence; this is intentional. The model
+ * keeps only names. It reads a value when a role is asked for that needs it.
  *
- * There is an end to every tree: a category is a row without rows inside itself, below 1000 others, and where it is
- * listed again when there are a million rows already.
+ * The tree is always finite. A category gets no children when it is its own ancestor, when it is nested 1,000 deep, or
+ * when it is a repeat and the tree already has a million rows.
  *
- * What GenApi throws never leaves the model. A failed read of a value is recorded under the role that was read, a
- * failed write under ValueInterfaceRole, and announced once. Lives on one thread, the GUI's; nodes may change on any.
+ * Exceptions of GenApi never leave the model. A failed read of a value is recorded under the role that was read, a
+ * failed write under ValueInterfaceRole, and announced once. The model lives on the GUI thread; nodes may change on any
+ * thread.
  */
 class GenParamTreeModel : public QAbstractItemModel
 {
@@ -45,13 +46,13 @@ public:
     /** Shows the node map behind \a params, which stays the caller's and outlives the model; may be null. */
     GenParamTreeModel(OrvGenParam::Array *params, QObject *parent);
 
-    /** Deregisters from all nodes; changes that are still on their way from other threads are dropped. */
+    /** Deregisters from all nodes. Changes from other threads that have not been delivered yet are dropped. */
     ~GenParamTreeModel() override;
 
     /**
-     * Lets go of the node map, for good: from now on there are no rows and no callbacks, and an index that somebody
-     * still holds asks no node. The node map may go before the model does. The memory that the features take is freed
-     * now too, unless a call is on the stack that may be using it.
+     * Lets go of the node map for good. From now on there are no rows and no callbacks, and an index from before asks
+     * no node; the node map may be destroyed before the model. The memory of the features is freed now too, unless an
+     * OpenCalls::Call is on the stack.
      */
     void release();
 
@@ -59,8 +60,8 @@ public:
     QModelIndex parent(const QModelIndex &index) const override;
 
     /**
-     * In the row of \a index itself another cell of the same feature, though the row may not be among its parent()'s:
-     * that is the one of the first occurrence. In another row a cell of that parent().
+     * In the row of \a index: another cell of the same feature, also in a row that repeats it and so is not among the
+     * rows of its parent(). In any other row: a cell of the parent(), the parent of the first occurrence.
      */
     QModelIndex sibling(int row, int column, const QModelIndex &index) const override;
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
@@ -76,17 +77,17 @@ public:
      */
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
 
-    /** Forgets that \a role of the feature at \a index failed; errorDisappeared() tells of it. */
+    /** Forgets that \a role of the feature at \a index failed, and emits errorDisappeared() if it did. */
     void clearError(const QModelIndex &index, int role);
 
-    /** Forgets all failures, without a word. */
+    /** Forgets all failures and emits nothing. */
     void clearErrors();
 
 Q_SIGNALS:
-    /** A read (Qt's roles) or write (ValueInterfaceRole) of the feature failed that did not fail before. */
+    /** A read (one of Qt's roles) or a write (ValueInterfaceRole) of the feature has failed for the first time. */
     void errorAppeared(const QModelIndex &index, const QString &featureName, const QString &message, int role);
 
-    /** What failed before went well; for ValueInterfaceRole: a write went well, whether or not one failed before. */
+    /** A role that failed before has succeeded. For ValueInterfaceRole: a write has succeeded, whatever was before. */
     void errorDisappeared(const QModelIndex &index, const QString &featureName, int role);
 
     /** A write of the feature failed, whether or not one failed before. */

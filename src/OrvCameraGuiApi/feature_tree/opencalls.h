@@ -3,16 +3,22 @@
 #include <QObject>
 
 /**
- * When the feature tree frees its models: never while a call into them is on the stack.
+ * The lifetime rule of the feature tree, and the means to keep it.
  *
- * Whatever asks a node may end in foreign code, a callback or a port, and that may do anything: take the node map from
- * the view, destroy the view, run an event loop. Callbacks and node map are let go at once then, but the objects are
- * still in use by those who called them, and deferred deletion alone does not spare them: the event loop that runs
- * inside the call would carry it out. So every such call is marked by a Call, and what is given up meanwhile is handed
- * to deferred deletion only when the outermost of them has ended. Those who have called it, Qt's views among them, have
- * returned too when the event loop runs next.
+ * Every access to a node may run foreign code: a callback, a port, a slot of the application. That code may take the
+ * node map from the view, destroy the view or run an event loop. Functions of the tree and of Qt's views are on the
+ * stack meanwhile, and go on with models, rows and editors when it returns. Therefore:
  *
- * For each thread by itself; models are used by one.
+ * - The tree lets go of callbacks and node map at once.
+ * - A function by which others enter the tree holds a Call while it accesses nodes or changes rows.
+ * - Models, selections, editors and the view of the C functions are given up by retire(), not by delete. They are
+ *   deleted by the event loop when the outermost Call has ended. Qt's views have returned by then as well. Deferred
+ *   deletion alone is too early: an event loop inside the call carries it out.
+ * - After an access a function checks again whatever it goes on with: model, editor and view by QPointer or by
+ *   comparison, a row by QPersistentModelIndex.
+ * - A C++ program does not delete the view inside a call; QObject::deleteLater() is for that.
+ *
+ * Calls are counted for each thread by itself; a model is used by one thread.
  */
 class OpenCalls
 {
@@ -25,9 +31,9 @@ public:
         Q_DISABLE_COPY(Call)
     };
 
-    /** Whether a call is on the stack. */
+    /** Whether a Call is on the stack. */
     static bool any();
 
-    /** Deletes \a object, which may be null, as told above. Until then nothing but that may come to it. */
+    /** Deletes \a object, which may be null, when no Call is on the stack. Nobody else may delete it any more. */
     static void retire(QObject *object);
 };

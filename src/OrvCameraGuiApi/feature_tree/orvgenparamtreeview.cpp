@@ -1,5 +1,6 @@
 #include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
 
+#include <OrvCameraGuiApi/background/nodemapclock.h>
 #include <OrvCameraGuiApi/camera_api/orvgenparam.h>
 #include <OrvCameraGuiApi/feature_tree/categoryspans.h>
 #include <OrvCameraGuiApi/feature_tree/featureselection.h>
@@ -10,7 +11,6 @@
 #include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreevisibilityfilterproxymodel.h>
-#include <OrvCameraGuiApi/feature_tree/nodemapclock.h>
 #include <OrvCameraGuiApi/feature_tree/opencalls.h>
 #include <OrvCameraGuiApi/feature_tree/treestate.h>
 #include <OrvCameraGuiApi/feature_tree/treeviewresizer.h>
@@ -22,6 +22,7 @@
 #include <QAction>
 #include <QElapsedTimer>
 #include <QFocusFrame>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QScopedValueRollback>
@@ -37,22 +38,14 @@
 
 namespace {
 
-GenApi::INodeMap *nodeMapOf(OrvGenParam::Array *params)
-{
-    GenApi::INodeMap *nodeMap = nullptr;
-    if (params)
-        failureOf([&] { nodeMap = params->GetNodeMap(); });
-    return nodeMap;
-}
-
 GenApi::IValue *featureOf(const QModelIndex &index)
 {
     return index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
 }
 
 /**
- * Like QIcon(path), but of pixmaps that Qt keeps by their names. With an icon of its own, which is what the form gives
- * it, each view would leave further pictures in Qt's cache.
+ * Like QIcon(path), but made of pixmaps that Qt caches by name. With icons from the form, each view would leave further
+ * pictures in Qt's cache.
  */
 QIcon iconOf(const QString &path)
 {
@@ -62,8 +55,7 @@ QIcon iconOf(const QString &path)
 }
 
 /**
- * \a html without the rest of words that are longer than any person would read: the time to lay one out grows with the
- * square of its length.
+ * \a html with overlong words cut off: the time to lay out a word grows with the square of its length.
  */
 QString shortened(const QString &html)
 {
@@ -72,7 +64,7 @@ QString shortened(const QString &html)
         return html;
     QString result;
     int length = 0;
-    int entity = -1; ///< where the one begins that is not complete yet
+    int entity = -1; ///< the start of an incomplete character entity
     for (const QChar c : html) {
         length = c.isSpace() || c == QLatin1Char('<') || c == QLatin1Char('>') ? 0 : length + 1;
         if (c == QLatin1Char('&'))
@@ -89,7 +81,7 @@ QString shortened(const QString &html)
     return result;
 }
 
-/** The buttons at the end of a field leave what it says when it is empty whole. */
+/** Makes \a field wide enough for its placeholder text beside the buttons at its end. */
 void ensureRoomForPlaceholder(QLineEdit &field)
 {
     int end = field.width();
@@ -109,7 +101,7 @@ QToolButton *buttonOf(const QLineEdit &field, const QAction *action)
     return found == buttons.end() ? nullptr : *found;
 }
 
-/** Lets Tab reach a button inside a field, which shows of itself nothing but its icon. */
+/** Lets Tab reach a button inside a field, and shows its focus: the button itself paints only its icon. */
 class ReachableButton : public QObject
 {
 public:
@@ -135,7 +127,7 @@ private:
     const QPointer<QFocusFrame> m_frame;
 };
 
-/** Leaves the key that goes to the filter to the window: a combo box would search among its items for it. */
+/** Leaves the key for the filter to the window: a combo box would search its items for it. */
 class FindKeyPasser : public QObject
 {
 public:
@@ -200,7 +192,7 @@ public:
     Ui_GenParamTreeView ui;
     QByteArray state; ///< the text that was saved or loaded last
     QMetaObject::Connection firstShow;
-    bool isStateLoaded = false; ///< for good: the columns are not divided when the tree is shown first
+    bool isStateLoaded = false; ///< never reset: the columns are not divided when the tree is shown first
     GenParamErrorController errors;
     FilterOptions *filterOptions = nullptr;
     QAction *filterOptionsAction = nullptr;
@@ -214,22 +206,22 @@ public:
     QSet<GenApi::IValue *> featuresToRepaint;
     QElapsedTimer sinceRepaint;
 
-    /** A failure that does not go by itself when the value is painted. */
+    /** A failure that painting the value does not clear. */
     struct StandingError
     {
         QPersistentModelIndex index; ///< of the model
         int role;
-        QString content; ///< of a failed write, what was there afterwards; null as long as nobody has looked
+        QString content; ///< after a failed write: text and access; null until they have been read
         bool isToCheck = true;
     };
     std::vector<StandingError> standingErrors;
     bool isCheckQueued = false;
-    bool isClearing = false; ///< an error goes though nothing was written
+    bool isClearing = false; ///< while an error is cleared without a write
 
     QByteArray stateToCome; ///< loaded before there was a node map
     QByteArray lastState;
     bool matchesNames = false;
-    QString currentName; ///< that has been told
+    QString currentName; ///< the last that was emitted
 };
 
 void OrvGenParamTreeViewPrivate::init(GenApi::INodeMap *map)
@@ -240,7 +232,7 @@ void OrvGenParamTreeViewPrivate::init(GenApi::INodeMap *map)
     initButtons();
     filterOptions = new FilterOptions(q);
     install(map);
-    ui.treeView->setItemDelegateForColumn(GenParamTreeModel::NameColumn, new ReadableDelegate(q));
+    ui.treeView->setItemDelegate(new ReadableDelegate(q));
     ui.treeView->setItemDelegateForColumn(GenParamTreeModel::ValueColumn, new GenParamDelegate(q));
     auto *const resizer = new TreeViewResizer(ui.treeView);
     firstShow = QObject::connect(resizer, &TreeViewResizer::showed, q, [this] {
@@ -262,7 +254,7 @@ void OrvGenParamTreeViewPrivate::initSplitter()
     ui.verticalLayout->addWidget(splitter);
 }
 
-/** The form is connected once; what it is set to goes to the proxy that there is then. */
+/** The form is connected once; its settings go to the present proxy. */
 void OrvGenParamTreeViewPrivate::initFilter()
 {
     QAction *const clear =
@@ -344,7 +336,7 @@ void OrvGenParamTreeViewPrivate::install(GenApi::INodeMap *map)
     proxy->setMatchesNodeNames(matchesNames);
     proxy->setSourceModel(model);
     connectModel();
-    // What is read from here on may have the node map taken away again, or another one set.
+    // From here on reading may take the node map away again, or set another one: OpenCalls.
     const auto *const installed = proxy;
     showModel(proxy);
     if (proxy != installed)
@@ -356,7 +348,7 @@ void OrvGenParamTreeViewPrivate::install(GenApi::INodeMap *map)
         applyState(std::exchange(stateToCome, QByteArray()));
 }
 
-/** Nothing refers to the node map afterwards; only the objects that did are freed later, for they may be in use. */
+/** Nothing refers to the node map afterwards. The objects that did are given up: OpenCalls. */
 void OrvGenParamTreeViewPrivate::remove()
 {
     if (!model)
@@ -376,7 +368,7 @@ void OrvGenParamTreeViewPrivate::remove()
     ui.whatsThisLabel->clear();
 }
 
-/** One that is in use outlives the view too. */
+/** An object that is in use outlives the view too. */
 void OrvGenParamTreeViewPrivate::giveUp(QObject *object)
 {
     if (OpenCalls::any())
@@ -384,7 +376,7 @@ void OrvGenParamTreeViewPrivate::giveUp(QObject *object)
     OpenCalls::retire(object);
 }
 
-/** Closes the open editors; nothing that was typed in them is written. */
+/** Closes the open editors without writing. */
 void OrvGenParamTreeViewPrivate::showModel(QAbstractItemModel *shown)
 {
     if (QItemSelectionModel *const former = ui.treeView->selectionModel())
@@ -409,12 +401,12 @@ void OrvGenParamTreeViewPrivate::connectModel()
                      [this](const QModelIndex &index) { cellChanged(index); });
 }
 
-/** After the tree, which has to know of a change before its rows are spanned. */
+/** Connected after the tree, which has to know about a change before its rows are spanned. */
 void OrvGenParamTreeViewPrivate::connectProxy()
 {
     QObject::connect(proxy, &GenParamTreeVisibilityFilterProxyModel::rowsAboutToGo, q,
                      [this] { moveCurrentFromGoing(); });
-    // Somebody's slot may have had the model taken away before these are called.
+    // A slot that is called before these may have taken the model away: OpenCalls.
     QObject::connect(proxy, &GenParamTreeVisibilityFilterProxyModel::categoriesHaveCome, q, [this] {
         if (proxy)
             setSpanForChildren(*ui.treeView, QModelIndex());
@@ -426,11 +418,13 @@ void OrvGenParamTreeViewPrivate::connectProxy()
                      });
 }
 
+/** Into equal parts; the last column gets the rest. */
 void OrvGenParamTreeViewPrivate::splitColumns()
 {
-    const int width = ui.treeView->columnWidth(GenParamTreeModel::NameColumn)
-        + ui.treeView->columnWidth(GenParamTreeModel::ValueColumn);
-    ui.treeView->setColumnWidth(GenParamTreeModel::NameColumn, width / 2);
+    const QHeaderView *const header = ui.treeView->header();
+    const int width = header->length();
+    for (int column = 0; column < header->count() - 1; ++column)
+        ui.treeView->setColumnWidth(column, width / header->count());
 }
 
 void OrvGenParamTreeViewPrivate::currentChanged(const QModelIndex &index)
@@ -447,8 +441,8 @@ void OrvGenParamTreeViewPrivate::tellCurrent(const QString &name)
 }
 
 /**
- * An editor that is open there is closed as by any move: what was entered is written if it counts. That comes first,
- * by itself: a write may change rows, and the tree would go on with indexes from before if it did both at once.
+ * An editor that is open there closes as with any move, and its entry is written if it counts. That comes first,
+ * separately: a write may change rows, and the tree would go on with former indexes if it did both at once.
  */
 void OrvGenParamTreeViewPrivate::moveCurrentFromGoing()
 {
@@ -466,7 +460,7 @@ void OrvGenParamTreeViewPrivate::moveCurrentFromGoing()
     const QModelIndex survivor = survivorOfCurrent();
     if (survivor == ui.treeView->currentIndex())
         return;
-    // Who types elsewhere goes on typing there.
+    // A user who types elsewhere goes on typing there.
     if (hadFocus)
         ui.treeView->setCurrentIndex(survivor);
     else
@@ -483,7 +477,7 @@ void OrvGenParamTreeViewPrivate::errorAppeared(const QModelIndex &index, const Q
         standingErrors.push_back({QPersistentModelIndex(index), role, QString()});
         checkErrorsSoon();
     }
-    // Not at once: errors are found while the tree is painted, and a slot may open a message box.
+    // Not at once: errors occur while the tree is painted, and a slot may open a message box.
     QMetaObject::invokeMethod(
         q, [this, name, message] { Q_EMIT q->errorOccurred(name, message); }, Qt::QueuedConnection);
 }
@@ -500,7 +494,7 @@ void OrvGenParamTreeViewPrivate::errorDisappeared(const QModelIndex &index, cons
         Q_EMIT q->featureWritten(name);
 }
 
-/** What is there after it is what counts from now on, also when there was an error already. */
+/** The value after the latest failed write counts, also when there was an error before. */
 void OrvGenParamTreeViewPrivate::writeFailed(const QModelIndex &index)
 {
     for (StandingError &error : standingErrors) {
@@ -510,7 +504,7 @@ void OrvGenParamTreeViewPrivate::writeFailed(const QModelIndex &index)
     cellChanged(index);
 }
 
-/** Costs nothing as long as nothing has failed. */
+/** Costs nothing while nothing has failed. */
 void OrvGenParamTreeViewPrivate::cellChanged(const QModelIndex &index)
 {
     for (StandingError &error : standingErrors) {
@@ -521,7 +515,7 @@ void OrvGenParamTreeViewPrivate::cellChanged(const QModelIndex &index)
     }
 }
 
-/** When the write that is going on has ended. */
+/** From the event loop, after the write that is going on. */
 void OrvGenParamTreeViewPrivate::checkErrorsSoon()
 {
     if (std::exchange(isCheckQueued, true))
@@ -531,8 +525,8 @@ void OrvGenParamTreeViewPrivate::checkErrorsSoon()
 }
 
 /**
- * A failed read of the value to be edited goes when that reads well. A failed write stays until the value or the access
- * differs from what was there after it; that it succeeds later the model tells itself.
+ * A failed read of the edit value is cleared when it can be read again. A failed write is cleared when value or access
+ * differ from those after it. The model itself reports a later write that succeeds.
  */
 void OrvGenParamTreeViewPrivate::checkErrors()
 {
@@ -546,12 +540,12 @@ void OrvGenParamTreeViewPrivate::checkErrors()
             continue;
         if (std::exchange(error.isToCheck, false)) {
             if (error.role == Qt::EditRole) {
-                error.index.data(Qt::EditRole); // which clears it, if it goes well
+                error.index.data(Qt::EditRole); // clears it on success
                 if (!errors.hasError(name, error.role))
                     continue;
             } else {
                 const QString content = error.index.data().toString() + QChar(int(error.index.flags()));
-                const bool wasRead = !errors.hasError(name, Qt::DisplayRole); // else nothing is known about the write
+                const bool wasRead = !errors.hasError(name, Qt::DisplayRole); // otherwise text and access are not known
                 if (wasRead && !error.content.isNull() && content != error.content) {
                     const QScopedValueRollback<bool> clearing(isClearing, true);
                     checked->clearError(error.index, error.role);
@@ -565,7 +559,7 @@ void OrvGenParamTreeViewPrivate::checkErrors()
     }
 }
 
-/** Also those that the model remembers: names and tool tips go by these. */
+/** Also the errors that the model has recorded, which names and tool tips show. */
 void OrvGenParamTreeViewPrivate::clearErrors()
 {
     const OpenCalls::Call call;
@@ -588,11 +582,11 @@ void OrvGenParamTreeViewPrivate::showStatus()
         iconOf(statusShowsErrors ? QStringLiteral("://images//err.png") : QStringLiteral("://images//ok.png")));
 }
 
-/** Not at once: errors are found while rows are laid out and painted. */
+/** Not at once: errors occur while rows are laid out and painted. */
 void OrvGenParamTreeViewPrivate::repaintSoon(GenApi::IValue *feature)
 {
     if (featuresToRepaint.isEmpty()) {
-        // A feature that fails every second time would have itself painted without end.
+        // A feature that fails every second time would be painted without end.
         constexpr int interval = 200; // ms
         const bool isSoon = sinceRepaint.isValid() && !sinceRepaint.hasExpired(interval);
         QTimer::singleShot(isSoon ? interval : 0, q, [this] { repaintRows(); });
@@ -600,7 +594,7 @@ void OrvGenParamTreeViewPrivate::repaintSoon(GenApi::IValue *feature)
     featuresToRepaint.insert(feature);
 }
 
-/** All rows that show the feature, in which category they may stand; only an index of the first could be mapped. */
+/** All rows of the features, in any category: an index maps only to the first occurrence. */
 void OrvGenParamTreeViewPrivate::repaintRows()
 {
     const QSet<GenApi::IValue *> features = std::exchange(featuresToRepaint, {});
@@ -620,7 +614,7 @@ void OrvGenParamTreeViewPrivate::poll()
         failureOf([this] { nodeMap->Poll(pollTimer->interval()); });
 }
 
-/** Whoever else looks at the node map leaves the polling to this view. With an interval of 0 no time is counted. */
+/** Other windows leave the polling of the node map to this view. With an interval of 0 it counts no time. */
 void OrvGenParamTreeViewPrivate::shareClock()
 {
     const bool countsTime = pollTimer && pollTimer->isActive() && pollTimer->interval() > 0;
@@ -719,7 +713,7 @@ void OrvGenParamTreeView::loadState(const char *state)
         return;
     }
     const OpenCalls::Call call;
-    // A copy: the text may be the one that saveState() gave, and whoever listens to the tree may save meanwhile.
+    // A copy: the text may be that of saveState(), and a slot may save again meanwhile.
     const QByteArray text(state);
     d->state = text;
     d->applyState(text);
@@ -797,8 +791,8 @@ QTreeView *OrvGenParamTreeView::treeView() const
 }
 
 /**
- * A dialog would click the button of a command that is open in the tree when Enter is pressed elsewhere, and one that
- * is a part of another window would hide at Escape. The key for the filter gets here only when nobody else wants it.
+ * QDialog would click the button of a command that is open in the tree when Enter is pressed elsewhere, and would hide
+ * at Escape even as a part of another window. The key for the filter arrives here only when no child uses it.
  */
 void OrvGenParamTreeView::keyPressEvent(QKeyEvent *event)
 {

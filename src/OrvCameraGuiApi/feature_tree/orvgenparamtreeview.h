@@ -15,8 +15,8 @@ class OrvGenParamTreeViewPrivate;
  * Shows the features of a camera as a tree and lets people edit them.
  *
  * Above the tree: buttons that collapse and expand it, a filter for the features' names, the level of visibility and a
- * button that tells whether reading or writing any feature failed and opens the list of what did. Below it: what there
- * is to know about the current feature.
+ * button that shows whether reading or writing a feature has failed and opens the list of failures. Below it: a
+ * description of the current feature.
  *
  * A window of its own by default. To put it into another one, take its window flags away:
  * \code
@@ -24,8 +24,9 @@ class OrvGenParamTreeViewPrivate;
  * view->setWindowFlags(Qt::Widget);
  * layout->addWidget(view);
  * \endcode
- * While it reads or writes, the node map's callbacks may do what they like, run event loops too. They may take the node
- * map from the view, but not delete the view: as with any widget, that is for deleteLater().
+ * While the view reads or writes, callbacks of the node map and slots of its signals may do anything, also run event
+ * loops and take the node map from the view, with one exception: they must not delete the view. As with any widget,
+ * QObject::deleteLater() is for that.
  *
  * Its icons have a second form for screens of high density, which Qt uses when Qt::AA_UseHighDpiPixmaps is set.
  */
@@ -60,17 +61,16 @@ public:
     void enablePolling(bool on) override;
     bool isPollingEnabled() override;
 
-    /** The tree; null never. Its model is the view's own, another one after each setParams(), null after clearParams().
-     */
+    /** The tree; never null. The view owns its model: another one after each setParams(), null after clearParams(). */
     QTreeView *treeView() const;
 
     /**
-     * The state when a node map was last taken away or replaced, as saveState() gives it, which then knows of no
-     * features any more; empty when that has not happened yet. Valid until it happens again.
+     * The state, as saveState() returned it, when a node map was last taken away or replaced; empty when that has not
+     * happened yet. Valid until it happens again.
      */
     const char *lastState() const;
 
-    /** What stands in the filter: a pattern with "*" and "?", by default empty. @{ */
+    /** The text of the filter: a pattern with "*" and "?", by default empty. @{ */
     QString filterText() const;
     void setFilterText(const QString &text);
     /** @} */
@@ -80,7 +80,7 @@ public:
     void setFilterMatchesNames(bool on);
     /** @} */
 
-    /** Whether people can look at the features only. Off by default. What is open in an editor is not written. @{ */
+    /** Whether the features are read-only for people. Off by default. An open editor closes unwritten. @{ */
     bool isReadOnly() const;
     void setReadOnly(bool readOnly);
     /** @} */
@@ -95,8 +95,7 @@ Q_SIGNALS:
     /** A value that was entered in the tree has been written, or a command executed. */
     void featureWritten(const QString &name);
 
-    /** Reading or writing the feature has failed, which it did not before. Emitted by the event loop, never within it.
-     */
+    /** Reading or writing the feature has failed for the first time. Emitted later, from the event loop. */
     void errorOccurred(const QString &name, const QString &text);
 
 protected:

@@ -22,7 +22,7 @@ const char splitterMarker[] = "&amp;S";
 constexpr int maximumColumnWidth = 1048575; ///< more QHeaderView does not take
 constexpr int maximumVisibility = 2;
 
-// What QSplitter::saveState() begins with: a mark, a version and the number of sizes, then the sizes.
+// QSplitter::saveState() begins with a mark, a version and the number of sizes; then come the sizes.
 constexpr int splitterHeaderSize = 3 * int(sizeof(qint32));
 
 /** Calls \a visit with every category and its path, depth first, a category before those in it. */
@@ -42,7 +42,7 @@ void forEachCategoryPath(const QAbstractItemModel &model, Visit visit)
     });
 }
 
-/** What stands behind the first \a marker, to the end of the text. */
+/** The text after the first \a marker. */
 QByteArray after(const QByteArray &state, const char *marker)
 {
     const int found = state.indexOf(marker);
@@ -95,7 +95,7 @@ void TreeState::loadExpansion(QTreeView &tree, const QByteArray &state)
 {
     if (!tree.model())
         return;
-    // Whoever listens to the tree may change its rows or its model meanwhile.
+    // Slots of the tree may change its rows or its model meanwhile.
     std::vector<QPersistentModelIndex> toToggle;
     forEachCategoryPath(*tree.model(), [&](const QModelIndex &index, const QByteArray &path) {
         if (index.model() == tree.model() && tree.isExpanded(index) != state.contains(path))

@@ -4,122 +4,211 @@
 
 namespace {
 
-/** Beyond ASCII QRegExp folds case in one way or another, as it chooses to search; not where there is no case. */
-bool foldsInOneWay(const QString &text)
+bool isWildcard(QChar c)
 {
-    return std::all_of(text.begin(), text.end(), [](QChar c) {
-        return c.unicode() < 0x80
-            || (!c.isSurrogate() && c.toLower() == c && c.toUpper() == c && c.toCaseFolded() == c);
-    });
+    return c == QLatin1Char('*') || c == QLatin1Char('?') || c == QLatin1Char('[') || c == QLatin1Char(']');
 }
 
-/** What is to be found, if that is a plain text; empty otherwise. */
-QString literalOf(const QString &glob)
+/** Names are nearly always ASCII. */
+ushort toLower(ushort c)
+{
+    if (c < 0x80)
+        return c >= 'A' && c <= 'Z' ? ushort(c + ('a' - 'A')) : c;
+    return QChar(c).toLower().unicode();
+}
+
+/** In it there is one way only to ignore case. */
+bool isAscii(const QString &text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
+}
+
+/** \a pattern without "*" at both ends if the rest is plain text, empty otherwise. */
+QString textBetweenStars(const QString &pattern)
 {
     int first = 0;
-    int end = glob.size();
-    while (first < end && glob[first] == QLatin1Char('*'))
+    int end = pattern.size();
+    while (first < end && pattern[first] == QLatin1Char('*'))
         ++first;
-    while (first < end && glob[end - 1] == QLatin1Char('*'))
+    while (first < end && pattern[end - 1] == QLatin1Char('*'))
         --end;
-    const QString text = glob.mid(first, end - first);
-    return text.contains(QLatin1Char('*')) || text.contains(QLatin1Char('?')) ? QString() : text;
+    const QString text = pattern.mid(first, end - first);
+    const bool isPlain =
+        std::none_of(text.begin(), text.end(), [](QChar c) { return isWildcard(c) || c == QLatin1Char('\\'); });
+    return isPlain ? text : QString();
 }
 
 } // namespace
 
 WildcardMatcher::WildcardMatcher()
-    : m_regExp(QStringLiteral("*"), Qt::CaseInsensitive, QRegExp::Wildcard)
 {
-    prepare();
+    parse();
 }
 
 void WildcardMatcher::setPattern(const QString &pattern)
 {
-    m_regExp.setPattern(pattern);
-    prepare();
+    m_pattern = pattern;
+    parse();
 }
 
 void WildcardMatcher::setCaseSensitivity(Qt::CaseSensitivity sensitivity)
 {
-    m_regExp.setCaseSensitivity(sensitivity);
-    prepare();
-}
-
-void WildcardMatcher::prepare()
-{
-    m_glob = QString();
-    m_searchGlob = QString();
-    m_literal = QString();
-    const QString pattern = m_regExp.pattern();
-    // Sets of characters, brackets without a partner and backslashes are left to QRegExp.
-    if (pattern.contains(QLatin1Char('[')) || pattern.contains(QLatin1Char(']')) || pattern.contains(QLatin1Char('\\')))
-        return;
-    const bool foldsCase = m_regExp.caseSensitivity() == Qt::CaseInsensitive;
-    if (foldsCase && !foldsInOneWay(pattern))
-        return;
-    m_glob = foldsCase ? pattern.toLower() : pattern;
-    if (m_glob.isNull())
-        m_glob = QLatin1String("");
-    m_searchGlob = QLatin1Char('*') + m_glob + QLatin1Char('*');
-    m_literal = literalOf(m_glob);
-    m_search = QStringMatcher(m_literal, m_regExp.caseSensitivity());
+    m_sensitivity = sensitivity;
+    parse();
 }
 
 bool WildcardMatcher::matchesAll() const
 {
-    if (m_glob.isNull())
-        return false;
-    for (const QChar c : m_glob) {
-        if (c != QLatin1Char('*'))
-            return false;
-    }
-    return true;
+    return m_isValid && std::all_of(m_elements.begin(), m_elements.end(), [](const Element &element) {
+               return element.kind == AnyText;
+           });
 }
 
+/**
+ * Beyond ASCII there are three ways to ignore case, intentionally, as QRegExp has them: plain text is searched by its
+ * case folding, sets also take the upper and the lower case of a character, all else compares lower case. They differ
+ * in few characters: "ς" finds "Σ", "ς*" does not. Two answers of QRegExp are not repeated: "İ" is not found in itself,
+ * and a title case letter ("ǅ") is in no set that names it.
+ */
 bool WildcardMatcher::isIn(const QString &text) const
 {
-    if (!canMatch(text))
-        return m_regExp.indexIn(text) >= 0;
-    return m_literal.isEmpty() ? matchesWhole(text, m_searchGlob) : m_search.indexIn(text) >= 0;
+    if (!m_search.pattern().isEmpty() && (m_isPlain || isAscii(text)))
+        return m_search.indexIn(text) >= 0;
+    return matchesWhole(text, true);
 }
 
 bool WildcardMatcher::isAll(const QString &text) const
 {
-    return canMatch(text) ? matchesWhole(text, m_glob) : m_regExp.exactMatch(text);
+    return matchesWhole(text, false);
 }
 
-bool WildcardMatcher::canMatch(const QString &text) const
+void WildcardMatcher::parse()
 {
-    return !m_glob.isNull() && (m_regExp.caseSensitivity() == Qt::CaseSensitive || foldsInOneWay(text));
-}
-
-/** Walks text and pattern at once; after a mismatch the last "*" takes one character more. */
-bool WildcardMatcher::matchesWhole(const QString &text, const QString &glob) const
-{
-    const bool foldCase = m_regExp.caseSensitivity() == Qt::CaseInsensitive;
-    int at = 0;
-    int in = 0;
-    int starIn = -1;
-    int starAt = 0;
-    while (at < text.size()) {
-        if (in < glob.size() && glob[in] == QLatin1Char('*')) {
-            starIn = ++in;
-            starAt = at;
-            continue;
-        }
-        const QChar c = foldCase ? text[at].toLower() : text[at];
-        if (in < glob.size() && (glob[in] == QLatin1Char('?') || glob[in] == c)) {
-            ++in;
+    m_elements.clear();
+    m_sets.clear();
+    m_isValid = true;
+    for (int at = 0; at < m_pattern.size() && m_isValid;) {
+        const QChar c = m_pattern[at];
+        if (c == QLatin1Char('\\')) {
+            at = parseBackslashes(at);
+        } else if (c == QLatin1Char('[')) {
+            at = parseSet(at);
+        } else {
+            m_isValid = c != QLatin1Char(']');
+            if (isWildcard(c))
+                m_elements.push_back({c == QLatin1Char('*') ? AnyText : AnyCharacter, 0, 0});
+            else
+                addCharacter(c);
             ++at;
-            continue;
         }
-        if (starIn < 0)
-            return false;
-        in = starIn;
-        at = ++starAt;
     }
-    while (in < glob.size() && glob[in] == QLatin1Char('*'))
-        ++in;
-    return in == glob.size();
+    const QString text = textBetweenStars(m_pattern);
+    m_isPlain = text == m_pattern;
+    m_search = QStringMatcher(m_isPlain || isAscii(text) ? text : QString(), m_sensitivity);
+}
+
+/** Parses the backslashes from \a at on and the character that they escape; where to go on. */
+int WildcardMatcher::parseBackslashes(int at)
+{
+    for (; at < m_pattern.size() && m_pattern[at] == QLatin1Char('\\'); ++at)
+        addCharacter(QLatin1Char('\\'));
+    if (at == m_pattern.size())
+        return at;
+    if (!isWildcard(m_pattern[at]))
+        addCharacter(QLatin1Char('\\'));
+    addCharacter(m_pattern[at]);
+    return at + 1;
+}
+
+/** Parses the set from its "[" on, at \a at; where to go on. */
+int WildcardMatcher::parseSet(int at)
+{
+    const int size = m_pattern.size();
+    CharacterSet set;
+    ++at;
+    if (at < size && m_pattern[at] == QLatin1Char('^')) {
+        set.isNegated = true;
+        ++at;
+    }
+    const int first = at;
+    while (at < size && (at == first || m_pattern[at] != QLatin1Char(']'))) {
+        const bool isRange =
+            at + 2 < size && m_pattern[at + 1] == QLatin1Char('-') && m_pattern[at + 2] != QLatin1Char(']');
+        const ushort from = m_pattern[at].unicode();
+        const ushort to = m_pattern[isRange ? at + 2 : at].unicode();
+        set.ranges.push_back(std::minmax({from, to}));
+        at += isRange ? 3 : 1;
+    }
+    m_isValid = at < size;
+    m_elements.push_back({Set, 0, m_sets.size()});
+    m_sets.push_back(std::move(set));
+    return at + 1;
+}
+
+void WildcardMatcher::addCharacter(QChar c)
+{
+    const ushort character = c.unicode();
+    m_elements.push_back({Character, m_sensitivity == Qt::CaseInsensitive ? toLower(character) : character, 0});
+}
+
+bool WildcardMatcher::CharacterSet::contains(ushort character) const
+{
+    return std::any_of(ranges.begin(), ranges.end(), [character](const std::pair<ushort, ushort> &range) {
+        return character >= range.first && character <= range.second;
+    });
+}
+
+bool WildcardMatcher::matchesSet(const CharacterSet &set, ushort character) const
+{
+    bool isIn = set.contains(character);
+    if (!isIn && m_sensitivity == Qt::CaseInsensitive)
+        isIn = set.contains(toLower(character)) || set.contains(QChar(character).toUpper().unicode());
+    return isIn != set.isNegated;
+}
+
+bool WildcardMatcher::matches(const Element &element, ushort character) const
+{
+    switch (element.kind) {
+    case Character:
+        return element.character == (m_sensitivity == Qt::CaseInsensitive ? toLower(character) : character);
+    case Set:
+        return matchesSet(m_sets[element.set], character);
+    default:
+        return true;
+    }
+}
+
+/**
+ * Walks text and pattern at once; after a mismatch the last "*" takes one character more. That is enough: an earlier
+ * one could only give the rest less room. With \a inside any text may stand before and after.
+ */
+bool WildcardMatcher::matchesWhole(const QString &text, bool inside) const
+{
+    if (!m_isValid)
+        return false;
+    const size_t count = m_elements.size();
+    size_t element = 0;
+    size_t afterStar = 0;
+    bool hasStar = inside;
+    int at = 0;
+    int starEnd = 0;
+    while (at < text.size()) {
+        if (inside && element == count)
+            return true;
+        if (element < count && m_elements[element].kind == AnyText) {
+            hasStar = true;
+            afterStar = ++element;
+            starEnd = at;
+        } else if (element < count && matches(m_elements[element], text[at].unicode())) {
+            ++element;
+            ++at;
+        } else if (hasStar) {
+            element = afterStar;
+            at = ++starEnd;
+        } else {
+            return false;
+        }
+    }
+    const auto isStar = [](const Element &rest) { return rest.kind == AnyText; };
+    return std::all_of(m_elements.begin() + std::ptrdiff_t(element), m_elements.end(), isStar);
 }

@@ -33,7 +33,7 @@ public:
     bool RestoreState(INodeMap *pNodeMap, GENICAM_NAMESPACE::gcstring_vector *pErrorList = nullptr);
 
 private:
-    friend std::ostream &operator<<(std::ostream &os, const CFeatureBag &FeatureBag);
+    friend ORV_GENAPI_EXPORT std::ostream &operator<<(std::ostream &os, const CFeatureBag &FeatureBag);
 
     std::vector<std::pair<GENICAM_NAMESPACE::gcstring, GENICAM_NAMESPACE::gcstring>> m_selectors;
     size_t m_position = 0;

@@ -1,9 +1,10 @@
 #pragma once
 
+#include <OrvCameraGuiApi/background/nodemapclock.h>
+#include <OrvCameraGuiApi/background/reportrelay.h>
 #include <OrvCameraGuiApi/camconfig/orvcamconfigmapper.h>
 #include <OrvCameraGuiApi/camera_api/orvcam.h>
 #include <OrvCameraGuiApi/camera_api/orvgenparam.h>
-#include <OrvCameraGuiApi/feature_tree/nodemapclock.h>
 
 #include <QObject>
 #include <QScopedPointer>

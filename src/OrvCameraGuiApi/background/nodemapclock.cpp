@@ -1,6 +1,6 @@
-#include <OrvCameraGuiApi/feature_tree/nodemapclock.h>
+#include <OrvCameraGuiApi/background/nodemapclock.h>
 
-#include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
+#include <OrvCameraGuiApi/background/periods.h>
 
 #include <QHash>
 #include <QScopedValueRollback>
@@ -13,8 +13,6 @@ using Clocks = QHash<GenApi::INodeMap *, std::weak_ptr<NodeMapClock>>;
 Q_GLOBAL_STATIC(Clocks, runningClocks)
 
 } // namespace
-
-std::chrono::milliseconds NodeMapClock::period{200};
 
 NodeMapClock::NodeMapClock(GenApi::INodeMap *map)
     : m_map(map)
@@ -46,7 +44,7 @@ void NodeMapClock::count(Role role, int difference)
     if (!isNeeded)
         m_timer.stop();
     else if (!m_timer.isActive())
-        m_timer.start(period);
+        m_timer.start(OrvGui::periods().poll);
 }
 
 /** Not once more from an event loop that a report runs. */
@@ -56,7 +54,11 @@ void NodeMapClock::poll()
         return;
     const auto alive = shared_from_this(); // a report may end the last use
     const QScopedValueRollback<bool> polling(m_isPolling, true);
-    failureOf([this] { m_map->Poll(m_sincePoll.restart()); });
+    try {
+        m_map->Poll(m_sincePoll.restart());
+    } catch (...) {
+        // Whatever a camera's library throws: the next poll tries again.
+    }
 }
 
 NodeMapClock::Use::Use(GenApi::INodeMap *map, Role role)

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <functional>
 #include <map>
+#include <sstream>
 
 namespace OrvGenApi::fuzz {
 
@@ -13,7 +14,7 @@ using namespace GenApi;
 
 namespace {
 
-class Device final : public IPort
+class Device final : public IPortStacked
 {
 public:
     EAccessMode GetAccessMode() const override { return RW; }
@@ -32,6 +33,12 @@ public:
         const auto *const bytes = static_cast<const uint8_t *>(buffer);
         for (int64_t i = 0; i < length; ++i)
             m_written[static_cast<uint64_t>(address) + static_cast<uint64_t>(i)] = bytes[i];
+    }
+
+    void Write(PORT_REGISTER_STACK_ENTRY *entries, size_t count) override
+    {
+        for (size_t i = 0; i < count; ++i)
+            Write(entries[i].pBuffer, static_cast<int64_t>(entries[i].Address), static_cast<int64_t>(entries[i].Size));
     }
 
     bool isExhausted() const { return m_left == 0; }
@@ -134,7 +141,15 @@ void readNode(INode *node)
                [&] { node->IsFeature(); }, [&] { CSelectorPtr(node)->GetSelectedFeatures(features); },
                [&] { CSelectorPtr(node)->GetSelectingFeatures(features); });
     GenICam::gcstring_vector names;
-    attemptAll([&] { node->GetPropertyNames(names); }, [&] { node->GetParents(linked); });
+    attemptAll([&] { node->GetPropertyNames(names); }, [&] { node->GetParents(linked); },
+               [&] { node->GetNodeMap()->GetNode(node->GetName(true)); }, [&] { node->GetPrincipalInterfaceType(); },
+               [&] { node->IsAccessModeCacheable(); }, [&] { node->IsDeprecated(); }, [&] { node->GetDocuURL(); },
+               [&] { node->GetEventID(); }, [&] { node->GetAlias(); }, [&] { node->GetCastAlias(); });
+    for (const GenICam::gcstring &name : names) {
+        GenICam::gcstring value;
+        GenICam::gcstring attribute;
+        attempt([&] { node->GetProperty(name, value, attribute); });
+    }
     for (int kind = ctParentNodes; kind <= ctValueChangingChildren; ++kind)
         attempt([&] { node->GetChildren(linked, static_cast<ELinkType>(kind)); });
     if (const auto value = dynamic_cast<IValue *>(node))
@@ -183,6 +198,45 @@ void writeNode(INode *node, bool verify)
     attempt([&] { node->InvalidateNode(); });
 }
 
+void impose(INode *node)
+{
+    if (const auto integer = dynamic_cast<IInteger *>(node))
+        attemptAll([&] { integer->ImposeMin(-1); }, [&] { integer->ImposeMax(INT64_MAX); });
+    if (const auto number = dynamic_cast<IFloat *>(node))
+        attemptAll([&] { number->ImposeMin(0.25); }, [&] { number->ImposeMax(-1e300); });
+    attemptAll([&] { node->ImposeVisibility(Guru); }, [&] { node->ImposeAccessMode(RO); });
+}
+
+/** The streamable features leave the map as a text and come back, and several are written in one access. */
+void streamFeatures(INodeMap *map, const NodeList_t &nodes)
+{
+    attempt([&] {
+        CFeatureBag stored;
+        CFeatureBag loaded;
+        std::stringstream text;
+        stored.StoreToBag(map, 100);
+        text << stored;
+        text >> loaded;
+        loaded.LoadFromBag(map);
+    });
+    CNodeWriteConcatenatorRef writes(map->NewNodeWriteConcatenator());
+    for (INode *node : nodes)
+        attempt([&] { writes._Add(node->GetName(), node->GetName().size() % 2 ? "1" : "0.5"); });
+    GenICam::gcstring_vector errors;
+    attemptAll([&] { map->ConcatenatedWrite(writes, false, &errors); }, [&] { map->ParseSwissKnifes(&errors); });
+}
+
+void injectInto(std::string_view description)
+{
+    CNodeMapFactory injected("<RegisterDescription><Category Name=\"Root\"><pFeature>Injected</pFeature></Category>"
+                             "<Integer Name=\"Injected\" MergePriority=\"1\"><Value>1</Value></Integer>"
+                             "</RegisterDescription>");
+    CNodeMapFactory factory(ContentType_Xml, description.data(), description.size());
+    factory.AddInjectionData(injected);
+    const CNodeMapRef map(factory.CreateNodeMap());
+    map._GetNode("Injected");
+}
+
 } // namespace
 
 void exerciseDescription(std::string_view description)
@@ -210,9 +264,12 @@ void exerciseDescription(std::string_view description)
             Deregister(handles[i]);
         forEach([](INode *node) { writeNode(node, false); });
         map->InvalidateNodes();
+        streamFeatures(map.get(), nodes);
+        forEach(impose);
         forEach(readNode);
         map->connect(nullptr);
     });
+    attempt([&] { injectInto(description); });
 }
 
 } // namespace OrvGenApi::fuzz

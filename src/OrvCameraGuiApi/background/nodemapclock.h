@@ -5,15 +5,14 @@
 #include <QElapsedTimer>
 #include <QTimer>
 
-#include <chrono>
 #include <memory>
 
 /**
- * Polls a node map while somebody looks at it.
+ * Polls a node map every Periods::poll while it has users.
  *
- * There is one clock a node map, however many look: a map adds what each poll tells to the time that has passed, and
- * two pollers would have its features read twice as often as they declare. A poll tells the real time since the last
- * one. All of it belongs to the GUI thread, on which the features report then.
+ * Each node map has one clock, however many users it has. A map adds up the times that polls pass to it, so two pollers
+ * would read its features twice as often as they declare. Each poll passes the real time since the last one. GUI thread
+ * only; features that a poll changes report on this thread.
  *
  *     NodeMapClock::Use clock(nodeMap); // polled from now on
  *     clock = {};                       // no longer
@@ -38,16 +37,13 @@ public:
         Use(Use &&other) noexcept;
         Use &operator=(Use &&other) noexcept;
 
-        /** Whoever polls itself does so now. */
+        /** To be called by a user of the role PollsItself with each of its polls. */
         void polls();
 
     private:
         std::shared_ptr<NodeMapClock> m_clock;
         Role m_role = Looks;
     };
-
-    /** How often a map is polled; for clocks that start afterwards. */
-    static std::chrono::milliseconds period;
 
     ~NodeMapClock();
 

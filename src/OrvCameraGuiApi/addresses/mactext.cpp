@@ -1,4 +1,4 @@
-#include <OrvCameraGuiApi/device_selection/mactext.h>
+#include <OrvCameraGuiApi/addresses/mactext.h>
 
 #include <QStringList>
 

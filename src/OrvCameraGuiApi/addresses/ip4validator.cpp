@@ -1,4 +1,4 @@
-#include <OrvCameraGuiApi/device_selection/ip4validator.h>
+#include <OrvCameraGuiApi/addresses/ip4validator.h>
 
 #include <QStringList>
 

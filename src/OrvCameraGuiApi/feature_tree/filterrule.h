@@ -1,0 +1,23 @@
+#pragma once
+
+#include <OrvCameraGuiApi/feature_tree/wildcardmatcher.h>
+
+#include <GenApi/GenApi.h>
+
+/** Which features pass the filter of the feature tree, each asked by itself. */
+struct FilterRule
+{
+    /**
+     * Whether \a node passes, which may be null. Whatever cannot be read of a node does not keep it from being shown.
+     * The access mode, which may ask the device, is asked for last.
+     */
+    bool accepts(GenApi::INode *node) const;
+
+    int level = 0; ///< the highest visibility that passes
+    WildcardMatcher pattern; ///< for display names; an empty one lets every name pass
+    bool wholeWords = false; ///< whether the pattern has to match the whole name
+    bool matchesNodeNames = false; ///< whether a match of the GenICam name will do too
+
+private:
+    bool acceptsName(GenApi::INode &node) const;
+};

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <OrvCameraGuiApi/feature_tree/controldata.h>
+
+#include <memory>
+
+/** A new editor for a cell, held until it is complete: nothing leaks when a getter throws meanwhile. */
+template <typename Editor>
+std::unique_ptr<Editor> makeFrameless()
+{
+    auto editor = std::make_unique<Editor>(static_cast<QWidget *>(nullptr));
+    editor->setFrame(false);
+    return editor;
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <OrvCameraGuiApi/background/reportrelay.h>
+
+#include <GenApi/GenApi.h>
+
+/**
+ * What a node calls when it changes: reports the tag that stands for the node, so that nobody need look for it. Small,
+ * because there is one for each feature: all of them share one relay.
+ */
+template <typename Tag>
+class NodeChangeCallback
+{
+public:
+    using Reporter = typename OrvGui::ReportRelay<Tag>::Reporter;
+
+    NodeChangeCallback(const Reporter &reporter, const Tag &tag)
+        : m_reporter(reporter)
+        , m_tag(tag)
+    {
+    }
+
+    void operator()(GenApi::INode *) const { m_reporter.report(m_tag); }
+    explicit operator bool() const { return true; } // GenApi asks before it calls
+
+private:
+    Reporter m_reporter;
+    Tag m_tag;
+};
