@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+
+namespace OrvCameraApi {
+
+/** The failure of a camera link, with a text for people. */
+class LinkError : public std::runtime_error
+{
+public:
+    enum class Kind {
+        Failed, ///< the camera has refused the access
+        Denied, ///< another program controls the camera
+        Silent ///< the camera has not answered
+    };
+
+    LinkError(Kind kind, const std::string &text)
+        : std::runtime_error(text)
+        , m_kind(kind)
+    {
+    }
+
+    Kind kind() const { return m_kind; }
+
+private:
+    Kind m_kind;
+};
+
+/**
+ * An open camera at the other end of a wire. Its functions may take seconds; one thread uses them. They throw LinkError.
+ */
+class CameraLink
+{
+public:
+    virtual ~CameraLink() = default;
+
+    /** The description as the camera stores it: XML, or a ZIP archive of one file. */
+    virtual std::string description() = 0;
+
+    virtual void read(void *buffer, std::uint64_t address, std::uint32_t length) = 0;
+    virtual void write(const void *buffer, std::uint64_t address, std::uint32_t length) = 0;
+
+    /** Whether the camera still belongs to this link. Asked while there is nothing else to do; may ask the camera. */
+    virtual bool isAlive() = 0;
+};
+
+} // namespace OrvCameraApi
