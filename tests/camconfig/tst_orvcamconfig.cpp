@@ -154,8 +154,7 @@ private Q_SLOTS:
         QCOMPARE(camera.takeWrites(), 1);
         QTest::keyClick(lines, Qt::Key_Return);
         QCOMPARE(camera.value("Frame_ExposureLines"), QStringLiteral("25"));
-        waitForSteps(5);
-        QCOMPARE(camera.takeWrites(), 3); // now the selector has gone to and fro
+        QTRY_COMPARE(OrvSim::writeCount(twoFrame), std::uint64_t(3)); // now the selector has gone to and fro
     }
 
     /** A camera may report its mode with each poll, and with each write of the selector. */

@@ -364,6 +364,7 @@ private Q_SLOTS:
             QCOMPARE((QVector<int>{box.minimum(), box.maximum(), box.singleStep(), box.value()}), row.shown);
             mapper.updateSlider(&param, &slider, converter);
             QCOMPARE(slider.maximum(), row.plainSliderMaximum ? row.plainSliderMaximum : row.shown[1]);
+            QCOMPARE(slider.singleStep(), row.shown[2]);
             QCOMPARE(slider.value(), row.shown[3]);
             QCOMPARE(param.writes, Writes());
             mapper.unmapAll();
