@@ -70,6 +70,8 @@ private Q_SLOTS:
         QVERIFY(findDevice(*second, twoFrame));
         second->Release();
 
+        OrvSim::clear();
+        QVERIFY(!getSystem()->GetInterfaceList(OrvCam::AllInterfaceTypes));
         OrvSim::setSystemAvailable(false);
         QVERIFY(!OrvCam_GetSystem());
         QCOMPARE(OrvSim::liveObjects().systemReferences, std::size_t(0));

@@ -244,6 +244,23 @@ private Q_SLOTS:
             QVERIFY(shown.enter("Amount", "1"));
         }
     }
+
+    /** Whoever hears that the current item moves on may end it all. */
+    void isTakenApartWhileRowsGo()
+    {
+        for (const bool byFilter : {true, false}) {
+            ShownView shown(description());
+            QVERIFY(shown.show());
+            shown.click(shown.cell("Gain 30", GenParamTreeModel::NameColumn));
+            connect(shown.tree->selectionModel(), &QItemSelectionModel::currentChanged, &shown.view,
+                    [&shown] { shown.view.clearParams(); });
+            if (byFilter)
+                shown.part<QLineEdit>("filterLineEdit")->setText(QStringLiteral("Top"));
+            else
+                shown.node<GenApi::CFloatPtr>("Amount")->SetValue(0);
+            QTRY_VERIFY(!shown.tree->model());
+        }
+    }
 };
 
 ORV_TEST_MAIN(TestGenParamTreeFilterView)

@@ -142,6 +142,27 @@ private Q_SLOTS:
         QVERIFY(shown.cell("Gain").isValid() && shown.cell("Ratio").isValid());
     }
 
+    void keepsItsSettingsForANewNodeMap()
+    {
+        const FeatureCamera other(polledNodes());
+        ShownView shown;
+        failGetter(*shown.map, "Exposure", "GetValue");
+        QVERIFY(shown.show());
+        shown.click(shown.cell("Exposure"));
+        auto *const pane = shown.part<QTextBrowser>("whatsThisLabel");
+        QVERIFY(pane->toPlainText().startsWith(QLatin1String("Name: Exposure")));
+        QTest::keyClicks(shown.part<QLineEdit>("filterLineEdit"), QStringLiteral("e*r"));
+        QTest::keyClick(shown.part<QComboBox>("cbVisibility"), Qt::Key_B);
+        shown.view.setParams(other.map.get());
+        QVERIFY(shown.cell("Never").isValid());
+        QVERIFY(!shown.cell("Slow").isValid() && !shown.cell("Device").isValid());
+        QVERIFY(showsIcon(shown.part<QToolButton>("pbStatus")->icon(), "://images//ok.png"));
+        QVERIFY(pane->toPlainText().isEmpty());
+        shown.view.setVisibility(OrvGui::Guru);
+        shown.view.setVisibility(OrvGui::Visibility(3));
+        QCOMPARE(shown.view.visibility(), OrvGui::Guru);
+    }
+
     void keysDoNoHarm()
     {
         QWidget host;

@@ -67,6 +67,7 @@ private Q_SLOTS:
     {
         const QString dotted = QStringLiteral("\u0130");
         QVERIFY(matcherOf(dotted, Qt::CaseInsensitive).isIn(dotted));
+        QVERIFY(!matcherOf(QStringLiteral("[a-c]"), Qt::CaseSensitive).isIn(QStringLiteral("-")));
         const QString digraph = QStringLiteral("\u01c5");
         QVERIFY(matcherOf(QLatin1Char('[') + digraph + QLatin1Char(']'), Qt::CaseInsensitive).isAll(digraph));
     }
