@@ -288,9 +288,9 @@ void Node::GetSelectingFeatures(FeatureList_t &Features) const
 }
 
 /**
- * Access modes may hang on one another in a circle, through the entries of an enumeration: a mode that is being worked
- * out counts as RW. So does one whose conditions have thrown, which is told once, until something changes. One that was
- * worked out before stands even if a condition throws now.
+ * Access modes may depend on one another in a circle, through the entries of an enumeration: a mode that is being
+ * worked out counts as RW. So does one whose conditions have thrown, which is told once, until something changes. One
+ * that was worked out before stands even if a condition throws now.
  */
 EAccessMode Node::accessMode() const
 {
@@ -349,15 +349,16 @@ EAccessMode Node::computeAccessMode() const
     EAccessMode mode = RW;
     if (!ignoresConditions()) {
         mode = firstAccess();
-        if (mode != NI)
+        const bool isConditional = m_isImplemented || m_isAvailable || m_isLocked; // few nodes are
+        if (isConditional && mode != NI)
             mode = combined(mode, availabilityOf({m_isImplemented, m_isAvailable, m_isLocked}));
         if (mode != NI)
             mode = combined(mode, readAccess());
-        if (mode != NI)
+        if (isConditional && mode != NI)
             mode = combined(mode, allowed(m_isImplemented, true, NI));
-        if (IsAvailable(mode))
+        if (isConditional && IsAvailable(mode))
             mode = combined(mode, allowed(m_isAvailable, true, NA));
-        if (isWritable(mode))
+        if (isConditional && isWritable(mode))
             mode = combined(mode, allowed(m_isLocked, false, RO));
         if (mode == NI)
             return NI;
@@ -379,17 +380,13 @@ bool Node::hasCachableConditions() const
     return isCachable(m_isImplemented) && isCachable(m_isAvailable) && isCachable(m_isLocked);
 }
 
-EAccessMode Node::availability(const Node *node)
-{
-    const EAccessMode mode = node ? node->accessMode() : RW;
-    return mode == NI || mode == NA ? mode : RW;
-}
-
 EAccessMode Node::availabilityOf(std::initializer_list<const Node *> nodes)
 {
     EAccessMode mode = RW;
-    for (auto node = nodes.begin(); node != nodes.end() && mode != NI; ++node)
-        mode = combined(mode, availability(*node));
+    for (auto node = nodes.begin(); node != nodes.end() && mode != NI; ++node) {
+        if (*node)
+            mode = combined(mode, availability(*node));
+    }
     return mode;
 }
 

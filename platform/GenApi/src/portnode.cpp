@@ -39,7 +39,7 @@ IPort *PortNode::connected() const
 void PortNode::connect(IPort *port)
 {
     m_port = port;
-    m_kept.clear();
+    clearKept();
     if (const auto construct = dynamic_cast<IPortConstruct *>(port))
         construct->SetPortImpl(this);
 }
@@ -116,18 +116,28 @@ GenICam::gcstring PortNode::property(const char *name) const
     return found == properties.end() ? "" : found->second.value.c_str();
 }
 
-const std::string *PortNode::kept(int64_t address, int64_t length) const
+PortNode::KeptRange &PortNode::kept(const Range &range)
 {
-    const auto found = m_kept.find({address, length});
-    return found == m_kept.end() ? nullptr : &found->second;
+    constexpr std::size_t most = 200000; // registers that wander leave something behind wherever they were
+    const auto found = m_kept.find(range);
+    if (found != m_kept.end())
+        return *found;
+    if (m_kept.size() >= most)
+        clearKept();
+    return *m_kept.emplace(range, Kept()).first;
 }
 
-void PortNode::keep(int64_t address, int64_t length, std::string bytes)
+void PortNode::drop(const Range &range)
 {
-    constexpr std::size_t most = 100000; // registers that wander leave something behind wherever they were
-    if (m_kept.size() >= most)
-        m_kept.clear();
-    m_kept[{address, length}] = std::move(bytes);
+    const auto found = m_kept.find(range);
+    if (found != m_kept.end())
+        found->second.reset();
+}
+
+void PortNode::clearKept()
+{
+    m_kept.clear();
+    ++m_keptEpoch;
 }
 
 GenApi::EAccessMode PortNode::valueAccess() const

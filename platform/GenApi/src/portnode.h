@@ -59,13 +59,27 @@ public:
     void read(void *buffer, int64_t address, int64_t length);
     void write(const void *buffer, int64_t address, int64_t length);
 
+    /** A range of bytes on the device. */
+    struct Range
+    {
+        int64_t address;
+        int64_t length;
+
+        bool operator==(const Range &other) const { return address == other.address && length == other.length; }
+    };
+
+    using Kept = std::optional<std::string>; ///< the bytes that were read or written last, if they are known
+    using KeptRange = std::pair<const Range, Kept>;
+
     /**
-     * What was read from or written to a range of bytes last; null when that is not known. Registers at the same place
-     * share it, and none looks at the others' when ranges only overlap.
+     * Registers at the same range share what is kept; ranges that only overlap do not look at each other. The object
+     * stays where it is as long as keptEpoch() is the same.
      */
-    const std::string *kept(int64_t address, int64_t length) const;
-    void keep(int64_t address, int64_t length, std::string bytes);
-    void drop(int64_t address, int64_t length) { m_kept.erase({address, length}); }
+    KeptRange &kept(const Range &range);
+    uint64_t keptEpoch() const { return m_keptEpoch; }
+
+    /** Drops what is kept of \a range, if anything is. */
+    void drop(const Range &range);
 
 protected:
     GenApi::EAccessMode firstAccess() const override { return GenApi::RW; }
@@ -88,24 +102,19 @@ private:
         std::string bytes;
     };
 
-    struct Place
+    struct RangeHash
     {
-        int64_t address;
-        int64_t length;
-
-        bool operator==(const Place &other) const { return address == other.address && length == other.length; }
-    };
-
-    struct PlaceHash
-    {
-        std::size_t operator()(const Place &place) const
+        std::size_t operator()(const Range &range) const
         {
-            return std::hash<uint64_t>()(static_cast<uint64_t>(place.address) * 31
-                                         + static_cast<uint64_t>(place.length));
+            return std::hash<uint64_t>()(static_cast<uint64_t>(range.address) * 31
+                                         + static_cast<uint64_t>(range.length));
         }
     };
 
-    std::unordered_map<Place, std::string, PlaceHash> m_kept;
+    void clearKept();
+
+    std::unordered_map<Range, Kept, RangeHash> m_kept;
+    uint64_t m_keptEpoch = 1;
     GenApi::IPort *m_port = nullptr;
     GenApi::IPortWriteList *m_recorder = nullptr;
     std::optional<std::vector<StackedWrite>> m_stack; ///< there while writes are collected

@@ -92,20 +92,37 @@ void RegisterData::requirePort(const Node &owner) const
         owner.throwNoAccess("available, nor is its port");
 }
 
+/** Registers seldom move: the port need not look for the range each time. */
+PortNode::Kept &RegisterData::kept(const PortNode::Range &range)
+{
+    if (m_keptEpoch != m_port->keptEpoch() || !(m_kept->first == range)) {
+        m_kept = &m_port->kept(range);
+        m_keptEpoch = m_port->keptEpoch();
+    }
+    return m_kept->second;
+}
+
+void RegisterData::drop(const PortNode::Range &range)
+{
+    if (m_keptEpoch == m_port->keptEpoch() && m_kept->first == range)
+        m_kept->second.reset();
+    else
+        m_port->drop(range);
+}
+
 std::string RegisterData::read(Node &owner, bool ignoreCache)
 {
     requirePort(owner);
     const Place at = place(owner);
+    const PortNode::Range range{at.address, at.length};
     const bool isKept = owner.cachingMode() != NoCache;
-    if (!ignoreCache && isKept) {
-        if (const std::string *const kept = m_port->kept(at.address, at.length))
-            return *kept;
-    }
-    m_port->drop(at.address, at.length);
+    if (!ignoreCache && isKept && kept(range))
+        return *kept(range);
+    drop(range);
     std::string bytes(static_cast<std::size_t>(at.length), '\0');
     m_port->read(bytes.data(), at.address, at.length);
     if (isKept && (!ignoreCache || owner.map().m_renewing))
-        m_port->keep(at.address, at.length, bytes);
+        kept(range) = bytes;
     return bytes;
 }
 
@@ -113,7 +130,8 @@ void RegisterData::write(Node &owner, std::string bytes, Changes &changes)
 {
     requirePort(owner);
     const Place at = place(owner);
-    m_port->drop(at.address, at.length);
+    const PortNode::Range range{at.address, at.length};
+    drop(range);
     changes.add(owner); // before writing: when the port fails half-way, nothing that was kept can be trusted
     try {
         m_port->write(bytes.data(), at.address, static_cast<int64_t>(bytes.size()));
@@ -122,13 +140,13 @@ void RegisterData::write(Node &owner, std::string bytes, Changes &changes)
         throw;
     }
     if (owner.cachingMode() == WriteThrough && static_cast<int64_t>(bytes.size()) == at.length)
-        m_port->keep(at.address, at.length, std::move(bytes));
+        kept(range) = std::move(bytes);
 }
 
 void RegisterData::dropCache()
 {
     if (m_port && m_place.addressIn != 0)
-        m_port->drop(m_place.address, m_place.length);
+        drop({m_place.address, m_place.length});
 }
 
 /** A part of a register, from its start, is as good as the whole. */

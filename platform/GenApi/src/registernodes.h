@@ -58,6 +58,8 @@ private:
         uint64_t lengthIn = 0;
     };
 
+    PortNode::Kept &kept(const PortNode::Range &range);
+    void drop(const PortNode::Range &range);
     const Place &place(const Node &owner);
     int64_t computeAddress(const Node &owner);
     void requirePort(const Node &owner) const;
@@ -67,6 +69,8 @@ private:
     std::vector<AddressTerm> m_addressTerms;
     IntRef m_length;
     Place m_place;
+    PortNode::KeptRange *m_kept = nullptr; ///< found last, good in m_keptEpoch of the port
+    uint64_t m_keptEpoch = 0;
     GenApi::EAccessMode m_accessMode = GenApi::RO;
     GenApi::ECachingMode m_cachable = GenApi::WriteThrough;
     bool m_bigEndian = false;

@@ -25,11 +25,11 @@ Q_DECLARE_METATYPE(OrvCam::Interface *)
  * lists them; one column, read-only. Items come into being when a view fetches them.
  *
  * Qt::UserRole is the OrvCam::Interface or OrvCam::DeviceInfo of an item. These belong to the camera access library,
- * which is asked for every text that is shown: nothing of them is kept but their identifiers.
+ * which is asked for every text that is shown: only their identifiers are kept.
  *
- * What the system has is found out at the beginning, by rescan(), or in the background: checkNew() looks, updateModel()
- * takes over what it saw. Either of the latter two is a reset of the model, upon which no index is good any more; an
- * item is found again by its identifier.
+ * The system is enumerated by the constructor, by rescan(), or in the background: checkNew() enumerates, updateModel()
+ * adopts the result. rescan() and updateModel() reset the model, so no index stays valid; an item is found again by its
+ * identifier.
  *
  * checkNew() may be called from one other thread while the model is used on its own, the GUI's; everything else is for
  * that thread only. Neither ever waits for the other longer than a pointer takes to be copied.
@@ -113,7 +113,7 @@ public:
     /** Shows what the last checkNew() has found. */
     void updateModel();
 
-    /** What the model shows now. */
+    /** The interfaces that the model shows now. */
     const Interfaces &interfaces() const { return m_current->interfaces; }
     const std::vector<OrvCam::DeviceInfo *> &devicesOn(const QString &interfaceId) const;
 

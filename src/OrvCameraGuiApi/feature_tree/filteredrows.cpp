@@ -275,7 +275,7 @@ std::vector<FilteredRows::Change> FilteredRows::evaluate()
 {
     std::vector<Change> changes;
     Rows rows;
-    // Not by iterators: a node that is asked may report a change, upon which somebody asks for a branch.
+    // Not by iterators: a node that is asked may report a change, and its receiver may ask for a branch.
     for (size_t i = 0; i < m_branches.size(); ++i) {
         Branch *const first = m_branches[i].get();
         if (!first->isComplete || m_firstBranches.value(first->source.internalId()) != first)
