@@ -10,6 +10,7 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <utility>
 #include <vector>
 
 class DeviceInfoNode;
@@ -85,6 +86,9 @@ public:
 
     Key keyOf(const QModelIndex &index) const;
 
+    /** Whether indexOf(\a key) would find the item at \a index; as a rule without looking at the others. */
+    bool isKeyOf(const Key &key, const QModelIndex &index) const;
+
     /**
      * The item of that key, or the device below another interface if it has gone there; invalid when there is none.
      * Unlike texts, bytes are never alike where identifiers differ. Where several objects have one identifier, only
@@ -133,10 +137,11 @@ private:
 
     using Visit = std::function<void(InterfaceNode *transport, DeviceInfoNode *device)>;
 
-    void forEachItem(const Visit &visit) const;
+    void forEachItem(bool isDevice, const Visit &visit) const;
     Snapshot enumerate() const;
     void show(Snapshot state);
     DeviceTreeNode *nodeOf(const QModelIndex &index) const;
+    std::pair<InterfaceNode *, DeviceInfoNode *> nodesOf(const QModelIndex &index) const;
 
     OrvCam::System *const m_system; ///< for the other thread, which must not ask the root: that is replaced
     std::unique_ptr<RootNode> m_root;

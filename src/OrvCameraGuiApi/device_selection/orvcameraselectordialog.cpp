@@ -248,10 +248,15 @@ void OrvCameraSelectorDialogPrivate::connectTree()
     QObject::connect(tree, &QTreeView::activated, okButton(), &QPushButton::click);
     QObject::connect(tree, &QTreeView::customContextMenuRequested, q,
                      [this](const QPoint &position) { showContextMenu(position); });
-    QObject::connect(tree, &QTreeView::collapsed, q,
-                     [this](const QModelIndex &index) { closed.append(model->keyOf(index)); });
+    // A view that expands or collapses everything emits these signals for devices too.
+    QObject::connect(tree, &QTreeView::collapsed, q, [this](const QModelIndex &index) {
+        if (!index.parent().isValid())
+            closed.append(model->keyOf(index));
+    });
     QObject::connect(tree, &QTreeView::expanded, q, [this](const QModelIndex &index) {
-        const auto isOpen = [&](const DeviceTreeModel::Key &key) { return model->indexOf(key) == index; };
+        if (index.parent().isValid())
+            return;
+        const auto isOpen = [&](const DeviceTreeModel::Key &key) { return model->isKeyOf(key, index); };
         closed.erase(std::remove_if(closed.begin(), closed.end(), isOpen), closed.end());
     });
     QObject::connect(model, &QAbstractItemModel::modelReset, tree, &QTreeView::expandAll);
