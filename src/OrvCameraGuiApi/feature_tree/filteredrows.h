@@ -152,6 +152,7 @@ private:
     void readSourceRows(Branch &branch) const;
     void findListedAgain(const Branch &branch);
     void evaluate(const Branch &branch, Rows &rows) const;
+    Branch *recentBranchWith(const QModelIndex &source) const;
     Branch *firstBranchWith(const QModelIndex &source);
     int firstRowOf(const Branch &branch, const QModelIndex &source) const;
 
