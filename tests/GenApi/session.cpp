@@ -168,26 +168,12 @@ QByteArray reg(const char *kind, const QByteArray &name, const char *address, co
                     + more);
 }
 
-void addColumns()
+void check(const char *what, const QByteArray &nodes, const char *script, const char *answers, Session::Memory memory)
 {
-    QTest::addColumn<QByteArray>("nodes");
-    QTest::addColumn<QByteArray>("script");
-    QTest::addColumn<QByteArray>("answers");
-}
-
-void addRow(const char *what, const QByteArray &nodes, const char *script, const char *answers)
-{
-    QTest::newRow(what) << nodes << QByteArray(script) << QByteArray(answers);
-}
-
-void checkRow(Session::Memory memory)
-{
-    QFETCH(QByteArray, nodes);
-    QFETCH(QByteArray, script);
-    QFETCH(QByteArray, answers);
+    const QByteArray title = QByteArray(what) + ": ";
     try {
-        QCOMPARE(Session(nodes, memory).run(script), answers);
+        QCOMPARE(title + Session(nodes, memory).run(script), title + answers);
     } catch (const GenICam::GenericException &error) {
-        QFAIL(error.what());
+        QFAIL(title + error.what());
     }
 }

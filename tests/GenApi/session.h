@@ -72,11 +72,6 @@ QByteArray node(const char *kind, const QByteArray &name, const QByteArray &cont
 /** A register of 4 bytes, big endian, readable and writable unless \a more says otherwise. */
 QByteArray reg(const char *kind, const QByteArray &name, const char *address, const QByteArray &more = {});
 
-/** A row of a table for checkRow(): \a script run on \a nodes answers \a answers. */
-void addRow(const char *what, const QByteArray &nodes, const char *script, const char *answers);
-
-/** The columns that addRow() fills. */
-void addColumns();
-
-/** Runs the current row. */
-void checkRow(Session::Memory memory);
+/** \a script run on \a nodes answers \a answers; \a what stands in the message otherwise. */
+void check(const char *what, const QByteArray &nodes, const char *script, const char *answers,
+           Session::Memory memory = Session::Memory::Zeros);

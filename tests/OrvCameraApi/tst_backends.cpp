@@ -89,11 +89,6 @@ struct MemoryBackend final : Backend
     std::optional<Interfaces> listed = Interfaces{interface};
 };
 
-void countCalls(const void *, unsigned long, void *calls)
-{
-    ++*static_cast<int *>(calls);
-}
-
 } // namespace
 
 /** The contract on transports other than the simulation, with nothing of the simulation linked. */
@@ -108,11 +103,65 @@ private Q_SLOTS:
         m_backends = std::make_unique<std::array<MemoryBackend, 2>>();
         m_system = nullptr;
     }
-    void cleanup();
 
-    void oneSystemOfSeveralTransports();
-    void devicesOfAnyTransport();
-    void failuresOfATransport();
+    void cleanup()
+    {
+        if (m_system)
+            m_system->Release();
+        const LiveCounts &live = liveCounts();
+        QCOMPARE(live.systemReferences + live.lists + live.devices + live.eventCallbacks, std::size_t(0));
+        TestCase::cleanup();
+    }
+
+    void oneSystemOfSeveralTransports()
+    {
+        backend(1).interface->names.id = "second";
+        acquire();
+        const auto both = interfaces();
+        QCOMPARE(both->size(), std::size_t(2));
+        QVERIFY(!both->front()->GetID());
+        QCOMPARE(both->back()->GetID(), "second");
+        QCOMPARE(interfaces(), both); // one object for each
+        QCOMPARE(interfaces(1), both);
+        QCOMPARE(interfaces(2)->size(), std::size_t(0));
+        backend(0).listed.reset();
+        QCOMPARE(interfaces()->front(), both->back());
+        backend(1).listed.reset();
+        QVERIFY(!interfaces());
+        m_system->Release();
+
+        backend(0).isThere = false;
+        backend(0).listed = backend(1).listed = Backend::Interfaces{backend(1).interface};
+        acquire();
+        QCOMPARE(interfaces()->size(), std::size_t(1));
+        m_system->Release();
+        backend(1).isThere = false;
+        acquire();
+        QVERIFY(!m_system);
+    }
+
+    void failuresOfATransport()
+    {
+        acquire();
+        MemoryCamera &camera = *backend(0).interface->camera;
+        OrvCamErr err = OrvCamErr_Ok;
+        QVERIFY(!Device::open(deviceInfo(), OrvCam::DeviceAccessControl + 1, &err)); // throws
+        QCOMPARE(err, OrvCamErr_GenICamGenericError);
+        camera.isThere = false;
+        QVERIFY(!Device::open(deviceInfo(), OrvCam::DeviceAccessControl, &err));
+        QCOMPARE(err, OrvCamErr_NoDevice);
+        camera.isThere = true;
+        camera.xml = "<half";
+        Device *const device = Device::open(deviceInfo(), OrvCam::DeviceAccessControl, &err);
+        QCOMPARE(err, OrvCamErr_Ok);
+        QVERIFY(!device->GetCameraParameters(&err));
+        QVERIFY(err != OrvCamErr_Ok);
+        camera.xml = description;
+        QVERIFY(device->GetCameraParameters(&err));
+        device->Release();
+        QVERIFY(!interfaces()->front()->GetParameters(&err));
+        QCOMPARE(err, OrvCamErr_GenICamGenericError);
+    }
 
 private:
     MemoryBackend &backend(std::size_t i) { return m_backends->at(i); }
@@ -127,15 +176,6 @@ private:
     std::unique_ptr<std::array<MemoryBackend, 2>> m_backends;
     OrvCam::System *m_system = nullptr;
 };
-
-void TestBackends::cleanup()
-{
-    if (m_system)
-        m_system->Release();
-    const LiveCounts &live = liveCounts();
-    QCOMPARE(live.systemReferences + live.lists + live.devices + live.eventCallbacks, std::size_t(0));
-    TestCase::cleanup();
-}
 
 std::optional<std::vector<OrvCam::Interface *>> TestBackends::interfaces(std::uint32_t mask)
 {
@@ -155,85 +195,6 @@ DeviceInfo &TestBackends::deviceInfo()
     auto *const info = dynamic_cast<DeviceInfo *>(list->GetFirst());
     list->Release();
     return *info;
-}
-
-void TestBackends::oneSystemOfSeveralTransports()
-{
-    backend(1).interface->names.id = "second";
-    acquire();
-    const auto both = interfaces();
-    QCOMPARE(both->size(), std::size_t(2));
-    QVERIFY(!both->front()->GetID());
-    QCOMPARE(both->back()->GetID(), "second");
-    QCOMPARE(interfaces(), both); // one object for each
-    QCOMPARE(interfaces(1), both);
-    QCOMPARE(interfaces(2)->size(), std::size_t(0));
-    backend(0).listed.reset();
-    QCOMPARE(interfaces()->front(), both->back());
-    backend(1).listed.reset();
-    QVERIFY(!interfaces());
-    m_system->Release();
-
-    backend(0).isThere = false;
-    backend(0).listed = backend(1).listed = Backend::Interfaces{backend(1).interface};
-    acquire();
-    QCOMPARE(interfaces()->size(), std::size_t(1));
-    m_system->Release();
-    backend(1).isThere = false;
-    acquire();
-    QVERIFY(!m_system);
-}
-
-void TestBackends::devicesOfAnyTransport()
-{
-    acquire();
-    MemoryCamera &camera = *backend(0).interface->camera;
-    Device *const device = Device::open(deviceInfo(), OrvCam::DeviceAccessControl, nullptr);
-    QVERIFY(device);
-    QCOMPARE(camera.registers.readCount(), std::uint64_t(0));
-    int losses = 0;
-    device->RegisterEvent(OrvCam::EventDeviceDisconnected, countCalls, &losses);
-    OrvGenParam::Int *const level = device->GetCameraParameters(nullptr)->GetInt("Level", nullptr);
-    QCOMPARE(level->SetValue(7), OrvCamErr_Ok);
-    QCOMPARE(level->GetValue(nullptr), std::int64_t(7));
-
-    camera.isThere = false;
-    camera.listener.lock()->raise(OrvCam::EventDeviceDisconnected);
-    OrvCamErr err = OrvCamErr_Ok;
-    QVERIFY(!device->GetCameraParameters(&err));
-    QCOMPARE(err, OrvCamErr_NoDevice);
-    QCOMPARE(level->SetValue(8), OrvCamErr_NoDevice);
-    camera.registers.clear();
-    camera.listener.lock()->prepareReturn();
-    camera.isThere = true;
-    camera.listener.lock()->raise(OrvCam::EventDeviceConnected);
-    QCOMPARE(losses, 1);
-    QCOMPARE(level->GetValue(nullptr), std::int64_t(0));
-    device->Release();
-    QVERIFY(camera.listener.expired());
-}
-
-void TestBackends::failuresOfATransport()
-{
-    acquire();
-    MemoryCamera &camera = *backend(0).interface->camera;
-    OrvCamErr err = OrvCamErr_Ok;
-    QVERIFY(!Device::open(deviceInfo(), OrvCam::DeviceAccessControl + 1, &err)); // throws
-    QCOMPARE(err, OrvCamErr_GenICamGenericError);
-    camera.isThere = false;
-    QVERIFY(!Device::open(deviceInfo(), OrvCam::DeviceAccessControl, &err));
-    QCOMPARE(err, OrvCamErr_NoDevice);
-    camera.isThere = true;
-    camera.xml = "<half";
-    Device *const device = Device::open(deviceInfo(), OrvCam::DeviceAccessControl, &err);
-    QCOMPARE(err, OrvCamErr_Ok);
-    QVERIFY(!device->GetCameraParameters(&err));
-    QVERIFY(err != OrvCamErr_Ok);
-    camera.xml = description;
-    QVERIFY(device->GetCameraParameters(&err));
-    device->Release();
-    QVERIFY(!interfaces()->front()->GetParameters(&err));
-    QCOMPARE(err, OrvCamErr_GenICamGenericError);
 }
 
 ORV_TEST_MAIN(TestBackends)

@@ -11,33 +11,6 @@
 
 using namespace SimTest;
 
-/** Opened devices: opening, events, loss and return, registers that fail or hang. */
-class TestDevice : public OrvTest::TestCase
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void init()
-    {
-        TestCase::init();
-        OrvSim::reset();
-    }
-    void cleanup();
-
-    void opening_data();
-    void opening();
-    void readOnlyDevices();
-    void outlivesTheSystem();
-    void eventsOfUnpluggingAndReplugging();
-    void eventsFromOtherThreads();
-    void unregisteringWaitsForTheCallback();
-    void callbacksThatUnregisterOrRelease();
-    void lossAndReturn();
-    void camerasKeepTheirRegisters();
-    void registersThatFail();
-    void unpluggingEndsAHangingAccess();
-};
-
 namespace {
 
 /** Remembers the events of a device. */
@@ -73,280 +46,259 @@ void watch(OrvCam::Device &device, Log &log)
 
 } // namespace
 
-void TestDevice::cleanup()
+/** Opened devices: opening, events, loss and return, registers that fail or hang. */
+class TestDevice : public OrvTest::TestCase
 {
-    OrvSim::reset();
-    const OrvSim::LiveObjects live = OrvSim::liveObjects();
-    QCOMPARE(live.devices, std::size_t(0));
-    QCOMPARE(live.eventCallbacks, std::size_t(0));
-    QCOMPARE(live.systemReferences, std::size_t(0));
-    TestCase::cleanup();
-}
+    Q_OBJECT
 
-void TestDevice::opening_data()
-{
-    QTest::addColumn<int>("status");
-    QTest::addColumn<int>("refusal");
-    QTest::addColumn<int>("expected");
-
-    QTest::newRow("read and write") << 1 << 0 << int(OrvCamErr_Ok);
-    QTest::newRow("unknown status") << 55 << 0 << int(OrvCamErr_Ok);
-    QTest::newRow("no access") << 3 << 0 << int(OrvCamErr_InvalidState);
-    QTest::newRow("foreign subnet") << 1001 << 0 << int(OrvCamErr_NoDevice);
-    QTest::newRow("refused") << 1 << int(OrvCamErr_WrongConfiguration) << int(OrvCamErr_WrongConfiguration);
-}
-
-void TestDevice::opening()
-{
-    QFETCH(const int, status);
-    QFETCH(const int, refusal);
-    QFETCH(const int, expected);
-    QVERIFY(OrvSim::setAccessStatus(twoFrame, status));
-    QVERIFY(OrvSim::refuseToOpen(twoFrame, OrvCamErr(refusal)));
-    OrvCamErr err = OrvCamErr_UnknownError;
-    const Held<OrvCam::Device> device = open(twoFrame, &err);
-    QCOMPARE(int(err), expected);
-    QCOMPARE(device != nullptr, expected == OrvCamErr_Ok);
-    QCOMPARE(OrvSim::liveObjects().devices, std::size_t(device ? 1 : 0));
-    QVERIFY(!open("nobody", &err));
-    QCOMPARE(err, OrvCamErr_InvalidArgument);
-    QVERIFY(!OrvCam_CreateDevice(nullptr, OrvCam::DeviceAccessControl, nullptr));
-}
-
-void TestDevice::readOnlyDevices()
-{
-    OrvSim::setAccessStatus(twoFrame, OrvCam::AccessStatusReadOnly);
-    const Held<OrvCam::Device> device = open(twoFrame);
-    OrvGenParam::Int *const level = device->GetCameraParameters(nullptr)->GetInt("Frame_BlackLevel", nullptr);
-    QVERIFY(level->IsReadable());
-    QVERIFY(!level->IsWritable());
-    QCOMPARE(level->GetValue(nullptr), std::int64_t(16));
-    QCOMPARE(level->SetValue(17), OrvCamErr_GenICamAccessError);
-}
-
-void TestDevice::outlivesTheSystem()
-{
-    Held<OrvCam::Device> device = open(twoFrame); // gives the system back
-    QCOMPARE(OrvSim::liveObjects().systemReferences, std::size_t(0));
-    OrvGenParam::Array *const array = device->GetCameraParameters(nullptr);
-    QCOMPARE(array->GetString("DeviceUserID", nullptr)->GetValue(nullptr), "Line 1");
-    OrvSim::reset();
-    OrvCamErr err = OrvCamErr_Ok;
-    array->GetIntegerValue("Frame_Width", &err);
-    QCOMPARE(err, OrvCamErr_NoDevice);
-}
-
-void TestDevice::eventsOfUnpluggingAndReplugging()
-{
-    const Held<OrvCam::Device> device = open(twoFrame);
-    const Held<OrvCam::Device> other = open(monochrome);
-    Log log;
-    Log otherLog;
-    watch(*device, log);
-    watch(*device, log); // the same again is one registration
-    watch(*other, otherLog);
-    QCOMPARE(OrvSim::liveObjects().eventCallbacks, std::size_t(4));
-    for (int i = 0; i < 2; ++i)
-        OrvSim::unplug(twoFrame);
-    OrvSim::replug(twoFrame);
-    QCOMPARE(log.events, (QVector<quint32>{1004, 1003}));
-    QCOMPARE(log.thread, std::this_thread::get_id());
-    QVERIFY(otherLog.events.isEmpty());
-
-    device->UnregisterEvent(OrvCam::EventDeviceConnected, noteConnected, &log);
-    device->UnregisterEvent(OrvCam::EventDeviceConnected, noteConnected, &log);
-    OrvSim::unplug("ORV-ETH-0");
-    OrvSim::replug("ORV-ETH-0");
-    QCOMPARE(log.events, (QVector<quint32>{1004, 1003, 1004}));
-    QCOMPARE(device->RegisterEvent(OrvCam::EventDeviceConnected, nullptr, &log), OrvCamErr_InvalidArgument);
-}
-
-void TestDevice::eventsFromOtherThreads()
-{
-    const Held<OrvCam::Device> device = open(twoFrame);
-    Log log;
-    watch(*device, log);
-    OrvSim::setEventsFromOtherThread(true);
-    for (int i = 0; i < 3; ++i) {
-        OrvSim::unplug(twoFrame);
-        OrvSim::replug(twoFrame);
+private Q_SLOTS:
+    void init()
+    {
+        TestCase::init();
+        OrvSim::reset();
     }
-    OrvSim::waitForEvents();
-    QCOMPARE(log.events, (QVector<quint32>{1004, 1003, 1004, 1003, 1004, 1003}));
-    QVERIFY(log.thread != std::this_thread::get_id());
-    OrvSim::unplug(twoFrame);
-    OrvSim::setEventsFromOtherThread(false); // delivers the rest
-    QCOMPARE(log.events.size(), 7);
-}
 
-void TestDevice::unregisteringWaitsForTheCallback()
-{
-    struct Rendezvous
+    void cleanup()
     {
-        std::mutex mutex;
-        std::condition_variable changed;
-        bool entered = false;
-        bool mayLeave = false;
-        std::atomic<bool> left{false};
-
-        static void meet(const void *, unsigned long, void *context)
-        {
-            auto &self = *static_cast<Rendezvous *>(context);
-            std::unique_lock<std::mutex> lock(self.mutex);
-            self.entered = true;
-            self.changed.notify_all();
-            self.changed.wait(lock, [&self] { return self.mayLeave; });
-            self.left = true;
-        }
-    };
-    const Held<OrvCam::Device> device = open(twoFrame);
-    Rendezvous meeting;
-    device->RegisterEvent(OrvCam::EventDeviceDisconnected, Rendezvous::meet, &meeting);
-    OrvSim::setEventsFromOtherThread(true);
-    OrvSim::unplug(twoFrame);
-    {
-        std::unique_lock<std::mutex> lock(meeting.mutex);
-        meeting.changed.wait(lock, [&meeting] { return meeting.entered; });
+        OrvSim::reset();
+        const OrvSim::LiveObjects live = OrvSim::liveObjects();
+        QCOMPARE(live.devices, std::size_t(0));
+        QCOMPARE(live.eventCallbacks, std::size_t(0));
+        QCOMPARE(live.systemReferences, std::size_t(0));
+        TestCase::cleanup();
     }
-    std::atomic<bool> leftBeforeReturn{false};
-    std::thread leaving([&] {
-        device->UnregisterEvent(OrvCam::EventDeviceDisconnected, Rendezvous::meet, &meeting);
-        leftBeforeReturn = meeting.left.load();
-    });
-    // Unregistered already, but the call is still running.
-    QTRY_COMPARE(OrvSim::liveObjects().eventCallbacks, std::size_t(0));
+
+    void opening()
     {
-        const std::lock_guard<std::mutex> lock(meeting.mutex);
-        meeting.mayLeave = true;
-        meeting.changed.notify_all();
+        const std::tuple<int, OrvCamErr, OrvCamErr> rows[] = {
+            {OrvCam::AccessStatusReadWrite, OrvCamErr_Ok, OrvCamErr_Ok},
+            {55, OrvCamErr_Ok, OrvCamErr_Ok}, // unknown
+            {OrvCam::AccessStatusNoAccess, OrvCamErr_Ok, OrvCamErr_InvalidState},
+            {OrvCam::AccessStatusIpSubnetMismatch, OrvCamErr_Ok, OrvCamErr_NoDevice},
+            {OrvCam::AccessStatusReadWrite, OrvCamErr_WrongConfiguration, OrvCamErr_WrongConfiguration},
+        };
+        for (const auto &[status, refusal, expected] : rows) {
+            QVERIFY(OrvSim::setAccessStatus(twoFrame, status));
+            QVERIFY(OrvSim::refuseToOpen(twoFrame, refusal));
+            OrvCamErr err = OrvCamErr_UnknownError;
+            const Held<OrvCam::Device> device = open(twoFrame, &err);
+            QCOMPARE(err, expected);
+            QCOMPARE(device != nullptr, expected == OrvCamErr_Ok);
+            QCOMPARE(OrvSim::liveObjects().devices, std::size_t(device ? 1 : 0));
+            QVERIFY(!open("nobody", &err));
+            QCOMPARE(err, OrvCamErr_InvalidArgument);
+            QVERIFY(!OrvCam_CreateDevice(nullptr, OrvCam::DeviceAccessControl, nullptr));
+        }
     }
-    leaving.join();
-    QVERIFY(leftBeforeReturn);
-}
 
-void TestDevice::callbacksThatUnregisterOrRelease()
-{
-    struct Context
+    void readOnlyDevices()
     {
-        OrvCam::Device *device;
-        int calls;
+        OrvSim::setAccessStatus(twoFrame, OrvCam::AccessStatusReadOnly);
+        const Held<OrvCam::Device> device = open(twoFrame);
+        OrvGenParam::Int *const level = device->GetCameraParameters(nullptr)->GetInt("Frame_BlackLevel", nullptr);
+        QVERIFY(level->IsReadable());
+        QVERIFY(!level->IsWritable());
+        QCOMPARE(level->GetValue(nullptr), std::int64_t(16));
+        QCOMPARE(level->SetValue(17), OrvCamErr_GenICamAccessError);
+    }
 
-        static void unregister(const void *, unsigned long, void *context)
-        {
-            auto &self = *static_cast<Context *>(context);
-            ++self.calls;
-            self.device->UnregisterEvent(OrvCam::EventDeviceDisconnected, unregister, context);
-        }
-        static void release(const void *, unsigned long, void *context)
-        {
-            auto &self = *static_cast<Context *>(context);
-            ++self.calls;
-            self.device->Release();
-        }
-    };
-    for (const bool elsewhere : {false, true}) {
-        OrvSim::setEventsFromOtherThread(elsewhere);
-        Context context{open(twoFrame).release(), 0};
-        context.device->RegisterEvent(OrvCam::EventDeviceDisconnected, Context::unregister, &context);
-        context.device->RegisterEvent(OrvCam::EventDeviceConnected, Context::release, &context);
-        OrvSim::unplug(twoFrame);
+    void eventsOfUnpluggingAndReplugging()
+    {
+        const Held<OrvCam::Device> device = open(twoFrame);
+        const Held<OrvCam::Device> other = open(monochrome);
+        Log log;
+        Log otherLog;
+        watch(*device, log);
+        watch(*device, log); // the same again is one registration
+        watch(*other, otherLog);
+        QCOMPARE(OrvSim::liveObjects().eventCallbacks, std::size_t(4));
+        for (int i = 0; i < 2; ++i)
+            OrvSim::unplug(twoFrame);
         OrvSim::replug(twoFrame);
-        OrvSim::unplug(twoFrame);
-        OrvSim::replug(twoFrame);
+        QCOMPARE(log.events, (QVector<quint32>{1004, 1003}));
+        QCOMPARE(log.thread, std::this_thread::get_id());
+        QVERIFY(otherLog.events.isEmpty());
+
+        device->UnregisterEvent(OrvCam::EventDeviceConnected, noteConnected, &log);
+        device->UnregisterEvent(OrvCam::EventDeviceConnected, noteConnected, &log);
+        OrvSim::unplug("ORV-ETH-0");
+        OrvSim::replug("ORV-ETH-0");
+        QCOMPARE(log.events, (QVector<quint32>{1004, 1003, 1004}));
+        QCOMPARE(device->RegisterEvent(OrvCam::EventDeviceConnected, nullptr, &log), OrvCamErr_InvalidArgument);
+    }
+
+    void eventsFromOtherThreads()
+    {
+        const Held<OrvCam::Device> device = open(twoFrame);
+        Log log;
+        watch(*device, log);
+        OrvSim::setEventsFromOtherThread(true);
+        for (int i = 0; i < 3; ++i) {
+            OrvSim::unplug(twoFrame);
+            OrvSim::replug(twoFrame);
+        }
         OrvSim::waitForEvents();
-        QCOMPARE(context.calls, 2);
-        QCOMPARE(OrvSim::liveObjects().devices, std::size_t(0));
+        QCOMPARE(log.events, (QVector<quint32>{1004, 1003, 1004, 1003, 1004, 1003}));
+        QVERIFY(log.thread != std::this_thread::get_id());
+        OrvSim::unplug(twoFrame);
+        OrvSim::setEventsFromOtherThread(false); // delivers the rest
+        QCOMPARE(log.events.size(), 7);
     }
-}
 
-void TestDevice::lossAndReturn()
-{
-    const Held<OrvCam::Device> device = open(twoFrame);
-    OrvGenParam::Array *const array = device->GetCameraParameters(nullptr);
-    OrvGenParam::Int *const level = array->GetInt("Frame_BlackLevel", nullptr);
-    OrvGenParam::Enum *const mode = array->GetEnum("FrameMode", nullptr);
-    QCOMPARE(level->SetValue(99), OrvCamErr_Ok);
-    Sink sink;
-    level->RegisterEvent(&sink);
-    OrvSim::unplug(twoFrame);
+    void unregisteringWaitsForTheCallback()
+    {
+        struct Rendezvous
+        {
+            std::mutex mutex;
+            std::condition_variable changed;
+            bool entered = false;
+            bool mayLeave = false;
+            std::atomic<bool> left{false};
 
-    OrvCamErr err = OrvCamErr_Ok;
-    QCOMPARE(level->GetValue(&err), std::int64_t(0));
-    QCOMPARE(err, OrvCamErr_NoDevice);
-    QCOMPARE(level->SetValue(5), OrvCamErr_NoDevice);
-    QVERIFY(!mode->GetValueStr(&err));
-    QCOMPARE(array->GetCommand("TriggerSoftware", nullptr)->Execute(), OrvCamErr_NoDevice);
-    QVERIFY(!level->IsAvailable() && !level->IsReadable() && !level->IsWritable());
-    QCOMPARE(level->GetName(), "Frame_BlackLevel");
-    QVERIFY(!device->GetCameraParameters(&err));
-    QCOMPARE(err, OrvCamErr_NoDevice);
-    GenApi::INode *const node = array->GetNodeMap()->GetNode("CurrentTemperature");
-    QVERIFY_EXCEPTION_THROWN(GenApi::CIntegerPtr(node)->GetValue(), GenICam::GenericException);
+            static void meet(const void *, unsigned long, void *context)
+            {
+                auto &self = *static_cast<Rendezvous *>(context);
+                std::unique_lock<std::mutex> lock(self.mutex);
+                self.entered = true;
+                self.changed.notify_all();
+                self.changed.wait(lock, [&self] { return self.mayLeave; });
+                self.left = true;
+            }
+        };
+        const Held<OrvCam::Device> device = open(twoFrame);
+        Rendezvous meeting;
+        device->RegisterEvent(OrvCam::EventDeviceDisconnected, Rendezvous::meet, &meeting);
+        OrvSim::setEventsFromOtherThread(true);
+        OrvSim::unplug(twoFrame);
+        {
+            std::unique_lock<std::mutex> lock(meeting.mutex);
+            meeting.changed.wait(lock, [&meeting] { return meeting.entered; });
+        }
+        std::atomic<bool> leftBeforeReturn{false};
+        std::thread leaving([&] {
+            device->UnregisterEvent(OrvCam::EventDeviceDisconnected, Rendezvous::meet, &meeting);
+            leftBeforeReturn = meeting.left.load();
+        });
+        // Unregistered already, but the call is still running.
+        QTRY_COMPARE(OrvSim::liveObjects().eventCallbacks, std::size_t(0));
+        {
+            const std::lock_guard<std::mutex> lock(meeting.mutex);
+            meeting.mayLeave = true;
+            meeting.changed.notify_all();
+        }
+        leaving.join();
+        QVERIFY(leftBeforeReturn);
+    }
 
-    QVERIFY(OrvSim::setRegister(twoFrame, "Frame_BlackLevel", "7"));
-    OrvSim::replug(twoFrame);
-    QCOMPARE(device->GetCameraParameters(nullptr), array);
-    QCOMPARE(level->GetValue(nullptr), std::int64_t(7));
-    QCOMPARE(sink.count, 1); // on return everything is asked for again
-    QCOMPARE(level->SetValue(8), OrvCamErr_Ok);
-    QCOMPARE(sink.count, 2);
-    level->UnregisterEvent(&sink);
-}
+    void callbacksThatUnregisterOrRelease()
+    {
+        struct Context
+        {
+            OrvCam::Device *device;
+            int calls;
 
-void TestDevice::camerasKeepTheirRegisters()
-{
-    QCOMPARE(open(twoFrame)->GetCameraParameters(nullptr)->SetIntegerValue("Frame_BlackLevel", 55), OrvCamErr_Ok);
-    const auto level = [] {
-        return open(twoFrame)->GetCameraParameters(nullptr)->GetIntegerValue("Frame_BlackLevel", nullptr);
-    };
-    QCOMPARE(level(), std::int64_t(55));
-    QVERIFY(OrvSim::setRegister(twoFrame, "Frame_BlackLevelReg", "56"));
-    QCOMPARE(level(), std::int64_t(56));
-    QVERIFY(!OrvSim::setRegister(twoFrame, "Frame_BlackLevel", "dark"));
-    QVERIFY(!OrvSim::setRegister(twoFrame, "Nothing", "1"));
-    OrvSim::reset();
-    QCOMPARE(level(), std::int64_t(16));
-}
+            static void unregister(const void *, unsigned long, void *context)
+            {
+                auto &self = *static_cast<Context *>(context);
+                ++self.calls;
+                self.device->UnregisterEvent(OrvCam::EventDeviceDisconnected, unregister, context);
+            }
+            static void release(const void *, unsigned long, void *context)
+            {
+                auto &self = *static_cast<Context *>(context);
+                ++self.calls;
+                self.device->Release();
+            }
+        };
+        for (const bool elsewhere : {false, true}) {
+            OrvSim::setEventsFromOtherThread(elsewhere);
+            Context context{open(twoFrame).release(), 0};
+            context.device->RegisterEvent(OrvCam::EventDeviceDisconnected, Context::unregister, &context);
+            context.device->RegisterEvent(OrvCam::EventDeviceConnected, Context::release, &context);
+            OrvSim::unplug(twoFrame);
+            OrvSim::replug(twoFrame);
+            OrvSim::unplug(twoFrame);
+            OrvSim::replug(twoFrame);
+            OrvSim::waitForEvents();
+            QCOMPARE(context.calls, 2);
+            QCOMPARE(OrvSim::liveObjects().devices, std::size_t(0));
+        }
+    }
 
-void TestDevice::registersThatFail()
-{
-    const Held<OrvCam::Device> device = open(twoFrame);
-    OrvGenParam::Array *const array = device->GetCameraParameters(nullptr);
-    OrvGenParam::Int *const level = array->GetInt("Frame_BlackLevel", nullptr);
-    const auto readError = [](OrvGenParam::Int *param) {
-        OrvCamErr err = OrvCamErr_UnknownError;
-        param->GetValue(&err);
-        return err;
-    };
-    const std::int64_t lastByte = 0x1028 + 3;
-    QVERIFY(OrvSim::setFault(twoFrame, lastByte, 1, OrvSim::Fault::FailRead));
-    QCOMPARE(readError(level), OrvCamErr_GenICamGenericError);
-    QCOMPARE(readError(array->GetInt("Frame_Height", nullptr)), OrvCamErr_Ok); // its neighbour
-    QVERIFY(OrvSim::clearFaults(twoFrame));
-    QCOMPARE(readError(level), OrvCamErr_Ok);
-    QVERIFY(OrvSim::setFault(twoFrame, "Frame_BlackLevel", OrvSim::Fault::FailWrite));
-    QCOMPARE(level->SetValue(20), OrvCamErr_GenICamGenericError);
-    QCOMPARE(level->GetValue(nullptr), std::int64_t(16));
-    QVERIFY(OrvSim::clearFaults(twoFrame));
-    QCOMPARE(readError(array->GetInt("KindReadFails", nullptr)), OrvCamErr_GenICamGenericError); // since power-up
-    QVERIFY(!OrvSim::setFault(twoFrame, "Nothing", OrvSim::Fault::FailRead));
-    QVERIFY(!OrvSim::setFault("nobody", 0, 4, OrvSim::Fault::FailRead));
-}
+    void lossAndReturn()
+    {
+        const Held<OrvCam::Device> device = open(twoFrame);
+        OrvGenParam::Array *const array = device->GetCameraParameters(nullptr);
+        OrvGenParam::Int *const level = array->GetInt("Frame_BlackLevel", nullptr);
+        OrvGenParam::Enum *const mode = array->GetEnum("FrameMode", nullptr);
+        QCOMPARE(level->SetValue(99), OrvCamErr_Ok);
+        Sink sink;
+        level->RegisterEvent(&sink);
+        OrvSim::unplug(twoFrame);
 
-void TestDevice::unpluggingEndsAHangingAccess()
-{
-    const Held<OrvCam::Device> device = open(twoFrame);
-    OrvGenParam::Array *const array = device->GetCameraParameters(nullptr);
-    QVERIFY(OrvSim::setFault(twoFrame, "CurrentTemperature", OrvSim::Fault::StallRead));
-    OrvCamErr err = OrvCamErr_Ok;
-    std::thread reader([&] { array->GetIntegerValue("CurrentTemperature", &err); });
-    QVERIFY(OrvSim::waitUntilStalled(twoFrame, 10s));
-    QVERIFY(OrvSim::unplug(twoFrame));
-    reader.join();
-    QCOMPARE(err, OrvCamErr_NoDevice);
-    array->GetIntegerValue("CurrentTemperature", &err); // fails instead of hanging again
-    QCOMPARE(err, OrvCamErr_NoDevice);
-}
+        OrvCamErr err = OrvCamErr_Ok;
+        QCOMPARE(level->GetValue(&err), std::int64_t(0));
+        QCOMPARE(err, OrvCamErr_NoDevice);
+        QCOMPARE(level->SetValue(5), OrvCamErr_NoDevice);
+        QVERIFY(!mode->GetValueStr(&err));
+        QCOMPARE(array->GetCommand("TriggerSoftware", nullptr)->Execute(), OrvCamErr_NoDevice);
+        QVERIFY(!level->IsAvailable() && !level->IsReadable() && !level->IsWritable());
+        QCOMPARE(level->GetName(), "Frame_BlackLevel");
+        QVERIFY(!device->GetCameraParameters(&err));
+        QCOMPARE(err, OrvCamErr_NoDevice);
+        GenApi::INode *const node = array->GetNodeMap()->GetNode("CurrentTemperature");
+        QVERIFY_EXCEPTION_THROWN(GenApi::CIntegerPtr(node)->GetValue(), GenICam::GenericException);
+
+        QVERIFY(OrvSim::setRegister(twoFrame, "Frame_BlackLevel", "7"));
+        OrvSim::replug(twoFrame);
+        QCOMPARE(device->GetCameraParameters(nullptr), array);
+        QCOMPARE(level->GetValue(nullptr), std::int64_t(7));
+        QCOMPARE(sink.count, 1); // on return everything is asked for again
+        QCOMPARE(level->SetValue(8), OrvCamErr_Ok);
+        QCOMPARE(sink.count, 2);
+        level->UnregisterEvent(&sink);
+    }
+
+    void registersThatFail()
+    {
+        const Held<OrvCam::Device> device = open(twoFrame);
+        OrvGenParam::Array *const array = device->GetCameraParameters(nullptr);
+        OrvGenParam::Int *const level = array->GetInt("Frame_BlackLevel", nullptr);
+        const auto readError = [](OrvGenParam::Int *param) {
+            OrvCamErr err = OrvCamErr_UnknownError;
+            param->GetValue(&err);
+            return err;
+        };
+        const std::int64_t lastByte = 0x1028 + 3;
+        QVERIFY(OrvSim::setFault(twoFrame, lastByte, 1, OrvSim::Fault::FailRead));
+        QCOMPARE(readError(level), OrvCamErr_GenICamGenericError);
+        QCOMPARE(readError(array->GetInt("Frame_Height", nullptr)), OrvCamErr_Ok); // its neighbour
+        QVERIFY(OrvSim::clearFaults(twoFrame));
+        QCOMPARE(readError(level), OrvCamErr_Ok);
+        QVERIFY(OrvSim::setFault(twoFrame, "Frame_BlackLevel", OrvSim::Fault::FailWrite));
+        QCOMPARE(level->SetValue(20), OrvCamErr_GenICamGenericError);
+        QCOMPARE(level->GetValue(nullptr), std::int64_t(16));
+        QVERIFY(OrvSim::clearFaults(twoFrame));
+        QCOMPARE(readError(array->GetInt("KindReadFails", nullptr)), OrvCamErr_GenICamGenericError); // since power-up
+        QVERIFY(!OrvSim::setFault(twoFrame, "Nothing", OrvSim::Fault::FailRead));
+        QVERIFY(!OrvSim::setFault("nobody", 0, 4, OrvSim::Fault::FailRead));
+    }
+
+    void unpluggingEndsAHangingAccess()
+    {
+        const Held<OrvCam::Device> device = open(twoFrame);
+        OrvGenParam::Array *const array = device->GetCameraParameters(nullptr);
+        QVERIFY(OrvSim::setFault(twoFrame, "CurrentTemperature", OrvSim::Fault::StallRead));
+        OrvCamErr err = OrvCamErr_Ok;
+        std::thread reader([&] { array->GetIntegerValue("CurrentTemperature", &err); });
+        QVERIFY(OrvSim::waitUntilStalled(twoFrame, 10s));
+        QVERIFY(OrvSim::unplug(twoFrame));
+        reader.join();
+        QCOMPARE(err, OrvCamErr_NoDevice);
+        array->GetIntegerValue("CurrentTemperature", &err); // fails instead of hanging again
+        QCOMPARE(err, OrvCamErr_NoDevice);
+    }
+};
 
 ORV_TEST_MAIN(TestDevice)
 #include "tst_device.moc"

@@ -4,196 +4,6 @@
 
 using namespace SimTest;
 
-/** The simulated system: its lists, interfaces and device descriptions, and changes of them. */
-class TestSystem : public OrvTest::TestCase
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void init()
-    {
-        TestCase::init();
-        OrvSim::reset();
-    }
-    void cleanup();
-
-    void defaultSystem();
-    void referencesAreCounted();
-    void objectsOutliveWhatTheyDescribe();
-    void addedAndRemoved();
-    void enumerationTellsChanges();
-    void forcedAddresses_data();
-    void forcedAddresses();
-    void forceIpThatFails();
-    void unusableCameras_data();
-    void unusableCameras();
-};
-
-void TestSystem::cleanup()
-{
-    const OrvSim::LiveObjects live = OrvSim::liveObjects();
-    QCOMPARE(live.lists, std::size_t(0));
-    QCOMPARE(live.systemReferences, std::size_t(0));
-    TestCase::cleanup();
-}
-
-void TestSystem::defaultSystem()
-{
-    const Held<OrvCam::System> system = getSystem();
-    const std::vector<OrvCam::Interface *> interfaces = interfacesOf(*system);
-    QCOMPARE(interfaces.size(), std::size_t(3));
-    QCOMPARE(interfaces[0]->GetType(), std::int32_t(OrvCam::InterfaceTypeGigEVision));
-    QCOMPARE(interfaces[1]->GetType(), std::int32_t(OrvCam::InterfaceTypeUsb3Vision));
-    QCOMPARE(interfaces[2]->GetType(), std::int32_t(OrvCam::InterfaceTypeCameraLink));
-    QCOMPARE(devicesOf(*interfaces[0]).size(), std::size_t(2));
-    QCOMPARE(devicesOf(*interfaces[2]).size(), std::size_t(0));
-
-    OrvCam::DeviceInfo *const camera = findDevice(*system, twoFrame);
-    OrvCamErr err = OrvCamErr_UnknownError;
-    QCOMPARE(camera->GetIPAddress(&err), "192.168.10.11");
-    QCOMPARE(err, OrvCamErr_Ok);
-    QCOMPARE(camera->GetSubnetMask(nullptr), "255.255.255.0");
-    QCOMPARE(camera->GetGateway(nullptr), "192.168.10.254");
-    QCOMPARE(findDevice(*system, stray)->GetAccessStatus(), std::int32_t(OrvCam::AccessStatusIpSubnetMismatch));
-    QVERIFY(!findDevice(*system, monochrome)->GetIPAddress(&err));
-    QCOMPARE(err, OrvCamErr_InvalidState);
-    OrvGenParam::Array *const controller = interfaces[1]->GetParameters(nullptr);
-    QCOMPARE(controller->GetIntegerValue("DeviceUSBVersionDetected", nullptr), std::int64_t(0x0210));
-}
-
-void TestSystem::referencesAreCounted()
-{
-    OrvCam::System *const first = OrvCam_GetSystem();
-    OrvCam::System *const second = OrvCam_GetSystem();
-    QCOMPARE(first, second);
-    QCOMPARE(OrvSim::liveObjects().systemReferences, std::size_t(2));
-    first->Release();
-    QVERIFY(findDevice(*second, twoFrame));
-    second->Release();
-
-    OrvSim::setSystemAvailable(false);
-    QVERIFY(!OrvCam_GetSystem());
-    QCOMPARE(OrvSim::liveObjects().systemReferences, std::size_t(0));
-}
-
-void TestSystem::objectsOutliveWhatTheyDescribe()
-{
-    const Held<OrvCam::System> system = getSystem();
-    OrvCam::Interface *const adapter = interfacesOf(*system).front();
-    OrvCam::DeviceInfo *const camera = findDevice(*system, twoFrame);
-    const char *const address = camera->GetIPAddress(nullptr);
-    OrvGenParam::Array *const array = adapter->GetParameters(nullptr);
-    QVERIFY(OrvSim::unplug("ORV-ETH-0"));
-    QVERIFY(!OrvSim::replug(twoFrame)); // its interface is gone
-
-    QCOMPARE(interfacesOf(*system).size(), std::size_t(2));
-    QCOMPARE(adapter->GetID(), "ORV-ETH-0");
-    QCOMPARE(camera->GetID(), twoFrame);
-    QCOMPARE(address, "192.168.10.11");
-    OrvCamErr err = OrvCamErr_Ok;
-    QVERIFY(!camera->GetIPAddress(&err));
-    QCOMPARE(err, OrvCamErr_NoDevice);
-    QCOMPARE(camera->ForceIP(1, 2, 3), OrvCamErr_NoDevice);
-    QVERIFY(!adapter->GetParameters(&err));
-    QCOMPARE(err, OrvCamErr_NoDevice);
-    QCOMPARE(array->SetIntegerValue("DeviceSelector", 0), OrvCamErr_NoDevice);
-    QVERIFY(!adapter->GetDeviceInfoList());
-    QCOMPARE(adapter->ReEnumerateDevices(nullptr, 200), OrvCamErr_NoDevice);
-    QVERIFY(!OrvCam_CreateDevice(camera, OrvCam::DeviceAccessControl, &err));
-    QCOMPARE(err, OrvCamErr_NoDevice);
-
-    QVERIFY(OrvSim::replug("ORV-ETH-0"));
-    QCOMPARE(interfacesOf(*system).front(), adapter);
-    QCOMPARE(findDevice(*system, twoFrame), camera);
-    OrvSim::reset();
-    QVERIFY(findDevice(*system, twoFrame) != camera);
-    QCOMPARE(camera->GetID(), twoFrame);
-}
-
-void TestSystem::addedAndRemoved()
-{
-    const Held<OrvCam::System> system = getSystem();
-    OrvSim::DeviceSpec spec = OrvSim::monochromeCamera();
-    QVERIFY(!OrvSim::addDevice("ORV-CL-0", spec)); // no name
-    spec.name = twoFrame;
-    QVERIFY(!OrvSim::addDevice("ORV-CL-0", spec)); // a name in use
-    spec.name = "third";
-    spec.id = twoFrame; // identifiers need not be unique
-    QVERIFY(!OrvSim::addDevice("ORV-CL-9", spec));
-    QVERIFY(OrvSim::addDevice("ORV-ETH-0", spec));
-    QVERIFY(!OrvSim::swapDevices(stray, monochrome));
-    OrvCam::DeviceInfo *const third = devicesOf(*interfacesOf(*system).front()).back();
-    QVERIFY(OrvSim::remove(twoFrame));
-    QVERIFY(!OrvSim::replug(twoFrame));
-    QCOMPARE(findDevice(*system, twoFrame), third);
-    OrvSim::clear();
-    QVERIFY(!system->GetInterfaceList(OrvCam::AllInterfaceTypes));
-    QVERIFY(!OrvSim::setDeviceLists("ORV-ETH-0", OrvSim::Lists::Empty));
-}
-
-void TestSystem::enumerationTellsChanges()
-{
-    const Held<OrvCam::System> system = getSystem();
-    OrvCam::Interface *const adapter = interfacesOf(*system).front();
-    const auto changed = [adapter] {
-        bool flag = false;
-        return adapter->ReEnumerateDevices(&flag, 200) == OrvCamErr_Ok && flag;
-    };
-    QVERIFY(changed());
-    QVERIFY(!changed());
-    OrvSim::unplug(stray);
-    QVERIFY(changed());
-    QVERIFY(!changed());
-    OrvSim::replug(stray);
-    OrvSim::swapDevices(stray, twoFrame);
-    QVERIFY(changed());
-}
-
-void TestSystem::forcedAddresses_data()
-{
-    QTest::addColumn<uint>("address");
-    QTest::addColumn<uint>("mask");
-    QTest::addColumn<int>("status");
-
-    QTest::newRow("in the subnet") << 0xC0A80A0CU << 0xFFFFFF00U << int(OrvCam::AccessStatusReadWrite);
-    QTest::newRow("other subnet") << 0xC0A80B0CU << 0xFFFFFF00U << int(OrvCam::AccessStatusIpSubnetMismatch);
-    QTest::newRow("other mask") << 0xC0A80A0CU << 0xFFFF0000U << int(OrvCam::AccessStatusIpSubnetMismatch);
-    QTest::newRow("the adapter's") << 0xC0A80A01U << 0xFFFFFF00U << int(OrvCam::AccessStatusIpSubnetMismatch);
-}
-
-void TestSystem::forcedAddresses()
-{
-    QFETCH(const uint, address);
-    QFETCH(const uint, mask);
-    QFETCH(const int, status);
-    const Held<OrvCam::System> system = getSystem();
-    for (const char *id : {stray, twoFrame}) {
-        OrvCam::DeviceInfo *const camera = findDevice(*system, id);
-        const QByteArray before = camera->GetIPAddress(nullptr);
-        const char *const kept = camera->GetIPAddress(nullptr);
-        QCOMPARE(camera->ForceIP(address, mask, 0), OrvCamErr_Ok);
-        QCOMPARE(camera->GetAccessStatus(), status);
-        QCOMPARE(camera->GetGateway(nullptr), "0.0.0.0");
-        QCOMPARE(QByteArray(kept), before);
-        const Held<OrvCam::Device> device = open(id);
-        QCOMPARE(device != nullptr, status == OrvCam::AccessStatusReadWrite);
-        if (device) {
-            OrvGenParam::Array *const array = device->GetCameraParameters(nullptr);
-            QCOMPARE(array->GetIntegerValue("GevCurrentIPAddress", nullptr), std::int64_t(address));
-        }
-    }
-}
-
-void TestSystem::forceIpThatFails()
-{
-    const Held<OrvCam::System> system = getSystem();
-    OrvCam::DeviceInfo *const camera = findDevice(*system, stray);
-    QCOMPARE(findDevice(*system, monochrome)->ForceIP(1, 2, 3), OrvCamErr_InvalidState);
-    QVERIFY(OrvSim::refuseForceIp(stray, OrvCamErr_UnknownError));
-    QCOMPARE(camera->ForceIP(0xC0A80A0C, 0xFFFFFF00, 0), OrvCamErr_UnknownError);
-    QCOMPARE(camera->GetIPAddress(nullptr), "10.0.0.12");
-}
-
 namespace {
 
 const char smallDescription[] = R"(<RegisterDescription ModelName="Small" VendorName="Somebody" SchemaMajorVersion="1"
@@ -206,34 +16,180 @@ const char smallDescription[] = R"(<RegisterDescription ModelName="Small" Vendor
 
 } // namespace
 
-void TestSystem::unusableCameras_data()
+/** The simulated system: its lists, interfaces and device descriptions, and changes of them. */
+class TestSystem : public OrvTest::TestCase
 {
-    for (const char *column : {"description", "powerUp", "reason"})
-        QTest::addColumn<QByteArray>(column);
-    const auto row = [](const char *name, const char *description, const char *powerUp, const char *reason) {
-        QTest::newRow(name) << QByteArray(description) << QByteArray(powerUp) << QByteArray(reason);
-    };
-    row("no description", "", "", "");
-    row("verb", smallDescription, "\nsot Level 1", "power-up:2: unknown statement");
-    row("register", smallDescription, "set Depth 1", "power-up:1: no such register");
-    row("ends", smallDescription, "drift Level 2 1 1", "power-up:1: the ends are exchanged");
-    row("value", smallDescription, "set Level much", "power-up:1: ");
-}
+    Q_OBJECT
 
-void TestSystem::unusableCameras()
-{
-    QFETCH(const QByteArray, description);
-    QFETCH(const QByteArray, powerUp);
-    QFETCH(const QByteArray, reason);
-    OrvSim::DeviceSpec spec = OrvSim::cameraFromText(description.toStdString());
-    spec.name = "unusable";
-    spec.powerUp = powerUp.toStdString();
-    std::string error;
-    QVERIFY(!OrvSim::addDevice("ORV-CL-0", spec, &error));
-    QVERIFY2(!error.empty() && error.find(reason.toStdString()) == 0, error.c_str());
-    QVERIFY(!OrvSim::addDevice("ORV-CL-0", spec));
-    QVERIFY(!OrvSim::unplug("unusable"));
-}
+private Q_SLOTS:
+    void init()
+    {
+        TestCase::init();
+        OrvSim::reset();
+    }
+
+    void cleanup()
+    {
+        const OrvSim::LiveObjects live = OrvSim::liveObjects();
+        QCOMPARE(live.lists, std::size_t(0));
+        QCOMPARE(live.systemReferences, std::size_t(0));
+        TestCase::cleanup();
+    }
+
+    void defaultSystem()
+    {
+        const Held<OrvCam::System> system = getSystem();
+        const std::vector<OrvCam::Interface *> interfaces = interfacesOf(*system);
+        QCOMPARE(interfaces.size(), std::size_t(3));
+        QCOMPARE(interfaces[0]->GetType(), std::int32_t(OrvCam::InterfaceTypeGigEVision));
+        QCOMPARE(interfaces[1]->GetType(), std::int32_t(OrvCam::InterfaceTypeUsb3Vision));
+        QCOMPARE(interfaces[2]->GetType(), std::int32_t(OrvCam::InterfaceTypeCameraLink));
+        QCOMPARE(devicesOf(*interfaces[0]).size(), std::size_t(2));
+        QCOMPARE(devicesOf(*interfaces[2]).size(), std::size_t(0));
+
+        OrvCam::DeviceInfo *const camera = findDevice(*system, twoFrame);
+        OrvCamErr err = OrvCamErr_UnknownError;
+        QCOMPARE(camera->GetIPAddress(&err), "192.168.10.11");
+        QCOMPARE(err, OrvCamErr_Ok);
+        QCOMPARE(camera->GetSubnetMask(nullptr), "255.255.255.0");
+        QCOMPARE(camera->GetGateway(nullptr), "192.168.10.254");
+        QCOMPARE(findDevice(*system, stray)->GetAccessStatus(), std::int32_t(OrvCam::AccessStatusIpSubnetMismatch));
+        QVERIFY(!findDevice(*system, monochrome)->GetIPAddress(&err));
+        QCOMPARE(err, OrvCamErr_InvalidState);
+        OrvGenParam::Array *const controller = interfaces[1]->GetParameters(nullptr);
+        QCOMPARE(controller->GetIntegerValue("DeviceUSBVersionDetected", nullptr), std::int64_t(0x0210));
+    }
+
+    void referencesAreCounted()
+    {
+        OrvCam::System *const first = OrvCam_GetSystem();
+        OrvCam::System *const second = OrvCam_GetSystem();
+        QCOMPARE(first, second);
+        QCOMPARE(OrvSim::liveObjects().systemReferences, std::size_t(2));
+        first->Release();
+        QVERIFY(findDevice(*second, twoFrame));
+        second->Release();
+
+        OrvSim::clear();
+        QVERIFY(!getSystem()->GetInterfaceList(OrvCam::AllInterfaceTypes));
+        OrvSim::setSystemAvailable(false);
+        QVERIFY(!OrvCam_GetSystem());
+        QCOMPARE(OrvSim::liveObjects().systemReferences, std::size_t(0));
+    }
+
+    void objectsOutliveWhatTheyDescribe()
+    {
+        const Held<OrvCam::System> system = getSystem();
+        OrvCam::Interface *const adapter = interfacesOf(*system).front();
+        OrvCam::DeviceInfo *const camera = findDevice(*system, twoFrame);
+        const char *const address = camera->GetIPAddress(nullptr);
+        OrvGenParam::Array *const array = adapter->GetParameters(nullptr);
+        QVERIFY(OrvSim::unplug("ORV-ETH-0"));
+        QVERIFY(!OrvSim::replug(twoFrame)); // its interface is gone
+
+        QCOMPARE(interfacesOf(*system).size(), std::size_t(2));
+        QCOMPARE(adapter->GetID(), "ORV-ETH-0");
+        QCOMPARE(camera->GetID(), twoFrame);
+        QCOMPARE(address, "192.168.10.11");
+        OrvCamErr err = OrvCamErr_Ok;
+        QVERIFY(!camera->GetIPAddress(&err));
+        QCOMPARE(err, OrvCamErr_NoDevice);
+        QCOMPARE(camera->ForceIP(1, 2, 3), OrvCamErr_NoDevice);
+        QVERIFY(!adapter->GetParameters(&err));
+        QCOMPARE(err, OrvCamErr_NoDevice);
+        QCOMPARE(array->SetIntegerValue("DeviceSelector", 0), OrvCamErr_NoDevice);
+        QVERIFY(!adapter->GetDeviceInfoList());
+        QCOMPARE(adapter->ReEnumerateDevices(nullptr, 200), OrvCamErr_NoDevice);
+        QVERIFY(!OrvCam_CreateDevice(camera, OrvCam::DeviceAccessControl, &err));
+        QCOMPARE(err, OrvCamErr_NoDevice);
+
+        QVERIFY(OrvSim::replug("ORV-ETH-0"));
+        QCOMPARE(interfacesOf(*system).front(), adapter);
+        QCOMPARE(findDevice(*system, twoFrame), camera);
+        OrvSim::reset();
+        QVERIFY(findDevice(*system, twoFrame) != camera);
+        QCOMPARE(camera->GetID(), twoFrame);
+    }
+
+    void enumerationTellsChanges()
+    {
+        const Held<OrvCam::System> system = getSystem();
+        OrvCam::Interface *const adapter = interfacesOf(*system).front();
+        const auto changed = [adapter] {
+            bool flag = false;
+            return adapter->ReEnumerateDevices(&flag, 200) == OrvCamErr_Ok && flag;
+        };
+        QVERIFY(changed());
+        QVERIFY(!changed());
+        OrvSim::unplug(stray);
+        QVERIFY(changed());
+        QVERIFY(!changed());
+        OrvSim::replug(stray);
+        OrvSim::swapDevices(stray, twoFrame);
+        QVERIFY(changed());
+    }
+
+    void forcedAddresses()
+    {
+        constexpr std::int32_t foreign = OrvCam::AccessStatusIpSubnetMismatch;
+        const std::tuple<std::uint32_t, std::uint32_t, std::int32_t> rows[] = {
+            {0xC0A80A0C, 0xFFFFFF00, OrvCam::AccessStatusReadWrite}, // in the subnet
+            {0xC0A80B0C, 0xFFFFFF00, foreign},
+            {0xC0A80A0C, 0xFFFF0000, foreign},
+            {0xC0A80A01, 0xFFFFFF00, foreign}, // the adapter's own
+        };
+        for (const auto &[address, mask, status] : rows) {
+            OrvSim::reset();
+            const Held<OrvCam::System> system = getSystem();
+            for (const char *id : {stray, twoFrame}) {
+                OrvCam::DeviceInfo *const camera = findDevice(*system, id);
+                const QByteArray before = camera->GetIPAddress(nullptr);
+                const char *const kept = camera->GetIPAddress(nullptr);
+                QCOMPARE(camera->ForceIP(address, mask, 0), OrvCamErr_Ok);
+                QCOMPARE(camera->GetAccessStatus(), status);
+                QCOMPARE(camera->GetGateway(nullptr), "0.0.0.0");
+                QCOMPARE(QByteArray(kept), before);
+                const Held<OrvCam::Device> device = open(id);
+                QCOMPARE(device != nullptr, status == OrvCam::AccessStatusReadWrite);
+                if (device) {
+                    OrvGenParam::Array *const array = device->GetCameraParameters(nullptr);
+                    QCOMPARE(array->GetIntegerValue("GevCurrentIPAddress", nullptr), std::int64_t(address));
+                }
+            }
+        }
+    }
+
+    void forceIpThatFails()
+    {
+        const Held<OrvCam::System> system = getSystem();
+        OrvCam::DeviceInfo *const camera = findDevice(*system, stray);
+        QCOMPARE(findDevice(*system, monochrome)->ForceIP(1, 2, 3), OrvCamErr_InvalidState);
+        QVERIFY(OrvSim::refuseForceIp(stray, OrvCamErr_UnknownError));
+        QCOMPARE(camera->ForceIP(0xC0A80A0C, 0xFFFFFF00, 0), OrvCamErr_UnknownError);
+        QCOMPARE(camera->GetIPAddress(nullptr), "10.0.0.12");
+    }
+
+    void unusableCameras()
+    {
+        const std::tuple<const char *, const char *, const char *> rows[] = {
+            {"", "", ""},
+            {smallDescription, "\nsot Level 1", "power-up:2: unknown statement"},
+            {smallDescription, "set Depth 1", "power-up:1: no such register"},
+            {smallDescription, "drift Level 2 1 1", "power-up:1: the ends are exchanged"},
+            {smallDescription, "set Level much", "power-up:1: "},
+        };
+        for (const auto &[description, powerUp, reason] : rows) {
+            OrvSim::DeviceSpec spec = OrvSim::cameraFromText(description);
+            spec.name = "unusable";
+            spec.powerUp = powerUp;
+            std::string error;
+            QVERIFY(!OrvSim::addDevice("ORV-CL-0", spec, &error));
+            QVERIFY2(!error.empty() && error.find(reason) == 0, error.c_str());
+            QVERIFY(!OrvSim::addDevice("ORV-CL-0", spec));
+            QVERIFY(!OrvSim::unplug("unusable"));
+        }
+    }
+};
 
 ORV_TEST_MAIN(TestSystem)
 #include "tst_system.moc"

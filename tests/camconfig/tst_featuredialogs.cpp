@@ -2,8 +2,6 @@
 #include "dialogtest.h"
 #include "input.h"
 
-#include <cutwidget.h>
-
 #include <OrvCameraGuiApi/camconfig/controlwatch.h>
 #include <OrvCameraGuiApi/camconfig/featuredialogs.h>
 #include <OrvCameraGuiApi/widgets/qtorvslider.h>
@@ -37,13 +35,6 @@ namespace {
 
 using OrvGui::FeatureDialog;
 using Check = void (*)(const FeatureDialog &feature);
-
-/** The layouts have caught up with what the device brought, and everything fits. */
-void checkNothingIsCut(QWidget &window)
-{
-    QVERIFY(show(window));
-    QTRY_COMPARE(cutWidget(window), QString());
-}
 
 /** Enter commits and clicks nothing; the dialog tells once that it closes, whatever closes it. */
 void checkKeysAndClosing(const FeatureDialog &feature)
@@ -102,34 +93,6 @@ void checkDevicesInTurn(const FeatureDialog &feature)
     QCOMPARE(OrvSim::liveObjects().sinks, std::size_t(0));
 }
 
-/** On the camera without features, without a camera and on the full one everything fits and only the last is used. */
-void checkCameras(const FeatureDialog &feature)
-{
-    const Camera bare(plugInBareCamera());
-    const Camera monochrome(SimTest::monochrome);
-    const Camera full;
-    const std::unique_ptr<QDialog> dialog(feature.make(nullptr, nullptr));
-    const bool hasDialogState = !dialog->isEnabled(); // others have but controls that cannot be used
-    for (OrvCam::Device *const device :
-         {static_cast<OrvCam::Device *>(nullptr), full.device(), bare.device(), monochrome.device(), full.device()}) {
-        QCOMPARE(feature.setDevice(*dialog, device), device != nullptr);
-        QCOMPARE(dialog->isEnabled(), device || !hasDialogState);
-        checkNothingIsCut(*dialog);
-        int usable = 0;
-        const auto widgets = dialog->findChildren<QWidget *>();
-        for (QWidget *const widget : widgets) {
-            const bool isControl = widget->inherits("QComboBox") || widget->inherits("QCheckBox")
-                || widget->inherits("QtOrvSpinBox") || widget->inherits("QtOrvSliderSpinBox")
-                || widget->inherits("QPushButton");
-            usable += isControl && widget->isEnabled();
-            if (device == bare.device() && (widget->inherits("QComboBox") || widget->inherits("QCheckBox")))
-                QVERIFY2(QStringLiteral("false").contains(shownBy(widget)), qPrintable(widget->objectName()));
-        }
-        if (device != monochrome.device())
-            QCOMPARE(usable > 0, device == full.device());
-    }
-}
-
 /** A camera goes while all controls are being edited: nothing is written or told, and it comes back as it was. */
 void checkCameraThatGoes(const FeatureDialog &feature)
 {
@@ -146,15 +109,19 @@ void checkCameraThatGoes(const FeatureDialog &feature)
         return all;
     };
     const QStringList before = shown();
-    feature.setDevice(*dialog, nullptr); // of whose numbers and choices nothing is left
-    for (QWidget *const widget : widgets) {
-        const auto *const field = qobject_cast<QAbstractSpinBox *>(widget);
-        QVERIFY(!field || (field->text().isEmpty() && !field->isEnabled()));
-        QVERIFY(!widget->inherits("QComboBox") || shownBy(widget).isEmpty());
-        QVERIFY(!widget->inherits("QGroupBox") || !widget->isEnabled());
+    const Camera bare(plugInBareCamera());
+    for (OrvCam::Device *const device : {static_cast<OrvCam::Device *>(nullptr), bare.device()}) {
+        QCOMPARE(feature.setDevice(*dialog, device), device != nullptr); // of the camera's values nothing is left
+        for (QWidget *const widget : widgets) {
+            const auto *const field = qobject_cast<QAbstractSpinBox *>(widget);
+            const bool isChoice = widget->inherits("QComboBox") || widget->inherits("QCheckBox");
+            QVERIFY(!field || (!field->isEnabled() && (device || field->text().isEmpty())));
+            QVERIFY(!isChoice || (QStringLiteral("false").contains(shownBy(widget)) && !widget->isEnabled()));
+            QVERIFY(device || !widget->inherits("QGroupBox") || !widget->isEnabled());
+        }
+        QVERIFY(feature.setDevice(*dialog, camera.device()));
+        QCOMPARE(shown(), before);
     }
-    QVERIFY(feature.setDevice(*dialog, camera.device()));
-    QCOMPARE(shown(), before);
     camera.takeWrites();
     QVERIFY(OrvSim::unplug(SimTest::twoFrame));
     for (QWidget *const widget : widgets) {
@@ -262,14 +229,6 @@ bool isMarked(QWidget *control)
     return watch && watch->isMarked();
 }
 
-void turnWheelOver(QWidget *widget)
-{
-    const QPointF middle = widget->rect().center();
-    QWheelEvent turn(middle, widget->mapToGlobal(middle.toPoint()), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
-                     Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(widget, &turn);
-}
-
 /** All that a hand does in a control without entering anything. */
 void touch(QWidget *widget)
 {
@@ -280,13 +239,12 @@ void touch(QWidget *widget)
         QTest::keyClick(widget, key);
     if (auto *const slider = qobject_cast<QSlider *>(widget))
         QTest::mouseClick(slider, Qt::LeftButton, {}, handle(*slider));
-    if (!qobject_cast<QAbstractSpinBox *>(widget))
-        return;
     for (const Qt::Key leave : {Qt::Key_Return, Qt::Key_Tab}) { // a number that was deleted is none
-        widget->setFocus();
-        QTest::keyClick(widget, Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClick(widget, Qt::Key_Delete);
-        QTest::keyClick(widget, leave);
+        if (qobject_cast<QAbstractSpinBox *>(widget)) {
+            DialogTest::type(widget, "");
+            QTest::keyClick(widget, Qt::Key_Delete);
+            QTest::keyClick(widget, leave);
+        }
     }
 }
 
@@ -299,473 +257,388 @@ class FeatureDialogsTest : public OrvTest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void bindsBothWays_data();
-    void bindsBothWays();
-    void nothingEnteredNothingWritten_data();
-    void nothingEnteredNothingWritten();
-    void keepsTheRules_data();
-    void keepsTheRules();
-    void slidersFitTheirFields();
-    void colorUnity();
-    void colorFollowsTheBalance();
-    void colorStatistics();
-    void pulseDelayAndFrequency();
-    void pulseStartsAndStops();
-    void pulseFollowsTheGranularity();
-    void pulseShowsNothingOfACameraThatIsGone();
-    void strobeTimes();
-    void strobePictureFollowsTheReferences();
-    void strobePictureNeedsBothReferences();
-    void triggerByUserAndCamera();
-    void triggerRulesDecideAlone();
-};
-
-void FeatureDialogsTest::init()
-{
-    TestCase::init();
-    OrvSim::reset();
-}
-
-void FeatureDialogsTest::cleanup()
-{
-    QLocale::setDefault(QLocale::c());
-    TestCase::cleanup();
-}
-
-void FeatureDialogsTest::bindsBothWays_data()
-{
-    QTest::addColumn<QLocale>("locale");
-    QTest::addColumn<Walk>("walk");
-    const QVector<Walk> walks = Bindings::all();
-    for (const char *const locale : locales) {
-        for (const Walk &walk : walks) {
-            const bool isNumber = QByteArray(walk.row.control).startsWith("spBox");
-            if (isNumber || locale == locales[0])
-                QTest::addRow("%s %s", locale, walk.row.feature) << QLocale(QLatin1String(locale)) << walk;
-        }
-    }
-}
-
-/**
- * A feature and its control are in step: what the user sets is written once, what the camera reports is shown, and
- * nothing is written for that. A write that the camera refuses is told, and what is not the camera's is marked. Without
- * the feature the control is disabled.
- */
-void FeatureDialogsTest::bindsBothWays()
-{
-    QFETCH(QLocale, locale);
-    QFETCH(Walk, walk);
-    const auto &[make, given, row] = walk;
-    const auto shownAs = [&row = row](const QByteArray &value) { return row.shownAs(value); };
-    QLocale::setDefault(locale);
-    const Camera camera;
-    const std::unique_ptr<QDialog> dialog(make(camera.device()));
-    QVERIFY(show(*dialog));
-    for (const auto &[feature, value] : given) // what they lock and unlock follows in the open dialog
-        QVERIFY(camera.set(feature, value));
-    QWidget *const widget = control(*dialog, row.control);
-    QVERIFY(widget && widget->isEnabled());
-    const auto isTrue = [&, feature = row.feature] {
-        return shownBy(widget) == QLatin1String(shownAs(camera.value(feature).toLatin1()));
-    };
-    QVERIFY(isTrue());
-    camera.takeWrites();
-
-    enterInto(widget, shownAs(row.next));
-    QCOMPARE(camera.value(row.feature), QLatin1String(row.next));
-    QCOMPARE(shownBy(widget), QLatin1String(shownAs(row.next)));
-    QCOMPARE(camera.takeWrites(), 1);
-    QVERIFY(camera.set(row.feature, row.reported));
-    QCOMPARE(shownBy(widget), QLatin1String(shownAs(row.reported)));
-    QCOMPARE(camera.takeWrites(), 1);
-    QVERIFY(!shownMessage() && !isMarked(widget));
-
-    QVERIFY(camera.refuse(row.feature));
-    if (auto *const box = qobject_cast<QComboBox *>(widget))
-        QTest::keyClick(box, box->findText(QLatin1String(row.next)) < box->currentIndex() ? Qt::Key_Up : Qt::Key_Down);
-    else
-        enterInto(widget, shownAs(row.next));
-    QVERIFY(shownMessage());
-    QCOMPARE(shownMessage()->parentWidget()->parentWidget(), widget->parentWidget()); // it, or a button of its group
-    QCOMPARE(takeMessage(), refusal(row.feature, "GenICam: Generic error"));
-    QVERIFY(!shownMessage());
-    QCOMPARE(camera.value(row.feature), QLatin1String(row.reported));
-    QVERIFY(isTrue() || isMarked(widget));
-    if (isMarked(widget))
-        QTest::keyClick(widget->focusProxy() ? widget->focusProxy() : markedPart(widget), Qt::Key_Escape);
-    QVERIFY(isTrue() && !isMarked(widget));
-    QVERIFY(dialog->isVisible());
-
-    camera.takeWrites();
-    QVERIFY(OrvSim::unplug(SimTest::twoFrame)); // of which the dialog is not told
-    enterInto(widget, shownAs(row.next));
-    QVERIFY(!shownMessage());
-    QVERIFY(isTrue() || isMarked(widget) || !widget->isEnabled());
-    QCOMPARE(camera.takeWrites(), 0);
-    QVERIFY(OrvSim::replug(SimTest::twoFrame));
-    auto *const frameAb = qobject_cast<OrvGui::OrvCamConfigFrameABDialog *>(dialog.get());
-    QVERIFY(!frameAb || frameAb->SetDevice(camera.device()));
-    QVERIFY(!frameAb || isTrue());
-
-    const Camera without(plugInChangedCamera({row.feature}));
-    for (const auto &[feature, value] : given)
-        without.set(feature, value);
-    const std::unique_ptr<QDialog> poor(make(without.device()));
-    const bool hasOwnRule = qobject_cast<OrvCamConfigTriggerDialog *>(poor.get());
-    QCOMPARE(control(*poor, row.control)->isEnabled(), hasOwnRule);
-}
-
-void FeatureDialogsTest::nothingEnteredNothingWritten_data()
-{
-    QTest::addColumn<QLocale>("locale");
-    QTest::addColumn<Walk>("walk");
-    const QVector<Walk> walks = Bindings::all();
-    for (const char *const locale : locales) {
-        for (int i = 0; i < walks.size(); ++i) {
-            if (i == 0 || walks.at(i).make != walks.at(i - 1).make) // each dialog once, with what its features need
-                QTest::addRow("%s %s", locale, walks.at(i).row.feature)
-                    << QLocale(QLatin1String(locale)) << walks.at(i);
-        }
-    }
-}
-
-void FeatureDialogsTest::nothingEnteredNothingWritten()
-{
-    QFETCH(QLocale, locale);
-    QFETCH(Walk, walk);
-    QLocale::setDefault(locale);
-    const Camera camera;
-    for (const auto &[feature, value] : qAsConst(walk.given))
-        QVERIFY(camera.set(feature, value));
-    // Between the steps and the positions that a control can take by itself.
-    for (const auto &[feature, value] : {std::pair("Frame_FixedFramePeriodValue", "1003"), {"Strobe2Width", "1003"}})
-        camera.set(feature, value);
-    camera.takeWrites();
-    const std::unique_ptr<QDialog> dialog(walk.make(camera.device()));
-    QVERIFY(show(*dialog));
-    QCOMPARE(camera.takeWrites(), 0);
-    const auto widgets = dialog->findChildren<QWidget *>();
-    for (QWidget *const widget : widgets) {
-        dialog->setFocus();
-        if (!widget->isVisible() || !widget->isEnabled() || widget->isWindow())
-            continue;
-        turnWheelOver(widget);
-        QVERIFY2(camera.takeWrites() == 0, qPrintable(widget->objectName()));
-        touch(widget);
-        QVERIFY2(camera.takeWrites() == 0, qPrintable(widget->objectName()));
-    }
-    for (const char *const other : locales)
-        dialog->setLocale(QLocale(QLatin1String(other)));
-    QVERIFY(camera.set("Frame_LineTime", "3200")); // ranges change
-    QVERIFY(camera.set("Frame_DecimationMode", "Averaging"));
-    QVERIFY(camera.set("Frame_FixedFramePeriodValue", "300"));
-    QTest::qWait(0);
-    QCOMPARE(camera.takeWrites(), 3);
-    QVERIFY(!shownMessage());
-}
-
-void FeatureDialogsTest::keepsTheRules_data()
-{
-    QTest::addColumn<const FeatureDialog *>("feature");
-    for (const FeatureDialog &feature : OrvGui::featureDialogs())
-        QTest::newRow(feature.kind) << &feature;
-}
-
-void FeatureDialogsTest::keepsTheRules()
-{
-    QFETCH(const FeatureDialog *, feature);
-    for (const Check check : {checkKeysAndClosing, checkDevicesInTurn, checkCameras, checkCameraThatGoes}) {
+    void init()
+    {
+        TestCase::init();
         OrvSim::reset();
-        check(*feature);
     }
-}
 
-/** Of a vertical and of a horizontal one. */
-void FeatureDialogsTest::slidersFitTheirFields()
-{
-    const Camera camera;
-    OrvCamConfigOutputDialog output(camera.device());
-    OrvCamConfigPulseDialog pulse(camera.device());
-    QVERIFY(show(output) && show(pulse));
-    const auto *const threshold = part<QtOrvSpinBox>(output, "spBoxDpcDynThres");
-    QCOMPARE(threshold->slider()->height(), threshold->sizeHint().width() - threshold->leftLabel()->width());
-    const auto *const period = part<QtOrvSpinBox>(pulse, "spBoxPeriod");
-    QCOMPARE(period->slider()->width(), period->sizeHint().width());
-}
+    void cleanup()
+    {
+        QLocale::setDefault(QLocale::c());
+        TestCase::cleanup();
+    }
 
-void FeatureDialogsTest::colorUnity()
-{
-    const Camera camera;
-    OrvCamConfigColorDialog dialog(camera.device());
-    QVERIFY(dialog.SetDevice(camera.device())); // a second time; the buttons still act once
-    QVERIFY(show(dialog));
-    for (const QByteArray color : {"Red", "Green", "Blue"}) {
-        auto *const unity = part<QPushButton>(dialog, "pushBtn" + color + "Unity");
-        QVERIFY(camera.set(color + "Coefficient", "999"));
+    void bindsBothWays_data()
+    {
+        QTest::addColumn<QLocale>("locale");
+        QTest::addColumn<Walk>("walk");
+        const QVector<Walk> walks = Bindings::all();
+        for (const char *const locale : locales) {
+            for (const Walk &walk : walks) {
+                const bool isNumber = QByteArray(walk.row.control).startsWith("spBox");
+                if (isNumber || locale == locales[0])
+                    QTest::addRow("%s %s", locale, walk.row.feature) << QLocale(QLatin1String(locale)) << walk;
+            }
+        }
+    }
+
+    /**
+     * A feature and its control are in step: what the user sets is written once, what the camera reports is shown, and
+     * nothing is written for that. A write that the camera refuses is told, and what is not the camera's is marked.
+     * Without the feature the control is disabled.
+     */
+    void bindsBothWays()
+    {
+        QFETCH(QLocale, locale);
+        QFETCH(Walk, walk);
+        const auto &[make, given, row] = walk;
+        const auto shownAs = [&row = row](const QByteArray &value) { return row.shownAs(value); };
+        QLocale::setDefault(locale);
+        const Camera camera;
+        const std::unique_ptr<QDialog> dialog(make(camera.device()));
+        QVERIFY(show(*dialog));
+        for (const auto &[feature, value] : given) // what they lock and unlock follows in the open dialog
+            QVERIFY(camera.set(feature, value));
+        QWidget *const widget = control(*dialog, row.control);
+        QVERIFY(widget && widget->isEnabled());
+        const auto isTrue = [&, feature = row.feature] {
+            return shownBy(widget) == QLatin1String(shownAs(camera.value(feature).toLatin1()));
+        };
+        QVERIFY(isTrue());
         camera.takeWrites();
-        QTest::mouseClick(unity, Qt::LeftButton);
-        QCOMPARE(shownBy(part<QWidget>(dialog, "spBox" + color)), QStringLiteral("256"));
-        QCOMPARE(camera.value(color + "Coefficient"), QStringLiteral("256"));
+
+        enterInto(widget, shownAs(row.next));
+        QCOMPARE(camera.value(row.feature), QLatin1String(row.next));
+        QCOMPARE(shownBy(widget), QLatin1String(shownAs(row.next)));
         QCOMPARE(camera.takeWrites(), 1);
-        for (const char *const mode : {"Auto", "Off"}) {
-            enterInto(part<QWidget>(dialog, "cmBoxWhiteBalance"), mode);
-            QCOMPARE(unity->isEnabled(), qstrcmp(mode, "Off") == 0);
+        QVERIFY(camera.set(row.feature, row.reported));
+        QCOMPARE(shownBy(widget), QLatin1String(shownAs(row.reported)));
+        QCOMPARE(camera.takeWrites(), 1);
+        QVERIFY(!shownMessage() && !isMarked(widget));
+
+        QVERIFY(camera.refuse(row.feature));
+        if (auto *const box = qobject_cast<QComboBox *>(widget))
+            QTest::keyClick(box,
+                            box->findText(QLatin1String(row.next)) < box->currentIndex() ? Qt::Key_Up : Qt::Key_Down);
+        else
+            enterInto(widget, shownAs(row.next));
+        QVERIFY(shownMessage());
+        QCOMPARE(shownMessage()->parentWidget()->parentWidget(),
+                 widget->parentWidget()); // it, or a button of its group
+        QCOMPARE(takeMessage(), refusal(row.feature, "GenICam: Generic error"));
+        QVERIFY(!shownMessage());
+        QCOMPARE(camera.value(row.feature), QLatin1String(row.reported));
+        QVERIFY(isTrue() || isMarked(widget));
+        if (isMarked(widget))
+            QTest::keyClick(widget->focusProxy() ? widget->focusProxy() : markedPart(widget), Qt::Key_Escape);
+        QVERIFY(isTrue() && !isMarked(widget));
+        QVERIFY(dialog->isVisible());
+
+        const Camera without(plugInChangedCamera({row.feature}));
+        for (const auto &[feature, value] : given)
+            without.set(feature, value);
+        const std::unique_ptr<QDialog> poor(make(without.device()));
+        const bool hasOwnRule = qobject_cast<OrvCamConfigTriggerDialog *>(poor.get());
+        QCOMPARE(control(*poor, row.control)->isEnabled(), hasOwnRule);
+    }
+
+    void nothingEnteredNothingWritten()
+    {
+        const QVector<Walk> walks = Bindings::all();
+        for (int i = 0; i < walks.size(); ++i) {
+            const Walk &walk = walks.at(i);
+            if (i > 0 && walk.make == walks.at(i - 1).make)
+                continue; // each dialog once, with what its features need
+            for (const char *const locale : locales) {
+                OrvSim::reset();
+                QLocale::setDefault(QLocale(QLatin1String(locale)));
+                const Camera camera;
+                for (const auto &[feature, value] : walk.given)
+                    QVERIFY(camera.set(feature, value));
+                // Between the steps and the positions that a control can take by itself.
+                for (const char *const feature : {"Frame_FixedFramePeriodValue", "Strobe2Width"})
+                    camera.set(feature, "1003");
+                camera.takeWrites();
+                const std::unique_ptr<QDialog> dialog(walk.make(camera.device()));
+                QVERIFY(show(*dialog));
+                const auto widgets = dialog->findChildren<QWidget *>();
+                for (QWidget *const widget : widgets) {
+                    dialog->setFocus();
+                    if (!widget->isVisible() || !widget->isEnabled() || widget->isWindow())
+                        continue;
+                    turnWheel(widget, -1);
+                    touch(widget);
+                    QVERIFY2(camera.takeWrites() == 0, qPrintable(widget->objectName()));
+                }
+                for (const char *const other : locales)
+                    dialog->setLocale(QLocale(QLatin1String(other)));
+                QVERIFY(camera.set("Frame_LineTime", "3200")); // ranges change
+                QVERIFY(camera.set("Frame_DecimationMode", "Averaging"));
+                QVERIFY(camera.set("Frame_FixedFramePeriodValue", "300"));
+                QTest::qWait(0);
+                QCOMPARE(camera.takeWrites(), 3);
+                QVERIFY(!shownMessage());
+            }
         }
     }
-}
 
-/** The camera says that it is done only if it is asked. */
-void FeatureDialogsTest::colorFollowsTheBalance()
-{
-    const Camera camera;
-    OrvCamConfigColorDialog dialog(camera.device());
-    QVERIFY(show(dialog));
-    auto *const balance = part<QComboBox>(dialog, "cmBoxWhiteBalance");
-    enterInto(balance, "Auto");
-    QVERIFY(!part<QWidget>(dialog, "spBoxRed")->isEnabled());
-    QVERIFY(OrvSim::setRegister(SimTest::twoFrame, "BalanceWhiteAuto", "0"));
-    QTRY_COMPARE_WITH_TIMEOUT(balance->currentText(), QStringLiteral("Off"), 20000);
-    QVERIFY(part<QWidget>(dialog, "spBoxRed")->isEnabled());
-}
-
-void FeatureDialogsTest::colorStatistics()
-{
-    const Camera camera;
-    OrvCamConfigColorDialog dialog(camera.device());
-    QVERIFY(show(dialog));
-    for (const QByteArray color : {"Red", "Green", "Blue"}) {
-        const auto *const shown = part<QLabel>(dialog, "lbl" + color + "Coef");
-        QCOMPARE(shown->text(), camera.value(color + "Coefficient"));
-        DialogTest::type(part<QtOrvSpinBox>(dialog, "spBox" + color)->spinBox(), "12");
-        QVERIFY(camera.set(color + "Coefficient", "300"));
-        QCOMPARE(shown->text(), QStringLiteral("300"));
-        std::thread([&] { camera.set(color + "Coefficient", "301"); }).join();
-        QCOMPARE(shown->text(), QStringLiteral("300")); // widgets belong to this thread
-        QTRY_COMPARE(shown->text(), QStringLiteral("301"));
+    void keepsTheRules_data()
+    {
+        QTest::addColumn<const FeatureDialog *>("feature");
+        for (const FeatureDialog &feature : OrvGui::featureDialogs())
+            QTest::newRow(feature.kind) << &feature;
     }
-    const Camera monochrome(SimTest::monochrome);
-    QVERIFY(dialog.SetDevice(monochrome.device()));
-    QVERIFY(!part<QLabel>(dialog, "lblRedCoef")->isEnabled());
-}
 
-void FeatureDialogsTest::pulseDelayAndFrequency()
-{
-    const auto ranged = [](const char *feature, const char *range) {
-        return QByteArray("<pValue>PulseGen") + feature + "Reg</pValue>" + range;
-    };
-    const char *const range = "<Min>-2147483648</Min><Max>2147483647</Max>";
-    const char *const oldRange = "<Min>1</Min><Max>1000000</Max>";
-    const auto signedRegister = [](const char *address) {
-        const QByteArray head = QByteArray("<Address>") + address
-            + "</Address><Length>4</Length><AccessMode>RW</AccessMode><pPort>Device</pPort><Sign>";
-        return QPair<QByteArray, QByteArray>(head + "Unsigned", head + "Signed");
-    };
-    const Camera camera(plugInChangedCamera({},
-                                            {{ranged("Width", oldRange), ranged("Width", range)},
-                                             {ranged("Period", oldRange), ranged("Period", range)},
-                                             signedRegister("0x2404"),
-                                             signedRegister("0x2408")}));
-    OrvCamConfigPulseDialog dialog(camera.device());
-    QVERIFY(show(dialog));
-    const auto *const delay = part<QLineEdit>(dialog, "lineEditDelay");
-    const auto *const frequency = part<QLineEdit>(dialog, "lineEditFreq");
-    const std::tuple<const char *, const char *, const char *, const char *> rows[] = {
-        {"3", "1000000", "-999997", "333333.333333"},
-        {"0", "5", "-5", "0.000000"},
-        {"-2147483648", "2147483647", "-2147483648", "-0.000466"}};
-    for (const auto &[period, width, shownDelay, shownFrequency] : rows) {
-        enterInto(part<QWidget>(dialog, "spBoxPeriod"), period);
-        QVERIFY(camera.set("PulseGenWidth", width));
-        QCOMPARE(delay->text(), QLatin1String(shownDelay));
-        QCOMPARE(frequency->text(), QLatin1String(shownFrequency));
+    void keepsTheRules()
+    {
+        QFETCH(const FeatureDialog *, feature);
+        for (const Check check : {checkKeysAndClosing, checkDevicesInTurn, checkCameraThatGoes}) {
+            OrvSim::reset();
+            check(*feature);
+        }
     }
-}
 
-void FeatureDialogsTest::pulseStartsAndStops()
-{
-    const Camera camera;
-    OrvCamConfigPulseDialog dialog(camera.device());
-    QVERIFY(show(dialog));
-    QCOMPARE(generatorState(dialog), resting());
-    QTest::mouseClick(part<QWidget>(dialog, "pushBtnPulseEnable"), Qt::LeftButton);
-    QCOMPARE(generatorState(dialog), running());
-    QVERIFY(camera.set("PulseGenEnable", "false"));
-    QCOMPARE(generatorState(dialog), resting());
-    for (const QString &state : {running(), resting(), running()}) {
-        for (int i = 0; i < 2; ++i)
-            QTest::keyClick(&dialog, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
-        QTRY_COMPARE(generatorState(dialog), state);
-        QCOMPARE(camera.value("PulseGenEnable"), QVariant(state == running()).toString());
+    /** The camera says that its balance is done only if it is asked. */
+    void colorUnityAndBalance()
+    {
+        const Camera camera;
+        OrvCamConfigColorDialog dialog(camera.device());
+        QVERIFY(dialog.SetDevice(camera.device())); // a second time; the buttons still act once
+        QVERIFY(show(dialog));
+        auto *const balance = part<QComboBox>(dialog, "cmBoxWhiteBalance");
+        for (const QByteArray color : {"Red", "Green", "Blue"}) {
+            auto *const unity = part<QPushButton>(dialog, "pushBtn" + color + "Unity");
+            QVERIFY(camera.set(color + "Coefficient", "999"));
+            camera.takeWrites();
+            QTest::mouseClick(unity, Qt::LeftButton);
+            QCOMPARE(shownBy(part<QWidget>(dialog, "spBox" + color)), QStringLiteral("256"));
+            QCOMPARE(camera.value(color + "Coefficient"), QStringLiteral("256"));
+            QCOMPARE(camera.takeWrites(), 1);
+            for (const char *const mode : {"Auto", "Off"}) {
+                enterInto(balance, mode);
+                QCOMPARE(unity->isEnabled(), qstrcmp(mode, "Off") == 0);
+            }
+        }
+        enterInto(balance, "Auto");
+        QVERIFY(!part<QWidget>(dialog, "spBoxRed")->isEnabled());
+        QVERIFY(OrvSim::setRegister(SimTest::twoFrame, "BalanceWhiteAuto", "0"));
+        QTRY_COMPARE_WITH_TIMEOUT(balance->currentText(), QStringLiteral("Off"), 20000);
+        QVERIFY(part<QWidget>(dialog, "spBoxRed")->isEnabled());
     }
-    QVERIFY(dialog.SetDevice(camera.device()));
-    QCOMPARE(generatorState(dialog), running());
-    const Camera bare(plugInBareCamera());
-    QVERIFY(dialog.SetDevice(bare.device()));
-    QCOMPARE(generatorState(dialog), resting());
-}
 
-void FeatureDialogsTest::pulseFollowsTheGranularity()
-{
-    const std::tuple<QByteArray, QString, QString> rows[] = {
-        {"x10us", QStringLiteral("10 \u03bcs"), QStringLiteral("100.000000")},
-        {"Granularity_250ns", QStringLiteral("250 ns"), QStringLiteral("4000.000000")},
-        {"x1ns", QStringLiteral("ns"), QStringLiteral("1000000.000000")},
-        {"T20ms", QStringLiteral("20 ms"), QStringLiteral("0.050000")},
-        {"x2s", QStringLiteral("2 s"), QStringLiteral("0.000500")},
-        {"x01us", microseconds, hertz},
-        {"x18446744073709551615s", QStringLiteral("18446744073709551615 s"), QStringLiteral("0.000000")},
-        {"x18446744073709551616s", microseconds, hertz}, // too large a number
-        {"x0ms", microseconds, hertz},
-        {"x10usec", microseconds, hertz}};
-    for (const auto &[entry, unit, frequency] : rows) {
-        OrvSim::reset();
-        const Camera camera(plugInChangedCamera({}, {{"\"x10us\"", '"' + entry + '"'}}));
+    void colorStatistics()
+    {
+        const Camera camera;
+        OrvCamConfigColorDialog dialog(camera.device());
+        QVERIFY(show(dialog));
+        for (const QByteArray color : {"Red", "Green", "Blue"}) {
+            const auto *const shown = part<QLabel>(dialog, "lbl" + color + "Coef");
+            QCOMPARE(shown->text(), camera.value(color + "Coefficient"));
+            DialogTest::type(part<QtOrvSpinBox>(dialog, "spBox" + color)->spinBox(), "12");
+            QVERIFY(camera.set(color + "Coefficient", "300"));
+            QCOMPARE(shown->text(), QStringLiteral("300"));
+            std::thread([&] { camera.set(color + "Coefficient", "301"); }).join();
+            QCOMPARE(shown->text(), QStringLiteral("300")); // widgets belong to this thread
+            QTRY_COMPARE(shown->text(), QStringLiteral("301"));
+        }
+        const Camera monochrome(SimTest::monochrome);
+        QVERIFY(dialog.SetDevice(monochrome.device()));
+        QVERIFY(!part<QLabel>(dialog, "lblRedCoef")->isEnabled());
+    }
+
+    void pulseDelayAndFrequency()
+    {
+        const auto ranged = [](const char *feature, const char *range) {
+            return QByteArray("<pValue>PulseGen") + feature + "Reg</pValue>" + range;
+        };
+        const char *const range = "<Min>0</Min><Max>4294967295</Max>";
+        const char *const oldRange = "<Min>1</Min><Max>1000000</Max>";
+        const Camera camera(plugInChangedCamera({},
+                                                {{ranged("Width", oldRange), ranged("Width", range)},
+                                                 {ranged("Period", oldRange), ranged("Period", range)}}));
         OrvCamConfigPulseDialog dialog(camera.device());
         QVERIFY(show(dialog));
-        QCOMPARE(unitOf(dialog), microseconds); // of "x1us"
-        QCOMPARE(shownIn(dialog, "lineEditFreq"), hertz);
-        const QSize size = dialog.size();
-        enterInto(part<QWidget>(dialog, "cmBoxGranularity"), entry.constData());
-        QCOMPARE(camera.value("PulseGenGranularity"), QLatin1String(entry));
-        QCOMPARE(unitOf(dialog), unit);
-        QCOMPARE(shownIn(dialog, "lineEditFreq"), frequency);
-        QCOMPARE(shownIn(dialog, "lineEditDelay"), QStringLiteral("700")); // in that unit, as period and width
-        QCoreApplication::sendPostedEvents();
-        QCOMPARE(dialog.size(), size);
-        QVERIFY(camera.refuse("PulseGenGranularity")); // the camera's unit, whatever the list shows
-        enterInto(part<QWidget>(dialog, "cmBoxGranularity"), "x1us");
-        QVERIFY(!takeMessage().isEmpty());
-        QCOMPARE(unitOf(dialog), unit);
+        const auto *const period = part<QtOrvSpinBox>(dialog, "spBoxPeriod");
+        QCOMPARE(period->slider()->width(), period->sizeHint().width());
+        const std::tuple<const char *, const char *, const char *, const char *> rows[] = {
+            {"3", "1000000", "-999997", "333333.333333"},
+            {"0", "5", "-5", "0.000000"},
+            {"1", "4294967295", "-2147483646", "1000000.000000"}};
+        for (const auto &[entered, width, delay, frequency] : rows) {
+            enterInto(part<QWidget>(dialog, "spBoxPeriod"), entered);
+            QVERIFY(camera.set("PulseGenWidth", width));
+            QCOMPARE(shownIn(dialog, "lineEditDelay"), QLatin1String(delay));
+            QCOMPARE(shownIn(dialog, "lineEditFreq"), QLatin1String(frequency));
+        }
     }
-}
 
-void FeatureDialogsTest::pulseShowsNothingOfACameraThatIsGone()
-{
-    const Camera camera;
-    QVERIFY(camera.set("PulseGenGranularity", "x1000us"));
-    QVERIFY(camera.set("PulseGenEnable", "true"));
-    OrvCamConfigPulseDialog dialog(camera.device());
-    QVERIFY(show(dialog));
-    QCOMPARE(unitOf(dialog), QStringLiteral("1000 \u03bcs"));
-    camera.takeWrites();
-    QVERIFY(!dialog.SetDevice(nullptr));
-    QCOMPARE(camera.takeWrites(), 0);
-    QCOMPARE(unitOf(dialog), microseconds);
-    for (const char *const field : {"lineEditDelay", "lineEditFreq"})
-        QCOMPARE(shownIn(dialog, field), QString());
-    QCOMPARE(part<QComboBox>(dialog, "cmBoxGranularity")->count(), 0);
-    QVERIFY(!part<QPushButton>(dialog, "pushBtnPulseEnable")->isChecked());
-    QVERIFY(dialog.SetDevice(camera.device()));
-    QCOMPARE(unitOf(dialog), QStringLiteral("1000 \u03bcs"));
-    QCOMPARE(shownIn(dialog, "lineEditFreq"), QStringLiteral("1.000000"));
-}
-
-void FeatureDialogsTest::strobeTimes()
-{
-    const Camera camera;
-    OrvCamConfigStrobeDialog dialog(camera.device());
-    QVERIFY(show(dialog));
-    QSlider *const slider = part<QtOrvSliderSpinBox>(dialog, "spBoxStrobe1Delay")->slider()->slider();
-    camera.takeWrites();
-    QTest::keyClick(slider, Qt::Key_Home);
-    QTest::keyClick(slider, Qt::Key_Right);
-    QCOMPARE(camera.value("Strobe1Delay"), QStringLiteral("1"));
-    QTest::keyClick(slider, Qt::Key_End);
-    QTest::keyClick(slider, Qt::Key_Left);
-    QVERIFY(camera.value("Strobe1Delay").toInt() < 999000); // the steps are as large as the times
-    QCOMPARE(camera.takeWrites(), 4);
-}
-
-void FeatureDialogsTest::strobePictureFollowsTheReferences()
-{
-    const Camera camera;
-    const Camera other(SimTest::monochrome);
-    OrvCamConfigStrobeDialog dialog(camera.device());
-    QVERIFY(show(dialog));
-    const std::tuple<const char *, const char *, const char *> steps[] = {
-        {"cmBoxStrobe2Ref", "ReadoutStart", "strobe1Exp_strobe2Read"},
-        {"cmBoxStrobe2Ref", "ExposureStart", "strobeBothExp"},
-        {"cmBoxStrobe1Ref", "ReadoutStart", "strobe1Read_strobe2Exp"},
-        {"cmBoxStrobe2Ref", "ReadoutStart", "strobeBothRead"}};
-    for (const auto &[box, reference, picture] : steps) {
-        enterInto(part<QWidget>(dialog, box), reference);
-        const QString name = QLatin1String(picture);
-        QCOMPARE(strobePicture(dialog), name + QStringLiteral(".bmp"));
+    void pulseStartsAndStops()
+    {
+        const Camera camera;
+        OrvCamConfigPulseDialog dialog(camera.device());
+        QVERIFY(show(dialog));
+        QCOMPARE(generatorState(dialog), resting());
+        QTest::mouseClick(part<QWidget>(dialog, "pushBtnPulseEnable"), Qt::LeftButton);
+        QCOMPARE(generatorState(dialog), running());
+        QVERIFY(camera.set("PulseGenEnable", "false"));
+        QCOMPARE(generatorState(dialog), resting());
+        for (const QString &state : {running(), resting(), running()}) {
+            for (int i = 0; i < 2; ++i)
+                QTest::keyClick(&dialog, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+            QTRY_COMPARE(generatorState(dialog), state);
+            QCOMPARE(camera.value("PulseGenEnable"), QVariant(state == running()).toString());
+        }
+        const Camera bare(plugInBareCamera());
+        QVERIFY(dialog.SetDevice(bare.device()));
+        QCOMPARE(generatorState(dialog), resting());
     }
-    QVERIFY(other.set("Strobe2Reference", "ExposureStart"));
-    QVERIFY(dialog.SetDevice(other.device()));
-    QVERIFY(camera.set("Strobe2Reference", "ExposureStart")); // no longer shown
-    QCOMPARE(strobePicture(dialog), QStringLiteral("strobeBothExp.bmp"));
-}
 
-/** While a reference cannot be set the picture stays; what it missed shows when both can be set again. */
-void FeatureDialogsTest::strobePictureNeedsBothReferences()
-{
-    const char *const end = "</DisplayName>";
-    const Camera camera(plugInChangedCamera(
-        {}, {{QByteArray("Strobe2 Reference") + end, QByteArray("2") + end + "<pIsLocked>Strobe2IsOff</pIsLocked>"}}));
-    OrvCamConfigStrobeDialog dialog(camera.device());
-    QVERIFY(!part<QWidget>(dialog, "cmBoxStrobe2Ref")->isEnabled());
-    QVERIFY(camera.set("Strobe1Reference", "ReadoutStart"));
-    QCOMPARE(strobePicture(dialog), QStringLiteral("strobeBothExp.bmp"));
-    QVERIFY(camera.set("Strobe2Mode", "On"));
-    QCOMPARE(strobePicture(dialog), QStringLiteral("strobeBothRead.bmp"));
-}
+    void pulseFollowsTheGranularity()
+    {
+        const std::tuple<QByteArray, QString, QString> rows[] = {
+            {"x10us", QStringLiteral("10 \u03bcs"), QStringLiteral("100.000000")},
+            {"Granularity_250ns", QStringLiteral("250 ns"), QStringLiteral("4000.000000")},
+            {"x1ns", QStringLiteral("ns"), QStringLiteral("1000000.000000")},
+            {"T20ms", QStringLiteral("20 ms"), QStringLiteral("0.050000")},
+            {"x18446744073709551615s", QStringLiteral("18446744073709551615 s"), QStringLiteral("0.000000")},
+            {"x18446744073709551616s", microseconds, hertz}, // too large a number
+            {"x01us", microseconds, hertz},
+            {"x0ms", microseconds, hertz},
+            {"x10usec", microseconds, hertz}};
+        for (const auto &[entry, unit, frequency] : rows) {
+            OrvSim::reset();
+            const Camera camera(plugInChangedCamera({}, {{"\"x10us\"", '"' + entry + '"'}}));
+            OrvCamConfigPulseDialog dialog(camera.device());
+            QVERIFY(show(dialog));
+            QCOMPARE(unitOf(dialog), microseconds); // of "x1us"
+            const QSize size = dialog.size();
+            enterInto(part<QWidget>(dialog, "cmBoxGranularity"), entry.constData());
+            QCOMPARE(unitOf(dialog), unit);
+            QCOMPARE(shownIn(dialog, "lineEditFreq"), frequency);
+            QCOMPARE(shownIn(dialog, "lineEditDelay"), QStringLiteral("700")); // in that unit, as period and width
+            QCoreApplication::sendPostedEvents();
+            QCOMPARE(dialog.size(), size);
+            QVERIFY(camera.refuse("PulseGenGranularity")); // the camera's unit, whatever the list shows
+            enterInto(part<QWidget>(dialog, "cmBoxGranularity"), "x1us");
+            QVERIFY(!takeMessage().isEmpty());
+            QCOMPARE(unitOf(dialog), unit);
+        }
+    }
 
-void FeatureDialogsTest::triggerByUserAndCamera()
-{
-    const Camera camera;
-    OrvCamConfigTriggerDialog dialog(camera.device());
-    QVERIFY(dialog.SetDevice(camera.device()));
-    QVERIFY(show(dialog));
-    auto *const enable = part<QCheckBox>(dialog, "chBoxEnable");
-    auto *const button = part<QPushButton>(dialog, "pushBtnSoftwareTrigger");
-    QCOMPARE(enabledParts(dialog), theSwitch);
-    camera.takeWrites();
-    clickMark(enable);
-    QCOMPARE(camera.value("TriggerMode"), QStringLiteral("On"));
-    QCOMPARE(enabledParts(dialog), all);
-    QTest::mouseClick(button, Qt::LeftButton);
-    QCOMPARE(camera.takeWrites(), 2);
-    QVERIFY(camera.refuse("TriggerSoftware"));
-    QTest::mouseClick(button, Qt::LeftButton);
-    QCOMPARE(takeMessage(), refusal("TriggerSoftware", "GenICam: Generic error"));
-    enterInto(part<QWidget>(dialog, "cmBoxSource"), "IN1");
-    QCOMPARE(enabledParts(dialog), allButTheButton);
-    QVERIFY(camera.set("TriggerSource", "Software"));
-    QCOMPARE(enabledParts(dialog), all);
-    QTest::keyClick(enable, Qt::Key_Space);
-    QCOMPARE(camera.value("TriggerMode"), QStringLiteral("Off"));
-    QCOMPARE(enabledParts(dialog), theSwitch);
-}
+    void pulseShowsNothingOfACameraThatIsGone()
+    {
+        const Camera camera;
+        QVERIFY(camera.set("PulseGenGranularity", "x1000us"));
+        QVERIFY(camera.set("PulseGenEnable", "true"));
+        OrvCamConfigPulseDialog dialog(camera.device());
+        QVERIFY(show(dialog));
+        camera.takeWrites();
+        for (const bool isGone : {false, true, false}) {
+            QCOMPARE(dialog.SetDevice(isGone ? nullptr : camera.device()), !isGone);
+            QCOMPARE(unitOf(dialog), isGone ? microseconds : QStringLiteral("1000 \u03bcs"));
+            QCOMPARE(shownIn(dialog, "lineEditFreq"), isGone ? QString() : QStringLiteral("1.000000"));
+            QCOMPARE(shownIn(dialog, "lineEditDelay").isEmpty(), isGone);
+            QCOMPARE(part<QPushButton>(dialog, "pushBtnPulseEnable")->isChecked(), !isGone);
+        }
+        QCOMPARE(camera.takeWrites(), 0);
+    }
 
-/** On cameras whose features think otherwise. */
-void FeatureDialogsTest::triggerRulesDecideAlone()
-{
-    const auto displayed = [](const char *name) { return QByteArray(name) + "</DisplayName>"; };
-    const QByteArray lock = "<pIsLocked>TriggerIsOff</pIsLocked>";
-    const QByteArray never = "<pIsLocked>TriggerIsBySoftware</pIsLocked>";
-    const Camera camera(plugInChangedCamera({"TriggerSoftware"},
-                                            {{displayed("Trigger Activation") + lock, displayed("Edge")},
-                                             {displayed("Trigger Debounce") + lock, displayed("Time") + never}}));
-    OrvCamConfigTriggerDialog dialog(camera.device());
-    QVERIFY(show(dialog));
-    QCOMPARE(enabledParts(dialog), theSwitch);
-    QVERIFY(camera.set("TriggerActivation", "FallingEdge")); // can be written while off
-    QCOMPARE(enabledParts(dialog), theSwitch);
-    QVERIFY(camera.set("TriggerMode", "On")); // locks the debounce time, and there is no command
-    QCOMPARE(enabledParts(dialog), all);
-    QVERIFY(camera.set("TriggerActivation", "RisingEdge"));
-    QCOMPARE(enabledParts(dialog), all);
-    camera.takeWrites();
-    enterInto(part<QWidget>(dialog, "cmBoxDebounce"), "Us50");
-    QCOMPARE(enabledParts(dialog), all);
-    QTest::mouseClick(part<QWidget>(dialog, "pushBtnSoftwareTrigger"), Qt::LeftButton);
-    QCOMPARE(camera.takeWrites(), 0);
-    QVERIFY(!shownMessage());
-}
+    /** The steps are as large as the times. */
+    void strobeTimes()
+    {
+        const Camera camera;
+        OrvCamConfigStrobeDialog dialog(camera.device());
+        QVERIFY(show(dialog));
+        QSlider *const slider = part<QtOrvSliderSpinBox>(dialog, "spBoxStrobe1Delay")->slider()->slider();
+        QTest::keyClick(slider, Qt::Key_Home);
+        QTest::keyClick(slider, Qt::Key_Right);
+        QCOMPARE(camera.value("Strobe1Delay"), QStringLiteral("1"));
+        QTest::keyClick(slider, Qt::Key_End);
+        QTest::keyClick(slider, Qt::Key_Left);
+        QVERIFY(camera.value("Strobe1Delay").toInt() < 999000);
+    }
+
+    /** While a reference cannot be set the picture stays; what it missed shows when both can be set again. */
+    void strobePictureFollowsTheReferences()
+    {
+        const char *const end = "</DisplayName>";
+        const Camera camera(plugInChangedCamera(
+            {},
+            {{QByteArray("Strobe2 Reference") + end, QByteArray("2") + end + "<pIsLocked>Strobe2IsOff</pIsLocked>"}}));
+        const Camera other(SimTest::monochrome);
+        OrvCamConfigStrobeDialog dialog(camera.device());
+        QVERIFY(show(dialog));
+        QVERIFY(!part<QWidget>(dialog, "cmBoxStrobe2Ref")->isEnabled());
+        const std::tuple<const char *, const char *, const char *> steps[] = {
+            {"cmBoxStrobe1Ref", "ReadoutStart", "strobeBothExp"},
+            {"cmBoxStrobe2Mode", "On", "strobeBothRead"},
+            {"cmBoxStrobe2Ref", "ExposureStart", "strobe1Read_strobe2Exp"},
+            {"cmBoxStrobe1Ref", "ExposureStart", "strobeBothExp"},
+            {"cmBoxStrobe2Ref", "ReadoutStart", "strobe1Exp_strobe2Read"}};
+        for (const auto &[box, entry, picture] : steps) {
+            enterInto(part<QWidget>(dialog, box), entry);
+            QCOMPARE(strobePicture(dialog), QLatin1String(picture) + QStringLiteral(".bmp"));
+        }
+        QVERIFY(other.set("Strobe2Reference", "ExposureStart"));
+        QVERIFY(dialog.SetDevice(other.device()));
+        QVERIFY(camera.set("Strobe1Reference", "ReadoutStart")); // no longer shown
+        QCOMPARE(strobePicture(dialog), QStringLiteral("strobeBothExp.bmp"));
+    }
+
+    void triggerByUserAndCamera()
+    {
+        const Camera camera;
+        OrvCamConfigTriggerDialog dialog(camera.device());
+        QVERIFY(dialog.SetDevice(camera.device()));
+        QVERIFY(show(dialog));
+        auto *const enable = part<QCheckBox>(dialog, "chBoxEnable");
+        auto *const button = part<QPushButton>(dialog, "pushBtnSoftwareTrigger");
+        QCOMPARE(enabledParts(dialog), theSwitch);
+        camera.takeWrites();
+        clickMark(enable);
+        QCOMPARE(camera.value("TriggerMode"), QStringLiteral("On"));
+        QCOMPARE(enabledParts(dialog), all);
+        QTest::mouseClick(button, Qt::LeftButton);
+        QCOMPARE(camera.takeWrites(), 2);
+        QVERIFY(camera.refuse("TriggerSoftware"));
+        QTest::mouseClick(button, Qt::LeftButton);
+        QCOMPARE(takeMessage(), refusal("TriggerSoftware", "GenICam: Generic error"));
+        enterInto(part<QWidget>(dialog, "cmBoxSource"), "IN1");
+        QCOMPARE(enabledParts(dialog), allButTheButton);
+        QVERIFY(camera.set("TriggerSource", "Software"));
+        QCOMPARE(enabledParts(dialog), all);
+        QTest::keyClick(enable, Qt::Key_Space);
+        QCOMPARE(camera.value("TriggerMode"), QStringLiteral("Off"));
+        QCOMPARE(enabledParts(dialog), theSwitch);
+    }
+
+    /** On cameras whose features think otherwise. */
+    void triggerRulesDecideAlone()
+    {
+        const auto displayed = [](const char *name) { return QByteArray(name) + "</DisplayName>"; };
+        const QByteArray lock = "<pIsLocked>TriggerIsOff</pIsLocked>";
+        const QByteArray never = "<pIsLocked>TriggerIsBySoftware</pIsLocked>";
+        const Camera camera(plugInChangedCamera({"TriggerSoftware"},
+                                                {{displayed("Trigger Activation") + lock, displayed("Edge")},
+                                                 {displayed("Trigger Debounce") + lock, displayed("Time") + never}}));
+        OrvCamConfigTriggerDialog dialog(camera.device());
+        QVERIFY(show(dialog));
+        QCOMPARE(enabledParts(dialog), theSwitch);
+        QVERIFY(camera.set("TriggerActivation", "FallingEdge")); // can be written while off
+        QCOMPARE(enabledParts(dialog), theSwitch);
+        QVERIFY(camera.set("TriggerMode", "On")); // locks the debounce time, and there is no command
+        QCOMPARE(enabledParts(dialog), all);
+        QVERIFY(camera.set("TriggerActivation", "RisingEdge"));
+        QCOMPARE(enabledParts(dialog), all);
+        camera.takeWrites();
+        enterInto(part<QWidget>(dialog, "cmBoxDebounce"), "Us50");
+        QCOMPARE(enabledParts(dialog), all);
+        QTest::mouseClick(part<QWidget>(dialog, "pushBtnSoftwareTrigger"), Qt::LeftButton);
+        QCOMPARE(camera.takeWrites(), 0);
+        QVERIFY(!shownMessage());
+    }
+};
 
 ORV_TEST_MAIN(FeatureDialogsTest)
 

@@ -46,198 +46,163 @@ class FrameArithmeticTest : public OrvTest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void byHand();
-    void timesAreExact();
-    void numbersAreClamped();
-    void gainsByHand();
-    void gainsAreExact();
-    void fitsWhatIsRefused();
-    void gainsAreSteppedThrough();
-    void gainsGoOnToTheNext();
+    void byHand()
+    {
+        QCOMPARE(exposureTime({10, 800}, {160, 1600}), std::int64_t(105));
+        QCOMPARE(microsecondsOfLines(80, {160, 1601}), std::int64_t(801)); // 800.5 goes up
+        QCOMPARE(linesOfMicroseconds(5, {160, 1600}), std::int64_t(1)); // 0.5
+        QCOMPARE(linesOfMicroseconds(-10, {160, 1600}), std::int64_t(0)); // -1 + 0.5, cut
+        for (const Clock clock : {Clock{0, 1600}, Clock{160, 0}}) { // nothing is divided by 0
+            QCOMPARE(microsecondsOfLines(105, clock), std::int64_t(0));
+            QCOMPARE(linesOfMicroseconds(105, clock), std::int64_t(0));
+            QCOMPARE(exposureTime({105, 320}, clock), clock.pixelClock / 80); // the clocks alone
+            QVERIFY(!splitExposure(105, clock));
+        }
+        for (const auto &[gain, coarse, fine] : {std::tuple(0.5, 0, -32), {-1.5, 0, -160}, {3.0, 1, 32}}) {
+            const Gain parts = splitGain(gain);
+            QCOMPARE(parts.coarse, std::int64_t(coarse));
+            QCOMPARE(parts.fine, std::int64_t(fine));
+            QCOMPARE(composedGain(parts), gain);
+        }
+    }
+
+    void timesAreExact()
+    {
+        const std::vector<std::int64_t> values = amounts();
+        for (const std::int64_t pixelClock : pixelClocks) {
+            for (const std::int64_t lineTime : lineTimes) {
+                const Clock clock{pixelClock, lineTime};
+                for (const std::int64_t value : values) {
+                    const Wide product = Wide(value) * lineTime;
+                    QVERIFY(isCutQuotient(microsecondsOfLines(value, clock), 2 * product + pixelClock, 2 * pixelClock));
+                    QVERIFY(isCutQuotient(linesOfMicroseconds(value, clock), 2 * Wide(value) * pixelClock + lineTime,
+                                          2 * lineTime));
+                    const std::int64_t clocks = value % lineTime;
+                    QVERIFY(isCutQuotient(exposureTime({value, clocks}, clock), product + clocks, pixelClock));
+
+                    const std::optional<Exposure> parts = splitExposure(value, clock);
+                    QVERIFY(parts && parts->clocks >= 0 && parts->clocks < lineTime);
+                    QVERIFY(Wide(parts->lines) * lineTime + parts->clocks == Wide(value) * pixelClock);
+                    QCOMPARE(exposureTime(*parts, clock), value); // there and back
+                }
+            }
+        }
+    }
+
+    void numbersAreClamped()
+    {
+        const Clock slow{1, int64Max};
+        const Clock fast{int64Max, 1};
+        QCOMPARE(microsecondsOfLines(int64Max, slow), int64Max);
+        QCOMPARE(microsecondsOfLines(int64Min, slow), int64Min);
+        QCOMPARE(linesOfMicroseconds(int64Max, fast), int64Max);
+        QCOMPARE(exposureTime({int64Min, int64Min}, slow), int64Min);
+        QCOMPARE(exposureTime({int64Min, 0}, {-1, 1}), int64Max);
+        QCOMPARE(splitExposure(int64Max, fast)->lines, int64Max);
+        QCOMPARE(splitExposure(int64Min, {int64Max, -1})->lines, int64Max);
+        QCOMPARE(exposureTime({int64Max, 0}, {int64Max, int64Max}),
+                 int64Max); // exact although the product is not 64 bits
+
+        QVERIFY(std::isfinite(composedGain({int64Max, int64Max})));
+        QVERIFY(std::isfinite(composedGain({int64Min, int64Min})));
+        for (const double gain : {1e300, -1e300, std::numeric_limits<double>::infinity(), 9.3e18}) {
+            const Gain parts = splitGain(gain);
+            QVERIFY(parts.coarse >= 0 && parts.coarse < 63);
+        }
+        QCOMPARE(splitGain(std::nan("")).fine, std::int64_t(0));
+    }
+
+    /** Over all gains that a camera can have, and those between, in steps of 1/1024. */
+    void gainsAreExact()
+    {
+        const std::int64_t unit = 1024;
+        for (std::int64_t numerator = 0; numerator < 300 * unit; ++numerator) {
+            const Gain parts = splitGain(double(numerator) / double(unit));
+            const std::int64_t base = std::int64_t(1) << parts.coarse;
+            QVERIFY(numerator < 2 * unit ? parts.coarse == 0 : base * unit <= numerator && numerator < 2 * base * unit);
+            QVERIFY(isCutQuotient(parts.fine, 64 * (Wide(numerator) - base * unit), base * unit));
+        }
+        for (std::int64_t coarse = 0; coarse < 10; ++coarse) {
+            for (std::int64_t fine = 0; fine < 64; ++fine) {
+                const Gain parts = splitGain(composedGain({coarse, fine}));
+                QCOMPARE(parts.coarse, coarse);
+                QCOMPARE(parts.fine, fine);
+            }
+        }
+    }
+
+    void fitsWhatIsRefused()
+    {
+        struct Row
+        {
+            std::int64_t value;
+            IntRange range;
+            std::int64_t written;
+        };
+        const Row rows[] = {
+            {-1, {0, 10, 1}, 0},      {11, {0, 10, 1}, 10},
+            {6, {1, 10, 4}, 5},       {7, {1, 10, 4}, 9}, // the greater one of two
+            {10, {1, 10, 4}, 9}, // the maximum is not taken itself
+            {-5, {-7, 10, 4}, -3},    {6, {0, 10, 0}, 6},
+            {6, {10, 0, 1}, 6}, // nothing is taken
+            {int64Max, {}, int64Max}, {int64Max, {int64Min, int64Max, int64Max}, int64Max - 1},
+        };
+        for (const Row &row : rows)
+            QCOMPARE(fitted(row.value, row.range), row.written);
+        QCOMPARE(fitted(-5, nullptr), std::int64_t(-5));
+        QVERIFY(!rangeOf(nullptr));
+    }
+
+    /** As the slider does it, by 0.125: from one end to the other and back, with what each kind of camera takes. */
+    void gainsAreSteppedThrough()
+    {
+        const GainRange ranges[] = {
+            {{0, 3, 1}, {-32, 63, 1}}, // all steps can be told apart
+            {{0, 7, 1}, {0, 63, 1}},        {{0, 5, 1}, {-64, 63, 4}},
+            {{1, 4, 1}, {-32, 63, 1}},      {{0, 3, 1}, {0, 31, 1}}, // gaps between the coarse gains
+            {{0, 2, 1}, {0, 127, 1}},       {{0, 6, 2}, {-63, 60, 5}},
+            {{0, 4, 1}, IntRange::only(0)}, {IntRange::only(0), {0, 63, 1}},
+        };
+        for (const GainRange &range : ranges) {
+            const Gain lowest{range.coarse.minimum, range.fine.minimum};
+            const Gain highest{fitted(range.coarse.maximum, range.coarse), fitted(range.fine.maximum, range.fine)};
+            Gain now = lowest;
+            for (const bool isUp : {true, false}) {
+                const double end = composedGain(isUp ? highest : lowest);
+                for (double gain = composedGain(now); gain != end; gain = composedGain(now)) {
+                    const double wanted = isUp ? std::min(gain + 0.125, end) : std::max(gain - 0.125, end);
+                    now = steppedGain(now, wanted, range);
+                    QVERIFY(isUp ? composedGain(now) > gain : composedGain(now) < gain);
+                    QCOMPARE(fitted(now.coarse, range.coarse), now.coarse);
+                    QCOMPARE(fitted(now.fine, range.fine), now.fine);
+                    if (&range == &ranges[0])
+                        QCOMPARE(composedGain(now), composedGain(splitGain(wanted)));
+                }
+            }
+        }
+    }
+
+    void gainsGoOnToTheNext()
+    {
+        const GainRange range{{0, 5, 1}, {0, 63, 1}};
+        const std::pair<Gain, Gain> pairs[] = {
+            {{4, 0}, {4, 1}}, {{4, 63}, {5, 0}}, {{0, 63}, {1, 0}}, {{5, 62}, {5, 63}}};
+        for (const auto &[less, greater] : pairs) {
+            QCOMPARE(composedGain(nextGain(less, true, range)), composedGain(greater));
+            QCOMPARE(composedGain(nextGain(greater, false, range)), composedGain(less));
+        }
+        for (const auto &[end, isGreater] : {std::pair(Gain{5, 63}, true), std::pair(Gain{0, 0}, false)})
+            QCOMPARE(composedGain(nextGain(end, isGreater, range)), composedGain(end));
+        for (const std::int64_t extreme : {int64Min, int64Max}) {
+            for (const bool isGreater : {true, false}) {
+                nextGain({extreme, extreme}, isGreater, {{}, {}});
+                nextGain({extreme, extreme}, isGreater, range);
+                nextGain({3, extreme}, isGreater, {{0, 5, int64Max}, {int64Min, int64Max, int64Max}});
+            }
+        }
+        steppedGain({4, 5}, std::nan(""), {{4, 2, 1}, {9, 1, 1}});
+    }
 };
-
-void FrameArithmeticTest::byHand()
-{
-    struct Row
-    {
-        Clock clock;
-        Exposure exposure;
-        std::int64_t time; // of the exposure
-        std::int64_t lines;
-        std::int64_t microseconds; // that so many lines take
-    };
-    const Row rows[] = {
-        {{160, 1600}, {10, 800}, 105, 1000, 10000},
-        {{160, 1601}, {1, 0}, 10, 80, 801}, // 10.006; 800.5 goes up
-        {{1, 65535}, {65535, 65534}, 4294901759, 131072, 8589803520}, // more than 32 bits
-    };
-    for (const Row &row : rows) {
-        QCOMPARE(exposureTime(row.exposure, row.clock), row.time);
-        QCOMPARE(microsecondsOfLines(row.lines, row.clock), row.microseconds);
-    }
-    QCOMPARE(linesOfMicroseconds(5, {160, 1600}), std::int64_t(1)); // 0.5
-    QCOMPARE(linesOfMicroseconds(-10, {160, 1600}), std::int64_t(0)); // -1 + 0.5, cut
-    for (const Clock clock : {Clock{0, 1600}, Clock{160, 0}}) { // nothing is divided by 0
-        QCOMPARE(microsecondsOfLines(105, clock), std::int64_t(0));
-        QCOMPARE(linesOfMicroseconds(105, clock), std::int64_t(0));
-        QCOMPARE(exposureTime({105, 320}, clock), clock.pixelClock / 80); // the clocks alone
-        QVERIFY(!splitExposure(105, clock));
-    }
-}
-
-void FrameArithmeticTest::timesAreExact()
-{
-    const std::vector<std::int64_t> values = amounts();
-    for (const std::int64_t pixelClock : pixelClocks) {
-        for (const std::int64_t lineTime : lineTimes) {
-            const Clock clock{pixelClock, lineTime};
-            for (const std::int64_t value : values) {
-                const Wide product = Wide(value) * lineTime;
-                QVERIFY(isCutQuotient(microsecondsOfLines(value, clock), 2 * product + pixelClock, 2 * pixelClock));
-                QVERIFY(isCutQuotient(linesOfMicroseconds(value, clock), 2 * Wide(value) * pixelClock + lineTime,
-                                      2 * lineTime));
-                const std::int64_t clocks = value % lineTime;
-                QVERIFY(isCutQuotient(exposureTime({value, clocks}, clock), product + clocks, pixelClock));
-
-                const std::optional<Exposure> parts = splitExposure(value, clock);
-                QVERIFY(parts && parts->clocks >= 0 && parts->clocks < lineTime);
-                QVERIFY(Wide(parts->lines) * lineTime + parts->clocks == Wide(value) * pixelClock);
-                QCOMPARE(exposureTime(*parts, clock), value); // there and back
-            }
-        }
-    }
-}
-
-void FrameArithmeticTest::numbersAreClamped()
-{
-    const Clock slow{1, int64Max};
-    const Clock fast{int64Max, 1};
-    QCOMPARE(microsecondsOfLines(int64Max, slow), int64Max);
-    QCOMPARE(microsecondsOfLines(int64Min, slow), int64Min);
-    QCOMPARE(linesOfMicroseconds(int64Max, fast), int64Max);
-    QCOMPARE(exposureTime({int64Min, int64Min}, slow), int64Min);
-    QCOMPARE(exposureTime({int64Min, 0}, {-1, 1}), int64Max);
-    QCOMPARE(splitExposure(int64Max, fast)->lines, int64Max);
-    QCOMPARE(splitExposure(int64Min, {int64Max, -1})->lines, int64Max);
-    QCOMPARE(exposureTime({int64Max, 0}, {int64Max, int64Max}), int64Max); // exact although the product is not 64 bits
-
-    QVERIFY(std::isfinite(composedGain({int64Max, int64Max})));
-    QVERIFY(std::isfinite(composedGain({int64Min, int64Min})));
-    for (const double gain : {1e300, -1e300, std::numeric_limits<double>::infinity(), 9.3e18}) {
-        const Gain parts = splitGain(gain);
-        QVERIFY(parts.coarse >= 0 && parts.coarse < 63);
-    }
-    QCOMPARE(splitGain(std::nan("")).fine, std::int64_t(0));
-}
-
-void FrameArithmeticTest::gainsByHand()
-{
-    struct Row
-    {
-        double gain;
-        Gain parts;
-        double composed;
-    };
-    const Row rows[] = {
-        {3, {1, 32}, 3},         {0.5, {0, -32}, 0.5},      {0, {0, -64}, 0},
-        {-1.5, {0, -160}, -1.5}, {1.99, {0, 63}, 1.984375}, {0.99, {0, 0}, 1}, // cut towards 0
-    };
-    for (const Row &row : rows) {
-        QCOMPARE(splitGain(row.gain).coarse, row.parts.coarse);
-        QCOMPARE(splitGain(row.gain).fine, row.parts.fine);
-        QCOMPARE(composedGain(row.parts), row.composed);
-    }
-}
-
-/** Over all gains that a camera can have, and those between, in steps of 1/1024. */
-void FrameArithmeticTest::gainsAreExact()
-{
-    const std::int64_t unit = 1024;
-    for (std::int64_t numerator = 0; numerator < 300 * unit; ++numerator) {
-        const Gain parts = splitGain(double(numerator) / double(unit));
-        const std::int64_t base = std::int64_t(1) << parts.coarse;
-        QVERIFY(numerator < 2 * unit ? parts.coarse == 0 : base * unit <= numerator && numerator < 2 * base * unit);
-        QVERIFY(isCutQuotient(parts.fine, 64 * (Wide(numerator) - base * unit), base * unit));
-    }
-    for (std::int64_t coarse = 0; coarse < 10; ++coarse) {
-        for (std::int64_t fine = 0; fine < 64; ++fine) {
-            const Gain parts = splitGain(composedGain({coarse, fine}));
-            QCOMPARE(parts.coarse, coarse);
-            QCOMPARE(parts.fine, fine);
-        }
-    }
-}
-
-void FrameArithmeticTest::fitsWhatIsRefused()
-{
-    struct Row
-    {
-        std::int64_t value;
-        IntRange range;
-        std::int64_t written;
-    };
-    const Row rows[] = {
-        {-1, {0, 10, 1}, 0},      {11, {0, 10, 1}, 10},
-        {6, {1, 10, 4}, 5},       {7, {1, 10, 4}, 9}, // the greater one of two
-        {10, {1, 10, 4}, 9}, // the maximum is not taken itself
-        {-5, {-7, 10, 4}, -3},    {6, {0, 10, 0}, 6},
-        {6, {10, 0, 1}, 6}, // nothing is taken
-        {int64Max, {}, int64Max}, {int64Max, {int64Min, int64Max, int64Max}, int64Max - 1},
-    };
-    for (const Row &row : rows)
-        QCOMPARE(fitted(row.value, row.range), row.written);
-    QCOMPARE(fitted(-5, nullptr), std::int64_t(-5));
-    QVERIFY(!rangeOf(nullptr));
-}
-
-/** As the slider does it, by 0.125: from one end to the other and back, with what each kind of camera takes. */
-void FrameArithmeticTest::gainsAreSteppedThrough()
-{
-    const GainRange ranges[] = {
-        {{0, 3, 1}, {-32, 63, 1}}, // all steps can be told apart
-        {{0, 7, 1}, {0, 63, 1}},        {{0, 5, 1}, {-64, 63, 4}},
-        {{1, 4, 1}, {-32, 63, 1}},      {{0, 3, 1}, {0, 31, 1}}, // gaps between the coarse gains
-        {{0, 2, 1}, {0, 127, 1}},       {{0, 6, 2}, {-63, 60, 5}},
-        {{0, 4, 1}, IntRange::only(0)}, {IntRange::only(0), {0, 63, 1}},
-    };
-    for (const GainRange &range : ranges) {
-        const Gain lowest{range.coarse.minimum, range.fine.minimum};
-        const Gain highest{fitted(range.coarse.maximum, range.coarse), fitted(range.fine.maximum, range.fine)};
-        Gain now = lowest;
-        for (const bool isUp : {true, false}) {
-            const double end = composedGain(isUp ? highest : lowest);
-            for (double gain = composedGain(now); gain != end; gain = composedGain(now)) {
-                const double wanted = isUp ? std::min(gain + 0.125, end) : std::max(gain - 0.125, end);
-                now = steppedGain(now, wanted, range);
-                QVERIFY(isUp ? composedGain(now) > gain : composedGain(now) < gain);
-                QCOMPARE(fitted(now.coarse, range.coarse), now.coarse);
-                QCOMPARE(fitted(now.fine, range.fine), now.fine);
-                if (&range == &ranges[0])
-                    QCOMPARE(composedGain(now), composedGain(splitGain(wanted)));
-            }
-        }
-    }
-}
-
-void FrameArithmeticTest::gainsGoOnToTheNext()
-{
-    const GainRange range{{0, 5, 1}, {0, 63, 1}};
-    const std::pair<Gain, Gain> pairs[] = {{{4, 0}, {4, 1}}, {{4, 63}, {5, 0}}, {{0, 63}, {1, 0}}, {{5, 62}, {5, 63}}};
-    for (const auto &[less, greater] : pairs) {
-        QCOMPARE(composedGain(nextGain(less, true, range)), composedGain(greater));
-        QCOMPARE(composedGain(nextGain(greater, false, range)), composedGain(less));
-    }
-    for (const auto &[end, isGreater] : {std::pair(Gain{5, 63}, true), std::pair(Gain{0, 0}, false)})
-        QCOMPARE(composedGain(nextGain(end, isGreater, range)), composedGain(end));
-    for (const std::int64_t extreme : {int64Min, int64Max}) {
-        for (const bool isGreater : {true, false}) {
-            nextGain({extreme, extreme}, isGreater, {{}, {}});
-            nextGain({extreme, extreme}, isGreater, range);
-            nextGain({3, extreme}, isGreater, {{0, 5, int64Max}, {int64Min, int64Max, int64Max}});
-        }
-    }
-    steppedGain({4, 5}, std::nan(""), {{4, 2, 1}, {9, 1, 1}});
-}
 
 ORV_PLAIN_TEST_MAIN(FrameArithmeticTest)
 

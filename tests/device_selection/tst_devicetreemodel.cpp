@@ -67,8 +67,6 @@ OrvSim::DeviceSpec deviceSpec(const char *name, OrvSim::Text id)
 
 } // namespace
 
-Q_DECLARE_METATYPE(std::function<void()>)
-
 class TestDeviceTreeModel : public OrvTest::TestCase
 {
     Q_OBJECT
@@ -122,58 +120,39 @@ private Q_SLOTS:
         QVERIFY(fixture.model.getItemIdx(QStringLiteral("ORV-GIGE-0002")).parent().isValid());
     }
 
-    void noticesChanges_data()
-    {
-        QTest::addColumn<std::function<void()>>("change");
-        QTest::addColumn<bool>("isChange");
-        QTest::addColumn<QString>("ids");
-        const auto row = [](const char *name, std::function<void()> change, bool isChange, const char *ids) {
-            QTest::newRow(name) << std::move(change) << isChange << (ids ? QString::fromLatin1(ids) : wholeSystem);
-        };
-        row(
-            "nothing", [] {}, false, nullptr);
-        row(
-            "device gone", [] { OrvSim::unplug(twoFrame); }, true,
-            "ORV-ETH-0: ORV-GIGE-0002; ORV-XHCI-0: ORV-USB3-0001; ORV-CL-0:");
-        row(
-            "device come", [] { OrvSim::addDevice("ORV-CL-0", deviceSpec("new", std::string("New"))); }, true,
-            "ORV-ETH-0: ORV-GIGE-0001 ORV-GIGE-0002; ORV-XHCI-0: ORV-USB3-0001; ORV-CL-0: New");
-        row(
-            "other order", [] { OrvSim::swapDevices(twoFrame, stray); }, true,
-            "ORV-ETH-0: ORV-GIGE-0002 ORV-GIGE-0001; ORV-XHCI-0: ORV-USB3-0001; ORV-CL-0:");
-        row(
-            "interface gone", [] { OrvSim::unplug("ORV-ETH-0"); }, true, "ORV-XHCI-0: ORV-USB3-0001; ORV-CL-0:");
-        row(
-            "access", [] { OrvSim::setAccessStatus(twoFrame, OrvCam::AccessStatusNoAccess); }, false, nullptr);
-        row(
-            "no interface", [] { OrvSim::clear(); }, true, "");
-        row(
-            "null lists", [] { OrvSim::setInterfaceLists(OrvSim::Lists::Null); }, true, "");
-        row(
-            "null device list", [] { OrvSim::setDeviceLists("ORV-ETH-0", OrvSim::Lists::Null); }, true,
-            "ORV-ETH-0:; ORV-XHCI-0: ORV-USB3-0001; ORV-CL-0:");
-    }
-
     void noticesChanges()
     {
-        QFETCH(std::function<void()>, change);
-        QFETCH(bool, isChange);
-        QFETCH(QString, ids);
-        Fixture fixture;
-        const QAbstractItemModelTester tester(&fixture.model, QAbstractItemModelTester::FailureReportingMode::QtTest);
-        change();
-        QCOMPARE(fixture.model.checkNew(), isChange ? 1 : 0);
-        QCOMPARE(fixture.ids(), wholeSystem); // looking changes nothing
-        if (isChange) {
-            QSignalSpy resets(&fixture.model, &QAbstractItemModel::modelReset);
-            fixture.model.updateModel();
-            QCOMPARE(resets.size(), 1);
-            QCOMPARE(fixture.ids(), ids);
-            QCOMPARE(fixture.model.checkNew(), 0);
+        const std::pair<std::function<void()>, const char *> rows[] = {
+            {[] {}, nullptr},
+            {[] { OrvSim::unplug(twoFrame); }, "ORV-ETH-0: ORV-GIGE-0002; ORV-XHCI-0: ORV-USB3-0001; ORV-CL-0:"},
+            {[] { OrvSim::addDevice("ORV-CL-0", deviceSpec("new", std::string("New"))); },
+             "ORV-ETH-0: ORV-GIGE-0001 ORV-GIGE-0002; ORV-XHCI-0: ORV-USB3-0001; ORV-CL-0: New"},
+            {[] { OrvSim::swapDevices(twoFrame, stray); },
+             "ORV-ETH-0: ORV-GIGE-0002 ORV-GIGE-0001; ORV-XHCI-0: ORV-USB3-0001; ORV-CL-0:"},
+            {[] { OrvSim::unplug("ORV-ETH-0"); }, "ORV-XHCI-0: ORV-USB3-0001; ORV-CL-0:"},
+            {[] { OrvSim::setAccessStatus(twoFrame, OrvCam::AccessStatusNoAccess); }, nullptr},
+            {[] { OrvSim::clear(); }, ""},
+            {[] { OrvSim::setInterfaceLists(OrvSim::Lists::Null); }, ""},
+            {[] { OrvSim::setDeviceLists("ORV-ETH-0", OrvSim::Lists::Null); },
+             "ORV-ETH-0:; ORV-XHCI-0: ORV-USB3-0001; ORV-CL-0:"}};
+        for (const auto &[change, ids] : rows) {
+            Fixture fixture;
+            const QAbstractItemModelTester tester(&fixture.model,
+                                                  QAbstractItemModelTester::FailureReportingMode::QtTest);
+            change();
+            QCOMPARE(fixture.model.checkNew(), ids ? 1 : 0);
+            QCOMPARE(fixture.ids(), wholeSystem); // looking changes nothing
+            if (ids) {
+                QSignalSpy resets(&fixture.model, &QAbstractItemModel::modelReset);
+                fixture.model.updateModel();
+                QCOMPARE(resets.size(), 1);
+                QCOMPARE(fixture.ids(), QLatin1String(ids));
+                QCOMPARE(fixture.model.checkNew(), 0);
+            }
+            OrvSim::reset();
+            fixture.model.rescan();
+            QCOMPARE(fixture.ids(), wholeSystem);
         }
-        OrvSim::reset();
-        fixture.model.rescan();
-        QCOMPARE(fixture.ids(), wholeSystem);
     }
 
     /** Interfaces of one identifier share their devices; identifiers may be missing altogether. */

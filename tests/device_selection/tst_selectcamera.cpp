@@ -51,113 +51,96 @@ class TestSelectCamera : public OrvTest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void answersTheChosenCamera();
-    void answersNullWhenCancelled();
-    void standsInFrontOfAForeignWindow();
-    void belongsToAWidgetAndGoesWithIt();
+    void init()
+    {
+        TestCase::init();
+        OrvSim::reset();
+        m_system = SimTest::getSystem();
+    }
+
+    void cleanup()
+    {
+        m_system.reset();
+        QCOMPARE(OrvSim::liveObjects().lists, std::size_t(0));
+        QVERIFY(QApplication::topLevelWidgets().isEmpty());
+        TestCase::cleanup();
+    }
+
+    void answersTheChosenCameraOrNull()
+    {
+        const struct
+        {
+            bool wide, hasTitle, hasSystem, poll;
+        } rows[] = {{false, true, true, true},
+                    {true, true, true, false},
+                    {false, false, true, false},
+                    {true, false, false, true}};
+        for (const auto &row : rows) {
+            for (const bool isChosen : {false, row.hasSystem}) {
+                QString title;
+                whenOpen([&](OrvCameraSelectorDialog &dialog) {
+                    title = dialog.windowTitle();
+                    QVERIFY(dialog.isModal() && !dialog.parent());
+                    QCOMPARE(dialog.isPollChecked(), row.poll);
+                    QCOMPARE(deviceTree(dialog)->model()->rowCount() > 0, row.hasSystem);
+                    if (isChosen)
+                        return choose(dialog, QStringLiteral("TF-2000C (SN0001)"));
+                    // A camera is current, but the button is not clicked.
+                    QTest::keyClick(deviceTree(dialog), Qt::Key_Down); // the focus comes with the activation
+                    cancel(dialog);
+                });
+                OrvCam::System *const system = row.hasSystem ? m_system.get() : nullptr;
+                OrvCam::DeviceInfo *const camera = row.wide
+                    ? SelectCameraW(system, row.hasTitle ? L"\u00b5 \U0001F4F7" : nullptr, 0, row.poll)
+                    : SelectCameraA(system, row.hasTitle ? "\xc2\xb5 \xf0\x9f\x93\xb7" : nullptr, 0, row.poll);
+                QCOMPARE(camera ? camera->GetID() : "", isChosen ? "ORV-GIGE-0001" : "");
+                QCOMPARE(title, row.hasTitle ? QStringLiteral("µ 📷") : QString());
+            }
+        }
+    }
+
+    void standsInFrontOfAForeignWindow()
+    {
+        OrvTest::ForeignWindow foreign;
+        const QString before = foreign.state();
+        QCOMPARE(before, QStringLiteral("1 7 9 300 200 2"));
+        whenOpen([&](OrvCameraSelectorDialog &dialog) {
+            QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+            QCOMPARE(foreign.state(), before);
+            QCOMPARE(foreign.transientForOf(dialog.winId()), foreign.id());
+            cancel(dialog);
+        });
+        QVERIFY(!SelectCameraA(m_system.get(), "Camera", foreign.id(), false));
+        QCoreApplication::processEvents();
+        QCOMPARE(foreign.state(), before);
+
+        whenOpen([&](OrvCameraSelectorDialog &dialog) {
+            foreign.close();
+            QTRY_COMPARE(foreign.state(), QString());
+            choose(dialog, QStringLiteral("TF-2000C (SN0001)"));
+        });
+        QVERIFY(SelectCameraA(m_system.get(), "Camera", foreign.id(), true));
+    }
+
+    void belongsToAWidgetAndGoesWithIt()
+    {
+        auto parent = std::make_unique<QWidget>();
+        QWidget *const child = new QWidget(parent.get());
+        whenOpen([&](OrvCameraSelectorDialog &dialog) {
+            QCOMPARE(dialog.parentWidget(), child);
+            QVERIFY(dialog.isWindow());
+            cancel(dialog);
+        });
+        QVERIFY(!SelectCameraA(m_system.get(), "Camera", child->winId(), false));
+        QVERIFY(child->children().isEmpty());
+        whenOpen([&parent](OrvCameraSelectorDialog &) { parent.reset(); });
+        QVERIFY(!SelectCameraA(m_system.get(), "Camera", child->winId(), true));
+        QVERIFY(!parent);
+    }
 
 private:
     SimTest::Held<OrvCam::System> m_system;
 };
-
-void TestSelectCamera::init()
-{
-    TestCase::init();
-    OrvSim::reset();
-    m_system = SimTest::getSystem();
-}
-
-void TestSelectCamera::cleanup()
-{
-    m_system.reset();
-    QCOMPARE(OrvSim::liveObjects().lists, std::size_t(0));
-    QVERIFY(QApplication::topLevelWidgets().isEmpty());
-    TestCase::cleanup();
-}
-
-void TestSelectCamera::answersTheChosenCamera()
-{
-    const auto chooseFirst = [](OrvCameraSelectorDialog &dialog) {
-        choose(dialog, QStringLiteral("TF-2000C (SN0001)"));
-    };
-    const std::function<OrvCam::DeviceInfo *()> calls[] = {
-        [this] { return OrvGui::SelectCamera(m_system.get(), QStringLiteral("Camera"), 0, false); },
-        [this] { return SelectCameraA(m_system.get(), "Camera", 0, true); },
-        [this] { return SelectCameraW(m_system.get(), L"Camera", 0, false); },
-    };
-    for (const auto &call : calls) {
-        whenOpen(chooseFirst);
-        OrvCam::DeviceInfo *const camera = call();
-        QVERIFY(camera);
-        QCOMPARE(camera->GetID(), "ORV-GIGE-0001");
-    }
-}
-
-void TestSelectCamera::answersNullWhenCancelled()
-{
-    const struct
-    {
-        bool wide, hasTitle, hasSystem, poll;
-    } rows[] = {
-        {false, true, true, true}, {true, true, true, false}, {false, false, true, false}, {true, false, false, true}};
-    for (const auto &row : rows) {
-        QString title;
-        whenOpen([&](OrvCameraSelectorDialog &dialog) {
-            title = dialog.windowTitle();
-            QVERIFY(dialog.isModal() && !dialog.parent());
-            QCOMPARE(dialog.isPollChecked(), row.poll);
-            QCOMPARE(deviceTree(dialog)->model()->rowCount() > 0, row.hasSystem);
-            // A camera is current, but the button is not clicked.
-            QTest::keyClick(deviceTree(dialog), Qt::Key_Down); // the focus comes with the activation, perhaps later
-            cancel(dialog);
-        });
-        OrvCam::System *const system = row.hasSystem ? m_system.get() : nullptr;
-        QVERIFY(!(row.wide ? SelectCameraW(system, row.hasTitle ? L"\u00b5 \U0001F4F7" : nullptr, 0, row.poll)
-                           : SelectCameraA(system, row.hasTitle ? "\xc2\xb5 \xf0\x9f\x93\xb7" : nullptr, 0, row.poll)));
-        QCOMPARE(title, row.hasTitle ? QStringLiteral("µ 📷") : QString());
-    }
-}
-
-void TestSelectCamera::standsInFrontOfAForeignWindow()
-{
-    OrvTest::ForeignWindow foreign;
-    const QString before = foreign.state();
-    QCOMPARE(before, QStringLiteral("1 7 9 300 200 2"));
-    whenOpen([&](OrvCameraSelectorDialog &dialog) {
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-        QCOMPARE(foreign.state(), before);
-        QCOMPARE(foreign.transientForOf(dialog.winId()), foreign.id());
-        cancel(dialog);
-    });
-    QVERIFY(!SelectCameraA(m_system.get(), "Camera", foreign.id(), false));
-    QCoreApplication::processEvents();
-    QCOMPARE(foreign.state(), before);
-
-    whenOpen([&](OrvCameraSelectorDialog &dialog) {
-        foreign.close();
-        QTRY_COMPARE(foreign.state(), QString());
-        choose(dialog, QStringLiteral("TF-2000C (SN0001)"));
-    });
-    QVERIFY(SelectCameraA(m_system.get(), "Camera", foreign.id(), true));
-}
-
-void TestSelectCamera::belongsToAWidgetAndGoesWithIt()
-{
-    auto parent = std::make_unique<QWidget>();
-    QWidget *const child = new QWidget(parent.get());
-    whenOpen([&](OrvCameraSelectorDialog &dialog) {
-        QCOMPARE(dialog.parentWidget(), child);
-        QVERIFY(dialog.isWindow());
-        cancel(dialog);
-    });
-    QVERIFY(!SelectCameraA(m_system.get(), "Camera", child->winId(), false));
-    QVERIFY(child->children().isEmpty());
-    whenOpen([&parent](OrvCameraSelectorDialog &) { parent.reset(); });
-    QVERIFY(!SelectCameraA(m_system.get(), "Camera", child->winId(), true));
-    QVERIFY(!parent);
-}
 
 int main(int argc, char **argv)
 {

@@ -3,11 +3,16 @@
 #include <GenApi/GenApi.h>
 #include <OrvGenApi/memoryport.h>
 #include <OrvGenApi/nodemap.h>
+#include <OrvGenApi/testing/faults.h>
 
 #include <QAbstractItemModel>
 #include <QByteArray>
 
 #include <memory>
+
+using OrvGenApi::testing::clearFaults;
+using OrvGenApi::testing::failGetter;
+using OrvGenApi::testing::registeredCallbacks;
 
 /** A node map over memory. */
 struct FeatureCamera

@@ -1,13 +1,21 @@
 #pragma once
 
 #include "featurecamera.h"
+#include "orvtest.h"
 #include "windowmouse.h"
 
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 #include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
 
+#include <QAbstractProxyModel>
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLineEdit>
 #include <QPaintEvent>
+#include <QTextBrowser>
+#include <QToolButton>
 #include <QTreeView>
 #include <QtTest>
 
@@ -66,13 +74,13 @@ struct ShownView : FeatureCamera
 
     QModelIndexList rows() const { return rowsOf(*tree->model()); }
 
-    /** The cell of the row that shows \a name in its first column; invalid when there is none. */
+    /** The cell of the row that shows or has \a name; invalid when there is none. */
     QModelIndex cell(const char *name, int column = GenParamTreeModel::ValueColumn) const
     {
         const QModelIndexList all = rows();
         for (const QModelIndex &index : all) {
-            if (index.data().toString() == QLatin1String(name))
-                return index.sibling(index.row(), column);
+            if (index.data().toString() == QLatin1String(name) || nodeName(index) == QLatin1String(name))
+                return index.siblingAtColumn(column);
         }
         return {};
     }
@@ -80,7 +88,7 @@ struct ShownView : FeatureCamera
     void click(const QModelIndex &index) const
     {
         tree->scrollTo(index);
-        QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier, tree->visualRect(index).center());
+        WindowMouse::click(tree->viewport(), tree->visualRect(index).center());
     }
 
     /** The editor that is open, or null. */

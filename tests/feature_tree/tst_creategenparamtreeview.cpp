@@ -38,110 +38,105 @@ class TestCreateGenParamTreeView : public OrvTest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void makesTheApplicationItNeeds();
-    void createsWindows();
-    void livesWithoutAnEventLoop();
-    void standsInFrontOfAForeignWindow();
-    void outlivesItsParent();
+    void makesTheApplicationItNeeds()
+    {
+        QVERIFY(qobject_cast<QApplication *>(QCoreApplication::instance()));
+        QVERIFY(QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps));
+    }
+
+    void createsWindows()
+    {
+        const SimTest::Held<OrvCam::System> system = SimTest::getSystem();
+        const SimTest::Held<OrvCam::InterfaceList> interfaces(system->GetInterfaceList(OrvCam::AllInterfaceTypes));
+        OrvGenParam::Array *const params = interfaces->GetFirst()->GetParameters(nullptr);
+        QVERIFY(params);
+        const std::pair<View, QString> views[] = {
+            {View(CreateGenParamTreeViewForNodemapA(m_camera.map.get(), "Gain \xc2\xb5", 0)), QStringLiteral("Gain µ")},
+            {View(CreateGenParamTreeViewForNodemapW(m_camera.map.get(), L"\u00b5 \U0001F4F7", 0)),
+             QStringLiteral("µ 📷")},
+            {View(CreateGenParamTreeViewForArrayA(params, nullptr, 0)), QString()},
+            {View(CreateGenParamTreeViewForArrayW(params, nullptr, 0)), QString()},
+            {View(CreateGenParamTreeViewForArrayA(nullptr, "", ~0UL)), QString()}, // nor such a window
+        };
+        for (const auto &[view, title] : views) {
+            QVERIFY(view);
+            QCOMPARE(windowOf(view)->windowTitle(), title);
+            QVERIFY(windowOf(view)->isVisible() && !windowOf(view)->isModal() && !windowOf(view)->parent());
+            const bool isLast = &view == &views[4].first;
+            QCOMPARE(windowOf(view)->findChild<QTreeView *>()->model()->rowCount() > 0, !isLast);
+        }
+        DestroyGenParamTreeView(nullptr);
+    }
+
+    void livesWithoutAnEventLoop()
+    {
+        QVERIFY(!OrvProcessEvents(0));
+        const View view(CreateGenParamTreeViewForNodemapA(m_camera.map.get(), "Features", 0));
+        auto *const tree = windowOf(view)->findChild<QTreeView *>();
+        QSignalSpy changed(tree->selectionModel(), &QItemSelectionModel::currentChanged);
+        QTimer::singleShot(20, tree, [tree] { tree->setCurrentIndex(tree->model()->index(0, 0)); });
+        for (int i = 0; i < 1000 && changed.isEmpty(); ++i)
+            QVERIFY(OrvProcessEvents(100)); // each waits for what comes next
+        QCOMPARE(changed.size(), 1);
+        const QPointer<QObject> later = new QObject;
+        later->deleteLater();
+        QVERIFY(OrvProcessEvents(0));
+        QVERIFY(!later);
+
+        QVERIFY(IsGenParamTreeViewOpen(view.get()));
+        windowOf(view)->close();
+        QVERIFY(!IsGenParamTreeViewOpen(view.get()));
+        QVERIFY(!OrvProcessEvents(1));
+        ShowGenParamTreeView(view.get());
+        QVERIFY(IsGenParamTreeViewOpen(view.get()) && OrvProcessEvents(0));
+        ShowGenParamTreeView(nullptr);
+        QVERIFY(!IsGenParamTreeViewOpen(nullptr));
+    }
+
+    void standsInFrontOfAForeignWindow()
+    {
+        OrvTest::ForeignWindow foreign;
+        const QString before = foreign.state();
+        QCOMPARE(before, QStringLiteral("1 7 9 300 200 2"));
+        View view(CreateGenParamTreeViewForNodemapA(m_camera.map.get(), "Features", foreign.id()));
+        QVERIFY(QTest::qWaitForWindowExposed(windowOf(view)));
+        QCOMPARE(foreign.state(), before);
+        QCOMPARE(foreign.transientForOf(windowOf(view)->winId()), foreign.id());
+        windowOf(view)->hide();
+        ShowGenParamTreeView(view.get());
+        QVERIFY(QTest::qWaitForWindowExposed(windowOf(view)));
+        QCOMPARE(foreign.transientForOf(windowOf(view)->winId()), foreign.id());
+        View other(CreateGenParamTreeViewForNodemapW(m_camera.map.get(), L"", foreign.id()));
+        other.reset();
+        QCoreApplication::processEvents();
+        QCOMPARE(foreign.state(), before);
+
+        foreign.close();
+        QTRY_COMPARE(foreign.state(), QString());
+        QCoreApplication::processEvents();
+        QVERIFY(windowOf(view)->isVisible());
+        windowOf(view)->hide();
+        ShowGenParamTreeView(view.get());
+        QVERIFY(QTest::qWaitForWindowExposed(windowOf(view)));
+        windowOf(view)->findChild<QTreeView *>()->expandAll();
+        QVERIFY(windowOf(view)->grab().width() > 0);
+    }
+
+    void outlivesItsParent()
+    {
+        auto parent = std::make_unique<QWidget>();
+        auto *const child = new QWidget(parent.get());
+        const View view(CreateGenParamTreeViewForNodemapA(m_camera.map.get(), "Features", child->winId()));
+        QCOMPARE(windowOf(view)->parentWidget(), child);
+        QVERIFY(windowOf(view)->isWindow());
+        parent.reset();
+        QVERIFY(!windowOf(view)->parentWidget());
+        QVERIFY(windowOf(view)->findChild<QTreeView *>()->model()->rowCount() > 0);
+    }
 
 private:
     const FeatureCamera m_camera{FeatureCamera::allKinds()};
 };
-
-void TestCreateGenParamTreeView::makesTheApplicationItNeeds()
-{
-    QVERIFY(qobject_cast<QApplication *>(QCoreApplication::instance()));
-    QVERIFY(QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps));
-}
-
-void TestCreateGenParamTreeView::createsWindows()
-{
-    const SimTest::Held<OrvCam::System> system = SimTest::getSystem();
-    const SimTest::Held<OrvCam::InterfaceList> interfaces(system->GetInterfaceList(OrvCam::AllInterfaceTypes));
-    OrvGenParam::Array *const params = interfaces->GetFirst()->GetParameters(nullptr);
-    QVERIFY(params);
-    const std::pair<View, QString> views[] = {
-        {View(CreateGenParamTreeViewForNodemapA(m_camera.map.get(), "Gain \xc2\xb5", 0)), QStringLiteral("Gain µ")},
-        {View(CreateGenParamTreeViewForNodemapW(m_camera.map.get(), L"\u00b5 \U0001F4F7", 0)), QStringLiteral("µ 📷")},
-        {View(CreateGenParamTreeViewForArrayA(params, nullptr, 0)), QString()},
-        {View(CreateGenParamTreeViewForArrayW(params, nullptr, 0)), QString()},
-        {View(CreateGenParamTreeViewForArrayA(nullptr, "", ~0UL)), QString()}, // nor such a window
-    };
-    for (const auto &[view, title] : views) {
-        QVERIFY(view);
-        QCOMPARE(windowOf(view)->windowTitle(), title);
-        QVERIFY(windowOf(view)->isVisible() && !windowOf(view)->isModal() && !windowOf(view)->parent());
-        const bool isLast = &view == &views[4].first;
-        QCOMPARE(windowOf(view)->findChild<QTreeView *>()->model()->rowCount() > 0, !isLast);
-    }
-    DestroyGenParamTreeView(nullptr);
-}
-
-void TestCreateGenParamTreeView::livesWithoutAnEventLoop()
-{
-    QVERIFY(!OrvProcessEvents(0));
-    const View view(CreateGenParamTreeViewForNodemapA(m_camera.map.get(), "Features", 0));
-    auto *const tree = windowOf(view)->findChild<QTreeView *>();
-    QSignalSpy changed(tree->selectionModel(), &QItemSelectionModel::currentChanged);
-    QTimer::singleShot(20, tree, [tree] { tree->setCurrentIndex(tree->model()->index(0, 0)); });
-    for (int i = 0; i < 1000 && changed.isEmpty(); ++i)
-        QVERIFY(OrvProcessEvents(100)); // each waits for what comes next
-    QCOMPARE(changed.size(), 1);
-    const QPointer<QObject> later = new QObject;
-    later->deleteLater();
-    QVERIFY(OrvProcessEvents(0));
-    QVERIFY(!later);
-
-    QVERIFY(IsGenParamTreeViewOpen(view.get()));
-    windowOf(view)->close();
-    QVERIFY(!IsGenParamTreeViewOpen(view.get()));
-    QVERIFY(!OrvProcessEvents(1));
-    ShowGenParamTreeView(view.get());
-    QVERIFY(IsGenParamTreeViewOpen(view.get()) && OrvProcessEvents(0));
-    ShowGenParamTreeView(nullptr);
-    QVERIFY(!IsGenParamTreeViewOpen(nullptr));
-}
-
-void TestCreateGenParamTreeView::standsInFrontOfAForeignWindow()
-{
-    OrvTest::ForeignWindow foreign;
-    const QString before = foreign.state();
-    QCOMPARE(before, QStringLiteral("1 7 9 300 200 2"));
-    View view(CreateGenParamTreeViewForNodemapA(m_camera.map.get(), "Features", foreign.id()));
-    QVERIFY(QTest::qWaitForWindowExposed(windowOf(view)));
-    QCOMPARE(foreign.state(), before);
-    QCOMPARE(foreign.transientForOf(windowOf(view)->winId()), foreign.id());
-    windowOf(view)->hide();
-    ShowGenParamTreeView(view.get());
-    QVERIFY(QTest::qWaitForWindowExposed(windowOf(view)));
-    QCOMPARE(foreign.transientForOf(windowOf(view)->winId()), foreign.id());
-    View other(CreateGenParamTreeViewForNodemapW(m_camera.map.get(), L"", foreign.id()));
-    other.reset();
-    QCoreApplication::processEvents();
-    QCOMPARE(foreign.state(), before);
-
-    foreign.close();
-    QTRY_COMPARE(foreign.state(), QString());
-    QCoreApplication::processEvents();
-    QVERIFY(windowOf(view)->isVisible());
-    windowOf(view)->hide();
-    ShowGenParamTreeView(view.get());
-    QVERIFY(QTest::qWaitForWindowExposed(windowOf(view)));
-    windowOf(view)->findChild<QTreeView *>()->expandAll();
-    QVERIFY(windowOf(view)->grab().width() > 0);
-}
-
-void TestCreateGenParamTreeView::outlivesItsParent()
-{
-    auto parent = std::make_unique<QWidget>();
-    auto *const child = new QWidget(parent.get());
-    const View view(CreateGenParamTreeViewForNodemapA(m_camera.map.get(), "Features", child->winId()));
-    QCOMPARE(windowOf(view)->parentWidget(), child);
-    QVERIFY(windowOf(view)->isWindow());
-    parent.reset();
-    QVERIFY(!windowOf(view)->parentWidget());
-    QVERIFY(windowOf(view)->findChild<QTreeView *>()->model()->rowCount() > 0);
-}
 
 int main(int argc, char **argv)
 {

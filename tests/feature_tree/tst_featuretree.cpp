@@ -1,9 +1,7 @@
-#include "orvtest.h"
 #include "shownview.h"
 
 #include <OrvCameraGuiApi/feature_tree/featuretree.h>
 
-#include <QLineEdit>
 #include <QScrollBar>
 #include <QStandardItemModel>
 

@@ -1,11 +1,8 @@
 #include "featurecamera.h"
 #include "orvtest.h"
 
-#include <OrvCameraGuiApi/feature_tree/filteredrows.h>
-#include <OrvCameraGuiApi/feature_tree/filterrule.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreevisibilityfilterproxymodel.h>
-#include <OrvGenApi/testing/faults.h>
 
 #include <QAbstractItemModelTester>
 
@@ -149,11 +146,11 @@ private Q_SLOTS:
     {
         Filtered filtered(description());
         for (const char *getter : {"GetVisibility", "GetAccessMode", "GetDisplayName", "GetPrincipalInterfaceType"}) {
-            OrvGenApi::testing::failGetter(*filtered.map, "Gain", getter);
+            failGetter(*filtered.map, "Gain", getter);
             filtered.proxy.setFilterText(QStringLiteral("Ga*n"));
             filtered.proxy.invalidate();
             const QString shown = shape(filtered.proxy);
-            OrvGenApi::testing::clearFaults(*filtered.map);
+            clearFaults(*filtered.map);
             QVERIFY2(shown.startsWith(QLatin1String("Image(Gain,Gain Auto)")), getter);
         }
     }
@@ -222,34 +219,6 @@ private Q_SLOTS:
             QTRY_COMPARE(shape(proxy).startsWith(QLatin1String("Attic")), bool(isThere));
             QVERIFY(gain.isValid() && gain.row() == 0);
         }
-    }
-
-    /** The rows by themselves, without a model that announces them. */
-    void knowsThePlacesOfAFeature()
-    {
-        const Filtered filtered(twofoldDescription());
-        FilterRule rule;
-        FilteredRows rows(const_cast<GenParamTreeModel *>(&filtered.model), &rule);
-        const QModelIndex gain = filtered.model.index(2, 1, filtered.model.index(0, 0));
-        QCOMPARE(rows.placesOf(gain).size(), 0);
-        FilteredRows::Branch *const image = rows.below({rows.root(), 0});
-        FilteredRows::Branch *const again = rows.below({rows.below({rows.root(), 1}), 2});
-        QVERIFY(image && again && again != image && !rows.below({image, 0}));
-        QCOMPARE(rows.placesOf(gain).size(), 2);
-        rule.pattern.setPattern(QStringLiteral("auto"));
-        {
-            FilteredRows::Changes changes(rows.evaluate());
-            QVERIFY(changes.removeRows());
-            QCOMPARE(FilteredRows::survivorOf(*again, 3), 3);
-            QCOMPARE(FilteredRows::survivorOf(*again, 2), 3);
-            rows.make(changes);
-            QVERIFY(!changes.haveBroughtCategories());
-        }
-        QCOMPARE(again->rows, FilteredRows::Rows({1, 3}));
-        QVERIFY(rows.evaluate().empty() && !rows.shownPlaceOf(gain));
-        FilteredRows::Changes changes({FilteredRows::toggled({rows.root(), 1})});
-        rows.make(changes);
-        QVERIFY(FilteredRows::isShown(*image) && !FilteredRows::isShown(*again));
     }
 
     /** Also of rows that pass the filter themselves. */

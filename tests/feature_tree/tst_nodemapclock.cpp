@@ -1,6 +1,4 @@
-#include "orvtest.h"
 #include "shownview.h"
-#include "simtest.h"
 
 #include <OrvCameraGuiApi/background/nodemapclock.h>
 #include <OrvCameraGuiApi/background/periods.h>
@@ -10,23 +8,6 @@
 #include <numeric>
 
 using Use = NodeMapClock::Use;
-
-class NodeMapClockTest : public OrvTest::TestCase
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void initTestCase();
-    void countsTimeOnce();
-    void restsWithoutUsers();
-    void leavesThePollingToATree();
-    void survivesReports();
-    void showsHowACameraEndsABalance();
-
-private:
-    const QScopedValueRollback<std::chrono::milliseconds> m_period{OrvGui::periods().poll,
-                                                                   std::chrono::milliseconds(5)};
-};
 
 namespace {
 
@@ -111,123 +92,103 @@ void work(qint64 milliseconds)
 
 } // namespace
 
-void NodeMapClockTest::initTestCase()
+class NodeMapClockTest : public OrvTest::TestCase
 {
-    QCOMPARE(int(OrvGui::Periods().poll.count()), 200);
-    OrvSim::reset();
-}
+    Q_OBJECT
 
-void NodeMapClockTest::countsTimeOnce()
-{
-    PollLog map;
-    QElapsedTimer real;
-    real.start();
-    const Use one(&map);
-    const Use other(&map);
-    const Use none(nullptr);
-    work(60);
-    QTRY_VERIFY(map.polls.size() >= 5);
-    QVERIFY(map.polls.first() >= 60);
-    QVERIFY(map.time() <= real.elapsed());
-}
+private Q_SLOTS:
+    void initTestCase() { QCOMPARE(int(OrvGui::Periods().poll.count()), 200); }
 
-void NodeMapClockTest::restsWithoutUsers()
-{
-    PollLog map;
-    Use first(&map);
-    Use second(&map);
-    const auto isPolled = [&map] {
-        map.polls.clear();
-        return clocksRan() && !map.polls.isEmpty();
-    };
-    first = {};
-    QVERIFY(isPolled());
-    Use moved(std::move(second));
-    QVERIFY(isPolled());
-    first = std::move(moved);
-    QVERIFY(isPolled());
-    first = {};
-    QVERIFY(!isPolled());
-    first = Use(&map);
-    QVERIFY(isPolled());
-}
-
-/** The view's own time is the same whether somebody else looks or not; afterwards the clock goes on. */
-void NodeMapClockTest::leavesThePollingToATree()
-{
-    PollLog map;
-    PollLog other;
-    OrvGui::OrvGenParamTreeView view(&map, nullptr);
-    const std::pair<std::function<void()>, std::function<void()>> rows[] = {
-        {[&] { view.enablePolling(false); }, [&] { view.enablePolling(true); }},
-        {[&] { view.setPollingTime(0); }, [&] { view.setPollingTime(7); }},
-        {[&] { view.setParams(&other); }, [&] { view.setParams(&map); }},
-        {[&] { view.clearParams(); }, [&] { view.setParams(&map); }}};
-    view.setPollingTime(7);
-    view.enablePolling(true);
-    const Use use(&map);
-    for (const auto &[stop, goOn] : rows) {
-        map.polls.clear();
-        QTRY_VERIFY(map.polls.size() >= 5);
-        QCOMPARE(map.polls, QVector<int64_t>(map.polls.size(), 7));
-        stop();
-        map.polls.clear();
-        work(20);
-        QTRY_VERIFY(std::any_of(map.polls.begin(), map.polls.end(), [](int64_t time) { return time >= 20; }));
-        goOn();
-    }
-}
-
-void NodeMapClockTest::survivesReports()
-{
-    auto map = std::make_unique<PollLog>();
-    Use use(map.get());
-    map->onPoll = [] { throw GenICam::RuntimeException("The device does not answer", __FILE__, __LINE__); };
-    QTRY_VERIFY(map->polls.size() >= 3);
-    int depth = 0;
-    int deepest = 0;
-    map->onPoll = [&] { // a message box, for one
-        deepest = std::max(deepest, ++depth);
-        clocksRan();
-        --depth;
-    };
-    QTRY_VERIFY(deepest > 0);
-    QCOMPARE(deepest, 1);
-    bool isOver = false;
-    map->onPoll = [&] {
-        use = {};
-        isOver = true;
-    };
-    QTRY_VERIFY(isOver);
-    map.reset();
-    QVERIFY(clocksRan());
-}
-
-/** A camera goes back to "Off" by itself; without polls nobody would be told, and the coefficients would stay locked.
- */
-void NodeMapClockTest::showsHowACameraEndsABalance()
-{
-    const SimTest::Held<OrvCam::Device> device = SimTest::open(SimTest::twoFrame);
-    OrvGenParam::Array *const params = device->GetCameraParameters(nullptr);
-    OrvGenParam::Enum *const balance = params->GetEnum("BalanceWhiteAuto", nullptr);
-    OrvGenParam::Int *const red = params->GetInt("RedCoefficient", nullptr);
-    QByteArray shown;
-    bool isOpen = true;
-    SimTest::Sink mode([&](OrvGenParam::Param *) { shown = balance->GetValueStr(nullptr); });
-    SimTest::Sink coefficient([&](OrvGenParam::Param *) { isOpen = red->IsWritable(); });
-    balance->RegisterEvent(&mode);
-    red->RegisterEvent(&coefficient);
-    QCOMPARE(balance->SetValueStr("Once"), OrvCamErr_Ok);
-    QCOMPARE(shown, QByteArray("Once"));
-    QVERIFY(!isOpen);
+    void countsTimeOnce()
     {
-        const Use use(params->GetNodeMap());
-        QTRY_COMPARE(shown, QByteArray("Off"));
-        QTRY_VERIFY(isOpen);
+        PollLog map;
+        QElapsedTimer real;
+        real.start();
+        const Use one(&map);
+        const Use other(&map);
+        const Use none(nullptr);
+        work(60);
+        QTRY_VERIFY(map.polls.size() >= 5);
+        QVERIFY(map.polls.first() >= 60);
+        QVERIFY(map.time() <= real.elapsed());
     }
-    balance->UnregisterEvent(&mode);
-    red->UnregisterEvent(&coefficient);
-}
+
+    void restsWithoutUsers()
+    {
+        PollLog map;
+        Use first(&map);
+        Use second(&map);
+        const auto isPolled = [&map] {
+            map.polls.clear();
+            return clocksRan() && !map.polls.isEmpty();
+        };
+        first = {};
+        QVERIFY(isPolled());
+        Use moved(std::move(second));
+        QVERIFY(isPolled());
+        first = std::move(moved);
+        QVERIFY(isPolled());
+        first = {};
+        QVERIFY(!isPolled());
+        first = Use(&map);
+        QVERIFY(isPolled());
+    }
+
+    /** The view's own time is the same whether somebody else looks or not; afterwards the clock goes on. */
+    void leavesThePollingToATree()
+    {
+        PollLog map;
+        PollLog other;
+        OrvGui::OrvGenParamTreeView view(&map, nullptr);
+        const std::pair<std::function<void()>, std::function<void()>> rows[] = {
+            {[&] { view.enablePolling(false); }, [&] { view.enablePolling(true); }},
+            {[&] { view.setPollingTime(0); }, [&] { view.setPollingTime(7); }},
+            {[&] { view.setParams(&other); }, [&] { view.setParams(&map); }},
+            {[&] { view.clearParams(); }, [&] { view.setParams(&map); }}};
+        view.setPollingTime(7);
+        view.enablePolling(true);
+        const Use use(&map);
+        for (const auto &[stop, goOn] : rows) {
+            map.polls.clear();
+            QTRY_VERIFY(map.polls.size() >= 5);
+            QCOMPARE(map.polls, QVector<int64_t>(map.polls.size(), 7));
+            stop();
+            map.polls.clear();
+            work(20);
+            QTRY_VERIFY(std::any_of(map.polls.begin(), map.polls.end(), [](int64_t time) { return time >= 20; }));
+            goOn();
+        }
+    }
+
+    void survivesReports()
+    {
+        auto map = std::make_unique<PollLog>();
+        Use use(map.get());
+        map->onPoll = [] { throw GenICam::RuntimeException("The device does not answer", __FILE__, __LINE__); };
+        QTRY_VERIFY(map->polls.size() >= 3);
+        int depth = 0;
+        int deepest = 0;
+        map->onPoll = [&] { // a message box, for one
+            deepest = std::max(deepest, ++depth);
+            clocksRan();
+            --depth;
+        };
+        QTRY_VERIFY(deepest > 0);
+        QCOMPARE(deepest, 1);
+        bool isOver = false;
+        map->onPoll = [&] {
+            use = {};
+            isOver = true;
+        };
+        QTRY_VERIFY(isOver);
+        map.reset();
+        QVERIFY(clocksRan());
+    }
+
+private:
+    const QScopedValueRollback<std::chrono::milliseconds> m_period{OrvGui::periods().poll,
+                                                                   std::chrono::milliseconds(5)};
+};
 
 ORV_TEST_MAIN(NodeMapClockTest)
 

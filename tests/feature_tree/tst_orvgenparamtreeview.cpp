@@ -1,20 +1,8 @@
-#include "orvtest.h"
 #include "shownview.h"
 
-#include <OrvGenApi/testing/faults.h>
-
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QSplitter>
-#include <QTextBrowser>
-#include <QTimer>
-#include <QToolButton>
 #include <QToolTip>
-
-using OrvGenApi::testing::clearFaults;
-using OrvGenApi::testing::failGetter;
 
 namespace {
 
@@ -54,308 +42,237 @@ class TestOrvGenParamTreeView : public OrvTest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void showsErrors();
-    void repaintsAStandingFaultOnce();
-    void expandsAndCollapses();
-    void dividesTheColumnsOnce();
-    void filters();
-    void followsTheFilter();
-    void keepsItsSettingsForANewNodeMap();
-    void keysDoNoHarm();
-    void polls();
-    void savesItsState();
-    void loadsStates_data();
-    void loadsStates();
-};
-
-void TestOrvGenParamTreeView::showsErrors()
-{
-    ShownView shown;
-    QVERIFY(shown.show());
-    QCoreApplication::processEvents();
-    auto *const status = shown.part<QToolButton>("pbStatus");
-    QVERIFY(showsIcon(status->icon(), "://images//ok.png"));
-    const QModelIndex value = shown.cell("Exposure Time");
-    const QModelIndex name = value.siblingAtColumn(0);
-    const QPoint nameCenter = shown.tree->visualRect(name).center();
-    PaintLog paints(shown.tree->viewport());
-    failGetter(*shown.map, "Exposure", "GetValue", "no <i>answer</i> for %1");
-    shown.node("Exposure")->InvalidateNode();
-    QTRY_VERIFY(showsIcon(status->icon(), "://images//err.png"));
-    QTRY_VERIFY(paints.region.contains(nameCenter));
-    QVERIFY(shown.isRed(name) && shown.isRed(value));
-    QHelpEvent help(QEvent::ToolTip, shown.tree->visualRect(value).center(), QCursor::pos());
-    QCoreApplication::sendEvent(shown.tree->viewport(), &help);
-    QVERIFY(QToolTip::text().contains(QLatin1String("answer")));
-    QToolTip::hideText();
-
-    QTest::mouseClick(status, Qt::LeftButton);
-    QPointer<QWidget> dialog = QApplication::activeModalWidget();
-    QVERIFY(dialog);
-    QCOMPARE(dialog->objectName(), QStringLiteral("GenErrorsDlg"));
-    QCOMPARE(dialog->windowTitle(), QStringLiteral("Gen<i>Cam errors"));
-    QCOMPARE(dialog->size(), QSize(400, 171));
-    QCOMPARE(dialog->findChild<QTextBrowser *>()->toPlainText(),
-             QStringLiteral("{Exposure}{id:0}: no <i>answer</i> for %1 \n"));
-    QTest::mouseClick(dialog->findChild<QPushButton *>(), Qt::LeftButton);
-    QTRY_VERIFY(!dialog);
-
-    QCoreApplication::processEvents();
-    paints.clear();
-    clearFaults(*shown.map);
-    shown.node("Exposure")->InvalidateNode();
-    QTRY_VERIFY(showsIcon(status->icon(), "://images//ok.png"));
-    QTRY_VERIFY(paints.region.contains(nameCenter));
-    QVERIFY(!shown.isRed(name) && !shown.isRed(value));
-    QTest::mouseClick(status, Qt::LeftButton);
-    dialog = QApplication::activeModalWidget();
-    QCOMPARE(dialog->findChild<QTextBrowser *>()->toPlainText(), QStringLiteral("No Errors"));
-    QTest::keyClick(dialog, Qt::Key_Escape);
-    QTRY_VERIFY(!dialog);
-}
-
-void TestOrvGenParamTreeView::repaintsAStandingFaultOnce()
-{
-    for (const char *getter : {"GetValue", "GetAccessMode", "GetPrincipalInterfaceType"}) {
+    void showsErrors()
+    {
         ShownView shown;
-        failGetter(*shown.map, "Exposure", getter);
         QVERIFY(shown.show());
-        const PaintLog paints(shown.tree->viewport());
-        for (int i = 0; i < 50; ++i)
-            QCoreApplication::processEvents();
-        QVERIFY2(paints.count <= 4, getter);
-        QVERIFY(shown.isRed(shown.cell("Exposure Time", GenParamTreeModel::NameColumn)));
-    }
-}
+        QCoreApplication::processEvents();
+        auto *const status = shown.part<QToolButton>("pbStatus");
+        QVERIFY(showsIcon(status->icon(), "://images//ok.png"));
+        const QModelIndex value = shown.cell("Exposure Time");
+        const QModelIndex name = value.siblingAtColumn(0);
+        const QPoint nameCenter = shown.tree->visualRect(name).center();
+        PaintLog paints(shown.tree->viewport());
+        failGetter(*shown.map, "Exposure", "GetValue", "no <i>answer</i> for %1");
+        shown.node("Exposure")->InvalidateNode();
+        QTRY_VERIFY(showsIcon(status->icon(), "://images//err.png"));
+        QTRY_VERIFY(paints.region.contains(nameCenter));
+        QVERIFY(shown.isRed(name) && shown.isRed(value));
+        QHelpEvent help(QEvent::ToolTip, shown.tree->visualRect(value).center(), QCursor::pos());
+        QCoreApplication::sendEvent(shown.tree->viewport(), &help);
+        QVERIFY(QToolTip::text().contains(QLatin1String("answer")));
+        QToolTip::hideText();
 
-void TestOrvGenParamTreeView::expandsAndCollapses()
-{
-    ShownView shown;
-    QVERIFY(shown.show());
-    const QModelIndexList rows = shown.rows();
-    for (const auto &[button, expanded] : {std::pair("pbCollapseAll", false), std::pair("pbExpandAll", true)}) {
-        QTest::mouseClick(shown.part<QToolButton>(button), Qt::LeftButton);
-        for (const QModelIndex &index : rows) {
-            if (shown.tree->model()->hasChildren(index))
-                QCOMPARE(shown.tree->isExpanded(index), expanded);
+        QTest::mouseClick(status, Qt::LeftButton);
+        QPointer<QWidget> dialog = QApplication::activeModalWidget();
+        QVERIFY(dialog);
+        QCOMPARE(dialog->objectName(), QStringLiteral("GenErrorsDlg"));
+        QCOMPARE(dialog->windowTitle(), QStringLiteral("Gen<i>Cam errors"));
+        QCOMPARE(dialog->size(), QSize(400, 171));
+        QCOMPARE(dialog->findChild<QTextBrowser *>()->toPlainText(),
+                 QStringLiteral("{Exposure}{id:0}: no <i>answer</i> for %1 \n"));
+        QTest::mouseClick(dialog->findChild<QPushButton *>(), Qt::LeftButton);
+        QTRY_VERIFY(!dialog);
+
+        QCoreApplication::processEvents();
+        paints.clear();
+        clearFaults(*shown.map);
+        shown.node("Exposure")->InvalidateNode();
+        QTRY_VERIFY(showsIcon(status->icon(), "://images//ok.png"));
+        QTRY_VERIFY(paints.region.contains(nameCenter));
+        QVERIFY(!shown.isRed(name) && !shown.isRed(value));
+        QTest::mouseClick(status, Qt::LeftButton);
+        dialog = QApplication::activeModalWidget();
+        QCOMPARE(dialog->findChild<QTextBrowser *>()->toPlainText(), QStringLiteral("No Errors"));
+        QTest::keyClick(dialog, Qt::Key_Escape);
+        QTRY_VERIFY(!dialog);
+    }
+
+    void dividesTheColumnsOnce()
+    {
+        for (const auto &[state, width] : {std::pair("", 0), std::pair("&amp;W123&amp;V2", 123),
+                                           std::pair("&amp;W0&amp;V2", 0), std::pair("&amp;W-9&amp;V2", 0)}) {
+            ShownView shown;
+            shown.view.loadState(state);
+            QVERIFY(shown.show());
+            if (width)
+                QCOMPARE(shown.tree->columnWidth(0), width);
+            else
+                QVERIFY(qAbs(shown.tree->columnWidth(0) - shown.tree->viewport()->width() / 2) < 10);
+            shown.tree->setColumnWidth(0, 77);
+            shown.view.hide();
+            QVERIFY(shown.show());
+            QCOMPARE(shown.tree->columnWidth(0), 77);
         }
     }
-}
 
-void TestOrvGenParamTreeView::dividesTheColumnsOnce()
-{
-    for (const auto &[state, width] : {std::pair("", 0), std::pair("&amp;W123&amp;V2", 123),
-                                       std::pair("&amp;W0&amp;V2", 0), std::pair("&amp;W-9&amp;V2", 0)}) {
+    void filters()
+    {
         ShownView shown;
-        shown.view.loadState(state);
         QVERIFY(shown.show());
-        if (width)
-            QCOMPARE(shown.tree->columnWidth(0), width);
-        else
-            QVERIFY(qAbs(shown.tree->columnWidth(0) - shown.tree->viewport()->width() / 2) < 10);
-        shown.tree->setColumnWidth(0, 77);
-        shown.view.hide();
-        QVERIFY(shown.show());
-        QCOMPARE(shown.tree->columnWidth(0), 77);
+        auto *const edit = shown.part<QLineEdit>("filterLineEdit");
+        QTest::keyClicks(edit, QStringLiteral("gain"));
+        QVERIFY(shown.cell("Gain").isValid() && !shown.cell("Ratio").isValid());
+
+        QToolButton *const options = filterButton(shown, "Filter options");
+        QVERIFY(showsIcon(options->icon(), "://images//options.png"));
+        expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
+        QTest::mouseClick(options, Qt::LeftButton);
+        QWidget *const popup = QApplication::activePopupWidget();
+        QCOMPARE(popup->objectName(), QStringLiteral("FilterOptions"));
+        const auto toggle = [popup](const char *name) {
+            auto *const box = popup->findChild<QCheckBox *>(QLatin1String(name));
+            QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box->height() / 2));
+        };
+        toggle("checkBoxCase");
+        QVERIFY(showsIcon(options->icon(), "://images//options-c.png"));
+        QVERIFY(!shown.cell("Gain").isValid());
+        toggle("checkBoxWhole");
+        QVERIFY(showsIcon(options->icon(), "://images//options-cw.png"));
+        toggle("checkBoxCase");
+        QVERIFY(showsIcon(options->icon(), "://images//options-w.png"));
+        QVERIFY(shown.cell("Gain").isValid());
+        QTest::keyClick(popup, Qt::Key_Escape);
+        QVERIFY(!popup->isVisible());
+        QVERIFY(shown.view.isVisible());
+
+        QTest::keyClick(edit, Qt::Key_Backspace);
+        QVERIFY(!shown.cell("Gain").isValid());
+        QTest::mouseClick(filterButton(shown, "Clear filter"), Qt::LeftButton);
+        QVERIFY(shown.cell("Gain").isValid() && shown.cell("Ratio").isValid());
     }
-}
 
-void TestOrvGenParamTreeView::filters()
-{
-    ShownView shown;
-    QVERIFY(shown.show());
-    auto *const edit = shown.part<QLineEdit>("filterLineEdit");
-    QTest::keyClicks(edit, QStringLiteral("gain"));
-    QVERIFY(shown.cell("Gain").isValid() && !shown.cell("Ratio").isValid());
+    void keepsItsSettingsForANewNodeMap()
+    {
+        const FeatureCamera other(polledNodes());
+        ShownView shown;
+        failGetter(*shown.map, "Exposure", "GetValue");
+        QVERIFY(shown.show());
+        shown.click(shown.cell("Exposure"));
+        auto *const pane = shown.part<QTextBrowser>("whatsThisLabel");
+        QVERIFY(pane->toPlainText().startsWith(QLatin1String("Name: Exposure")));
+        QTest::keyClicks(shown.part<QLineEdit>("filterLineEdit"), QStringLiteral("e*r"));
+        QTest::keyClick(shown.part<QComboBox>("cbVisibility"), Qt::Key_B);
+        shown.view.setParams(other.map.get());
+        QVERIFY(shown.cell("Never").isValid());
+        QVERIFY(!shown.cell("Slow").isValid() && !shown.cell("Device").isValid());
+        QVERIFY(showsIcon(shown.part<QToolButton>("pbStatus")->icon(), "://images//ok.png"));
+        QVERIFY(pane->toPlainText().isEmpty());
+        shown.view.setVisibility(OrvGui::Guru);
+        shown.view.setVisibility(OrvGui::Visibility(3));
+        QCOMPARE(shown.view.visibility(), OrvGui::Guru);
+    }
 
-    QToolButton *const options = filterButton(shown, "Filter options");
-    QVERIFY(showsIcon(options->icon(), "://images//options.png"));
-    expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
-    QTest::mouseClick(options, Qt::LeftButton);
-    QWidget *const popup = QApplication::activePopupWidget();
-    QCOMPARE(popup->objectName(), QStringLiteral("FilterOptions"));
-    const auto toggle = [popup](const char *name) {
-        auto *const box = popup->findChild<QCheckBox *>(QLatin1String(name));
-        QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box->height() / 2));
-    };
-    toggle("checkBoxCase");
-    QVERIFY(showsIcon(options->icon(), "://images//options-c.png"));
-    QVERIFY(!shown.cell("Gain").isValid());
-    toggle("checkBoxWhole");
-    QVERIFY(showsIcon(options->icon(), "://images//options-cw.png"));
-    toggle("checkBoxCase");
-    QVERIFY(showsIcon(options->icon(), "://images//options-w.png"));
-    QVERIFY(shown.cell("Gain").isValid());
-    QTest::keyClick(popup, Qt::Key_Escape);
-    QVERIFY(!popup->isVisible());
-    QVERIFY(shown.view.isVisible());
+    void keysDoNoHarm()
+    {
+        QWidget host;
+        ShownView shown;
+        QVERIFY(shown.show());
+        shown.click(shown.cell("Start"));
+        QVERIFY(shown.tree->findChild<QPushButton *>());
+        QTest::keyClick(shown.part<QLineEdit>("filterLineEdit"), Qt::Key_Return);
+        QCOMPARE(shown.port.writeCount(), uint64_t(0));
 
-    QTest::keyClick(edit, Qt::Key_Backspace);
-    QVERIFY(!shown.cell("Gain").isValid());
-    QTest::mouseClick(filterButton(shown, "Clear filter"), Qt::LeftButton);
-    QVERIFY(shown.cell("Gain").isValid() && shown.cell("Ratio").isValid());
-}
+        shown.view.setParent(&host, Qt::Widget);
+        host.show();
+        shown.view.show();
+        QTest::keyClick(shown.part<QLineEdit>("filterLineEdit"), Qt::Key_Escape);
+        QVERIFY(shown.view.isVisible());
+        shown.view.setParent(nullptr, Qt::Dialog);
+        shown.view.show();
+        QTest::keyClick(shown.tree, Qt::Key_Escape);
+        QVERIFY(!shown.view.isVisible());
+    }
 
-void TestOrvGenParamTreeView::followsTheFilter()
-{
-    ShownView shown(polledNodes());
-    QVERIFY(shown.show());
-    auto *const pane = shown.part<QTextBrowser>("whatsThisLabel");
-    shown.click(shown.cell("Slow", GenParamTreeModel::NameColumn));
-    QTest::keyClicks(shown.part<QLineEdit>("filterLineEdit"), QStringLiteral("ever"));
-    QCOMPARE(shown.tree->currentIndex().data().toString(), QStringLiteral("Never"));
-    QVERIFY(pane->toPlainText().startsWith(QLatin1String("Name: Never")));
-    shown.part<QLineEdit>("filterLineEdit")->clear();
+    void polls()
+    {
+        ShownView shown(polledNodes());
+        QVERIFY(shown.show());
+        OrvGui::IOrvGenParamTreeView &view = shown.view;
+        QCOMPARE(view.getPollingTime(), 0UL);
+        view.setPollingTime(~0UL);
+        QCOMPARE(view.getPollingTime(), 2147483647UL);
+        QStringList changed;
+        connect(shown.tree->model(), &QAbstractItemModel::dataChanged, &shown.view,
+                [&changed](const QModelIndex &index) { changed += index.siblingAtColumn(0).data().toString(); });
+        QVERIFY(!view.isPollingEnabled());
+        view.enablePolling(true);
+        view.setPollingTime(15);
+        QTRY_VERIFY(changed.size() >= 4);
+        QVERIFY(changed.contains(QLatin1String("Slow")) && !changed.contains(QLatin1String("Never")));
+        view.clearParams();
+        QVERIFY(view.isPollingEnabled());
+    }
 
-    shown.click(shown.cell("Hidden", GenParamTreeModel::NameColumn));
-    shown.view.setVisibility(OrvGui::Basic);
-    QVERIFY(!shown.tree->currentIndex().isValid()); // its category went too
-    QVERIFY(pane->toPlainText().isEmpty());
-    shown.view.setVisibility(OrvGui::Guru);
-    QVERIFY(!shown.tree->currentIndex().isValid());
-}
+    void savesItsState()
+    {
+        ShownView shown(polledNodes());
+        QVERIFY(shown.show());
+        shown.tree->collapse(shown.cell("Device", 0));
+        shown.tree->setColumnWidth(0, 250);
+        const QByteArray splitter = shown.part<QSplitter>("")->saveState().toHex();
+        const QByteArray saved = shown.view.saveState();
+        QCOMPARE(saved, "Device Control&lt;Device/Deep&lt;&amp;W250&amp;V2&amp;S" + splitter);
 
-void TestOrvGenParamTreeView::keepsItsSettingsForANewNodeMap()
-{
-    const FeatureCamera other(polledNodes());
-    ShownView shown;
-    failGetter(*shown.map, "Exposure", "GetValue");
-    QVERIFY(shown.show());
-    shown.click(shown.cell("Exposure Time"));
-    auto *const pane = shown.part<QTextBrowser>("whatsThisLabel");
-    QVERIFY(pane->toPlainText().startsWith(QLatin1String("Name: Exposure")));
-    QTest::keyClicks(shown.part<QLineEdit>("filterLineEdit"), QStringLiteral("e*r"));
-    QTest::keyClick(shown.part<QComboBox>("cbVisibility"), Qt::Key_B);
-    shown.part<QCheckBox>("checkBoxCase")->setChecked(true);
+        // A level that hides a category takes it out of the text; what is left of the path is found in "Device
+        // Control".
+        shown.view.setVisibility(OrvGui::Basic);
+        QCOMPARE(QByteArray(shown.view.saveState()), "Device Control&lt;&amp;W250&amp;V0&amp;S" + splitter);
+        shown.view.setVisibility(OrvGui::Guru);
+        shown.tree->setColumnWidth(0, 99);
+        shown.view.loadState(saved);
+        QVERIFY(shown.tree->isExpanded(shown.cell("Device", 0)));
+        QVERIFY(shown.tree->isExpanded(shown.cell("Deep", 0)));
+        QCOMPARE(shown.tree->columnWidth(0), 250);
+        shown.tree->collapse(shown.cell("Device", 0));
+        shown.view.loadState(shown.view.saveState());
+        QVERIFY(shown.tree->isExpanded(shown.cell("Device", 0)));
 
-    shown.view.setParams(other.map.get());
-    QVERIFY(shown.cell("Never").isValid());
-    QVERIFY(!shown.cell("Slow").isValid() && !shown.cell("Device").isValid());
-    QVERIFY(showsIcon(shown.part<QToolButton>("pbStatus")->icon(), "://images//ok.png"));
-    QVERIFY(pane->toPlainText().isEmpty());
-    shown.view.setVisibility(OrvGui::Guru);
-    QVERIFY(shown.cell("Device").isValid() && !shown.cell("Hidden").isValid());
-    shown.view.setVisibility(OrvGui::Visibility(3));
-    QCOMPARE(shown.view.visibility(), OrvGui::Guru);
-}
+        for (const auto &[button, paths] : {std::pair("pbCollapseAll", ""),
+                                            std::pair("pbExpandAll", "Device Control&lt;Device&lt;Device/Deep&lt;")}) {
+            QTest::mouseClick(shown.part<QToolButton>(button), Qt::LeftButton);
+            QCOMPARE(QByteArray(shown.view.saveState()), paths + ("&amp;W250&amp;V2&amp;S" + splitter));
+        }
+        shown.view.setParams(static_cast<OrvGenParam::Array *>(nullptr));
+        shown.view.loadState(saved);
+        QCOMPARE(shown.view.saveState(), "");
+        QCOMPARE(shown.rows().size(), 0);
+    }
 
-void TestOrvGenParamTreeView::keysDoNoHarm()
-{
-    QWidget host;
-    ShownView shown;
-    QVERIFY(shown.show());
-    shown.click(shown.cell("Start"));
-    QVERIFY(shown.tree->findChild<QPushButton *>());
-    QTest::keyClick(shown.part<QLineEdit>("filterLineEdit"), Qt::Key_Return);
-    QCOMPARE(shown.port.writeCount(), uint64_t(0));
-
-    shown.view.setParent(&host, Qt::Widget);
-    host.show();
-    shown.view.show();
-    QTest::keyClick(shown.part<QLineEdit>("filterLineEdit"), Qt::Key_Escape);
-    QVERIFY(shown.view.isVisible());
-    shown.view.setParent(nullptr, Qt::Dialog);
-    shown.view.show();
-    QTest::keyClick(shown.tree, Qt::Key_Escape);
-    QVERIFY(!shown.view.isVisible());
-}
-
-void TestOrvGenParamTreeView::polls()
-{
-    ShownView shown(polledNodes());
-    QVERIFY(shown.show());
-    OrvGui::IOrvGenParamTreeView &view = shown.view;
-    QCOMPARE(view.getPollingTime(), 0UL);
-    view.setPollingTime(~0UL);
-    QCOMPARE(view.getPollingTime(), 2147483647UL);
-    QStringList changed;
-    connect(shown.tree->model(), &QAbstractItemModel::dataChanged, &shown.view,
-            [&changed](const QModelIndex &index) { changed += index.siblingAtColumn(0).data().toString(); });
-    QVERIFY(!view.isPollingEnabled());
-    view.enablePolling(true);
-    view.setPollingTime(15);
-    QTRY_VERIFY(changed.size() >= 4);
-    QVERIFY(changed.contains(QLatin1String("Slow")) && !changed.contains(QLatin1String("Never")));
-    const std::uint64_t reads = shown.port.readCount();
-    view.clearParams();
-    QVERIFY(view.isPollingEnabled());
-    QSignalSpy timeouts(shown.view.findChild<QTimer *>(), &QTimer::timeout);
-    QTRY_VERIFY(timeouts.count() >= 3);
-    QCOMPARE(shown.port.readCount(), reads);
-    view.enablePolling(false);
-    QVERIFY(!view.isPollingEnabled());
-}
-
-void TestOrvGenParamTreeView::savesItsState()
-{
-    ShownView shown(polledNodes());
-    QVERIFY(shown.show());
-    shown.tree->collapse(shown.cell("Device", 0));
-    shown.tree->setColumnWidth(0, 250);
-    const QByteArray splitter = shown.part<QSplitter>("")->saveState().toHex();
-    const QByteArray saved = shown.view.saveState();
-    QCOMPARE(saved, "Device Control&lt;Device/Deep&lt;&amp;W250&amp;V2&amp;S" + splitter);
-
-    // A level that hides a category takes it out of the text; what is left of the path is found in "Device Control".
-    shown.view.setVisibility(OrvGui::Basic);
-    QCOMPARE(QByteArray(shown.view.saveState()), "Device Control&lt;&amp;W250&amp;V0&amp;S" + splitter);
-    shown.view.setVisibility(OrvGui::Guru);
-    shown.tree->setColumnWidth(0, 99);
-    shown.view.loadState(saved);
-    QVERIFY(shown.tree->isExpanded(shown.cell("Device", 0)));
-    QVERIFY(shown.tree->isExpanded(shown.cell("Deep", 0)));
-    QCOMPARE(shown.tree->columnWidth(0), 250);
-    shown.tree->collapse(shown.cell("Device", 0));
-    shown.view.loadState(shown.view.saveState());
-    QVERIFY(shown.tree->isExpanded(shown.cell("Device", 0)));
-
-    shown.view.setParams(static_cast<OrvGenParam::Array *>(nullptr));
-    shown.view.loadState(saved);
-    QCOMPARE(shown.view.saveState(), "");
-    QCOMPARE(shown.rows().size(), 0);
-}
-
-void TestOrvGenParamTreeView::loadsStates_data()
-{
-    QTest::addColumn<QByteArray>("state");
-    QTest::addColumn<QByteArray>("expected");
-    const QByteArray splitter = "000000ff0000000100000002000002ea0000004bffffffffff010000000200";
-    const auto row = [](const char *name, const QByteArray &state, const QByteArray &expected) {
-        QTest::newRow(name) << state << expected;
-    };
-    const QByteArray all = "Device Control&lt;Device&lt;Device/Deep&lt;";
-    row("null", QByteArray(), all + "&amp;W200&amp;V2");
-    row("a part of a path", "x Device/Deep y", "Device&lt;Device/Deep&lt;&amp;W200&amp;V2");
-    row("nothing named", "&amp;V1", "&amp;W200&amp;V1");
-    row("no numbers", "&amp;W&amp;Vx&amp;Sno", "&amp;W200&amp;V2");
-    row("numbers with more", "&amp;W 300px&amp;V+1st", "&amp;W300&amp;V1");
-    row("numbers out of range", "&amp;W99999999999999999999&amp;V3", "&amp;W200&amp;V2");
-    row("negative numbers", "&amp;W-5&amp;V-1", "&amp;W200&amp;V2");
-    row("the first of each counts", "&amp;V0&amp;V1&amp;W", "&amp;W200&amp;V0");
-    row("bytes", QByteArray("\xff\xfe\x01\xc3(&amp;S\xff"), "&amp;W200&amp;V2");
-    row("a megabyte", QByteArray(1 << 20, 'D') + "&amp;S" + QByteArray(1 << 20, '0'), "&amp;W200&amp;V2");
-    for (int cut = 1; cut < splitter.size(); cut += 7)
-        row(qPrintable(QStringLiteral("splitter cut by %1").arg(cut)), "&amp;S" + splitter.chopped(cut),
-            "&amp;W200&amp;V2");
-    for (const auto &[place, bytes] : {std::pair(0, "01"), std::pair(8, "7fffffff"), std::pair(16, "7fffffff"),
-                                       std::pair(24, "80000000"), std::pair(32, "7fffffff"), std::pair(24, "ffffffff")})
-        row(qPrintable(QStringLiteral("splitter with %1 at %2").arg(QLatin1String(bytes)).arg(place)),
-            "&amp;S" + QByteArray(splitter).replace(place, int(qstrlen(bytes)), bytes), "&amp;W200&amp;V2");
-}
-
-void TestOrvGenParamTreeView::loadsStates()
-{
-    QFETCH(QByteArray, state);
-    QFETCH(QByteArray, expected);
-    ShownView shown(polledNodes());
-    QVERIFY(shown.show());
-    shown.tree->setColumnWidth(0, 200);
-    auto *const splitter = shown.part<QSplitter>("");
-    const QByteArray before = splitter->saveState();
-    shown.view.loadState(state.isNull() ? nullptr : state.constData());
-    QCOMPARE(QByteArray(shown.view.saveState()), expected + "&amp;S" + before.toHex());
-    QCOMPARE(splitter->orientation(), Qt::Vertical);
-}
+    void loadsStates()
+    {
+        const QByteArray sizes = "000000ff0000000100000002000002ea0000004bffffffffff010000000200";
+        std::vector<std::pair<QByteArray, QByteArray>> rows = {
+            {QByteArray(), "Device Control&lt;Device&lt;Device/Deep&lt;&amp;W200&amp;V2"},
+            {"x Device/Deep y", "Device&lt;Device/Deep&lt;&amp;W200&amp;V2"}, // a part of a path
+            {"&amp;V1", "&amp;W200&amp;V1"},
+            {"&amp;W&amp;Vx&amp;Sno", "&amp;W200&amp;V2"},
+            {"&amp;W 300px&amp;V+1st", "&amp;W300&amp;V1"},
+            {"&amp;W99999999999999999999&amp;V3", "&amp;W200&amp;V2"},
+            {"&amp;W-5&amp;V-1", "&amp;W200&amp;V2"},
+            {"&amp;V0&amp;V1&amp;W", "&amp;W200&amp;V0"}, // the first of each counts
+            {QByteArray("\xff\xfe\x01\xc3(&amp;S\xff"), "&amp;W200&amp;V2"},
+            {QByteArray(1 << 20, 'D') + "&amp;S" + QByteArray(1 << 20, '0'), "&amp;W200&amp;V2"},
+        };
+        for (int cut = 1; cut < sizes.size(); cut += 7)
+            rows.emplace_back("&amp;S" + sizes.chopped(cut), "&amp;W200&amp;V2");
+        for (const auto &[place, bytes] :
+             {std::pair(0, "01"), std::pair(8, "7fffffff"), std::pair(16, "7fffffff"), std::pair(24, "80000000"),
+              std::pair(32, "7fffffff"), std::pair(24, "ffffffff")})
+            rows.emplace_back("&amp;S" + QByteArray(sizes).replace(place, int(qstrlen(bytes)), bytes),
+                              "&amp;W200&amp;V2");
+        for (const auto &[state, expected] : rows) {
+            ShownView shown(polledNodes());
+            QVERIFY(shown.show());
+            shown.tree->setColumnWidth(0, 200);
+            auto *const splitter = shown.part<QSplitter>("");
+            const QByteArray before = splitter->saveState();
+            shown.view.loadState(state.isNull() ? nullptr : state.constData());
+            QCOMPARE(QByteArray(shown.view.saveState()), expected + "&amp;S" + before.toHex());
+            QCOMPARE(splitter->orientation(), Qt::Vertical);
+        }
+    }
+};
 
 ORV_TEST_MAIN(TestOrvGenParamTreeView)
 #include "tst_orvgenparamtreeview.moc"

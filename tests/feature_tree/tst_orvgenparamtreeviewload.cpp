@@ -1,23 +1,12 @@
-#include "orvtest.h"
 #include "shownview.h"
 
-#include <OrvGenApi/testing/faults.h>
-
 #include <QAbstractSpinBox>
-#include <QLineEdit>
 #include <QPixmapCache>
 #include <QScrollBar>
-#include <QToolButton>
 
 #include <array>
 #include <functional>
 #include <malloc.h>
-
-using OrvGenApi::testing::clearFaults;
-using OrvGenApi::testing::failGetter;
-using OrvGenApi::testing::registeredCallbacks;
-
-Q_DECLARE_METATYPE(std::function<void(ShownView &)>)
 
 namespace {
 
@@ -83,188 +72,169 @@ class TestOrvGenParamTreeViewLoad : public OrvTest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void survivesFailingGetters_data();
-    void survivesFailingGetters();
-    void letsGoOfTheNodeMapAtOnce_data();
-    void letsGoOfTheNodeMapAtOnce();
-    void doesNotGrow();
-    void readsOnlyWhatItPaints();
-};
-
-void TestOrvGenParamTreeViewLoad::survivesFailingGetters_data()
-{
-    QTest::addColumn<QByteArray>("getter");
-    const QByteArray getters =
-        "GetAccessMode GetNode ToString GetName GetVisibility GetToolTip GetDescription GetDisplayName GetCachingMode "
-        "IsStreamable GetPrincipalInterfaceType RegisterCallback DeregisterCallback GetSelectingFeatures GetFeatures "
-        "GetValue SetValue GetMin GetMax GetInc GetIncMode GetListOfValidValues GetRepresentation GetUnit HasInc "
-        "GetDisplayPrecision GetDisplayNotation GetMaxLength GetEntries GetIntValue GetCurrentEntry GetSymbolic "
-        "GetEntry Execute IsDone";
-    for (const QByteArray &getter : getters.split(' '))
-        QTest::newRow(getter.constData()) << getter;
-}
-
-void TestOrvGenParamTreeViewLoad::survivesFailingGetters()
-{
-    QFETCH(QByteArray, getter);
-    ShownView shown;
-    QVERIFY(shown.show());
-    GenApi::NodeList_t nodes;
-    shown.map->GetNodes(nodes);
-    for (size_t i = 0; i < nodes.size(); ++i) {
-        GenApi::INode *const node = nodes[i];
-        const std::string name = node->GetName().c_str();
-        if (name == "Root")
-            continue;
-        const QStringList others = shownTexts(shown, node);
-        failGetter(*shown.map, name, getter.toStdString());
-        shown.view.setParams(shown.map.get());
-        shown.tree->expandAll();
-        shown.tree->grab();
-        QCOMPARE(shownTexts(shown, node), others);
-        if (const QModelIndex row = cellOf(*shown.tree->model(), node, 0); row.isValid())
-            exercise(shown, row);
-        shown.view.loadState(shown.view.saveState());
-        QTest::mouseClick(shown.part<QToolButton>("pbExpandAll"), Qt::LeftButton);
-        QTest::keyClick(shown.part<QLineEdit>("filterLineEdit"), Qt::Key_L);
-        QTest::keyClick(shown.part<QLineEdit>("filterLineEdit"), Qt::Key_Backspace);
-        clearFaults(*shown.map);
-        shown.view.setParams(shown.map.get());
-        shown.tree->expandAll();
+    void survivesFailingGetters()
+    {
+        const QByteArray getters =
+            "GetAccessMode GetNode ToString GetName GetVisibility GetToolTip GetDescription GetDisplayName "
+            "GetCachingMode "
+            "IsStreamable GetPrincipalInterfaceType RegisterCallback DeregisterCallback GetSelectingFeatures "
+            "GetFeatures "
+            "GetValue SetValue GetMin GetMax GetInc GetIncMode GetListOfValidValues GetRepresentation GetUnit HasInc "
+            "GetDisplayPrecision GetDisplayNotation GetMaxLength GetEntries GetIntValue GetCurrentEntry GetSymbolic "
+            "GetEntry Execute IsDone";
+        for (const QByteArray &getter : getters.split(' ')) {
+            ShownView shown;
+            QVERIFY(shown.show());
+            GenApi::NodeList_t nodes;
+            shown.map->GetNodes(nodes);
+            for (size_t i = 0; i < nodes.size(); ++i) {
+                GenApi::INode *const node = nodes[i];
+                const std::string name = node->GetName().c_str();
+                if (name == "Root")
+                    continue;
+                const QStringList others = shownTexts(shown, node);
+                failGetter(*shown.map, name, getter.toStdString());
+                shown.view.setParams(shown.map.get());
+                shown.tree->expandAll();
+                shown.tree->grab();
+                QCOMPARE(shownTexts(shown, node), others);
+                if (const QModelIndex row = cellOf(*shown.tree->model(), node, 0); row.isValid())
+                    exercise(shown, row);
+                shown.view.loadState(shown.view.saveState());
+                QTest::mouseClick(shown.part<QToolButton>("pbExpandAll"), Qt::LeftButton);
+                QTest::keyClick(shown.part<QLineEdit>("filterLineEdit"), Qt::Key_L);
+                QTest::keyClick(shown.part<QLineEdit>("filterLineEdit"), Qt::Key_Backspace);
+                clearFaults(*shown.map);
+                shown.view.setParams(shown.map.get());
+                shown.tree->expandAll();
+            }
+            QVERIFY(shown.enter("Label", "done"));
+            QCOMPARE(shown.cell("Label").data().toString(), QStringLiteral("done"));
+        }
     }
-    QVERIFY(shown.enter("Label", "done"));
-    QCOMPARE(shown.cell("Label").data().toString(), QStringLiteral("done"));
-}
 
-void TestOrvGenParamTreeViewLoad::letsGoOfTheNodeMapAtOnce_data()
-{
-    using Change = std::function<void(ShownView &)>;
-    QTest::addColumn<Change>("letGo");
-    const auto row = [](const char *name, const Change &letGo) { QTest::newRow(name) << letGo; };
-    row("clear", [](ShownView &shown) { shown.view.clearParams(); });
-    row("no node map", [](ShownView &shown) { shown.view.setParams(static_cast<GenApi::INodeMap *>(nullptr)); });
-    row("no array", [](ShownView &shown) { shown.view.setParams(static_cast<OrvGenParam::Array *>(nullptr)); });
-    row("clear while a change is announced", [](ShownView &shown) {
-        QObject::connect(shown.tree->model(), &QAbstractItemModel::dataChanged, &shown.view,
-                         [&shown] { shown.view.clearParams(); });
-        shown.node("Label")->InvalidateNode();
-    });
-    row("clear while a row is expanded", [](ShownView &shown) {
-        QObject::connect(shown.tree, &QTreeView::collapsed, &shown.view, [&shown] { shown.view.clearParams(); });
-        shown.view.loadState("nothing is expanded");
-    });
-}
+    void letsGoOfTheNodeMapAtOnce()
+    {
+        const std::function<void(ShownView &)> changes[] = {
+            [](ShownView &shown) { shown.view.clearParams(); },
+            [](ShownView &shown) { shown.view.setParams(static_cast<GenApi::INodeMap *>(nullptr)); },
+            [](ShownView &shown) { shown.view.setParams(static_cast<OrvGenParam::Array *>(nullptr)); },
+            [](ShownView &shown) { // while a change is announced
+                QObject::connect(shown.tree->model(), &QAbstractItemModel::dataChanged, &shown.view,
+                                 [&shown] { shown.view.clearParams(); });
+                shown.node("Label")->InvalidateNode();
+            },
+        };
+        for (const auto &letGo : changes) {
+            ShownView shown;
+            QVERIFY(shown.show());
+            shown.view.enablePolling(true);
+            QVERIFY(shown.type("Label", "unfinished"));
+            const QPersistentModelIndex held = shown.cell("Label");
+            letGo(shown);
+            QCOMPARE(registeredCallbacks(*shown.map), size_t(0));
+            const uint64_t writes = shown.port.writeCount();
+            QCOMPARE(writes, uint64_t(0));
+            shown.map.reset();
 
-void TestOrvGenParamTreeViewLoad::letsGoOfTheNodeMapAtOnce()
-{
-    QFETCH(std::function<void(ShownView &)>, letGo);
-    ShownView shown;
-    QVERIFY(shown.show());
-    shown.view.enablePolling(true);
-    QVERIFY(shown.type("Label", "unfinished"));
-    const QPersistentModelIndex held = shown.cell("Label");
-    letGo(shown);
-    QCOMPARE(registeredCallbacks(*shown.map), size_t(0));
-    const uint64_t writes = shown.port.writeCount();
-    QCOMPARE(writes, uint64_t(0));
-    shown.map.reset();
-
-    QVERIFY(!held.isValid());
-    QVERIFY(!shown.tree->model() || shown.tree->model()->rowCount() == 0);
-    shown.view.loadState("&amp;V1");
-    for (int i = 0; i < 5; ++i)
-        QCoreApplication::processEvents();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCOMPARE(shown.tree->viewport()->findChildren<QLineEdit *>().size(), 0);
-    QVERIFY(shown.tree->grab().width() > 0);
-}
-
-void TestOrvGenParamTreeViewLoad::doesNotGrow()
-{
-    QPixmapCache::clear(); // other tests' pictures would go in the middle of this one
-    const FeatureCamera camera(FeatureCamera::allKinds());
-    const auto useOnce = [&camera](const QString &typed) {
-        OrvGui::OrvGenParamTreeView view(camera.map.get());
-        view.setVisibility(OrvGui::Guru);
-        view.treeView()->expandAll();
-        view.show();
-        view.enablePolling(true);
-        QCoreApplication::processEvents();
-        const QModelIndex category = view.treeView()->model()->index(0, 0);
-        view.treeView()->setCurrentIndex(view.treeView()->model()->index(0, 1, category));
-        auto *const editor = view.treeView()->viewport()->findChild<QAbstractSpinBox *>();
-        QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClicks(editor, typed);
-        QTest::keyClick(editor, Qt::Key_Return);
-        QCoreApplication::processEvents();
-        view.close();
-        view.setParams(camera.map.get());
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    };
-    const int rounds = isSanitized ? 40 : 1000;
-    size_t half = 0;
-    for (int round = 1; round <= rounds; ++round) {
-        useOnce(round % 2 ? QStringLiteral("8") : QStringLiteral("4"));
-        if (round == rounds / 2)
-            half = mallinfo2().uordblks;
+            QVERIFY(!held.isValid());
+            QVERIFY(!shown.tree->model() || shown.tree->model()->rowCount() == 0);
+            shown.view.loadState("&amp;V1");
+            for (int i = 0; i < 5; ++i)
+                QCoreApplication::processEvents();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QCOMPARE(shown.tree->viewport()->findChildren<QLineEdit *>().size(), 0);
+            QVERIFY(shown.tree->grab().width() > 0);
+        }
     }
-    const qint64 grown = qint64(mallinfo2().uordblks) - qint64(half);
-    QCOMPARE(camera.port.writeCount(), uint64_t(rounds));
-    QCOMPARE(registeredCallbacks(*camera.map), size_t(0));
-    if (!isSanitized)
-        QVERIFY2(qAbs(grown) < 64 * 1024, qPrintable(QString::number(grown)));
-}
 
-void TestOrvGenParamTreeViewLoad::readsOnlyWhatItPaints()
-{
-    ShownView shown(manyRegisters());
-    QCOMPARE(shown.port.readCount(), uint64_t(0));
-    PaintLog paints(shown.tree->viewport());
-    uint64_t before = 0;
-    const auto start = [&] {
-        paints.clear();
-        before = shown.port.readCount();
-    };
-    // At each paint twice each row that fits into the viewport.
-    const auto readsWhatItPaints = [&] {
-        const int height = shown.tree->visualRect(shown.tree->indexAt(QPoint(0, 0))).height();
-        const auto rows = uint64_t(shown.tree->viewport()->height() / height + 2);
-        return shown.port.readCount() - before <= paints.count * 2 * rows;
-    };
-    QVERIFY(shown.show());
-    QVERIFY(shown.port.readCount() > 0 && readsWhatItPaints());
-
-    auto *const edit = shown.part<QLineEdit>("filterLineEdit");
-    QByteArray saved;
-    const std::pair<const char *, std::function<void()>> actions[] = {
-        {"scroll", [&] { shown.tree->verticalScrollBar()->triggerAction(QAbstractSlider::SliderSingleStepAdd); }},
-        {"scroll far", [&] { shown.tree->verticalScrollBar()->setValue(5000); }},
-        {"filter", [&] { QTest::keyClicks(edit, QStringLiteral("9*")); }},
-        {"clear the filter", [&] { edit->clear(); }},
-        {"collapse all", [&] { shown.part<QToolButton>("pbCollapseAll")->click(); }},
-        {"expand all", [&] { shown.part<QToolButton>("pbExpandAll")->click(); }},
-        {"save", [&] { saved = shown.view.saveState(); }},
-        {"load", [&] { shown.view.loadState(saved); }},
-        {"load nothing expanded", [&] { shown.view.loadState("&amp;W200"); }},
-        {"load all expanded", [&] { shown.view.loadState(saved); }},
-    };
-    for (const auto &[name, action] : actions) {
-        start();
-        action();
-        QVERIFY2(paints.count > 0 || shown.port.readCount() == before, name);
-        for (int i = 0; i < 5; ++i)
+    void doesNotGrow()
+    {
+        QPixmapCache::clear(); // other tests' pictures would go in the middle of this one
+        const FeatureCamera camera(FeatureCamera::allKinds());
+        const auto useOnce = [&camera](const QString &typed) {
+            OrvGui::OrvGenParamTreeView view(camera.map.get());
+            view.setVisibility(OrvGui::Guru);
+            view.treeView()->expandAll();
+            view.show();
+            view.enablePolling(true);
             QCoreApplication::processEvents();
-        QVERIFY2(readsWhatItPaints(), name);
+            const QModelIndex category = view.treeView()->model()->index(0, 0);
+            view.treeView()->setCurrentIndex(view.treeView()->model()->index(0, 1, category));
+            auto *const editor = view.treeView()->viewport()->findChild<QAbstractSpinBox *>();
+            QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
+            QTest::keyClicks(editor, typed);
+            QTest::keyClick(editor, Qt::Key_Return);
+            QCoreApplication::processEvents();
+            view.close();
+            view.setParams(camera.map.get());
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        };
+        const int rounds = isSanitized ? 40 : 1000;
+        size_t half = 0;
+        for (int round = 1; round <= rounds; ++round) {
+            useOnce(round % 2 ? QStringLiteral("8") : QStringLiteral("4"));
+            if (round == rounds / 2)
+                half = mallinfo2().uordblks;
+        }
+        const qint64 grown = qint64(mallinfo2().uordblks) - qint64(half);
+        QCOMPARE(camera.port.writeCount(), uint64_t(rounds));
+        QCOMPARE(registeredCallbacks(*camera.map), size_t(0));
+        if (!isSanitized)
+            QVERIFY2(qAbs(grown) < 64 * 1024, qPrintable(QString::number(grown)));
     }
 
-    start();
-    QSignalSpy changes(shown.tree->model(), &QAbstractItemModel::dataChanged);
-    shown.map->Poll(10);
-    QCoreApplication::processEvents();
-    QCOMPARE(changes.count(), 0);
-    QCOMPARE(paints.count, uint64_t(0));
-    QCOMPARE(shown.port.readCount(), before);
-}
+    void readsOnlyWhatItPaints()
+    {
+        ShownView shown(manyRegisters());
+        QCOMPARE(shown.port.readCount(), uint64_t(0));
+        PaintLog paints(shown.tree->viewport());
+        uint64_t before = 0;
+        const auto start = [&] {
+            paints.clear();
+            before = shown.port.readCount();
+        };
+        // At each paint twice each row that fits into the viewport.
+        const auto readsWhatItPaints = [&] {
+            const int height = shown.tree->visualRect(shown.tree->indexAt(QPoint(0, 0))).height();
+            const auto rows = uint64_t(shown.tree->viewport()->height() / height + 2);
+            return shown.port.readCount() - before <= paints.count * 2 * rows;
+        };
+        QVERIFY(shown.show());
+        QVERIFY(shown.port.readCount() > 0 && readsWhatItPaints());
+
+        auto *const edit = shown.part<QLineEdit>("filterLineEdit");
+        QByteArray saved;
+        const std::pair<const char *, std::function<void()>> actions[] = {
+            {"scroll", [&] { shown.tree->verticalScrollBar()->triggerAction(QAbstractSlider::SliderSingleStepAdd); }},
+            {"scroll far", [&] { shown.tree->verticalScrollBar()->setValue(5000); }},
+            {"filter", [&] { QTest::keyClicks(edit, QStringLiteral("9*")); }},
+            {"clear the filter", [&] { edit->clear(); }},
+            {"collapse all", [&] { shown.part<QToolButton>("pbCollapseAll")->click(); }},
+            {"expand all", [&] { shown.part<QToolButton>("pbExpandAll")->click(); }},
+            {"save", [&] { saved = shown.view.saveState(); }},
+            {"load", [&] { shown.view.loadState(saved); }},
+            {"load nothing expanded", [&] { shown.view.loadState("&amp;W200"); }},
+            {"load all expanded", [&] { shown.view.loadState(saved); }},
+        };
+        for (const auto &[name, action] : actions) {
+            start();
+            action();
+            QVERIFY2(paints.count > 0 || shown.port.readCount() == before, name);
+            for (int i = 0; i < 5; ++i)
+                QCoreApplication::processEvents();
+            QVERIFY2(readsWhatItPaints(), name);
+        }
+
+        start();
+        QSignalSpy changes(shown.tree->model(), &QAbstractItemModel::dataChanged);
+        shown.map->Poll(10);
+        QCoreApplication::processEvents();
+        QCOMPARE(changes.count(), 0);
+        QCOMPARE(paints.count, uint64_t(0));
+        QCOMPARE(shown.port.readCount(), before);
+    }
+};
 
 ORV_TEST_MAIN(TestOrvGenParamTreeViewLoad)
 #include "tst_orvgenparamtreeviewload.moc"

@@ -1,15 +1,8 @@
-#include "orvtest.h"
 #include "shownview.h"
 
 #include <OrvCameraGuiApi/windows/readabledelegate.h>
 
-#include <OrvGenApi/testing/faults.h>
-
 #include <QAction>
-#include <QCheckBox>
-#include <QLineEdit>
-#include <QPainter>
-#include <QVBoxLayout>
 
 #include <cmath>
 
@@ -48,151 +41,139 @@ class TestTreeKeys : public OrvTest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void movesBetweenColumns();
-    void changesNothingUnasked();
-    void leavesTheSearchItsKeys();
-    void goesToTheFilter();
-    void paintsReadably_data();
-    void paintsReadably();
-};
-
-void TestTreeKeys::movesBetweenColumns()
-{
-    for (const bool mirrored : {false, true}) {
-        ShownView shown;
-        shown.view.setLayoutDirection(mirrored ? Qt::RightToLeft : Qt::LeftToRight);
-        QVERIFY(shown.show());
-        QVERIFY(shown.walkTo(shown.cell("Label")));
-        press(mirrored ? Qt::Key_Left : Qt::Key_Right);
-        QCOMPARE(shown.tree->currentIndex(), shown.cell("Label"));
-        QVERIFY(!shown.editor());
-        press(mirrored ? Qt::Key_Right : Qt::Key_Left);
-        QCOMPARE(shown.tree->currentIndex(), shown.cell("Label", 0));
-        QVERIFY(shown.tree->hasFocus());
-        // Read-only values have no editor, and Tab leaves the tree.
-        QVERIFY(shown.walkTo(shown.cell("Serial")));
-        press(Qt::Key_F2);
-        press(Qt::Key_Space);
-        QVERIFY(!shown.editor());
-        press(Qt::Key_Tab);
-        QVERIFY(!shown.tree->hasFocus());
-        QCOMPARE(shown.port.writeCount(), uint64_t(0));
+    void movesBetweenColumns()
+    {
+        for (const bool mirrored : {false, true}) {
+            ShownView shown;
+            shown.view.setLayoutDirection(mirrored ? Qt::RightToLeft : Qt::LeftToRight);
+            QVERIFY(shown.show());
+            QVERIFY(shown.walkTo(shown.cell("Label")));
+            press(mirrored ? Qt::Key_Left : Qt::Key_Right);
+            QCOMPARE(shown.tree->currentIndex(), shown.cell("Label"));
+            QVERIFY(!shown.editor());
+            press(mirrored ? Qt::Key_Right : Qt::Key_Left);
+            QCOMPARE(shown.tree->currentIndex(), shown.cell("Label", 0));
+            QVERIFY(shown.tree->hasFocus());
+            // Read-only values have no editor, and Tab leaves the tree.
+            QVERIFY(shown.walkTo(shown.cell("Serial")));
+            press(Qt::Key_F2);
+            press(Qt::Key_Space);
+            QVERIFY(!shown.editor());
+            press(Qt::Key_Tab);
+            QVERIFY(!shown.tree->hasFocus());
+            QCOMPARE(shown.port.writeCount(), uint64_t(0));
+        }
     }
-}
 
-void TestTreeKeys::changesNothingUnasked()
-{
-    ShownView shown;
-    QVERIFY(shown.show());
-    QVERIFY(shown.walkTo(shown.cell("Flag")));
-    press(Qt::Key_Right);
-    QKeyEvent held(QEvent::KeyPress, Qt::Key_Space, {}, QStringLiteral(" "), true);
-    QCoreApplication::sendEvent(shown.tree, &held);
-    QCOMPARE(shown.port.writeCount(), uint64_t(0));
-    shown.tree->setEditTriggers(QTreeView::NoEditTriggers);
-    for (const int key : {Qt::Key_Space, Qt::Key_F2, Qt::Key_Return})
-        press(key);
-    QVERIFY(!shown.editor());
-    QCOMPARE(shown.port.writeCount(), uint64_t(0));
-}
-
-void TestTreeKeys::leavesTheSearchItsKeys()
-{
-    for (const bool fromValues : {false, true}) {
+    void changesNothingUnasked()
+    {
         ShownView shown;
         QVERIFY(shown.show());
         QVERIFY(shown.walkTo(shown.cell("Flag")));
-        if (fromValues)
-            press(Qt::Key_Right);
-        for (const char *const keys : {"plain n", "u"}) {
-            shown.press(QLatin1String(keys));
-            QCOMPARE(shown.tree->currentIndex().data().toString(), QStringLiteral("Plain Numbers"));
-        }
+        press(Qt::Key_Right);
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_Space, {}, QStringLiteral(" "), true);
+        QCoreApplication::sendEvent(shown.tree, &held);
+        QCOMPARE(shown.port.writeCount(), uint64_t(0));
+        shown.tree->setEditTriggers(QTreeView::NoEditTriggers);
+        for (const int key : {Qt::Key_Space, Qt::Key_F2, Qt::Key_Return})
+            press(key);
         QVERIFY(!shown.editor());
         QCOMPARE(shown.port.writeCount(), uint64_t(0));
     }
-}
 
-void TestTreeKeys::goesToTheFilter()
-{
-    ShownView shown;
-    QVERIFY(shown.show());
-    auto *const filter = shown.part<QLineEdit>("filterLineEdit");
-    for (const char *name : {"Label", "Mode", "Exposure Time"}) {
-        shown.click(shown.cell(name));
-        QVERIFY(QApplication::focusWidget() != shown.tree);
-        press(Qt::Key_F, Qt::ControlModifier);
-        QCOMPARE(QApplication::focusWidget(), filter);
-    }
-    // A host's own use of the key comes first.
-    auto own = std::make_unique<QAction>();
-    own->setShortcut(QKeySequence::Find);
-    shown.view.addAction(own.get());
-    QSignalSpy triggered(own.get(), &QAction::triggered);
-    shown.tree->setFocus();
-    QTest::keyClick(shown.view.windowHandle(), Qt::Key_F, Qt::ControlModifier);
-    QTRY_COMPARE(triggered.count(), 1);
-    QVERIFY(shown.tree->hasFocus());
-    own.reset();
-
-    shown.part<QWidget>("cbVisibility")->setFocus();
-    press(Qt::Key_F, Qt::ControlModifier);
-    QCOMPARE(QApplication::focusWidget(), filter);
-    press(Qt::Key_Tab);
-    expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
-    press(Qt::Key_Space);
-    QWidget *const popup = QApplication::activePopupWidget();
-    QVERIFY(popup);
-    QTest::keyClick(popup->focusWidget(), Qt::Key_Space);
-    QVERIFY(shown.part<QCheckBox>("checkBoxCase")->isChecked());
-    QTest::keyClick(popup, Qt::Key_Escape);
-    QCOMPARE(shown.port.writeCount(), uint64_t(0));
-}
-
-void TestTreeKeys::paintsReadably_data()
-{
-    QTest::addColumn<QPalette>("palette");
-    QTest::newRow("light") << QPalette(QColor(239, 239, 239));
-    QPalette dark(QColor(50, 50, 50));
-    dark.setColor(QPalette::Base, QColor(35, 35, 35));
-    dark.setColor(QPalette::AlternateBase, QColor(45, 45, 45));
-    dark.setColor(QPalette::Text, Qt::white);
-    dark.setColor(QPalette::Disabled, QPalette::Text, QColor(90, 90, 90));
-    QTest::newRow("dark") << dark;
-}
-
-void TestTreeKeys::paintsReadably()
-{
-    QFETCH(QPalette, palette);
-    const QPalette former = QApplication::palette();
-    QApplication::setPalette(palette);
-    ShownView shown;
-    QVERIFY(shown.show());
-    OrvGenApi::NodeMap &map = *shown.map;
-    OrvGenApi::testing::failGetter(map, "Label", "GetValue");
-    OrvGenApi::testing::failGetter(map, "Gain", "GetValue");
-    shown.tree->viewport()->grab();
-    for (const char *name : {"Serial", "Key", "Gone", "Label", "Gain"}) {
-        for (const int column : {0, 1}) {
-            const QModelIndex cell = shown.cell(name, column);
-            const QVariant brush = cell.data(Qt::ForegroundRole);
-            const QImage image = shown.tree->viewport()->grab(shown.tree->visualRect(cell)).toImage();
-            QVERIFY2(
-                contrastIn(image) > 4.2,
-                qPrintable(QStringLiteral("%1 %2: %3").arg(QLatin1String(name)).arg(column).arg(contrastIn(image))));
-            if (column == 1)
-                QVERIFY(brush.isValid()); // as the model says
+    void leavesTheSearchItsKeys()
+    {
+        for (const bool fromValues : {false, true}) {
+            ShownView shown;
+            QVERIFY(shown.show());
+            QVERIFY(shown.walkTo(shown.cell("Flag")));
+            if (fromValues)
+                press(Qt::Key_Right);
+            for (const char *const keys : {"plain n", "u"}) {
+                shown.press(QLatin1String(keys));
+                QCOMPARE(shown.tree->currentIndex().data().toString(), QStringLiteral("Plain Numbers"));
+            }
+            QVERIFY(!shown.editor());
+            QCOMPARE(shown.port.writeCount(), uint64_t(0));
         }
     }
-    QApplication::setPalette(former);
-    for (const QColor &color : {QColor(255, 0, 0), QColor(190, 190, 190), QColor(60, 60, 60)}) {
-        const QColor text = palette.color(QPalette::Text);
-        const QColor ground = palette.color(QPalette::AlternateBase);
-        const double first = luminance(readableColor(color, text, ground)) + 0.05;
-        const double second = luminance(ground) + 0.05;
-        QVERIFY(std::max(first, second) / std::min(first, second) >= 4.5);
+
+    void goesToTheFilter()
+    {
+        ShownView shown;
+        QVERIFY(shown.show());
+        auto *const filter = shown.part<QLineEdit>("filterLineEdit");
+        for (const char *name : {"Label", "Mode", "Exposure Time"}) {
+            shown.click(shown.cell(name));
+            QVERIFY(QApplication::focusWidget() != shown.tree);
+            press(Qt::Key_F, Qt::ControlModifier);
+            QCOMPARE(QApplication::focusWidget(), filter);
+        }
+        // A host's own use of the key comes first.
+        auto own = std::make_unique<QAction>();
+        own->setShortcut(QKeySequence::Find);
+        shown.view.addAction(own.get());
+        QSignalSpy triggered(own.get(), &QAction::triggered);
+        shown.tree->setFocus();
+        QTest::keyClick(shown.view.windowHandle(), Qt::Key_F, Qt::ControlModifier);
+        QTRY_COMPARE(triggered.count(), 1);
+        QVERIFY(shown.tree->hasFocus());
+        own.reset();
+
+        shown.part<QWidget>("cbVisibility")->setFocus();
+        press(Qt::Key_F, Qt::ControlModifier);
+        QCOMPARE(QApplication::focusWidget(), filter);
+        press(Qt::Key_Tab);
+        expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
+        press(Qt::Key_Space);
+        QWidget *const popup = QApplication::activePopupWidget();
+        QVERIFY(popup);
+        QTest::keyClick(popup->focusWidget(), Qt::Key_Space);
+        QVERIFY(shown.part<QCheckBox>("checkBoxCase")->isChecked());
+        QTest::keyClick(popup, Qt::Key_Escape);
+        QCOMPARE(shown.port.writeCount(), uint64_t(0));
     }
-}
+
+    void paintsReadably()
+    {
+        QPalette dark(QColor(50, 50, 50));
+        dark.setColor(QPalette::Base, QColor(35, 35, 35));
+        dark.setColor(QPalette::AlternateBase, QColor(45, 45, 45));
+        dark.setColor(QPalette::Text, Qt::white);
+        dark.setColor(QPalette::Disabled, QPalette::Text, QColor(90, 90, 90));
+        for (const QPalette &palette : {QPalette(QColor(239, 239, 239)), dark}) {
+            const QPalette former = QApplication::palette();
+            QApplication::setPalette(palette);
+            ShownView shown;
+            QVERIFY(shown.show());
+            OrvGenApi::NodeMap &map = *shown.map;
+            failGetter(map, "Label", "GetValue");
+            failGetter(map, "Gain", "GetValue");
+            shown.tree->viewport()->grab();
+            for (const char *name : {"Serial", "Key", "Gone", "Label", "Gain"}) {
+                for (const int column : {0, 1}) {
+                    const QModelIndex cell = shown.cell(name, column);
+                    const QVariant brush = cell.data(Qt::ForegroundRole);
+                    const QImage image = shown.tree->viewport()->grab(shown.tree->visualRect(cell)).toImage();
+                    QVERIFY2(
+                        contrastIn(image) > 4.2,
+                        qPrintable(
+                            QStringLiteral("%1 %2: %3").arg(QLatin1String(name)).arg(column).arg(contrastIn(image))));
+                    if (column == 1)
+                        QVERIFY(brush.isValid()); // as the model says
+                }
+            }
+            QApplication::setPalette(former);
+            for (const QColor &color : {QColor(255, 0, 0), QColor(190, 190, 190), QColor(60, 60, 60)}) {
+                const QColor text = palette.color(QPalette::Text);
+                const QColor ground = palette.color(QPalette::AlternateBase);
+                const double first = luminance(readableColor(color, text, ground)) + 0.05;
+                const double second = luminance(ground) + 0.05;
+                QVERIFY(std::max(first, second) / std::min(first, second) >= 4.5);
+            }
+        }
+    }
+};
 
 ORV_TEST_MAIN(TestTreeKeys)
 #include "tst_treekeys.moc"

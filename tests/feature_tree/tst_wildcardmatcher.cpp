@@ -4,9 +4,7 @@
 
 #include <QRandomGenerator>
 
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 #include <QRegExp>
-#endif
 
 namespace {
 
@@ -18,7 +16,6 @@ WildcardMatcher matcherOf(const QString &pattern, Qt::CaseSensitivity sensitivit
     return matcher;
 }
 
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 QString randomText(QRandomGenerator &random, const QString &letters, int longest)
 {
     const QVector<uint> characters = letters.toUcs4();
@@ -27,7 +24,6 @@ QString randomText(QRandomGenerator &random, const QString &letters, int longest
         text += QString::fromUcs4(&characters[random.bounded(characters.size())], 1);
     return text;
 }
-#endif
 
 } // namespace
 
@@ -36,40 +32,6 @@ class TestWildcardMatcher : public OrvTest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void matches()
-    {
-        // The texts after the pattern: matched as a whole; matched inside only; not matched. Case counts.
-        const struct
-        {
-            const char *pattern, *whole, *inside, *none;
-        } rows[] = {
-            {"", "", "a", nullptr},
-            {"*", "", nullptr, nullptr},
-            {"a?c", "abc", "xabcx", "ac"},
-            {"a*c*", "abcd", "xac", "ca"},
-            {"[a-c-e]", "-", "xb", "d"},
-            {"[c-a]", "b", "bb", "d"},
-            {"[]a-]", "]", "x-", "b"},
-            {"[^]a]", "b", "ab", "]"},
-            {"[\\*?[^!]", "\\", "a^", "a"},
-            {"a[", nullptr, nullptr, "a["},
-            {"[]", nullptr, nullptr, "[]"},
-            {"a]*", nullptr, nullptr, "a]"},
-            {"\\[\\*", "\\[\\*", "a\\[\\*", "[*"},
-            {"\\a\\", "\\\\a\\", "\\\\\\a\\", "\\a\\"},
-            {"(a|b).{2}$", "(a|b).{2}$", "x(a|b).{2}$", "aXX"},
-        };
-        for (const auto &row : rows) {
-            const WildcardMatcher matcher = matcherOf(QLatin1String(row.pattern), Qt::CaseSensitive);
-            const QString whole = QLatin1String(row.whole);
-            const QString inside = QLatin1String(row.inside);
-            QVERIFY2(!row.whole || (matcher.isAll(whole) && matcher.isIn(whole)), row.pattern);
-            QVERIFY2(!row.inside || (!matcher.isAll(inside) && matcher.isIn(inside)), row.pattern);
-            QVERIFY2(!row.none || !matcher.isIn(QLatin1String(row.none)), row.pattern);
-            QCOMPARE(matcher.matchesAll(), row.whole && !row.none && QLatin1String(row.whole).isEmpty());
-        }
-    }
-
     /** Where an engine that tries all ways would not come to an end. */
     void endsSoon()
     {
@@ -77,7 +39,6 @@ private Q_SLOTS:
         QVERIFY(!matcher.isAll(QString(2000, QLatin1Char('a')) + QLatin1Char('1')));
     }
 
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     void answersAsTheRegularExpression()
     {
         const QString letterSets[] = {
@@ -97,15 +58,16 @@ private Q_SLOTS:
             const QByteArray what = (pattern + QLatin1String(" in ") + text).toUtf8();
             QVERIFY2(matcher.isIn(text) == (expected.indexIn(text) >= 0), what);
             QVERIFY2(matcher.isAll(text) == expected.exactMatch(text), what);
+            QVERIFY2(matcher.matchesAll() == (pattern.count(QLatin1Char('*')) == pattern.size()), what);
         }
     }
-#endif
 
     /** Answers of that expression which nobody can want. */
     void findsWhatThePatternNames()
     {
         const QString dotted = QStringLiteral("\u0130");
         QVERIFY(matcherOf(dotted, Qt::CaseInsensitive).isIn(dotted));
+        QVERIFY(!matcherOf(QStringLiteral("[a-c]"), Qt::CaseSensitive).isIn(QStringLiteral("-")));
         const QString digraph = QStringLiteral("\u01c5");
         QVERIFY(matcherOf(QLatin1Char('[') + digraph + QLatin1Char(']'), Qt::CaseInsensitive).isAll(digraph));
     }

@@ -283,11 +283,7 @@ QWidget *makeValueWidgets(QList<QWidget *> &widgets)
     return window;
 }
 
-using Namer = std::function<void(QWidget &widget, const QString &name)>;
-
 } // namespace
-
-Q_DECLARE_METATYPE(Namer)
 
 /**
  * Assistive tools get to everything that takes the focus, and to every picture, and find it named: in words, translated
@@ -338,37 +334,32 @@ private Q_SLOTS:
                      row.sibling(row.row(), 0).data().toString());
             QCOMPARE(namesAndRoles(view).join(QLatin1Char('\n')), QString());
         }
-        QCOMPARE(classes.size(),
-                 6); // those of numbers with and without decimals, choices, commands, texts and the rest
+        QCOMPARE(classes.size(), 6); // numbers with and without decimals, choices, commands, texts and the rest
     }
 
-    void valueWidgets_data()
+    /** By an accessible name, by a label or by a caption; also when a host renames them later. */
+    void valueWidgets()
     {
-        QTest::addColumn<Namer>("setName");
-        const auto row = [](const char *name, Namer setName) { QTest::newRow(name) << std::move(setName); };
-        row("accessible name", [](QWidget &widget, const QString &name) { widget.setAccessibleName(name); });
-        row("label", [](QWidget &widget, const QString &name) {
+        using Namer = std::function<void(QWidget & widget, const QString &name)>;
+        const Namer byName = [](QWidget &widget, const QString &name) { widget.setAccessibleName(name); };
+        const Namer byLabel = [](QWidget &widget, const QString &name) {
             auto *const layout = static_cast<QFormLayout *>(widget.parentWidget()->layout());
             static_cast<QLabel *>(layout->labelForField(&widget))->setText(name + QLatin1Char(':'));
-        });
-        row("caption", [](QWidget &widget, const QString &name) {
+        };
+        const Namer byCaption = [](QWidget &widget, const QString &name) {
             const bool hasCaption = widget.setProperty("topLabelText", QString(name).insert(1, QLatin1Char('&')));
             if (!hasCaption)
                 widget.setAccessibleName(name);
-        });
-    }
-
-    /** Also when a host renames them later. */
-    void valueWidgets()
-    {
-        QFETCH(Namer, setName);
-        QList<QWidget *> widgets;
-        const std::unique_ptr<QWidget> window(makeValueWidgets(widgets));
-        for (const char *const name : {QT_TR_NOOP("Gain %1"), QT_TR_NOOP("Level %1")}) {
-            for (int i = 0; i < widgets.size(); ++i)
-                setName(*widgets.at(i), tr(name).arg(i));
-            QVERIFY(show(*window));
-            QCOMPARE((faultsOf(*window) + faultsOfPopUps(*window)).join(QLatin1Char('\n')), QString());
+        };
+        for (const Namer &setName : {byName, byLabel, byCaption}) {
+            QList<QWidget *> widgets;
+            const std::unique_ptr<QWidget> window(makeValueWidgets(widgets));
+            for (const char *const name : {QT_TR_NOOP("Gain %1"), QT_TR_NOOP("Level %1")}) {
+                for (int i = 0; i < widgets.size(); ++i)
+                    setName(*widgets.at(i), tr(name).arg(i));
+                QVERIFY(show(*window));
+                QCOMPARE((faultsOf(*window) + faultsOfPopUps(*window)).join(QLatin1Char('\n')), QString());
+            }
         }
     }
 
@@ -381,21 +372,20 @@ private Q_SLOTS:
         box.setValue(125);
         QAccessibleInterface *const accessible = QAccessible::queryAccessibleInterface(&box);
         QAccessibleTextInterface *const text = accessible->textInterface();
+        QAccessibleEditableTextInterface *const editable = accessible->editableTextInterface();
         QCOMPARE(text->text(0, text->characterCount()), QStringLiteral("f = 125"));
         text->setSelection(0, 4, 6);
         int start = 0;
         int end = 0;
         text->selection(0, &start, &end);
         QCOMPARE(qMakePair(start, end), qMakePair(4, 6));
-        accessible->editableTextInterface()->replaceText(4, 6, QStringLiteral("40"));
-        QCOMPARE(box.value(), 405LL);
-        accessible->editableTextInterface()->insertText(4, QStringLiteral("1"));
+        editable->replaceText(4, 6, QStringLiteral("40"));
+        editable->insertText(4, QStringLiteral("1"));
         QCOMPARE(box.value(), 1405LL);
-        accessible->editableTextInterface()->insertText(INT_MIN, QStringLiteral("9"));
-        accessible->editableTextInterface()->replaceText(INT_MAX, INT_MIN, QStringLiteral("9"));
-        QCOMPARE(box.value(), 1405LL);
+        editable->insertText(INT_MIN, QStringLiteral("9"));
+        editable->replaceText(INT_MAX, INT_MIN, QStringLiteral("9"));
         box.setReadOnly(true);
-        accessible->editableTextInterface()->deleteText(4, 5);
+        editable->deleteText(4, 5);
         QCOMPARE(box.value(), 1405LL);
         QVERIFY(accessible->state().readOnly && !accessible->state().editable);
     }

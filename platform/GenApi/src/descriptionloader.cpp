@@ -77,7 +77,7 @@ std::string DescriptionLoader::nameOf(const Element &element) const
     return name;
 }
 
-/** Where \a element begins, with its bracket. */
+/** The position of the bracket that begins \a element. */
 uint32_t DescriptionLoader::textPosition(const Element &element)
 {
     return static_cast<uint32_t>(std::max<std::ptrdiff_t>(element.offset_debug() - 1, 0));
@@ -181,7 +181,7 @@ void DescriptionLoader::checkLinks()
     walkEdges("the links go round in a circle: ", [this](const Edge &edge) {
         Node &node = *m_map.m_nodes[edge.from];
         const ECachingMode mode = m_map.m_nodes[edge.to]->cachingMode();
-        // What a formula is made of decides whether its result can be kept, but it is never written itself.
+        // The variables of a formula decide whether its result can be kept; they are not written through it.
         if (edge.use == Use::Value || (edge.use == Use::Variable && mode == NoCache))
             node.setCachingMode(combined(node.cachingMode(), mode));
     });
@@ -199,7 +199,7 @@ void DescriptionLoader::checkLinks()
     spreadVaryingAccess();
 }
 
-/** A condition that is read anew each time makes the access mode vary of its node, and of all that reads that one. */
+/** A condition without a cache makes the access mode of its node vary, and of all nodes that read this one. */
 void DescriptionLoader::spreadVaryingAccess()
 {
     std::vector<Node *> open;
@@ -234,7 +234,7 @@ std::vector<std::vector<uint32_t>> DescriptionLoader::readersOfNodes() const
     return readers;
 }
 
-/** What reads a selected node, for its value, a limit or a condition, is selected as well. */
+/** A node that reads a selected node, for its value, a limit or a condition, is selected as well. */
 void DescriptionLoader::spreadSelections()
 {
     std::vector<std::vector<uint32_t>> readers;

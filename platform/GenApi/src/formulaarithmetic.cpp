@@ -238,7 +238,7 @@ double FloatArithmetic::binary(Op op, Value a, Value b)
     }
 }
 
-/** What can hardly be told from 0 is as bad. */
+/** Divisors so small that they may stem from rounding are refused like 0. */
 void FloatArithmetic::requireDivisor(Value b)
 {
     if (std::abs(b) < std::numeric_limits<Value>::epsilon())

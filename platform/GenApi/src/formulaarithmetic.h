@@ -6,7 +6,7 @@
 
 namespace OrvGenApi {
 
-/** What a program word does. The argument is a number or a slot. */
+/** The operation of a program word. The argument is a number or a slot. */
 enum class Op : uint8_t {
     SmallLiteral, ///< pushes the argument
     Literal, ///< pushes the 64 bits in the next two words

@@ -95,14 +95,14 @@ auto FormulaNode<Base>::run(const Formula &formula, Number converted, bool ignor
 template <typename Base>
 auto SwissKnifeNode<Base>::value(bool ignoreCache) -> Number
 {
-    // What has been read past the caches is kept all the same.
+    // Variables that are read past the caches are kept all the same.
     std::optional<Renewal> renewal;
     if (ignoreCache)
         renewal.emplace(this->map());
     return this->run(m_formula, 0, ignoreCache);
 }
 
-/** Where nothing else has refused it before: a mode that could not be worked out, or a write without checks. */
+/** Reached by a write without checks, and when the access mode could not be determined. */
 template <typename Base>
 void SwissKnifeNode<Base>::setValue(Number, bool, Changes &)
 {

@@ -288,9 +288,9 @@ void Node::GetSelectingFeatures(FeatureList_t &Features) const
 }
 
 /**
- * Access modes may hang on one another in a circle, through the entries of an enumeration: a mode that is being worked
- * out counts as RW. So does one whose conditions have thrown, which is told once, until something changes. One that was
- * worked out before stands even if a condition throws now.
+ * Access modes may depend on one another in a circle, through the entries of an enumeration: a mode that is being
+ * worked out counts as RW. So does one whose conditions have thrown, which is told once, until something changes. One
+ * that was worked out before stands even if a condition throws now.
  */
 EAccessMode Node::accessMode() const
 {

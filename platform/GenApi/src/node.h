@@ -155,31 +155,31 @@ public:
     virtual bool isPolled() { return true; }
     virtual GenApi::EInterfaceType interfaceType() const = 0;
 
-    /** What may be done now, with all that this node depends on. */
+    /** The access mode now, with all nodes that this one depends on. */
     GenApi::EAccessMode accessMode() const;
 
-    /** What the node itself ever allows, whatever is available or locked now, and whatever its value is linked to. */
+    /** The most that the node itself ever allows, regardless of availability, locks and the nodes behind its value. */
     GenApi::EAccessMode everAccess() const;
 
-    /** What the condition that the node is implemented allows: RW, NA when it cannot be read, or NI. */
+    /** The access that the condition pIsImplemented allows: RW, NA when it cannot be read, or NI. */
     GenApi::EAccessMode implementation() const;
 
-    /** The access mode of that condition; RW where there is none. */
+    /** The access mode of that condition; RW without one. */
     GenApi::EAccessMode implementationAccess() const
     {
         return m_isImplemented ? m_isImplemented->accessMode() : GenApi::RW;
     }
 
     /**
-     * Throw an access exception when that is not possible now; without \a verify only where it never is. Who reads past
-     * the caches has a mode that could not be worked out tried anew next time.
+     * Throw an access exception when the access is not possible now; without \a verify only when it never is. After a
+     * read past the caches, a mode that could not be determined is tried again.
      */
     void requireReadable(bool ignoreCache = false) const;
     void requireWritable(bool verify = true) const;
 
     /**
-     * Held while a user reads: past the caches he may meet a new value, so that nothing stays kept that depends on it,
-     * even if he is refused. Nobody is called back.
+     * Held while a user reads. A read past the caches may meet a new value, so that nothing stays kept that depends on
+     * it, even if the read is refused. No callback is called.
      */
     class FreshReading
     {
@@ -208,7 +208,7 @@ public:
     /** Throws an access exception when the node lacks what its description refers to, and cannot even be computed. */
     void requireUsable() const;
 
-    /** NI or NA where \a node is that, else RW. */
+    /** NI or NA if \a node is that, else RW. */
     static GenApi::EAccessMode availability(const Node *node)
     {
         const GenApi::EAccessMode mode = node ? node->accessMode() : GenApi::RW;
@@ -218,10 +218,10 @@ public:
     /** The same for several; those behind one that is not implemented are not asked. */
     static GenApi::EAccessMode availabilityOf(std::initializer_list<const Node *> nodes);
 
-    /** Whether \a node can be read now and is not 0. What cannot be read is not fulfilled. */
+    /** Whether \a node can be read now and is not 0. */
     static bool isFulfilled(Node &node);
 
-    /** What the description says, or what a category's features make of it. */
+    /** The visibility of the description; a category's depends on its features too. */
     virtual GenApi::EVisibility naturalVisibility() const { return m_visibility; }
     GenApi::EVisibility visibility() const { return GenApi::Combine(naturalVisibility(), m_imposedVisibility); }
     GenApi::ECachingMode cachingMode() const { return m_cachingMode; }
@@ -301,7 +301,7 @@ public:
     std::vector<Node *> dependingNodes() const;
     std::vector<Node *> terminalNodes() const;
 
-    /** Where the node's element begins in the text of the description, and where the next one does. */
+    /** The positions of the node's element and of the next one in the text of the description. */
     std::size_t descriptionBegin() const { return m_descriptionBegin; }
     std::size_t descriptionEnd() const { return m_descriptionEnd; }
 
@@ -313,10 +313,10 @@ public:
     void restartPollClock() { m_pollClock = 0; }
 
 protected:
-    /** What this node's value allows, without the node's own conditions. */
+    /** The access that this node's value allows, without the node's own conditions. */
     virtual GenApi::EAccessMode valueAccess() const { return GenApi::RW; }
 
-    /** The same where the value ends here; RW where another node has it. */
+    /** The same if the value is this node's own; RW if another node has it. */
     virtual GenApi::EAccessMode endAccess() const { return GenApi::RW; }
 
     virtual GenApi::EAccessMode computeAccessMode() const;
@@ -331,35 +331,35 @@ protected:
         return own;
     }
 
-    /** What is asked before the node's own conditions: where the value comes from. */
+    /** The access of the value's source, which is asked before the node's own conditions. */
     virtual GenApi::EAccessMode firstAccess() const { return valueAccess(); }
 
     /**
-     * What the nodes allow that are read for anything but the value, asked behind the conditions: NI or NA where they
-     * are that, else RW. Those behind one that is not implemented are not asked.
+     * The availability of the nodes that are read for other purposes than the value, asked after the conditions: NI, NA
+     * or RW. The nodes behind one that is not implemented are not asked.
      */
     virtual GenApi::EAccessMode readAccess() const { return availabilityOf({m_error, m_blocksPolling}); }
 
-    /** Intentionally, a value that is picked by an index is there for whoever can read the index. */
+    /** Intentionally, a value that is picked by an index is accessible to all who can read the index. */
     virtual bool ignoresConditions() const { return false; }
 
     /** The mode as long as it is not known. */
     virtual GenApi::EAccessMode openAccess() const { return combined(GenApi::RW, m_imposedAccess); }
     GenApi::EAccessMode imposedAccess() const { return m_imposedAccess; }
 
-    /** Whether a mode that could not be worked out counts as that for all who ask, not just for the next. */
+    /** Whether a mode that could not be determined counts so for all who ask, not just for the next. */
     virtual bool staysOpen() const { return true; }
 
-    /** Whether a port is asked for the mode, whose failure has to be told. */
+    /** Whether a port is asked for the mode; its failures are reported. */
     virtual bool dependsOnPort() const { return false; }
 
     /** Whether the node's own conditions may be kept. */
     bool hasCachableConditions() const;
 
-    /** Whether the access mode hangs on a condition that is read anew each time, here or in anything that is read. */
+    /** Whether the access mode depends on a condition without a cache, here or in any node that is read. */
     bool accessVaries() const { return m_accessVaries; }
 
-    /** What the node itself ever allows. */
+    /** The most that the node itself ever allows. */
     GenApi::EAccessMode ownAccess() const { return m_isImplemented || m_broken ? implementation() : m_imposedAccess; }
 
     /** Whether a written value that has led to an error is not kept. */
@@ -371,7 +371,7 @@ protected:
         m_accessKnown = false;
     }
 
-    /** Throws when the node that tells about errors tells of one. */
+    /** Throws when the node of pError reports an error. */
     void checkError() const;
 
     /** Runs \a write(changes) as one write by a user of the map: with lock, callbacks inside and outside of it. */

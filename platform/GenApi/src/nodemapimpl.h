@@ -18,7 +18,7 @@ class PortNode;
 /** The bytes of the file at \a path; throws when it cannot be read. */
 std::string contentOf(const std::string &path);
 
-/** What tests make nodes do. */
+/** Failures that tests ask for. */
 struct Faults
 {
     struct Fault
@@ -124,7 +124,7 @@ public:
         Node *blocker; ///< as long as it is not 0 there is no polling; may be null
     };
 
-    /** What few nodes have. */
+    /** Properties that few nodes have. */
     struct Extras
     {
         const char *docuUrl = "";

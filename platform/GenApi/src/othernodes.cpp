@@ -407,7 +407,7 @@ void EnumerationNode::choose(int64_t value, bool verify, Changes &changes)
         checkError();
 }
 
-/** What a self-clearing entry stands for may have ended meanwhile, so the device is asked as long as it is current. */
+/** The action of a self-clearing entry may have ended meanwhile, so the device is asked as long as it is current. */
 int64_t EnumerationNode::intValue(bool ignoreCache)
 {
     const int64_t value = m_value.value(ignoreCache);

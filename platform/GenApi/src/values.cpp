@@ -129,7 +129,7 @@ int64_t IntegerBase::intValue(bool ignoreCache)
     const int64_t value = m_kept.valueOr(*this, ignoreCache, mustVerify, [&] { return readInt(ignoreCache); });
     if (mustVerify) {
         const bool isKept = m_kept.isKept();
-        m_kept.setKept(wasKept); // a value that fails is not kept anew
+        m_kept.setKept(wasKept); // a value that fails does not become kept
         if (m_hasImposedLimits || !isCheckedBelow(value))
             checkRange(value);
         m_map.m_checkedRead = {this, value, m_map.evaluation()};
@@ -139,7 +139,7 @@ int64_t IntegerBase::intValue(bool ignoreCache)
     return value;
 }
 
-/** What is kept goes even when the write is refused: whoever tried has reason to look again. */
+/** The kept value is dropped even when the write is refused: the writer has reason to look again. */
 void IntegerBase::setIntValue(int64_t value, bool verify, Changes &changes)
 {
     const Descent descent(*this);
@@ -302,7 +302,7 @@ double FloatBase::floatValue(bool ignoreCache)
     const double value = m_kept.valueOr(*this, ignoreCache, mustVerify, [&] { return readFloat(ignoreCache); });
     if (mustVerify) {
         const bool isKept = m_kept.isKept();
-        m_kept.setKept(wasKept); // a value that fails is not kept anew
+        m_kept.setKept(wasKept); // a value that fails does not become kept
         checkRange(value);
         checkError();
         m_kept.setKept(isKept);

@@ -33,7 +33,7 @@ class ReportRelay
 public:
     using Receive = std::function<void(const Key &key)>;
 
-    /** What a callback keeps: a pointer. It may report while the relay is destroyed, and afterwards. */
+    /** Kept by a callback, as small as a pointer. It may report while the relay is destroyed, and afterwards. */
     class Reporter
     {
     public:

@@ -53,12 +53,12 @@ DeviceTreeModel::Key plainKey(InterfaceNode *transport, DeviceInfoNode *device)
     return key;
 }
 
-/** Whether the items are of one kind and have one identifier. */
-bool isAlike(const DeviceTreeModel::Key &one, const DeviceTreeModel::Key &other)
+/** Whether the item is of the key's kind and has its identifier. Copies no text: most items are not the one. */
+bool isAlike(const DeviceTreeModel::Key &key, const InterfaceNode &transport, const DeviceInfoNode *device)
 {
-    if (one.isDevice != other.isDevice)
+    if (key.isDevice != bool(device))
         return false;
-    return one.isDevice ? one.device == other.device : one.transport == other.transport;
+    return device ? key.device == device->object()->GetID() : key.transport == transport.object()->GetID();
 }
 
 bool isSameObject(const DeviceTreeModel::Key &one, const DeviceTreeModel::Key &other)
@@ -170,31 +170,47 @@ QModelIndex DeviceTreeModel::getItemIdx(const QString &id) const
     return {};
 }
 
-/** Every item that has been fetched, in the order of the tree; the device is null for an interface itself. */
-void DeviceTreeModel::forEachItem(const Visit &visit) const
+/** In the order of the tree: all interfaces, with a null device, or all devices that have been fetched. */
+void DeviceTreeModel::forEachItem(bool isDevice, const Visit &visit) const
 {
     for (int row = 0; row < m_root->childCount(); ++row) {
         auto *const transport = static_cast<InterfaceNode *>(m_root->child(row));
-        visit(transport, nullptr);
-        for (int below = 0; below < transport->childCount(); ++below)
+        if (!isDevice)
+            visit(transport, nullptr);
+        for (int below = 0; isDevice && below < transport->childCount(); ++below)
             visit(transport, static_cast<DeviceInfoNode *>(transport->child(below)));
     }
+}
+
+/** Those of a valid index; the device is null for an interface. */
+std::pair<InterfaceNode *, DeviceInfoNode *> DeviceTreeModel::nodesOf(const QModelIndex &index) const
+{
+    if (!index.parent().isValid())
+        return {static_cast<InterfaceNode *>(nodeOf(index)), nullptr};
+    return {static_cast<InterfaceNode *>(nodeOf(index.parent())), static_cast<DeviceInfoNode *>(nodeOf(index))};
 }
 
 DeviceTreeModel::Key DeviceTreeModel::keyOf(const QModelIndex &index) const
 {
     if (!index.isValid())
         return {};
-    const bool isDevice = index.parent().isValid();
-    auto *const transport = static_cast<InterfaceNode *>(nodeOf(isDevice ? index.parent() : index));
-    auto *const device = isDevice ? static_cast<DeviceInfoNode *>(nodeOf(index)) : nullptr;
+    const auto [transport, device] = nodesOf(index);
     Key key = plainKey(transport, device);
-    forEachItem([&](InterfaceNode *otherTransport, DeviceInfoNode *otherDevice) {
-        const Key other = plainKey(otherTransport, otherDevice);
-        if (isAlike(other, key) && !isSameObject(other, key))
+    forEachItem(key.isDevice, [&](InterfaceNode *otherTransport, DeviceInfoNode *otherDevice) {
+        if (isAlike(key, *otherTransport, otherDevice) && !isSameObject(plainKey(otherTransport, otherDevice), key))
             key.isUnique = false;
     });
     return key;
+}
+
+bool DeviceTreeModel::isKeyOf(const Key &key, const QModelIndex &index) const
+{
+    if (!key.isItem || !index.isValid())
+        return false;
+    const auto [transport, device] = nodesOf(index);
+    if (!isAlike(key, *transport, device))
+        return false;
+    return isSameObject(plainKey(transport, device), key) || (key.isUnique && keyOf(index).isUnique);
 }
 
 QModelIndex DeviceTreeModel::indexOf(const Key &key) const
@@ -204,10 +220,10 @@ QModelIndex DeviceTreeModel::indexOf(const Key &key) const
     bool isObject = false;
     Key first;
     bool isUnique = key.isUnique;
-    forEachItem([&](InterfaceNode *transport, DeviceInfoNode *device) {
-        const Key item = plainKey(transport, device);
-        if (!key.isItem || !isAlike(item, key))
+    forEachItem(key.isDevice, [&](InterfaceNode *transport, DeviceInfoNode *device) {
+        if (!key.isItem || !isAlike(key, *transport, device))
             return;
+        const Key item = plainKey(transport, device);
         if (first.isItem && !isSameObject(item, first))
             isUnique = false;
         else

@@ -10,6 +10,7 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <utility>
 #include <vector>
 
 class DeviceInfoNode;
@@ -25,11 +26,11 @@ Q_DECLARE_METATYPE(OrvCam::Interface *)
  * lists them; one column, read-only. Items come into being when a view fetches them.
  *
  * Qt::UserRole is the OrvCam::Interface or OrvCam::DeviceInfo of an item. These belong to the camera access library,
- * which is asked for every text that is shown: nothing of them is kept but their identifiers.
+ * which is asked for every text that is shown: only their identifiers are kept.
  *
- * What the system has is found out at the beginning, by rescan(), or in the background: checkNew() looks, updateModel()
- * takes over what it saw. Either of the latter two is a reset of the model, upon which no index is good any more; an
- * item is found again by its identifier.
+ * The system is enumerated by the constructor, by rescan(), or in the background: checkNew() enumerates, updateModel()
+ * adopts the result. rescan() and updateModel() reset the model, so no index stays valid; an item is found again by its
+ * identifier.
  *
  * checkNew() may be called from one other thread while the model is used on its own, the GUI's; everything else is for
  * that thread only. Neither ever waits for the other longer than a pointer takes to be copied.
@@ -85,6 +86,9 @@ public:
 
     Key keyOf(const QModelIndex &index) const;
 
+    /** Whether indexOf(\a key) would find the item at \a index; as a rule without looking at the others. */
+    bool isKeyOf(const Key &key, const QModelIndex &index) const;
+
     /**
      * The item of that key, or the device below another interface if it has gone there; invalid when there is none.
      * Unlike texts, bytes are never alike where identifiers differ. Where several objects have one identifier, only
@@ -113,7 +117,7 @@ public:
     /** Shows what the last checkNew() has found. */
     void updateModel();
 
-    /** What the model shows now. */
+    /** The interfaces that the model shows now. */
     const Interfaces &interfaces() const { return m_current->interfaces; }
     const std::vector<OrvCam::DeviceInfo *> &devicesOn(const QString &interfaceId) const;
 
@@ -133,10 +137,11 @@ private:
 
     using Visit = std::function<void(InterfaceNode *transport, DeviceInfoNode *device)>;
 
-    void forEachItem(const Visit &visit) const;
+    void forEachItem(bool isDevice, const Visit &visit) const;
     Snapshot enumerate() const;
     void show(Snapshot state);
     DeviceTreeNode *nodeOf(const QModelIndex &index) const;
+    std::pair<InterfaceNode *, DeviceInfoNode *> nodesOf(const QModelIndex &index) const;
 
     OrvCam::System *const m_system; ///< for the other thread, which must not ask the root: that is replaced
     std::unique_ptr<RootNode> m_root;

@@ -30,7 +30,7 @@ public:
     virtual void fetchMore() = 0;
 
     DeviceTreeNode *parent() const { return m_parent; }
-    /** Where the node stands among its parent's children; 0 for the root. */
+    /** The place of the node among its parent's children; 0 for the root. */
     int row() const { return m_row; }
     qint32 childCount() const { return qint32(m_children.size()); }
     DeviceTreeNode *child(int row) const { return m_children[size_t(row)].get(); }

@@ -86,8 +86,8 @@ OrvGenParam::Array *parametersOf(OrvCam::Interface *transport)
 constexpr std::int64_t missing = -1;
 
 /**
- * Where the device stands in the list that its interface has now; the interface is not told to look again. The object
- * itself counts before another of the same identifier, which counts only if there is no third.
+ * The place of the device in the present list of its interface, which is not enumerated again for that. The object
+ * itself is preferred to another one with the same identifier, which counts only if there is no third.
  */
 std::int64_t placeOf(OrvCam::DeviceInfo &device, bool isUnique)
 {
@@ -140,7 +140,7 @@ void addAddress(QStandardItemModel &rows, OrvGenParam::Array *params, const char
         addRow(rows, label, IP4Validator::getIpStr(static_cast<unsigned int>(*address)));
 }
 
-/** What the description itself tells of its address. */
+/** An address that the device description has itself. */
 void addText(QStandardItemModel &rows, const char *label, OrvCam::DeviceInfo &device,
              const char *(OrvCam::DeviceInfo::*getter)(OrvCamErr *))
 {

@@ -53,7 +53,7 @@ OrvCam::Interface *gigEOf(OrvCam::DeviceInfo *device)
     return transport && transport->GetType() == OrvCam::InterfaceTypeGigEVision ? transport : nullptr;
 }
 
-/** What the person has confirmed. */
+/** The configuration that the person has confirmed. */
 struct IpConfiguration
 {
     unsigned int address;
@@ -61,7 +61,7 @@ struct IpConfiguration
     unsigned int gateway;
 };
 
-/** What the person begins with. */
+/** The values that the IP dialog opens with. */
 struct IpProposal
 {
     unsigned long long adapterMac = 0;
@@ -129,7 +129,7 @@ public:
     OrvCam::DeviceInfo *deviceAt(const QModelIndex &index) const;
     OrvCam::Interface *interfaceAt(const QModelIndex &index) const;
 
-    void look();
+    void checkSystem();
     void catchUp();
     void adoptChange();
     void setPolling(bool on);
@@ -201,7 +201,7 @@ OrvCameraSelectorDialogPrivate::OrvCameraSelectorDialogPrivate(OrvCameraSelector
     : q(dialog)
     , forwarder(this)
     , model(new DeviceTreeModel(system, dialog))
-    , polling([this] { look(); })
+    , polling([this] { checkSystem(); })
 {
 }
 
@@ -248,10 +248,15 @@ void OrvCameraSelectorDialogPrivate::connectTree()
     QObject::connect(tree, &QTreeView::activated, okButton(), &QPushButton::click);
     QObject::connect(tree, &QTreeView::customContextMenuRequested, q,
                      [this](const QPoint &position) { showContextMenu(position); });
-    QObject::connect(tree, &QTreeView::collapsed, q,
-                     [this](const QModelIndex &index) { closed.append(model->keyOf(index)); });
+    // A view that expands or collapses everything emits these signals for devices too.
+    QObject::connect(tree, &QTreeView::collapsed, q, [this](const QModelIndex &index) {
+        if (!index.parent().isValid())
+            closed.append(model->keyOf(index));
+    });
     QObject::connect(tree, &QTreeView::expanded, q, [this](const QModelIndex &index) {
-        const auto isOpen = [&](const DeviceTreeModel::Key &key) { return model->indexOf(key) == index; };
+        if (index.parent().isValid())
+            return;
+        const auto isOpen = [&](const DeviceTreeModel::Key &key) { return model->isKeyOf(key, index); };
         closed.erase(std::remove_if(closed.begin(), closed.end(), isOpen), closed.end());
     });
     QObject::connect(model, &QAbstractItemModel::modelReset, tree, &QTreeView::expandAll);
@@ -285,7 +290,7 @@ OrvCam::Interface *OrvCameraSelectorDialogPrivate::interfaceAt(const QModelIndex
 }
 
 /** On the polling thread. */
-void OrvCameraSelectorDialogPrivate::look()
+void OrvCameraSelectorDialogPrivate::checkSystem()
 {
     if (model->checkNew() != 1)
         return;
@@ -293,7 +298,7 @@ void OrvCameraSelectorDialogPrivate::look()
     forwarder.notify();
 }
 
-/** Later, for what is on the stack may go on with the tree. */
+/** Later, because functions on the stack may still use the tree. */
 void OrvCameraSelectorDialogPrivate::catchUp()
 {
     if (hasChanged)
@@ -303,7 +308,7 @@ void OrvCameraSelectorDialogPrivate::catchUp()
             this, [this] { rescan(); }, Qt::QueuedConnection);
 }
 
-/** What the user went to last is current again if it is there, else what is current now, else the first interface. */
+/** Makes the user's last choice current if it is there, else keeps the present item, else takes the first interface. */
 void OrvCameraSelectorDialogPrivate::adoptChange()
 {
     // A camera that has been chosen stays so; the change is adopted when the dialog is shown again.
@@ -465,8 +470,8 @@ void OrvCameraSelectorDialogPrivate::showContextMenu(const QPoint &position)
 }
 
 /**
- * While the dialogs are open, and while the camera is asked, the world goes on: the camera may go, the tree change,
- * this dialog be destroyed. So they live on the heap, and after each of them everything is asked anew.
+ * While the dialogs are open, and while the camera answers, the camera may vanish, the tree change, this dialog be
+ * destroyed. The dialogs therefore live on the heap, and everything is looked up again after each of them.
  */
 void OrvCameraSelectorDialogPrivate::setIpAddress()
 {
@@ -547,7 +552,7 @@ bool OrvCameraSelectorDialogPrivate::isConfirmed() const
     return isThere && isIgnored;
 }
 
-/** What all network adapters, and the cameras but for that one, have as addresses. */
+/** The addresses of all network adapters, and of all cameras except \a device. */
 QVector<unsigned int> OrvCameraSelectorDialogPrivate::addressesBeside(OrvCam::DeviceInfo *device) const
 {
     // Found before any of them is asked.

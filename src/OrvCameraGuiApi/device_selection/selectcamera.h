@@ -20,9 +20,9 @@ class QString;
  *
  * With \a poll the dialog follows on its own what is plugged in and out; people can switch that in it.
  *
- * Where there is no Qt application object yet, one is made, with Qt::AA_UseHighDpiPixmaps, and never destroyed. Where
- * there is one without widgets (QGuiApplication, QCoreApplication) the functions answer null. All calls come from the
- * GUI thread; none of them throws.
+ * Without a Qt application object the functions make one, with Qt::AA_UseHighDpiPixmaps, and never destroy it. With one
+ * that has no widgets (QGuiApplication, QCoreApplication) they return null. All calls come from the GUI thread; none of
+ * them throws.
  */
 namespace OrvGui {
 

@@ -53,9 +53,9 @@ public:
     bool isMaskValid() const;
 
     /**
-     * What is wrong with entries that the two do not judge: an unfinished one, of which the missing octets count as 0,
-     * or a camera's address that is its gateway's or, in the adapter's subnet, stands for that or for all in it. Shown
-     * in a line of its own; empty when there is nothing.
+     * The fault of entries that the two do not judge: an unfinished address, whose missing octets count as 0; an
+     * address that is also the gateway's; the network or broadcast address of the adapter's subnet. Shown in a line of
+     * its own; empty without a fault.
      */
     QString remark() const;
 

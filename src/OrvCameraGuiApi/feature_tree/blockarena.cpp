@@ -11,8 +11,8 @@ constexpr std::size_t largestBlock = 8 * 1024;
 void *BlockArena::do_allocate(std::size_t bytes, std::size_t alignment)
 {
     if (std::align(alignment, bytes, m_free, m_left) == nullptr) {
-        // What would leave most of a block unused gets its own and lets the present one be filled up. Blocks come
-        // aligned for every type.
+        // A large request gets a block of its own, so that the present one can be filled up. Blocks come aligned for
+        // every type.
         if (bytes > m_blockSize / 4)
             return newBlock(bytes);
         m_free = newBlock(m_blockSize);

@@ -15,7 +15,7 @@ struct ControlData
         LineEdit = 4 ///< QLineEdit
     };
 
-    /** Made for this object and without parent: whoever asked for it owns it. */
+    /** Made for this object and without parent: the caller who asked for it owns it. */
     QWidget *editor = nullptr;
     Kind kind = ComboBox;
 };

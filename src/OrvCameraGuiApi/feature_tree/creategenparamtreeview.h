@@ -16,12 +16,12 @@
  * does no harm. If it is a Qt window of this process, that becomes the parent widget. Any other window is left as it
  * is; the view outlives it.
  *
- * Where there is no Qt application object yet, one is made, with Qt::AA_UseHighDpiPixmaps, and never destroyed; its
- * events have to be processed by whoever calls, see OrvProcessEvents(). LC_NUMERIC stays as it was. An application that
- * makes its own should set that attribute for icons that are sharp on every screen. Where there is one without widgets
- * (QGuiApplication, QCoreApplication), or no display is set (DISPLAY, WAYLAND_DISPLAY, QT_QPA_PLATFORM), the functions
- * answer null. A display that is set but cannot be reached makes Qt end the process, with a message on standard error.
- * All calls come from the GUI thread; none of them throws.
+ * Without a Qt application object the functions make one, with Qt::AA_UseHighDpiPixmaps, and never destroy it; the
+ * caller processes its events, see OrvProcessEvents(). LC_NUMERIC stays as it was. An application that makes its own
+ * should set that attribute for icons that are sharp on every screen. The functions return null when the application
+ * object has no widgets (QGuiApplication, QCoreApplication), and when no display is set (DISPLAY, WAYLAND_DISPLAY,
+ * QT_QPA_PLATFORM). A display that is set but cannot be reached makes Qt end the process, with a message on standard
+ * error. All calls come from the GUI thread; none of them throws.
  */
 extern "C" {
 

@@ -41,7 +41,7 @@ public:
     /** Differs as soon as the user has changed the editor, also when value() stays the same. */
     virtual QVariant content(const QWidget &editor) const { return value(editor); }
 
-    /** Whether nothing may be written, whoever asks: a view that changes its current item asks no validator. */
+    /** Whether nothing may be written at all: a view that changes its current item asks no validator. */
     virtual bool hasBadEntry(const QWidget &editor) const;
 
     /** Whether Enter can end the entry; a validator may correct the text. */

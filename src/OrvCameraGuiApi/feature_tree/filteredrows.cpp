@@ -161,15 +161,20 @@ void FilteredRows::evaluate(const Branch &branch, Rows &rows) const
     }
 }
 
+/** One of the branches that changed last, if no feature is listed twice and it has the feature at the row of \a source.
+ */
+FilteredRows::Branch *FilteredRows::recentBranchWith(const QModelIndex &source) const
+{
+    if (!m_listedAgain.isEmpty())
+        return nullptr;
+    const auto recent = std::find_if(m_recent.begin(), m_recent.end(),
+                                     [&](const Branch *branch) { return hasAtItsRow(branch, source); });
+    return recent != m_recent.end() ? *recent : nullptr;
+}
+
 /** The branch in which the feature is listed first; null if nobody has asked for it. */
 FilteredRows::Branch *FilteredRows::firstBranchWith(const QModelIndex &source)
 {
-    if (m_listedAgain.isEmpty()) {
-        const auto recent = std::find_if(m_recent.begin(), m_recent.end(),
-                                         [&](const Branch *branch) { return hasAtItsRow(branch, source); });
-        if (recent != m_recent.end())
-            return *recent;
-    }
     Branch *const branch = m_firstBranches.value(m_source->parent(source).internalId());
     if (branch) {
         std::rotate(m_recent.begin(), m_recent.end() - 1, m_recent.end());
@@ -200,6 +205,10 @@ FilteredRows::Places FilteredRows::placesOf(const QModelIndex &source)
                 places.append({branch, row});
         }
     };
+    if (Branch *const recent = recentBranchWith(source)) {
+        add(recent, source.row());
+        return places;
+    }
     if (Branch *const branch = firstBranchWith(source))
         add(branch, firstRowOf(*branch, source));
     if (m_listedAgain.isEmpty())
@@ -275,7 +284,7 @@ std::vector<FilteredRows::Change> FilteredRows::evaluate()
 {
     std::vector<Change> changes;
     Rows rows;
-    // Not by iterators: a node that is asked may report a change, upon which somebody asks for a branch.
+    // Not by iterators: a node that is asked may report a change, and its receiver may ask for a branch.
     for (size_t i = 0; i < m_branches.size(); ++i) {
         Branch *const first = m_branches[i].get();
         if (!first->isComplete || m_firstBranches.value(first->source.internalId()) != first)

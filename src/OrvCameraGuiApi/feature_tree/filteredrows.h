@@ -40,7 +40,7 @@ public:
     };
     using Places = QVarLengthArray<Place, 4>;
 
-    /** What stays the same about a row of the source model. It is asked for so often that asking once pays. */
+    /** The properties of a source row that never change, kept because they are needed so often. */
     struct SourceRow
     {
         quintptr id; ///< the internal one of the source index
@@ -118,7 +118,7 @@ public:
     /** The first place of a feature that is shown, if any. */
     std::optional<Place> shownPlaceOf(const QModelIndex &source);
 
-    /** Where \a sourceRow is among \a rows, or -1. */
+    /** The place of \a sourceRow among \a rows, or -1. */
     static int position(const Rows &rows, int sourceRow);
 
     /** The row of \a place among those that are shown in its branch, or -1. */
@@ -131,7 +131,7 @@ public:
     /** The row next to \a row that stays, itself, below or above, or -1. */
     static int survivorOf(const Branch &branch, int row);
 
-    /** What the filter changes; asks all nodes of known branches. Empty after abandon(). */
+    /** The changes that the filter makes; asks all nodes of known branches. Empty after abandon(). */
     std::vector<Change> evaluate();
 
     /** The change that brings or removes the row at \a place. */
@@ -152,6 +152,7 @@ private:
     void readSourceRows(Branch &branch) const;
     void findListedAgain(const Branch &branch);
     void evaluate(const Branch &branch, Rows &rows) const;
+    Branch *recentBranchWith(const QModelIndex &source) const;
     Branch *firstBranchWith(const QModelIndex &source);
     int firstRowOf(const Branch &branch, const QModelIndex &source) const;
 

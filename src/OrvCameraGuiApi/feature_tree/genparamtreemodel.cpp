@@ -30,7 +30,7 @@ struct IndexFeature;
 /** A row's identity; the internal pointer of model indexes. */
 using FeatureEntry = std::pair<GenApi::IValue *const, IndexFeature>;
 
-/** Where a feature stands. Small, because every feature has one. */
+/** The place of a feature in the tree. Small, because every feature has one. */
 struct IndexFeature
 {
     FeatureEntry *parent = nullptr; ///< null at the root level
@@ -161,7 +161,7 @@ public:
 
 namespace {
 
-/** What a column shows of a feature. The number of a column is its place in the table. */
+/** The data that a column shows of a feature. The number of a column is its place in the table. */
 struct ModelColumn
 {
     const char *title; ///< untranslated

@@ -29,15 +29,15 @@ public:
     void setSourceModel(QAbstractItemModel *sourceModel) override;
 
     /**
-     * Whether the row passes the filter, itself and alone. What cannot be read of a node does not keep it from being
-     * shown. The access mode, which may ask the device, is asked for last.
+     * Whether the row passes the filter by itself. A property of the node that cannot be read does not hide it. The
+     * access mode, which may ask the device, is asked for last.
      */
     bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
 
     /**
-     * Where a view's current item goes from \a index when that is about to go, as rowsAboutToGo() tells: to the next
-     * row beside it that stays, else to the one before, else to its category; nowhere when its category goes too. The
-     * index itself when it stays.
+     * The successor of \a index as a view's current item, asked upon rowsAboutToGo(): the next row beside it that
+     * stays, else the one before, else its category; invalid when its category goes too. The index itself when it
+     * stays.
      */
     QModelIndex survivorOf(const QModelIndex &index) const;
 

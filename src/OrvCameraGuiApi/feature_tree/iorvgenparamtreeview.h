@@ -41,19 +41,19 @@ public:
     virtual void setVisibility(Visibility level) = 0;
 
     /**
-     * What is expanded, the width of the name column, the visibility level and the division between tree and
+     * The expanded categories, the width of the name column, the visibility level and the division between tree and
      * description, as one line of UTF-8; empty without a node map. Belongs to the view and is valid until the next
      * saveState() or loadState().
      */
     virtual const char *saveState() const = 0;
 
-    /** Arranges the view as a text from saveState() tells; what makes no sense in it is passed over. May be null. */
+    /** Restores the view from a text of saveState(), passing over parts that make no sense. May be null. */
     virtual void loadState(const char *state) = 0;
 
     /**
-     * How often the node map is polled, in milliseconds; up to 2147483647, which is taken for more than that. It is 0
-     * until it is set: with that polling tells the node map that no time has passed, so that it reads nothing anew, as
-     * often as the event loop runs, which keeps a processor busy.
+     * The time between two polls of the node map in milliseconds, at most 2147483647; larger times count as that. 0
+     * until it is set: each pass of the event loop then polls the node map with no time elapsed, so that nothing is
+     * read again while a processor is kept busy.
      */
     virtual void setPollingTime(unsigned long milliseconds) = 0;
     virtual unsigned long getPollingTime() = 0;

@@ -5,8 +5,8 @@
 #include <GenApi/GenApi.h>
 
 /**
- * What a node calls when it changes: reports the tag that stands for the node, so that nobody need look for it. Small,
- * because there is one for each feature: all of them share one relay.
+ * The callback of a node: reports the tag that stands for the node, so that no receiver has to look it up. Small,
+ * because there is one for each feature; all of them share one relay.
  */
 template <typename Tag>
 class NodeChangeCallback

@@ -25,13 +25,13 @@ QByteArray save(const QTreeView &tree, int visibility, const QSplitter &splitter
  */
 void loadExpansion(QTreeView &tree, const QByteArray &state);
 
-/** In pixels; nothing where there is none in \a state that a column can have. */
+/** In pixels; nothing if \a state has none that is possible for a column. */
 std::optional<int> columnWidth(const QByteArray &state);
 
-/** From 0 to 2; nothing where there is none of these in \a state. */
+/** From 0 to 2; nothing if \a state has none of these. */
 std::optional<int> visibility(const QByteArray &state);
 
-/** Nothing changes unless \a state has the bytes that this splitter itself would save, but for the sizes. */
+/** Changes nothing unless \a state has the bytes that this splitter itself would save, except for the sizes. */
 void loadSplitter(QSplitter &splitter, const QByteArray &state);
 
 } // namespace TreeState

@@ -27,7 +27,7 @@ struct ORV_GENAPI_EXPORT INode : virtual public IBase
     virtual EYesNo IsAccessModeCacheable() const = 0;
     virtual bool IsDeprecated() const = 0;
 
-    /** Where to read more, and the event that tells of changes; empty where the description names none. */
+    /** The address of further documentation, and the event that reports changes; empty without one. */
     virtual GENICAM_NAMESPACE::gcstring GetDocuURL() const = 0;
     virtual GENICAM_NAMESPACE::gcstring GetEventID() const = 0;
 
@@ -36,9 +36,9 @@ struct ORV_GENAPI_EXPORT INode : virtual public IBase
     virtual INode *GetCastAlias() const = 0;
 
     /**
-     * The nodes that hang on this one or on which it hangs: those it reads, for whatever purpose; those it writes;
-     * those with which it changes; those whose change changes its value; those at the end of what it writes, itself
-     * where that ends here; those that read it (ctParentNodes); all that change with it, however far away
+     * The nodes that depend on this one or on which it depends: those it reads, for any purpose; those it writes; those
+     * that invalidate it; those whose change changes its value; those at the end of the chain that it writes, itself if
+     * the chain ends here; those that read it (ctParentNodes); all that change with it, at any distance
      * (ctDependingNodes).
      */
     virtual void GetChildren(NodeList_t &Children, ELinkType LinkType = ctReadingChildren) const = 0;

@@ -12,7 +12,7 @@ struct ORV_GENAPI_EXPORT IPortWriteList
     /** Does the writes on \a pPort. */
     virtual void Replay(IPort *pPort) = 0;
 
-    /** A number that is for whoever made the list. */
+    /** A number of the application's own. */
     virtual void SetCookie(const int64_t Value) = 0;
     virtual int64_t GetCookie() = 0;
 

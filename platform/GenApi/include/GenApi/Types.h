@@ -82,7 +82,7 @@ enum ECallbackSuppressMode {
     csmOnce = 2 ///< it leaves out those of the next change
 };
 
-/** How nodes hang on one another; what each means stands at INode::GetChildren(). */
+/** How nodes depend on one another, see INode::GetChildren(). */
 enum ELinkType {
     ctParentNodes = 0,
     ctReadingChildren = 1,
