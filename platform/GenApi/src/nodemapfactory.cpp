@@ -1,7 +1,7 @@
 #include <GenApi/NodeMapFactory.h>
 
 #include "nodemapimpl.h"
-#include "ziparchive.h"
+#include <OrvGenApi/ziparchive.h>
 
 #include <pugixml.hpp>
 

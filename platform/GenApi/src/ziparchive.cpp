@@ -1,4 +1,4 @@
-#include "ziparchive.h"
+#include <OrvGenApi/ziparchive.h>
 
 #include "node.h"
 
@@ -61,7 +61,7 @@ std::string descriptionInZip(const std::string &zip, const std::string &sourceNa
     if (!file)
         fail("the ZIP archive holds no description");
 
-    constexpr std::size_t most = std::size_t(1) << 28; // a small archive may unpack to more than any memory holds
+    constexpr std::size_t most = std::size_t(1) << 26; // a small archive may unpack to more than any memory holds
     std::string text;
     zip_int64_t got = 0;
     char part[65536];

@@ -2,11 +2,11 @@
 #include "deviceinfo.h"
 #include "genapierror.h"
 #include "system.h"
-#include "world.h"
+#include "transports.h"
 
 OrvCam::System *OrvCam_GetSystem()
 {
-    return OrvCameraApi::System::acquire({&OrvCameraApi::World::instance()});
+    return OrvCameraApi::System::acquire(OrvCameraApi::chosenBackends());
 }
 
 OrvCam::Device *OrvCam_CreateDevice(OrvCam::DeviceInfo *deviceInfo, std::int32_t accessMode, OrvCamErr *err)

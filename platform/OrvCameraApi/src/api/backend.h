@@ -93,10 +93,21 @@ public:
     virtual void raise(std::uint32_t eventId) = 0;
 };
 
+/** How far a device is on its way to its features, or that it was lost. */
+enum class OpeningStep { Connecting, Description, Features, Connected, Lost };
+
+struct OpeningProgress
+{
+    OpeningStep step = OpeningStep::Connected;
+    std::string failure; ///< why the last attempt to open the device has failed; empty otherwise
+};
+
 /** A device that is open; closed by its destructor. */
 class Connection : public FeatureOwner
 {
 public:
+    virtual OpeningProgress progress() const { return {}; }
+
     /** Called once. A listener that has expired is not called. */
     virtual void setListener(std::weak_ptr<ConnectionListener> listener) = 0;
 };

@@ -21,6 +21,7 @@ public:
 
     EventHub &events() { return m_events; }
     LazyParameters &parameters() { return m_parameters; }
+    OpeningProgress progress() const { return m_connection->progress(); }
 
     void prepareReturn() override { m_parameters.invalidate(); }
     void raise(std::uint32_t eventId) override { m_events.fire(eventId); }

@@ -2,6 +2,7 @@
 
 #include "gvcpclient.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace OrvCameraApi {
@@ -9,9 +10,6 @@ namespace OrvCameraApi {
 namespace {
 
 constexpr std::uint32_t everyone = 0xFFFFFFFF; // 255.255.255.255 stays on the adapter
-
-// Of the register ControlPrivilege.
-constexpr std::uint32_t exclusive = 1;
 
 } // namespace
 
@@ -38,9 +36,92 @@ std::vector<FoundDevice> GigeDiscovery::devices() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     std::vector<FoundDevice> devices;
-    for (const auto &[mac, seen] : m_seen)
+    for (const Seen &seen : m_seen)
         devices.push_back(seen.device);
     return devices;
+}
+
+std::optional<FoundDevice> GigeDiscovery::find(std::uint64_t mac) const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    for (const Seen &seen : m_seen) {
+        if (seen.device.record.mac == mac)
+            return seen.device;
+    }
+    return std::nullopt;
+}
+
+OrvCamErr GigeDiscovery::forceIp(std::uint64_t mac, const IpConfiguration &configuration)
+{
+    const std::optional<FoundDevice> device = find(mac);
+    if (!device)
+        return OrvCamErr_NoDevice;
+    const std::optional<Gvcp::Status> status = askForIp(*device, configuration);
+    if (!status)
+        return OrvCamErr_NoDevice;
+    if (*status == Gvcp::Status::AccessDenied)
+        return OrvCamErr_InvalidState;
+    if (*status != Gvcp::Status::Success)
+        return OrvCamErr_UnknownError;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        const auto seen = place(mac);
+        if (seen != m_seen.end() && configuration.address != 0) {
+            FoundDevice &forced = seen->device;
+            forced.record.ip = configuration;
+            forced.endpoint.address = configuration.address;
+            const bool isReachable = m_adapter.contains(configuration.address);
+            if (!isReachable)
+                forced.accessStatus = OrvCam::AccessStatusIpSubnetMismatch;
+            else if (forced.accessStatus == OrvCam::AccessStatusIpSubnetMismatch)
+                forced.accessStatus = OrvCam::AccessStatusReadWrite;
+            seen->isForced = true;
+        }
+    }
+    lookNow();
+    return OrvCamErr_Ok;
+}
+
+/** The answer may come from the old address or from the new one; others may send anything. */
+std::optional<Gvcp::Status> GigeDiscovery::askForIp(const FoundDevice &device,
+                                                    const IpConfiguration &configuration) const
+{
+    constexpr int attempts = 3;
+    constexpr std::chrono::milliseconds once(300);
+    constexpr std::uint16_t id = 1; // of the only question by this socket
+    UdpSocket socket({m_adapter.address, 0});
+    if (!socket.isOpen())
+        return std::nullopt;
+    // A device outside the subnet hears nothing else than a broadcast.
+    if (m_options.broadcasts)
+        socket.allowBroadcast(m_adapter.index);
+    const Endpoint to = m_options.broadcasts ? Endpoint{everyone, m_options.port} : device.endpoint;
+    for (int attempt = 0; attempt < attempts; ++attempt) {
+        socket.send(Gvcp::forceIp(id, device.record.mac, configuration), to);
+        const auto deadline = UdpSocket::Clock::now() + once;
+        while (const std::optional<Datagram> datagram = socket.receive(deadline)) {
+            const std::optional<Gvcp::Acknowledge> answer =
+                Gvcp::acknowledgeIn(datagram->bytes.data(), datagram->bytes.size());
+            const std::uint32_t from = datagram->from.address;
+            if (answer && answer->id == id && answer->command == Gvcp::Command::ForceIp
+                && datagram->from.port == device.endpoint.port
+                && (from == device.endpoint.address || from == configuration.address))
+                return answer->status;
+        }
+    }
+    return std::nullopt;
+}
+
+std::vector<GigeDiscovery::Seen>::iterator GigeDiscovery::place(std::uint64_t mac)
+{
+    return std::find_if(m_seen.begin(), m_seen.end(),
+                        [mac](const Seen &seen) { return seen.device.record.mac == mac; });
+}
+
+bool GigeDiscovery::isEnding() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_isEnding;
 }
 
 void GigeDiscovery::lookNow()
@@ -87,8 +168,11 @@ void GigeDiscovery::lookAround()
             break;
         take(*datagram, m_id, answers);
     }
-    for (auto &[mac, device] : answers)
+    for (auto &[mac, device] : answers) {
+        if (isEnding())
+            return;
         device.accessStatus = accessStatusOf(device);
+    }
     publish(std::move(answers), !isAsked);
 }
 
@@ -126,7 +210,7 @@ std::int32_t GigeDiscovery::accessStatusOf(const FoundDevice &device) const
         return OrvCam::AccessStatusNoAccess;
     if (privilege->front() == 0)
         return OrvCam::AccessStatusReadWrite;
-    return privilege->front() & exclusive ? OrvCam::AccessStatusNoAccess : OrvCam::AccessStatusReadOnly;
+    return privilege->front() & Gvcp::ExclusiveAccess ? OrvCam::AccessStatusNoAccess : OrvCam::AccessStatusReadOnly;
 }
 
 /** A packet may be lost: a device stays until it has missed several rounds. */
@@ -134,14 +218,22 @@ void GigeDiscovery::publish(std::map<std::uint64_t, FoundDevice> &&answers, bool
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_isBlocked = isBlocked;
-    for (auto seen = m_seen.begin(); seen != m_seen.end();) {
-        if (answers.count(seen->first) == 0 && ++seen->second.missed >= m_options.missable)
-            seen = m_seen.erase(seen);
-        else
-            ++seen;
+    for (Seen &seen : m_seen) {
+        const auto answer = answers.find(seen.device.record.mac);
+        if (answer == answers.end()) {
+            ++seen.missed;
+        } else {
+            if (!std::exchange(seen.isForced, false))
+                seen.device = std::move(answer->second);
+            seen.missed = 0;
+            answers.erase(answer);
+        }
     }
+    m_seen.erase(std::remove_if(m_seen.begin(), m_seen.end(),
+                                [this](const Seen &seen) { return seen.missed >= m_options.missable; }),
+                 m_seen.end());
     for (auto &[mac, device] : answers)
-        m_seen[mac] = {std::move(device), 0};
+        m_seen.push_back({std::move(device)});
 }
 
 } // namespace OrvCameraApi

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <map>
 #include <mutex>
+#include <optional>
 #include <thread>
 #include <vector>
 
@@ -46,8 +47,18 @@ public:
 
     const NetAdapter &adapter() const { return m_adapter; }
 
-    /** The devices that are known now, in the order of their MAC addresses. */
+    /** The devices that are known now; those found later stand further back. */
     std::vector<FoundDevice> devices() const;
+
+    /** The device with that MAC address, if it is known now. */
+    std::optional<FoundDevice> find(std::uint64_t mac) const;
+
+    /**
+     * Gives the device another address for now. Waits for its acknowledge, at most 0.9 s: OrvCamErr_NoDevice if there is
+     * none, OrvCamErr_InvalidState if the device refuses because another program controls it, OrvCamErr_UnknownError if
+     * it refuses for other reasons. The answers of devices() follow at once.
+     */
+    OrvCamErr forceIp(std::uint64_t mac, const IpConfiguration &configuration);
 
     /** The next round begins at once. */
     void lookNow();
@@ -60,6 +71,7 @@ private:
     {
         FoundDevice device;
         int missed = 0;
+        bool isForced = false; ///< an address that came after the question of the round that is running
     };
 
     void run();
@@ -67,6 +79,9 @@ private:
     bool ask(std::uint16_t id) const;
     void take(const Datagram &datagram, std::uint16_t id, std::map<std::uint64_t, FoundDevice> &answers) const;
     std::int32_t accessStatusOf(const FoundDevice &device) const;
+    std::optional<Gvcp::Status> askForIp(const FoundDevice &device, const IpConfiguration &configuration) const;
+    std::vector<Seen>::iterator place(std::uint64_t mac);
+    bool isEnding() const;
     void publish(std::map<std::uint64_t, FoundDevice> &&answers, bool isBlocked);
 
     const NetAdapter m_adapter;
@@ -76,7 +91,7 @@ private:
 
     mutable std::mutex m_mutex;
     std::condition_variable m_changed;
-    std::map<std::uint64_t, Seen> m_seen; ///< by MAC address
+    std::vector<Seen> m_seen; ///< in the order in which they were found
     bool m_isBlocked = false;
     bool m_isHurried = false;
     bool m_isEnding = false;

@@ -200,6 +200,13 @@ std::optional<DeviceRecord> deviceRecordIn(const Packet &payload)
     return record;
 }
 
+/** Names are written in any case. */
+bool DescriptionFile::isArchive() const
+{
+    constexpr std::size_t size = 4;
+    return name.size() >= size && startsWith(std::string_view(name).substr(name.size() - size), ".zip");
+}
+
 std::optional<DescriptionFile> localFileIn(const std::string &url)
 {
     std::string_view rest = url;

@@ -52,8 +52,12 @@ enum Register : std::uint32_t {
     SecondUrl = 0x0400,
     Capabilities = 0x0934,
     HeartbeatTimeout = 0x0938,
-    ControlPrivilege = 0x0A00
+    ControlPrivilege = 0x0A00,
+    ControllerAddress = 0x0A14
 };
+
+/** A bit of ControlPrivilege: nobody else may even read. */
+constexpr std::uint32_t ExclusiveAccess = 1;
 
 constexpr std::size_t urlLength = 512;
 
@@ -107,6 +111,8 @@ struct DescriptionFile
     std::string name; ///< ends in ".xml" or ".zip"
     std::uint32_t address = 0;
     std::uint32_t length = 0; ///< 1 to mostDescription
+
+    bool isArchive() const;
 };
 
 constexpr std::uint32_t mostDescription = 64 * 1024 * 1024;

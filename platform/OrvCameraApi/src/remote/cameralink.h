@@ -36,13 +36,19 @@ class CameraLink
 public:
     virtual ~CameraLink() = default;
 
-    /** The description as the camera stores it: XML, or a ZIP archive of one file. */
+    /** The GenICam description that the camera holds, as XML. */
     virtual std::string description() = 0;
+
+    /** Whether another program controls the camera, so that it can only be read. */
+    virtual bool isReadOnly() const = 0;
 
     virtual void read(void *buffer, std::uint64_t address, std::uint32_t length) = 0;
     virtual void write(const void *buffer, std::uint64_t address, std::uint32_t length) = 0;
 
-    /** Whether the camera still belongs to this link. Asked while there is nothing else to do; may ask the camera. */
+    /**
+     * Whether the link is still good. False as well once the camera would let this link do more or less than before.
+     * Asked while there is nothing else to do; may ask the camera.
+     */
     virtual bool isAlive() = 0;
 };
 

@@ -1,34 +1,86 @@
 #include "remotecamera.h"
 
+#include <OrvGenApi/nodemap.h>
+
+#include <algorithm>
+#include <exception>
 #include <utility>
 
 namespace OrvCameraApi {
 
 namespace {
 
-/** The closed cameras whose threads have not ended. */
-struct Graveyard
+/** Every camera whose thread may be running. Ends them with the process. */
+class RunningCameras
 {
-    std::mutex mutex;
-    std::vector<std::thread> threads;
-
-    ~Graveyard() { joinAll(); }
-
-    void joinAll()
+public:
+    ~RunningCameras()
     {
-        std::unique_lock<std::mutex> lock(mutex);
-        std::vector<std::thread> ending = std::move(threads);
-        threads.clear();
+        for (const std::weak_ptr<RemoteCamera> &weak : std::exchange(m_open, {})) {
+            if (const std::shared_ptr<RemoteCamera> camera = weak.lock())
+                RemoteCamera::close(camera);
+        }
+        joinClosed();
+    }
+
+    void add(const std::shared_ptr<RemoteCamera> &camera)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_open.push_back(camera);
+    }
+
+    void close(std::thread thread)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_open.erase(std::remove_if(m_open.begin(), m_open.end(), [](const auto &weak) { return weak.expired(); }),
+                     m_open.end());
+        m_closed.push_back(std::move(thread));
+    }
+
+    void joinClosed()
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        std::vector<std::thread> ending = std::move(m_closed);
+        m_closed.clear();
         lock.unlock();
         for (std::thread &thread : ending)
             thread.join();
     }
+
+private:
+    std::mutex m_mutex;
+    std::vector<std::weak_ptr<RemoteCamera>> m_open;
+    std::vector<std::thread> m_closed;
 };
 
-Graveyard &graveyard()
+RunningCameras &runningCameras()
 {
-    static Graveyard graveyard;
-    return graveyard;
+    static RunningCameras cameras;
+    return cameras;
+}
+
+[[noreturn]] void throwNotConnected()
+{
+    throw GenICam::AccessException("The camera is not connected", __FILE__, __LINE__);
+}
+
+[[noreturn]] void throwNoAnswer()
+{
+    throw GenICam::TimeoutException("The camera does not answer", __FILE__, __LINE__);
+}
+
+/** The exception of GenApi that callers get for \a error. */
+std::exception_ptr forCallers(const LinkError &error)
+{
+    switch (error.kind()) {
+    case LinkError::Kind::Denied:
+        return std::make_exception_ptr(GenICam::AccessException(error.what(), __FILE__, __LINE__));
+    case LinkError::Kind::Silent:
+        return std::make_exception_ptr(GenICam::TimeoutException(error.what(), __FILE__, __LINE__));
+    case LinkError::Kind::Failed:
+        break;
+    }
+    return std::make_exception_ptr(GenICam::RuntimeException(error.what(), __FILE__, __LINE__));
 }
 
 } // namespace
@@ -41,8 +93,8 @@ RemoteCamera::RemoteCamera(Open open, const Patience &patience)
 
 std::shared_ptr<RemoteCamera> RemoteCamera::start(Open open, const Patience &patience)
 {
-    graveyard(); // outlives every camera
     const std::shared_ptr<RemoteCamera> camera(new RemoteCamera(std::move(open), patience));
+    runningCameras().add(camera);
     camera->m_thread = std::thread([camera] { camera->run(); }); // the thread keeps what it uses
     return camera;
 }
@@ -53,17 +105,17 @@ void RemoteCamera::close(std::shared_ptr<RemoteCamera> camera)
     {
         const std::lock_guard<std::mutex> lock(camera->m_mutex);
         camera->m_isEnding = true;
-        camera->m_listener.reset();
+        camera->m_listeners.clear();
         thread = std::move(camera->m_thread);
     }
     camera->m_changed.notify_all();
-    const std::lock_guard<std::mutex> lock(graveyard().mutex);
-    graveyard().threads.push_back(std::move(thread));
+    if (thread.joinable())
+        runningCameras().close(std::move(thread));
 }
 
 void RemoteCamera::waitForClosed()
 {
-    graveyard().joinAll();
+    runningCameras().joinClosed();
 }
 
 RemoteCamera::State RemoteCamera::state() const
@@ -84,16 +136,28 @@ std::string RemoteCamera::description() const
     return m_description;
 }
 
-void RemoteCamera::setListener(std::weak_ptr<ConnectionListener> listener)
+void RemoteCamera::addListener(std::weak_ptr<ConnectionListener> listener)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_listener = std::move(listener);
+    m_listeners.push_back(std::move(listener));
 }
 
 std::uint64_t RemoteCamera::accessCount() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     return m_accessCount;
+}
+
+std::shared_ptr<GenApi::INodeMap> RemoteCamera::takeNodeMap()
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        if (m_nodeMap)
+            return std::exchange(m_nodeMap, nullptr);
+    }
+    std::shared_ptr<OrvGenApi::NodeMap> map = OrvGenApi::NodeMap::fromString(description());
+    map->connect(this);
+    return map;
 }
 
 void RemoteCamera::Read(void *buffer, std::int64_t address, std::int64_t length)
@@ -104,6 +168,8 @@ void RemoteCamera::Read(void *buffer, std::int64_t address, std::int64_t length)
 
 void RemoteCamera::Write(const void *buffer, std::int64_t address, std::int64_t length)
 {
+    if (m_accessMode == GenApi::RO)
+        throw GenICam::AccessException("Another program controls the camera", __FILE__, __LINE__);
     const auto *const bytes = static_cast<const std::uint8_t *>(buffer);
     access(true, address, {bytes, bytes + length});
 }
@@ -115,16 +181,16 @@ std::shared_ptr<RemoteCamera::Access> RemoteCamera::access(bool isWrite, std::in
     access->isWrite = isWrite;
     access->address = std::uint64_t(address);
     access->bytes = std::move(bytes);
-    std::unique_lock<std::mutex> lock(m_mutex);
-    if (m_state != State::Connected)
-        throw GenICam::AccessException("The camera is not connected", __FILE__, __LINE__);
+    Lock lock(m_mutex);
+    if (m_state != State::Connected || m_isEnding)
+        throwNotConnected();
     if (m_isSilent)
-        throw GenICam::TimeoutException("The camera does not answer", __FILE__, __LINE__);
+        throwNoAnswer();
     m_waiting.push_back(access);
     m_changed.notify_all();
     if (!m_changed.wait_for(lock, m_patience.access, [&] { return access->isDone; })) {
         m_isSilent = true;
-        throw GenICam::TimeoutException("The camera does not answer", __FILE__, __LINE__);
+        throwNoAnswer();
     }
     if (access->failure)
         std::rethrow_exception(access->failure);
@@ -133,13 +199,16 @@ std::shared_ptr<RemoteCamera::Access> RemoteCamera::access(bool isWrite, std::in
 
 void RemoteCamera::run()
 {
-    std::unique_lock<std::mutex> lock(m_mutex);
+    std::chrono::milliseconds pause = m_patience.retry;
+    Lock lock(m_mutex);
     while (!m_isEnding) {
         lock.unlock();
-        if (openLink())
+        const bool isOpen = openLink();
+        if (isOpen)
             serve();
         lock.lock();
-        m_changed.wait_for(lock, m_patience.retry, [this] { return m_isEnding; });
+        pause = isOpen ? m_patience.retry : std::min(2 * pause, m_patience.longestRetry);
+        m_changed.wait_for(lock, pause, [this] { return m_isEnding; });
     }
     lock.unlock();
     m_link.reset();
@@ -148,74 +217,91 @@ void RemoteCamera::run()
 /** Opens the camera and, the first time, fetches its description. */
 bool RemoteCamera::openLink()
 {
-    std::string failure;
-    std::string description = this->description();
     try {
-        m_link = m_open();
-        if (description.empty()) {
-            {
-                const std::lock_guard<std::mutex> lock(m_mutex);
-                m_state = State::Loading;
-            }
-            description = m_link->description();
-        }
-    } catch (const LinkError &error) {
-        failure = error.what();
-        m_link.reset();
-    }
-    std::unique_lock<std::mutex> lock(m_mutex);
-    m_failure = failure;
-    if (!m_link) {
-        if (m_state == State::Loading)
-            m_state = State::Connecting;
+        std::unique_ptr<CameraLink> link = m_open();
+        if (description().empty())
+            fetchDescription(*link);
+        m_accessMode = link->isReadOnly() ? GenApi::RO : GenApi::RW;
+        m_link = std::move(link);
+    } catch (const GenICam::GenericException &error) {
+        fail(error.GetDescription());
+        return false;
+    } catch (const std::exception &error) {
+        fail(error.what());
         return false;
     }
-    m_description = std::move(description);
-    m_isSilent = false;
-    const std::shared_ptr<ConnectionListener> listener = m_listener.lock();
-    lock.unlock();
     // Nobody reads kept values of before: accesses are refused until the state says connected.
-    if (listener)
+    for (const std::shared_ptr<ConnectionListener> &listener : listeners())
         listener->prepareReturn();
-    lock.lock();
-    m_state = State::Connected;
-    lock.unlock();
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_failure.clear();
+        m_isSilent = false;
+        m_state = State::Connected;
+    }
     raise(OrvCam::EventDeviceConnected);
     return true;
+}
+
+/** The node map is made here, because that takes a moment too. */
+void RemoteCamera::fetchDescription(CameraLink &link)
+{
+    setState(State::Description);
+    std::string description = link.description();
+    setState(State::Features);
+    std::shared_ptr<OrvGenApi::NodeMap> map = OrvGenApi::NodeMap::fromString(description);
+    map->connect(this);
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_description = std::move(description);
+    m_nodeMap = std::move(map);
+}
+
+void RemoteCamera::setState(State state)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_state = state;
+}
+
+/** A camera that was lost stays lost. */
+void RemoteCamera::fail(const std::string &why)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_failure = why;
+    if (m_state != State::Lost)
+        m_state = State::Connecting;
 }
 
 /** Performs accesses until the camera is lost or closed. */
 void RemoteCamera::serve()
 {
-    std::unique_lock<std::mutex> lock(m_mutex);
-    for (;;) {
+    bool isGood = true;
+    Lock lock(m_mutex);
+    while (isGood) {
         m_changed.wait_for(lock, m_patience.check, [this] { return m_isEnding || !m_waiting.empty(); });
         if (m_isEnding)
             return;
         if (m_waiting.empty()) {
             lock.unlock();
-            const bool isAlive = m_link->isAlive();
+            isGood = m_link->isAlive();
             lock.lock();
-            if (!isAlive)
-                break;
-            m_isSilent = false;
             continue;
         }
         const std::shared_ptr<Access> access = m_waiting.front();
         m_waiting.pop_front();
         ++m_accessCount;
         lock.unlock();
-        perform(*access);
+        isGood = perform(*access);
         lock.lock();
         access->isDone = true;
-        m_isSilent = false;
+        m_isSilent = m_isSilent && !isGood;
         m_changed.notify_all();
     }
     lock.unlock();
     lose();
 }
 
-void RemoteCamera::perform(Access &access)
+/** False when the camera has not answered. */
+bool RemoteCamera::perform(Access &access)
 {
     try {
         if (access.isWrite)
@@ -223,21 +309,17 @@ void RemoteCamera::perform(Access &access)
         else
             m_link->read(access.bytes.data(), access.address, std::uint32_t(access.bytes.size()));
     } catch (const LinkError &error) {
-        if (error.kind() == LinkError::Kind::Denied)
-            access.failure =
-                std::make_exception_ptr(GenICam::AccessException(error.what(), __FILE__, __LINE__));
-        else if (error.kind() == LinkError::Kind::Silent)
-            access.failure =
-                std::make_exception_ptr(GenICam::TimeoutException(error.what(), __FILE__, __LINE__));
-        else
-            access.failure =
-                std::make_exception_ptr(GenICam::RuntimeException(error.what(), __FILE__, __LINE__));
+        access.failure = forCallers(error);
+        return error.kind() != LinkError::Kind::Silent;
+    } catch (...) {
+        access.failure = std::current_exception();
     }
+    return true;
 }
 
 void RemoteCamera::lose()
 {
-    m_link.reset();
+    m_accessMode = GenApi::NA;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_state = State::Lost;
@@ -250,15 +332,25 @@ void RemoteCamera::lose()
     }
     m_changed.notify_all();
     raise(OrvCam::EventDeviceDisconnected);
+    m_link.reset(); // may wait for an answer that does not come
 }
 
 void RemoteCamera::raise(std::uint32_t eventId)
 {
-    std::unique_lock<std::mutex> lock(m_mutex);
-    const std::shared_ptr<ConnectionListener> listener = m_listener.lock();
-    lock.unlock(); // applications are called
-    if (listener)
+    for (const std::shared_ptr<ConnectionListener> &listener : listeners())
         listener->raise(eventId);
+}
+
+/** Those that exist now; to be called without the mutex, because they call applications. */
+std::vector<std::shared_ptr<ConnectionListener>> RemoteCamera::listeners()
+{
+    std::vector<std::shared_ptr<ConnectionListener>> present;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    for (const std::weak_ptr<ConnectionListener> &weak : m_listeners) {
+        if (std::shared_ptr<ConnectionListener> listener = weak.lock())
+            present.push_back(std::move(listener));
+    }
+    return present;
 }
 
 } // namespace OrvCameraApi

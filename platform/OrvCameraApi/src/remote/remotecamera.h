@@ -5,6 +5,7 @@
 
 #include <GenApi/GenApi.h>
 
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <cstdint>
@@ -22,9 +23,10 @@ namespace OrvCameraApi {
  * A camera that is opened, used, lost and found again by a thread of its own, so that nobody else waits for the network
  * longer than Patience::access.
  *
- * The thread opens the camera and fetches its description. When that is done, and after each return of a camera that was
- * lost, the listener gets OrvCam::EventDeviceConnected; upon a loss it gets OrvCam::EventDeviceDisconnected. An access
- * that takes too long throws, and as long as the camera still has not answered it, further ones throw at once.
+ * The thread opens the camera, fetches its description and makes a node map of it. When that is done, and after each
+ * return of a camera that was lost, the listeners get OrvCam::EventDeviceConnected; upon a loss they get
+ * OrvCam::EventDeviceDisconnected. An access that takes too long throws, and as long as the camera still has not answered
+ * it, further ones throw at once. An attempt to open that fails is repeated, with pauses that grow.
  */
 class RemoteCamera final : public GenApi::IPort
 {
@@ -36,14 +38,15 @@ public:
     {
         std::chrono::milliseconds access{1000}; ///< of a caller for one access
         std::chrono::milliseconds check{1000}; ///< between two questions whether the camera is alive
-        std::chrono::milliseconds retry{1000}; ///< between two attempts to open the camera
+        std::chrono::milliseconds retry{1000}; ///< after the first attempt to open the camera; doubles
+        std::chrono::milliseconds longestRetry{8000};
     };
 
-    enum class State { Connecting, Loading, Connected, Lost };
+    using State = OpeningStep;
 
     static std::shared_ptr<RemoteCamera> start(Open open, const Patience &patience);
 
-    /** Ends the thread. Returns at once: an access that is running ends by itself. */
+    /** Ends the thread. Returns at once: an access that is running ends by itself. No listener is called any more. */
     static void close(std::shared_ptr<RemoteCamera> camera);
 
     /** Waits until all threads of closed cameras have ended. */
@@ -58,9 +61,13 @@ public:
     /** Empty until the camera has been connected for the first time. */
     std::string description() const;
 
-    void setListener(std::weak_ptr<ConnectionListener> listener);
+    /** An expired listener is not called. */
+    void addListener(std::weak_ptr<ConnectionListener> listener);
 
-    GenApi::EAccessMode GetAccessMode() const override { return isConnected() ? GenApi::RW : GenApi::NA; }
+    /** A node map with this camera as its port. Takes the one that the thread has made, or makes another; may throw. */
+    std::shared_ptr<GenApi::INodeMap> takeNodeMap();
+
+    GenApi::EAccessMode GetAccessMode() const override { return m_accessMode; }
     void Read(void *buffer, std::int64_t address, std::int64_t length) override;
     void Write(const void *buffer, std::int64_t address, std::int64_t length) override;
 
@@ -77,19 +84,26 @@ private:
         bool isDone = false;
     };
 
+    using Lock = std::unique_lock<std::mutex>;
+
     RemoteCamera(Open open, const Patience &patience);
 
     void run();
     bool openLink();
+    void fetchDescription(CameraLink &link);
+    void setState(State state);
+    void fail(const std::string &why);
     void serve();
-    void perform(Access &access);
+    bool perform(Access &access);
     void lose();
     void raise(std::uint32_t eventId);
+    std::vector<std::shared_ptr<ConnectionListener>> listeners();
     std::shared_ptr<Access> access(bool isWrite, std::int64_t address, std::vector<std::uint8_t> bytes);
 
     const Open m_open;
     const Patience m_patience;
     std::unique_ptr<CameraLink> m_link; ///< of the thread
+    std::atomic<GenApi::EAccessMode> m_accessMode{GenApi::NA};
 
     mutable std::mutex m_mutex;
     std::condition_variable m_changed;
@@ -98,9 +112,10 @@ private:
     bool m_isSilent = false; ///< a caller has given up an access that is still running
     std::deque<std::shared_ptr<Access>> m_waiting;
     std::string m_description;
+    std::shared_ptr<GenApi::INodeMap> m_nodeMap; ///< until it is taken
     std::string m_failure;
     std::uint64_t m_accessCount = 0;
-    std::weak_ptr<ConnectionListener> m_listener;
+    std::vector<std::weak_ptr<ConnectionListener>> m_listeners;
 
     std::thread m_thread;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "backend.h"
+#include "interfaceport.h"
 #include "locked.h"
 #include "monitoredport.h"
 #include "portmonitor.h"
@@ -27,13 +28,11 @@ public:
     {
         Cameras cameras;
         Cameras lastSeen; ///< in the last enumeration
-        std::uint32_t selectedDevice = 0;
         ParametersAnswer parameters;
         OrvSim::Lists deviceLists = OrvSim::Lists::Normal;
     };
 
     HostInterface(OrvSim::InterfaceSpec spec, StallPoint &enumerationStall);
-    ~HostInterface() override;
 
     const InterfaceTexts &texts() const override { return m_texts; }
     std::int32_t type() const override { return m_spec.type; }
@@ -61,14 +60,14 @@ public:
     ServiceMap &service() { return m_service; }
 
 private:
-    class Registers;
+    std::vector<DeviceNumbers> numbersOfDevices() const;
 
     const OrvSim::InterfaceSpec m_spec;
     const InterfaceTexts m_texts;
     StallPoint &m_enumerationStall;
     Locked<State> m_state;
     const std::string m_description;
-    const std::unique_ptr<Registers> m_registers;
+    InterfacePort m_registers;
     PortMonitor m_monitor;
     MonitoredPort m_port;
     ServiceMap m_service;

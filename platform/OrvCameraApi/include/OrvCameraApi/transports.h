@@ -1,0 +1,65 @@
+#pragma once
+
+#include <OrvCameraGuiApi/camera_api/orvcam.h>
+
+#include <string>
+#include <vector>
+
+#ifndef ORV_CAMERAAPI_EXPORT
+#define ORV_CAMERAAPI_EXPORT __attribute__((visibility("default")))
+#endif
+
+/**
+ * Which cameras OrvCam_GetSystem() gives: simulated ones, real ones, or both.
+ *
+ * A program that says nothing gets what the environment says: ORV_CAMERAS is "simulated", "real" or "both";
+ * ORV_CAMERA_ADAPTERS and ORV_CAMERA_ADDRESSES are lists with commas, as Discovery describes them. Without these
+ * variables cameras are simulated. Network and USB are touched only while a system with real cameras exists.
+ *
+ * Every function may be called from any thread.
+ */
+namespace OrvTransports {
+
+enum class Cameras { Simulated, Real, Both };
+
+/** Where GigE Vision cameras are looked for. */
+struct Discovery
+{
+    /** Names ("eth0") or IPv4 addresses of network adapters; empty: all that are up, except the loopback adapter. */
+    std::vector<std::string> adapters;
+
+    /** IPv4 addresses of cameras. If there are any, only these are asked, and nothing is broadcast. */
+    std::vector<std::string> addresses;
+};
+
+/** Whether this library was built with the means to reach real cameras. Without them there are none. */
+ORV_CAMERAAPI_EXPORT bool canReachRealCameras();
+
+/** From the next system on; one that exists stays as it is. */
+ORV_CAMERAAPI_EXPORT void use(Cameras cameras, const Discovery &discovery = {});
+
+/** What the next system consists of. */
+ORV_CAMERAAPI_EXPORT Cameras used();
+
+/** How far an open device is on its way to its features. */
+enum class Step {
+    Connecting, ///< the camera is looked for and asked; also after a failure
+    Description, ///< its description is fetched
+    Features, ///< its features are made
+    Connected,
+    Lost ///< it was connected and does not answer any more
+};
+
+struct Progress
+{
+    Step step = Step::Connected;
+    std::string failure; ///< why the last attempt to open the camera has failed, UTF-8; empty otherwise
+};
+
+/**
+ * OrvCam_CreateDevice() returns before a real camera is open; OrvCam::EventDeviceConnected tells when its parameters can
+ * be had. Meanwhile this tells what it waits for. A simulated camera is connected or lost.
+ */
+ORV_CAMERAAPI_EXPORT Progress progressOf(OrvCam::Device &device);
+
+} // namespace OrvTransports

@@ -1,0 +1,340 @@
+// Aravis finds USB cameras, opens cameras and moves their bytes. What it is kept from: it fetches descriptions from
+// anywhere, unpacks archives of any size, waits 2.5 s for each answer of a dead camera, opens cameras that others control,
+// and keeps registers. Its headers and Qt's macros do not go together.
+#include "aravislinks.h"
+
+#include "gvcpclient.h"
+#include "netadapter.h"
+
+#include <OrvGenApi/ziparchive.h>
+
+#include <arv.h>
+
+#include <algorithm>
+#include <atomic>
+#include <cstring>
+#include <mutex>
+#include <optional>
+#include <utility>
+
+namespace OrvCameraApi {
+
+namespace {
+
+constexpr std::uint64_t largestAccess = 1 << 20;
+
+/** Opening a camera parses its description, with variables that all share. */
+std::mutex &openingMutex()
+{
+    static std::mutex mutex;
+    return mutex;
+}
+
+struct Unref
+{
+    void operator()(void *object) const { g_object_unref(object); }
+};
+
+struct Failure
+{
+    GError *error = nullptr;
+
+    Failure() = default;
+    ~Failure() { g_clear_error(&error); }
+    Failure(const Failure &) = delete;
+    Failure &operator=(const Failure &) = delete;
+
+    std::string text() const { return error ? error->message : "Unknown error"; }
+
+    /** Throws if there is an error. */
+    void check() const
+    {
+        if (!error)
+            return;
+        LinkError::Kind kind = LinkError::Kind::Failed;
+        if (error->domain == ARV_DEVICE_ERROR) {
+            if (error->code == ARV_DEVICE_ERROR_TIMEOUT || error->code == ARV_DEVICE_ERROR_NOT_CONNECTED)
+                kind = LinkError::Kind::Silent;
+            else if (error->code == ARV_DEVICE_ERROR_PROTOCOL_ERROR_ACCESS_DENIED
+                     || error->code == ARV_DEVICE_ERROR_NOT_CONTROLLER)
+                kind = LinkError::Kind::Denied;
+        }
+        throw LinkError(kind, text());
+    }
+};
+
+using DevicePointer = std::unique_ptr<ArvDevice, Unref>;
+
+/** What both kinds of cameras have in common. */
+class AravisLink : public CameraLink
+{
+public:
+    explicit AravisLink(DevicePointer device)
+        : m_device(std::move(device))
+    {
+        m_lost = g_signal_connect(m_device.get(), "control-lost", G_CALLBACK(controlLost), &m_isLost);
+    }
+    ~AravisLink() override { g_signal_handler_disconnect(m_device.get(), m_lost); }
+
+    std::string description() override
+    {
+        std::size_t size = 0;
+        const char *const xml = arv_device_get_genicam_xml(m_device.get(), &size);
+        if (!xml)
+            throw LinkError(LinkError::Kind::Failed, "The camera has no description");
+        return std::string(xml, size);
+    }
+
+    bool isReadOnly() const override { return false; }
+    bool isAlive() override { return !m_isLost; }
+
+protected:
+    ArvDevice *device() const { return m_device.get(); }
+
+    void readMemory(std::uint64_t address, std::uint32_t length, void *buffer) const
+    {
+        Failure failure;
+        arv_device_read_memory(device(), address, length, buffer, &failure.error);
+        failure.check();
+    }
+
+    void writeMemory(std::uint64_t address, std::uint32_t length, const void *buffer) const
+    {
+        Failure failure;
+        arv_device_write_memory(device(), address, length, const_cast<void *>(buffer), &failure.error);
+        failure.check();
+    }
+
+    static void checkLength(std::uint64_t length)
+    {
+        if (length > largestAccess)
+            throw LinkError(LinkError::Kind::Failed, "The register is too long");
+    }
+
+private:
+    static void controlLost(ArvDevice *, std::atomic<bool> *isLost) { *isLost = true; }
+
+    const DevicePointer m_device;
+    std::atomic<bool> m_isLost{false}; ///< written by the thread of Aravis
+    gulong m_lost = 0;
+};
+
+class GigeLink final : public AravisLink
+{
+public:
+    GigeLink(DevicePointer device, std::uint32_t adapter, const Endpoint &endpoint, bool isReadOnly,
+             std::string unpacked)
+        : AravisLink(std::move(device))
+        , m_client(adapter, endpoint)
+        , m_isReadOnly(isReadOnly)
+        , m_unpacked(std::move(unpacked))
+    {
+    }
+
+    std::string description() override { return m_unpacked.empty() ? AravisLink::description() : m_unpacked; }
+    bool isReadOnly() const override { return m_isReadOnly; }
+    void read(void *buffer, std::uint64_t address, std::uint32_t length) override;
+    void write(const void *buffer, std::uint64_t address, std::uint32_t length) override;
+
+    /** Asks for the privilege itself: Aravis notices a loss after six to eight seconds. */
+    bool isAlive() override
+    {
+        const std::optional<std::vector<std::uint32_t>> privilege = m_client.readRegisters({Gvcp::ControlPrivilege});
+        if (!privilege || privilege->front() == 0)
+            return false; // gone, restarted, or free for this program by now
+        return m_isReadOnly || (AravisLink::isAlive() && arv_gv_device_is_controller(ARV_GV_DEVICE(device())));
+    }
+
+private:
+    /** Addresses and lengths on the wire are multiples of 4. */
+    struct Span
+    {
+        Span(std::uint64_t address, std::uint32_t length)
+            : begin(address & ~std::uint64_t(3))
+            , offset(std::uint32_t(address - begin))
+            , bytes((offset + length + 3) / 4 * 4)
+        {
+        }
+
+        const std::uint64_t begin;
+        const std::uint32_t offset;
+        std::vector<std::uint8_t> bytes;
+    };
+
+    void read(Span &span) const;
+
+    GvcpClient m_client;
+    const bool m_isReadOnly;
+    const std::string m_unpacked; ///< the description, if the camera has it in an archive
+};
+
+void GigeLink::read(Span &span) const
+{
+    if (span.bytes.size() != 4)
+        return readMemory(span.begin, std::uint32_t(span.bytes.size()), span.bytes.data());
+    // Not all cameras give single registers as memory.
+    Failure failure;
+    guint32 value = 0;
+    arv_device_read_register(device(), span.begin, &value, &failure.error);
+    failure.check();
+    value = g_htonl(value);
+    std::memcpy(span.bytes.data(), &value, 4);
+}
+
+void GigeLink::read(void *buffer, std::uint64_t address, std::uint32_t length)
+{
+    checkLength(length);
+    Span span(address, length);
+    read(span);
+    std::memcpy(buffer, span.bytes.data() + span.offset, length);
+}
+
+void GigeLink::write(const void *buffer, std::uint64_t address, std::uint32_t length)
+{
+    checkLength(length);
+    Span span(address, length);
+    if (span.bytes.size() != length)
+        read(span); // the bytes around it stay
+    std::memcpy(span.bytes.data() + span.offset, buffer, length);
+    if (span.bytes.size() != 4)
+        return writeMemory(span.begin, std::uint32_t(span.bytes.size()), span.bytes.data());
+    Failure failure;
+    guint32 value = 0;
+    std::memcpy(&value, span.bytes.data(), 4);
+    arv_device_write_register(device(), span.begin, g_ntohl(value), &failure.error);
+    failure.check();
+}
+
+class UsbLink final : public AravisLink
+{
+public:
+    using AravisLink::AravisLink;
+
+    void read(void *buffer, std::uint64_t address, std::uint32_t length) override
+    {
+        checkLength(length);
+        readMemory(address, length, buffer);
+    }
+    void write(const void *buffer, std::uint64_t address, std::uint32_t length) override
+    {
+        checkLength(length);
+        writeMemory(address, length, buffer);
+    }
+
+    bool isAlive() override
+    {
+        if (!AravisLink::isAlive())
+            return false;
+        std::uint32_t version = 0; // the first register of every camera
+        try {
+            readMemory(0, sizeof version, &version);
+        } catch (const LinkError &) {
+            return false;
+        }
+        return true;
+    }
+};
+
+/** \a bytes up to the first zero. */
+std::string textIn(const Gvcp::Packet &bytes)
+{
+    return std::string(bytes.begin(), std::find(bytes.begin(), bytes.end(), 0));
+}
+
+[[noreturn]] void throwSilent()
+{
+    throw LinkError(LinkError::Kind::Silent, "The camera does not answer");
+}
+
+/** Whether another program controls the camera. Throws if it allows nobody else to read. */
+bool isTaken(GvcpClient &client)
+{
+    const std::optional<Gvcp::Acknowledge> answer =
+        client.request(Gvcp::readRegisters(client.nextId(), {Gvcp::ControlPrivilege}));
+    if (!answer)
+        throwSilent();
+    const std::optional<std::vector<std::uint32_t>> privilege = Gvcp::registersIn(answer->payload, 1);
+    const bool isRefused = answer->status != Gvcp::Status::Success || !privilege;
+    if (!isRefused && (privilege->front() & Gvcp::ExclusiveAccess) == 0)
+        return privilege->front() != 0;
+    const std::optional<std::vector<std::uint32_t>> controller = client.readRegisters({Gvcp::ControllerAddress});
+    const std::string who = controller && controller->front() != 0 ? " at " + dotted(controller->front()) : "";
+    throw LinkError(LinkError::Kind::Denied, "Another program" + who + " has taken the camera");
+}
+
+/** Makes sure that the description is in the camera. Gives its text if it is in an archive. */
+std::string checkDescription(GvcpClient &client)
+{
+    const std::optional<Gvcp::Packet> url = client.readMemory(Gvcp::FirstUrl, Gvcp::urlLength);
+    if (!url)
+        throwSilent();
+    const std::optional<Gvcp::DescriptionFile> file = Gvcp::localFileIn(textIn(*url));
+    if (!file)
+        throw LinkError(LinkError::Kind::Failed,
+                        "The description is not in the camera and is not fetched from elsewhere: \"" + textIn(*url)
+                            + '"');
+    if (!file->isArchive())
+        return {};
+    const std::optional<Gvcp::Packet> archive = client.readMemory(file->address, file->length);
+    if (!archive)
+        throwSilent();
+    return OrvGenApi::descriptionInZip(std::string(archive->begin(), archive->end()), file->name);
+}
+
+std::unique_ptr<GInetAddress, Unref> toAravis(std::uint32_t address)
+{
+    const guint32 bytes = g_htonl(address);
+    return std::unique_ptr<GInetAddress, Unref>(
+        g_inet_address_new_from_bytes(reinterpret_cast<const guint8 *>(&bytes), G_SOCKET_FAMILY_IPV4));
+}
+
+std::string textOf(const char *text)
+{
+    return text ? text : "";
+}
+
+} // namespace
+
+std::unique_ptr<CameraLink> openGigeCamera(std::uint32_t adapter, const Endpoint &device)
+{
+    GvcpClient client(adapter, device);
+    const bool isReadOnly = isTaken(client);
+    std::string unpacked = checkDescription(client);
+    Failure failure;
+    const std::lock_guard<std::mutex> lock(openingMutex());
+    DevicePointer opened(
+        arv_gv_device_new(toAravis(adapter).get(), toAravis(device.address).get(), &failure.error));
+    if (!opened) {
+        failure.check();
+        throw LinkError(LinkError::Kind::Failed, failure.text());
+    }
+    if (!isReadOnly && !arv_gv_device_is_controller(ARV_GV_DEVICE(opened.get())))
+        throw LinkError(LinkError::Kind::Denied, "Another program has taken the camera");
+    return std::make_unique<GigeLink>(std::move(opened), adapter, device, isReadOnly, std::move(unpacked));
+}
+
+std::vector<UsbCamera> usbCameras()
+{
+    ArvInterface *const usb = arv_uv_interface_get_instance();
+    arv_interface_update_device_list(usb);
+    std::vector<UsbCamera> cameras;
+    for (unsigned i = 0; i < arv_interface_get_n_devices(usb); ++i)
+        cameras.push_back({textOf(arv_interface_get_device_id(usb, i)), textOf(arv_interface_get_device_vendor(usb, i)),
+                           textOf(arv_interface_get_device_model(usb, i)),
+                           textOf(arv_interface_get_device_serial_nbr(usb, i))});
+    return cameras;
+}
+
+std::unique_ptr<CameraLink> openUsbCamera(const std::string &id)
+{
+    Failure failure;
+    const std::lock_guard<std::mutex> lock(openingMutex());
+    DevicePointer opened(arv_interface_open_device(arv_uv_interface_get_instance(), id.c_str(), &failure.error));
+    if (!opened)
+        throw LinkError(LinkError::Kind::Failed,
+                        "The camera cannot be opened: " + failure.text()
+                            + ". A udev rule gives the permission to use it");
+    return std::make_unique<UsbLink>(std::move(opened));
+}
+
+} // namespace OrvCameraApi

@@ -1,0 +1,198 @@
+#include "gigeinterface.h"
+
+#include "remoteconnection.h"
+
+#include <OrvGenApi/nodemap.h>
+
+#include <cstdio>
+#include <tuple>
+#include <utility>
+
+namespace OrvCameraApi {
+
+namespace {
+
+std::string textOfMac(std::uint64_t mac)
+{
+    char text[18];
+    std::snprintf(text, sizeof text, "%02X:%02X:%02X:%02X:%02X:%02X", unsigned(mac >> 40 & 0xFF),
+                  unsigned(mac >> 32 & 0xFF), unsigned(mac >> 24 & 0xFF), unsigned(mac >> 16 & 0xFF),
+                  unsigned(mac >> 8 & 0xFF), unsigned(mac & 0xFF));
+    return text;
+}
+
+DeviceTexts textsOf(const Gvcp::DeviceRecord &record)
+{
+    DeviceTexts texts;
+    texts.id = textOfMac(record.mac);
+    texts.vendor = record.manufacturer;
+    texts.model = record.model;
+    texts.displayName = record.model + " (" + (record.serialNumber.empty() ? *texts.id : record.serialNumber) + ')';
+    texts.userDefinedName = record.userDefinedName;
+    texts.serialNumber = record.serialNumber;
+    texts.version = record.version;
+    return texts;
+}
+
+bool operator==(const DeviceTexts &left, const DeviceTexts &right)
+{
+    const auto all = [](const DeviceTexts &texts) {
+        return std::tie(texts.id, texts.vendor, texts.model, texts.userDefinedName, texts.serialNumber, texts.version);
+    };
+    return all(left) == all(right);
+}
+
+} // namespace
+
+/** A camera that discovery has found. It has one link, however many applications of this process open it. */
+class GigeDevice final : public BackendDevice
+{
+public:
+    GigeDevice(const Gvcp::DeviceRecord &record, std::shared_ptr<GigeDiscovery> discovery,
+               const GigeInterface::Options &options)
+        : m_mac(record.mac)
+        , m_texts(textsOf(record))
+        , m_discovery(std::move(discovery))
+        , m_options(options)
+    {
+    }
+
+    std::uint64_t mac() const { return m_mac; }
+    const DeviceTexts &texts() const override { return m_texts; }
+    std::int32_t accessStatus() const override;
+    OrvCamErr readIpConfiguration(IpConfiguration &configuration) const override;
+    OrvCamErr forceIp(const IpConfiguration &configuration) override
+    {
+        return m_discovery->forceIp(m_mac, configuration);
+    }
+    std::unique_ptr<Connection> open(std::int32_t accessMode, OrvCamErr &err) override;
+
+private:
+    std::shared_ptr<OpenRemoteCamera> openHere() const;
+
+    const std::uint64_t m_mac;
+    const DeviceTexts m_texts;
+    const std::shared_ptr<GigeDiscovery> m_discovery;
+    const GigeInterface::Options m_options;
+
+    mutable std::mutex m_mutex;
+    std::weak_ptr<OpenRemoteCamera> m_open;
+};
+
+std::shared_ptr<OpenRemoteCamera> GigeDevice::openHere() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_open.lock();
+}
+
+/** Discovery cannot tell this process from others that control the camera. */
+std::int32_t GigeDevice::accessStatus() const
+{
+    if (const std::shared_ptr<OpenRemoteCamera> open = openHere()) {
+        if (open->camera().GetAccessMode() == GenApi::RW)
+            return OrvCam::AccessStatusReadWrite;
+    }
+    const std::optional<FoundDevice> found = m_discovery->find(m_mac);
+    return found ? found->accessStatus : std::int32_t(OrvCam::AccessStatusNoAccess);
+}
+
+OrvCamErr GigeDevice::readIpConfiguration(IpConfiguration &configuration) const
+{
+    const std::optional<FoundDevice> found = m_discovery->find(m_mac);
+    if (!found)
+        return OrvCamErr_NoDevice;
+    configuration = found->record.ip;
+    return OrvCamErr_Ok;
+}
+
+/** The address is looked up again at each attempt: a camera may come back with another one. */
+std::unique_ptr<Connection> GigeDevice::open(std::int32_t, OrvCamErr &err)
+{
+    const std::int32_t status = accessStatus();
+    const bool isThere = m_discovery->find(m_mac).has_value();
+    err = OrvCamErr_Ok;
+    if (!isThere || status == OrvCam::AccessStatusIpSubnetMismatch)
+        err = OrvCamErr_NoDevice;
+    else if (status == OrvCam::AccessStatusNoAccess)
+        err = OrvCamErr_InvalidState;
+    if (err != OrvCamErr_Ok)
+        return nullptr;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    std::shared_ptr<OpenRemoteCamera> open = m_open.lock();
+    if (!open) {
+        const auto openLink = [mac = m_mac, discovery = m_discovery, link = m_options.open] {
+            const std::optional<FoundDevice> found = discovery->find(mac);
+            if (!found)
+                throw LinkError(LinkError::Kind::Silent, "The camera is not on the network");
+            return link(discovery->adapter().address, found->endpoint);
+        };
+        open = std::make_shared<OpenRemoteCamera>(openLink, m_options.patience);
+        m_open = open;
+    }
+    return std::make_unique<RemoteConnection>(std::move(open));
+}
+
+GigeInterface::GigeInterface(const std::string &id, const NetAdapter &adapter, const Options &options)
+    : m_texts{id, "Network adapter " + adapter.name + " (" + dotted(adapter.address) + ')', "1.0.0"}
+    , m_options(options)
+    , m_discovery(std::make_shared<GigeDiscovery>(adapter, options.discovery))
+    , m_port({adapter.mac, {adapter.address, adapter.mask, 0}}, [this] { return numbersOfDevices(); })
+{
+}
+
+GigeInterface::~GigeInterface() = default;
+
+std::shared_ptr<GenApi::INodeMap> GigeInterface::makeNodeMap()
+{
+    std::shared_ptr<OrvGenApi::NodeMap> map = OrvGenApi::NodeMap::fromString(interfaceDescription(type()));
+    map->connect(&m_port);
+    return map;
+}
+
+/** The devices now. One whose texts have changed is another object, because texts never change. */
+GigeInterface::Known GigeInterface::known() const
+{
+    Known devices;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    for (const FoundDevice &found : m_discovery->devices()) {
+        std::weak_ptr<GigeDevice> &weak = m_devices[found.record.mac];
+        std::shared_ptr<GigeDevice> device = weak.lock();
+        if (!device || !(device->texts() == textsOf(found.record))) {
+            device = std::make_shared<GigeDevice>(found.record, m_discovery, m_options);
+            weak = device;
+        }
+        devices.push_back(std::move(device));
+    }
+    return devices;
+}
+
+std::optional<BackendInterface::Devices> GigeInterface::devices() const
+{
+    const Known devices = known();
+    return Devices(devices.begin(), devices.end());
+}
+
+OrvCamErr GigeInterface::reEnumerate(bool &changed, std::uint32_t)
+{
+    m_discovery->lookNow();
+    Devices seen = *devices();
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    changed = seen != m_lastSeen;
+    m_lastSeen = std::move(seen);
+    return OrvCamErr_Ok;
+}
+
+std::vector<DeviceNumbers> GigeInterface::numbersOfDevices() const
+{
+    std::vector<DeviceNumbers> numbers;
+    for (const std::shared_ptr<GigeDevice> &device : known()) {
+        DeviceNumbers of;
+        of.mac = device->mac();
+        device->readIpConfiguration(of.ip);
+        of.accessStatus = device->accessStatus();
+        numbers.push_back(of);
+    }
+    return numbers;
+}
+
+} // namespace OrvCameraApi

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "backend.h"
+#include "gigediscovery.h"
+#include "interfaceport.h"
+#include "remotecamera.h"
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <vector>
+
+namespace OrvCameraApi {
+
+class GigeDevice;
+
+/** A network adapter with the GigE Vision devices that its discovery has found. */
+class GigeInterface final : public BackendInterface
+{
+public:
+    /** Opens the device that answers there through the adapter of that address. Throws LinkError. */
+    using OpenLink = std::function<std::unique_ptr<CameraLink>(std::uint32_t adapter, const Endpoint &device)>;
+
+    struct Options
+    {
+        GigeDiscovery::Options discovery;
+        RemoteCamera::Patience patience;
+        OpenLink open;
+    };
+
+    /** \a id tells it from the other interfaces. */
+    GigeInterface(const std::string &id, const NetAdapter &adapter, const Options &options);
+    ~GigeInterface() override;
+
+    const InterfaceTexts &texts() const override { return m_texts; }
+    std::int32_t type() const override { return OrvCam::InterfaceTypeGigEVision; }
+    std::shared_ptr<GenApi::INodeMap> makeNodeMap() override;
+    bool isConnected() const override { return true; }
+    std::optional<Devices> devices() const override;
+
+    /** Does not wait: devices that are found later are in later lists. */
+    OrvCamErr reEnumerate(bool &changed, std::uint32_t timeout) override;
+
+private:
+    using Known = std::vector<std::shared_ptr<GigeDevice>>;
+
+    std::vector<DeviceNumbers> numbersOfDevices() const;
+    Known known() const;
+
+    const InterfaceTexts m_texts;
+    const Options m_options;
+    const std::shared_ptr<GigeDiscovery> m_discovery; ///< shared with devices, which outlive this object
+    InterfacePort m_port;
+
+    mutable std::mutex m_mutex;
+    mutable std::map<std::uint64_t, std::weak_ptr<GigeDevice>> m_devices; ///< by MAC address
+    Devices m_lastSeen; ///< in the last enumeration
+};
+
+} // namespace OrvCameraApi
