@@ -1,7 +1,10 @@
 #include "cameradialog.h"
 
 #include "camerasource.h"
+#include "openingdialog.h"
 #include "plugmenu.h"
+
+#include <OrvCameraApi/transports.h>
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -13,6 +16,8 @@
 CameraDialog::CameraDialog(OrvCam::System *system, QWidget *parent)
     : OrvCameraSelectorDialog(system, parent, true)
 {
+    if (OrvTransports::used() == OrvTransports::Cameras::Real)
+        return;
     // In the dialog itself: it is modal, so that no menu of another window could be reached.
     auto *const bar = new QMenuBar(this);
     bar->addMenu(new PlugMenu(this))->setText(tr("&Simulation"));
@@ -41,7 +46,11 @@ std::unique_ptr<CameraSource> chooseCamera(QWidget *parent)
         if (dialog.exec() != QDialog::Accepted)
             return nullptr;
         try {
-            return openCamera(system, dialog.selectedCamera());
+            const auto wait = [parent](OrvCam::Device &device, const QString &name) {
+                return OpeningDialog::waitFor(device, name, parent);
+            };
+            if (std::unique_ptr<CameraSource> camera = openCamera(system, dialog.selectedCamera(), wait))
+                return camera;
         } catch (const CameraSourceError &e) {
             QMessageBox::warning(parent, QApplication::applicationDisplayName(), e.message);
         }

@@ -5,11 +5,14 @@
 
 #include <Base/GCException.h>
 #include <OrvGenApi/memoryport.h>
+#include <OrvCameraApi/transports.h>
 #include <OrvGenApi/nodemap.h>
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QStringList>
+#include <QThread>
 
 #include <algorithm>
 #include <exception>
@@ -72,11 +75,29 @@ public:
     {
         OrvCamErr error = OrvCamErr_Ok;
         m_device.reset(OrvCam_CreateDevice(info, OrvCam::DeviceAccessControl, &error));
-        OrvGenParam::Array *parameters = m_device ? m_device->GetCameraParameters(&error) : nullptr;
+        if (!m_device)
+            failToOpen(QLatin1String(orvCamErrDescription(error)));
+    }
+
+    /** False if \a wait has given the features up. Throws if there will be none. */
+    bool awaitFeatures(const WaitForFeatures &wait)
+    {
+        OrvCamErr error = OrvCamErr_Ok;
+        OrvGenParam::Array *parameters = m_device->GetCameraParameters(&error);
+        const bool isOnItsWay = OrvTransports::progressOf(*m_device).step != OrvTransports::Step::Connected;
+        if (!parameters && isOnItsWay && !wait(*m_device, m_name))
+            return false;
+        if (!parameters)
+            parameters = m_device->GetCameraParameters(&error);
         m_nodeMap = parameters ? parameters->GetNodeMap() : nullptr;
-        if (!m_nodeMap) {
-            fail(Text::tr("Cannot open the camera '%1': %2.").arg(m_id, QLatin1String(orvCamErrDescription(error))));
-        }
+        if (!m_nodeMap)
+            failToOpen(QLatin1String(orvCamErrDescription(error)));
+        return true;
+    }
+
+    [[noreturn]] void failToOpen(const QString &why) const
+    {
+        fail(Text::tr("Cannot open the camera '%1': %2.").arg(m_id, why));
     }
 
     OrvCam::Device *device() const override { return m_device.get(); }
@@ -124,6 +145,23 @@ QStringList idsOf(const std::vector<OrvCam::DeviceInfo *> &devices)
     return ids;
 }
 
+constexpr int openingTime = 10000; // milliseconds
+constexpr int lookingTime = 3000; // milliseconds
+
+/** Tries \a attempt again and again for that long. */
+template <typename Attempt>
+bool tryFor(int milliseconds, const Attempt &attempt)
+{
+    QElapsedTimer clock;
+    clock.start();
+    bool isDone = attempt();
+    while (!isDone && clock.elapsed() < milliseconds) {
+        QThread::msleep(20);
+        isDone = attempt();
+    }
+    return isDone;
+}
+
 bool isSelectable(OrvCam::DeviceInfo *info)
 {
     const std::int32_t status = info->GetAccessStatus();
@@ -151,21 +189,38 @@ std::shared_ptr<OrvCam::System> cameraSystem()
     return {system, Releaser()};
 }
 
-std::unique_ptr<CameraSource> openCamera(const std::shared_ptr<OrvCam::System> &system, OrvCam::DeviceInfo *info)
+std::unique_ptr<CameraSource> openCamera(const std::shared_ptr<OrvCam::System> &system, OrvCam::DeviceInfo *info,
+                                         const WaitForFeatures &wait)
 {
     if (!info)
         fail(Text::tr("There is no camera that can be opened."));
-    return std::make_unique<Camera>(system, info);
+    auto camera = std::make_unique<Camera>(system, info);
+    if (!camera->awaitFeatures(wait))
+        return nullptr;
+    return camera;
 }
 
 std::unique_ptr<CameraSource> openCamera(const QString &id)
 {
     const std::shared_ptr<OrvCam::System> system = cameraSystem();
-    const std::vector<OrvCam::DeviceInfo *> devices = allDevices(*system);
-    const auto found = std::find_if(devices.begin(), devices.end(), [&id](OrvCam::DeviceInfo *info) {
-        return id.isEmpty() ? isSelectable(info) : QString::fromLatin1(info->GetID()) == id;
-    });
-    if (found == devices.end() && !id.isEmpty())
+    std::vector<OrvCam::DeviceInfo *> devices;
+    OrvCam::DeviceInfo *wanted = nullptr;
+    const auto find = [&] {
+        devices = allDevices(*system);
+        const auto found = std::find_if(devices.begin(), devices.end(), [&id](OrvCam::DeviceInfo *info) {
+            return id.isEmpty() ? isSelectable(info) : QString::fromLatin1(info->GetID()) == id;
+        });
+        wanted = found == devices.end() ? nullptr : *found;
+        return wanted != nullptr;
+    };
+    // Real cameras are found a moment after somebody has begun to look.
+    tryFor(OrvTransports::used() == OrvTransports::Cameras::Simulated ? 0 : lookingTime, find);
+    if (!wanted && !id.isEmpty())
         fail(Text::tr("There is no camera '%1'; there are: %2.").arg(id, idsOf(devices).join(QLatin1String(", "))));
-    return openCamera(system, found == devices.end() ? nullptr : *found);
+    return openCamera(system, wanted, [](OrvCam::Device &device, const QString &name) {
+        if (!tryFor(openingTime, [&device] { return device.GetCameraParameters(nullptr) != nullptr; }))
+            fail(Text::tr("Cannot open the camera '%1': %2.")
+                     .arg(name, QString::fromStdString(OrvTransports::progressOf(device).failure)));
+        return true;
+    });
 }

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 namespace OrvCam {
@@ -45,12 +46,19 @@ std::unique_ptr<CameraSource> openDescription(const QString &path);
 
 /**
  * The camera of the process's camera system with the identifier \a id, opened; for an empty one the first camera whose
- * access status allows it. Throws a CameraSourceError.
+ * access status allows it. Waits for a real camera. Throws a CameraSourceError.
  */
 std::unique_ptr<CameraSource> openCamera(const QString &id);
 
 /** The process's camera system, never null. Throws a CameraSourceError. */
 std::shared_ptr<OrvCam::System> cameraSystem();
 
-/** The camera of that system that \a info describes, opened; null describes none. Throws a CameraSourceError. */
-std::unique_ptr<CameraSource> openCamera(const std::shared_ptr<OrvCam::System> &system, OrvCam::DeviceInfo *info);
+/** Waits until the features of \a device, whose name is given, can be had; false gives it up. */
+using WaitForFeatures = std::function<bool(OrvCam::Device &device, const QString &name)>;
+
+/**
+ * The camera of that system that \a info describes, opened; null describes none. Null if \a wait gives it up. Throws a
+ * CameraSourceError.
+ */
+std::unique_ptr<CameraSource> openCamera(const std::shared_ptr<OrvCam::System> &system, OrvCam::DeviceInfo *info,
+                                         const WaitForFeatures &wait);

@@ -11,7 +11,9 @@
 #include <OrvCameraGuiApi/windows/fitscreen.h>
 
 #include <GenApi/GenApi.h>
+#include <OrvCameraApi/transports.h>
 
+#include <QActionGroup>
 #include <QApplication>
 #include <QFile>
 #include <QFileDialog>
@@ -34,6 +36,8 @@
 // The type of what the view's model answers to Qt::UserRole.
 Q_DECLARE_METATYPE(GenApi::IValue *)
 
+using OrvTransports::Cameras;
+
 namespace {
 
 constexpr int defaultPollingTime = 200; // milliseconds
@@ -44,6 +48,7 @@ const QLatin1String geometryKey("window/geometry");
 const QLatin1String toolsKey("window/tools");
 const QLatin1String pageKey("window/page");
 const QLatin1String treesGroup("trees");
+const QLatin1String camerasKey("cameras");
 const QLatin1String pollsKey("polling/enabled");
 const QLatin1String intervalKey("polling/interval");
 
@@ -150,11 +155,32 @@ void ExplorerWindow::createFileMenu()
                                                  &ExplorerWindow::chooseDescription, QKeySequence::Open);
     setTip(*description, tr("Show a GenICam description"));
     m_tools->addActions({camera, description});
+    createCamerasMenu(*file);
     file->addSeparator();
     file->addAction(tr("&Save View State..."), this, &ExplorerWindow::chooseStateToSave, QKeySequence::Save);
     file->addAction(tr("&Load View State..."), this, &ExplorerWindow::chooseStateToLoad);
     file->addSeparator();
     file->addAction(tr("&Quit"), qApp, &QApplication::quit, QKeySequence::Quit);
+}
+
+/** Which cameras are offered from now on; the one that is shown stays. */
+void ExplorerWindow::createCamerasMenu(QMenu &file)
+{
+    QMenu *const menu = file.addMenu(tr("&Cameras"));
+    auto *const group = new QActionGroup(menu);
+    const std::pair<Cameras, QString> choices[] = {
+        {Cameras::Simulated, tr("&Simulated")}, {Cameras::Real, tr("&Real")}, {Cameras::Both, tr("&Both")}};
+    for (const auto &[cameras, text] : choices) {
+        QAction *const action = group->addAction(text);
+        action->setCheckable(true);
+        action->setChecked(OrvTransports::used() == cameras);
+        action->setEnabled(cameras == Cameras::Simulated || OrvTransports::canReachRealCameras());
+        connect(action, &QAction::triggered, this, [this, cameras = cameras] {
+            OrvTransports::use(cameras);
+            m_chosenCameras = cameras;
+        });
+    }
+    menu->addActions(group->actions());
 }
 
 void ExplorerWindow::createViewMenu()
@@ -362,6 +388,8 @@ void ExplorerWindow::saveSettings(QSettings &settings) const
     settings.setValue(geometryKey, saveGeometry());
     settings.setValue(toolsKey, saveState());
     settings.setValue(pageKey, m_pages->currentIndex());
+    if (m_chosenCameras)
+        settings.setValue(camerasKey, int(*m_chosenCameras));
     settings.setValue(pollsKey, m_polling->isChecked());
     settings.setValue(intervalKey, int(m_view->getPollingTime()));
     m_configure->saveSettings(settings);
@@ -371,6 +399,15 @@ void ExplorerWindow::saveSettings(QSettings &settings) const
     for (auto tree = trees.cbegin(); tree != trees.cend(); ++tree)
         settings.setValue(QString::fromLatin1(QUrl::toPercentEncoding(tree.key())), tree.value());
     settings.endGroup();
+}
+
+void ExplorerWindow::restoreCameras(const QSettings &settings)
+{
+    const int saved = settings.value(camerasKey, -1).toInt();
+    if (saved < 0 || saved > int(Cameras::Both) || qEnvironmentVariableIsSet("ORV_CAMERAS"))
+        return;
+    if (Cameras(saved) == Cameras::Simulated || OrvTransports::canReachRealCameras())
+        OrvTransports::use(Cameras(saved));
 }
 
 /** Missing settings change nothing. The user may have edited the file, so every value is checked. */

@@ -1,15 +1,19 @@
 #pragma once
 
+#include <OrvCameraApi/transports.h>
+
 #include <QHash>
 #include <QMainWindow>
 #include <QSize>
 
 #include <memory>
+#include <optional>
 
 class CameraSource;
 class CameraWatch;
 class ConfigureMenu;
 class QLabel;
+class QMenu;
 class QModelIndex;
 class QSettings;
 class QTabWidget;
@@ -51,6 +55,9 @@ public:
     void saveSettings(QSettings &settings) const;
     void restoreSettings(QSettings &settings);
 
+    /** Chooses simulated or real cameras as in the last run, unless the environment chooses. */
+    static void restoreCameras(const QSettings &settings);
+
     /** The names of the pages, not translated, in their order; the first is shown at first. */
     QStringList pageNames() const;
     void showPage(const QString &name);
@@ -65,6 +72,7 @@ private:
     void createPages();
     void createStatusBar();
     void createFileMenu();
+    void createCamerasMenu(QMenu &file);
     void createViewMenu();
     void createConfigureMenu();
     void createSimulationMenu();
@@ -95,6 +103,7 @@ private:
     QToolBar *const m_tools;
     ConfigureMenu *const m_configure;
     SimulationMenu *const m_simulation;
+    std::optional<OrvTransports::Cameras> m_chosenCameras; ///< in the menu
     QAction *m_polling = nullptr;
     QLabel *const m_connectionIcon;
     QLabel *const m_connectionLabel;

@@ -91,8 +91,12 @@ int runWindow(int argc, char **argv, const Options &options, std::unique_ptr<Cam
     speak(options.language);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/explorer/explorer.png")));
 
-    if (!source)
+    if (!source) {
+        const QSettings settings(QStringLiteral("OrvCameraGuiApi"), QCoreApplication::applicationName());
+        if (!options.cameras)
+            ExplorerWindow::restoreCameras(settings);
         source = chooseCamera();
+    }
     if (!source)
         return 0;
     ExplorerWindow window(std::move(source));
@@ -112,6 +116,8 @@ int main(int argc, char **argv)
         return print(options.text);
     if (options.action == Options::Action::ShowWindow && !hasDisplay())
         return fail(Text::tr("There is no display; '--screenshot DIR' draws the window into a file."));
+    if (options.cameras)
+        OrvTransports::use(*options.cameras, options.discovery);
     try {
         return runWindow(argc, argv, options, sourceOf(options));
     } catch (const CameraSourceError &e) {

@@ -5,6 +5,8 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
+#include <arpa/inet.h>
+
 namespace {
 
 struct Text
@@ -26,13 +28,23 @@ QString misuse(const QCommandLineParser &parser)
 {
     if (!parser.positionalArguments().isEmpty())
         return Text::tr("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst());
-    for (const char *name : {"xml", "camera", "screenshot", "language"}) {
+    for (const char *name : {"xml", "camera", "adapter", "address", "screenshot", "language"}) {
         const QString option = QLatin1String(name);
         if (parser.isSet(option) && parser.value(option).isEmpty())
             return Text::tr("Empty value after '--%1'.").arg(option);
     }
     if (parser.isSet(QStringLiteral("xml")) && parser.isSet(QStringLiteral("camera")))
         return Text::tr("'--xml' and '--camera' exclude each other.");
+    const bool restricts = parser.isSet(QStringLiteral("adapter")) || parser.isSet(QStringLiteral("address"));
+    if (restricts && !parser.isSet(QStringLiteral("real")))
+        return Text::tr("'--adapter' and '--address' need '--real'.");
+    for (const QString &address : parser.values(QStringLiteral("address"))) {
+        in_addr parsed{};
+        if (::inet_pton(AF_INET, qPrintable(address), &parsed) != 1)
+            return Text::tr("'%1' is no IPv4 address.").arg(address);
+    }
+    if (parser.isSet(QStringLiteral("real")) && !OrvTransports::canReachRealCameras())
+        return Text::tr("This program was built without real cameras.");
     const QString language = parser.value(QStringLiteral("language"));
     if (!language.isEmpty() && !languages().contains(language))
         return Text::tr("There is no language '%1'; there are: %2.")
@@ -53,6 +65,13 @@ Options parseOptions(const QStringList &arguments)
     const QCommandLineOption camera(QStringLiteral("camera"),
                                     Text::tr("Open the camera with the identifier ID instead of asking for one."),
                                     Text::tr("ID"));
+    const QCommandLineOption real(QStringLiteral("real"),
+                                  Text::tr("Show the cameras on the network and on USB instead of simulated ones."));
+    const QCommandLineOption adapter(QStringLiteral("adapter"),
+                                     Text::tr("Look for cameras on the network adapter NAME only."), Text::tr("NAME"));
+    const QCommandLineOption address(QStringLiteral("address"),
+                                     Text::tr("Ask the camera at the address IP only, without a broadcast."),
+                                     Text::tr("IP"));
     const QCommandLineOption screenshot(
         QStringLiteral("screenshot"),
         Text::tr("Draw the windows into PNG files in the directory DIR and end; needs no display."), Text::tr("DIR"));
@@ -61,7 +80,7 @@ Options parseOptions(const QStringList &arguments)
         Text::tr("Show the windows in the language LANGUAGE (%1) instead of the system's.")
             .arg(languages().join(QLatin1String(", "))),
         Text::tr("LANGUAGE"));
-    parser.addOptions({help, version, xml, camera, screenshot, language});
+    parser.addOptions({help, version, xml, camera, real, adapter, address, screenshot, language});
 
     const bool understood = parser.parse(arguments);
     if (understood && parser.isSet(help))
@@ -79,6 +98,12 @@ Options parseOptions(const QStringList &arguments)
         options.action = Options::Action::SaveScreenshot;
     options.xmlFile = parser.value(xml);
     options.cameraId = parser.value(camera);
+    if (parser.isSet(real))
+        options.cameras = OrvTransports::Cameras::Real;
+    for (const QString &name : parser.values(adapter))
+        options.discovery.adapters.push_back(name.toStdString());
+    for (const QString &ip : parser.values(address))
+        options.discovery.addresses.push_back(ip.toStdString());
     options.screenshotDir = parser.value(screenshot);
     options.language = parser.value(language);
     return options;

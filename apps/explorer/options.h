@@ -1,7 +1,11 @@
 #pragma once
 
+#include <OrvCameraApi/transports.h>
+
 #include <QString>
 #include <QStringList>
+
+#include <optional>
 
 /** The options of the command line. */
 struct Options
@@ -16,6 +20,8 @@ struct Options
     Action action = Action::ShowWindow;
     QString xmlFile; ///< description to show instead of a camera; empty: a camera
     QString cameraId; ///< identifier of the camera to open; empty: ask, for a screenshot the first that can be opened
+    std::optional<OrvTransports::Cameras> cameras; ///< none: as the settings or the environment say
+    OrvTransports::Discovery discovery; ///< for them
     QString screenshotDir; ///< where SaveScreenshot writes
     QString language; ///< of the windows; empty: the one of the system
     QString text; ///< what PrintText prints; for Fail one line that says why

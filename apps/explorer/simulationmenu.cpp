@@ -34,9 +34,9 @@ SimulationMenu::SimulationMenu(QWidget *parent)
 
 void SimulationMenu::setCamera(const QString &id, GenApi::INodeMap *nodeMap)
 {
-    m_camera = id;
+    m_camera = OrvSim::isPluggedIn(id.toStdString()) ? id : QString(); // a real camera has no faults to choose
     m_drifts->setChecked(false);
-    m_drift->setCamera(id.toStdString(), nodeMap);
+    m_drift->setCamera(m_camera.toStdString(), nodeMap);
     update();
 }
 

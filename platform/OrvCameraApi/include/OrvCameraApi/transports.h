@@ -35,10 +35,15 @@ struct Discovery
 /** Whether this library was built with the means to reach real cameras. Without them there are none. */
 ORV_CAMERAAPI_EXPORT bool canReachRealCameras();
 
-/** From the next system on; one that exists stays as it is. */
-ORV_CAMERAAPI_EXPORT void use(Cameras cameras, const Discovery &discovery = {});
+/**
+ * From the next call of OrvCam_GetSystem() on, also for a system that exists. Devices that are open stay open.
+ */
+ORV_CAMERAAPI_EXPORT void use(Cameras cameras);
 
-/** What the next system consists of. */
+/** The same, and from now on real cameras are looked for only there. */
+ORV_CAMERAAPI_EXPORT void use(Cameras cameras, const Discovery &discovery);
+
+/** The choice that is in force. */
 ORV_CAMERAAPI_EXPORT Cameras used();
 
 /** How far an open device is on its way to its features. */

@@ -27,11 +27,7 @@ bool isInMask(std::int32_t type, std::uint32_t mask)
 
 } // namespace
 
-System::System(std::vector<Backend *> backends)
-    : m_backends(std::move(backends))
-{
-}
-
+System::System() = default;
 System::~System() = default;
 
 System *System::acquire(const std::vector<Backend *> &backends)
@@ -43,7 +39,11 @@ System *System::acquire(const std::vector<Backend *> &backends)
         return nullptr;
     const std::lock_guard<std::mutex> lock(referenceMutex());
     if (!theSystem)
-        theSystem = new System(std::move(available));
+        theSystem = new System;
+    {
+        const std::lock_guard<std::mutex> backendsLock(theSystem->m_mutex);
+        theSystem->m_backends = std::move(available);
+    }
     ++liveCounts().systemReferences;
     return theSystem;
 }
@@ -59,9 +59,14 @@ void System::Release()
 
 OrvCam::InterfaceList *System::GetInterfaceList(std::uint32_t typeMask)
 {
+    std::vector<Backend *> backends;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        backends = m_backends;
+    }
     bool isAnyList = false;
     std::vector<OrvCam::Interface *> listed;
-    for (const Backend *backend : m_backends) {
+    for (const Backend *backend : backends) {
         const std::optional<Backend::Interfaces> interfaces = backend->interfaces();
         if (!interfaces)
             continue;

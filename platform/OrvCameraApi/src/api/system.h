@@ -4,6 +4,7 @@
 #include "interface.h"
 #include "objectlist.h"
 
+#include <mutex>
 #include <vector>
 
 namespace OrvCameraApi {
@@ -13,8 +14,8 @@ class System final : public OrvCam::System
 {
 public:
     /**
-     * Adds a reference to the system. The first reference makes it, of those of \a backends that are available. Null
-     * when none of them is.
+     * Adds a reference to the system. From now on it lists those of \a backends that are available. Null when none of
+     * them is.
      */
     static System *acquire(const std::vector<Backend *> &backends);
 
@@ -22,10 +23,11 @@ public:
     OrvCam::InterfaceList *GetInterfaceList(std::uint32_t typeMask) override;
 
 private:
-    explicit System(std::vector<Backend *> backends);
+    System();
     ~System() override;
 
-    const std::vector<Backend *> m_backends;
+    std::mutex m_mutex;
+    std::vector<Backend *> m_backends;
     ObjectsInUse<Interface, BackendInterface> m_interfaces;
 };
 

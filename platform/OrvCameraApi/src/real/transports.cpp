@@ -100,11 +100,16 @@ bool canReachRealCameras()
 #endif
 }
 
-void use(Cameras cameras, const Discovery &discovery)
+void use(Cameras cameras)
 {
     OrvCameraApi::Choice &choice = OrvCameraApi::choice();
     const std::lock_guard<std::mutex> lock(choice.mutex);
     choice.cameras = cameras;
+}
+
+void use(Cameras cameras, const Discovery &discovery)
+{
+    use(cameras);
     OrvCameraApi::Choice::tell(discovery);
 }
 
