@@ -6,9 +6,11 @@
 packages_build=(
     g++ cmake ninja-build pkg-config
     qtbase5-dev qttools5-dev libpugixml-dev libzip-dev libbenchmark-dev libxcb1-dev
+    libaravis-dev libusb-1.0-0-dev
 )
 # What programs with windows need on a machine that has no desktop: a font, a display for the tests that want one.
-packages_run=(fonts-dejavu-core xvfb xauth)
+# And a program that stands for a GigE Vision camera.
+packages_run=(fonts-dejavu-core xvfb xauth aravis-tools)
 
 say() { printf '%s\n' "$*"; }
 

@@ -54,6 +54,7 @@ if(ORV_STAND_INS)
     install(DIRECTORY platform/GenApi/include/ platform/OrvCameraApi/include/
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT StandIns FILES_MATCHING PATTERN "*.h")
     install(TARGETS genapi_dump RUNTIME COMPONENT StandIns)
+    install(FILES platform/OrvCameraApi/udev/70-orv-usb3vision.rules DESTINATION lib/udev/rules.d COMPONENT StandIns)
     foreach(_orv_module OrvGenApi OrvCameraApi)
         configure_file(cmake/${_orv_module}.pc.in ${_orv_module}.pc @ONLY)
         install(FILES ${PROJECT_BINARY_DIR}/${_orv_module}.pc DESTINATION ${_orv_pkgconfig_dir} COMPONENT StandIns)

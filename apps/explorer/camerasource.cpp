@@ -4,8 +4,8 @@
 #include <OrvCameraGuiApi/camera_api/orvgenparam.h>
 
 #include <Base/GCException.h>
-#include <OrvGenApi/memoryport.h>
 #include <OrvCameraApi/transports.h>
+#include <OrvGenApi/memoryport.h>
 #include <OrvGenApi/nodemap.h>
 
 #include <QCoreApplication>

@@ -265,6 +265,8 @@ void OrvCamConfigPrivate::adopt(OrvCam::Device *newDevice)
 {
     init(newDevice);
     registerCallbacks();
+    // A real camera has its parameters with the connected event, which may have come before the callbacks.
+    awaitsParameters = device && !camera.parameters();
     setDialogsDevice(newDevice);
 }
 

@@ -150,7 +150,7 @@ public:
     bool announcedIsReleased = false; ///< another device may come at the same address
     bool ownsDevice = false; ///< it was opened here
     DeviceIdentity identity; ///< of what was opened here
-    bool awaitsParameters = false; ///< the device is back, and has not told them yet
+    bool awaitsParameters = false; ///< the device is open or back, and has not told them yet
     CameraParams params;
     bool hasFrameAB = false; ///< the camera, or the last one, has two frame settings
     FrameMode frameMode = FrameAOnly;

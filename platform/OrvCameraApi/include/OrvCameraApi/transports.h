@@ -62,8 +62,8 @@ struct Progress
 };
 
 /**
- * OrvCam_CreateDevice() returns before a real camera is open; OrvCam::EventDeviceConnected tells when its parameters can
- * be had. Meanwhile this tells what it waits for. A simulated camera is connected or lost.
+ * OrvCam_CreateDevice() returns before a real camera is open; OrvCam::EventDeviceConnected tells when its parameters
+ * can be had. Meanwhile this tells what it waits for. A simulated camera is connected or lost.
  */
 ORV_CAMERAAPI_EXPORT Progress progressOf(OrvCam::Device &device);
 

@@ -1,6 +1,6 @@
 // Aravis finds USB cameras, opens cameras and moves their bytes. What it is kept from: it fetches descriptions from
-// anywhere, unpacks archives of any size, waits 2.5 s for each answer of a dead camera, opens cameras that others control,
-// and keeps registers. Its headers and Qt's macros do not go together.
+// anywhere, unpacks archives of any size, waits 2.5 s for each answer of a dead camera, opens cameras that others
+// control, and keeps registers. Its headers and Qt's macros do not go together.
 #include "aravislinks.h"
 
 #include "gvcpclient.h"
@@ -302,8 +302,7 @@ std::unique_ptr<CameraLink> openGigeCamera(std::uint32_t adapter, const Endpoint
     std::string unpacked = checkDescription(client);
     Failure failure;
     const std::lock_guard<std::mutex> lock(openingMutex());
-    DevicePointer opened(
-        arv_gv_device_new(toAravis(adapter).get(), toAravis(device.address).get(), &failure.error));
+    DevicePointer opened(arv_gv_device_new(toAravis(adapter).get(), toAravis(device.address).get(), &failure.error));
     if (!opened) {
         failure.check();
         throw LinkError(LinkError::Kind::Failed, failure.text());

@@ -54,9 +54,9 @@ public:
     std::optional<FoundDevice> find(std::uint64_t mac) const;
 
     /**
-     * Gives the device another address for now. Waits for its acknowledge, at most 0.9 s: OrvCamErr_NoDevice if there is
-     * none, OrvCamErr_InvalidState if the device refuses because another program controls it, OrvCamErr_UnknownError if
-     * it refuses for other reasons. The answers of devices() follow at once.
+     * Gives the device another address for now. Waits for its acknowledge, at most 0.9 s: OrvCamErr_NoDevice if there
+     * is none, OrvCamErr_InvalidState if the device refuses because another program controls it, OrvCamErr_UnknownError
+     * if it refuses for other reasons. The answers of devices() follow at once.
      */
     OrvCamErr forceIp(std::uint64_t mac, const IpConfiguration &configuration);
 

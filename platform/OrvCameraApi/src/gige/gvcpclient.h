@@ -22,7 +22,6 @@ struct GvcpPatience
 class GvcpClient
 {
 public:
-
     /** \a local is the address of the adapter through which the device is reached. */
     GvcpClient(std::uint32_t local, const Endpoint &device, const GvcpPatience &patience = {});
 

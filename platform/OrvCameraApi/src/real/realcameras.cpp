@@ -63,23 +63,30 @@ private:
 
 bool RealCameras::isWanted(const NetAdapter &adapter) const
 {
-    const std::vector<std::uint32_t> asked = addressesIn(m_discovery.addresses);
-    const auto reaches = [&adapter](std::uint32_t address) { return adapter.contains(address); };
-    if (m_discovery.adapters.empty())
-        return !adapter.isLoopback || std::any_of(asked.begin(), asked.end(), reaches);
     const auto isNamed = [&adapter](const std::string &name) {
         return name == adapter.name || addressIn(name) == adapter.address;
     };
-    return std::any_of(m_discovery.adapters.begin(), m_discovery.adapters.end(), isNamed);
+    if (!m_discovery.adapters.empty())
+        return std::any_of(m_discovery.adapters.begin(), m_discovery.adapters.end(), isNamed);
+    return !adapter.isLoopback;
 }
 
+/** Where only some cameras are asked, the adapters near to them, if there are any. */
 std::vector<NetAdapter> RealCameras::wantedAdapters() const
 {
-    std::vector<NetAdapter> adapters = netAdapters();
-    adapters.erase(std::remove_if(adapters.begin(), adapters.end(),
-                                  [this](const NetAdapter &adapter) { return !isWanted(adapter); }),
-                   adapters.end());
-    return adapters;
+    const std::vector<NetAdapter> all = netAdapters();
+    const std::vector<std::uint32_t> asked = addressesIn(m_discovery.addresses);
+    std::vector<NetAdapter> wanted;
+    std::vector<NetAdapter> near;
+    for (const NetAdapter &adapter : all) {
+        const bool isNear = std::any_of(asked.begin(), asked.end(),
+                                        [&adapter](std::uint32_t address) { return adapter.contains(address); });
+        if (isNear && (m_discovery.adapters.empty() || isWanted(adapter)))
+            near.push_back(adapter);
+        if (isWanted(adapter))
+            wanted.push_back(adapter);
+    }
+    return near.empty() ? wanted : near;
 }
 
 std::optional<Backend::Interfaces> RealCameras::interfaces() const
@@ -95,9 +102,9 @@ std::optional<Backend::Interfaces> RealCameras::interfaces() const
         const auto reaches = [&](std::uint32_t address) { return isLast || adapter->contains(address); };
         std::copy_if(open.begin(), open.end(), std::back_inserter(near), reaches);
         open.erase(std::remove_if(open.begin(), open.end(), reaches), open.end());
-        const bool isAlone = std::count_if(adapters.begin(), adapters.end(), [&](const NetAdapter &other) {
-                                 return other.name == adapter->name;
-                             }) == 1;
+        const bool isAlone = std::count_if(adapters.begin(), adapters.end(),
+                                           [&](const NetAdapter &other) { return other.name == adapter->name; })
+            == 1;
         const std::string id = isAlone ? adapter->name : adapter->name + '/' + dotted(adapter->address);
         interfaces.push_back(interfaceFor(id, *adapter, std::move(near)));
     }

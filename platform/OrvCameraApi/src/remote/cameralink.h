@@ -29,7 +29,8 @@ private:
 };
 
 /**
- * An open camera at the other end of a wire. Its functions may take seconds; one thread uses them. They throw LinkError.
+ * An open camera at the other end of a wire. Its functions may take seconds; one thread uses them. They throw
+ * LinkError.
  */
 class CameraLink
 {

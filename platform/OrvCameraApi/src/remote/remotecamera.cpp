@@ -324,8 +324,8 @@ void RemoteCamera::lose()
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_state = State::Lost;
         for (const std::shared_ptr<Access> &access : m_waiting) {
-            access->failure = std::make_exception_ptr(
-                GenICam::AccessException("The camera is not connected", __FILE__, __LINE__));
+            access->failure =
+                std::make_exception_ptr(GenICam::AccessException("The camera is not connected", __FILE__, __LINE__));
             access->isDone = true;
         }
         m_waiting.clear();

@@ -25,8 +25,8 @@ namespace OrvCameraApi {
  *
  * The thread opens the camera, fetches its description and makes a node map of it. When that is done, and after each
  * return of a camera that was lost, the listeners get OrvCam::EventDeviceConnected; upon a loss they get
- * OrvCam::EventDeviceDisconnected. An access that takes too long throws, and as long as the camera still has not answered
- * it, further ones throw at once. An attempt to open that fails is repeated, with pauses that grow.
+ * OrvCam::EventDeviceDisconnected. An access that takes too long throws, and as long as the camera still has not
+ * answered it, further ones throw at once. An attempt to open that fails is repeated, with pauses that grow.
  */
 class RemoteCamera final : public GenApi::IPort
 {

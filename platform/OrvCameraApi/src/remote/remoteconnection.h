@@ -38,10 +38,7 @@ public:
     std::shared_ptr<GenApi::INodeMap> makeNodeMap() override { return camera().takeNodeMap(); }
     bool isConnected() const override { return camera().isConnected(); }
     OpeningProgress progress() const override { return {camera().state(), camera().failure()}; }
-    void setListener(std::weak_ptr<ConnectionListener> listener) override
-    {
-        camera().addListener(std::move(listener));
-    }
+    void setListener(std::weak_ptr<ConnectionListener> listener) override { camera().addListener(std::move(listener)); }
 
 private:
     RemoteCamera &camera() const { return m_open->camera(); }
