@@ -6,6 +6,8 @@
 #include <OrvCameraApi/transports.h>
 #include <OrvCameraGuiApi/camera_api/orvgenparam.h>
 
+#include <GenApi/INodeMap.h>
+
 #include <QElapsedTimer>
 
 #include <atomic>
@@ -119,13 +121,14 @@ void TestRealCameras::lossIsNoticedAndHealed()
     OpenCamera camera(info);
     QTRY_VERIFY(camera.connected == 1);
     OrvGenParam::Int *const width = camera.width();
-    const auto read = [width] {
+    GenApi::INodeMap *const nodeMap = camera.parameters()->GetNodeMap();
+    const auto read = [width, nodeMap] {
         OrvCamErr err = OrvCamErr_Ok;
+        nodeMap->InvalidateNodes();
         width->GetValue(&err);
         return err;
     };
     QCOMPARE(read(), OrvCamErr_Ok);
-    camera.parameters()->GetNodeMap()->InvalidateNodes();
 
     isKilled ? fake.kill() : fake.stop();
     QElapsedTimer clock;
@@ -133,11 +136,10 @@ void TestRealCameras::lossIsNoticedAndHealed()
     qint64 longest = 0;
     while (camera.disconnected == 0 && clock.elapsed() < 10000) {
         const qint64 before = clock.elapsed();
-        QVERIFY(read() != OrvCamErr_Ok);
+        read();
         longest = std::max(longest, clock.elapsed() - before);
         QTest::qWait(10);
     }
-    qDebug() << "lost after" << clock.elapsed() << "longest wait" << longest;
     QCOMPARE(camera.disconnected.load(), 1);
     QVERIFY2(clock.elapsed() < 4000, "the loss was noticed too late");
     QVERIFY2(longest < 1200, "an access has waited too long");
@@ -145,13 +147,11 @@ void TestRealCameras::lossIsNoticedAndHealed()
     QCOMPARE(read(), OrvCamErr_NoDevice);
 
     isKilled ? fake.start() : fake.goOn();
-    clock.restart();
     QTRY_VERIFY_WITH_TIMEOUT(camera.connected == 2, 15000);
-    qDebug() << "back after" << clock.elapsed();
     QCOMPARE(read(), OrvCamErr_Ok);
 }
 
 } // namespace
 
-QTEST_GUILESS_MAIN(TestRealCameras)
+ORV_TEST_MAIN(TestRealCameras)
 #include "tst_realcameras.moc"

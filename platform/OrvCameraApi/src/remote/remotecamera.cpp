@@ -93,13 +93,13 @@ RemoteCamera::RemoteCamera(Open open, const Patience &patience)
 
 std::shared_ptr<RemoteCamera> RemoteCamera::start(Open open, const Patience &patience)
 {
-    const std::shared_ptr<RemoteCamera> camera(new RemoteCamera(std::move(open), patience));
+    std::shared_ptr<RemoteCamera> camera(new RemoteCamera(std::move(open), patience));
     runningCameras().add(camera);
     camera->m_thread = std::thread([camera] { camera->run(); }); // the thread keeps what it uses
     return camera;
 }
 
-void RemoteCamera::close(std::shared_ptr<RemoteCamera> camera)
+void RemoteCamera::close(const std::shared_ptr<RemoteCamera> &camera)
 {
     std::thread thread;
     {
@@ -177,7 +177,7 @@ void RemoteCamera::Write(const void *buffer, std::int64_t address, std::int64_t 
 std::shared_ptr<RemoteCamera::Access> RemoteCamera::access(bool isWrite, std::int64_t address,
                                                            std::vector<std::uint8_t> bytes)
 {
-    const auto access = std::make_shared<Access>();
+    auto access = std::make_shared<Access>();
     access->isWrite = isWrite;
     access->address = std::uint64_t(address);
     access->bytes = std::move(bytes);

@@ -47,7 +47,7 @@ public:
     static std::shared_ptr<RemoteCamera> start(Open open, const Patience &patience);
 
     /** Ends the thread. Returns at once: an access that is running ends by itself. No listener is called any more. */
-    static void close(std::shared_ptr<RemoteCamera> camera);
+    static void close(const std::shared_ptr<RemoteCamera> &camera);
 
     /** Waits until all threads of closed cameras have ended. */
     static void waitForClosed();
