@@ -106,7 +106,10 @@ struct OpeningProgress
 class Connection : public FeatureOwner
 {
 public:
-    virtual OpeningProgress progress() const { return {}; }
+    virtual OpeningProgress progress() const
+    {
+        return {isConnected() ? OpeningStep::Connected : OpeningStep::Lost, {}};
+    }
 
     /** Called once. A listener that has expired is not called. */
     virtual void setListener(std::weak_ptr<ConnectionListener> listener) = 0;
