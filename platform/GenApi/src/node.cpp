@@ -249,6 +249,7 @@ CallbackHandleType Node::RegisterCallback(CNodeCallback *pCallback)
     try {
         const Entry entry(*this, "RegisterCallback");
         m_callbacks.append(pCallback);
+        m_map.addCallback();
     } catch (...) {
         pCallback->Destroy();
         throw;

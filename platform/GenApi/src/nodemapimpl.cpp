@@ -50,9 +50,12 @@ void NodeMapImpl::InvalidateNodes() const
     {
         const MapLock lock(*this);
         self.startEvaluation();
-        for (const std::unique_ptr<Node> &node : m_nodes) {
+        for (const std::unique_ptr<Node> &node : m_nodes)
             node->dropCache();
-            nodes.push_back(node.get());
+        if (m_callbacks > 0) {
+            nodes.reserve(m_nodes.size());
+            for (const std::unique_ptr<Node> &node : m_nodes)
+                nodes.push_back(node.get());
         }
         self.fire(nodes, cbPostInsideLock, failure);
     }
@@ -286,6 +289,7 @@ bool NodeMapImpl::removeCallback(Node &node, CNodeCallback *callback)
 {
     if (!callback || !node.m_callbacks.remove(callback))
         return false;
+    --m_callbacks;
     // The callback may be the one that is running: then it is destroyed when it has returned.
     if (m_firing > 0)
         m_removedCallbacks.push_back(callback);

@@ -114,6 +114,9 @@ public:
     /** Takes out and destroys a callback, as soon as none is running. */
     bool removeCallback(Node &node, GenApi::CNodeCallback *callback);
 
+    /** Counts one that was registered. */
+    void addCallback() { ++m_callbacks; }
+
     void throwFault(const Node &node, const char *operation) const;
     bool hasFaults() const { return m_faults.has_value(); }
 
@@ -180,6 +183,7 @@ private:
     std::size_t m_textUsed = 0;
     std::size_t m_textSize = 0;
     uint64_t m_evaluation = 0;
+    std::size_t m_callbacks = 0; ///< that are registered
     unsigned m_firing = 0; ///< runs of fire() that have not ended
     std::vector<GenApi::CNodeCallback *> m_removedCallbacks; ///< to be destroyed when none is running
 };

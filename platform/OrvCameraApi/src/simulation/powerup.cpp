@@ -100,6 +100,7 @@ private:
 
 void powerUp(const std::string &statements, ServiceMap &map, RegisterFile &registers, PortMonitor &monitor)
 {
+    const ServiceMap::Alone alone(map); // the camera gets power just now
     std::istringstream lines(statements);
     std::string line;
     for (int number = 1; std::getline(lines, line); ++number) {

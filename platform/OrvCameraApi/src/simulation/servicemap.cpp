@@ -22,20 +22,26 @@ ServiceMap::ServiceMap(const std::string &description, GenApi::IPort &rawPort)
 {
 }
 
+void ServiceMap::forgetValues()
+{
+    if (!m_isAlone)
+        m_map->InvalidateNodes();
+}
+
 std::optional<AddressRange> ServiceMap::find(const std::string &node)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     const GenApi::CRegisterPtr found(registerNode(node));
     if (!found.IsValid())
         return std::nullopt;
-    m_map->InvalidateNodes();
+    forgetValues();
     return AddressRange{found->GetAddress(), found->GetLength()};
 }
 
 void ServiceMap::set(const std::string &node, const std::string &value)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_map->InvalidateNodes();
+    forgetValues();
     GenApi::CValuePtr(registerNode(node))->FromString(value.c_str(), false);
 }
 

@@ -18,6 +18,23 @@ namespace OrvCameraApi {
 class ServiceMap
 {
 public:
+    /** While one exists, nobody else uses the registers, so that nothing has to be read again. */
+    class Alone
+    {
+    public:
+        explicit Alone(ServiceMap &map)
+            : m_map(map)
+        {
+            m_map.m_isAlone = true;
+        }
+        ~Alone() { m_map.m_isAlone = false; }
+        Alone(const Alone &) = delete;
+        Alone &operator=(const Alone &) = delete;
+
+    private:
+        ServiceMap &m_map;
+    };
+
     /** \a rawPort outlives this object. Throws when the description cannot be used. */
     ServiceMap(const std::string &description, GenApi::IPort &rawPort);
 
@@ -32,8 +49,10 @@ public:
 
 private:
     GenApi::INode *registerNode(const std::string &name) const;
+    void forgetValues();
 
     std::mutex m_mutex;
+    bool m_isAlone = false;
     const std::shared_ptr<GenApi::INodeMap> m_map;
 };
 
