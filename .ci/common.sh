@@ -5,7 +5,7 @@
 
 packages_build=(
     g++ cmake ninja-build pkg-config
-    qtbase5-dev qttools5-dev libpugixml-dev libzip-dev libbenchmark-dev libxcb1-dev
+    qtbase5-dev qttools5-dev libpugixml-dev libminizip-dev libbenchmark-dev libxcb1-dev
     libaravis-dev libusb-1.0-0-dev
 )
 # What programs with windows need on a machine that has no desktop: a font, a display for the tests that want one.
