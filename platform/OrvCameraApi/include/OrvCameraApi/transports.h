@@ -32,7 +32,7 @@ struct Discovery
     std::vector<std::string> addresses;
 };
 
-/** Whether this library was built with the means to reach real cameras. Without them there are none. */
+/** Whether the module that links to real cameras is installed beside this library. Without it there are none. */
 ORV_CAMERAAPI_EXPORT bool canReachRealCameras();
 
 /**

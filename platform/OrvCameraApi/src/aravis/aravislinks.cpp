@@ -1,20 +1,11 @@
-// Aravis finds USB cameras, opens cameras and moves their bytes. What it is kept from: it fetches descriptions from
-// anywhere, unpacks archives of any size, waits 2.5 s for each answer of a dead camera, opens cameras that others
-// control, and keeps registers. Its headers and Qt's macros do not go together.
+// Aravis finds USB cameras, opens cameras and moves their bytes. Its headers and Qt's macros do not go together.
 #include "aravislinks.h"
-
-#include "gvcpclient.h"
-#include "netadapter.h"
-
-#include <OrvGenApi/ziparchive.h>
 
 #include <arv.h>
 
-#include <algorithm>
 #include <atomic>
 #include <cstring>
 #include <mutex>
-#include <optional>
 #include <utility>
 
 namespace OrvCameraApi {
@@ -122,26 +113,18 @@ private:
 class GigeLink final : public AravisLink
 {
 public:
-    GigeLink(DevicePointer device, std::uint32_t adapter, const Endpoint &endpoint, bool isReadOnly,
-             std::string unpacked)
+    GigeLink(DevicePointer device, bool isReadOnly)
         : AravisLink(std::move(device))
-        , m_client(adapter, endpoint)
         , m_isReadOnly(isReadOnly)
-        , m_unpacked(std::move(unpacked))
     {
     }
 
-    std::string description() override { return m_unpacked.empty() ? AravisLink::description() : m_unpacked; }
     bool isReadOnly() const override { return m_isReadOnly; }
     void read(void *buffer, std::uint64_t address, std::uint32_t length) override;
     void write(const void *buffer, std::uint64_t address, std::uint32_t length) override;
 
-    /** Asks for the privilege itself: Aravis notices a loss after six to eight seconds. */
     bool isAlive() override
     {
-        const std::optional<std::vector<std::uint32_t>> privilege = m_client.readRegisters({Gvcp::ControlPrivilege});
-        if (!privilege || privilege->front() == 0)
-            return false; // gone, restarted, or free for this program by now
         return m_isReadOnly || (AravisLink::isAlive() && arv_gv_device_is_controller(ARV_GV_DEVICE(device())));
     }
 
@@ -163,9 +146,7 @@ private:
 
     void read(Span &span) const;
 
-    GvcpClient m_client;
     const bool m_isReadOnly;
-    const std::string m_unpacked; ///< the description, if the camera has it in an archive
 };
 
 void GigeLink::read(Span &span) const
@@ -235,52 +216,6 @@ public:
     }
 };
 
-/** \a bytes up to the first zero. */
-std::string textIn(const Gvcp::Packet &bytes)
-{
-    return std::string(bytes.begin(), std::find(bytes.begin(), bytes.end(), 0));
-}
-
-[[noreturn]] void throwSilent()
-{
-    throw LinkError(LinkError::Kind::Silent, "The camera does not answer");
-}
-
-/** Whether another program controls the camera. Throws if it allows nobody else to read. */
-bool isTaken(GvcpClient &client)
-{
-    const std::optional<Gvcp::Acknowledge> answer =
-        client.request(Gvcp::readRegisters(client.nextId(), {Gvcp::ControlPrivilege}));
-    if (!answer)
-        throwSilent();
-    const std::optional<std::vector<std::uint32_t>> privilege = Gvcp::registersIn(answer->payload, 1);
-    const bool isRefused = answer->status != Gvcp::Status::Success || !privilege;
-    if (!isRefused && (privilege->front() & Gvcp::ExclusiveAccess) == 0)
-        return privilege->front() != 0;
-    const std::optional<std::vector<std::uint32_t>> controller = client.readRegisters({Gvcp::ControllerAddress});
-    const std::string who = controller && controller->front() != 0 ? " at " + dotted(controller->front()) : "";
-    throw LinkError(LinkError::Kind::Denied, "Another program" + who + " has taken the camera");
-}
-
-/** Makes sure that the description is in the camera. Gives its text if it is in an archive. */
-std::string checkDescription(GvcpClient &client)
-{
-    const std::optional<Gvcp::Packet> url = client.readMemory(Gvcp::FirstUrl, Gvcp::urlLength);
-    if (!url)
-        throwSilent();
-    const std::optional<Gvcp::DescriptionFile> file = Gvcp::localFileIn(textIn(*url));
-    if (!file)
-        throw LinkError(LinkError::Kind::Failed,
-                        "The description is not in the camera and is not fetched from elsewhere: \"" + textIn(*url)
-                            + '"');
-    if (!file->isArchive())
-        return {};
-    const std::optional<Gvcp::Packet> archive = client.readMemory(file->address, file->length);
-    if (!archive)
-        throwSilent();
-    return OrvGenApi::descriptionInZip(std::string(archive->begin(), archive->end()), file->name);
-}
-
 std::unique_ptr<GInetAddress, Unref> toAravis(std::uint32_t address)
 {
     const guint32 bytes = g_htonl(address);
@@ -295,45 +230,42 @@ std::string textOf(const char *text)
 
 } // namespace
 
-std::unique_ptr<CameraLink> openGigeCamera(std::uint32_t adapter, const Endpoint &device)
+} // namespace OrvCameraApi
+
+using namespace OrvCameraApi;
+
+CameraLink *orvAravisOpenGige(std::uint32_t adapter, std::uint32_t address, bool isReadOnly)
 {
-    GvcpClient client(adapter, device);
-    const bool isReadOnly = isTaken(client);
-    std::string unpacked = checkDescription(client);
     Failure failure;
     const std::lock_guard<std::mutex> lock(openingMutex());
-    DevicePointer opened(arv_gv_device_new(toAravis(adapter).get(), toAravis(device.address).get(), &failure.error));
+    DevicePointer opened(arv_gv_device_new(toAravis(adapter).get(), toAravis(address).get(), &failure.error));
     if (!opened) {
         failure.check();
         throw LinkError(LinkError::Kind::Failed, failure.text());
     }
     if (!isReadOnly && !arv_gv_device_is_controller(ARV_GV_DEVICE(opened.get())))
         throw LinkError(LinkError::Kind::Denied, "Another program has taken the camera");
-    return std::make_unique<GigeLink>(std::move(opened), adapter, device, isReadOnly, std::move(unpacked));
+    return new GigeLink(std::move(opened), isReadOnly);
 }
 
-std::vector<UsbCamera> usbCameras()
+void orvAravisListUsb(std::vector<UsbCamera> &cameras)
 {
     ArvInterface *const usb = arv_uv_interface_get_instance();
     arv_interface_update_device_list(usb);
-    std::vector<UsbCamera> cameras;
     for (unsigned i = 0; i < arv_interface_get_n_devices(usb); ++i)
         cameras.push_back({textOf(arv_interface_get_device_id(usb, i)), textOf(arv_interface_get_device_vendor(usb, i)),
                            textOf(arv_interface_get_device_model(usb, i)),
                            textOf(arv_interface_get_device_serial_nbr(usb, i))});
-    return cameras;
 }
 
-std::unique_ptr<CameraLink> openUsbCamera(const std::string &id)
+CameraLink *orvAravisOpenUsb(const char *id)
 {
     Failure failure;
     const std::lock_guard<std::mutex> lock(openingMutex());
-    DevicePointer opened(arv_interface_open_device(arv_uv_interface_get_instance(), id.c_str(), &failure.error));
+    DevicePointer opened(arv_interface_open_device(arv_uv_interface_get_instance(), id, &failure.error));
     if (!opened)
         throw LinkError(LinkError::Kind::Failed,
                         "The camera cannot be opened: " + failure.text()
                             + ". A udev rule gives the permission to use it");
-    return std::make_unique<UsbLink>(std::move(opened));
+    return new UsbLink(std::move(opened));
 }
-
-} // namespace OrvCameraApi

@@ -1,27 +1,29 @@
 #pragma once
 
 #include "cameralink.h"
-#include "udpsocket.h"
 #include "usbinterface.h"
 
 #include <cstdint>
-#include <memory>
-#include <string>
 #include <vector>
 
-namespace OrvCameraApi {
-
 /**
- * Opens the GigE Vision camera at \a device through the adapter with the address \a adapter: to control it, or for
- * reading if another program controls it and allows that. Asks the camera for its description first; one that is not in
- * the camera itself is never fetched. Throws LinkError.
+ * \file
+ * The functions of the module that links to cameras through Aravis. It is a library of its own, loaded when somebody
+ * wants real cameras, because all that it needs would make every program start later. All throw LinkError; the caller
+ * owns links.
  */
-std::unique_ptr<CameraLink> openGigeCamera(std::uint32_t adapter, const Endpoint &device);
 
-/** Those that are plugged in now. May take a moment. */
-std::vector<UsbCamera> usbCameras();
+#define ORV_ARAVIS_EXPORT __attribute__((visibility("default")))
 
-/** Opens a camera to control it. Throws LinkError. */
-std::unique_ptr<CameraLink> openUsbCamera(const std::string &id);
+extern "C" {
 
-} // namespace OrvCameraApi
+/** Through the adapter of that address: to control the camera, or only to read it. Fetches its description. */
+ORV_ARAVIS_EXPORT OrvCameraApi::CameraLink *orvAravisOpenGige(std::uint32_t adapter, std::uint32_t address,
+                                                              bool isReadOnly);
+
+/** Appends the cameras that are plugged in now. May take a moment. */
+ORV_ARAVIS_EXPORT void orvAravisListUsb(std::vector<OrvCameraApi::UsbCamera> &cameras);
+
+ORV_ARAVIS_EXPORT OrvCameraApi::CameraLink *orvAravisOpenUsb(const char *id);
+
+} // extern "C"

@@ -1,7 +1,8 @@
 #include "realcameras.h"
 
-#include "aravislinks.h"
+#include "aravismodule.h"
 #include "gigeinterface.h"
+#include "gigelink.h"
 #include "usbinterface.h"
 
 #include <algorithm>
@@ -121,7 +122,9 @@ std::shared_ptr<GigeInterface> RealCameras::interfaceFor(const std::string &id, 
         GigeInterface::Options options;
         options.discovery.broadcasts = m_discovery.addresses.empty();
         options.discovery.addresses = std::move(addresses);
-        options.open = openGigeCamera;
+        options.open = [](std::uint32_t local, const Endpoint &device) {
+            return openGigeCamera(local, device, AravisModule::openGige);
+        };
         interface = std::make_shared<GigeInterface>(id, adapter, options);
         weak = interface;
     }
@@ -133,8 +136,8 @@ std::shared_ptr<UsbInterface> RealCameras::usb() const
     std::shared_ptr<UsbInterface> interface = m_usb.lock();
     if (!interface) {
         UsbInterface::Options options;
-        options.list = usbCameras;
-        options.open = openUsbCamera;
+        options.list = AravisModule::usbCameras;
+        options.open = AravisModule::openUsb;
         interface = std::make_shared<UsbInterface>(std::move(options));
         m_usb = interface;
     }

@@ -2,13 +2,11 @@
 
 #include "transports.h"
 
+#include "aravismodule.h"
 #include "device.h"
+#include "realcameras.h"
 #include "session.h"
 #include "world.h"
-
-#ifdef ORV_HAS_REAL_CAMERAS
-#include "realcameras.h"
-#endif
 
 #include <cstdlib>
 #include <mutex>
@@ -19,7 +17,6 @@ namespace OrvCameraApi {
 namespace {
 
 using OrvTransports::Cameras;
-using OrvTransports::Discovery;
 
 std::vector<std::string> splitAtCommas(std::string_view text)
 {
@@ -55,14 +52,7 @@ struct Choice
 
     Choice()
     {
-        tell({splitAtCommas(variable("ORV_CAMERA_ADAPTERS")), splitAtCommas(variable("ORV_CAMERA_ADDRESSES"))});
-    }
-
-    static void tell([[maybe_unused]] const Discovery &discovery)
-    {
-#ifdef ORV_HAS_REAL_CAMERAS
-        setDiscovery(discovery);
-#endif
+        setDiscovery({splitAtCommas(variable("ORV_CAMERA_ADAPTERS")), splitAtCommas(variable("ORV_CAMERA_ADDRESSES"))});
     }
 };
 
@@ -78,10 +68,8 @@ std::vector<Backend *> chosenBackends()
 {
     const Cameras cameras = OrvTransports::used();
     std::vector<Backend *> backends;
-#ifdef ORV_HAS_REAL_CAMERAS
-    if (cameras != Cameras::Simulated)
+    if (cameras != Cameras::Simulated && AravisModule::isInstalled())
         backends.push_back(&realCameras());
-#endif
     if (cameras != Cameras::Real)
         backends.push_back(&World::instance());
     return backends;
@@ -93,11 +81,7 @@ namespace OrvTransports {
 
 bool canReachRealCameras()
 {
-#ifdef ORV_HAS_REAL_CAMERAS
-    return true;
-#else
-    return false;
-#endif
+    return OrvCameraApi::AravisModule::isInstalled();
 }
 
 void use(Cameras cameras)
@@ -110,7 +94,7 @@ void use(Cameras cameras)
 void use(Cameras cameras, const Discovery &discovery)
 {
     use(cameras);
-    OrvCameraApi::Choice::tell(discovery);
+    OrvCameraApi::setDiscovery(discovery);
 }
 
 Cameras used()

@@ -6,8 +6,8 @@
 
 namespace OrvCameraApi {
 
-/** The failure of a camera link, with a text for people. */
-class LinkError : public std::runtime_error
+/** The failure of a camera link, with a text for people. Crosses the border of the module that links. */
+class __attribute__((visibility("default"))) LinkError : public std::runtime_error
 {
 public:
     enum class Kind {

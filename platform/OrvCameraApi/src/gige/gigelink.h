@@ -1,0 +1,24 @@
+#pragma once
+
+#include "cameralink.h"
+#include "udpsocket.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+
+namespace OrvCameraApi {
+
+/** Opens a camera at \a address through the adapter of that address: to control it, or only to read it. */
+using OpenTransport =
+    std::function<std::unique_ptr<CameraLink>(std::uint32_t adapter, std::uint32_t address, bool isReadOnly)>;
+
+/**
+ * Opens the GigE Vision camera at \a device through the adapter with the address \a adapter: to control it, or for
+ * reading if another program controls it and allows that. \a open moves the bytes. It is kept from waiting for a camera
+ * that does not answer, from fetching a description that is not in the camera, and from unpacking one of any size.
+ * Throws LinkError.
+ */
+std::unique_ptr<CameraLink> openGigeCamera(std::uint32_t adapter, const Endpoint &device, const OpenTransport &open);
+
+} // namespace OrvCameraApi

@@ -1,0 +1,79 @@
+#include "aravismodule.h"
+
+#include "aravislinks.h"
+
+#include <dlfcn.h>
+#include <unistd.h>
+
+namespace OrvCameraApi::AravisModule {
+
+namespace {
+
+/** In the directory of this library. */
+std::string path()
+{
+    Dl_info info{};
+    if (::dladdr(reinterpret_cast<const void *>(&isInstalled), &info) == 0 || !info.dli_fname)
+        return {};
+    const std::string library = info.dli_fname;
+    return library.substr(0, library.rfind('/') + 1) + ORV_ARAVIS_MODULE;
+}
+
+/** The functions of the module; it stays loaded. */
+struct Module
+{
+    void *handle = ::dlopen(path().c_str(), RTLD_NOW | RTLD_LOCAL);
+    std::string failure = handle ? "" : ::dlerror();
+    decltype(&orvAravisOpenGige) openGige = find<decltype(&orvAravisOpenGige)>("orvAravisOpenGige");
+    decltype(&orvAravisListUsb) listUsb = find<decltype(&orvAravisListUsb)>("orvAravisListUsb");
+    decltype(&orvAravisOpenUsb) openUsb = find<decltype(&orvAravisOpenUsb)>("orvAravisOpenUsb");
+
+    template <typename Function>
+    Function find(const char *name) const
+    {
+        return handle ? reinterpret_cast<Function>(::dlsym(handle, name)) : nullptr;
+    }
+
+    bool isComplete() const { return openGige && listUsb && openUsb; }
+
+    void require() const
+    {
+        if (!isComplete())
+            throw LinkError(LinkError::Kind::Failed, "Real cameras cannot be reached: " + failure);
+    }
+};
+
+const Module &module()
+{
+    static const Module module;
+    return module;
+}
+
+} // namespace
+
+bool isInstalled()
+{
+    return ::access(path().c_str(), R_OK) == 0;
+}
+
+std::unique_ptr<CameraLink> openGige(std::uint32_t adapter, std::uint32_t address, bool isReadOnly)
+{
+    module().require();
+    return std::unique_ptr<CameraLink>(module().openGige(adapter, address, isReadOnly));
+}
+
+std::unique_ptr<CameraLink> openUsb(const std::string &id)
+{
+    module().require();
+    return std::unique_ptr<CameraLink>(module().openUsb(id.c_str()));
+}
+
+std::vector<UsbCamera> usbCameras()
+{
+    std::vector<UsbCamera> cameras;
+    if (module().isComplete())
+        module().listUsb(cameras);
+    return cameras;
+}
+
+} // namespace OrvCameraApi::AravisModule

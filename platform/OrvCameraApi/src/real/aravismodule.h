@@ -1,0 +1,27 @@
+#pragma once
+
+#include "cameralink.h"
+#include "usbinterface.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace OrvCameraApi {
+
+/** The module that links to cameras, loaded upon the first use. Its functions throw LinkError. */
+namespace AravisModule {
+
+/** Whether it lies beside this library; it is not loaded for that. */
+bool isInstalled();
+
+std::unique_ptr<CameraLink> openGige(std::uint32_t adapter, std::uint32_t address, bool isReadOnly);
+std::unique_ptr<CameraLink> openUsb(const std::string &id);
+
+/** None as well when the module cannot be loaded. */
+std::vector<UsbCamera> usbCameras();
+
+} // namespace AravisModule
+
+} // namespace OrvCameraApi
