@@ -460,30 +460,6 @@ private Q_SLOTS:
         QTRY_COMPARE(statusText(window), disconnected());
     }
 
-    void leavesTheCallersDeviceAlone()
-    {
-        {
-            const Camera camera;
-            const Camera other(monochrome);
-            OrvCamConfig window(camera.device());
-            const OrvSim::LiveObjects live = OrvSim::liveObjects();
-            for (int i = 0; i < 3; ++i) {
-                window.SetDevice(other.device());
-                QCOMPARE(statusText(window), QStringLiteral("SF-1300M"));
-                window.SetDevice(nullptr);
-                QCOMPARE(OrvSim::liveObjects().sinks + OrvSim::liveObjects().eventCallbacks, std::size_t(0));
-                window.SetDevice(camera.device());
-                window.SetDevice(camera.device());
-                QCOMPARE(OrvSim::liveObjects().sinks, live.sinks);
-                QCOMPARE(OrvSim::liveObjects().eventCallbacks, live.eventCallbacks);
-            }
-            trigger(window, "actionDisconnect");
-            QCOMPARE(statusText(window), disconnected());
-            QCOMPARE(OrvSim::liveObjects().devices, std::size_t(2));
-        }
-        QVERIFY(isNothingHeld());
-    }
-
     void staysWithoutACamera()
     {
         const std::function<void()> reasons[] = {[] { OrvSim::setSystemAvailable(false); }, cancelWhenAsked,
