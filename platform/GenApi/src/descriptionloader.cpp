@@ -165,7 +165,7 @@ void DescriptionLoader::finish()
     for (const std::unique_ptr<Node> &node : m_map.m_nodes) {
         node->m_dependents.shrink_to_fit();
         if (node->m_pollingTime > 0)
-            m_map.m_polled.push_back({node.get(), node->m_blocksPolling});
+            m_map.m_polled.push_back({node.get(), node->conditions().blocksPolling});
     }
     m_map.m_nodes.shrink_to_fit();
 }

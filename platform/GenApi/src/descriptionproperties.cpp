@@ -189,13 +189,13 @@ bool DescriptionLoader::readCommon(Node &node, const Element &property)
     else if (is(property, "PollingTime"))
         node.m_pollingTime = integer(property);
     else if (is(property, "pIsImplemented"))
-        node.m_isImplemented = linkNumber(node, property, Use::Condition);
+        node.ownConditions().isImplemented = linkNumber(node, property, Use::Condition);
     else if (is(property, "pIsAvailable"))
-        node.m_isAvailable = linkNumber(node, property, Use::Condition);
+        node.ownConditions().isAvailable = linkNumber(node, property, Use::Condition);
     else if (is(property, "pIsLocked"))
-        node.m_isLocked = linkNumber(node, property, Use::Condition);
+        node.ownConditions().isLocked = linkNumber(node, property, Use::Condition);
     else if (is(property, "pBlockPolling")) {
-        node.m_blocksPolling = linkNumber(node, property, Use::Condition);
+        node.ownConditions().blocksPolling = linkNumber(node, property, Use::Condition);
     } else if (is(property, "DocuURL"))
         m_map.m_extras[&node].docuUrl = m_map.keep(text);
     else if (is(property, "EventID"))
@@ -207,7 +207,7 @@ bool DescriptionLoader::readCommon(Node &node, const Element &property)
     else if (is(property, "pCastAlias"))
         m_map.m_extras[&node].castAlias = m_map.find(trimmed(text));
     else if (is(property, "pError")) {
-        node.m_error = linkNumber(node, property, Use::Condition);
+        node.ownConditions().error = linkNumber(node, property, Use::Condition);
     } else if (is(property, "pInvalidator"))
         link(node, property, Use::Notice);
     else if (is(property, "pSelected")) {

@@ -135,7 +135,7 @@ bool NumberSource<Number>::keepsFresh() const
 }
 
 template <typename Number>
-EAccessMode NumberSource<Number>::readAccess(std::initializer_list<Ref> limits) const
+EAccessMode NumberSource<Number>::copyAvailability() const
 {
     EAccessMode mode = RW;
     if (m_copies) {
@@ -143,10 +143,6 @@ EAccessMode NumberSource<Number>::readAccess(std::initializer_list<Ref> limits) 
             if (mode != NI)
                 mode = combined(mode, Node::availability(copy));
         }
-    }
-    for (const Ref &limit : limits) {
-        if (mode != NI)
-            mode = combined(mode, Node::availability(limit.node()));
     }
     return mode;
 }

@@ -28,8 +28,16 @@ public:
     GenApi::EAccessMode valueAccess() const;
     GenApi::EAccessMode access() const;
 
-    /** What copies and \a limits allow. */
-    GenApi::EAccessMode readAccess(std::initializer_list<Ref> limits) const;
+    /** What copies and limits allow; few nodes have copies, or limits in other nodes. */
+    GenApi::EAccessMode readAccess(const Ref &minimum, const Ref &maximum, const Ref &increment) const
+    {
+        if (!m_copies && !minimum.node() && !maximum.node() && !increment.node())
+            return GenApi::RW;
+        const GenApi::EAccessMode mode = copyAvailability();
+        return mode == GenApi::NI
+            ? mode
+            : combined(mode, Node::availabilityOf({minimum.node(), maximum.node(), increment.node()}));
+    }
 
     /** \a range as far as all copies take it; worked out once an evaluation. */
     std::pair<Number, Number> copiedRange(const Node &owner, std::pair<Number, Number> range);
@@ -92,6 +100,7 @@ private:
         uint64_t endsIn = 0; ///< the last list of changes that was told of the ends
     };
 
+    GenApi::EAccessMode copyAvailability() const;
     Indexed &indexed();
     Ref &current(const Node &owner);
     Ref *picked() const;
@@ -149,7 +158,7 @@ protected:
     GenApi::EAccessMode readAccess() const override
     {
         const GenApi::EAccessMode mode = Node::readAccess();
-        return mode == GenApi::NI ? mode : combined(mode, m_source.readAccess({m_minimum, m_maximum, m_increment}));
+        return mode == GenApi::NI ? mode : combined(mode, m_source.readAccess(m_minimum, m_maximum, m_increment));
     }
 
 private:
@@ -220,7 +229,7 @@ protected:
     GenApi::EAccessMode readAccess() const override
     {
         const GenApi::EAccessMode mode = Node::readAccess();
-        return mode == GenApi::NI ? mode : combined(mode, m_source.readAccess({m_minimum, m_maximum, m_increment}));
+        return mode == GenApi::NI ? mode : combined(mode, m_source.readAccess(m_minimum, m_maximum, m_increment));
     }
 
 private:

@@ -70,6 +70,8 @@ void Changes::countWrite(const Node &node)
         ORV_THROW(RuntimeException, std::string("node '") + node.name() + "': one write leads to too many others");
 }
 
+const Node::Conditions Node::noConditions;
+
 Node::Node(NodeMapImpl &map, const char *name)
     : m_map(map)
     , m_name(name)
@@ -77,6 +79,13 @@ Node::Node(NodeMapImpl &map, const char *name)
 }
 
 Node::~Node() = default;
+
+Node::Conditions &Node::ownConditions()
+{
+    if (!m_conditions)
+        m_conditions = std::make_unique<Conditions>();
+    return *m_conditions;
+}
 
 EAccessMode Node::GetAccessMode() const
 {
@@ -349,17 +358,18 @@ EAccessMode Node::computeAccessMode() const
     EAccessMode mode = RW;
     if (!ignoresConditions()) {
         mode = firstAccess();
-        const bool isConditional = m_isImplemented || m_isAvailable || m_isLocked; // few nodes are
+        const auto [isImplemented, isAvailable, isLocked, error, blocksPolling] = conditions();
+        const bool isConditional = isImplemented || isAvailable || isLocked;
         if (isConditional && mode != NI)
-            mode = combined(mode, availabilityOf({m_isImplemented, m_isAvailable, m_isLocked}));
+            mode = combined(mode, availabilityOf({isImplemented, isAvailable, isLocked}));
         if (mode != NI)
             mode = combined(mode, readAccess());
         if (isConditional && mode != NI)
-            mode = combined(mode, allowed(m_isImplemented, true, NI));
+            mode = combined(mode, allowed(isImplemented, true, NI));
         if (isConditional && IsAvailable(mode))
-            mode = combined(mode, allowed(m_isAvailable, true, NA));
+            mode = combined(mode, allowed(isAvailable, true, NA));
         if (isConditional && isWritable(mode))
-            mode = combined(mode, allowed(m_isLocked, false, RO));
+            mode = combined(mode, allowed(isLocked, false, RO));
         if (mode == NI)
             return NI;
     }
@@ -377,7 +387,8 @@ EAccessMode Node::everAccess() const
 bool Node::hasCachableConditions() const
 {
     const auto isCachable = [](const Node *node) { return !node || node->cachingMode() != NoCache; };
-    return isCachable(m_isImplemented) && isCachable(m_isAvailable) && isCachable(m_isLocked);
+    return isCachable(conditions().isImplemented) && isCachable(conditions().isAvailable)
+        && isCachable(conditions().isLocked);
 }
 
 EAccessMode Node::availabilityOf(std::initializer_list<const Node *> nodes)
@@ -392,7 +403,7 @@ EAccessMode Node::availabilityOf(std::initializer_list<const Node *> nodes)
 
 EAccessMode Node::implementation() const
 {
-    return m_broken || m_imposedAccess == NI ? NI : allowed(m_isImplemented, true, NI);
+    return m_broken || m_imposedAccess == NI ? NI : allowed(conditions().isImplemented, true, NI);
 }
 
 bool Node::isFulfilled(Node &node)
@@ -440,11 +451,14 @@ void Node::requireWritable(bool verify) const
 /** 0 is no error, whether there is an entry for it or not. */
 void Node::checkError() const
 {
-    const Verification unverified(m_map, false);
-    if (!m_error || m_error->intValue(false) == 0)
+    Node *const error = conditions().error;
+    if (!error)
         return;
-    m_error->intNumber(false); // throws where there is no such error
-    ORV_THROW(RuntimeException, std::string("node '") + m_name + "' reports " + m_error->text(false));
+    const Verification unverified(m_map, false);
+    if (error->intValue(false) == 0)
+        return;
+    error->intNumber(false); // throws where there is no such error
+    ORV_THROW(RuntimeException, std::string("node '") + m_name + "' reports " + error->text(false));
 }
 
 void Node::requireAvailable() const

@@ -167,7 +167,7 @@ public:
     /** The access mode of that condition; RW without one. */
     GenApi::EAccessMode implementationAccess() const
     {
-        return m_isImplemented ? m_isImplemented->accessMode() : GenApi::RW;
+        return conditions().isImplemented ? conditions().isImplemented->accessMode() : GenApi::RW;
     }
 
     /**
@@ -338,7 +338,10 @@ protected:
      * The availability of the nodes that are read for other purposes than the value, asked after the conditions: NI, NA
      * or RW. The nodes behind one that is not implemented are not asked.
      */
-    virtual GenApi::EAccessMode readAccess() const { return availabilityOf({m_error, m_blocksPolling}); }
+    virtual GenApi::EAccessMode readAccess() const
+    {
+        return m_conditions ? availabilityOf({m_conditions->error, m_conditions->blocksPolling}) : GenApi::RW;
+    }
 
     /** Intentionally, a value that is picked by an index is accessible to all who can read the index. */
     virtual bool ignoresConditions() const { return false; }
@@ -360,7 +363,10 @@ protected:
     bool accessVaries() const { return m_accessVaries; }
 
     /** The most that the node itself ever allows. */
-    GenApi::EAccessMode ownAccess() const { return m_isImplemented || m_broken ? implementation() : m_imposedAccess; }
+    GenApi::EAccessMode ownAccess() const
+    {
+        return conditions().isImplemented || m_broken ? implementation() : imposedAccess();
+    }
 
     /** Whether a written value that has led to an error is not kept. */
     virtual bool checksBeforeKeeping() const { return false; }
@@ -380,7 +386,6 @@ protected:
 
     [[noreturn]] void throwNoNumber() const;
 
-    NodeMapImpl &m_map;
     /** Marks a node as passing on a value that it keeps. */
     class PassingOn
     {
@@ -398,6 +403,9 @@ protected:
         Node &m_node;
     };
 
+    // Every change, poll and row of a feature tree asks the first two groups of members, each of a cache line; the
+    // first one begins with the pointers of the base classes.
+    NodeMapImpl &m_map;
     mutable bool m_accessOpen = false; ///< the access mode is being worked out, or could not be
     mutable bool m_accessComputing = false; ///< it is being worked out
     mutable bool m_accessKnown = false; ///< it was worked out, and nothing has changed since
@@ -405,44 +413,70 @@ protected:
 private:
     friend class DescriptionLoader;
 
+    /** A value of an enumeration of GenApi in one byte. */
+    template <typename Enum>
+    class InByte
+    {
+    public:
+        InByte(Enum value)
+            : m_value(static_cast<int8_t>(value))
+        {
+        }
+        operator Enum() const { return static_cast<Enum>(m_value); }
+
+    private:
+        int8_t m_value;
+    };
+
+    /** Other nodes on which the access to this one depends; each may be null. */
+    struct Conditions
+    {
+        Node *isImplemented = nullptr;
+        Node *isAvailable = nullptr;
+        Node *isLocked = nullptr;
+        Node *error = nullptr; ///< is 0 as long as there is none
+        Node *blocksPolling = nullptr;
+    };
+    const Conditions &conditions() const { return m_conditions ? *m_conditions : noConditions; }
+    Conditions &ownConditions();
+
     struct SelectorLinks
     {
         std::vector<Node *> selected;
         std::vector<Node *> selecting;
     };
 
-    // Names and callbacks are what every row of a feature tree asks for first: they share a cache line with m_map.
+    static const Conditions noConditions;
+
+    bool m_accessVaries = false;
+    bool m_passesOn = false; ///< a written value that will be kept
+    mutable InByte<GenApi::EAccessMode> m_access = GenApi::NI;
+    InByte<GenApi::EAccessMode> m_imposedAccess = GenApi::RW;
+    InByte<GenApi::ECachingMode> m_cachingMode = GenApi::WriteThrough; ///< with what the value is made of
+    mutable uint64_t m_accessEvaluation = 0; ///< the evaluation that worked out m_access
     const char *m_name;
     GenApi::CallbackList m_callbacks;
-    uint32_t m_index = 0; ///< place among the nodes of the map
-    const char *m_displayName = nullptr; ///< null: as the name
-    const char *m_toolTip = "";
-    const char *m_description = "";
+
+    std::unique_ptr<Conditions> m_conditions; ///< few nodes have any
     const char *m_broken = nullptr; ///< why the description of this node cannot be used
-    Node *m_isImplemented = nullptr;
-    Node *m_isAvailable = nullptr;
-    Node *m_isLocked = nullptr;
-    Node *m_error = nullptr; ///< is 0 as long as there is none
-    Node *m_blocksPolling = nullptr;
     std::vector<Node *> m_dependents;
-    std::unique_ptr<SelectorLinks> m_selectorLinks;
-    int64_t m_pollingTime = -1; ///< milliseconds
-    int64_t m_pollClock = 0; ///< milliseconds since the last poll
-    mutable uint64_t m_accessEvaluation = 0; ///< the evaluation that worked out m_access
     uint64_t m_changeMark = 0; ///< the last walk over dependents that came here
     uint64_t m_changeList = 0; ///< the last list of changes this node was put in
-    mutable GenApi::EAccessMode m_access = GenApi::NI;
-    GenApi::EAccessMode m_imposedAccess = GenApi::RW;
-    GenApi::EVisibility m_visibility = GenApi::Beginner;
-    GenApi::EVisibility m_imposedVisibility = GenApi::Beginner;
+    const char *m_displayName = nullptr; ///< null: as the name
+
+    std::unique_ptr<SelectorLinks> m_selectorLinks;
+    const char *m_toolTip = "";
+    const char *m_description = "";
+    int64_t m_pollingTime = -1; ///< milliseconds
+    int64_t m_pollClock = 0; ///< milliseconds since the last poll
+    uint32_t m_index = 0; ///< place among the nodes of the map
     uint32_t m_descriptionBegin = 0;
     uint32_t m_descriptionEnd = 0;
-    GenApi::ECachingMode m_cachingMode = GenApi::WriteThrough; ///< with what the value is made of
+    InByte<GenApi::EVisibility> m_visibility = GenApi::Beginner;
+    InByte<GenApi::EVisibility> m_imposedVisibility = GenApi::Beginner;
     bool m_streamable = false;
     bool m_isFeature = false;
     bool m_standardNameSpace = false;
-    bool m_accessVaries = false;
-    bool m_passesOn = false; ///< a written value that will be kept
 
     friend class Changes;
     friend class NodeMapImpl;

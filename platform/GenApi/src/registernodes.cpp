@@ -37,6 +37,8 @@ EAccessMode RegisterData::portAccess() const
 EAccessMode RegisterData::placeAccess() const
 {
     EAccessMode mode = RW;
+    if (m_isFixed)
+        return mode;
     for (const AddressTerm &term : m_addressTerms) {
         if (mode != NI)
             mode = combined(mode, Node::availabilityOf({term.value.node(), term.offset.node()}));
@@ -46,7 +48,7 @@ EAccessMode RegisterData::placeAccess() const
 
 int64_t RegisterData::length(const Node &owner)
 {
-    if (m_place.lengthIn != owner.map().evaluation()) {
+    if (!m_isFixed && m_place.lengthIn != owner.map().evaluation()) {
         const int64_t length = m_length.value();
         if (length < 1 || length > maximumLength)
             throwProperty(owner, "a length of " + std::to_string(length) + " bytes is not possible");
@@ -58,11 +60,15 @@ int64_t RegisterData::length(const Node &owner)
 
 const RegisterData::Place &RegisterData::place(const Node &owner)
 {
+    if (m_isFixed)
+        return m_place;
     length(owner);
     if (m_place.addressIn != owner.map().evaluation()) {
         m_place.address = computeAddress(owner);
         m_place.addressIn = owner.map().evaluation();
     }
+    const auto isConstant = [](const AddressTerm &term) { return !term.value.node() && !term.offset.node(); };
+    m_isFixed = !m_length.node() && std::all_of(m_addressTerms.begin(), m_addressTerms.end(), isConstant);
     return m_place;
 }
 

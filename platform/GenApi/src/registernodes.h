@@ -66,14 +66,15 @@ private:
     void requireLength(const Node &owner, const void *buffer, int64_t length);
 
     PortNode *m_port = nullptr;
-    std::vector<AddressTerm> m_addressTerms;
-    IntRef m_length;
-    Place m_place;
+    GenApi::EAccessMode m_accessMode = GenApi::RO;
+    bool m_isFixed = false; ///< m_place holds for good
+    bool m_bigEndian = false;
     PortNode::KeptRange *m_kept = nullptr; ///< found last, good in m_keptEpoch of the port
     uint64_t m_keptEpoch = 0;
-    GenApi::EAccessMode m_accessMode = GenApi::RO;
+    Place m_place;
+    std::vector<AddressTerm> m_addressTerms;
+    IntRef m_length;
     GenApi::ECachingMode m_cachable = GenApi::WriteThrough;
-    bool m_bigEndian = false;
 };
 
 /** IRegister on the outside, over RegisterData. \a Base is a ValueNode of the value's own interface. */

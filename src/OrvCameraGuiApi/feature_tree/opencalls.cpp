@@ -7,47 +7,54 @@
 
 namespace {
 
-struct Stack
-{
-    int calls = 0;
-    std::vector<QPointer<QObject>> retired; ///< while there are calls
-};
+// Constants to begin with, so that counting a call needs no look whether they exist already: every change of a feature
+// counts several.
+thread_local int calls = 0;
+thread_local bool hasRetired = false; ///< whether retired() has any
 
-Stack &stack()
+/** To be deleted when the calls have ended. */
+std::vector<QPointer<QObject>> &retired()
 {
-    static thread_local Stack stack;
-    return stack;
+    static thread_local std::vector<QPointer<QObject>> retired;
+    return retired;
+}
+
+void deleteRetired()
+{
+    hasRetired = false;
+    const auto objects = std::exchange(retired(), {});
+    for (const QPointer<QObject> &object : objects) {
+        if (object)
+            object->deleteLater();
+    }
 }
 
 } // namespace
 
 OpenCalls::Call::Call()
 {
-    ++stack().calls;
+    ++calls;
 }
 
 OpenCalls::Call::~Call()
 {
-    if (--stack().calls > 0 || stack().retired.empty())
-        return;
-    const auto retired = std::exchange(stack().retired, {});
-    for (const QPointer<QObject> &object : retired) {
-        if (object)
-            object->deleteLater();
-    }
+    if (--calls == 0 && hasRetired)
+        deleteRetired();
 }
 
 bool OpenCalls::any()
 {
-    return stack().calls > 0;
+    return calls > 0;
 }
 
 void OpenCalls::retire(QObject *object)
 {
     if (!object)
         return;
-    if (any())
-        stack().retired.emplace_back(object);
-    else
+    if (!any()) {
         object->deleteLater();
+        return;
+    }
+    retired().emplace_back(object);
+    hasRetired = true;
 }
