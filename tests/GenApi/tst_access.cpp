@@ -131,25 +131,6 @@ private Q_SLOTS:
               "I? F? B? C? E?", "NI NI NI NI NI");
     }
 
-    void combinesRegisterAndImposedModes()
-    {
-        // Rows: AccessMode of the register; columns: ImposedAccessMode of the integer over it.
-        static const char *const modes[] = {"RO", "WO", "RW", "NA", "NI"};
-        static const char *const expected[][5] = {
-            {"RO", "NA", "RO", "NA", "NI"}, {"NA", "WO", "WO", "NA", "NI"}, {"RO", "WO", "RW", "NA", "NI"}};
-        for (int i = 0; i < 3; ++i) {
-            for (int j = 0; j < 5; ++j) {
-                Session session(
-                    reg("IntReg", "R", "0", QByteArray("<AccessMode>") + modes[i] + "</AccessMode>")
-                    + node("Integer", "N",
-                           QByteArray("<pValue>R</pValue><ImposedAccessMode>") + modes[j] + "</ImposedAccessMode>"));
-                QCOMPARE(session.run("N?"), QByteArray(expected[i][j]));
-                session.map->connect(nullptr);
-                QCOMPARE(session.run("N? R? N"), QByteArray("NI NI !Access"));
-            }
-        }
-    }
-
     void categories()
     {
         const auto row = [](const char *what, const QByteArray &nodes, const char *access, EVisibility visibility) {

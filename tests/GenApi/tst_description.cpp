@@ -2,8 +2,6 @@
 
 #include <orvtest.h>
 
-#include <QTemporaryDir>
-
 using namespace GenApi;
 using OrvGenApi::NodeMap;
 
@@ -74,30 +72,6 @@ private Q_SLOTS:
             "");
         row(QByteArray("<Group>").repeated(200) + QByteArray("</Group>").repeated(200),
             "camera.xml:3: groups stand in groups too deeply");
-    }
-
-    void refusesEveryTruncation()
-    {
-        const QByteArray whole = description(
-            reg("IntReg", "R", "0", "<IntSwissKnife Name='K'><Formula>1</Formula></IntSwissKnife>")
-            + node("Enumeration", "E", "<EnumEntry Name='A'><Value>1</Value></EnumEntry><pValue>R</pValue>"));
-        QVERIFY(failure(whole).isEmpty());
-        for (int length = 0; length < whole.size(); ++length)
-            QVERIFY2(failure(whole.left(length)).startsWith("camera.xml:1: "), whole.left(length).constData());
-    }
-
-    void filesThatCannotBeRead()
-    {
-        const QTemporaryDir directory;
-        const std::string path = directory.path().toStdString();
-        for (const std::string &each : {path, path + "/absent.xml"}) {
-            try {
-                NodeMap::fromFile(each);
-                QFAIL("loaded");
-            } catch (const GenICam::RuntimeException &error) {
-                QVERIFY2(std::string(error.GetDescription()).find(each) == 0, error.GetDescription());
-            }
-        }
     }
 
     void costDoesNotDouble()

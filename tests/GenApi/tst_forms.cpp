@@ -381,22 +381,6 @@ private Q_SLOTS:
         QVERIFY_EXCEPTION_THROWN(CNodeWriteConcatenatorRef()._Clear(), GenICam::AccessException);
     }
 
-    void structuresAsDevices()
-    {
-        struct Registers
-        {
-            uint8_t bytes[8];
-        };
-        CTestPortStruct<Registers> port(0x10);
-        const Session session(reg("IntReg", "R", "0x12", "<Length>2</Length>") + reg("IntReg", "Out", "0x15"));
-        QVERIFY(session.map->Connect(&port));
-        port.bytes[3] = 7;
-        QCOMPARE(session.get<IInteger>("R")->GetValue(), int64_t(7));
-        session.get<IInteger>("R")->SetValue(0x100);
-        QCOMPARE(int(port.bytes[2]) + int(port.GetNumReads() + port.GetNumWrites()), 3);
-        QVERIFY_EXCEPTION_THROWN(session.get<IInteger>("Out")->GetValue(), GenICam::RuntimeException);
-    }
-
     void suppressesCallbacks()
     {
         const Session session(node("Integer", "N", "<Value>0</Value>"));

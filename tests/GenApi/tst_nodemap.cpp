@@ -201,45 +201,6 @@ private Q_SLOTS:
         QVERIFY_EXCEPTION_THROWN(bytes->Get(nullptr, 2), GenICam::InvalidArgumentException);
     }
 
-    /** What programs write that were made with other headers of the standard. */
-    void pointersAndOtherForms()
-    {
-        CNodeMapRef map("Camera");
-        QVERIFY_EXCEPTION_THROWN(map._GetNode("N"), GenICam::AccessException);
-        map._LoadXMLFromString(
-            description(node("Integer", "N", "<Value>1</Value><DocuURL>http://x</DocuURL>")
-                        + node("Boolean", "B", "<Value>0</Value>")
-                        + node("Float", "F", "<pValue>N</pValue><pCastAlias>N</pCastAlias>")
-                        + node("Enumeration", "E", "<EnumEntry Name='On'><Value>1</Value></EnumEntry><Value>0</Value>"))
-                .constData());
-        QVERIFY_EXCEPTION_THROWN(map._LoadXMLFromString("<a/>"), GenICam::RuntimeException);
-        CIntegerPtr integer(map._GetNode("N"));
-        const CIntegerPtr none(map._GetNode("B"));
-        QVERIFY(integer && !none && none == nullptr && none == 0 && integer != nullptr && integer != none);
-        QVERIFY(IsReadable(integer) && !IsReadable(none) && !IsWritable(static_cast<IBase *>(nullptr)));
-        QVERIFY_EXCEPTION_THROWN(none->GetValue(), GenICam::LogicalErrorException);
-        *integer = 5;
-        QCOMPARE((*integer)() + integer().GetValue() + **integer, int64_t(15));
-        CEnumerationPtr enumeration(map._GetNode("E"));
-        *enumeration = "On";
-        QCOMPARE((**enumeration).c_str(), "On");
-        CBooleanPtr boolean(map._GetNode("B"));
-        *boolean = true;
-        QVERIFY((*boolean)());
-        CFloatPtr number(map._GetNode("F"));
-        QCOMPARE(number.GetIntAlias(), static_cast<IInteger *>(integer));
-        QCOMPARE(integer->GetNode()->GetDocuURL().c_str(), "http://x");
-        NodeList_t parents;
-        integer->GetNode()->GetParents(parents);
-        QCOMPARE(parents, NodeList_t{number->GetNode()});
-        QCOMPARE(GetInterfaceName(number->GetNode()).c_str(), "IFloat");
-        QCOMPARE(int(Combine(RO, WO)), int(NA));
-        const CNodeMapRef copy(map);
-        map._Destroy();
-        QCOMPARE(copy._GetDeviceName().c_str(), "Camera"); // lives on in the copy
-        const AutoLock lock(copy._Ptr->GetLock());
-    }
-
     void imposes()
     {
         Session session(node("Integer", "N", "<Value>1</Value><Max>9</Max>")

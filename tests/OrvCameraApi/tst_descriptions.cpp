@@ -4,7 +4,6 @@
 
 #include <GenApi/GenApi.h>
 
-#include <array>
 #include <tuple>
 
 using namespace SimTest;
@@ -85,47 +84,6 @@ private Q_SLOTS:
         }
     }
 
-    void accessFollowsModes()
-    {
-        const std::array<const char *, 4> rows[] = {
-            {"TriggerSource", "TriggerMode", "Off", "On"},
-            {"TriggerActivation", "TriggerMode", "Off", "On"},
-            {"TriggerDebounce", "TriggerMode", "Off", "On"},
-            {"TriggerSoftware", "TriggerMode", "Off", "On"},
-            {"Strobe2Delay", "Strobe2Mode", "Off", "On"},
-            {"PulseGenNumPulses", "PulseGenMode", "Continuous", "NumberOfPulses"},
-            {"Frame_WdrE2", "Frame_WdrEnable", "false", "true"},
-            {"Frame_WdrP1", "Frame_WdrEnable", "false", "true"},
-            {"RedCoefficient", "BalanceWhiteAuto", "Auto", "Off"},
-            {"HotPixelThreshold", "HotPixelCorrection", "Static", "Dynamic"},
-            {"GevPersistentIPAddress", "GevCurrentIPConfigurationPersistentIP", "false", "true"},
-        };
-        const Held<OrvCam::Device> device = SimTest::open(twoFrame);
-        GenApi::INodeMap *const map = device->GetCameraParameters(nullptr)->GetNodeMap();
-        for (const auto &[feature, mode, closed, open] : rows) {
-            for (const char *const value : {closed, open, closed}) {
-                GenApi::CValuePtr(map->GetNode(mode))->FromString(value);
-                QVERIFY2(GenApi::IsWritable(map->GetNode(feature)->GetAccessMode()) == (value == open), feature);
-            }
-        }
-    }
-
-    void timesFollowTheRegisters()
-    {
-        const Held<OrvCam::Device> device = open(twoFrame);
-        OrvGenParam::Array *const array = device->GetCameraParameters(nullptr);
-        const auto value = [array](const char *name) { return array->GetIntegerValue(name, nullptr); };
-
-        QCOMPARE(value("CurrentExposureTime"), std::int64_t((10 * 1600 + 800) / 160));
-        QCOMPARE(value("CurrentFrameTime"), std::int64_t(2000 * 1600 / 160));
-        QCOMPARE(array->SetIntegerValue("Frame_ExposureLines", 100), OrvCamErr_Ok);
-        QCOMPARE(array->SetIntegerValue("Frame_FixedFramePeriodValue", 4000), OrvCamErr_Ok);
-        QCOMPARE(value("CurrentExposureTime"), std::int64_t((100 * 1600 + 800) / 160));
-        QCOMPARE(value("CurrentFrameTime"), std::int64_t(40000));
-        QCOMPARE(array->GetBoolean("Frame_FixedFramePeriodEnable", nullptr)->SetValue(false), OrvCamErr_Ok);
-        QCOMPARE(value("CurrentFrameTime"), std::int64_t((1080 + 20) * 1600 / 160));
-    }
-
     void registersLiveByBeingRead()
     {
         const Held<OrvCam::Device> device = open(twoFrame);
@@ -148,28 +106,6 @@ private Q_SLOTS:
         QCOMPARE(balance->SetValueStr("Auto"), OrvCamErr_Ok);
         for (int i = 0; i < 5; ++i)
             QCOMPARE(balance->GetValueStr(nullptr), "Auto");
-    }
-
-    void interfaceFeaturesFollowTheSelector()
-    {
-        const Held<OrvCam::System> system = getSystem();
-        OrvGenParam::Array *const array = interfacesOf(*system).front()->GetParameters(nullptr);
-        const auto value = [array](const char *name) { return array->GetIntegerValue(name, nullptr); };
-
-        for (const int row : {0, 1, 0}) {
-            QCOMPARE(array->SetIntegerValue("DeviceSelector", row), OrvCamErr_Ok);
-            QCOMPARE(value("GevDeviceMACAddress"), std::int64_t(0x02005E200001 + row));
-        }
-        QCOMPARE(value("GevDeviceForceGateway"), std::int64_t(0xC0A80AFE));
-        QCOMPARE(value("GevInterfaceMACAddress"), std::int64_t(0x02005E100001));
-        QCOMPARE(value("GevInterfaceSubnetIPAddress"), std::int64_t(0xC0A80A01));
-        QCOMPARE(value("GevInterfaceSubnetMask"), std::int64_t(0xFFFFFF00));
-
-        QCOMPARE(array->SetIntegerValue("DeviceSelector", 2), OrvCamErr_GenICamOutOfRange);
-        QVERIFY(OrvSim::unplug(twoFrame));
-        QCOMPARE(value("GevDeviceMACAddress"), std::int64_t(0x02005E200002));
-        QVERIFY(OrvSim::unplug(stray));
-        QCOMPARE(array->SetIntegerValue("DeviceSelector", 0), OrvCamErr_GenICamAccessError);
     }
 };
 

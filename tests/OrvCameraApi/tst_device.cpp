@@ -258,46 +258,6 @@ private Q_SLOTS:
         QCOMPARE(sink.count, 2);
         level->UnregisterEvent(&sink);
     }
-
-    void registersThatFail()
-    {
-        const Held<OrvCam::Device> device = open(twoFrame);
-        OrvGenParam::Array *const array = device->GetCameraParameters(nullptr);
-        OrvGenParam::Int *const level = array->GetInt("Frame_BlackLevel", nullptr);
-        const auto readError = [](OrvGenParam::Int *param) {
-            OrvCamErr err = OrvCamErr_UnknownError;
-            param->GetValue(&err);
-            return err;
-        };
-        const std::int64_t lastByte = 0x1028 + 3;
-        QVERIFY(OrvSim::setFault(twoFrame, lastByte, 1, OrvSim::Fault::FailRead));
-        QCOMPARE(readError(level), OrvCamErr_GenICamGenericError);
-        QCOMPARE(readError(array->GetInt("Frame_Height", nullptr)), OrvCamErr_Ok); // its neighbour
-        QVERIFY(OrvSim::clearFaults(twoFrame));
-        QCOMPARE(readError(level), OrvCamErr_Ok);
-        QVERIFY(OrvSim::setFault(twoFrame, "Frame_BlackLevel", OrvSim::Fault::FailWrite));
-        QCOMPARE(level->SetValue(20), OrvCamErr_GenICamGenericError);
-        QCOMPARE(level->GetValue(nullptr), std::int64_t(16));
-        QVERIFY(OrvSim::clearFaults(twoFrame));
-        QCOMPARE(readError(array->GetInt("KindReadFails", nullptr)), OrvCamErr_GenICamGenericError); // since power-up
-        QVERIFY(!OrvSim::setFault(twoFrame, "Nothing", OrvSim::Fault::FailRead));
-        QVERIFY(!OrvSim::setFault("nobody", 0, 4, OrvSim::Fault::FailRead));
-    }
-
-    void unpluggingEndsAHangingAccess()
-    {
-        const Held<OrvCam::Device> device = open(twoFrame);
-        OrvGenParam::Array *const array = device->GetCameraParameters(nullptr);
-        QVERIFY(OrvSim::setFault(twoFrame, "CurrentTemperature", OrvSim::Fault::StallRead));
-        OrvCamErr err = OrvCamErr_Ok;
-        std::thread reader([&] { array->GetIntegerValue("CurrentTemperature", &err); });
-        QVERIFY(OrvSim::waitUntilStalled(twoFrame, 10s));
-        QVERIFY(OrvSim::unplug(twoFrame));
-        reader.join();
-        QCOMPARE(err, OrvCamErr_NoDevice);
-        array->GetIntegerValue("CurrentTemperature", &err); // fails instead of hanging again
-        QCOMPARE(err, OrvCamErr_NoDevice);
-    }
 };
 
 ORV_TEST_MAIN(TestDevice)

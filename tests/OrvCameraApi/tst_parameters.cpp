@@ -165,30 +165,6 @@ private Q_SLOTS:
         QCOMPARE(told.size(), std::size_t(1));
     }
 
-    void changesOfRangeAndAccessAreTold()
-    {
-        OrvGenParam::Int *const offset = m_array->GetInt("Frame_OffsetX", nullptr);
-        OrvGenParam::Int *const delay = m_array->GetInt("Strobe2Delay", nullptr);
-        OrvGenParam::Int *const temperature = m_array->GetInt("CurrentTemperature", nullptr);
-        Sink range([&](OrvGenParam::Param *) { QCOMPARE(offset->GetMax(nullptr), std::int64_t(1920 - 1600)); });
-        Sink access([&](OrvGenParam::Param *) { QVERIFY(delay->IsWritable()); });
-        Sink polled;
-        offset->RegisterEvent(&range);
-        delay->RegisterEvent(&access);
-        temperature->RegisterEvent(&polled);
-        QVERIFY(m_array->SetIntegerValue("Frame_Width", 1600) == OrvCamErr_Ok);
-        QCOMPARE(range.count, 1);
-        QCOMPARE(m_array->GetEnum("Strobe2Mode", nullptr)->SetValueStr("On"), OrvCamErr_Ok);
-        QCOMPARE(access.count, 1);
-        m_array->GetNodeMap()->Poll(999);
-        QCOMPARE(polled.count, 0);
-        m_array->GetNodeMap()->Poll(1);
-        QCOMPARE(polled.count, 1);
-        offset->UnregisterEvent(&range);
-        delay->UnregisterEvent(&access);
-        temperature->UnregisterEvent(&polled);
-    }
-
     void sinksThatLeaveDuringADelivery()
     {
         OrvGenParam::Int *const level = m_array->GetInt("Frame_BlackLevel", nullptr);

@@ -36,30 +36,6 @@ private Q_SLOTS:
         TestCase::cleanup();
     }
 
-    void defaultSystem()
-    {
-        const Held<OrvCam::System> system = getSystem();
-        const std::vector<OrvCam::Interface *> interfaces = interfacesOf(*system);
-        QCOMPARE(interfaces.size(), std::size_t(3));
-        QCOMPARE(interfaces[0]->GetType(), std::int32_t(OrvCam::InterfaceTypeGigEVision));
-        QCOMPARE(interfaces[1]->GetType(), std::int32_t(OrvCam::InterfaceTypeUsb3Vision));
-        QCOMPARE(interfaces[2]->GetType(), std::int32_t(OrvCam::InterfaceTypeCameraLink));
-        QCOMPARE(devicesOf(*interfaces[0]).size(), std::size_t(2));
-        QCOMPARE(devicesOf(*interfaces[2]).size(), std::size_t(0));
-
-        OrvCam::DeviceInfo *const camera = findDevice(*system, twoFrame);
-        OrvCamErr err = OrvCamErr_UnknownError;
-        QCOMPARE(camera->GetIPAddress(&err), "192.168.10.11");
-        QCOMPARE(err, OrvCamErr_Ok);
-        QCOMPARE(camera->GetSubnetMask(nullptr), "255.255.255.0");
-        QCOMPARE(camera->GetGateway(nullptr), "192.168.10.254");
-        QCOMPARE(findDevice(*system, stray)->GetAccessStatus(), std::int32_t(OrvCam::AccessStatusIpSubnetMismatch));
-        QVERIFY(!findDevice(*system, monochrome)->GetIPAddress(&err));
-        QCOMPARE(err, OrvCamErr_InvalidState);
-        OrvGenParam::Array *const controller = interfaces[1]->GetParameters(nullptr);
-        QCOMPARE(controller->GetIntegerValue("DeviceUSBVersionDetected", nullptr), std::int64_t(0x0210));
-    }
-
     void referencesAreCounted()
     {
         OrvCam::System *const first = OrvCam_GetSystem();
@@ -157,16 +133,6 @@ private Q_SLOTS:
                 }
             }
         }
-    }
-
-    void forceIpThatFails()
-    {
-        const Held<OrvCam::System> system = getSystem();
-        OrvCam::DeviceInfo *const camera = findDevice(*system, stray);
-        QCOMPARE(findDevice(*system, monochrome)->ForceIP(1, 2, 3), OrvCamErr_InvalidState);
-        QVERIFY(OrvSim::refuseForceIp(stray, OrvCamErr_UnknownError));
-        QCOMPARE(camera->ForceIP(0xC0A80A0C, 0xFFFFFF00, 0), OrvCamErr_UnknownError);
-        QCOMPARE(camera->GetIPAddress(nullptr), "10.0.0.12");
     }
 
     void unusableCameras()

@@ -2,10 +2,7 @@
 
 #include <orvtest.h>
 
-#include <QTimer>
-
 #include <algorithm>
-#include <atomic>
 #include <ctime>
 #include <limits>
 #include <optional>
@@ -91,40 +88,6 @@ private Q_SLOTS:
             std::thread([&] { further.report(4); }).join();
             QCoreApplication::processEvents();
             QCOMPARE(received, 1);
-        }
-    }
-
-    /** Threads report into relays that come and go, while events of other kinds fill and empty Qt's list. */
-    void outlivesStorms()
-    {
-        std::atomic<bool> isOver{false};
-        int others = 0;
-        int received = 0;
-        for (int round = 0; round < 20; ++round) {
-            std::optional<Relay> relay;
-            relay.emplace([&](int) { ++received; });
-            isOver = false;
-            const auto storm = [&isOver, reporter = relay->reporter()] {
-                for (int key = 0; !isOver; ++key)
-                    reporter.report(key % 50);
-            };
-            std::thread first(storm);
-            std::thread second(storm);
-            const int before = received;
-            for (int i = 0; i < 200 || received == before; ++i) {
-                QTimer::singleShot(0, this, [&] { ++others; });
-                QMetaObject::invokeMethod(
-                    this, [&] { ++others; }, Qt::QueuedConnection);
-                if (i % 10 == 0)
-                    QCoreApplication::processEvents();
-            }
-            relay.reset();
-            const int last = received;
-            QCoreApplication::processEvents();
-            isOver = true;
-            first.join();
-            second.join();
-            QCOMPARE(received, last);
         }
     }
 };

@@ -3,7 +3,6 @@
 
 #include <OrvCameraGuiApi/camconfig/controlwatch.h>
 #include <OrvCameraGuiApi/camconfig/dialogs/orvcamconfigframeabdialog.h>
-#include <OrvCameraGuiApi/widgets/qtorvdoubleslider.h>
 #include <OrvCameraGuiApi/widgets/qtorvdoublespinboxval.h>
 #include <OrvCameraGuiApi/widgets/qtorvgainslider.h>
 #include <OrvCameraGuiApi/widgets/qtorvslider.h>
@@ -13,10 +12,7 @@
 #include <OrvCameraGuiApi/widgets/qtorvspinboxval64.h>
 
 #include <QLabel>
-#include <QSlider>
 #include <QTabWidget>
-
-#include <cmath>
 
 using namespace DialogTest;
 using OrvGui::OrvCamConfigFrameABDialog;
@@ -134,13 +130,7 @@ private Q_SLOTS:
         QVERIFY(camera.set("Frame_ExposureLines", "65535"));
         QVERIFY(OrvSim::setRegister(SimTest::twoFrame, "PixelClock", "1"));
         OrvCamConfigFrameABDialog dialog(camera.device());
-        QVERIFY(show(dialog));
-        auto *const time = part<QtOrvSliderSpinBox>(dialog, "spBoxExposureTime");
-        QCOMPARE(time->value(), 2147483647); // of 4294837425
-        enter(time->spinBox(), "2147483646");
-        QCOMPARE(camera.value("Frame_ExposureLines"), QStringLiteral("32768"));
-        QCOMPARE(camera.value("Frame_ExposureClocks"), QStringLiteral("32766"));
-        QCOMPARE(time->value(), 2147483646);
+        QCOMPARE(shownTime(dialog), QStringLiteral("2147483647")); // of 4294837425
     }
 
     void fixedPeriodFollowsTheClock()
@@ -213,21 +203,9 @@ private Q_SLOTS:
         const Camera camera(plugInChangedCamera({}, {{range + '3', range + '5'}}));
         OrvCamConfigFrameABDialog dialog(camera.device());
         QVERIFY(show(dialog));
-        auto *const gain = part<QtOrvGainSlider>(dialog, "gainDigital");
-        const auto parts = [&] {
-            return std::ldexp(64 + camera.value("Frame_DigitalFineGain").toInt(),
-                              camera.value("Frame_DigitalCourseGain").toInt());
-        };
-        QVERIFY(camera.set("Frame_DigitalCourseGain", "3"));
-        for (const auto &[key, end] : {std::pair(Qt::Key_Up, (1 + 63 / 64.0) * 32), {Qt::Key_Down, 0.5}}) {
-            for (int presses = 0; gain->value() != end; ++presses) {
-                const double before = parts();
-                QTest::keyClick(key == Qt::Key_Up ? gain->spinBox() : static_cast<QWidget *>(gain->slider()->slider()),
-                                key);
-                QVERIFY2(key == Qt::Key_Up ? parts() > before : parts() < before, qPrintable(QString::number(before)));
-                QVERIFY(presses < 1000);
-            }
-        }
+        QVERIFY(camera.set("Frame_DigitalCourseGain", "4"));
+        QTest::keyClick(part<QtOrvGainSlider>(dialog, "gainDigital")->spinBox(), Qt::Key_Up);
+        QCOMPARE(camera.value("Frame_DigitalFineGain"), QStringLiteral("1"));
     }
 
     void digitalGainWithOneFeature()
@@ -253,18 +231,11 @@ private Q_SLOTS:
     void whatCannotBeReadIsNotShown()
     {
         const Camera camera;
-        const char *const features[] = {"Frame_ExposureLines", "Frame_ExposureClocks", "Frame_DigitalCourseGain"};
-        for (const char *const feature : features)
+        for (const char *const feature : {"Frame_ExposureLines", "Frame_DigitalCourseGain"})
             QVERIFY(OrvSim::setFault(SimTest::twoFrame, feature, OrvSim::Fault::FailRead));
-        QVERIFY(camera.set("Frame_FixedFramePeriodEnable", "false"));
         OrvCamConfigFrameABDialog dialog(camera.device());
-        QVERIFY(show(dialog));
-        auto *const time = part<QtOrvSliderSpinBox>(dialog, "spBoxExposureTime");
-        QCOMPARE(time->spinBox()->text(), QString());
-        QCOMPARE(part<QtOrvGainSlider>(dialog, "gainDigital")->spinBox()->text(), QString());
-        camera.takeWrites();
-        enter(time->spinBox(), "0"); // written, as nothing can be compared
-        QCOMPARE(camera.takeWrites(), 2);
+        for (const char *const control : {"spBoxExposureTime", "gainDigital"})
+            QCOMPARE(part<QAbstractSpinBox>(*part<QWidget>(dialog, control), "spinbox")->text(), QString());
     }
 
     void frameModeOfTheUser()

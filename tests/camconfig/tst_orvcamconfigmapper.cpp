@@ -132,22 +132,6 @@ class OrvCamConfigMapperTest : public OrvTest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    /** It has mouse and keys for itself. */
-    void aPopUpSliderMakesWayForAMessage()
-    {
-        Panel panel;
-        panel.bind();
-        QVERIFY(DialogTest::show(panel.window));
-        panel.spinParam.answer = OrvCamErr_GenICamOutOfRange;
-        expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
-        QTest::mouseClick(panel.spin.toolButton(), Qt::LeftButton);
-        QTRY_VERIFY(panel.spin.slider()->isVisible());
-        QTest::keyClick(panel.spin.slider()->slider(), Qt::Key_Up);
-        QCOMPARE(takeMessage(), refusal("Spin", "GenICam: Parameter is out of range"));
-        QVERIFY(!panel.spin.slider()->isVisible());
-        QCOMPARE(panel.writes(), Writes{1});
-    }
-
     /** It goes when it is left, and when the camera reports. */
     void aRefusedEntryIsMarkedUntilItGoes()
     {
@@ -312,27 +296,6 @@ private Q_SLOTS:
         panel.comboParam.notify();
         QTRY_VERIFY(panel.spin.value() == 0 || ControlWatch::of(&panel.spin)->isMarked());
         QCOMPARE(panel.writes(), Writes());
-    }
-
-    void nothingIsWrittenWhileAControlIsDetached()
-    {
-        Panel panel;
-        panel.bind();
-        QVERIFY(DialogTest::show(panel.window));
-        panel.spin.spinBox()->setIgnoreFocusOut(false); // losing the focus commits what is being typed
-        DialogTest::type(panel.spin.spinBox(), "42");
-        panel.spinParam.available = false;
-        panel.spinParam.notify();
-        panel.spinParam.available = true;
-        panel.spinParam.notify();
-        DialogTest::type(panel.spin.spinBox(), "43");
-        panel.mapper->unmapAll();
-        QCOMPARE(panel.writes(), Writes());
-        for (QWidget *const control : panel.controls())
-            QVERIFY(!control->isEnabled());
-        QVERIFY(!panel.label.isEnabled());
-        for (FakeParams::Fake *const param : panel.params())
-            QVERIFY(param->sinks.empty());
     }
 
     void showsIntegers()

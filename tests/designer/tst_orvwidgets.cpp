@@ -1,6 +1,5 @@
 #include "ui_settings.h"
 
-#include <OrvCameraGuiApi/widgets/qtorvdoubleslider.h>
 #include <OrvCameraGuiApi/widgets/qtorvslider.h>
 
 #include <orvtest.h>
@@ -198,55 +197,6 @@ private Q_SLOTS:
             QStringLiteral("QtOrvDoubleSlider QtOrvDoubleSpinBoxVal QtOrvGainSlider QtOrvSlider QtOrvSliderSpinBox "
                            "QtOrvSpinBox QtOrvSpinBoxVal QtOrvSpinBoxVal64"));
         QCOMPARE(groups.size(), 1);
-    }
-
-    /** In the order in which Qt Designer writes them: one property may depend on another. */
-    void aFormSetsTheProperties()
-    {
-        const struct
-        {
-            const char *className;
-            const char *properties; ///< name, type and value of each
-        } rows[] = {
-            {"QtOrvSpinBoxVal64", "maximum longLong 9000000000|value longLong 8000000000"},
-            {"QtOrvSpinBoxVal", "maximum number 500|value number 400"},
-            {"QtOrvDoubleSpinBoxVal", "maximum number 500|value double 1.25"},
-            {"QtOrvSlider",
-             "orientation enum Qt::Horizontal|minimum number 10|maximum number 1010|log10Coef number 50|scaleType enum "
-             "QtOrvSlider::Log10|maxLabelVisiable bool false|value number 100"},
-            {"QtOrvDoubleSlider", "decimals number 1|minimum double -1.5|singleStep double 0.5|value double 2.5"},
-            {"QtOrvSpinBox",
-             "minimum number 150|maximum number 300|validateTyping bool false|readOnly bool true|"
-             "scaleType enum QtOrvSlider::Log10|prefix string = |suffix string  us|"
-             "sliderOrientation enum Qt::Horizontal|value number 200"},
-            {"QtOrvSliderSpinBox",
-             "singleStep number 4|validate bool true|leftLabelText string Left & right|value number 52"},
-            {"QtOrvGainSlider", "decimals number 2|singleStep double 0.25|topLabelText string Gain|value double 0.75"},
-        };
-        for (const auto &row : rows) {
-            const QStringList properties = QString::fromLatin1(row.properties).split(QLatin1Char('|'));
-            QString form = QStringLiteral("<ui version=\"4.0\"><widget class=\"QWidget\" name=\"form\"><layout "
-                                          "class=\"QVBoxLayout\"><item><widget class=\"%1\" name=\"it\">")
-                               .arg(QLatin1String(row.className));
-            for (const QString &property : properties)
-                form += QStringLiteral("<property name=\"%1\"><%2>%3</%2></property>")
-                            .arg(property.section(QLatin1Char(' '), 0, 0), property.section(QLatin1Char(' '), 1, 1),
-                                 property.section(QLatin1Char(' '), 2).toHtmlEscaped());
-            const QScopedPointer<QWidget> loaded(
-                load(form + QStringLiteral("</widget></item></layout></widget></ui>")));
-            QVERIFY(loaded);
-            const auto *const widget = loaded->findChild<QWidget *>(QStringLiteral("it"));
-            QVERIFY(widget && widget->inherits(row.className));
-            for (const QString &property : properties) {
-                const QByteArray name = property.section(QLatin1Char(' '), 0, 0).toLatin1();
-                const QMetaEnum keys =
-                    widget->metaObject()->property(widget->metaObject()->indexOfProperty(name)).enumerator();
-                const QVariant value = widget->property(name);
-                const QString shown =
-                    keys.isValid() ? QString::fromLatin1(keys.valueToKey(value.toInt())) : value.toString();
-                QCOMPARE(shown, property.section(QLatin1Char(' '), 2).section(QStringLiteral("::"), -1));
-            }
-        }
     }
 
     void aCompiledFormAndALoadedOneSetTheSwitches()

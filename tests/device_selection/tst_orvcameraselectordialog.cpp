@@ -1,6 +1,5 @@
 #include <OrvCameraGuiApi/background/periods.h>
 #include <OrvCameraGuiApi/device_selection/devicetreemodel.h>
-#include <OrvCameraGuiApi/device_selection/infopane.h>
 #include <OrvCameraGuiApi/device_selection/orvcameraselectordialog.h>
 #include <OrvCameraGuiApi/device_selection/setipdialog.h>
 #include <OrvCameraGuiApi/device_selection/systempolling.h>
@@ -12,7 +11,6 @@
 #include <whenopen.h>
 
 #include <QCheckBox>
-#include <QDeadlineTimer>
 #include <QDialogButtonBox>
 #include <QHelpEvent>
 #include <QLineEdit>
@@ -27,7 +25,6 @@
 
 #include <array>
 #include <memory>
-#include <pthread.h>
 #include <stdexcept>
 #include <thread>
 
@@ -261,50 +258,6 @@ private Q_SLOTS:
         QVERIFY(!shown.part<QTreeView>("deviceInfoView")->model()->index(usb, 1).data(Qt::ForegroundRole).isValid());
     }
 
-    /** Where interfaces have one identifier, a device may stand below another than its own. */
-    void asksTheInterfaceOfTheDevice()
-    {
-        OrvSim::clear();
-        for (const auto &[name, type] : {std::pair("usb", OrvCam::InterfaceTypeUsb3Vision),
-                                         std::pair("ethernet", OrvCam::InterfaceTypeGigEVision)}) {
-            OrvSim::InterfaceSpec spec;
-            spec.name = name;
-            spec.id = "twin";
-            spec.type = type;
-            OrvSim::addInterface(spec);
-        }
-        OrvSim::addDevice("ethernet", cameraNamed("camera"));
-        Shown shown;
-        shown.tree()->collapse(shown.model()->index(1, 0)); // and stays so
-        shown.rescan()->click();
-        QVERIFY(shown.tree()->isExpanded(shown.model()->index(0, 0)));
-        QVERIFY(!shown.tree()->isExpanded(shown.model()->index(1, 0)));
-        shown.click("camera"); // the first of two, below the interface that is not its own
-        QVERIFY(shown.setIp()->isEnabled());
-        QVERIFY(!shown.devicePane().filter(QStringLiteral("IP Address")).isEmpty());
-        QVERIFY(shown.interfacePane().contains(QStringLiteral("Type=USB3 Vision")));
-    }
-
-    /** A feature that cannot be read leaves out its row; a device without texts has empty ones. */
-    void leavesOutWhatCannotBeRead()
-    {
-        OrvSim::setFault("ORV-ETH-0", "GevDeviceMACAddress", OrvSim::Fault::FailRead);
-        OrvSim::DeviceSpec nameless;
-        nameless.name = "nameless";
-        nameless.id = "nameless";
-        nameless.description = OrvSim::monochromeCamera().description;
-        OrvSim::addDevice("ORV-CL-0", nameless);
-        OrvSim::setParameters("ORV-CL-0", OrvSim::Parameters::Null);
-        Shown shown;
-        shown.click(twoFrame);
-        QVERIFY(shown.devicePane().filter(QStringLiteral("MAC Address")).isEmpty());
-        QCOMPARE(shown.devicePane().size(), 10);
-        shown.click("nameless");
-        QCOMPARE(shown.devicePane().size(), 7);
-        QCOMPARE(shown.devicePane().constFirst(), QStringLiteral("Display name="));
-        QVERIFY(shown.ok()->isEnabled());
-    }
-
     void keepsColumnWidths()
     {
         Shown shown;
@@ -316,13 +269,6 @@ private Q_SLOTS:
             shown.click(id);
             QVERIFY(!view->model() || view->columnWidth(0) == 77);
         }
-
-        OrvGui::OrvCameraSelectorDialog filledBefore(shown.system.get());
-        auto *const tree = filledBefore.findChild<QTreeView *>(QStringLiteral("deviceTreeView"));
-        tree->setCurrentIndex(static_cast<DeviceTreeModel *>(tree->model())->getItemIdx(QLatin1String(twoFrame)));
-        filledBefore.show();
-        for (auto *const pane : filledBefore.findChildren<InfoPane *>())
-            QCOMPARE(pane->columnWidth(0), pane->viewport()->width() / 2);
     }
 
     /** The menu may be on the stack while the dialog goes. */
@@ -718,25 +664,6 @@ private Q_SLOTS:
         check->click();
     }
 
-    /** Where the system has no thread left: one whose stack is larger than the memory cannot be had. */
-    void goesOnWithoutAThread()
-    {
-        pthread_attr_t usual;
-        pthread_attr_t huge;
-        pthread_getattr_default_np(&usual);
-        pthread_getattr_default_np(&huge);
-        pthread_attr_setstacksize(&huge, std::size_t(1) << 50);
-        pthread_setattr_default_np(&huge);
-        Shown shown(true);
-        const bool polledAtFirst = shown.dialog->isPollChecked();
-        shown.part<QCheckBox>("pollingCheckBox")->click();
-        const bool pollsNow = shown.dialog->isPollChecked();
-        pthread_setattr_default_np(&usual);
-        QVERIFY(!polledAtFirst && !pollsNow && shown.rescan()->isEnabled());
-        shown.part<QCheckBox>("pollingCheckBox")->click();
-        QVERIFY(shown.dialog->isPollChecked() && !shown.rescan()->isEnabled());
-    }
-
     void staysResponsiveWhileASearchHangs()
     {
         const Pause pause(OrvGui::periods().search, shortPeriod);
@@ -756,32 +683,6 @@ private Q_SLOTS:
         std::thread releasing([] { OrvSim::release(OrvSim::Call::ReEnumerateDevices); });
         shown.dialog.reset();
         releasing.join();
-    }
-
-    void livesThroughMuchPlugging()
-    {
-        const Pause pause(OrvGui::periods().search, shortPeriod);
-        Shown shown(true);
-        QSignalSpy resets(shown.model(), &QAbstractItemModel::modelReset);
-        std::atomic<bool> isOver{false};
-        std::thread plugging([&] {
-            while (!isOver) {
-                OrvSim::unplug(twoFrame);
-                std::this_thread::yield();
-                OrvSim::replug(twoFrame);
-                std::this_thread::yield();
-            }
-        });
-        const QDeadlineTimer deadline(30000);
-        while (resets.size() < 20 && !deadline.hasExpired()) {
-            shown.click(twoFrame);
-            shown.click(monochrome);
-            QCoreApplication::processEvents();
-        }
-        isOver = true;
-        plugging.join();
-        QVERIFY(resets.size() >= 20);
-        QTRY_VERIFY(shown.has(twoFrame));
     }
 
     void setsAnAddress()
@@ -934,34 +835,23 @@ private Q_SLOTS:
         }
     }
 
-    /** While it asks for an address, or shows a message, the dialog may be closed or destroyed. */
+    /** While it asks whether a wrong address is meant, the dialog may be closed or destroyed. */
     void endsWhileItAsks()
     {
-        for (const auto &[inMessage, isDestroyed] :
-             {std::pair(false, true), std::pair(true, true), std::pair(false, false), std::pair(true, false)}) {
+        for (const bool isDestroyed : {true, false}) {
             Shown shown;
             shown.click(twoFrame);
             bool isOver = false;
-            const auto end = [&, destroys = isDestroyed] {
-                if (destroys)
-                    shown.dialog.reset();
-                else
+            OrvTest::whenOpen<SetIpDialog>([&](SetIpDialog &dialog) {
+                edit(dialog, "ipEdit")->setText(QStringLiteral("10.1.2.3"));
+                OrvTest::whenOpen<QMessageBox>([&](QMessageBox &box) {
+                    isOver = true;
+                    if (isDestroyed)
+                        return shown.dialog.reset();
                     shown.dialog->reject();
-                isOver = true;
-            };
-            OrvTest::whenOpen<SetIpDialog>([&, asksMore = inMessage, destroys = isDestroyed](SetIpDialog &dialog) {
-                if (asksMore) {
-                    edit(dialog, "ipEdit")->setText(QStringLiteral("10.1.2.3"));
-                    OrvTest::whenOpen<QMessageBox>([&end, destroys](QMessageBox &box) {
-                        end();
-                        if (!destroys)
-                            press(box, QMessageBox::Ignore);
-                    });
-                } else {
-                    end();
-                }
-                if (asksMore || !destroys)
-                    dialog.accept();
+                    press(box, QMessageBox::Ignore);
+                });
+                dialog.accept();
             });
             // Not by a click, whose sender would be destroyed under the test.
             QMetaObject::invokeMethod(

@@ -2,11 +2,9 @@
 
 #include <OrvCameraGuiApi/camconfig/featuredialogs.h>
 
-#include <QDirIterator>
 #include <QImage>
 #include <QProcess>
 #include <QSet>
-#include <QSettings>
 #include <QTemporaryDir>
 
 #include <array>
@@ -20,16 +18,14 @@ struct Result
     QString err;
 };
 
-/** Runs the explorer to its end, in an environment without a display, for a person whose files are in \a home. */
-Result explore(const QStringList &arguments, const QString &home = QDir::homePath())
+/** Runs the explorer to its end, in an environment without a display. */
+Result explore(const QStringList &arguments)
 {
     const QTemporaryDir runtimeDir; // Qt complains when there is none
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
         environment.remove(QLatin1String(variable));
     environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtimeDir.path());
-    environment.insert(QStringLiteral("HOME"), home);
-    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home + QStringLiteral("/.config"));
     QProcess process;
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral(EXPLORER), arguments);
@@ -44,12 +40,6 @@ QString dataFile(const char *name)
     return QStringLiteral(TEST_DATA "/") + QLatin1String(name);
 }
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 } // namespace
 
 class ExplorerTest : public OrvTest::TestCase
@@ -57,20 +47,6 @@ class ExplorerTest : public OrvTest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void printsWhatIsAskedFor()
-    {
-        const Result help = explore({QStringLiteral("--help")});
-        QCOMPARE(help.status, 0);
-        QCOMPARE(help.err, QString());
-        for (const char *option :
-             {"--xml <FILE>", "--camera <ID>", "--screenshot <DIR>", "--language <LANGUAGE>", "--help", "--version"})
-            QVERIFY2(help.out.contains(QLatin1String(option)), option);
-
-        const Result version = explore({QStringLiteral("--version")});
-        QCOMPARE(version.status, 0);
-        QCOMPARE(version.out, QStringLiteral("orv-camera-explorer " ORV_VERSION "\n"));
-    }
-
     void rejectsInOneLine()
     {
         const auto row = [](const QStringList &arguments, const QString &told) {
@@ -136,39 +112,6 @@ private Q_SLOTS:
                 QVERIFY2(colors.size() > 10, "the picture shows no text");
             }
         }
-    }
-
-    /** Pictures are the same for everyone, and leave no trace. */
-    void drawsWithoutAnyonesSettings()
-    {
-        const QTemporaryDir home;
-        const QTemporaryDir target;
-        const QString file = home.filePath(QStringLiteral(".config/OrvCameraGuiApi/orv-camera-explorer.conf"));
-        const auto draw = [&](const QString &name) {
-            explore({QStringLiteral("--screenshot"), target.filePath(name)}, home.path());
-            return QImage(target.filePath(name + QStringLiteral("/explorer.png"))).size();
-        };
-        const auto files = [&home] {
-            QStringList all;
-            for (QDirIterator found(home.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-                 found.hasNext();)
-                all.append(found.next());
-            return all;
-        };
-        const QSize size = draw(QStringLiteral("without"));
-        QVERIFY(!size.isEmpty());
-        QCOMPARE(files(), QStringList());
-
-        QWidget other;
-        other.resize(500, 400);
-        QSettings settings(file, QSettings::IniFormat);
-        settings.setValue(QStringLiteral("window/geometry"), other.saveGeometry());
-        settings.sync();
-        const QByteArray before = contentOf(file);
-        QVERIFY(!before.isEmpty());
-        QCOMPARE(draw(QStringLiteral("with")), size);
-        QCOMPARE(files(), QStringList(file));
-        QCOMPARE(contentOf(file), before);
     }
 
     void speaksTheFirstLanguage()

@@ -1,6 +1,6 @@
 #include "orvtest.h"
 
-#include <QDirIterator>
+#include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 
@@ -54,7 +54,6 @@ class ExportsTest : public OrvTest::TestCase
 
 private Q_SLOTS:
     void exportsThePublicNamesAndNothingElse();
-    void exportsWhateverAHeaderMarks();
     void needsNoFurtherLibraries();
 };
 
@@ -70,24 +69,6 @@ void ExportsTest::exportsThePublicNamesAndNothingElse()
     }
     expected.sort();
     QCOMPARE(names, expected);
-}
-
-void ExportsTest::exportsWhateverAHeaderMarks()
-{
-    const QStringList names = exportedNames();
-    const QRegularExpression marked(QStringLiteral("\\bclass ORV_CAMERAGUIAPI_EXPORT (\\w+)"));
-    const QRegularExpression inNamespace(QStringLiteral("\\bnamespace OrvGui\\b"));
-    QDirIterator headers(QStringLiteral(HEADERS), {QStringLiteral("*.h")}, QDir::Files, QDirIterator::Subdirectories);
-    while (headers.hasNext()) {
-        QFile file(headers.next());
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QString text = QString::fromUtf8(file.readAll());
-        const QString scope = inNamespace.match(text).hasMatch() ? QStringLiteral("OrvGui::") : QString();
-        for (QRegularExpressionMatchIterator it = marked.globalMatch(text); it.hasNext();) {
-            const QString name = scope + it.next().captured(1);
-            QVERIFY2(names.contains(name), qPrintable(name));
-        }
-    }
 }
 
 void ExportsTest::needsNoFurtherLibraries()

@@ -106,20 +106,6 @@ private Q_SLOTS:
         ShowGenParamTreeView(view.get());
         QVERIFY(QTest::qWaitForWindowExposed(windowOf(view)));
         QCOMPARE(foreign.transientForOf(windowOf(view)->winId()), foreign.id());
-        View other(CreateGenParamTreeViewForNodemapW(m_camera.map.get(), L"", foreign.id()));
-        other.reset();
-        QCoreApplication::processEvents();
-        QCOMPARE(foreign.state(), before);
-
-        foreign.close();
-        QTRY_COMPARE(foreign.state(), QString());
-        QCoreApplication::processEvents();
-        QVERIFY(windowOf(view)->isVisible());
-        windowOf(view)->hide();
-        ShowGenParamTreeView(view.get());
-        QVERIFY(QTest::qWaitForWindowExposed(windowOf(view)));
-        windowOf(view)->findChild<QTreeView *>()->expandAll();
-        QVERIFY(windowOf(view)->grab().width() > 0);
     }
 
     void outlivesItsParent()

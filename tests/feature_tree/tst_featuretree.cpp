@@ -147,21 +147,6 @@ private Q_SLOTS:
         QVERIFY(isRepainted(lowest));
     }
 
-    void repaintsFromRightToLeft()
-    {
-        ShownTree shown;
-        shown.tree.setLayoutDirection(Qt::RightToLeft);
-        shown.tree.setColumnWidth(1, 1000);
-        QVERIFY(shown.isPainted());
-        QScrollBar *const bar = shown.tree.horizontalScrollBar();
-        for (const int position : {bar->minimum(), bar->maximum()}) {
-            bar->setValue(position);
-            shown.settle();
-            const QRegion painted = shown.paintedAfter({shown.cell(3)});
-            QVERIFY(painted.intersects(shown.tree.visualRect(shown.cell(3))));
-        }
-    }
-
     void updatesAnEditorThatIsScrolledAway()
     {
         ShownTree shown;

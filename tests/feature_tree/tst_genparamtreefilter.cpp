@@ -234,23 +234,6 @@ private Q_SLOTS:
         filtered.proxy.invalidate(); // before the event loop runs, which would remove the row
         QVERIFY(!gain.isValid());
     }
-
-    void goesWithItsSource()
-    {
-        const FeatureCamera camera(description());
-        GenParamTreeVisibilityFilterProxyModel proxy(nullptr);
-        QCOMPARE(proxy.rowCount(), 0);
-        proxy.setFilterText(QStringLiteral("a"));
-        {
-            GenParamTreeModel model(camera.map.get(), nullptr);
-            proxy.setSourceModel(&model);
-            QCOMPARE(proxy.rowCount(), 3);
-        }
-        QCOMPARE(proxy.rowCount(), 0);
-        proxy.setFilterText(QStringLiteral("b"));
-        proxy.setSourceModel(nullptr);
-        QCOMPARE(proxy.rowCount(), 0);
-    }
 };
 
 ORV_TEST_MAIN(TestGenParamTreeFilter)

@@ -85,20 +85,6 @@ private Q_SLOTS:
         QVERIFY(!tree.model->index(0, 2).isValid());
     }
 
-    void hasNoRowsWithoutFeatures()
-    {
-        const GenParamTreeModel withoutMap(static_cast<GenApi::INodeMap *>(nullptr), nullptr);
-        const FeatureTree withoutRoot("<Integer Name=\"Width\"><Value>1</Value></Integer>");
-        const FeatureTree rootIsNoCategory("<Integer Name=\"Root\"><Value>1</Value></Integer>");
-        const GenParamTreeModel *const models[] = {&withoutMap, withoutRoot.model.get(), rootIsNoCategory.model.get()};
-        for (const GenParamTreeModel *model : models) {
-            QCOMPARE(model->rowCount(), 0);
-            QVERIFY(!model->index(0, 0).isValid());
-            QVERIFY(!model->data(QModelIndex()).isValid());
-            QCOMPARE(model->flags(QModelIndex()), Qt::NoItemFlags);
-        }
-    }
-
     void keepsTheFirstPlaceOfAFeature()
     {
         FeatureTree tree(R"(

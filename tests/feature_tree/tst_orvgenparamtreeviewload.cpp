@@ -1,20 +1,11 @@
 #include "shownview.h"
 
-#include <QAbstractSpinBox>
-#include <QPixmapCache>
 #include <QScrollBar>
 
 #include <array>
 #include <functional>
-#include <malloc.h>
 
 namespace {
-
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr bool isSanitized = true; // the heap is the sanitizer's, and everything takes its time
-#else
-constexpr bool isSanitized = false;
-#endif
 
 /** 10,000 registers that are read whenever they are asked for, 20 a category, in categories on three levels. */
 QByteArray manyRegisters(const QByteArray &name = "Root", size_t level = 0)
@@ -146,42 +137,6 @@ private Q_SLOTS:
             QCOMPARE(shown.tree->viewport()->findChildren<QLineEdit *>().size(), 0);
             QVERIFY(shown.tree->grab().width() > 0);
         }
-    }
-
-    void doesNotGrow()
-    {
-        QPixmapCache::clear(); // other tests' pictures would go in the middle of this one
-        const FeatureCamera camera(FeatureCamera::allKinds());
-        const auto useOnce = [&camera](const QString &typed) {
-            OrvGui::OrvGenParamTreeView view(camera.map.get());
-            view.setVisibility(OrvGui::Guru);
-            view.treeView()->expandAll();
-            view.show();
-            view.enablePolling(true);
-            QCoreApplication::processEvents();
-            const QModelIndex category = view.treeView()->model()->index(0, 0);
-            view.treeView()->setCurrentIndex(view.treeView()->model()->index(0, 1, category));
-            auto *const editor = view.treeView()->viewport()->findChild<QAbstractSpinBox *>();
-            QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
-            QTest::keyClicks(editor, typed);
-            QTest::keyClick(editor, Qt::Key_Return);
-            QCoreApplication::processEvents();
-            view.close();
-            view.setParams(camera.map.get());
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        };
-        const int rounds = isSanitized ? 40 : 1000;
-        size_t half = 0;
-        for (int round = 1; round <= rounds; ++round) {
-            useOnce(round % 2 ? QStringLiteral("8") : QStringLiteral("4"));
-            if (round == rounds / 2)
-                half = mallinfo2().uordblks;
-        }
-        const qint64 grown = qint64(mallinfo2().uordblks) - qint64(half);
-        QCOMPARE(camera.port.writeCount(), uint64_t(rounds));
-        QCOMPARE(registeredCallbacks(*camera.map), size_t(0));
-        if (!isSanitized)
-            QVERIFY2(qAbs(grown) < 64 * 1024, qPrintable(QString::number(grown)));
     }
 
     void readsOnlyWhatItPaints()

@@ -219,35 +219,6 @@ private Q_SLOTS:
         QTRY_VERIFY(!isRed());
     }
 
-    void paintsAFlickeringFaultNowAndThen()
-    {
-        ShownView shown;
-        QVERIFY(shown.show());
-        // Fails and reads well in turn, at every paint.
-        PaintLog paints(shown.tree->viewport());
-        bool fails = true;
-        failGetter(*shown.map, "Exposure", "GetValue");
-        const auto flicker = [&] {
-            fails = !fails;
-            if (fails)
-                failGetter(*shown.map, "Exposure", "GetValue");
-            else
-                clearFaults(*shown.map);
-        };
-        shown.node("Exposure")->InvalidateNode();
-        QElapsedTimer time;
-        time.start();
-        uint64_t seen = 0;
-        while (time.elapsed() < 500) {
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-            if (paints.count != seen)
-                flicker();
-            seen = paints.count;
-        }
-        QVERIFY2(paints.count > 1 && paints.count < 20, qPrintable(QString::number(paints.count)));
-        clearFaults(*shown.map);
-    }
-
     void keepsStates()
     {
         ShownView shown(detailNodes());

@@ -13,7 +13,6 @@
 
 #include <QDataWidgetMapper>
 #include <QLabel>
-#include <QRandomGenerator>
 #include <QScreen>
 #include <QStandardItemModel>
 #include <QToolButton>
@@ -298,58 +297,6 @@ private Q_SLOTS:
         QCOMPARE(window.takeLog(), QString());
     }
 
-    /** Typing goes on undisturbed, but nothing off the grid is told; what a program shows off the grid stays. */
-    void typedNumbersAreSnappedToTheGridNotToPositions()
-    {
-        const auto check = [](auto &&window) {
-            auto &composite = window.composite;
-            QVERIFY(window.isReady());
-            composite.setSingleStep(4);
-            composite.setValidate(true);
-            window.takeLog();
-            type(composite.spinBox(), QStringLiteral("57"));
-            QCOMPARE(composite.spinBox()->text(), QStringLiteral("57"));
-            QCOMPARE(composite.value(), 56);
-            QVERIFY(window.takeLog().endsWith(QStringLiteral("'57' 56")));
-            window.other.setFocus();
-            QCOMPARE(int(composite.spinBox()->text().toDouble()), 56);
-            QCOMPARE(window.takeLog(), QString());
-        };
-        check(Window<QtOrvGainSlider>());
-        Window<QtOrvSliderSpinBox> window;
-        check(window);
-        window.composite.setScaleType(QtOrvSlider::Sqrt);
-        window.composite.spinBox()->QSpinBox::setValue(58);
-        window.composite.setFocus();
-        window.other.setFocus();
-        QCOMPARE(window.composite.value(), 58);
-    }
-
-    /** As it is shown, digits and decimal sign of the locale; what is not touched is no entry. */
-    void returnReadsBetweenPrefixAndSuffix()
-    {
-        forEachComposite([](auto &window) {
-            auto &composite = window.composite;
-            using Number = decltype(composite.value());
-            const Number number = std::is_same_v<Number, double> ? Number(3.5) : Number(35);
-            composite.setLocale(QLocale(QStringLiteral("ar_EG")));
-            composite.setValidateTyping(false);
-            composite.spinBox()->setPrefix(QStringLiteral("< "));
-            composite.spinBox()->setSuffix(QStringLiteral(" us >"));
-            composite.setValue(number);
-            const QString shown = composite.spinBox()->text();
-            composite.setValue(7);
-            window.takeLog();
-            QTest::keyClick(composite.spinBox(), Qt::Key_Return);
-            type(composite.spinBox(), shown.mid(2).chopped(5));
-            QCOMPARE(window.takeLog(), QString());
-            QTest::keyClick(composite.spinBox(), Qt::Key_Enter);
-            QCOMPARE(composite.value(), number);
-            QCOMPARE(composite.spinBox()->text(), shown);
-            QCOMPARE(window.takeLog().count(shown), 1);
-        });
-    }
-
     /** The end of the spin box is the bound, also where it shows the bound rounded. */
     void nothingBeyondTheBoundsIsAnnounced()
     {
@@ -391,41 +338,6 @@ private Q_SLOTS:
             QTest::keyClick(window.inner(), key);
             QCOMPARE(window.takeLog(), QStringLiteral("'1000' 1000"));
         }
-    }
-
-    void theAnnouncedValueLiesWithinTheRange()
-    {
-        forEachComposite([](auto &window) {
-            auto &composite = window.composite;
-            using Number = decltype(composite.value());
-            QVector<Number> numbers = {
-                0, 1, 3, 1000, -1, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()};
-            if (std::is_same_v<Number, double>)
-                numbers += {Number(0.1), Number(16.1267), Number(-3.00049)};
-            Number told = composite.value();
-            connect(&composite, QOverload<Number>::of(&std::decay_t<decltype(composite)>::valueChanged), &window,
-                    [&told](Number number) { told = number; });
-            const Qt::Key keys[] = {Qt::Key_Up, Qt::Key_Down,      Qt::Key_PageUp, Qt::Key_End,  Qt::Key_Home,
-                                    Qt::Key_5,  Qt::Key_Backspace, Qt::Key_Return, Qt::Key_Minus};
-            QRandomGenerator random(20230802);
-            const auto any = [&random](const auto &list) { return list[random.bounded(int(std::size(list)))]; };
-            const auto type = [&] { QTest::keyClick(composite.spinBox(), any(keys)); };
-            const std::function<void()> actions[] = {
-                type,
-                type,
-                [&] { QTest::keyClick(window.inner(), any(keys)); },
-                [&] { turnWheel(window.inner(), random.bounded(-1, 2)); },
-                [&] { composite.setRange(any(numbers), any(numbers)); },
-                [&] { composite.setValue(any(numbers)); },
-                [&] { composite.setSingleStep(any(numbers)); },
-                [&] { composite.setValidate(random.bounded(2)), composite.setValidateTyping(random.bounded(2)); },
-                [&] { composite.setProperty("scaleType", random.bounded(3)); }};
-            for (int i = 0; i < 1500; ++i) {
-                actions[random.bounded(int(std::size(actions)))]();
-                QVERIFY(composite.value() >= composite.minimum() && composite.value() <= composite.maximum());
-                QCOMPARE(told, composite.value());
-            }
-        });
     }
 
     void extremesDoNoHarm()

@@ -12,7 +12,6 @@
 #include <QDateTimeEdit>
 #include <QDialog>
 #include <QPushButton>
-#include <QRandomGenerator>
 #include <QShortcut>
 #include <QToolTip>
 
@@ -471,52 +470,6 @@ private Q_SLOTS:
         QTest::keyClicks(&box, QStringLiteral("-"));
         QVERIFY(EntryGuard::of(&box)->isBlocked());
         QVERIFY(!QToolTip::isVisible() && box.accessibleDescription().isEmpty());
-    }
-
-    /** With any keys the value is a number that was typed to its end, or stepped to, and only a repair lifts a block.
-     */
-    void randomKeys_data() { boxes(); }
-    void randomKeys()
-    {
-        FETCH_WINDOW(window);
-        window.box->setProperty("minimum", -500);
-        window.reset();
-        const auto number = [&window](const QString &text) {
-            bool isNumber = false;
-            const double read = window.box->locale().toDouble(text, &isNumber);
-            return isNumber ? read : QLocale::c().toDouble(text);
-        };
-        const QString characters = QStringLiteral("01234567890123456789012345678901234567895-.,+x\u0663\u0665");
-        const int others[] = {Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Left, Qt::Key_Right, Qt::Key_Home,
-                              Qt::Key_End,       Qt::Key_Escape, Qt::Key_Up,   Qt::Key_Down,  Qt::Key_Return,
-                              Qt::Key_Enter,     Qt::Key_Tab,    Qt::Key_A};
-        QRandomGenerator random(2592 + uint(kind));
-        bool isSelectedAnew = false;
-        for (int i = 0; i < 500; ++i) {
-            const double before = window.value();
-            const QString shown = window.box->text().chopped(3);
-            const bool wasBlocked = window.guard->isBlocked();
-            const bool isCharacter = random.bounded(4) > 0;
-            const int key = isCharacter ? 0 : others[random.bounded(int(std::size(others)))];
-            const bool isRepair = key == Qt::Key_Backspace || key == Qt::Key_Delete || key == Qt::Key_Escape
-                || (isCharacter && isSelectedAnew && window.edit->hasSelectedText());
-            if (isCharacter)
-                typeOn(window.box, QString(characters.at(random.bounded(characters.size()))));
-            else
-                window.press(key, key == Qt::Key_A ? Qt::ControlModifier : Qt::NoModifier);
-            isSelectedAnew = key == Qt::Key_A || (isSelectedAnew && !isCharacter);
-
-            const bool ends = key == Qt::Key_Return || key == Qt::Key_Enter || !window.box->hasFocus();
-            const bool isStep = key == Qt::Key_Up || key == Qt::Key_Down;
-            const QString trace = QStringLiteral("%1: %2").arg(i).arg(shown);
-            if (window.value() != before && isStep)
-                QVERIFY2(qAbs(window.value() - before) < 5.001, qPrintable(trace));
-            else if (window.value() != before && !isTracked(kind))
-                QVERIFY2(ends && !wasBlocked && number(shown) == window.value(), qPrintable(trace));
-            const bool isLifted = wasBlocked && !window.guard->isBlocked();
-            QVERIFY2(!isLifted || isRepair || isStep || !window.box->hasFocus(), qPrintable(trace));
-            window.box->setFocus();
-        }
     }
 };
 

@@ -42,28 +42,6 @@ private Q_SLOTS:
         for (const QLineEdit *const field : fields)
             QVERIFY2(hasRoomForText(*field), qPrintable(field->objectName()));
     }
-
-    /** What the library says beside what a camera does: in the panes of the selector. */
-    void valuesInPanes()
-    {
-        const SimTest::Held<OrvCam::System> system = SimTest::getSystem();
-        OrvGui::OrvCameraSelectorDialog selector(system.get(), nullptr, false);
-        auto *const tree = selector.findChild<QTreeView *>(QStringLiteral("deviceTreeView"));
-        selector.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&selector));
-        QTest::keyClick(tree, Qt::Key_Home);
-        QTest::keyClick(tree, Qt::Key_Down);
-        const std::pair<const char *, const char *> values[] = {{"deviceInfoView", "Access status"},
-                                                                {"interfaceInfoView", "Type"}};
-        for (const auto &[name, label] : values) {
-            const auto *const pane = selector.findChild<QTreeView *>(QLatin1String(name));
-            const QModelIndexList labels = pane->model()->match(pane->model()->index(0, 0), Qt::DisplayRole,
-                                                                QLatin1String(label), 1, Qt::MatchExactly);
-            QCOMPARE(labels.size(), 1);
-            const QModelIndex value = labels.constFirst().siblingAtColumn(1);
-            QVERIFY2(pane->sizeHintForIndex(value).width() <= pane->columnWidth(1), label);
-        }
-    }
 };
 
 ORV_TEST_MAIN(TestNothingIsCut)
