@@ -2,6 +2,7 @@
 
 #include "gvcpclient.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace OrvCameraApi {
@@ -108,6 +109,9 @@ void GigeDiscovery::take(const Datagram &datagram, std::uint16_t id,
                          std::map<std::uint64_t, FoundDevice> &answers) const
 {
     constexpr std::size_t most = 1000;
+    const std::vector<std::uint32_t> &asked = m_options.addresses;
+    if (!m_options.broadcasts && std::find(asked.begin(), asked.end(), datagram.from.address) == asked.end())
+        return;
     const std::optional<Gvcp::Acknowledge> answer = Gvcp::acknowledgeIn(datagram.bytes.data(), datagram.bytes.size());
     if (!answer || answer->id != id || answer->command != Gvcp::Command::Discovery
         || answer->status != Gvcp::Status::Success || datagram.from.port != m_options.port || answers.size() >= most)
