@@ -1,5 +1,6 @@
 #include "remotecamera.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace OrvCameraApi {
@@ -124,6 +125,8 @@ std::shared_ptr<RemoteCamera::Access> RemoteCamera::access(bool isWrite, std::in
     m_changed.notify_all();
     if (!m_changed.wait_for(lock, m_patience.access, [&] { return access->isDone; })) {
         m_isSilent = true;
+        // Nothing is written after its writer has been told that it is not.
+        m_waiting.erase(std::remove(m_waiting.begin(), m_waiting.end(), access), m_waiting.end());
         throw GenICam::TimeoutException("The camera does not answer", __FILE__, __LINE__);
     }
     if (access->failure)
@@ -159,8 +162,11 @@ bool RemoteCamera::openLink()
             }
             description = m_link->description();
         }
-    } catch (const LinkError &error) {
+    } catch (const std::exception &error) {
         failure = error.what();
+        m_link.reset();
+    } catch (...) {
+        failure = "The camera cannot be opened";
         m_link.reset();
     }
     std::unique_lock<std::mutex> lock(m_mutex);
@@ -194,7 +200,7 @@ void RemoteCamera::serve()
             return;
         if (m_waiting.empty()) {
             lock.unlock();
-            const bool isAlive = m_link->isAlive();
+            const bool isAlive = isLinkAlive();
             lock.lock();
             if (!isAlive)
                 break;
@@ -215,6 +221,15 @@ void RemoteCamera::serve()
     lose();
 }
 
+bool RemoteCamera::isLinkAlive()
+{
+    try {
+        return m_link->isAlive();
+    } catch (...) {
+        return false;
+    }
+}
+
 void RemoteCamera::perform(Access &access)
 {
     try {
@@ -224,14 +239,15 @@ void RemoteCamera::perform(Access &access)
             m_link->read(access.bytes.data(), access.address, std::uint32_t(access.bytes.size()));
     } catch (const LinkError &error) {
         if (error.kind() == LinkError::Kind::Denied)
-            access.failure =
-                std::make_exception_ptr(GenICam::AccessException(error.what(), __FILE__, __LINE__));
+            access.failure = std::make_exception_ptr(GenICam::AccessException(error.what(), __FILE__, __LINE__));
         else if (error.kind() == LinkError::Kind::Silent)
-            access.failure =
-                std::make_exception_ptr(GenICam::TimeoutException(error.what(), __FILE__, __LINE__));
+            access.failure = std::make_exception_ptr(GenICam::TimeoutException(error.what(), __FILE__, __LINE__));
         else
-            access.failure =
-                std::make_exception_ptr(GenICam::RuntimeException(error.what(), __FILE__, __LINE__));
+            access.failure = std::make_exception_ptr(GenICam::RuntimeException(error.what(), __FILE__, __LINE__));
+    } catch (const std::exception &error) {
+        access.failure = std::make_exception_ptr(GenICam::RuntimeException(error.what(), __FILE__, __LINE__));
+    } catch (...) {
+        access.failure = std::make_exception_ptr(GenICam::RuntimeException("The access failed", __FILE__, __LINE__));
     }
 }
 
@@ -242,8 +258,8 @@ void RemoteCamera::lose()
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_state = State::Lost;
         for (const std::shared_ptr<Access> &access : m_waiting) {
-            access->failure = std::make_exception_ptr(
-                GenICam::AccessException("The camera is not connected", __FILE__, __LINE__));
+            access->failure =
+                std::make_exception_ptr(GenICam::AccessException("The camera is not connected", __FILE__, __LINE__));
             access->isDone = true;
         }
         m_waiting.clear();

@@ -82,6 +82,7 @@ private:
     void run();
     bool openLink();
     void serve();
+    bool isLinkAlive();
     void perform(Access &access);
     void lose();
     void raise(std::uint32_t eventId);
