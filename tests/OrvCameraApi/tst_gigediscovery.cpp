@@ -7,6 +7,8 @@
 
 #include <OrvCameraGuiApi/camera_api/orvcam.h>
 
+#include <algorithm>
+
 using namespace OrvCameraApi;
 using namespace std::chrono_literals;
 using OrvTest::GigeServer;
@@ -88,8 +90,8 @@ private Q_SLOTS:
     {
         look();
         const std::vector<std::pair<std::uint32_t, std::int32_t>> rows = {
-            {2, OrvCam::AccessStatusReadOnly}, // control
             {1, OrvCam::AccessStatusNoAccess}, // exclusive
+            {2, OrvCam::AccessStatusReadOnly}, // control
             {3, OrvCam::AccessStatusNoAccess},
             {0, OrvCam::AccessStatusReadWrite},
         };
@@ -182,6 +184,31 @@ private Q_SLOTS:
         QTRY_VERIFY(m_first->count(GigeServer::Discovery) == 2);
         m_discovery.reset();
         QVERIFY(timer.elapsed() < 50'000);
+    }
+
+    /** Devices that answer one question and no other do not add up. */
+    void endsAtOnceAmongSilentDevices()
+    {
+        Faults faults;
+        faults.only = GigeServer::ReadRegister;
+        faults.isSilent = true;
+        m_options.patience = 200ms;
+        std::vector<std::unique_ptr<GigeServer>> servers;
+        for (int i = 0; i < 30; ++i) {
+            servers.push_back(std::make_unique<GigeServer>(OrvTest::loopbackAddress(), m_first->port()));
+            servers.back()->setFaults(faults);
+            m_options.addresses.push_back(servers.back()->address());
+        }
+        look();
+        const auto isAnyoneAsked = [&servers] {
+            return std::any_of(servers.begin(), servers.end(),
+                               [](const auto &server) { return server->count(GigeServer::ReadRegister) > 0; });
+        };
+        QTRY_VERIFY(isAnyoneAsked());
+        QElapsedTimer timer;
+        timer.start();
+        m_discovery.reset();
+        QVERIFY(timer.elapsed() < 1500); // half of what 30 of them take
     }
 
 private:

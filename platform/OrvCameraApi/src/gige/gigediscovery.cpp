@@ -59,6 +59,12 @@ bool GigeDiscovery::isBlocked() const
     return m_isBlocked;
 }
 
+bool GigeDiscovery::isEnding() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_isEnding;
+}
+
 void GigeDiscovery::run()
 {
     if (m_options.broadcasts)
@@ -88,8 +94,11 @@ void GigeDiscovery::lookAround()
             break;
         take(*datagram, m_id, answers);
     }
-    for (auto &[mac, device] : answers)
+    for (auto &[mac, device] : answers) {
+        if (isEnding())
+            return;
         device.accessStatus = accessStatusOf(device);
+    }
     publish(std::move(answers), !isAsked);
 }
 

@@ -62,6 +62,7 @@ private:
         int missed = 0;
     };
 
+    bool isEnding() const;
     void run();
     void lookAround();
     bool ask(std::uint16_t id) const;
