@@ -230,7 +230,10 @@ private Q_SLOTS:
         QTRY_COMPARE(m_remote->failure(), std::string("The camera refuses"));
         QVERIFY(m_remote->description().empty());
         QCOMPARE(m_listener->events(), QStringList());
+        m_camera->openFault = Fault::Denied;
+        QTRY_COMPARE(m_remote->state(), RemoteCamera::State::Connecting);
 
+        m_camera->openFault = Fault::None;
         m_camera->descriptionFault = Fault::None;
         QTRY_COMPARE(m_listener->events(), QStringList({QStringLiteral("return"), QStringLiteral("connected")}));
         QCOMPARE(m_remote->description(), std::string("<description/>"));
