@@ -1,7 +1,5 @@
 #include "gigediscovery.h"
 
-#include "gvcpclient.h"
-
 #include <algorithm>
 #include <utility>
 
@@ -10,6 +8,15 @@ namespace OrvCameraApi {
 namespace {
 
 constexpr std::uint32_t everyone = 0xFFFFFFFF; // 255.255.255.255 stays on the adapter
+
+/** The access that an answer to the question for ControlPrivilege leaves to others. */
+std::int32_t accessIn(const Gvcp::Acknowledge &answer)
+{
+    const std::optional<std::vector<std::uint32_t>> privilege = Gvcp::registersIn(answer.payload, 1);
+    if (answer.status != Gvcp::Status::Success || !privilege || (privilege->front() & Gvcp::ExclusiveAccess))
+        return OrvCam::AccessStatusNoAccess;
+    return privilege->front() == 0 ? OrvCam::AccessStatusReadWrite : OrvCam::AccessStatusReadOnly;
+}
 
 } // namespace
 
@@ -118,12 +125,6 @@ std::vector<GigeDiscovery::Seen>::iterator GigeDiscovery::place(std::uint64_t ma
                         [mac](const Seen &seen) { return seen.device.record.mac == mac; });
 }
 
-bool GigeDiscovery::isEnding() const
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_isEnding;
-}
-
 void GigeDiscovery::lookNow()
 {
     {
@@ -157,23 +158,25 @@ void GigeDiscovery::run()
 /** One round: a question to everyone, the answers that come in time, and who controls each device. */
 void GigeDiscovery::lookAround()
 {
-    if (++m_id == 0)
-        m_id = 1;
     std::map<std::uint64_t, FoundDevice> answers;
-    const bool isAsked = m_socket.isOpen() && ask(m_id);
+    const std::uint16_t id = nextId();
+    const bool isAsked = m_socket.isOpen() && ask(id);
     const auto deadline = UdpSocket::Clock::now() + m_options.patience;
     while (isAsked) {
         const std::optional<Datagram> datagram = m_socket.receive(deadline);
         if (!datagram)
             break;
-        take(*datagram, m_id, answers);
+        take(*datagram, id, answers);
     }
-    for (auto &[mac, device] : answers) {
-        if (isEnding())
-            return;
-        device.accessStatus = accessStatusOf(device);
-    }
+    askForAccess(answers);
     publish(std::move(answers), !isAsked);
+}
+
+std::uint16_t GigeDiscovery::nextId()
+{
+    if (++m_id == 0)
+        m_id = 1;
+    return m_id;
 }
 
 /** Whether anyone could be asked. */
@@ -192,25 +195,54 @@ void GigeDiscovery::take(const Datagram &datagram, std::uint16_t id,
                          std::map<std::uint64_t, FoundDevice> &answers) const
 {
     constexpr std::size_t most = 1000;
+    const std::vector<std::uint32_t> &asked = m_options.addresses;
+    if (!m_options.broadcasts && std::find(asked.begin(), asked.end(), datagram.from.address) == asked.end())
+        return;
     const std::optional<Gvcp::Acknowledge> answer = Gvcp::acknowledgeIn(datagram.bytes.data(), datagram.bytes.size());
     if (!answer || answer->id != id || answer->command != Gvcp::Command::Discovery
         || answer->status != Gvcp::Status::Success || datagram.from.port != m_options.port || answers.size() >= most)
         return;
     if (const std::optional<Gvcp::DeviceRecord> record = Gvcp::deviceRecordIn(answer->payload))
-        answers.try_emplace(record->mac, FoundDevice{*record, datagram.from, 0});
+        answers.try_emplace(record->mac, FoundDevice{*record, datagram.from});
 }
 
-std::int32_t GigeDiscovery::accessStatusOf(const FoundDevice &device) const
+/** Who controls each device; all are asked at once. One that does not tell stays as it was for some rounds. */
+void GigeDiscovery::askForAccess(std::map<std::uint64_t, FoundDevice> &devices)
 {
-    if (!m_adapter.contains(device.record.ip.address))
-        return OrvCam::AccessStatusIpSubnetMismatch;
-    GvcpClient client(m_adapter.address, device.endpoint, {std::chrono::milliseconds(100), 1, m_options.patience});
-    const std::optional<std::vector<std::uint32_t>> privilege = client.readRegisters({Gvcp::ControlPrivilege});
-    if (!privilege)
-        return OrvCam::AccessStatusNoAccess;
-    if (privilege->front() == 0)
-        return OrvCam::AccessStatusReadWrite;
-    return privilege->front() & Gvcp::ExclusiveAccess ? OrvCam::AccessStatusNoAccess : OrvCam::AccessStatusReadOnly;
+    constexpr int attempts = 2;
+    std::vector<FoundDevice *> open;
+    for (auto &[mac, device] : devices) {
+        const std::optional<FoundDevice> former = find(mac);
+        if (!m_adapter.contains(device.record.ip.address)) {
+            device.accessStatus = OrvCam::AccessStatusIpSubnetMismatch;
+        } else {
+            device.untold = former ? former->untold + 1 : m_options.missable;
+            device.accessStatus =
+                device.untold < m_options.missable ? former->accessStatus : std::int32_t(OrvCam::AccessStatusNoAccess);
+            open.push_back(&device);
+        }
+    }
+    const std::uint16_t id = nextId();
+    for (int attempt = 0; attempt < attempts && !open.empty(); ++attempt) {
+        for (const FoundDevice *device : open)
+            m_socket.send(Gvcp::readRegisters(id, {Gvcp::ControlPrivilege}), device->endpoint);
+        const auto deadline = UdpSocket::Clock::now() + m_options.patience / attempts;
+        while (!open.empty()) {
+            const std::optional<Datagram> datagram = m_socket.receive(deadline);
+            if (!datagram)
+                break;
+            const auto asked = std::find_if(open.begin(), open.end(), [&](const FoundDevice *device) {
+                return device->endpoint == datagram->from;
+            });
+            const std::optional<Gvcp::Acknowledge> answer =
+                Gvcp::acknowledgeIn(datagram->bytes.data(), datagram->bytes.size());
+            if (asked == open.end() || !answer || answer->id != id || answer->command != Gvcp::Command::ReadRegister)
+                continue;
+            (*asked)->accessStatus = accessIn(*answer);
+            (*asked)->untold = 0;
+            open.erase(asked);
+        }
+    }
 }
 
 /** A packet may be lost: a device stays until it has missed several rounds. */

@@ -21,6 +21,7 @@ struct FoundDevice
     Gvcp::DeviceRecord record;
     Endpoint endpoint; ///< where it answers
     std::int32_t accessStatus = 0; ///< an OrvCam::AccessStatus
+    int untold = 0; ///< rounds since it told who controls it
 };
 
 /**
@@ -78,10 +79,10 @@ private:
     void lookAround();
     bool ask(std::uint16_t id) const;
     void take(const Datagram &datagram, std::uint16_t id, std::map<std::uint64_t, FoundDevice> &answers) const;
-    std::int32_t accessStatusOf(const FoundDevice &device) const;
+    void askForAccess(std::map<std::uint64_t, FoundDevice> &devices);
+    std::uint16_t nextId();
     std::optional<Gvcp::Status> askForIp(const FoundDevice &device, const IpConfiguration &configuration) const;
     std::vector<Seen>::iterator place(std::uint64_t mac);
-    bool isEnding() const;
     void publish(std::map<std::uint64_t, FoundDevice> &&answers, bool isBlocked);
 
     const NetAdapter m_adapter;

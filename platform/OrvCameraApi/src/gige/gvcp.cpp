@@ -63,17 +63,43 @@ std::uint32_t number32(const std::uint8_t *data)
     return number16(data) << 16 | number16(data + 2);
 }
 
-/** A text field ends at its first zero. Bytes outside ASCII are Latin-1 unless the device says UTF-8. */
+/** The bytes of the UTF-8 character there; 0 if there is none. */
+std::size_t utf8Length(const std::uint8_t *at, const std::uint8_t *end)
+{
+    const std::uint8_t first = *at;
+    if (first < 0x80)
+        return 1;
+    const std::size_t length = first < 0xC2 ? 0 : first < 0xE0 ? 2 : first < 0xF0 ? 3 : first < 0xF5 ? 4 : 0;
+    if (length == 0 || std::size_t(end - at) < length)
+        return 0;
+    // Neither longer than needed, nor half of a UTF-16 pair, nor above U+10FFFF.
+    const std::uint8_t lowest = first == 0xE0 ? 0xA0 : first == 0xF0 ? 0x90 : 0x80;
+    const std::uint8_t highest = first == 0xED ? 0x9F : first == 0xF4 ? 0x8F : 0xBF;
+    if (at[1] < lowest || at[1] > highest)
+        return 0;
+    const auto goesOn = [](std::uint8_t byte) { return (byte & 0xC0) == 0x80; };
+    return std::all_of(at + 1, at + length, goesOn) ? length : 0;
+}
+
+/**
+ * A text field ends at its first zero. Bytes outside ASCII are Latin-1 unless the device says UTF-8. A character that
+ * was cut off, and whatever else is none, is shown as such.
+ */
 std::string textIn(const std::uint8_t *field, std::size_t size, bool isUtf8)
 {
     std::string text;
-    for (const std::uint8_t *byte = field; byte != field + size && *byte != 0; ++byte) {
-        if (isUtf8 || *byte < 0x80) {
-            text += char(*byte);
+    const std::uint8_t *const end = std::find(field, field + size, 0);
+    while (field != end) {
+        const std::size_t length = isUtf8 ? utf8Length(field, end) : *field < 0x80;
+        if (length > 0) {
+            text.append(field, field + length);
+        } else if (isUtf8) {
+            text += "\xEF\xBF\xBD";
         } else {
-            text += char(0xC0 | *byte >> 6);
-            text += char(0x80 | (*byte & 0x3F));
+            text += char(0xC0 | *field >> 6);
+            text += char(0x80 | (*field & 0x3F));
         }
+        field += std::max<std::size_t>(length, 1);
     }
     return text;
 }

@@ -108,7 +108,7 @@ std::optional<DeviceRecord> deviceRecordIn(const Packet &payload);
 /** The place of a description in the memory of a device. */
 struct DescriptionFile
 {
-    std::string name; ///< ends in ".xml" or ".zip"
+    std::string name; ///< as the device gives it, which may be anything
     std::uint32_t address = 0;
     std::uint32_t length = 0; ///< 1 to mostDescription
 

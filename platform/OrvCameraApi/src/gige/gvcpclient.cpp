@@ -22,6 +22,7 @@ std::optional<Gvcp::Acknowledge> GvcpClient::request(const Gvcp::Packet &packet)
 {
     if (!m_socket.isOpen())
         return std::nullopt;
+    const auto command = Gvcp::Command(packet.at(2) << 8 | packet.at(3));
     const auto id = std::uint16_t(packet.at(6) << 8 | packet.at(7));
     const auto end = UdpSocket::Clock::now() + m_patience.longest;
     for (int attempt = 0; attempt < m_patience.attempts; ++attempt) {
@@ -34,8 +35,10 @@ std::optional<Gvcp::Acknowledge> GvcpClient::request(const Gvcp::Packet &packet)
                 Gvcp::acknowledgeIn(datagram->bytes.data(), datagram->bytes.size());
             if (!answer || answer->id != id)
                 continue;
-            if (answer->command != Gvcp::Command::Pending)
+            if (answer->command == command)
                 return answer;
+            if (answer->command != Gvcp::Command::Pending)
+                continue;
             if (const std::optional<std::uint16_t> time = Gvcp::pendingTime(answer->payload))
                 deadline = std::min(end, UdpSocket::Clock::now() + std::chrono::milliseconds(*time));
         }

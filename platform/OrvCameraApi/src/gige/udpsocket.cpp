@@ -93,7 +93,8 @@ std::optional<Datagram> UdpSocket::receive(Clock::time_point deadline) const
     for (;;) {
         std::array<pollfd, 2> waiting = {{{m_socket, POLLIN, 0}, {m_wakeReader, POLLIN, 0}}};
         const int ready = ::poll(waiting.data(), waiting.size(), millisecondsUntil(deadline));
-        if (waiting[1].revents || (ready == 0 && Clock::now() >= deadline) || (ready < 0 && errno != EINTR))
+        // Datagrams that come without end keep nobody beyond the deadline.
+        if (waiting[1].revents || Clock::now() >= deadline || (ready < 0 && errno != EINTR))
             return std::nullopt;
         if (!waiting[0].revents)
             continue;

@@ -29,28 +29,39 @@ public:
         m_open.push_back(camera);
     }
 
-    void close(std::thread thread)
+    /** Also joins those that have ended since. */
+    void close(std::thread thread, std::shared_ptr<const std::atomic<bool>> hasEnded)
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
+        const auto ended =
+            std::partition(m_closed.begin(), m_closed.end(), [](const Closed &closed) { return !*closed.hasEnded; });
+        std::for_each(ended, m_closed.end(), [](Closed &closed) { closed.thread.join(); });
+        m_closed.erase(ended, m_closed.end());
         m_open.erase(std::remove_if(m_open.begin(), m_open.end(), [](const auto &weak) { return weak.expired(); }),
                      m_open.end());
-        m_closed.push_back(std::move(thread));
+        m_closed.push_back({std::move(thread), std::move(hasEnded)});
     }
 
     void joinClosed()
     {
         std::unique_lock<std::mutex> lock(m_mutex);
-        std::vector<std::thread> ending = std::move(m_closed);
+        std::vector<Closed> ending = std::move(m_closed);
         m_closed.clear();
         lock.unlock();
-        for (std::thread &thread : ending)
-            thread.join();
+        for (Closed &closed : ending)
+            closed.thread.join();
     }
 
 private:
+    struct Closed
+    {
+        std::thread thread;
+        std::shared_ptr<const std::atomic<bool>> hasEnded;
+    };
+
     std::mutex m_mutex;
     std::vector<std::weak_ptr<RemoteCamera>> m_open;
-    std::vector<std::thread> m_closed;
+    std::vector<Closed> m_closed;
 };
 
 RunningCameras &runningCameras()
@@ -67,6 +78,18 @@ RunningCameras &runningCameras()
 [[noreturn]] void throwNoAnswer()
 {
     throw GenICam::TimeoutException("The camera does not answer", __FILE__, __LINE__);
+}
+
+/** A copy of those in \a buffer, or zeros without one. */
+std::vector<std::uint8_t> bytesOf(const void *buffer, std::int64_t length)
+{
+    constexpr std::int64_t longest = 1 << 20;
+    if (length < 0 || length > longest)
+        throw GenICam::OutOfRangeException("The register is too long", __FILE__, __LINE__);
+    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(length));
+    if (buffer)
+        std::copy_n(static_cast<const std::uint8_t *>(buffer), bytes.size(), bytes.begin());
+    return bytes;
 }
 
 /** The exception of GenApi that callers get for \a error. */
@@ -95,7 +118,11 @@ std::shared_ptr<RemoteCamera> RemoteCamera::start(Open open, const Patience &pat
 {
     std::shared_ptr<RemoteCamera> camera(new RemoteCamera(std::move(open), patience));
     runningCameras().add(camera);
-    camera->m_thread = std::thread([camera] { camera->run(); }); // the thread keeps what it uses
+    camera->m_thread = std::thread([camera, hasEnded = camera->m_hasEnded]() mutable { // the thread keeps what it uses
+        camera->run();
+        camera.reset();
+        *hasEnded = true;
+    });
     return camera;
 }
 
@@ -110,7 +137,7 @@ void RemoteCamera::close(const std::shared_ptr<RemoteCamera> &camera)
     }
     camera->m_changed.notify_all();
     if (thread.joinable())
-        runningCameras().close(std::move(thread));
+        runningCameras().close(std::move(thread), camera->m_hasEnded);
 }
 
 void RemoteCamera::waitForClosed()
@@ -162,7 +189,7 @@ std::shared_ptr<GenApi::INodeMap> RemoteCamera::takeNodeMap()
 
 void RemoteCamera::Read(void *buffer, std::int64_t address, std::int64_t length)
 {
-    const std::shared_ptr<Access> done = access(false, address, std::vector<std::uint8_t>(std::size_t(length)));
+    const std::shared_ptr<Access> done = access(false, address, bytesOf(nullptr, length));
     std::copy(done->bytes.begin(), done->bytes.end(), static_cast<std::uint8_t *>(buffer));
 }
 
@@ -170,8 +197,7 @@ void RemoteCamera::Write(const void *buffer, std::int64_t address, std::int64_t 
 {
     if (m_accessMode == GenApi::RO)
         throw GenICam::AccessException("Another program controls the camera", __FILE__, __LINE__);
-    const auto *const bytes = static_cast<const std::uint8_t *>(buffer);
-    access(true, address, {bytes, bytes + length});
+    access(true, address, bytesOf(buffer, length));
 }
 
 std::shared_ptr<RemoteCamera::Access> RemoteCamera::access(bool isWrite, std::int64_t address,
@@ -190,6 +216,8 @@ std::shared_ptr<RemoteCamera::Access> RemoteCamera::access(bool isWrite, std::in
     m_changed.notify_all();
     if (!m_changed.wait_for(lock, m_patience.access, [&] { return access->isDone; })) {
         m_isSilent = true;
+        // Nothing is written after its writer has been told that it is not.
+        m_waiting.erase(std::remove(m_waiting.begin(), m_waiting.end(), access), m_waiting.end());
         throwNoAnswer();
     }
     if (access->failure)
@@ -210,8 +238,33 @@ void RemoteCamera::run()
         pause = isOpen ? m_patience.retry : std::min(2 * pause, m_patience.longestRetry);
         m_changed.wait_for(lock, pause, [this] { return m_isEnding; });
     }
+    failWaiting();
     lock.unlock();
     m_link.reset();
+}
+
+/** With the mutex held. */
+void RemoteCamera::failWaiting()
+{
+    for (const std::shared_ptr<Access> &access : m_waiting) {
+        access->failure =
+            std::make_exception_ptr(GenICam::AccessException("The camera is not connected", __FILE__, __LINE__));
+        access->isDone = true;
+    }
+    m_waiting.clear();
+    m_changed.notify_all();
+}
+
+/** Without the mutex, because applications are called; what they throw is theirs. */
+template <typename Tell>
+void RemoteCamera::tellAll(const Tell &tell)
+{
+    for (const std::shared_ptr<ConnectionListener> &listener : listeners()) {
+        try {
+            tell(*listener);
+        } catch (...) { // NOLINT(bugprone-empty-catch)
+        }
+    }
 }
 
 /** Opens the camera and, the first time, fetches its description. */
@@ -219,6 +272,8 @@ bool RemoteCamera::openLink()
 {
     try {
         std::unique_ptr<CameraLink> link = m_open();
+        if (!link)
+            throw LinkError(LinkError::Kind::Failed, "The camera cannot be opened");
         if (description().empty())
             fetchDescription(*link);
         m_accessMode = link->isReadOnly() ? GenApi::RO : GenApi::RW;
@@ -229,10 +284,12 @@ bool RemoteCamera::openLink()
     } catch (const std::exception &error) {
         fail(error.what());
         return false;
+    } catch (...) {
+        fail("The camera cannot be opened");
+        return false;
     }
     // Nobody reads kept values of before: accesses are refused until the state says connected.
-    for (const std::shared_ptr<ConnectionListener> &listener : listeners())
-        listener->prepareReturn();
+    tellAll([](ConnectionListener &listener) { listener.prepareReturn(); });
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_failure.clear();
@@ -282,7 +339,7 @@ void RemoteCamera::serve()
             return;
         if (m_waiting.empty()) {
             lock.unlock();
-            isGood = m_link->isAlive();
+            isGood = isLinkAlive();
             lock.lock();
             continue;
         }
@@ -300,6 +357,15 @@ void RemoteCamera::serve()
     lose();
 }
 
+bool RemoteCamera::isLinkAlive()
+{
+    try {
+        return m_link->isAlive();
+    } catch (...) {
+        return false;
+    }
+}
+
 /** False when the camera has not answered. */
 bool RemoteCamera::perform(Access &access)
 {
@@ -311,8 +377,10 @@ bool RemoteCamera::perform(Access &access)
     } catch (const LinkError &error) {
         access.failure = forCallers(error);
         return error.kind() != LinkError::Kind::Silent;
+    } catch (const std::exception &error) {
+        access.failure = std::make_exception_ptr(GenICam::RuntimeException(error.what(), __FILE__, __LINE__));
     } catch (...) {
-        access.failure = std::current_exception();
+        access.failure = std::make_exception_ptr(GenICam::RuntimeException("The access failed", __FILE__, __LINE__));
     }
     return true;
 }
@@ -323,25 +391,18 @@ void RemoteCamera::lose()
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_state = State::Lost;
-        for (const std::shared_ptr<Access> &access : m_waiting) {
-            access->failure =
-                std::make_exception_ptr(GenICam::AccessException("The camera is not connected", __FILE__, __LINE__));
-            access->isDone = true;
-        }
-        m_waiting.clear();
+        failWaiting();
     }
-    m_changed.notify_all();
     raise(OrvCam::EventDeviceDisconnected);
     m_link.reset(); // may wait for an answer that does not come
 }
 
 void RemoteCamera::raise(std::uint32_t eventId)
 {
-    for (const std::shared_ptr<ConnectionListener> &listener : listeners())
-        listener->raise(eventId);
+    tellAll([eventId](ConnectionListener &listener) { listener.raise(eventId); });
 }
 
-/** Those that exist now; to be called without the mutex, because they call applications. */
+/** Those that exist now. */
 std::vector<std::shared_ptr<ConnectionListener>> RemoteCamera::listeners()
 {
     std::vector<std::shared_ptr<ConnectionListener>> present;

@@ -94,9 +94,13 @@ private:
     void setState(State state);
     void fail(const std::string &why);
     void serve();
+    bool isLinkAlive();
     bool perform(Access &access);
     void lose();
+    void failWaiting();
     void raise(std::uint32_t eventId);
+    template <typename Tell>
+    void tellAll(const Tell &tell);
     std::vector<std::shared_ptr<ConnectionListener>> listeners();
     std::shared_ptr<Access> access(bool isWrite, std::int64_t address, std::vector<std::uint8_t> bytes);
 
@@ -118,6 +122,7 @@ private:
     std::vector<std::weak_ptr<ConnectionListener>> m_listeners;
 
     std::thread m_thread;
+    const std::shared_ptr<std::atomic<bool>> m_hasEnded = std::make_shared<std::atomic<bool>>(false); ///< the thread
 };
 
 } // namespace OrvCameraApi

@@ -1,0 +1,379 @@
+#include "gvcpclient.h"
+
+#include <gigeserver.h>
+#include <orvtest.h>
+
+#include <QElapsedTimer>
+
+#include <future>
+
+using namespace OrvCameraApi;
+using namespace std::chrono_literals;
+using OrvTest::GigeServer;
+
+namespace {
+
+using Faults = GigeServer::Faults;
+
+QByteArray hex(const Gvcp::Packet &packet)
+{
+    return QByteArray(reinterpret_cast<const char *>(packet.data()), int(packet.size())).toHex();
+}
+
+/** In memory of exactly its size, so that the address sanitizer sees what reads on. */
+Gvcp::Packet bytes(const QByteArray &hex)
+{
+    const QByteArray raw = QByteArray::fromHex(hex);
+    return {raw.begin(), raw.end()};
+}
+
+std::string textOf(const Gvcp::Packet &packet)
+{
+    return {packet.begin(), packet.end()};
+}
+
+/** Short enough for tests of what never comes, and long enough for a machine that is busy. */
+constexpr GvcpPatience shortPatience{100ms, 3, 1000ms};
+
+} // namespace
+
+Q_DECLARE_METATYPE(Faults)
+
+/** The packets of the control protocol, and requests to a device. */
+class TestGvcp : public OrvTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        TestCase::init();
+        m_server = std::make_unique<GigeServer>(OrvTest::loopbackAddress(), std::uint16_t(0));
+        QVERIFY(m_server->isOpen());
+        m_client = makeClient(shortPatience);
+    }
+
+    void commands()
+    {
+        QCOMPARE(hex(Gvcp::discovery(0x1234, false)), QByteArray("4201000200001234"));
+        QCOMPARE(hex(Gvcp::discovery(1, true)), QByteArray("4211000200000001"));
+        QCOMPARE(hex(Gvcp::readRegisters(2, {0x0A00, 0x12345678})), QByteArray("420100800008000200000a0012345678"));
+        QCOMPARE(hex(Gvcp::writeRegister(3, 0x0A00, 2)), QByteArray("420100820008000300000a0000000002"));
+        QCOMPARE(hex(Gvcp::readMemory(4, 0x200, 512)), QByteArray("42010084000800040000020000000200"));
+        const QByteArray gap(24, '0');
+        QCOMPARE(hex(Gvcp::forceIp(0xFFFF, 0x0000123456789ABC, {0x0A000001, 0xFF000000, 0x0A0000FE})),
+                 "420100040038ffff0000123456789abc" + gap + "0a000001" + gap + "ff000000" + gap + "0a0000fe");
+    }
+
+    void acknowledges_data()
+    {
+        QTest::addColumn<QByteArray>("datagram");
+        QTest::addColumn<bool>("isOne");
+        QTest::addColumn<QByteArray>("payload");
+        QTest::newRow("nothing") << QByteArray() << false << QByteArray();
+        QTest::newRow("half a header") << QByteArray("00000081000400") << false << QByteArray();
+        QTest::newRow("no payload") << QByteArray("8006008100000001") << true << QByteArray();
+        QTest::newRow("payload") << QByteArray("000000810004000112345678") << true << QByteArray("12345678");
+        QTest::newRow("bytes behind") << QByteArray("00000081000400011234567899") << true << QByteArray("12345678");
+        QTest::newRow("a byte is missing") << QByteArray("0000008100040001123456") << false << QByteArray();
+        QTest::newRow("the longest length") << QByteArray("00000081ffff000112345678") << false << QByteArray();
+        QTest::newRow("a command") << QByteArray("4201008000040001123456") << false << QByteArray();
+        QTest::newRow("code 0") << QByteArray("0000000000000001") << false << QByteArray();
+    }
+
+    void acknowledges()
+    {
+        QFETCH(QByteArray, datagram);
+        const Gvcp::Packet packet = bytes(datagram);
+        const std::optional<Gvcp::Acknowledge> acknowledge = Gvcp::acknowledgeIn(packet.data(), packet.size());
+        QTEST(acknowledge.has_value(), "isOne");
+        if (!acknowledge)
+            return;
+        QTEST(hex(acknowledge->payload), "payload");
+        QCOMPARE(acknowledge->command, Gvcp::Command::ReadRegister);
+        QCOMPARE(acknowledge->id, std::uint16_t(1));
+        QCOMPARE(std::uint32_t(acknowledge->status), datagram.left(4).toUInt(nullptr, 16));
+    }
+
+    void payloads()
+    {
+        QCOMPARE(Gvcp::registersIn(bytes("0102030405060708"), 2).value(),
+                 (std::vector<std::uint32_t>{0x01020304, 0x05060708}));
+        QVERIFY(!Gvcp::registersIn(bytes("0102030405060708"), 1));
+        QVERIFY(!Gvcp::registersIn(bytes("01020304050607"), 2));
+        QVERIFY(!Gvcp::registersIn({}, 1));
+        QCOMPARE(int(Gvcp::pendingTime(bytes("0000fffe")).value()), 0xFFFE);
+        QVERIFY(!Gvcp::pendingTime(bytes("0000ff")));
+    }
+
+    void deviceRecords();
+    void urls_data();
+    void urls();
+    void requests_data();
+    void requests();
+
+    void manyRegistersInFewPackets()
+    {
+        std::vector<std::uint32_t> addresses;
+        std::vector<std::uint32_t> expected;
+        for (std::uint32_t i = 0; i < 300; ++i) {
+            addresses.push_back(GigeServer::FreeMemory + 4 * i);
+            expected.push_back(i * 0x01010101);
+            m_server->setValue(addresses.back(), expected.back());
+        }
+        QCOMPARE(m_client->readRegisters(addresses).value(), expected);
+        QCOMPARE(m_server->count(GigeServer::ReadRegister), 3);
+        QVERIFY(m_client->readRegisters({})->empty());
+        addresses.back() = 0xFFFFFFFC;
+        QVERIFY(!m_client->readRegisters(addresses));
+        QCOMPARE(m_server->count(), 6); // a refusal is not asked again
+    }
+
+    void memory_data()
+    {
+        QTest::addColumn<int>("length");
+        QTest::addColumn<int>("packets");
+        const std::vector<std::pair<int, int>> rows = {{0, 0}, {1, 1}, {535, 1}, {536, 1}, {537, 2}, {5000, 10}};
+        for (const auto &[length, packets] : rows)
+            QTest::addRow("%d", length) << length << packets;
+    }
+
+    void memory()
+    {
+        QFETCH(int, length);
+        std::string all(5000, ' ');
+        for (std::size_t i = 0; i < all.size(); ++i)
+            all[i] = char(i * 7 % 251);
+        m_server->setMemory(GigeServer::FreeMemory, all);
+        QCOMPARE(textOf(m_client->readMemory(GigeServer::FreeMemory, std::uint32_t(length)).value()),
+                 all.substr(0, std::size_t(length)));
+        QTEST(m_server->count(GigeServer::ReadMemory), "packets");
+    }
+
+    void memoryThatIsNotThere()
+    {
+        QVERIFY(!m_client->readMemory(0xFFFFFE00, 0x400)); // its end is beyond the last address
+        QVERIFY(!m_client->readMemory(GigeServer::FreeMemory + 2, 4));
+        Faults faults;
+        faults.cut = 1;
+        m_server->setFaults(faults);
+        QVERIFY(!m_client->readMemory(GigeServer::FreeMemory, 4));
+    }
+
+    void oneController()
+    {
+        m_server->setValue(GigeServer::HeartbeatTimeout, 60'000);
+        QCOMPARE(statusOf(*m_client, GigeServer::FreeMemory, 5), Gvcp::Status::AccessDenied);
+        QCOMPARE(statusOf(*m_client, Gvcp::ControlPrivilege, 2), Gvcp::Status::Success);
+        QCOMPARE(statusOf(*m_client, GigeServer::FreeMemory, 5), Gvcp::Status::Success);
+        QCOMPARE(m_server->value(GigeServer::FreeMemory), 5U);
+        const std::unique_ptr<GvcpClient> second = makeClient(shortPatience);
+        QCOMPARE(statusOf(*second, Gvcp::ControlPrivilege, 2), Gvcp::Status::AccessDenied);
+        QCOMPARE(statusOf(*second, GigeServer::FreeMemory, 6), Gvcp::Status::AccessDenied);
+        QCOMPARE(m_server->value(GigeServer::ControllerAddress), 0x7F000001U);
+
+        m_server->setValue(GigeServer::HeartbeatTimeout, 1); // the first is silent for longer
+        QTRY_COMPARE(statusOf(*second, Gvcp::ControlPrivilege, 2), Gvcp::Status::Success);
+        Faults faults;
+        faults.deniesControl = true;
+        m_server->setFaults(faults);
+        QCOMPARE(statusOf(*second, Gvcp::ControlPrivilege, 2), Gvcp::Status::AccessDenied);
+    }
+
+    void forcedAddress()
+    {
+        const IpConfiguration wanted{0x7F010203, 0xFFFFFF00, 0x7F010201};
+        m_server->setMac(0x0000FEDCBA987654);
+        QVERIFY(!m_client->request(Gvcp::forceIp(1, 0x0000FEDCBA987655, wanted))); // of another device
+        QCOMPARE(m_server->value(GigeServer::CurrentAddress), m_server->address());
+        QCOMPARE(m_client->request(Gvcp::forceIp(2, 0x0000FEDCBA987654, wanted))->status, Gvcp::Status::Success);
+        QCOMPARE(m_server->value(GigeServer::CurrentAddress), wanted.address);
+        QCOMPARE(m_server->value(GigeServer::CurrentMask), wanted.mask);
+        QCOMPARE(m_server->value(GigeServer::CurrentGateway), wanted.gateway);
+    }
+
+    void stopped()
+    {
+        Faults faults;
+        faults.isSilent = true;
+        m_server->setFaults(faults);
+        const std::unique_ptr<GvcpClient> client = makeClient({20s, 3, 60s});
+        QElapsedTimer timer;
+        timer.start();
+        const auto answer = std::async(std::launch::async, [&client] { return client->readRegisters({0}); });
+        QTRY_COMPARE(m_server->count(), 1);
+        client->stop();
+        answer.wait();
+        QVERIFY(!client->readRegisters({0}));
+        QVERIFY(timer.elapsed() < 20'000);
+    }
+
+    void identifiersAreNeverZero()
+    {
+        for (int i = 0; i <= 0x10000; ++i)
+            QVERIFY(m_client->nextId() != 0);
+    }
+
+    /** Datagrams that come without end do not keep anyone beyond the deadline. */
+    void deadlineAmongDatagrams()
+    {
+        const UdpSocket socket({OrvTest::loopbackAddress(), 0});
+        QVERIFY(socket.send({1}, socket.local()));
+        const std::optional<Datagram> datagram = socket.receive(UdpSocket::Clock::now() + 20s);
+        QVERIFY(datagram && datagram->from == socket.local() && datagram->bytes == Gvcp::Packet{1});
+        QVERIFY(socket.send({2}, socket.local()));
+        QVERIFY(!socket.receive(UdpSocket::Clock::now()));
+    }
+
+    void socketThatCannotBeOpened()
+    {
+        GvcpClient client(0xC0000201, {m_server->address(), m_server->port()}); // an address of no host
+        QVERIFY(!client.readRegisters({0}));
+        QCOMPARE(m_server->count(), 0);
+    }
+
+private:
+    std::unique_ptr<GvcpClient> makeClient(const GvcpPatience &patience) const
+    {
+        return std::make_unique<GvcpClient>(0x7F000001, Endpoint{m_server->address(), m_server->port()}, patience);
+    }
+
+    static Gvcp::Status statusOf(GvcpClient &client, std::uint32_t address, std::uint32_t value)
+    {
+        const auto answer = client.request(Gvcp::writeRegister(client.nextId(), address, value));
+        return answer ? answer->status : Gvcp::Status::Error;
+    }
+
+    std::unique_ptr<GigeServer> m_server;
+    std::unique_ptr<GvcpClient> m_client;
+};
+
+void TestGvcp::deviceRecords()
+{
+    Gvcp::Packet payload(247, 0xE4); // no text has an end
+    QVERIFY(!Gvcp::deviceRecordIn(payload));
+    payload.resize(248, 0xE4);
+    std::optional<Gvcp::DeviceRecord> record = Gvcp::deviceRecordIn(payload);
+    QCOMPARE(record->mac, std::uint64_t(0xE4E4E4E4E4E4));
+    QCOMPARE(record->ip.gateway, 0xE4E4E4E4);
+    for (const auto &[text, length] : {std::pair{record->manufacturer, 32},
+                                       {record->model, 32},
+                                       {record->version, 32},
+                                       {record->serialNumber, 16},
+                                       {record->userDefinedName, 16}})
+        QCOMPARE(QString::fromStdString(text), QString(length, QChar(0xE4))); // Latin-1
+
+    const QByteArray name = QString::fromUtf8("Käse").toUtf8();
+    std::fill(payload.begin() + 0xE8, payload.end(), 0);
+    std::copy(name.begin(), name.end(), payload.begin() + 0xE8);
+    payload[6] = 0;
+    payload[7] = 1; // UTF-8
+    payload.push_back('x');
+    record = Gvcp::deviceRecordIn(payload);
+    QCOMPARE(record->userDefinedName, name.toStdString());
+    QCOMPARE(QString::fromStdString(record->model), QString(32, QChar::ReplacementCharacter));
+}
+
+void TestGvcp::urls_data()
+{
+    QTest::addColumn<QByteArray>("url");
+    QTest::addColumn<QByteArray>("name"); // null for no file
+    QTest::addColumn<quint32>("address");
+    QTest::addColumn<quint32>("length");
+    const auto file = [](const char *url, const char *name, quint32 address, quint32 length) {
+        QTest::newRow(url) << QByteArray(url) << QByteArray(name) << address << length;
+    };
+    const auto none = [&file](const char *url) { file(url, nullptr, 0, 0); };
+    file("Local:camera.xml;200000;1a2B", "camera.xml", 0x200000, 0x1A2B);
+    file("LOCAL:///Camera V1.2.ZIP;0;1?SchemaVersion=1.1.0", "Camera V1.2.ZIP", 0, 1);
+    file("local:a.zip;FFFFFFFF;1", "a.zip", 0xFFFFFFFF, 1);
+    file("local:a.zip;000000000010;04000000", "a.zip", 0x10, 0x4000000);
+    none("");
+    none("local:");
+    none("local");
+    none("ocal:a.xml;1;1");
+    none("File:camera.xml;1;1");
+    none("http://192.0.2.1/camera.xml");
+    none("local:a.xml");
+    none("local:a.xml;1");
+    none("local:a.xml;;1");
+    none("local:a.xml;1;");
+    none("local:a.xml;1;0");
+    none("local:a.xml;1;4000001"); // more than 64 MiB
+    none("local:a.xml;FFFFFFFF;2"); // beyond the last address
+    none("local:a.xml;100000000;1");
+    none("local:a.xml;1;100000001");
+    none("local:a.xml;0x1;1");
+    none("local:a.xml;-1;1");
+    none("local:a.xml;+1;1");
+    none("local:a.xml; 1;1");
+    none("local:a.xml;1;1;1");
+    none("local:a.xml;1;1g");
+    none("local:a.xml?;1;1");
+}
+
+void TestGvcp::urls()
+{
+    QFETCH(QByteArray, url);
+    QFETCH(QByteArray, name);
+    // A register of 512 bytes holds it, and what an earlier text has left.
+    const std::string field = url.toStdString() + std::string("\0;1;1", 5);
+    const std::optional<Gvcp::DescriptionFile> file = Gvcp::localFileIn(field);
+    QCOMPARE(file.has_value(), !name.isNull());
+    if (!file)
+        return;
+    QCOMPARE(file->name, name.toStdString());
+    QTEST(quint32(file->address), "address");
+    QTEST(quint32(file->length), "length");
+}
+
+void TestGvcp::requests_data()
+{
+    QTest::addColumn<Faults>("faults");
+    QTest::addColumn<bool>("isAnswered");
+    QTest::addColumn<int>("packets");
+    const auto row = [](const char *name, bool isAnswered, int packets, const std::function<void(Faults &)> &change) {
+        Faults faults;
+        change(faults);
+        QTest::newRow(name) << faults << isAnswered << packets;
+    };
+    row("two are lost", true, 3, [](Faults &faults) { faults.lost = 2; });
+    row("three are lost", false, 3, [](Faults &faults) { faults.lost = 3; });
+    row("silent", false, 3, [](Faults &faults) { faults.isSilent = true; });
+    row("pending", true, 1, [](Faults &faults) {
+        faults.pending = 900;
+        faults.delay = 300ms; // thrice as long as a packet is waited for
+    });
+    row("pending for ever", false, 1, [](Faults &faults) {
+        faults.pending = 0xFFFF;
+        faults.delay = 60s;
+    });
+    row("pending and forgotten", false, 3, [](Faults &faults) {
+        faults.pending = 50;
+        faults.delay = 60s;
+    });
+    row("length beyond the packet", false, 3, [](Faults &faults) { faults.lengthError = 1; });
+    row("length below the packet", false, 1, [](Faults &faults) { faults.lengthError = -1; });
+    row("short", false, 1, [](Faults &faults) { faults.cut = 4; });
+    row("other request", false, 3, [](Faults &faults) { faults.idError = 1; });
+    row("other command", false, 3, [](Faults &faults) { faults.commandError = 2; });
+    row("other port", false, 3, [](Faults &faults) { faults.sender = GigeServer::Sender::OtherPort; });
+    row("other address", false, 3, [](Faults &faults) { faults.sender = GigeServer::Sender::OtherAddress; });
+}
+
+void TestGvcp::requests()
+{
+    QFETCH(Faults, faults);
+    QFETCH(bool, isAnswered);
+    m_server->setFaults(faults);
+    const auto values = m_client->readRegisters({GigeServer::CurrentAddress, GigeServer::CurrentMask});
+    QTEST(m_server->count(), "packets");
+    QCOMPARE(values.has_value(), isAnswered);
+    if (values)
+        QCOMPARE(*values, (std::vector<std::uint32_t>{m_server->address(), 0xFF000000}));
+    m_server->setFaults({});
+    QVERIFY(m_client->readRegisters({0})); // what has come too late does not disturb
+}
+
+ORV_PLAIN_TEST_MAIN(TestGvcp)
+#include "tst_gvcp.moc"
