@@ -1,6 +1,7 @@
 #include "simtest.h"
 
 #include <fakecamera.h>
+#include <gigeserver.h>
 #include <orvtest.h>
 
 #include <OrvCameraApi/transports.h>
@@ -16,7 +17,24 @@ namespace {
 
 using namespace SimTest;
 using OrvTest::FakeCamera;
+using OrvTest::GigeServer;
 using OrvTransports::Step;
+
+const char description[] = R"(<RegisterDescription ModelName="Small" VendorName="Somebody" SchemaMajorVersion="1"
+    SchemaMinorVersion="1" SchemaSubMinorVersion="0">
+  <Category Name="Root"><pFeature>Width</pFeature></Category>
+  <IntReg Name="Width"><Address>0x20000</Address><Length>4</Length><AccessMode>RW</AccessMode><pPort>Device</pPort>
+    <Cachable>NoCache</Cachable><Sign>Unsigned</Sign><Endianess>BigEndian</Endianess></IntReg>
+  <Port Name="Device"/>
+</RegisterDescription>
+)";
+
+const char archive[] = // of it
+    "UEsDBBQAAAAIAAAAIQDRc/TIAQEAAMoBAAAFAAAAZC54bWxtUdFqwzAMfM9XBP+As7FH1dCtHQzaUhLWPju2SDwSO9juWP9+iuOu"
+    "FKYX6+50SIehxs6EiH6DQXkzReNsuXcah4McccWaUQ4DK09otfOZciO2Tl9Z2ageR7mXX86f0AeyrtgTK0qqLBn7IGW6ubSPSsUE"
+    "ueBNRuycv5bLotq5yARM7yjjxaM4Gx174H8Y+M2Q3B82UpjsTbNkXmvtMQRR/TxXVMBvBOzQdrEXL8BzB2ulSJnDi/pMk3cI09H5"
+    "KDb4bRTSBQmlnHSz6mU7oDi4ucX5qMxAYzorPm2gBzXwBGFrtZF2PuHVdAsAfieBLzlSpHlPDrTsZlwUwP/5M1H8AlBLAQIUAxQA"
+    "AAAIAAAAIQDRc/TIAQEAAMoBAAAFAAAAAAAAAAAAAACAAQAAAABkLnhtbFBLBQYAAAAAAQABADMAAAAkAQAAAAA=";
 
 /** The camera as an application has it, with its events counted. */
 class OpenCamera
@@ -43,6 +61,16 @@ private:
     static void count(const void *, unsigned long, void *counter) { ++*static_cast<std::atomic<int> *>(counter); }
 };
 
+std::string dottedText(std::uint32_t address)
+{
+    return QStringLiteral("%1.%2.%3.%4")
+        .arg(address >> 24)
+        .arg(address >> 16 & 0xFF)
+        .arg(address >> 8 & 0xFF)
+        .arg(address & 0xFF)
+        .toStdString();
+}
+
 class TestRealCameras : public OrvTest::TestCase
 {
     Q_OBJECT
@@ -52,10 +80,13 @@ private Q_SLOTS:
     {
         if (!OrvTransports::canReachRealCameras() || !FakeCamera::isInstalled())
             QSKIP("real cameras are left out, or there is no program that stands for one");
-        OrvTransports::use(OrvTransports::Cameras::Real, {{}, {FakeCamera::address}});
     }
 
     void camerasAreListedAndEdited();
+    void descriptions_data();
+    void descriptions();
+    void cameraOfAnotherProgram();
+    void addresses();
     void lossIsNoticedAndHealed_data();
     void lossIsNoticedAndHealed();
 
@@ -63,7 +94,19 @@ private:
     OrvCam::DeviceInfo *findCamera(OrvCam::System &system);
 };
 
-/** The fake camera, once it is found; null after a while. */
+/** From now on only the camera at \a address is asked. */
+Held<OrvCam::System> systemWith(const std::string &address)
+{
+    OrvTransports::use(OrvTransports::Cameras::Real, {{}, {address}});
+    return getSystem();
+}
+
+Held<OrvCam::System> systemWith(const GigeServer &server)
+{
+    return systemWith(dottedText(server.address()));
+}
+
+/** The camera, once it is found; null after a while. */
 OrvCam::DeviceInfo *TestRealCameras::findCamera(OrvCam::System &system)
 {
     OrvCam::DeviceInfo *found = nullptr;
@@ -82,7 +125,7 @@ OrvCam::DeviceInfo *TestRealCameras::findCamera(OrvCam::System &system)
 void TestRealCameras::camerasAreListedAndEdited()
 {
     FakeCamera fake;
-    const Held<OrvCam::System> system = getSystem();
+    const Held<OrvCam::System> system = systemWith(FakeCamera::address);
     OrvCam::DeviceInfo *const info = findCamera(*system);
     QVERIFY(info);
     QCOMPARE(info->GetModel(), "Fake");
@@ -104,6 +147,90 @@ void TestRealCameras::camerasAreListedAndEdited()
     QCOMPARE(second.width()->GetValue(nullptr), 256);
 }
 
+void TestRealCameras::descriptions_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QByteArray>("url"); // empty: where the bytes are
+    QTest::addColumn<QByteArray>("failure");
+    const QByteArray zip = QByteArray::fromBase64(archive);
+    QTest::newRow("plain") << QByteArray(description) << QByteArray() << QByteArray();
+    QTest::newRow("archive") << zip << QByteArray() << QByteArray();
+    QTest::newRow("damaged archive") << zip.left(200) << QByteArray() << QByteArray("ZIP archive");
+    QTest::newRow("web") << QByteArray(description) << QByteArray("Http://example.org/camera.xml")
+                         << QByteArray("is not fetched from elsewhere: \"Http://example.org/camera.xml\"");
+    QTest::newRow("file") << QByteArray(description) << QByteArray("FILE:camera.xml") << QByteArray("is not fetched");
+    QTest::newRow("beyond the memory") << QByteArray(description) << QByteArray("local:a.zip;FFFFFF00;80")
+                                       << QByteArray("does not answer");
+}
+
+void TestRealCameras::descriptions()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QByteArray, url);
+    QFETCH(QByteArray, failure);
+    GigeServer server(OrvTest::loopbackAddress());
+    server.setDescription(bytes.toStdString(), bytes.startsWith("PK") ? "camera.zip" : "camera.xml");
+    if (!url.isEmpty())
+        server.setUrl(GigeServer::FirstUrl, url.toStdString());
+    server.setMemory(0x20000, std::string("\0\0\1\0", 4));
+    const Held<OrvCam::System> system = systemWith(server);
+    OrvCam::DeviceInfo *const info = findCamera(*system);
+    QVERIFY(info);
+    OpenCamera camera(info);
+    QVERIFY(camera.device);
+    if (failure.isEmpty()) {
+        QTRY_COMPARE(camera.connected.load(), 1);
+        QCOMPARE(camera.width()->GetValue(nullptr), 256);
+        QCOMPARE(camera.width()->SetValue(0x12345678), OrvCamErr_Ok);
+        QCOMPARE(server.value(0x20000), 0x12345678U);
+    } else {
+        QTRY_VERIFY(QByteArray::fromStdString(OrvTransports::progressOf(*camera.device).failure).contains(failure));
+        QCOMPARE(camera.connected.load(), 0);
+    }
+}
+
+void TestRealCameras::cameraOfAnotherProgram()
+{
+    GigeServer server(OrvTest::loopbackAddress());
+    server.setDescription(description);
+    server.setMemory(0x20000, std::string("\0\0\1\0", 4));
+    server.setValue(GigeServer::ControlPrivilege, 2);
+    const Held<OrvCam::System> system = systemWith(server);
+    OrvCam::DeviceInfo *const info = findCamera(*system);
+    QVERIFY(info);
+    QTRY_COMPARE(info->GetAccessStatus(), std::int32_t(OrvCam::AccessStatusReadOnly));
+    OpenCamera camera(info);
+    QTRY_COMPARE(camera.connected.load(), 1);
+    QCOMPARE(camera.width()->GetValue(nullptr), 256);
+    QVERIFY(!camera.width()->IsWritable());
+    QCOMPARE(camera.width()->SetValue(1), OrvCamErr_GenICamAccessError);
+
+    server.setValue(GigeServer::ControlPrivilege, 0); // the other program has ended
+    QTRY_COMPARE(camera.connected.load(), 2);
+    QVERIFY(camera.width()->IsWritable());
+    QCOMPARE(camera.width()->SetValue(1), OrvCamErr_Ok);
+}
+
+void TestRealCameras::addresses()
+{
+    GigeServer server(OrvTest::loopbackAddress());
+    const Held<OrvCam::System> system = systemWith(server);
+    OrvCam::DeviceInfo *const info = findCamera(*system);
+    QVERIFY(info);
+    QElapsedTimer clock;
+    clock.start();
+    QCOMPARE(info->ForceIP(0x0A000001, 0xFF000000, 0x0A0000FE), OrvCamErr_Ok);
+    QCOMPARE(info->GetIPAddress(nullptr), "10.0.0.1");
+    QCOMPARE(info->GetGateway(nullptr), "10.0.0.254");
+    QCOMPARE(info->GetAccessStatus(), std::int32_t(OrvCam::AccessStatusIpSubnetMismatch));
+    QVERIFY(!OpenCamera(info).device);
+    GigeServer::Faults faults;
+    faults.isSilent = true;
+    server.setFaults(faults);
+    QCOMPARE(info->ForceIP(0x7F000002, 0xFF000000, 0), OrvCamErr_NoDevice);
+    QVERIFY(clock.elapsed() < 1000);
+}
+
 void TestRealCameras::lossIsNoticedAndHealed_data()
 {
     QTest::addColumn<bool>("isKilled");
@@ -115,7 +242,7 @@ void TestRealCameras::lossIsNoticedAndHealed()
 {
     QFETCH(bool, isKilled);
     FakeCamera fake;
-    const Held<OrvCam::System> system = getSystem();
+    const Held<OrvCam::System> system = systemWith(FakeCamera::address);
     OrvCam::DeviceInfo *const info = findCamera(*system);
     QVERIFY(info);
     OpenCamera camera(info);
