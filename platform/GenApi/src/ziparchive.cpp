@@ -9,8 +9,8 @@
 #include <cstdio>
 #include <cstring>
 #include <memory>
-#include <type_traits>
 #include <strings.h>
+#include <type_traits>
 
 namespace OrvGenApi {
 
