@@ -186,31 +186,6 @@ private Q_SLOTS:
         QVERIFY(timer.elapsed() < 50'000);
     }
 
-    /** Devices that answer one question and no other do not add up. */
-    void endsAtOnceAmongSilentDevices()
-    {
-        Faults faults;
-        faults.only = GigeServer::ReadRegister;
-        faults.isSilent = true;
-        m_options.patience = 200ms;
-        std::vector<std::unique_ptr<GigeServer>> servers;
-        for (int i = 0; i < 30; ++i) {
-            servers.push_back(std::make_unique<GigeServer>(OrvTest::loopbackAddress(), m_first->port()));
-            servers.back()->setFaults(faults);
-            m_options.addresses.push_back(servers.back()->address());
-        }
-        look();
-        const auto isAnyoneAsked = [&servers] {
-            return std::any_of(servers.begin(), servers.end(),
-                               [](const auto &server) { return server->count(GigeServer::ReadRegister) > 0; });
-        };
-        QTRY_VERIFY(isAnyoneAsked());
-        QElapsedTimer timer;
-        timer.start();
-        m_discovery.reset();
-        QVERIFY(timer.elapsed() < 1500); // half of what 30 of them take
-    }
-
 private:
     void look() { m_discovery = std::make_unique<GigeDiscovery>(m_adapter, m_options); }
 

@@ -136,7 +136,7 @@ void TestRealCameras::camerasAreListedAndEdited()
     clock.start();
     OpenCamera camera(info);
     QVERIFY(camera.device);
-    QVERIFY2(clock.elapsed() < 200, "opening has waited for the network");
+    QVERIFY2(clock.elapsed() < 500, "opening has waited for the network");
     QTRY_COMPARE(camera.connected.load(), 1);
     QVERIFY(OrvTransports::progressOf(*camera.device).step == Step::Connected);
     QCOMPARE(camera.width()->SetValue(256), OrvCamErr_Ok);
@@ -269,7 +269,7 @@ void TestRealCameras::lossIsNoticedAndHealed()
     }
     QCOMPARE(camera.disconnected.load(), 1);
     QVERIFY2(clock.elapsed() < 4000, "the loss was noticed too late");
-    QVERIFY2(longest < 1200, "an access has waited too long");
+    QVERIFY2(longest < 1500, "an access has waited too long");
     QVERIFY(OrvTransports::progressOf(*camera.device).step == Step::Lost);
     QCOMPARE(read(), OrvCamErr_NoDevice);
 
