@@ -163,13 +163,18 @@ void FilteredRows::evaluate(const Branch &branch, Rows &rows) const
 
 /** One of the branches that changed last, if no feature is listed twice and it has the feature at the row of \a source.
  */
-FilteredRows::Branch *FilteredRows::recentBranchWith(const QModelIndex &source) const
+FilteredRows::Branch *FilteredRows::recentBranchWith(const QModelIndex &source)
 {
     if (!m_listedAgain.isEmpty())
         return nullptr;
-    const auto recent = std::find_if(m_recent.begin(), m_recent.end(),
-                                     [&](const Branch *branch) { return hasAtItsRow(branch, source); });
-    return recent != m_recent.end() ? *recent : nullptr;
+    for (size_t step = 1; step <= m_recent.size(); ++step) {
+        const size_t at = (m_lastRecent + m_recent.size() - step) % m_recent.size();
+        if (hasAtItsRow(m_recent[at], source)) {
+            m_lastRecent = at;
+            return m_recent[at];
+        }
+    }
+    return nullptr;
 }
 
 /** The branch in which the feature is listed first; null if nobody has asked for it. */
@@ -179,6 +184,7 @@ FilteredRows::Branch *FilteredRows::firstBranchWith(const QModelIndex &source)
     if (branch) {
         std::rotate(m_recent.begin(), m_recent.end() - 1, m_recent.end());
         m_recent.front() = branch;
+        m_lastRecent = 0;
     }
     return branch;
 }
@@ -217,6 +223,14 @@ FilteredRows::Places FilteredRows::placesOf(const QModelIndex &source)
     for (const Listing &listing : further)
         add(m_firstBranches.value(listing.category), listing.sourceRow);
     return places;
+}
+
+std::optional<FilteredRows::Place> FilteredRows::onlyPlaceOf(const QModelIndex &source)
+{
+    if (m_isAbandoned || !m_source || !source.isValid())
+        return std::nullopt;
+    Branch *const recent = recentBranchWith(source);
+    return recent && !recent->elsewhere ? std::make_optional(Place{recent, source.row()}) : std::nullopt;
 }
 
 std::optional<FilteredRows::Place> FilteredRows::shownPlaceOf(const QModelIndex &source)

@@ -115,6 +115,9 @@ public:
     /** The known places of a feature, first that of its first listing. */
     Places placesOf(const QModelIndex &source);
 
+    /** The place of a feature that has one only, if that is found at once. */
+    std::optional<Place> onlyPlaceOf(const QModelIndex &source);
+
     /** The first place of a feature that is shown, if any. */
     std::optional<Place> shownPlaceOf(const QModelIndex &source);
 
@@ -152,7 +155,7 @@ private:
     void readSourceRows(Branch &branch) const;
     void findListedAgain(const Branch &branch);
     void evaluate(const Branch &branch, Rows &rows) const;
-    Branch *recentBranchWith(const QModelIndex &source) const;
+    Branch *recentBranchWith(const QModelIndex &source);
     Branch *firstBranchWith(const QModelIndex &source);
     int firstRowOf(const Branch &branch, const QModelIndex &source) const;
 
@@ -164,4 +167,5 @@ private:
     QHash<quintptr, Branch *> m_firstBranches; ///< by the category's internal identifier; others follow by elsewhere
     QHash<quintptr, QVector<Listing>> m_listedAgain; ///< by the feature's identifier, all but the first, if known
     std::array<Branch *, 4> m_recent{}; ///< values of a category change in turn, and with each those that it is in
+    size_t m_lastRecent = 0; ///< the one that was found last; the one before it comes next as a rule
 };

@@ -170,6 +170,9 @@ struct ModelColumn
     bool followsNode; ///< a change of the node changes the cell
 
     static const ModelColumn all[];
+
+    /** The first column from \a column on that follows the node, or -1. */
+    static int followingFrom(int column);
     static const ModelColumn &of(const QModelIndex &index) { return all[index.column()]; }
 };
 
@@ -177,6 +180,13 @@ const ModelColumn ModelColumn::all[] = {
     {QT_TRANSLATE_NOOP("GenParamTreeModel", "Name"), &GenParamTreeModelPrivate::nameData, false, false},
     {QT_TRANSLATE_NOOP("GenParamTreeModel", "Value"), &GenParamTreeModelPrivate::valueData, true, true},
 };
+
+int ModelColumn::followingFrom(int column)
+{
+    while (column < int(std::size(all)) && !all[column].followsNode)
+        ++column;
+    return column < int(std::size(all)) ? column : -1;
+}
 
 } // namespace
 
@@ -329,12 +339,13 @@ const char *GenParamTreeModelPrivate::keepText(const GenICam::gcstring &text)
 void GenParamTreeModelPrivate::nodeChanged(FeatureEntry &entry)
 {
     const OpenCalls::Call call;
-    const QPointer<GenParamTreeModel> alive(q);
-    for (int column = 0; alive && column < int(std::size(ModelColumn::all)); ++column) {
-        if (!ModelColumn::all[column].followsNode)
-            continue;
+    int column = ModelColumn::followingFrom(0);
+    while (column >= 0) {
+        const int next = ModelColumn::followingFrom(column + 1);
+        const QPointer<GenParamTreeModel> alive(next >= 0 ? q : nullptr); // a slot may destroy the model
         const QModelIndex cell = q->createIndex(entry.second.row, column, &entry);
         Q_EMIT q->dataChanged(cell, cell, QVector<int>());
+        column = alive ? next : -1;
     }
 }
 

@@ -165,6 +165,12 @@ void GenParamTreeVisibilityFilterProxyModelPrivate::sourceDataChanged(const QMod
     const FilteredRows &current = *rows;
     for (int row = topLeft.row(); row <= bottomRight.row(); ++row) {
         const QModelIndex changed = row == topLeft.row() ? topLeft : topLeft.siblingAtRow(row);
+        if (const std::optional<Place> only = rows->onlyPlaceOf(changed)) {
+            rowChanged(*only, topLeft.column(), bottomRight.column(), roles);
+            if (current.isAbandoned())
+                return;
+            continue;
+        }
         for (const Place &place : rows->placesOf(changed)) {
             rowChanged(place, topLeft.column(), bottomRight.column(), roles);
             if (current.isAbandoned())
