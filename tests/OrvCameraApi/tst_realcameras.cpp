@@ -155,6 +155,7 @@ void TestRealCameras::descriptions_data()
     const QByteArray zip = QByteArray::fromBase64(archive);
     QTest::newRow("plain") << QByteArray(description) << QByteArray() << QByteArray();
     QTest::newRow("archive") << zip << QByteArray() << QByteArray();
+    QTest::newRow("capitals") << zip << QByteArray("CAPITALS") << QByteArray();
     QTest::newRow("damaged archive") << zip.left(200) << QByteArray() << QByteArray("ZIP archive");
     QTest::newRow("web") << QByteArray(description) << QByteArray("Http://example.org/camera.xml")
                          << QByteArray("is not fetched from elsewhere: \"Http://example.org/camera.xml\"");
@@ -170,7 +171,9 @@ void TestRealCameras::descriptions()
     QFETCH(QByteArray, failure);
     GigeServer server(OrvTest::loopbackAddress());
     server.setDescription(bytes.toStdString(), bytes.startsWith("PK") ? "camera.zip" : "camera.xml");
-    if (!url.isEmpty())
+    if (url == "CAPITALS")
+        server.setDescription(bytes.toStdString(), "CAMERA.ZIP");
+    else if (!url.isEmpty())
         server.setUrl(GigeServer::FirstUrl, url.toStdString());
     server.setMemory(0x20000, std::string("\0\0\1\0", 4));
     const Held<OrvCam::System> system = systemWith(server);

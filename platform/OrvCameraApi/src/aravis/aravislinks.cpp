@@ -1,6 +1,8 @@
 // Aravis finds USB cameras, opens cameras and moves their bytes. Its headers and Qt's macros do not go together.
 #include "aravislinks.h"
 
+#include "wirespan.h"
+
 #include <arv.h>
 
 #include <atomic>
@@ -129,27 +131,12 @@ public:
     }
 
 private:
-    /** Addresses and lengths on the wire are multiples of 4. */
-    struct Span
-    {
-        Span(std::uint64_t address, std::uint32_t length)
-            : begin(address & ~std::uint64_t(3))
-            , offset(std::uint32_t(address - begin))
-            , bytes((offset + length + 3) / 4 * 4)
-        {
-        }
-
-        const std::uint64_t begin;
-        const std::uint32_t offset;
-        std::vector<std::uint8_t> bytes;
-    };
-
-    void read(Span &span) const;
+    void read(WireSpan &span) const;
 
     const bool m_isReadOnly;
 };
 
-void GigeLink::read(Span &span) const
+void GigeLink::read(WireSpan &span) const
 {
     if (span.bytes.size() != 4)
         return readMemory(span.begin, std::uint32_t(span.bytes.size()), span.bytes.data());
@@ -165,7 +152,7 @@ void GigeLink::read(Span &span) const
 void GigeLink::read(void *buffer, std::uint64_t address, std::uint32_t length)
 {
     checkLength(length);
-    Span span(address, length);
+    WireSpan span(address, length);
     read(span);
     std::memcpy(buffer, span.bytes.data() + span.offset, length);
 }
@@ -173,7 +160,7 @@ void GigeLink::read(void *buffer, std::uint64_t address, std::uint32_t length)
 void GigeLink::write(const void *buffer, std::uint64_t address, std::uint32_t length)
 {
     checkLength(length);
-    Span span(address, length);
+    WireSpan span(address, length);
     if (span.bytes.size() != length)
         read(span); // the bytes around it stay
     std::memcpy(span.bytes.data() + span.offset, buffer, length);

@@ -2,6 +2,7 @@
 
 #include "gvcpclient.h"
 #include "netadapter.h"
+#include "wirespan.h"
 
 #include <OrvGenApi/ziparchive.h>
 
@@ -41,8 +42,8 @@ bool isTaken(GvcpClient &client)
     throw LinkError(LinkError::Kind::Denied, "Another program" + who + " has taken the camera");
 }
 
-/** Makes sure that the description is in the camera. Gives its text if it is in an archive. */
-std::string checkDescription(GvcpClient &client)
+/** The place of the description. Throws if it is not in the camera. */
+Gvcp::DescriptionFile fileOf(GvcpClient &client)
 {
     const std::optional<Gvcp::Packet> url = client.readMemory(Gvcp::FirstUrl, Gvcp::urlLength);
     if (!url)
@@ -52,12 +53,110 @@ std::string checkDescription(GvcpClient &client)
         throw LinkError(LinkError::Kind::Failed,
                         "The description is not in the camera and is not fetched from elsewhere: \"" + textIn(*url)
                             + '"');
-    if (!file->isArchive())
-        return {};
-    const std::optional<Gvcp::Packet> archive = client.readMemory(file->address, file->length);
-    if (!archive)
+    return *file;
+}
+
+std::string fetch(GvcpClient &client, const Gvcp::DescriptionFile &file)
+{
+    const std::optional<Gvcp::Packet> bytes = client.readMemory(file.address, file.length);
+    if (!bytes)
         throwSilent();
-    return OrvGenApi::descriptionInZip(std::string(archive->begin(), archive->end()), file->name);
+    std::string text(bytes->begin(), bytes->end());
+    return file.isArchive() ? OrvGenApi::descriptionInZip(text, file.name) : text;
+}
+
+/** Moves the bytes without any library, for cameras whose descriptions the library below cannot read. */
+class GvcpTransport final : public CameraLink
+{
+public:
+    GvcpTransport(std::uint32_t adapter, const Endpoint &device, bool isReadOnly, const Gvcp::DescriptionFile &file)
+        : m_client(adapter, device)
+        , m_isReadOnly(isReadOnly)
+        , m_file(file)
+    {
+        constexpr std::uint32_t control = 2;
+        if (!m_isReadOnly)
+            require(Gvcp::writeRegister(m_client.nextId(), Gvcp::ControlPrivilege, control));
+    }
+    ~GvcpTransport() override
+    {
+        if (!m_isReadOnly)
+            m_client.request(Gvcp::writeRegister(m_client.nextId(), Gvcp::ControlPrivilege, 0));
+    }
+    GvcpTransport(const GvcpTransport &) = delete;
+    GvcpTransport &operator=(const GvcpTransport &) = delete;
+
+    std::string description() override { return fetch(m_client, m_file); }
+    bool isReadOnly() const override { return m_isReadOnly; }
+    void read(void *buffer, std::uint64_t address, std::uint32_t length) override;
+    void write(const void *buffer, std::uint64_t address, std::uint32_t length) override;
+
+    /** The camera drops who controls it but asks nothing for some seconds. */
+    bool isAlive() override { return m_client.readRegisters({Gvcp::ControlPrivilege}).has_value(); }
+
+private:
+    Gvcp::Packet require(const Gvcp::Packet &packet);
+    void read(WireSpan &span);
+
+    GvcpClient m_client;
+    const bool m_isReadOnly;
+    const Gvcp::DescriptionFile m_file;
+};
+
+/** The payload of the answer. Throws if the camera refuses or does not answer. */
+Gvcp::Packet GvcpTransport::require(const Gvcp::Packet &packet)
+{
+    const std::optional<Gvcp::Acknowledge> answer = m_client.request(packet);
+    if (!answer)
+        throwSilent();
+    if (answer->status == Gvcp::Status::AccessDenied)
+        throw LinkError(LinkError::Kind::Denied, "Another program has taken the camera");
+    if (answer->status != Gvcp::Status::Success)
+        throw LinkError(LinkError::Kind::Failed, "The camera refuses the access");
+    return answer->payload;
+}
+
+void GvcpTransport::read(WireSpan &span)
+{
+    constexpr std::size_t echo = 4; // the address stands before the bytes
+    const bool isRegister = span.bytes.size() == 4;
+    for (std::size_t done = 0; done < span.bytes.size();) {
+        const std::size_t count = std::min(span.bytes.size() - done, Gvcp::mostMemory);
+        const auto at = std::uint32_t(span.begin + done);
+        const Gvcp::Packet answer = require(isRegister ? Gvcp::readRegisters(m_client.nextId(), {at})
+                                                       : Gvcp::readMemory(m_client.nextId(), at, std::uint16_t(count)));
+        const std::size_t skipped = isRegister ? 0 : echo;
+        if (answer.size() != skipped + count)
+            throw LinkError(LinkError::Kind::Failed, "The camera answers with a wrong length");
+        std::copy(answer.begin() + std::ptrdiff_t(skipped), answer.end(), span.bytes.begin() + std::ptrdiff_t(done));
+        done += count;
+    }
+}
+
+void GvcpTransport::read(void *buffer, std::uint64_t address, std::uint32_t length)
+{
+    WireSpan span(address, length);
+    read(span);
+    std::copy_n(span.bytes.begin() + span.offset, length, static_cast<std::uint8_t *>(buffer));
+}
+
+void GvcpTransport::write(const void *buffer, std::uint64_t address, std::uint32_t length)
+{
+    WireSpan span(address, length);
+    if (span.bytes.size() != length)
+        read(span); // the bytes around it stay
+    std::copy_n(static_cast<const std::uint8_t *>(buffer), length, span.bytes.begin() + span.offset);
+    const std::uint8_t *const bytes = span.bytes.data();
+    if (span.bytes.size() == 4) {
+        const std::uint32_t value =
+            std::uint32_t(bytes[0]) << 24 | std::uint32_t(bytes[1]) << 16 | std::uint32_t(bytes[2]) << 8 | bytes[3];
+        require(Gvcp::writeRegister(m_client.nextId(), std::uint32_t(span.begin), value));
+        return;
+    }
+    for (std::size_t done = 0; done < span.bytes.size(); done += Gvcp::mostMemory) {
+        const std::size_t count = std::min(span.bytes.size() - done, Gvcp::mostMemory);
+        require(Gvcp::writeMemory(m_client.nextId(), std::uint32_t(span.begin + done), bytes + done, count));
+    }
 }
 
 /** Asks the camera itself whether it is still there, which libraries below notice late. */
@@ -75,10 +174,12 @@ public:
     bool isReadOnly() const override { return m_transport->isReadOnly(); }
     void read(void *buffer, std::uint64_t address, std::uint32_t length) override
     {
+        checkRange(address, length);
         m_transport->read(buffer, address, length);
     }
     void write(const void *buffer, std::uint64_t address, std::uint32_t length) override
     {
+        checkRange(address, length);
         m_transport->write(buffer, address, length);
     }
     bool isAlive() override
@@ -89,10 +190,31 @@ public:
     }
 
 private:
+    /** Cut off on its way, an address would be that of another register. */
+    static void checkRange(std::uint64_t address, std::uint32_t length)
+    {
+        constexpr std::uint64_t end = std::uint64_t(1) << 32;
+        if (address >= end || length > end - address)
+            throw LinkError(LinkError::Kind::Failed, "The camera has no such register");
+    }
+
     const std::unique_ptr<CameraLink> m_transport;
     GvcpClient m_client;
     const std::string m_unpacked; ///< the description, if the camera has it in an archive
 };
+
+/** Through the library below, unless it cannot read the description: it knows no names in capitals, for instance. */
+std::unique_ptr<CameraLink> openTransport(std::uint32_t adapter, const Endpoint &device, bool isReadOnly,
+                                          const Gvcp::DescriptionFile &file, const OpenTransport &open)
+{
+    try {
+        return open(adapter, device.address, isReadOnly);
+    } catch (const LinkError &error) {
+        if (error.kind() != LinkError::Kind::Failed)
+            throw;
+    }
+    return std::make_unique<GvcpTransport>(adapter, device, isReadOnly, file);
+}
 
 } // namespace
 
@@ -100,8 +222,10 @@ std::unique_ptr<CameraLink> openGigeCamera(std::uint32_t adapter, const Endpoint
 {
     GvcpClient client(adapter, device);
     const bool isReadOnly = isTaken(client);
-    std::string unpacked = checkDescription(client);
-    return std::make_unique<GigeLink>(open(adapter, device.address, isReadOnly), adapter, device, std::move(unpacked));
+    const Gvcp::DescriptionFile file = fileOf(client);
+    std::string unpacked = file.isArchive() ? fetch(client, file) : std::string();
+    return std::make_unique<GigeLink>(openTransport(adapter, device, isReadOnly, file, open), adapter, device,
+                                      std::move(unpacked));
 }
 
 } // namespace OrvCameraApi

@@ -15,9 +15,9 @@ using OpenTransport =
 
 /**
  * Opens the GigE Vision camera at \a device through the adapter with the address \a adapter: to control it, or for
- * reading if another program controls it and allows that. \a open moves the bytes. It is kept from waiting for a camera
- * that does not answer, from fetching a description that is not in the camera, and from unpacking one of any size.
- * Throws LinkError.
+ * reading if another program controls it and allows that. \a open moves the bytes, unless it cannot read the
+ * description; then this does it without. It is kept from waiting for a camera that does not answer, from fetching a
+ * description that is not in the camera, and from unpacking one of any size. Throws LinkError.
  */
 std::unique_ptr<CameraLink> openGigeCamera(std::uint32_t adapter, const Endpoint &device, const OpenTransport &open);
 

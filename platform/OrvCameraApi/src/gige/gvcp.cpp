@@ -39,6 +39,7 @@ public:
         add16(number);
     }
 
+    void add(const std::uint8_t *bytes, std::size_t count) { m_packet.insert(m_packet.end(), bytes, bytes + count); }
     void skip(std::size_t count) { m_packet.insert(m_packet.end(), count, 0); }
 
     Packet take()
@@ -164,6 +165,14 @@ Packet readMemory(std::uint16_t id, std::uint32_t address, std::uint16_t count)
     writer.add32(address);
     writer.skip(2);
     writer.add16(count);
+    return writer.take();
+}
+
+Packet writeMemory(std::uint16_t id, std::uint32_t address, const std::uint8_t *bytes, std::size_t count)
+{
+    Writer writer(acknowledgeWanted, Command::WriteMemory, id);
+    writer.add32(address);
+    writer.add(bytes, count);
     return writer.take();
 }
 

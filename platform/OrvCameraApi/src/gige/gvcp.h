@@ -68,6 +68,7 @@ Packet forceIp(std::uint16_t id, std::uint64_t mac, const IpConfiguration &confi
 Packet readRegisters(std::uint16_t id, const std::vector<std::uint32_t> &addresses);
 Packet writeRegister(std::uint16_t id, std::uint32_t address, std::uint32_t value);
 Packet readMemory(std::uint16_t id, std::uint32_t address, std::uint16_t count);
+Packet writeMemory(std::uint16_t id, std::uint32_t address, const std::uint8_t *bytes, std::size_t count);
 /** @} */
 
 struct Acknowledge
