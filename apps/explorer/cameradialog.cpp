@@ -52,7 +52,10 @@ std::unique_ptr<CameraSource> chooseCamera(QWidget *parent)
             if (std::unique_ptr<CameraSource> camera = openCamera(system, dialog.selectedCamera(), wait))
                 return camera;
         } catch (const CameraSourceError &e) {
-            QMessageBox::warning(parent, QApplication::applicationDisplayName(), e.message);
+            QMessageBox box(QMessageBox::Warning, QApplication::applicationDisplayName(), e.message, QMessageBox::Ok,
+                            parent);
+            box.setTextFormat(Qt::PlainText); // the camera has a part in it
+            box.exec();
         }
     }
 }

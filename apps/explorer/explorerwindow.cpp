@@ -455,6 +455,7 @@ void ExplorerWindow::report(const QString &message)
 {
     auto *const box = new QMessageBox(QMessageBox::Warning, windowTitle(), message, QMessageBox::Ok, this);
     box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextFormat(Qt::PlainText); // a camera may have a part in it
     box->open();
 }
 

@@ -59,6 +59,19 @@ int saveScreenshots(ExplorerWindow &window, const QString &directory)
     return print(screenshots.files().join(QLatin1Char('\n')) + QLatin1Char('\n'));
 }
 
+/** What the command line says; else, for a person, what was chosen in the last run. */
+void chooseCameras(const Options &options)
+{
+    const bool isRestricted = !options.discovery.adapters.empty() || !options.discovery.addresses.empty();
+    if (options.cameras && isRestricted)
+        OrvTransports::use(*options.cameras, options.discovery);
+    else if (options.cameras)
+        OrvTransports::use(*options.cameras);
+    else if (options.action == Options::Action::ShowWindow)
+        ExplorerWindow::restoreCameras(
+            QSettings(QStringLiteral("OrvCameraGuiApi"), QCoreApplication::applicationName()));
+}
+
 /** The source that the command line names; null if the user has to choose one. */
 std::unique_ptr<CameraSource> sourceOf(const Options &options)
 {
@@ -91,12 +104,8 @@ int runWindow(int argc, char **argv, const Options &options, std::unique_ptr<Cam
     speak(options.language);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/explorer/explorer.png")));
 
-    if (!source) {
-        const QSettings settings(QStringLiteral("OrvCameraGuiApi"), QCoreApplication::applicationName());
-        if (!options.cameras)
-            ExplorerWindow::restoreCameras(settings);
+    if (!source)
         source = chooseCamera();
-    }
     if (!source)
         return 0;
     ExplorerWindow window(std::move(source));
@@ -116,8 +125,7 @@ int main(int argc, char **argv)
         return print(options.text);
     if (options.action == Options::Action::ShowWindow && !hasDisplay())
         return fail(Text::tr("There is no display; '--screenshot DIR' draws the window into a file."));
-    if (options.cameras)
-        OrvTransports::use(*options.cameras, options.discovery);
+    chooseCameras(options);
     try {
         return runWindow(argc, argv, options, sourceOf(options));
     } catch (const CameraSourceError &e) {

@@ -86,6 +86,7 @@ private Q_SLOTS:
     void descriptions_data();
     void descriptions();
     void cameraOfAnotherProgram();
+    void closedAndOpenedAgain();
     void addresses();
     void lossIsNoticedAndHealed_data();
     void lossIsNoticedAndHealed();
@@ -212,6 +213,23 @@ void TestRealCameras::cameraOfAnotherProgram()
     QTRY_COMPARE(camera.connected.load(), 2);
     QVERIFY(camera.width()->IsWritable());
     QCOMPARE(camera.width()->SetValue(1), OrvCamErr_Ok);
+}
+
+/** The link that is being closed is no other program. */
+void TestRealCameras::closedAndOpenedAgain()
+{
+    GigeServer server(OrvTest::loopbackAddress());
+    server.setDescription(description);
+    server.setMemory(0x20000, std::string(4, '\0'));
+    const Held<OrvCam::System> system = systemWith(server);
+    OrvCam::DeviceInfo *const info = findCamera(*system);
+    QVERIFY(info);
+    for (int i = 1; i < 4; ++i) {
+        OpenCamera camera(info);
+        QVERIFY(camera.device);
+        QTRY_VERIFY(camera.parameters());
+        QCOMPARE(camera.width()->SetValue(i), OrvCamErr_Ok);
+    }
 }
 
 void TestRealCameras::addresses()

@@ -386,7 +386,7 @@ private Q_SLOTS:
         m_camera->openFault = Fault::None;
         QTRY_COMPARE(m_listener->events(), lost + before);
         QCOMPARE(failureOf(*m_remote), QByteArray());
-        QCOMPARE(m_camera->describing.arrived(), 1); // the description has not changed
+        QCOMPARE(m_camera->describing.arrived(), 2); // to see that it is the same
     }
 
     void closedDuringAnAccess()
@@ -419,6 +419,31 @@ private Q_SLOTS:
         RemoteCamera::waitForClosed();
         QCOMPARE(m_camera->links.load(), 0);
         QCOMPARE(m_listener->events(), QStringList());
+    }
+
+    /** Applications may do so in their callbacks, which run on the camera's thread. */
+    void listenerThatReads()
+    {
+        struct Reader : ConnectionListener
+        {
+            explicit Reader(RemoteCamera &camera)
+                : remote(camera)
+            {
+            }
+            void prepareReturn() override { }
+            void raise(std::uint32_t) override { failure = failureOf(remote).toStdString(); }
+
+            RemoteCamera &remote;
+            std::string failure = "not called";
+        };
+        m_camera->opening.setOpen(false);
+        start();
+        const auto reader = std::make_shared<Reader>(*m_remote);
+        m_remote->addListener(reader);
+        m_camera->opening.setOpen(true);
+        QTRY_VERIFY(m_remote->isConnected());
+        QCOMPARE(failureOf(*m_remote), QByteArray());
+        QCOMPARE(reader->failure, std::string());
     }
 
     void listenerThatIsGone()

@@ -50,11 +50,13 @@ System *System::acquire(const std::vector<Backend *> &backends)
 
 void System::Release()
 {
-    const std::lock_guard<std::mutex> lock(referenceMutex());
-    if (--liveCounts().systemReferences > 0)
-        return;
-    theSystem = nullptr;
-    delete this;
+    {
+        const std::lock_guard<std::mutex> lock(referenceMutex());
+        if (--liveCounts().systemReferences > 0)
+            return;
+        theSystem = nullptr;
+    }
+    delete this; // transports may wait for their threads
 }
 
 OrvCam::InterfaceList *System::GetInterfaceList(std::uint32_t typeMask)

@@ -23,6 +23,13 @@ std::mutex &openingMutex()
     return mutex;
 }
 
+/** Listing and opening USB cameras use the same tables, which nobody else guards. */
+std::mutex &usbMutex()
+{
+    static std::mutex mutex;
+    return mutex;
+}
+
 struct Unref
 {
     void operator()(void *object) const { g_object_unref(object); }
@@ -230,13 +237,16 @@ CameraLink *orvAravisOpenGige(std::uint32_t adapter, std::uint32_t address, bool
         failure.check();
         throw LinkError(LinkError::Kind::Failed, failure.text());
     }
-    if (!isReadOnly && !arv_gv_device_is_controller(ARV_GV_DEVICE(opened.get())))
+    // It asks for control in any case, and the other program may have let go meanwhile.
+    const bool controls = arv_gv_device_is_controller(ARV_GV_DEVICE(opened.get()));
+    if (!isReadOnly && !controls)
         throw LinkError(LinkError::Kind::Denied, "Another program has taken the camera");
-    return new GigeLink(std::move(opened), isReadOnly);
+    return new GigeLink(std::move(opened), !controls);
 }
 
 void orvAravisListUsb(std::vector<UsbCamera> &cameras)
 {
+    const std::lock_guard<std::mutex> lock(usbMutex());
     ArvInterface *const usb = arv_uv_interface_get_instance();
     arv_interface_update_device_list(usb);
     for (unsigned i = 0; i < arv_interface_get_n_devices(usb); ++i)
@@ -248,7 +258,7 @@ void orvAravisListUsb(std::vector<UsbCamera> &cameras)
 CameraLink *orvAravisOpenUsb(const char *id)
 {
     Failure failure;
-    const std::lock_guard<std::mutex> lock(openingMutex());
+    const std::scoped_lock lock(usbMutex(), openingMutex());
     DevicePointer opened(arv_interface_open_device(arv_uv_interface_get_instance(), id, &failure.error));
     if (!opened)
         throw LinkError(LinkError::Kind::Failed,

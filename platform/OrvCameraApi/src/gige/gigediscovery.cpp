@@ -83,6 +83,8 @@ OrvCamErr GigeDiscovery::forceIp(std::uint64_t mac, const IpConfiguration &confi
             else if (forced.accessStatus == OrvCam::AccessStatusIpSubnetMismatch)
                 forced.accessStatus = OrvCam::AccessStatusReadWrite;
             seen->isForced = true;
+            if (!m_options.broadcasts)
+                m_furtherAddresses.push_back(configuration.address);
         }
     }
     lookNow();
@@ -100,9 +102,10 @@ std::optional<Gvcp::Status> GigeDiscovery::askForIp(const FoundDevice &device,
     if (!socket.isOpen())
         return std::nullopt;
     // A device outside the subnet hears nothing else than a broadcast.
-    if (m_options.broadcasts)
+    const bool isBroadcast = broadcasts();
+    if (isBroadcast)
         socket.allowBroadcast(m_adapter.index);
-    const Endpoint to = m_options.broadcasts ? Endpoint{everyone, m_options.port} : device.endpoint;
+    const Endpoint to = isBroadcast ? Endpoint{everyone, m_options.port} : device.endpoint;
     for (int attempt = 0; attempt < attempts; ++attempt) {
         socket.send(Gvcp::forceIp(id, device.record.mac, configuration), to);
         const auto deadline = UdpSocket::Clock::now() + once;
@@ -123,6 +126,15 @@ std::vector<GigeDiscovery::Seen>::iterator GigeDiscovery::place(std::uint64_t ma
 {
     return std::find_if(m_seen.begin(), m_seen.end(),
                         [mac](const Seen &seen) { return seen.device.record.mac == mac; });
+}
+
+void GigeDiscovery::retire()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (std::exchange(m_isRetired, true))
+        return;
+    for (const Seen &seen : m_seen)
+        m_furtherAddresses.push_back(seen.device.endpoint.address);
 }
 
 void GigeDiscovery::lookNow()
@@ -182,12 +194,25 @@ std::uint16_t GigeDiscovery::nextId()
 /** Whether anyone could be asked. */
 bool GigeDiscovery::ask(std::uint16_t id) const
 {
-    bool isAnyone = false;
-    if (m_options.broadcasts)
-        isAnyone = m_socket.send(Gvcp::discovery(id, true), {everyone, m_options.port});
-    for (const std::uint32_t address : m_options.addresses)
+    bool isAnyone = broadcasts() && m_socket.send(Gvcp::discovery(id, true), {everyone, m_options.port});
+    for (const std::uint32_t address : addresses())
         isAnyone |= m_socket.send(Gvcp::discovery(id, false), {address, m_options.port});
     return isAnyone;
+}
+
+bool GigeDiscovery::broadcasts() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_options.broadcasts && !m_isRetired;
+}
+
+/** Those that are asked one by one. */
+std::vector<std::uint32_t> GigeDiscovery::addresses() const
+{
+    std::vector<std::uint32_t> all = m_options.addresses;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    all.insert(all.end(), m_furtherAddresses.begin(), m_furtherAddresses.end());
+    return all;
 }
 
 /** Anyone may send anything: at most a thousand devices are taken, and the first answer for a MAC address counts. */
@@ -195,8 +220,8 @@ void GigeDiscovery::take(const Datagram &datagram, std::uint16_t id,
                          std::map<std::uint64_t, FoundDevice> &answers) const
 {
     constexpr std::size_t most = 1000;
-    const std::vector<std::uint32_t> &asked = m_options.addresses;
-    if (!m_options.broadcasts && std::find(asked.begin(), asked.end(), datagram.from.address) == asked.end())
+    const std::vector<std::uint32_t> asked = addresses();
+    if (!broadcasts() && std::find(asked.begin(), asked.end(), datagram.from.address) == asked.end())
         return;
     const std::optional<Gvcp::Acknowledge> answer = Gvcp::acknowledgeIn(datagram.bytes.data(), datagram.bytes.size());
     if (!answer || answer->id != id || answer->command != Gvcp::Command::Discovery
@@ -213,7 +238,9 @@ void GigeDiscovery::askForAccess(std::map<std::uint64_t, FoundDevice> &devices)
     std::vector<FoundDevice *> open;
     for (auto &[mac, device] : devices) {
         const std::optional<FoundDevice> former = find(mac);
-        if (!m_adapter.contains(device.record.ip.address)) {
+        // Whoever answers to a broadcast is on the adapter's network, or says something that is not so.
+        const bool isNear = !m_options.broadcasts || m_adapter.contains(device.endpoint.address);
+        if (!isNear || !m_adapter.contains(device.record.ip.address)) {
             device.accessStatus = OrvCam::AccessStatusIpSubnetMismatch;
         } else {
             device.untold = former ? former->untold + 1 : m_options.missable;

@@ -61,6 +61,9 @@ public:
      */
     OrvCamErr forceIp(std::uint64_t mac, const IpConfiguration &configuration);
 
+    /** From now on only the devices that are known are asked, and nothing is broadcast. */
+    void retire();
+
     /** The next round begins at once. */
     void lookNow();
 
@@ -78,6 +81,8 @@ private:
     void run();
     void lookAround();
     bool ask(std::uint16_t id) const;
+    bool broadcasts() const;
+    std::vector<std::uint32_t> addresses() const;
     void take(const Datagram &datagram, std::uint16_t id, std::map<std::uint64_t, FoundDevice> &answers) const;
     void askForAccess(std::map<std::uint64_t, FoundDevice> &devices);
     std::uint16_t nextId();
@@ -93,6 +98,8 @@ private:
     mutable std::mutex m_mutex;
     std::condition_variable m_changed;
     std::vector<Seen> m_seen; ///< in the order in which they were found
+    std::vector<std::uint32_t> m_furtherAddresses; ///< that are asked one by one
+    bool m_isRetired = false;
     bool m_isBlocked = false;
     bool m_isHurried = false;
     bool m_isEnding = false;

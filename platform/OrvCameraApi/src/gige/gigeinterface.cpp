@@ -68,27 +68,18 @@ public:
     std::unique_ptr<Connection> open(std::int32_t accessMode, OrvCamErr &err) override;
 
 private:
-    std::shared_ptr<OpenRemoteCamera> openHere() const;
+    std::string key() const { return "GigE Vision " + *m_texts.id; }
 
     const std::uint64_t m_mac;
     const DeviceTexts m_texts;
     const std::shared_ptr<GigeDiscovery> m_discovery;
     const GigeInterface::Options m_options;
-
-    mutable std::mutex m_mutex;
-    std::weak_ptr<OpenRemoteCamera> m_open;
 };
-
-std::shared_ptr<OpenRemoteCamera> GigeDevice::openHere() const
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_open.lock();
-}
 
 /** Discovery cannot tell this process from others that control the camera. */
 std::int32_t GigeDevice::accessStatus() const
 {
-    if (const std::shared_ptr<OpenRemoteCamera> open = openHere()) {
+    if (const std::shared_ptr<OpenRemoteCamera> open = OpenRemoteCameras::find(key())) {
         if (open->camera().GetAccessMode() == GenApi::RW)
             return OrvCam::AccessStatusReadWrite;
     }
@@ -117,19 +108,13 @@ std::unique_ptr<Connection> GigeDevice::open(std::int32_t, OrvCamErr &err)
         err = OrvCamErr_InvalidState;
     if (err != OrvCamErr_Ok)
         return nullptr;
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    std::shared_ptr<OpenRemoteCamera> open = m_open.lock();
-    if (!open) {
-        const auto openLink = [mac = m_mac, discovery = m_discovery, link = m_options.open] {
-            const std::optional<FoundDevice> found = discovery->find(mac);
-            if (!found)
-                throw LinkError(LinkError::Kind::Silent, "The camera is not on the network");
-            return link(discovery->adapter().address, found->endpoint);
-        };
-        open = std::make_shared<OpenRemoteCamera>(openLink, m_options.patience);
-        m_open = open;
-    }
-    return std::make_unique<RemoteConnection>(std::move(open));
+    const auto openLink = [mac = m_mac, discovery = m_discovery, link = m_options.open] {
+        const std::optional<FoundDevice> found = discovery->find(mac);
+        if (!found)
+            throw LinkError(LinkError::Kind::Silent, "The camera is not on the network");
+        return link(discovery->adapter().address, found->endpoint);
+    };
+    return std::make_unique<RemoteConnection>(OpenRemoteCameras::open(key(), openLink, m_options.patience));
 }
 
 GigeInterface::GigeInterface(const std::string &id, const NetAdapter &adapter, const Options &options)
@@ -140,7 +125,10 @@ GigeInterface::GigeInterface(const std::string &id, const NetAdapter &adapter, c
 {
 }
 
-GigeInterface::~GigeInterface() = default;
+GigeInterface::~GigeInterface()
+{
+    m_discovery->retire(); // open cameras may keep it
+}
 
 std::shared_ptr<GenApi::INodeMap> GigeInterface::makeNodeMap()
 {
@@ -152,15 +140,22 @@ std::shared_ptr<GenApi::INodeMap> GigeInterface::makeNodeMap()
 /** The devices now. One whose texts have changed is another object, because texts never change. */
 GigeInterface::Known GigeInterface::known() const
 {
+    constexpr int most = 4096; // applications keep every device that they were given: nobody may invent more and more
     Known devices;
     const std::lock_guard<std::mutex> lock(m_mutex);
+    for (auto device = m_devices.begin(); device != m_devices.end();)
+        device = device->second.expired() ? m_devices.erase(device) : std::next(device);
     for (const FoundDevice &found : m_discovery->devices()) {
-        std::weak_ptr<GigeDevice> &weak = m_devices[found.record.mac];
-        std::shared_ptr<GigeDevice> device = weak.lock();
-        if (!device || !(device->texts() == textsOf(found.record))) {
+        const auto former = m_devices.find(found.record.mac);
+        std::shared_ptr<GigeDevice> device = former != m_devices.end() ? former->second.lock() : nullptr;
+        const bool isOther = !device || !(device->texts() == textsOf(found.record));
+        if (isOther && m_made < most) {
+            ++m_made;
             device = std::make_shared<GigeDevice>(found.record, m_discovery, m_options);
-            weak = device;
+            m_devices[found.record.mac] = device;
         }
+        if (!device)
+            continue;
         devices.push_back(std::move(device));
     }
     return devices;

@@ -42,6 +42,9 @@ public:
     /** Does not wait: devices that are found later are in later lists. */
     OrvCamErr reEnumerate(bool &changed, std::uint32_t timeout) override;
 
+    /** Whose devices these are. It may outlive this object. */
+    std::shared_ptr<GigeDiscovery> discovery() const { return m_discovery; }
+
 private:
     using Known = std::vector<std::shared_ptr<GigeDevice>>;
 
@@ -55,6 +58,7 @@ private:
 
     mutable std::mutex m_mutex;
     mutable std::map<std::uint64_t, std::weak_ptr<GigeDevice>> m_devices; ///< by MAC address
+    mutable int m_made = 0; ///< devices, so far
     Devices m_lastSeen; ///< in the last enumeration
 };
 

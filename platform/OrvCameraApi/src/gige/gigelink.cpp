@@ -74,7 +74,6 @@ public:
         , m_isReadOnly(isReadOnly)
         , m_file(file)
     {
-        constexpr std::uint32_t control = 2;
         if (!m_isReadOnly)
             require(Gvcp::writeRegister(m_client.nextId(), Gvcp::ControlPrivilege, control));
     }
@@ -92,9 +91,18 @@ public:
     void write(const void *buffer, std::uint64_t address, std::uint32_t length) override;
 
     /** The camera drops who controls it but asks nothing for some seconds. */
-    bool isAlive() override { return m_client.readRegisters({Gvcp::ControlPrivilege}).has_value(); }
+    bool isAlive() override
+    {
+        if (m_isReadOnly)
+            return true;
+        const std::optional<Gvcp::Acknowledge> answer =
+            m_client.request(Gvcp::writeRegister(m_client.nextId(), Gvcp::ControlPrivilege, control));
+        return answer && answer->status == Gvcp::Status::Success; // nobody else may
+    }
 
 private:
+    static constexpr std::uint32_t control = 2; ///< of ControlPrivilege
+
     Gvcp::Packet require(const Gvcp::Packet &packet);
     void read(WireSpan &span);
 

@@ -46,10 +46,26 @@ public:
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_discovery = discovery;
-        m_adapters.clear();
+        retire();
+    }
+
+    void stopLooking()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        retire();
     }
 
 private:
+    /** What has been looked for until now goes on with the cameras that are known, which may be open. */
+    void retire()
+    {
+        for (const std::weak_ptr<GigeDiscovery> &weak : std::exchange(m_running, {})) {
+            if (const std::shared_ptr<GigeDiscovery> discovery = weak.lock())
+                discovery->retire();
+        }
+        m_adapters.clear();
+    }
+
     bool isWanted(const NetAdapter &adapter) const;
     std::vector<NetAdapter> wantedAdapters() const;
     std::shared_ptr<GigeInterface> interfaceFor(const std::string &id, const NetAdapter &adapter,
@@ -60,6 +76,7 @@ private:
     OrvTransports::Discovery m_discovery;
     mutable std::map<std::string, std::weak_ptr<GigeInterface>> m_adapters; ///< by identifier and address
     mutable std::weak_ptr<UsbInterface> m_usb;
+    mutable std::vector<std::weak_ptr<GigeDiscovery>> m_running;
 };
 
 bool RealCameras::isWanted(const NetAdapter &adapter) const
@@ -127,6 +144,7 @@ std::shared_ptr<GigeInterface> RealCameras::interfaceFor(const std::string &id, 
         };
         interface = std::make_shared<GigeInterface>(id, adapter, options);
         weak = interface;
+        m_running.push_back(interface->discovery());
     }
     return interface;
 }
@@ -160,6 +178,11 @@ Backend &realCameras()
 void setDiscovery(const OrvTransports::Discovery &discovery)
 {
     theCameras().setDiscovery(discovery);
+}
+
+void stopLooking()
+{
+    theCameras().stopLooking();
 }
 
 } // namespace OrvCameraApi

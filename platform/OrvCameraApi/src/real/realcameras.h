@@ -9,7 +9,10 @@ namespace OrvCameraApi {
 /** The cameras on the network and on USB; the same object as long as the process. */
 Backend &realCameras();
 
-/** Where the next interfaces look. */
+/** Where interfaces look from now on. */
 void setDiscovery(const OrvTransports::Discovery &discovery);
+
+/** Only cameras that are known are asked from now on, until somebody lists interfaces again. */
+void stopLooking();
 
 } // namespace OrvCameraApi

@@ -89,12 +89,15 @@ void use(Cameras cameras)
     OrvCameraApi::Choice &choice = OrvCameraApi::choice();
     const std::lock_guard<std::mutex> lock(choice.mutex);
     choice.cameras = cameras;
+    if (cameras == Cameras::Simulated)
+        OrvCameraApi::stopLooking();
 }
 
 void use(Cameras cameras, const Discovery &discovery)
 {
+    OrvCameraApi::choice(); // takes the environment's restriction first
+    OrvCameraApi::setDiscovery(discovery); // before anybody looks
     use(cameras);
-    OrvCameraApi::setDiscovery(discovery);
 }
 
 Cameras used()

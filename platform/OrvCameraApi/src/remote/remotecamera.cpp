@@ -166,6 +166,8 @@ std::string RemoteCamera::description() const
 void RemoteCamera::addListener(std::weak_ptr<ConnectionListener> listener)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
+    const auto isGone = [](const std::weak_ptr<ConnectionListener> &other) { return other.expired(); };
+    m_listeners.erase(std::remove_if(m_listeners.begin(), m_listeners.end(), isGone), m_listeners.end());
     m_listeners.push_back(std::move(listener));
 }
 
@@ -210,6 +212,13 @@ std::shared_ptr<RemoteCamera::Access> RemoteCamera::access(bool isWrite, std::in
     Lock lock(m_mutex);
     if (m_state != State::Connected || m_isEnding)
         throwNotConnected();
+    if (std::this_thread::get_id() == m_threadId) { // a callback of the application, told of the connection
+        lock.unlock();
+        perform(*access);
+        if (access->failure)
+            std::rethrow_exception(access->failure);
+        return access;
+    }
     if (m_isSilent)
         throwNoAnswer();
     m_waiting.push_back(access);
@@ -229,14 +238,17 @@ void RemoteCamera::run()
 {
     std::chrono::milliseconds pause = m_patience.retry;
     Lock lock(m_mutex);
+    m_threadId = std::this_thread::get_id();
     while (!m_isEnding) {
         lock.unlock();
         const bool isOpen = openLink();
         if (isOpen)
             serve();
         lock.lock();
-        pause = isOpen ? m_patience.retry : std::min(2 * pause, m_patience.longestRetry);
+        if (isOpen)
+            pause = m_patience.retry;
         m_changed.wait_for(lock, pause, [this] { return m_isEnding; });
+        pause = std::min(2 * pause, m_patience.longestRetry);
     }
     failWaiting();
     lock.unlock();
@@ -276,6 +288,8 @@ bool RemoteCamera::openLink()
             throw LinkError(LinkError::Kind::Failed, "The camera cannot be opened");
         if (description().empty())
             fetchDescription(*link);
+        else if (link->description() != description())
+            throw LinkError(LinkError::Kind::Failed, "The camera has other features now; it has to be opened again");
         m_accessMode = link->isReadOnly() ? GenApi::RO : GenApi::RW;
         m_link = std::move(link);
     } catch (const GenICam::GenericException &error) {
@@ -331,18 +345,25 @@ void RemoteCamera::fail(const std::string &why)
 /** Performs accesses until the camera is lost or closed. */
 void RemoteCamera::serve()
 {
+    using Clock = std::chrono::steady_clock;
     bool isGood = true;
+    Clock::time_point nextCheck = Clock::now() + m_patience.check;
     Lock lock(m_mutex);
+    m_isSilent = false; // whoever has given up meanwhile has waited for this thread, not for the camera
     while (isGood) {
-        m_changed.wait_for(lock, m_patience.check, [this] { return m_isEnding || !m_waiting.empty(); });
+        m_changed.wait_until(lock, nextCheck, [this] { return m_isEnding || !m_waiting.empty(); });
         if (m_isEnding)
             return;
-        if (m_waiting.empty()) {
+        if (Clock::now() >= nextCheck) { // also while there is always something to do
             lock.unlock();
             isGood = isLinkAlive();
             lock.lock();
+            m_isSilent = m_isSilent && !isGood;
+            nextCheck = Clock::now() + m_patience.check;
             continue;
         }
+        if (m_waiting.empty())
+            continue;
         const std::shared_ptr<Access> access = m_waiting.front();
         m_waiting.pop_front();
         ++m_accessCount;
@@ -366,7 +387,7 @@ bool RemoteCamera::isLinkAlive()
     }
 }
 
-/** False when the camera has not answered. */
+/** False when the camera has not answered, or has another controller now. */
 bool RemoteCamera::perform(Access &access)
 {
     try {
@@ -376,7 +397,7 @@ bool RemoteCamera::perform(Access &access)
             m_link->read(access.bytes.data(), access.address, std::uint32_t(access.bytes.size()));
     } catch (const LinkError &error) {
         access.failure = forCallers(error);
-        return error.kind() != LinkError::Kind::Silent;
+        return error.kind() == LinkError::Kind::Failed || (error.kind() == LinkError::Kind::Denied && isLinkAlive());
     } catch (const std::exception &error) {
         access.failure = std::make_exception_ptr(GenICam::RuntimeException(error.what(), __FILE__, __LINE__));
     } catch (...) {

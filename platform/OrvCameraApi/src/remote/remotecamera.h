@@ -39,7 +39,7 @@ public:
         std::chrono::milliseconds access{1000}; ///< of a caller for one access
         std::chrono::milliseconds check{1000}; ///< between two questions whether the camera is alive
         std::chrono::milliseconds retry{1000}; ///< after the first attempt to open the camera; doubles
-        std::chrono::milliseconds longestRetry{8000};
+        std::chrono::milliseconds longestRetry{2000};
     };
 
     using State = OpeningStep;
@@ -70,6 +70,9 @@ public:
     GenApi::EAccessMode GetAccessMode() const override { return m_accessMode; }
     void Read(void *buffer, std::int64_t address, std::int64_t length) override;
     void Write(const void *buffer, std::int64_t address, std::int64_t length) override;
+
+    /** Becomes true when the camera has been closed and its link is gone. */
+    std::shared_ptr<const std::atomic<bool>> hasEnded() const { return m_hasEnded; }
 
     /** Accesses that have reached the link. */
     std::uint64_t accessCount() const;
@@ -122,6 +125,7 @@ private:
     std::vector<std::weak_ptr<ConnectionListener>> m_listeners;
 
     std::thread m_thread;
+    std::thread::id m_threadId; ///< also when the thread has been closed
     const std::shared_ptr<std::atomic<bool>> m_hasEnded = std::make_shared<std::atomic<bool>>(false); ///< the thread
 };
 

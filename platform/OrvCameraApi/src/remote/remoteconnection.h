@@ -4,6 +4,7 @@
 #include "remotecamera.h"
 
 #include <memory>
+#include <string>
 #include <utility>
 
 namespace OrvCameraApi {
@@ -24,6 +25,21 @@ public:
 
 private:
     const std::shared_ptr<RemoteCamera> m_camera;
+};
+
+/**
+ * The remote cameras that are open in this process, by a key for each camera. A camera has one link, however often it
+ * is listed and opened: it would be its own competitor.
+ */
+class OpenRemoteCameras
+{
+public:
+    /** The camera if it is open, or null. */
+    static std::shared_ptr<OpenRemoteCamera> find(const std::string &key);
+
+    /** The same, or opens it, as soon as its former link is gone. */
+    static std::shared_ptr<OpenRemoteCamera> open(const std::string &key, const RemoteCamera::Open &open,
+                                                  const RemoteCamera::Patience &patience);
 };
 
 /** An application's connection to a remote camera; all of a process share one link. */

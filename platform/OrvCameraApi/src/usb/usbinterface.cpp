@@ -45,21 +45,15 @@ public:
     std::unique_ptr<Connection> open(std::int32_t, OrvCamErr &err) override
     {
         err = OrvCamErr_Ok;
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        std::shared_ptr<OpenRemoteCamera> open = m_open.lock();
-        if (!open) {
-            open = std::make_shared<OpenRemoteCamera>([id = *m_texts.id, link = m_options.open] { return link(id); },
-                                                      m_options.patience);
-            m_open = open;
-        }
+        std::shared_ptr<OpenRemoteCamera> open = OpenRemoteCameras::open(
+            "USB3 Vision " + *m_texts.id, [id = *m_texts.id, link = m_options.open] { return link(id); },
+            m_options.patience);
         return std::make_unique<RemoteConnection>(std::move(open));
     }
 
 private:
     const DeviceTexts m_texts;
     const Options m_options;
-    std::mutex m_mutex;
-    std::weak_ptr<OpenRemoteCamera> m_open;
 };
 
 UsbInterface::UsbInterface(Options options)
