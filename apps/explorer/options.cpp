@@ -44,7 +44,7 @@ QString misuse(const QCommandLineParser &parser)
             return Text::tr("'%1' is no IPv4 address.").arg(address);
     }
     if (parser.isSet(QStringLiteral("real")) && !OrvTransports::canReachRealCameras())
-        return Text::tr("This program was built without real cameras.");
+        return Text::tr("Real cameras need the module libOrvCameraApiAravis.so, which is not installed.");
     const QString language = parser.value(QStringLiteral("language"));
     if (!language.isEmpty() && !languages().contains(language))
         return Text::tr("There is no language '%1'; there are: %2.")

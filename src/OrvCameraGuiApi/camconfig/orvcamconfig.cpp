@@ -265,8 +265,6 @@ void OrvCamConfigPrivate::adopt(OrvCam::Device *newDevice)
 {
     init(newDevice);
     registerCallbacks();
-    // A real camera has its parameters with the connected event, which may have come before the callbacks.
-    awaitsParameters = device && !camera.parameters();
     setDialogsDevice(newDevice);
 }
 
@@ -291,12 +289,13 @@ void OrvCamConfigPrivate::letGo()
 /** Starts again with the parameters of \a newDevice, which may be null. The callbacks stay registered. */
 void OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
 {
-    const bool isSame = std::exchange(device, newDevice) == newDevice;
+    device = newDevice;
     params = CameraParams();
     isSelecting = false;
     clearStatus();
     const bool hasParameters = camera.setDevice(device); // also unbinds the mapper
-    awaitsParameters = awaitsParameters && isSame && !hasParameters;
+    // They come with the connected event, which may have come before the callbacks, or a while after it.
+    awaitsParameters = device && !hasParameters;
     if (hasParameters)
         getNeededParams();
     q->setEnabled(true);

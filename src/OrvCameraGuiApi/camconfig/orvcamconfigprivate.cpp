@@ -82,11 +82,9 @@ void OrvCamConfigPrivate::loseCamera()
     updateStatus();
 }
 
-/** A camera may need a while before it has its parameters. */
 void OrvCamConfigPrivate::takeBack()
 {
     init(device);
-    awaitsParameters = device && !camera.parameters();
     setDialogsDevice(device);
 }
 

@@ -54,6 +54,15 @@ struct IpConfiguration
     std::uint32_t gateway = 0;
 };
 
+/** \a address as four decimal octets joined with ".". */
+inline std::string dotted(std::uint32_t address)
+{
+    std::string text = std::to_string(address >> 24);
+    for (const unsigned shift : {16U, 8U, 0U})
+        text += '.' + std::to_string(address >> shift & 0xFF);
+    return text;
+}
+
 /** The answer to a request for parameters. A backend may give them and report an error all the same. */
 struct ParametersAnswer
 {

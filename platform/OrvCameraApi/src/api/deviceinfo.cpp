@@ -6,18 +6,6 @@
 
 namespace OrvCameraApi {
 
-namespace {
-
-std::string dotted(std::uint32_t address)
-{
-    std::string text = std::to_string(address >> 24);
-    for (const unsigned shift : {16U, 8U, 0U})
-        text += '.' + std::to_string(address >> shift & 0xFF);
-    return text;
-}
-
-} // namespace
-
 DeviceInfo::DeviceInfo(OrvCam::Interface &interface, std::shared_ptr<BackendDevice> source)
     : m_interface(interface)
     , m_source(std::move(source))

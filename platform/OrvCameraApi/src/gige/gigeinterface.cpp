@@ -154,9 +154,8 @@ GigeInterface::Known GigeInterface::known() const
             device = std::make_shared<GigeDevice>(found.record, m_discovery, m_options);
             m_devices[found.record.mac] = device;
         }
-        if (!device)
-            continue;
-        devices.push_back(std::move(device));
+        if (device)
+            devices.push_back(std::move(device));
     }
     return devices;
 }

@@ -1,7 +1,6 @@
 #include "gigelink.h"
 
 #include "gvcpclient.h"
-#include "netadapter.h"
 #include "wirespan.h"
 
 #include <OrvGenApi/ziparchive.h>
@@ -19,6 +18,14 @@ namespace {
 std::string textIn(const Gvcp::Packet &bytes)
 {
     return std::string(bytes.begin(), std::find(bytes.begin(), bytes.end(), 0));
+}
+
+/** A text of the camera for people, whatever it is made of. */
+std::string shown(std::string text)
+{
+    std::replace_if(
+        text.begin(), text.end(), [](char byte) { return byte < ' ' || byte > '~'; }, '?');
+    return text;
 }
 
 [[noreturn]] void throwSilent()
@@ -51,8 +58,8 @@ Gvcp::DescriptionFile fileOf(GvcpClient &client)
     const std::optional<Gvcp::DescriptionFile> file = Gvcp::localFileIn(textIn(*url));
     if (!file)
         throw LinkError(LinkError::Kind::Failed,
-                        "The description is not in the camera and is not fetched from elsewhere: \"" + textIn(*url)
-                            + '"');
+                        "The description is not in the camera and is not fetched from elsewhere: \""
+                            + shown(textIn(*url)) + '"');
     return *file;
 }
 

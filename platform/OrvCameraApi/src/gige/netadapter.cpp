@@ -66,12 +66,4 @@ std::vector<NetAdapter> netAdapters()
     return adapters;
 }
 
-std::string dotted(std::uint32_t address)
-{
-    std::string text;
-    for (int shift = 24; shift >= 0; shift -= 8)
-        text += (text.empty() ? "" : ".") + std::to_string(address >> shift & 0xFF);
-    return text;
-}
-
 } // namespace OrvCameraApi

@@ -22,7 +22,4 @@ struct NetAdapter
 /** The adapters that are up now, in the system's order; empty if the system refuses. */
 std::vector<NetAdapter> netAdapters();
 
-/** \a address in dotted notation. */
-std::string dotted(std::uint32_t address);
-
 } // namespace OrvCameraApi

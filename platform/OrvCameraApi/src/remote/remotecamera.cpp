@@ -213,6 +213,7 @@ std::shared_ptr<RemoteCamera::Access> RemoteCamera::access(bool isWrite, std::in
     if (m_state != State::Connected || m_isEnding)
         throwNotConnected();
     if (std::this_thread::get_id() == m_threadId) { // a callback of the application, told of the connection
+        ++m_accessCount;
         lock.unlock();
         perform(*access);
         if (access->failure)
