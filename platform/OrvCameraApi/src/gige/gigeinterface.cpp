@@ -108,11 +108,11 @@ std::unique_ptr<Connection> GigeDevice::open(std::int32_t, OrvCamErr &err)
         err = OrvCamErr_InvalidState;
     if (err != OrvCamErr_Ok)
         return nullptr;
-    const auto openLink = [mac = m_mac, discovery = m_discovery, link = m_options.open] {
+    const auto openLink = [mac = m_mac, discovery = m_discovery, link = m_options.open](const IsWanted &isWanted) {
         const std::optional<FoundDevice> found = discovery->find(mac);
         if (!found)
             throw LinkError(LinkError::Kind::Silent, "The camera is not on the network");
-        return link(discovery->adapter().address, found->endpoint);
+        return link(discovery->adapter().address, found->endpoint, isWanted);
     };
     return std::make_unique<RemoteConnection>(OpenRemoteCameras::open(key(), openLink, m_options.patience));
 }

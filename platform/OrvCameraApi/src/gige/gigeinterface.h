@@ -20,7 +20,8 @@ class GigeInterface final : public BackendInterface
 {
 public:
     /** Opens the device that answers there through the adapter of that address. Throws LinkError. */
-    using OpenLink = std::function<std::unique_ptr<CameraLink>(std::uint32_t adapter, const Endpoint &device)>;
+    using OpenLink = std::function<std::unique_ptr<CameraLink>(std::uint32_t adapter, const Endpoint &device,
+                                                               const IsWanted &isWanted)>;
 
     struct Options
     {

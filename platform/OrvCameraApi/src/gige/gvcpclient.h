@@ -18,15 +18,12 @@ struct GvcpPatience
     std::chrono::milliseconds longest{1000}; ///< with everything that pending acknowledges ask for
 };
 
-/** Talks to one device, without controlling it. Used by one thread, except stop(). */
+/** Talks to one device, without controlling it. Used by one thread. */
 class GvcpClient
 {
 public:
     /** \a local is the address of the adapter through which the device is reached. */
     GvcpClient(std::uint32_t local, const Endpoint &device, const GvcpPatience &patience = {});
-
-    /** Ends the request that is running, without an answer, and all later ones; any thread. */
-    void stop() const { m_socket.wake(); }
 
     /** The values of the registers, with as few packets as possible; none if the device does not answer or refuses. */
     std::optional<std::vector<std::uint32_t>> readRegisters(const std::vector<std::uint32_t> &addresses);

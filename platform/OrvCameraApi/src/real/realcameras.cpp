@@ -139,8 +139,8 @@ std::shared_ptr<GigeInterface> RealCameras::interfaceFor(const std::string &id, 
         GigeInterface::Options options;
         options.discovery.broadcasts = m_discovery.addresses.empty();
         options.discovery.addresses = std::move(addresses);
-        options.open = [](std::uint32_t local, const Endpoint &device) {
-            return openGigeCamera(local, device, AravisModule::openGige);
+        options.open = [](std::uint32_t local, const Endpoint &device, const IsWanted &isWanted) {
+            return openGigeCamera(local, device, isWanted, AravisModule::openGige);
         };
         interface = std::make_shared<GigeInterface>(id, adapter, options);
         weak = interface;

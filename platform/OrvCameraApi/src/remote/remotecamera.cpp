@@ -101,6 +101,7 @@ std::exception_ptr forCallers(const LinkError &error)
     case LinkError::Kind::Silent:
         return std::make_exception_ptr(GenICam::TimeoutException(error.what(), __FILE__, __LINE__));
     case LinkError::Kind::Failed:
+    case LinkError::Kind::Unwanted:
         break;
     }
     return std::make_exception_ptr(GenICam::RuntimeException(error.what(), __FILE__, __LINE__));
@@ -227,7 +228,10 @@ std::shared_ptr<RemoteCamera::Access> RemoteCamera::access(bool isWrite, std::in
     if (!m_changed.wait_for(lock, m_patience.access, [&] { return access->isDone; })) {
         m_isSilent = true;
         // Nothing is written after its writer has been told that it is not.
-        m_waiting.erase(std::remove(m_waiting.begin(), m_waiting.end(), access), m_waiting.end());
+        const auto waiting = std::find(m_waiting.begin(), m_waiting.end(), access);
+        m_isGivenUp = waiting == m_waiting.end();
+        if (waiting != m_waiting.end())
+            m_waiting.erase(waiting);
         throwNoAnswer();
     }
     if (access->failure)
@@ -248,7 +252,7 @@ void RemoteCamera::run()
         lock.lock();
         if (isOpen)
             pause = m_patience.retry;
-        m_changed.wait_for(lock, pause, [this] { return m_isEnding; });
+        m_changed.wait_for(lock, pause, [this] { return m_isEnding.load(); });
         pause = std::min(2 * pause, m_patience.longestRetry);
     }
     failWaiting();
@@ -284,7 +288,7 @@ void RemoteCamera::tellAll(const Tell &tell)
 bool RemoteCamera::openLink()
 {
     try {
-        std::unique_ptr<CameraLink> link = m_open();
+        std::unique_ptr<CameraLink> link = m_open([this] { return isWanted(); });
         if (!link)
             throw LinkError(LinkError::Kind::Failed, "The camera cannot be opened");
         if (description().empty())
@@ -372,6 +376,7 @@ void RemoteCamera::serve()
         isGood = perform(*access);
         lock.lock();
         access->isDone = true;
+        m_isGivenUp = false;
         m_isSilent = m_isSilent && !isGood;
         m_changed.notify_all();
     }
@@ -398,7 +403,8 @@ bool RemoteCamera::perform(Access &access)
             m_link->read(access.bytes.data(), access.address, std::uint32_t(access.bytes.size()));
     } catch (const LinkError &error) {
         access.failure = forCallers(error);
-        return error.kind() == LinkError::Kind::Failed || (error.kind() == LinkError::Kind::Denied && isLinkAlive());
+        const bool isOver = error.kind() == LinkError::Kind::Failed || error.kind() == LinkError::Kind::Unwanted;
+        return isOver || (error.kind() == LinkError::Kind::Denied && isLinkAlive());
     } catch (const std::exception &error) {
         access.failure = std::make_exception_ptr(GenICam::RuntimeException(error.what(), __FILE__, __LINE__));
     } catch (...) {

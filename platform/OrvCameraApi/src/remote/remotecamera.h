@@ -31,8 +31,8 @@ namespace OrvCameraApi {
 class RemoteCamera final : public GenApi::IPort
 {
 public:
-    /** Opens the camera. Throws LinkError. */
-    using Open = std::function<std::unique_ptr<CameraLink>()>;
+    /** Opens the camera, with a link that keeps \a isWanted. Throws LinkError. */
+    using Open = std::function<std::unique_ptr<CameraLink>(const IsWanted &isWanted)>;
 
     struct Patience
     {
@@ -98,6 +98,7 @@ private:
     void fail(const std::string &why);
     void serve();
     bool isLinkAlive();
+    bool isWanted() const { return !m_isEnding && !m_isGivenUp; }
     bool perform(Access &access);
     void lose();
     void failWaiting();
@@ -115,7 +116,8 @@ private:
     mutable std::mutex m_mutex;
     std::condition_variable m_changed;
     State m_state = State::Connecting;
-    bool m_isEnding = false;
+    std::atomic<bool> m_isEnding{false}; ///< changes with the mutex held
+    std::atomic<bool> m_isGivenUp{false}; ///< the access that is running
     bool m_isSilent = false; ///< a caller has given up an access that is still running
     std::deque<std::shared_ptr<Access>> m_waiting;
     std::string m_description;

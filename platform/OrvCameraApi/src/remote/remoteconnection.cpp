@@ -27,11 +27,11 @@ Slots &slots()
 }
 
 /** A link that is being closed still controls the camera, and would count as another program. */
-void waitFor(const std::atomic<bool> &hasEnded)
+void waitFor(const std::atomic<bool> &hasEnded, const IsWanted &isWanted)
 {
     using namespace std::chrono_literals;
     const auto deadline = std::chrono::steady_clock::now() + 5s;
-    while (!hasEnded && std::chrono::steady_clock::now() < deadline)
+    while (!hasEnded && isWanted() && std::chrono::steady_clock::now() < deadline)
         std::this_thread::sleep_for(10ms);
 }
 
@@ -51,10 +51,11 @@ std::shared_ptr<OpenRemoteCamera> OpenRemoteCameras::open(const std::string &key
     Slot &slot = slots().byKey[key];
     std::shared_ptr<OpenRemoteCamera> camera = slot.camera.lock();
     if (!camera) {
-        const auto openAfterwards = [open, former = slot.hasEnded] {
+        const auto openAfterwards = [open, former = slot.hasEnded](const IsWanted &isWanted) {
             if (former)
-                waitFor(*former);
-            return open();
+                waitFor(*former, isWanted);
+            requireWanted(isWanted);
+            return open(isWanted);
         };
         camera = std::make_shared<OpenRemoteCamera>(openAfterwards, patience);
         slot.camera = camera;

@@ -31,7 +31,8 @@ public:
     struct Options
     {
         std::function<std::vector<UsbCamera>()> list; ///< may take a moment
-        std::function<std::unique_ptr<CameraLink>(const std::string &id)> open; ///< throws LinkError
+        std::function<std::unique_ptr<CameraLink>(const std::string &id, const IsWanted &isWanted)>
+            open; ///< throws LinkError
         RemoteCamera::Patience patience;
         std::chrono::milliseconds period{1000};
     };
