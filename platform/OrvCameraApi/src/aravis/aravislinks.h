@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cameralink.h"
-#include "usbinterface.h"
+#include "usbdiscovery.h"
 
 #include <cstdint>
 #include <vector>

@@ -1,5 +1,7 @@
 #include "remotecamera.h"
 
+#include "endingthreads.h"
+
 #include <OrvGenApi/nodemap.h>
 
 #include <algorithm>
@@ -20,7 +22,6 @@ public:
             if (const std::shared_ptr<RemoteCamera> camera = weak.lock())
                 RemoteCamera::close(camera);
         }
-        joinClosed();
     }
 
     void add(const std::shared_ptr<RemoteCamera> &camera)
@@ -29,39 +30,20 @@ public:
         m_open.push_back(camera);
     }
 
-    /** Also joins those that have ended since. */
     void close(std::thread thread, std::shared_ptr<const std::atomic<bool>> hasEnded)
     {
+        m_closed.add(std::move(thread), std::move(hasEnded));
         const std::lock_guard<std::mutex> lock(m_mutex);
-        const auto ended =
-            std::partition(m_closed.begin(), m_closed.end(), [](const Closed &closed) { return !*closed.hasEnded; });
-        std::for_each(ended, m_closed.end(), [](Closed &closed) { closed.thread.join(); });
-        m_closed.erase(ended, m_closed.end());
         m_open.erase(std::remove_if(m_open.begin(), m_open.end(), [](const auto &weak) { return weak.expired(); }),
                      m_open.end());
-        m_closed.push_back({std::move(thread), std::move(hasEnded)});
     }
 
-    void joinClosed()
-    {
-        std::unique_lock<std::mutex> lock(m_mutex);
-        std::vector<Closed> ending = std::move(m_closed);
-        m_closed.clear();
-        lock.unlock();
-        for (Closed &closed : ending)
-            closed.thread.join();
-    }
+    void waitForClosed() { m_closed.join(); }
 
 private:
-    struct Closed
-    {
-        std::thread thread;
-        std::shared_ptr<const std::atomic<bool>> hasEnded;
-    };
-
     std::mutex m_mutex;
     std::vector<std::weak_ptr<RemoteCamera>> m_open;
-    std::vector<Closed> m_closed;
+    EndingThreads m_closed;
 };
 
 RunningCameras &runningCameras()
@@ -143,7 +125,7 @@ void RemoteCamera::close(const std::shared_ptr<RemoteCamera> &camera)
 
 void RemoteCamera::waitForClosed()
 {
-    runningCameras().joinClosed();
+    runningCameras().waitForClosed();
 }
 
 RemoteCamera::State RemoteCamera::state() const
