@@ -1,11 +1,17 @@
 #include "usbinterface.h"
+#include "usbpermission.h"
 
 #include <orvtest.h>
 
+#include <QDir>
 #include <QElapsedTimer>
+#include <QTemporaryDir>
 
 #include <condition_variable>
 #include <mutex>
+
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace OrvCameraApi;
 using namespace std::chrono_literals;
@@ -21,12 +27,12 @@ struct Bus
     bool isSlow = false;
     int looks = 0;
 
-    std::vector<UsbCamera> list()
+    UsbDiscovery::Found list()
     {
         std::unique_lock<std::mutex> lock(mutex);
         ++looks;
         changed.wait(lock, [this] { return !isSlow; });
-        return cameras;
+        return {cameras, {}};
     }
 
     void set(bool slow, std::vector<UsbCamera> plugged)
@@ -113,6 +119,39 @@ private Q_SLOTS:
         QCOMPARE(m_opened->load(), 1);
         IpConfiguration configuration;
         QCOMPARE(usb->devices()->front()->forceIp(configuration), OrvCamErr_InvalidState);
+    }
+
+    /** Asked by a process of a user who may do nothing, because those who run tests may do everything. */
+    void permission()
+    {
+        const QTemporaryDir root;
+        const auto write = [&](const QString &file, const char *text) {
+            QDir().mkpath(QFileInfo(root.filePath(file)).path());
+            QFile to(root.filePath(file));
+            QVERIFY(to.open(QIODevice::WriteOnly) && to.write(text) >= 0);
+        };
+        const QString device = QStringLiteral("sys/bus/usb/devices/2-1");
+        write(device + QStringLiteral("/busnum"), "2\n");
+        write(device + QStringLiteral("/devnum"), "17\n");
+        write(device + QStringLiteral("/product"), "Cam\n");
+        write(device + QStringLiteral(":1.0/bInterfaceClass"), "ef\n");
+        write(device + QStringLiteral(":1.0/bInterfaceSubClass"), "05\n");
+        write(device + QStringLiteral(":1.0/bInterfaceProtocol"), "00\n");
+        write(QStringLiteral("dev/bus/usb/002/017"), "");
+        QFile::setPermissions(root.path(), QFile::Permissions(0x7755));
+        QFile::setPermissions(root.filePath(QStringLiteral("dev/bus/usb/002/017")), QFile::ReadOwner);
+        const std::string path = root.path().toStdString();
+        const pid_t other = ::fork();
+        if (other == 0) {
+            const bool isOther = ::getuid() != 0 || ::setuid(65534) == 0;
+            const std::string problem = usbPermissionProblem(path);
+            ::_exit(isOther && problem.find("Cam is plugged in") != std::string::npos ? 0 : 1);
+        }
+        int status = -1;
+        QVERIFY(::waitpid(other, &status, 0) == other && status == 0);
+        QVERIFY(QFile::remove(root.filePath(device) + QStringLiteral(":1.0/bInterfaceProtocol")));
+        QCOMPARE(usbPermissionProblem(path), std::string());
+        QCOMPARE(usbPermissionProblem("/nowhere"), std::string());
     }
 
 private:

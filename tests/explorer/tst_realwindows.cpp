@@ -80,7 +80,14 @@ private Q_SLOTS:
     void explorerFollowsItsCamera()
     {
         FakeCamera fake;
-        whenOpen<CameraDialog>([](CameraDialog &dialog) { accept(dialog); });
+        fake.kill();
+        whenOpen<CameraDialog>([&fake](CameraDialog &dialog) {
+            const auto *const problems = dialog.findChild<QLabel *>(QStringLiteral("problems"));
+            QTRY_VERIFY(problems->text().startsWith(QLatin1String("lo (127.0.0.1): no camera has answered.")));
+            fake.start();
+            QTRY_VERIFY(problems->isHidden());
+            accept(dialog);
+        });
         std::unique_ptr<CameraSource> source = chooseCamera();
         QVERIFY(source);
         ExplorerWindow window(std::move(source));

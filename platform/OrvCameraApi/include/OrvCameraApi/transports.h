@@ -46,6 +46,12 @@ ORV_CAMERAAPI_EXPORT void use(Cameras cameras, const Discovery &discovery);
 /** The choice that is in force. */
 ORV_CAMERAAPI_EXPORT Cameras used();
 
+/**
+ * Why real cameras may be missing and what can be done, one text in UTF-8 for each network adapter on which none has
+ * answered for some seconds, and one for USB cameras that may not be used. Of the newest round; waits for nothing.
+ */
+ORV_CAMERAAPI_EXPORT std::vector<std::string> problems();
+
 /** How far an open device is on its way to its features. */
 enum class Step {
     Connecting, ///< the camera is looked for and asked; also after a failure

@@ -1,6 +1,8 @@
 #include "gigediscovery.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <system_error>
 #include <utility>
 
 namespace OrvCameraApi {
@@ -146,10 +148,18 @@ void GigeDiscovery::lookNow()
     m_changed.notify_all();
 }
 
-bool GigeDiscovery::isBlocked() const
+std::string GigeDiscovery::problem() const
 {
+    const std::string where = m_adapter.name + " (" + dotted(m_adapter.address) + "): ";
+    const std::string port = std::to_string(m_options.port);
     const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_isBlocked;
+    if (m_refusal)
+        return where + "cameras cannot be asked (" + *m_refusal + "). A firewall may forbid UDP to port " + port + '.';
+    if (m_emptyRounds < m_options.missable)
+        return {};
+    return where
+        + "no camera has answered. If one is connected, a firewall may drop its answers, which come from UDP port "
+        + port + '.';
 }
 
 void GigeDiscovery::run()
@@ -172,16 +182,16 @@ void GigeDiscovery::lookAround()
 {
     std::map<std::uint64_t, FoundDevice> answers;
     const std::uint16_t id = nextId();
-    const bool isAsked = m_socket.isOpen() && ask(id);
+    const std::optional<std::string> refusal = ask(id);
     const auto deadline = UdpSocket::Clock::now() + m_options.patience;
-    while (isAsked) {
+    while (!refusal) {
         const std::optional<Datagram> datagram = m_socket.receive(deadline);
         if (!datagram)
             break;
         take(*datagram, id, answers);
     }
     askForAccess(answers);
-    publish(std::move(answers), !isAsked);
+    publish(std::move(answers), refusal);
 }
 
 std::uint16_t GigeDiscovery::nextId()
@@ -191,13 +201,18 @@ std::uint16_t GigeDiscovery::nextId()
     return m_id;
 }
 
-/** Whether anyone could be asked. */
-bool GigeDiscovery::ask(std::uint16_t id) const
+/** Why nobody could be asked, if that is so. */
+std::optional<std::string> GigeDiscovery::ask(std::uint16_t id) const
 {
     bool isAnyone = broadcasts() && m_socket.send(Gvcp::discovery(id, true), {everyone, m_options.port});
-    for (const std::uint32_t address : addresses())
+    int error = errno;
+    for (const std::uint32_t address : addresses()) {
         isAnyone |= m_socket.send(Gvcp::discovery(id, false), {address, m_options.port});
-    return isAnyone;
+        error = errno;
+    }
+    if (isAnyone)
+        return std::nullopt;
+    return m_socket.isOpen() ? std::generic_category().message(error) : "the adapter has another address now";
 }
 
 bool GigeDiscovery::broadcasts() const
@@ -273,10 +288,11 @@ void GigeDiscovery::askForAccess(std::map<std::uint64_t, FoundDevice> &devices)
 }
 
 /** A packet may be lost: a device stays until it has missed several rounds. */
-void GigeDiscovery::publish(std::map<std::uint64_t, FoundDevice> &&answers, bool isBlocked)
+void GigeDiscovery::publish(std::map<std::uint64_t, FoundDevice> &&answers, std::optional<std::string> refusal)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_isBlocked = isBlocked;
+    m_refusal = std::move(refusal);
+    m_emptyRounds = answers.empty() ? std::min(m_emptyRounds + 1, m_options.missable) : 0;
     for (Seen &seen : m_seen) {
         const auto answer = answers.find(seen.device.record.mac);
         if (answer == answers.end()) {

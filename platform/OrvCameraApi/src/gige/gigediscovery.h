@@ -10,6 +10,7 @@
 #include <map>
 #include <mutex>
 #include <optional>
+#include <string>
 #include <thread>
 #include <vector>
 
@@ -67,8 +68,8 @@ public:
     /** The next round begins at once. */
     void lookNow();
 
-    /** Whether the network has refused questions, for instance because the adapter has lost its address. */
-    bool isBlocked() const;
+    /** Why no device is known and what can be done, for people; empty if there is one, or it is too early to tell. */
+    std::string problem() const;
 
 private:
     struct Seen
@@ -80,7 +81,7 @@ private:
 
     void run();
     void lookAround();
-    bool ask(std::uint16_t id) const;
+    std::optional<std::string> ask(std::uint16_t id) const;
     bool broadcasts() const;
     std::vector<std::uint32_t> addresses() const;
     void take(const Datagram &datagram, std::uint16_t id, std::map<std::uint64_t, FoundDevice> &answers) const;
@@ -88,7 +89,7 @@ private:
     std::uint16_t nextId();
     std::optional<Gvcp::Status> askForIp(const FoundDevice &device, const IpConfiguration &configuration) const;
     std::vector<Seen>::iterator place(std::uint64_t mac);
-    void publish(std::map<std::uint64_t, FoundDevice> &&answers, bool isBlocked);
+    void publish(std::map<std::uint64_t, FoundDevice> &&answers, std::optional<std::string> refusal);
 
     const NetAdapter m_adapter;
     const Options m_options;
@@ -100,7 +101,8 @@ private:
     std::vector<Seen> m_seen; ///< in the order in which they were found
     std::vector<std::uint32_t> m_furtherAddresses; ///< that are asked one by one
     bool m_isRetired = false;
-    bool m_isBlocked = false;
+    std::optional<std::string> m_refusal; ///< of the system, to ask anyone in the last round
+    int m_emptyRounds = 0; ///< one after the other
     bool m_isHurried = false;
     bool m_isEnding = false;
 

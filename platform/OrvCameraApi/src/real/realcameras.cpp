@@ -4,6 +4,7 @@
 #include "gigeinterface.h"
 #include "gigelink.h"
 #include "usbinterface.h"
+#include "usbpermission.h"
 
 #include <algorithm>
 #include <map>
@@ -47,6 +48,20 @@ public:
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_discovery = discovery;
         retire();
+    }
+
+    std::vector<std::string> problems() const
+    {
+        std::vector<std::string> problems;
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        for (const auto &[id, weak] : m_adapters) {
+            if (const std::shared_ptr<GigeInterface> interface = weak.lock())
+                problems.push_back(interface->discovery()->problem());
+        }
+        if (const std::shared_ptr<UsbInterface> interface = m_usb.lock())
+            problems.push_back(interface->problem());
+        problems.erase(std::remove(problems.begin(), problems.end(), std::string()), problems.end());
+        return problems;
     }
 
     void stopLooking()
@@ -154,7 +169,7 @@ std::shared_ptr<UsbInterface> RealCameras::usb() const
     std::shared_ptr<UsbInterface> interface = m_usb.lock();
     if (!interface) {
         UsbInterface::Options options;
-        options.list = AravisModule::usbCameras;
+        options.list = [] { return UsbDiscovery::Found{AravisModule::usbCameras(), usbPermissionProblem("/")}; };
         options.open = AravisModule::openUsb;
         interface = std::make_shared<UsbInterface>(std::move(options));
         m_usb = interface;
@@ -178,6 +193,11 @@ Backend &realCameras()
 void setDiscovery(const OrvTransports::Discovery &discovery)
 {
     theCameras().setDiscovery(discovery);
+}
+
+std::vector<std::string> problemsOfRealCameras()
+{
+    return theCameras().problems();
 }
 
 void stopLooking()

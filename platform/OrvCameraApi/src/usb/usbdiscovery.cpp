@@ -20,7 +20,7 @@ struct UsbDiscovery::Search
     const std::chrono::milliseconds period;
     std::mutex mutex;
     std::condition_variable changed;
-    std::vector<UsbCamera> found;
+    Found found;
     bool isHurried = false;
     bool isEnding = false;
 
@@ -36,9 +36,9 @@ struct UsbDiscovery::Search
         while (!isEnding) {
             isHurried = false;
             lock.unlock();
-            std::vector<UsbCamera> cameras = list();
+            Found now = list();
             lock.lock();
-            found = std::move(cameras);
+            found = std::move(now);
             changed.wait_for(lock, period, [this] { return isEnding || isHurried; });
         }
     }
@@ -69,7 +69,7 @@ UsbDiscovery::~UsbDiscovery()
     endingThreads.add(std::move(m_thread), m_hasEnded);
 }
 
-std::vector<UsbCamera> UsbDiscovery::cameras() const
+UsbDiscovery::Found UsbDiscovery::found() const
 {
     const std::lock_guard<std::mutex> lock(m_search->mutex);
     return m_search->found;

@@ -26,16 +26,22 @@ struct UsbCamera
 class UsbDiscovery
 {
 public:
-    /** The cameras that are plugged in now. May take a moment, and may still be running when this object has gone. */
-    using List = std::function<std::vector<UsbCamera>()>;
+    struct Found
+    {
+        std::vector<UsbCamera> cameras;
+        std::string problem; ///< why a camera may be missing and what can be done, for people
+    };
+
+    /** What is plugged in now. May take a moment, and may still be running when this object has gone. */
+    using List = std::function<Found()>;
 
     UsbDiscovery(List list, std::chrono::milliseconds period);
     ~UsbDiscovery();
     UsbDiscovery(const UsbDiscovery &) = delete;
     UsbDiscovery &operator=(const UsbDiscovery &) = delete;
 
-    /** Those that have been found last. */
-    std::vector<UsbCamera> cameras() const;
+    /** What has been found last. */
+    Found found() const;
 
     /** The next look begins at once. */
     void lookNow();

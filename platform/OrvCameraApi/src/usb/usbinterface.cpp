@@ -76,7 +76,7 @@ std::optional<BackendInterface::Devices> UsbInterface::devices() const
 {
     Devices devices;
     const std::lock_guard<std::mutex> lock(m_mutex);
-    for (const UsbCamera &camera : m_discovery.cameras()) {
+    for (const UsbCamera &camera : m_discovery.found().cameras) {
         std::weak_ptr<Device> &weak = m_devices[camera.id];
         std::shared_ptr<Device> device = weak.lock();
         if (!device) {

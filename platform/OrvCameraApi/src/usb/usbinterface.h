@@ -40,6 +40,9 @@ public:
     /** Does not wait: devices that are found later are in later lists. */
     OrvCamErr reEnumerate(bool &changed, std::uint32_t timeout) override;
 
+    /** Why a camera may be missing and what can be done, for people; or empty. */
+    std::string problem() const { return m_discovery.found().problem; }
+
 private:
     class Device;
 
