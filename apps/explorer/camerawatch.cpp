@@ -1,5 +1,6 @@
 #include "camerawatch.h"
 
+#include <OrvCameraApi/transports.h>
 #include <OrvCameraGuiApi/camera_api/orvcam.h>
 
 CameraWatch::CameraWatch(OrvCam::Device *device, QObject *parent)
@@ -10,6 +11,8 @@ CameraWatch::CameraWatch(OrvCam::Device *device, QObject *parent)
         return;
     m_device->RegisterEvent(OrvCam::EventDeviceDisconnected, lost, this);
     m_device->RegisterEvent(OrvCam::EventDeviceConnected, found, this);
+    if (OrvTransports::progressOf(*m_device).step == OrvTransports::Step::Lost)
+        tell(false); // since it was opened
 }
 
 CameraWatch::~CameraWatch()
