@@ -62,6 +62,7 @@ struct Camera
     std::atomic<bool> isAlive{true};
     std::atomic<int> links{0};
     std::atomic<int> opened{0};
+    std::atomic<int> reads{0}; ///< that somebody still waited for
     std::atomic<std::uint8_t> byte{0}; ///< all that it stores
 
     void setOpen(bool isOpen)
@@ -117,6 +118,7 @@ public:
         m_camera->reading.pass();
         raise(m_camera->accessFault);
         requireWanted(m_isWanted);
+        ++m_camera->reads;
         std::fill_n(static_cast<std::uint8_t *>(buffer), length, m_camera->byte.load());
     }
     void write(const void *buffer, std::uint64_t, std::uint32_t) override
@@ -359,7 +361,9 @@ private Q_SLOTS:
         QCOMPARE(waiting, QByteArray("timeout"));
         QCOMPARE(running.get(), QByteArray("timeout"));
         m_camera->reading.setOpen(true);
+        const int reads = m_camera->reads;
         QTRY_COMPARE(failureOf(*m_remote), QByteArray());
+        QCOMPARE(m_camera->reads - reads, 1); // not the one that was given up first
         QCOMPARE(int(m_camera->byte), 7);
     }
 
@@ -470,7 +474,7 @@ private:
     {
         if (m_remote)
             RemoteCamera::close(std::move(m_remote));
-        const auto open = [camera = m_camera](const IsWanted &isWanted) {
+        const auto open = [camera = m_camera](const IsWanted &isWanted, const IsFetching &) {
             camera->opening.pass();
             raise(camera->openFault);
             requireWanted(isWanted);

@@ -83,7 +83,7 @@ private Q_SLOTS:
         fake.kill();
         whenOpen<CameraDialog>([&fake](CameraDialog &dialog) {
             const auto *const problems = dialog.findChild<QLabel *>(QStringLiteral("problems"));
-            QTRY_VERIFY(problems->text().startsWith(QLatin1String("lo (127.0.0.1): no camera has answered.")));
+            QTRY_VERIFY(problems->text().startsWith(QLatin1String("No camera has answered on lo (127.0.0.1).")));
             fake.start();
             QTRY_VERIFY(problems->isHidden());
             accept(dialog);

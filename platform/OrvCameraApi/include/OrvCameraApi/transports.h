@@ -47,8 +47,10 @@ ORV_CAMERAAPI_EXPORT void use(Cameras cameras, const Discovery &discovery);
 ORV_CAMERAAPI_EXPORT Cameras used();
 
 /**
- * Why real cameras may be missing and what can be done, one text in UTF-8 for each network adapter on which none has
- * answered for some seconds, and one for USB cameras that may not be used. Of the newest round; waits for nothing.
+ * Why real cameras may be missing or cannot be opened, and what can be done, as sentences in UTF-8: no camera has
+ * answered for some seconds, the system forbids to ask, a USB camera may not be used, another program controls a camera
+ * (with the address of that program), or Discovery names what is not there. Empty without a system with real cameras.
+ * Of the newest round; waits for nothing.
  */
 ORV_CAMERAAPI_EXPORT std::vector<std::string> problems();
 

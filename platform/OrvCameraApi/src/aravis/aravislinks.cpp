@@ -116,7 +116,7 @@ protected:
         }
     }
 
-    /** Nothing is written after its writer has been told that it is not. */
+    /** Nothing new is written after its writer has been told that it is not; Aravis may repeat a packet for 2.5 s. */
     void requireWanted() const { OrvCameraApi::requireWanted(m_isWanted); }
 
     static void checkLength(std::uint64_t length)
@@ -218,13 +218,9 @@ public:
     {
         if (!AravisLink::isAlive())
             return false;
+        Failure failure;
         std::uint32_t version = 0; // the first register of every camera
-        try {
-            readMemory(0, sizeof version, &version);
-        } catch (const LinkError &) {
-            return false;
-        }
-        return true;
+        return arv_device_read_memory(device(), 0, sizeof version, &version, &failure.error);
     }
 };
 
@@ -279,8 +275,6 @@ CameraLink *orvAravisOpenUsb(const char *id, const IsWanted &isWanted)
     const std::scoped_lock lock(usbMutex(), openingMutex());
     DevicePointer opened(arv_interface_open_device(arv_uv_interface_get_instance(), id, &failure.error));
     if (!opened)
-        throw LinkError(LinkError::Kind::Failed,
-                        "The camera cannot be opened: " + failure.text()
-                            + ". A udev rule gives the permission to use it");
+        throw LinkError(LinkError::Kind::Failed, "The camera cannot be opened: " + failure.text());
     return new UsbLink(std::move(opened), isWanted);
 }

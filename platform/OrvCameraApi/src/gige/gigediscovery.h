@@ -22,6 +22,7 @@ struct FoundDevice
     Gvcp::DeviceRecord record;
     Endpoint endpoint; ///< where it answers
     std::int32_t accessStatus = 0; ///< an OrvCam::AccessStatus
+    std::uint32_t controller = 0; ///< address of the program that controls it, if it tells
     int untold = 0; ///< rounds since it told who controls it
 };
 
@@ -68,8 +69,11 @@ public:
     /** The next round begins at once. */
     void lookNow();
 
-    /** Why no device is known and what can be done, for people; empty if there is one, or it is too early to tell. */
-    std::string problem() const;
+    /** Why the system lets nobody be asked, for people; empty if it does, or if nobody is to be asked. */
+    std::string refusal() const;
+
+    /** Whether nobody has answered for some rounds. */
+    bool isSilent() const;
 
 private:
     struct Seen
@@ -86,6 +90,8 @@ private:
     std::vector<std::uint32_t> addresses() const;
     void take(const Datagram &datagram, std::uint16_t id, std::map<std::uint64_t, FoundDevice> &answers) const;
     void askForAccess(std::map<std::uint64_t, FoundDevice> &devices);
+    template <typename Take>
+    void askEach(std::vector<FoundDevice *> open, std::uint32_t address, const Take &take);
     std::uint16_t nextId();
     std::optional<Gvcp::Status> askForIp(const FoundDevice &device, const IpConfiguration &configuration) const;
     std::vector<Seen>::iterator place(std::uint64_t mac);

@@ -21,6 +21,6 @@ using OpenTransport = std::function<std::unique_ptr<CameraLink>(std::uint32_t ad
  * LinkError.
  */
 std::unique_ptr<CameraLink> openGigeCamera(std::uint32_t adapter, const Endpoint &device, const IsWanted &isWanted,
-                                           const OpenTransport &open);
+                                           const IsFetching &isFetching, const OpenTransport &open);
 
 } // namespace OrvCameraApi

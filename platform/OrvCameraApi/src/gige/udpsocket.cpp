@@ -78,15 +78,18 @@ Endpoint UdpSocket::local() const
     return fromSystem(address);
 }
 
-bool UdpSocket::allowBroadcast(unsigned adapterIndex)
+void UdpSocket::useAdapter(unsigned index)
+{
+    const std::uint32_t number = htonl(index);
+    ::setsockopt(m_socket, IPPROTO_IP, IP_UNICAST_IF, &number, sizeof number);
+}
+
+void UdpSocket::allowBroadcast()
 {
     const int on = 1;
-    ip_mreqn adapter{};
-    adapter.imr_ifindex = int(adapterIndex);
+    ::setsockopt(m_socket, SOL_SOCKET, SO_BROADCAST, &on, sizeof on);
     if (m_broadcasts < 0)
         m_broadcasts = boundSocket({INADDR_BROADCAST, local().port});
-    return ::setsockopt(m_socket, SOL_SOCKET, SO_BROADCAST, &on, sizeof on) == 0
-        && ::setsockopt(m_socket, IPPROTO_IP, IP_MULTICAST_IF, &adapter, sizeof adapter) == 0;
 }
 
 bool UdpSocket::send(const std::vector<std::uint8_t> &bytes, const Endpoint &to) const

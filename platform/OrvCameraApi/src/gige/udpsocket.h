@@ -38,11 +38,14 @@ public:
     bool isOpen() const { return m_socket >= 0; }
     Endpoint local() const;
 
+    /** All leaves by the adapter with that index of the system, also when another one is in the same subnet. */
+    void useAdapter(unsigned index);
+
     /**
-     * Lets broadcasts leave by the adapter with that index of the system, and hears those to the same port: a device
-     * with an address from elsewhere can answer in no other way.
+     * Lets broadcasts leave, and hears those to the same port: a device with an address from elsewhere can answer in no
+     * other way.
      */
-    bool allowBroadcast(unsigned adapterIndex);
+    void allowBroadcast();
 
     bool send(const std::vector<std::uint8_t> &bytes, const Endpoint &to) const;
 

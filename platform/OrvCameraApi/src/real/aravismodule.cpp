@@ -69,12 +69,14 @@ std::unique_ptr<CameraLink> openUsb(const std::string &id, const IsWanted &isWan
     return std::unique_ptr<CameraLink>(module().openUsb(id.c_str(), isWanted));
 }
 
-std::vector<UsbCamera> usbCameras()
+UsbDiscovery::Found usbCameras()
 {
-    std::vector<UsbCamera> cameras;
+    UsbDiscovery::Found found;
     if (module().isComplete())
-        module().listUsb(cameras);
-    return cameras;
+        module().listUsb(found.cameras);
+    else
+        found.problem = "USB cameras cannot be reached: " + module().failure;
+    return found;
 }
 
 } // namespace OrvCameraApi::AravisModule

@@ -20,8 +20,8 @@ std::unique_ptr<CameraLink> openGige(std::uint32_t adapter, std::uint32_t addres
                                      const IsWanted &isWanted);
 std::unique_ptr<CameraLink> openUsb(const std::string &id, const IsWanted &isWanted);
 
-/** None as well when the module cannot be loaded. */
-std::vector<UsbCamera> usbCameras();
+/** None as well when the module cannot be loaded, which is the problem then. */
+UsbDiscovery::Found usbCameras();
 
 } // namespace AravisModule
 

@@ -30,8 +30,14 @@ private:
     Kind m_kind;
 };
 
-/** Whether anyone still waits for what a link is doing. Asked before each packet that may be left out. */
+/**
+ * Whether anyone still waits for what a link is doing. Asked before the next part of it; packets that were lost may be
+ * repeated without asking by libraries below.
+ */
 using IsWanted = std::function<bool()>;
+
+/** Called by who opens a link when the camera has answered and its description is fetched. */
+using IsFetching = std::function<void()>;
 
 /** Throws LinkError if nobody waits. */
 inline void requireWanted(const IsWanted &isWanted)

@@ -92,8 +92,8 @@ std::exception_ptr forCallers(const LinkError &error)
 } // namespace
 
 RemoteCamera::RemoteCamera(Open open, const Patience &patience)
-    : m_open(std::move(open))
-    , m_patience(patience)
+    : m_patience(patience)
+    , m_open(std::move(open))
 {
 }
 
@@ -211,8 +211,9 @@ std::shared_ptr<RemoteCamera::Access> RemoteCamera::access(bool isWrite, std::in
         m_isSilent = true;
         // Nothing is written after its writer has been told that it is not.
         const auto waiting = std::find(m_waiting.begin(), m_waiting.end(), access);
-        m_isGivenUp = waiting == m_waiting.end();
-        if (waiting != m_waiting.end())
+        if (waiting == m_waiting.end())
+            m_isGivenUp = true; // it is the one that is running
+        else
             m_waiting.erase(waiting);
         throwNoAnswer();
     }
@@ -270,7 +271,7 @@ void RemoteCamera::tellAll(const Tell &tell)
 bool RemoteCamera::openLink()
 {
     try {
-        std::unique_ptr<CameraLink> link = m_open([this] { return isWanted(); });
+        std::unique_ptr<CameraLink> link = opener()([this] { return isWanted(); }, [this] { noteFetching(); });
         if (!link)
             throw LinkError(LinkError::Kind::Failed, "The camera cannot be opened");
         if (description().empty())
@@ -301,10 +302,29 @@ bool RemoteCamera::openLink()
     return true;
 }
 
+RemoteCamera::Open RemoteCamera::opener() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_open;
+}
+
+void RemoteCamera::setOpen(Open open)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_open = std::move(open);
+}
+
+/** A camera that was lost is so until it is back. */
+void RemoteCamera::noteFetching()
+{
+    if (description().empty())
+        setState(State::Description);
+}
+
 /** The node map is made here, because that takes a moment too. */
 void RemoteCamera::fetchDescription(CameraLink &link)
 {
-    setState(State::Description);
+    noteFetching();
     std::string description = link.description();
     setState(State::Features);
     std::shared_ptr<OrvGenApi::NodeMap> map = OrvGenApi::NodeMap::fromString(description);

@@ -50,12 +50,15 @@ std::shared_ptr<OpenRemoteCamera> OpenRemoteCameras::open(const std::string &key
     const std::lock_guard<std::mutex> lock(slots().mutex);
     Slot &slot = slots().byKey[key];
     std::shared_ptr<OpenRemoteCamera> camera = slot.camera.lock();
-    if (!camera) {
-        const auto openAfterwards = [open, former = slot.hasEnded](const IsWanted &isWanted) {
+    if (camera) {
+        camera->camera().setOpen(open); // may know the camera at another address by now
+    } else {
+        const auto openAfterwards = [open, former = slot.hasEnded](const IsWanted &isWanted,
+                                                                   const IsFetching &isFetching) {
             if (former)
                 waitFor(*former, isWanted);
             requireWanted(isWanted);
-            return open(isWanted);
+            return open(isWanted, isFetching);
         };
         camera = std::make_shared<OpenRemoteCamera>(openAfterwards, patience);
         slot.camera = camera;

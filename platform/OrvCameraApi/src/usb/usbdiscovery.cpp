@@ -38,6 +38,8 @@ struct UsbDiscovery::Search
             lock.unlock();
             Found now = list();
             lock.lock();
+            if (isEnding)
+                return;
             found = std::move(now);
             changed.wait_for(lock, period, [this] { return isEnding || isHurried; });
         }
@@ -73,6 +75,13 @@ UsbDiscovery::Found UsbDiscovery::found() const
 {
     const std::lock_guard<std::mutex> lock(m_search->mutex);
     return m_search->found;
+}
+
+void UsbDiscovery::retire()
+{
+    m_search->tell(&Search::isEnding);
+    const std::lock_guard<std::mutex> lock(m_search->mutex);
+    m_search->found.problem.clear();
 }
 
 void UsbDiscovery::lookNow()

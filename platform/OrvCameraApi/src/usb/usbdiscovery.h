@@ -43,6 +43,9 @@ public:
     /** What has been found last. */
     Found found() const;
 
+    /** From now on nobody looks, and there is no problem. The cameras that are known stay. */
+    void retire();
+
     /** The next look begins at once. */
     void lookNow();
 

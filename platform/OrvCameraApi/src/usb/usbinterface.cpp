@@ -47,7 +47,9 @@ public:
         err = OrvCamErr_Ok;
         std::shared_ptr<OpenRemoteCamera> open = OpenRemoteCameras::open(
             "USB3 Vision " + *m_texts.id,
-            [id = *m_texts.id, link = m_options.open](const IsWanted &isWanted) { return link(id, isWanted); },
+            [id = *m_texts.id, link = m_options.open](const IsWanted &isWanted, const IsFetching &) {
+                return link(id, isWanted);
+            },
             m_options.patience);
         return std::make_unique<RemoteConnection>(std::move(open));
     }

@@ -43,6 +43,9 @@ public:
     /** Why a camera may be missing and what can be done, for people; or empty. */
     std::string problem() const { return m_discovery.found().problem; }
 
+    /** From now on nobody looks for cameras. */
+    void retire() { m_discovery.retire(); }
+
 private:
     class Device;
 
