@@ -129,10 +129,17 @@ int GigeServer::count(Command command) const
     return sum;
 }
 
+int GigeServer::countInFreeMemory() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_countInFreeMemory;
+}
+
 void GigeServer::clearCounts()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_counts.clear();
+    m_countInFreeMemory = 0;
 }
 
 std::uint32_t GigeServer::value(std::uint32_t address) const
@@ -226,6 +233,8 @@ void GigeServer::receive()
                           Bytes(packet.begin() + headerSize, packet.end())};
     const std::lock_guard<std::mutex> lock(m_mutex);
     ++m_counts[request.command];
+    if (request.command >= ReadRegister && request.payload.size() >= 4)
+        m_countInFreeMemory += numberIn(request.payload.data(), 4) >= FreeMemory ? 1 : 0;
     if (numberIn(packet.data() + 4, 2) == request.payload.size() && request.id != 0)
         answer(request);
 }

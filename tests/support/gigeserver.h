@@ -90,6 +90,9 @@ public:
 
     /** Requests that have arrived since the last clearCounts(), answered or not. */
     int count(Command command = AnyCommand) const;
+
+    /** Those among them that read or write above the bootstrap registers. */
+    int countInFreeMemory() const;
     void clearCounts();
 
     std::uint32_t value(std::uint32_t address) const;
@@ -152,6 +155,7 @@ private:
     Bytes m_memory;
     Faults m_faults;
     std::map<std::uint16_t, int> m_counts;
+    int m_countInFreeMemory = 0;
     Endpoint m_controller; ///< while the control privilege is taken
     Clock::time_point m_controllerSeen;
     std::multimap<Clock::time_point, Answer> m_due;
