@@ -8,20 +8,48 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QLayout>
+#include <QBoxLayout>
+#include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QStyle>
+#include <QTimer>
 #include <QTreeView>
 
 CameraDialog::CameraDialog(OrvCam::System *system, QWidget *parent)
     : OrvCameraSelectorDialog(system, parent, true)
 {
+    addProblems();
     if (OrvTransports::used() == OrvTransports::Cameras::Real)
         return;
     // In the dialog itself: it is modal, so that no menu of another window could be reached.
     auto *const bar = new QMenuBar(this);
     bar->addMenu(new PlugMenu(this))->setText(tr("&Simulation"));
     layout()->setMenuBar(bar);
+}
+
+/** Why a real camera may be missing from the list; looked at again and again while people plug and configure. */
+void CameraDialog::addProblems()
+{
+    constexpr int period = 500; // milliseconds
+    auto *const label = new QLabel(this);
+    label->setObjectName(QStringLiteral("problems"));
+    label->setTextFormat(Qt::PlainText); // cameras have a part in it
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    label->setWordWrap(true);
+    label->hide();
+    const int margin = style()->pixelMetric(QStyle::PM_LayoutLeftMargin);
+    label->setContentsMargins(margin, margin, margin, 0);
+    qobject_cast<QBoxLayout *>(layout())->insertWidget(0, label);
+    auto *const timer = new QTimer(this);
+    connect(timer, &QTimer::timeout, label, [label] {
+        QStringList lines;
+        for (const std::string &problem : OrvTransports::problems())
+            lines << QString::fromStdString(problem);
+        label->setText(lines.join(QLatin1Char('\n')));
+        label->setVisible(!lines.isEmpty());
+    });
+    timer->start(period);
 }
 
 bool CameraDialog::setFirstAddress()

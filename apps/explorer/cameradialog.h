@@ -19,6 +19,9 @@ public:
      * closed. False when there is no such camera.
      */
     bool setFirstAddress();
+
+private:
+    void addProblems();
 };
 
 /**

@@ -1,5 +1,6 @@
 #include "camerawatch.h"
 
+#include <OrvCameraApi/transports.h>
 #include <OrvCameraGuiApi/camera_api/orvcam.h>
 
 CameraWatch::CameraWatch(OrvCam::Device *device, QObject *parent)
@@ -8,31 +9,30 @@ CameraWatch::CameraWatch(OrvCam::Device *device, QObject *parent)
 {
     if (!m_device)
         return;
-    m_device->RegisterEvent(OrvCam::EventDeviceDisconnected, lost, this);
-    m_device->RegisterEvent(OrvCam::EventDeviceConnected, found, this);
+    m_device->RegisterEvent(OrvCam::EventDeviceDisconnected, changed, this);
+    m_device->RegisterEvent(OrvCam::EventDeviceConnected, changed, this);
+    if (OrvTransports::progressOf(*m_device).step == OrvTransports::Step::Lost)
+        tell(); // since it was opened
 }
 
 CameraWatch::~CameraWatch()
 {
     if (!m_device)
         return;
-    m_device->UnregisterEvent(OrvCam::EventDeviceDisconnected, lost, this);
-    m_device->UnregisterEvent(OrvCam::EventDeviceConnected, found, this);
+    m_device->UnregisterEvent(OrvCam::EventDeviceDisconnected, changed, this);
+    m_device->UnregisterEvent(OrvCam::EventDeviceConnected, changed, this);
 }
 
-void CameraWatch::lost(const void *, unsigned long, void *context)
+void CameraWatch::changed(const void *, unsigned long, void *context)
 {
-    static_cast<CameraWatch *>(context)->tell(false);
+    static_cast<CameraWatch *>(context)->tell();
 }
 
-void CameraWatch::found(const void *, unsigned long, void *context)
+/** On any thread. What counts is how the camera is when the GUI thread gets to it. */
+void CameraWatch::tell()
 {
-    static_cast<CameraWatch *>(context)->tell(true);
-}
-
-/** On any thread. */
-void CameraWatch::tell(bool isReachable)
-{
-    QMetaObject::invokeMethod(
-        this, [this, isReachable] { Q_EMIT reachableChanged(isReachable); }, Qt::QueuedConnection);
+    const auto tellNow = [this] {
+        Q_EMIT reachableChanged(OrvTransports::progressOf(*m_device).step != OrvTransports::Step::Lost);
+    };
+    QMetaObject::invokeMethod(this, tellNow, Qt::QueuedConnection);
 }

@@ -20,9 +20,8 @@ Q_SIGNALS:
     void reachableChanged(bool isReachable);
 
 private:
-    static void lost(const void *, unsigned long, void *context);
-    static void found(const void *, unsigned long, void *context);
-    void tell(bool isReachable);
+    static void changed(const void *, unsigned long, void *context);
+    void tell();
 
     OrvCam::Device *const m_device;
 };

@@ -77,7 +77,7 @@ private Q_SLOTS:
         expected.userDefinedName = "K\xC3\xA4se";
         QVERIFY(device.record == expected);
         QVERIFY((device.endpoint == Endpoint{m_first->address(), m_first->port()}));
-        QVERIFY(!m_discovery->isBlocked());
+        QVERIFY(m_discovery->refusal().empty() && !m_discovery->isSilent());
 
         m_first->setText(GigeServer::userDefinedName, "K\xE4se");
         m_first->setValue(GigeServer::DeviceMode, 0x80000000); // Latin-1
@@ -156,7 +156,7 @@ private Q_SLOTS:
     {
         m_adapter.address = 0xC0000201; // of no host
         look();
-        QTRY_VERIFY(m_discovery->isBlocked());
+        QTRY_COMPARE(m_discovery->refusal(), std::string("The adapter has another address now"));
         QVERIFY(m_discovery->devices().empty());
         QCOMPARE(m_first->count(), 0);
     }

@@ -3,10 +3,6 @@
 #include <gigeserver.h>
 #include <orvtest.h>
 
-#include <QElapsedTimer>
-
-#include <future>
-
 using namespace OrvCameraApi;
 using namespace std::chrono_literals;
 using OrvTest::GigeServer;
@@ -149,22 +145,6 @@ private Q_SLOTS:
         faults.cut = 1;
         m_server->setFaults(faults);
         QVERIFY(!m_client->readMemory(GigeServer::FreeMemory, 4));
-    }
-
-    void stopped()
-    {
-        Faults faults;
-        faults.isSilent = true;
-        m_server->setFaults(faults);
-        const std::unique_ptr<GvcpClient> client = makeClient({20s, 3, 60s});
-        QElapsedTimer timer;
-        timer.start();
-        const auto answer = std::async(std::launch::async, [&client] { return client->readRegisters({0}); });
-        QTRY_COMPARE(m_server->count(), 1);
-        client->stop();
-        answer.wait();
-        QVERIFY(!client->readRegisters({0}));
-        QVERIFY(timer.elapsed() < 20'000);
     }
 
     void identifiersAreNeverZero()

@@ -180,6 +180,7 @@ void TestRealCameras::descriptions_data()
     QTest::newRow("damaged archive") << zip.left(200) << QByteArray() << QByteArray("ZIP archive");
     QTest::newRow("web") << QByteArray(description) << QByteArray("Http://example.org/camera.xml")
                          << QByteArray("is not fetched from elsewhere: \"Http://example.org/camera.xml\"");
+    QTest::newRow("in the second place") << QByteArray(description) << QByteArray("SECOND") << QByteArray();
     QTest::newRow("file") << QByteArray(description) << QByteArray("FILE:camera.xml") << QByteArray("is not fetched");
     QTest::newRow("beyond the memory") << QByteArray(description) << QByteArray("local:a.zip;FFFFFF00;80")
                                        << QByteArray("does not answer");
@@ -192,8 +193,12 @@ void TestRealCameras::descriptions()
     QFETCH(QByteArray, failure);
     SmallCamera server;
     server.setDescription(bytes.toStdString(), bytes.startsWith("PK") ? "camera.zip" : "camera.xml");
+    if (url == "SECOND")
+        server.setUrl(GigeServer::FirstUrl, "Http://example.org/camera.xml");
     if (url == "CAPITALS")
         server.setDescription(bytes.toStdString(), "CAMERA.ZIP");
+    else if (url == "SECOND")
+        server.setDescription(bytes.toStdString(), "camera.xml", GigeServer::SecondUrl);
     else if (!url.isEmpty())
         server.setUrl(GigeServer::FirstUrl, url.toStdString());
     const Held<OrvCam::System> system = systemWith(server);
@@ -216,6 +221,7 @@ void TestRealCameras::cameraOfAnotherProgram()
 {
     SmallCamera server;
     server.setValue(GigeServer::ControlPrivilege, 2);
+    server.setValue(GigeServer::ControllerAddress, 0x7F000009);
     const Held<OrvCam::System> system = systemWith(server);
     OrvCam::DeviceInfo *const info = findCamera(*system);
     QVERIFY(info);
@@ -225,11 +231,21 @@ void TestRealCameras::cameraOfAnotherProgram()
     QCOMPARE(camera.width()->GetValue(nullptr), 256);
     QVERIFY(!camera.width()->IsWritable());
     QCOMPARE(camera.width()->SetValue(1), OrvCamErr_GenICamAccessError);
+    const auto problems = [] { return QByteArray::fromStdString(OrvTransports::problems().front()); };
+    QTRY_VERIFY(!OrvTransports::problems().empty() && problems().endsWith("another program at 127.0.0.9."));
 
     server.setValue(GigeServer::ControlPrivilege, 0); // the other program has ended
     QTRY_COMPARE(camera.connected.load(), 2);
     QVERIFY(camera.width()->IsWritable());
     QCOMPARE(camera.width()->SetValue(1), OrvCamErr_Ok);
+    QTRY_VERIFY(OrvTransports::problems().empty());
+
+    OrvTransports::use(OrvTransports::Cameras::Real, {{"nowhere7"}, {"camera.example"}});
+    const Held<OrvCam::System> mistaken = getSystem();
+    interfacesOf(*mistaken);
+    QCOMPARE(OrvTransports::problems().size(), std::size_t(2));
+    OrvTransports::use(OrvTransports::Cameras::Simulated);
+    QVERIFY(OrvTransports::problems().empty());
 }
 
 void TestRealCameras::addresses()

@@ -61,6 +61,8 @@ struct Camera
     std::atomic<Fault> checkFault{Fault::None};
     std::atomic<bool> isAlive{true};
     std::atomic<int> links{0};
+    std::atomic<int> opened{0};
+    std::atomic<int> givenUp{0}; ///< accesses
     std::atomic<std::uint8_t> byte{0}; ///< all that it stores
 
     void setOpen(bool isOpen)
@@ -91,8 +93,9 @@ void raise(Fault fault)
 class Link final : public CameraLink
 {
 public:
-    explicit Link(std::shared_ptr<Camera> camera)
+    Link(std::shared_ptr<Camera> camera, IsWanted isWanted)
         : m_camera(std::move(camera))
+        , m_isWanted(std::move(isWanted))
     {
         ++m_camera->links;
     }
@@ -114,6 +117,8 @@ public:
     {
         m_camera->reading.pass();
         raise(m_camera->accessFault);
+        m_camera->givenUp += m_isWanted() ? 0 : 1;
+        requireWanted(m_isWanted);
         std::fill_n(static_cast<std::uint8_t *>(buffer), length, m_camera->byte.load());
     }
     void write(const void *buffer, std::uint64_t, std::uint32_t) override
@@ -130,6 +135,7 @@ public:
 
 private:
     const std::shared_ptr<Camera> m_camera;
+    const IsWanted m_isWanted;
 };
 
 class Listener final : public ConnectionListener
@@ -320,6 +326,7 @@ private Q_SLOTS:
         QCOMPARE(m_camera->reading.arrived(), 1);
         m_camera->reading.setOpen(true);
         QTRY_COMPARE(failureOf(*m_remote), QByteArray());
+        QCOMPARE(m_listener->events().size(), 2); // given up is not lost
     }
 
     /** The end of an access is no answer if the camera has been silent all the time. */
@@ -355,6 +362,7 @@ private Q_SLOTS:
         QCOMPARE(running.get(), QByteArray("timeout"));
         m_camera->reading.setOpen(true);
         QTRY_COMPARE(failureOf(*m_remote), QByteArray());
+        QCOMPARE(m_camera->givenUp.load(), 1);
         QCOMPARE(int(m_camera->byte), 7);
     }
 
@@ -417,7 +425,7 @@ private Q_SLOTS:
         RemoteCamera::close(std::move(m_remote));
         m_camera->opening.setOpen(true);
         RemoteCamera::waitForClosed();
-        QCOMPARE(m_camera->links.load(), 0);
+        QCOMPARE(m_camera->opened.load(), 0);
         QCOMPARE(m_listener->events(), QStringList());
     }
 
@@ -465,10 +473,12 @@ private:
     {
         if (m_remote)
             RemoteCamera::close(std::move(m_remote));
-        const auto open = [camera = m_camera] {
+        const auto open = [camera = m_camera](const IsWanted &isWanted, const IsFetching &) {
             camera->opening.pass();
             raise(camera->openFault);
-            return std::make_unique<Link>(camera);
+            requireWanted(isWanted);
+            ++camera->opened;
+            return std::make_unique<Link>(camera, isWanted);
         };
         m_remote = RemoteCamera::start(open, m_patience);
         m_listener = std::make_shared<Listener>(*m_remote);

@@ -223,7 +223,13 @@ private Q_SLOTS:
                 QCOMPARE(window.findChild<QAction *>(QStringLiteral("trigger"))->isEnabled(), isThere);
                 QCOMPARE(window.findChild<OrvGui::OrvGenParamTreeView *>()->isPollingEnabled(), isThere);
             }
-            OrvSim::unplug(firstCamera); // and gone before it is noticed
+            std::unique_ptr<CameraSource> camera = openCamera(QString());
+            OrvSim::unplug(firstCamera);
+            OrvSim::waitForEvents();
+            const ExplorerWindow late(std::move(camera));
+            QTRY_COMPARE(late.findChild<QLabel *>(QStringLiteral("connection"))->text(),
+                         QStringLiteral("Disconnected"));
+            OrvSim::replug(firstCamera); // and the windows are gone before they notice
         }
         OrvSim::waitForEvents();
         QCOMPARE(OrvSim::liveObjects().eventCallbacks, std::size_t(0));

@@ -9,7 +9,9 @@
 #include <OrvCameraApi/transports.h>
 #include <OrvCameraGuiApi/camconfig/orvcamconfig.h>
 #include <OrvCameraGuiApi/camera_api/orvcam.h>
+#include <OrvCameraGuiApi/camera_api/orvgenparam.h>
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QDialogButtonBox>
 #include <QElapsedTimer>
@@ -80,7 +82,14 @@ private Q_SLOTS:
     void explorerFollowsItsCamera()
     {
         FakeCamera fake;
-        whenOpen<CameraDialog>([](CameraDialog &dialog) { accept(dialog); });
+        fake.kill();
+        whenOpen<CameraDialog>([&fake](CameraDialog &dialog) {
+            const auto *const problems = dialog.findChild<QLabel *>(QStringLiteral("problems"));
+            QTRY_VERIFY(problems->text().startsWith(QLatin1String("No camera has answered on lo (127.0.0.1).")));
+            fake.start();
+            QTRY_VERIFY(problems->isHidden());
+            accept(dialog);
+        });
         std::unique_ptr<CameraSource> source = chooseCamera();
         QVERIFY(source);
         ExplorerWindow window(std::move(source));
@@ -112,6 +121,22 @@ private Q_SLOTS:
         QVERIFY(window.device());
         QTRY_VERIFY(window.device()->GetCameraParameters(nullptr));
         QVERIFY2(gaps.longest < 900, qPrintable(QString::number(gaps.longest)));
+
+        // Its dialogs edit, show a camera that does not answer, and go on with it.
+        auto *const enable = window.findChild<QAbstractButton *>(QStringLiteral("chBoxEnable"));
+        QVERIFY(enable);
+        QTRY_VERIFY(enable->isEnabled());
+        OrvGenParam::Enum *const mode =
+            window.device()->GetCameraParameters(nullptr)->GetEnum("TriggerMode", nullptr);
+        QVERIFY(mode && !enable->isChecked());
+        enable->click();
+        QCOMPARE(mode->GetValue(nullptr), std::int64_t(1));
+        fake.stop();
+        QTRY_VERIFY(!enable->isEnabled());
+        QVERIFY2(gaps.longest < 1500, qPrintable(QString::number(gaps.longest)));
+        fake.goOn();
+        QTRY_VERIFY_WITH_TIMEOUT(enable->isEnabled(), 15000);
+        QVERIFY(enable->isChecked());
     }
 
     void openingIsShownAndGivenUp()

@@ -173,13 +173,13 @@ void GigeServer::setMemory(std::uint32_t address, const std::string &bytes)
     put(address, bytes.size(), bytes);
 }
 
-void GigeServer::setDescription(const std::string &bytes, const std::string &name)
+void GigeServer::setDescription(const std::string &bytes, const std::string &name, std::uint32_t url)
 {
     constexpr std::uint32_t address = 0x8000;
     setMemory(address, bytes);
     std::array<char, 32> numbers{};
     std::snprintf(numbers.data(), numbers.size(), ";%X;%zX", address, bytes.size());
-    setUrl(FirstUrl, "Local:" + name + numbers.data());
+    setUrl(url, "Local:" + name + numbers.data());
 }
 
 void GigeServer::run()

@@ -105,8 +105,8 @@ public:
 
     void setMemory(std::uint32_t address, const std::string &bytes);
 
-    /** Puts a description into the free memory, and where it is into the first URL. */
-    void setDescription(const std::string &bytes, const std::string &name = "device.xml");
+    /** Puts a description into the free memory, and where it is into the URL at \a url. */
+    void setDescription(const std::string &bytes, const std::string &name = "device.xml", std::uint32_t url = FirstUrl);
 
     /** \a address is FirstUrl or SecondUrl. */
     void setUrl(std::uint32_t address, const std::string &url) { setText({address, 512}, url); }

@@ -6,6 +6,17 @@ namespace OrvGenApi {
 
 using namespace GenApi;
 
+namespace {
+
+/** The increment of a floating-point feature for an integer. Intentionally, one too large is the smallest integer. */
+int64_t wholeIncrement(double increment)
+{
+    const int64_t rounded = roundedToInteger(increment);
+    return rounded == int64Max ? int64Min : rounded;
+}
+
+} // namespace
+
 template <typename Number>
 EAccessMode NumberSource<Number>::valueAccess() const
 {
@@ -215,7 +226,7 @@ int64_t IntegerNode::intIncrement()
         return m_increment.value();
     Node *const node = m_source.currentNode(*this);
     if (node && node->isFloat())
-        return node->incrementMode() == fixedIncrement ? static_cast<int64_t>(node->floatIncrement()) : 1;
+        return node->incrementMode() == fixedIncrement ? wholeIncrement(node->floatIncrement()) : 1;
     return node ? node->intIncrement() : 1;
 }
 

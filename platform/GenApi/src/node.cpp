@@ -359,18 +359,17 @@ EAccessMode Node::computeAccessMode() const
     EAccessMode mode = RW;
     if (!ignoresConditions()) {
         mode = firstAccess();
-        const auto [isImplemented, isAvailable, isLocked, error, blocksPolling] = conditions();
-        const bool isConditional = isImplemented || isAvailable || isLocked;
-        if (isConditional && mode != NI)
-            mode = combined(mode, availabilityOf({isImplemented, isAvailable, isLocked}));
+        if (m_conditions && mode != NI)
+            mode = combined(
+                mode, availabilityOf({m_conditions->isImplemented, m_conditions->isAvailable, m_conditions->isLocked}));
         if (mode != NI)
             mode = combined(mode, readAccess());
-        if (isConditional && mode != NI)
-            mode = combined(mode, allowed(isImplemented, true, NI));
-        if (isConditional && IsAvailable(mode))
-            mode = combined(mode, allowed(isAvailable, true, NA));
-        if (isConditional && isWritable(mode))
-            mode = combined(mode, allowed(isLocked, false, RO));
+        if (m_conditions && mode != NI)
+            mode = combined(mode, allowed(m_conditions->isImplemented, true, NI));
+        if (m_conditions && IsAvailable(mode))
+            mode = combined(mode, allowed(m_conditions->isAvailable, true, NA));
+        if (m_conditions && isWritable(mode))
+            mode = combined(mode, allowed(m_conditions->isLocked, false, RO));
         if (mode == NI)
             return NI;
     }

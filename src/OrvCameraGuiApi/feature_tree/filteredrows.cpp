@@ -3,6 +3,7 @@
 #include <OrvCameraGuiApi/feature_tree/filterrule.h>
 #include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
+#include <OrvCameraGuiApi/feature_tree/opencalls.h>
 
 #include <algorithm>
 #include <utility>
@@ -98,6 +99,7 @@ FilteredRows::Branch *FilteredRows::addBranch(const QModelIndex &source, Branch 
 
 void FilteredRows::read(Branch &branch)
 {
+    const OpenCalls::Call call;
     Branch *const first = m_firstBranches.value(branch.source.internalId());
     if (first)
         branch.elsewhere = std::exchange(first->elsewhere, &branch);
@@ -129,8 +131,13 @@ void FilteredRows::readSourceRows(Branch &branch) const
         auto *const value = m_source->data(index, GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
         GenApi::INode *node = nullptr;
         failureOf([&] { node = nodeOf(value); });
-        branch.sourceRows.push_back(
-            {index.internalId(), node, nullptr, isCategory(value), m_source->hasChildren(index)});
+        SourceRow &added = branch.sourceRows.emplace_back();
+        added.id = index.internalId();
+        added.node = node;
+        added.isCategory = isCategory(value);
+        added.hasRowsBelow = m_source->hasChildren(index);
+        if (node)
+            failureOf([&] { added.isAccessTold = node->IsAccessModeCacheable() == GenApi::Yes; });
     }
 }
 
@@ -152,13 +159,32 @@ void FilteredRows::findListedAgain(const Branch &branch)
 }
 
 /** The \a rows of \a branch that pass the filter now. */
-void FilteredRows::evaluate(const Branch &branch, Rows &rows) const
+void FilteredRows::evaluate(Branch &branch, Rows &rows) const
 {
     rows.clear();
     for (size_t row = 0; row < branch.sourceRows.size() && !m_isAbandoned; ++row) {
-        if (m_rule->accepts(branch.sourceRows[row].node))
+        if (accepts(branch.sourceRows[row]))
             rows.push_back(int(row));
     }
+}
+
+/** Nodes that have not been implemented are asked again each time: nothing reports that a port has been connected. */
+bool FilteredRows::accepts(SourceRow &row) const
+{
+    if (!m_rule->passes(row.node))
+        return false;
+    if (row.isImplemented)
+        return true;
+    const quint64 reports = m_reports;
+    const std::optional<bool> isImplemented = FilterRule::isImplemented(row.node);
+    row.isImplemented = row.isAccessTold && isImplemented == true && m_reports == reports;
+    return isImplemented.value_or(true);
+}
+
+void FilteredRows::noteReport(const Place &place)
+{
+    place.branch->sourceRows[size_t(place.sourceRow)].isImplemented = false;
+    ++m_reports;
 }
 
 /** One of the branches that changed last, if no feature is listed twice and it has the feature at the row of \a source.

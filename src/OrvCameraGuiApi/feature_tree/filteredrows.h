@@ -40,15 +40,17 @@ public:
     };
     using Places = QVarLengthArray<Place, 4>;
 
-    /** The properties of a source row that never change, kept because they are needed so often. */
+    /** A source row, with what is needed so often that asking its node each time would take too long. */
     struct SourceRow
     {
-        quintptr id; ///< the internal one of the source index
-        GenApi::INode *node; ///< null for a feature without one
+        quintptr id = 0; ///< the internal one of the source index
+        GenApi::INode *node = nullptr; ///< null for a feature without one
         Branch *below = nullptr; ///< null for a row without rows, and until somebody asks for them
-        bool isCategory;
-        bool hasRowsBelow;
+        bool isCategory = false;
+        bool hasRowsBelow = false;
         bool isCheckQueued = false;
+        bool isAccessTold = false; ///< the node reports when its access mode may have changed
+        bool isImplemented = false; ///< since the last report it was; false also if nobody knows
     };
 
     /** A change of the rows of one branch. */
@@ -137,6 +139,12 @@ public:
     /** The changes that the filter makes; asks all nodes of known branches. Empty after abandon(). */
     std::vector<Change> evaluate();
 
+    /** The node of the row at \a place has reported a change. */
+    void noteReport(const Place &place);
+
+    /** Whether the row at \a place passes the filter; may ask its node. */
+    bool accepts(const Place &place) const { return accepts(place.branch->sourceRows[size_t(place.sourceRow)]); }
+
     /** The change that brings or removes the row at \a place. */
     static Change toggled(const Place &place);
 
@@ -154,7 +162,8 @@ private:
     void read(Branch &branch);
     void readSourceRows(Branch &branch) const;
     void findListedAgain(const Branch &branch);
-    void evaluate(const Branch &branch, Rows &rows) const;
+    void evaluate(Branch &branch, Rows &rows) const;
+    bool accepts(SourceRow &row) const;
     Branch *recentBranchWith(const QModelIndex &source);
     Branch *firstBranchWith(const QModelIndex &source);
     int firstRowOf(const Branch &branch, const QModelIndex &source) const;
@@ -163,6 +172,7 @@ private:
     const FilterRule *m_rule;
     bool m_isAbandoned = false;
     quint64 m_revision = 0;
+    quint64 m_reports = 0; ///< so far
     std::vector<std::unique_ptr<Branch>> m_branches; ///< each after its parent
     QHash<quintptr, Branch *> m_firstBranches; ///< by the category's internal identifier; others follow by elsewhere
     QHash<quintptr, QVector<Listing>> m_listedAgain; ///< by the feature's identifier, all but the first, if known

@@ -5,14 +5,24 @@
 
 bool FilterRule::accepts(GenApi::INode *node) const
 {
+    const OpenCalls::Call call;
+    return passes(node) && isImplemented(node).value_or(true);
+}
+
+bool FilterRule::passes(GenApi::INode *node) const
+{
     if (!node)
         return true;
-    const OpenCalls::Call call;
     bool isTooHigh = false;
     failureOf([&] { isTooHigh = int(node->GetVisibility()) > level; });
-    if (isTooHigh || !acceptsName(*node))
-        return false;
-    bool isImplemented = true;
+    return !isTooHigh && acceptsName(*node);
+}
+
+std::optional<bool> FilterRule::isImplemented(GenApi::INode *node)
+{
+    if (!node)
+        return true;
+    std::optional<bool> isImplemented;
     failureOf([&] { isImplemented = node->GetAccessMode() != GenApi::NI; });
     return isImplemented;
 }

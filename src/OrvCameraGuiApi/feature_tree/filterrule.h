@@ -4,6 +4,8 @@
 
 #include <GenApi/GenApi.h>
 
+#include <optional>
+
 /** Which features pass the filter of the feature tree, each asked by itself. */
 struct FilterRule
 {
@@ -12,6 +14,12 @@ struct FilterRule
      * The access mode, which may ask the device, is asked for last.
      */
     bool accepts(GenApi::INode *node) const;
+
+    /** Whether level and pattern let \a node pass, without asking for its access mode. The caller holds a Call. */
+    bool passes(GenApi::INode *node) const;
+
+    /** Nothing if \a node cannot tell. The caller holds a Call. */
+    static std::optional<bool> isImplemented(GenApi::INode *node);
 
     int level = 0; ///< the highest visibility that passes
     WildcardMatcher pattern; ///< for display names; an empty one lets every name pass

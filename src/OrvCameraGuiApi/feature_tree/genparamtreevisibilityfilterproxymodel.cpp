@@ -183,6 +183,7 @@ void GenParamTreeVisibilityFilterProxyModelPrivate::rowChanged(const Place &plac
                                                                const QVector<int> &roles)
 {
     const FilteredRows &current = *rows;
+    rows->noteReport(place);
     // A category changes with everything in it and has no value to show: all that counts is whether it is there. A
     // branch that is just being read may have asked this row before.
     if (!place.branch->isComplete
@@ -227,7 +228,7 @@ void GenParamTreeVisibilityFilterProxyModelPrivate::updateRow(const Place &place
     const FilteredRows &current = *rows;
     bool isDone = false;
     while (!isDone) {
-        const bool isAccepted = rule.accepts(place.branch->sourceRows[size_t(place.sourceRow)].node);
+        const bool isAccepted = rows->accepts(place);
         const bool isThere = FilteredRows::position(place) >= 0;
         isDone = current.isAbandoned() || isAccepted == isThere || toggleRow(place);
     }

@@ -46,6 +46,14 @@ ORV_CAMERAAPI_EXPORT void use(Cameras cameras, const Discovery &discovery);
 /** The choice that is in force. */
 ORV_CAMERAAPI_EXPORT Cameras used();
 
+/**
+ * Why real cameras may be missing or cannot be opened, and what can be done, as sentences in UTF-8: no camera has
+ * answered for some seconds, the system forbids to ask, a USB camera may not be used, another program controls a camera
+ * (with the address of that program), or Discovery names what is not there. Empty without a system with real cameras.
+ * Of the newest round; waits for nothing.
+ */
+ORV_CAMERAAPI_EXPORT std::vector<std::string> problems();
+
 /** How far an open device is on its way to its features. */
 enum class Step {
     Connecting, ///< the camera is looked for and asked; also after a failure

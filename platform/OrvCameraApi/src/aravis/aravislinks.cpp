@@ -5,6 +5,7 @@
 
 #include <arv.h>
 
+#include <algorithm>
 #include <atomic>
 #include <cstring>
 #include <mutex>
@@ -69,8 +70,9 @@ using DevicePointer = std::unique_ptr<ArvDevice, Unref>;
 class AravisLink : public CameraLink
 {
 public:
-    explicit AravisLink(DevicePointer device)
+    AravisLink(DevicePointer device, IsWanted isWanted)
         : m_device(std::move(device))
+        , m_isWanted(std::move(isWanted))
     {
         m_lost = g_signal_connect(m_device.get(), "control-lost", G_CALLBACK(controlLost), &m_isLost);
     }
@@ -91,19 +93,31 @@ public:
 protected:
     ArvDevice *device() const { return m_device.get(); }
 
+    /** In pieces, as between any two packets the caller may give up. */
     void readMemory(std::uint64_t address, std::uint32_t length, void *buffer) const
     {
-        Failure failure;
-        arv_device_read_memory(device(), address, length, buffer, &failure.error);
-        failure.check();
+        for (std::uint32_t done = 0; done < length; done += PieceLength) {
+            requireWanted();
+            Failure failure;
+            arv_device_read_memory(device(), address + done, std::min(length - done, PieceLength),
+                                   static_cast<char *>(buffer) + done, &failure.error);
+            failure.check();
+        }
     }
 
     void writeMemory(std::uint64_t address, std::uint32_t length, const void *buffer) const
     {
-        Failure failure;
-        arv_device_write_memory(device(), address, length, const_cast<void *>(buffer), &failure.error);
-        failure.check();
+        for (std::uint32_t done = 0; done < length; done += PieceLength) {
+            requireWanted();
+            Failure failure;
+            arv_device_write_memory(device(), address + done, std::min(length - done, PieceLength),
+                                    static_cast<char *>(const_cast<void *>(buffer)) + done, &failure.error);
+            failure.check();
+        }
     }
+
+    /** Nothing new is written after its writer has been told that it is not; Aravis may repeat a packet for 2.5 s. */
+    void requireWanted() const { OrvCameraApi::requireWanted(m_isWanted); }
 
     static void checkLength(std::uint64_t length)
     {
@@ -112,9 +126,12 @@ protected:
     }
 
 private:
+    static constexpr std::uint32_t PieceLength = 512; ///< fits into one packet of every transport
+
     static void controlLost(ArvDevice *, std::atomic<bool> *isLost) { *isLost = true; }
 
     const DevicePointer m_device;
+    const IsWanted m_isWanted;
     std::atomic<bool> m_isLost{false}; ///< written by the thread of Aravis
     gulong m_lost = 0;
 };
@@ -122,8 +139,8 @@ private:
 class GigeLink final : public AravisLink
 {
 public:
-    GigeLink(DevicePointer device, bool isReadOnly)
-        : AravisLink(std::move(device))
+    GigeLink(DevicePointer device, bool isReadOnly, IsWanted isWanted)
+        : AravisLink(std::move(device), std::move(isWanted))
         , m_isReadOnly(isReadOnly)
     {
     }
@@ -173,6 +190,7 @@ void GigeLink::write(const void *buffer, std::uint64_t address, std::uint32_t le
     std::memcpy(span.bytes.data() + span.offset, buffer, length);
     if (span.bytes.size() != 4)
         return writeMemory(span.begin, std::uint32_t(span.bytes.size()), span.bytes.data());
+    requireWanted();
     Failure failure;
     guint32 value = 0;
     std::memcpy(&value, span.bytes.data(), 4);
@@ -200,13 +218,9 @@ public:
     {
         if (!AravisLink::isAlive())
             return false;
+        Failure failure;
         std::uint32_t version = 0; // the first register of every camera
-        try {
-            readMemory(0, sizeof version, &version);
-        } catch (const LinkError &) {
-            return false;
-        }
-        return true;
+        return arv_device_read_memory(device(), 0, sizeof version, &version, &failure.error);
     }
 };
 
@@ -228,7 +242,7 @@ std::string textOf(const char *text)
 
 using namespace OrvCameraApi;
 
-CameraLink *orvAravisOpenGige(std::uint32_t adapter, std::uint32_t address, bool isReadOnly)
+CameraLink *orvAravisOpenGige(std::uint32_t adapter, std::uint32_t address, bool isReadOnly, const IsWanted &isWanted)
 {
     Failure failure;
     const std::lock_guard<std::mutex> lock(openingMutex());
@@ -241,7 +255,7 @@ CameraLink *orvAravisOpenGige(std::uint32_t adapter, std::uint32_t address, bool
     const bool controls = arv_gv_device_is_controller(ARV_GV_DEVICE(opened.get()));
     if (!isReadOnly && !controls)
         throw LinkError(LinkError::Kind::Denied, "Another program has taken the camera");
-    return new GigeLink(std::move(opened), !controls);
+    return new GigeLink(std::move(opened), !controls, isWanted);
 }
 
 void orvAravisListUsb(std::vector<UsbCamera> &cameras)
@@ -255,14 +269,12 @@ void orvAravisListUsb(std::vector<UsbCamera> &cameras)
                            textOf(arv_interface_get_device_serial_nbr(usb, i))});
 }
 
-CameraLink *orvAravisOpenUsb(const char *id)
+CameraLink *orvAravisOpenUsb(const char *id, const IsWanted &isWanted)
 {
     Failure failure;
     const std::scoped_lock lock(usbMutex(), openingMutex());
     DevicePointer opened(arv_interface_open_device(arv_uv_interface_get_instance(), id, &failure.error));
     if (!opened)
-        throw LinkError(LinkError::Kind::Failed,
-                        "The camera cannot be opened: " + failure.text()
-                            + ". A udev rule gives the permission to use it");
-    return new UsbLink(std::move(opened));
+        throw LinkError(LinkError::Kind::Failed, "The camera cannot be opened: " + failure.text());
+    return new UsbLink(std::move(opened), isWanted);
 }

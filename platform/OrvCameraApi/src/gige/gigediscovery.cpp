@@ -1,6 +1,8 @@
 #include "gigediscovery.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <system_error>
 #include <utility>
 
 namespace OrvCameraApi {
@@ -83,7 +85,7 @@ OrvCamErr GigeDiscovery::forceIp(std::uint64_t mac, const IpConfiguration &confi
             else if (forced.accessStatus == OrvCam::AccessStatusIpSubnetMismatch)
                 forced.accessStatus = OrvCam::AccessStatusReadWrite;
             seen->isForced = true;
-            if (!m_options.broadcasts)
+            if (!m_options.broadcasts || m_isRetired)
                 m_furtherAddresses.push_back(configuration.address);
         }
     }
@@ -103,8 +105,9 @@ std::optional<Gvcp::Status> GigeDiscovery::askForIp(const FoundDevice &device,
         return std::nullopt;
     // A device outside the subnet hears nothing else than a broadcast.
     const bool isBroadcast = broadcasts();
+    socket.useAdapter(m_adapter.index);
     if (isBroadcast)
-        socket.allowBroadcast(m_adapter.index);
+        socket.allowBroadcast();
     const Endpoint to = isBroadcast ? Endpoint{everyone, m_options.port} : device.endpoint;
     for (int attempt = 0; attempt < attempts; ++attempt) {
         socket.send(Gvcp::forceIp(id, device.record.mac, configuration), to);
@@ -146,16 +149,23 @@ void GigeDiscovery::lookNow()
     m_changed.notify_all();
 }
 
-bool GigeDiscovery::isBlocked() const
+std::string GigeDiscovery::refusal() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_isBlocked;
+    return m_refusal.value_or("");
+}
+
+bool GigeDiscovery::isSilent() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return !m_refusal && m_emptyRounds >= m_options.missable;
 }
 
 void GigeDiscovery::run()
 {
+    m_socket.useAdapter(m_adapter.index);
     if (m_options.broadcasts)
-        m_socket.allowBroadcast(m_adapter.index);
+        m_socket.allowBroadcast();
     std::unique_lock<std::mutex> lock(m_mutex);
     while (!m_isEnding) {
         const auto next = UdpSocket::Clock::now() + m_options.period;
@@ -172,16 +182,16 @@ void GigeDiscovery::lookAround()
 {
     std::map<std::uint64_t, FoundDevice> answers;
     const std::uint16_t id = nextId();
-    const bool isAsked = m_socket.isOpen() && ask(id);
+    const std::optional<std::string> refusal = ask(id);
     const auto deadline = UdpSocket::Clock::now() + m_options.patience;
-    while (isAsked) {
+    while (!refusal) {
         const std::optional<Datagram> datagram = m_socket.receive(deadline);
         if (!datagram)
             break;
         take(*datagram, id, answers);
     }
     askForAccess(answers);
-    publish(std::move(answers), !isAsked);
+    publish(std::move(answers), refusal);
 }
 
 std::uint16_t GigeDiscovery::nextId()
@@ -191,13 +201,22 @@ std::uint16_t GigeDiscovery::nextId()
     return m_id;
 }
 
-/** Whether anyone could be asked. */
-bool GigeDiscovery::ask(std::uint16_t id) const
+/** Why nobody could be asked, if that is so; empty if there is nobody to ask. */
+std::optional<std::string> GigeDiscovery::ask(std::uint16_t id) const
 {
-    bool isAnyone = broadcasts() && m_socket.send(Gvcp::discovery(id, true), {everyone, m_options.port});
-    for (const std::uint32_t address : addresses())
+    const std::vector<std::uint32_t> single = addresses();
+    const bool isBroadcast = broadcasts();
+    if (single.empty() && !isBroadcast)
+        return "";
+    bool isAnyone = isBroadcast && m_socket.send(Gvcp::discovery(id, true), {everyone, m_options.port});
+    int error = errno;
+    for (const std::uint32_t address : single) {
         isAnyone |= m_socket.send(Gvcp::discovery(id, false), {address, m_options.port});
-    return isAnyone;
+        error = errno;
+    }
+    if (isAnyone)
+        return std::nullopt;
+    return m_socket.isOpen() ? std::generic_category().message(error) : "The adapter has another address now";
 }
 
 bool GigeDiscovery::broadcasts() const
@@ -234,7 +253,6 @@ void GigeDiscovery::take(const Datagram &datagram, std::uint16_t id,
 /** Who controls each device; all are asked at once. One that does not tell stays as it was for some rounds. */
 void GigeDiscovery::askForAccess(std::map<std::uint64_t, FoundDevice> &devices)
 {
-    constexpr int attempts = 2;
     std::vector<FoundDevice *> open;
     for (auto &[mac, device] : devices) {
         const std::optional<FoundDevice> former = find(mac);
@@ -249,10 +267,30 @@ void GigeDiscovery::askForAccess(std::map<std::uint64_t, FoundDevice> &devices)
             open.push_back(&device);
         }
     }
+    askEach(open, Gvcp::ControlPrivilege, [](FoundDevice &device, const Gvcp::Acknowledge &answer) {
+        device.accessStatus = accessIn(answer);
+        device.untold = 0;
+    });
+    const auto isFree = [](const FoundDevice *device) {
+        return device->untold > 0 || device->accessStatus == OrvCam::AccessStatusReadWrite;
+    };
+    open.erase(std::remove_if(open.begin(), open.end(), isFree), open.end());
+    askEach(open, Gvcp::ControllerAddress, [](FoundDevice &device, const Gvcp::Acknowledge &answer) {
+        const std::optional<std::vector<std::uint32_t>> controller = Gvcp::registersIn(answer.payload, 1);
+        if (answer.status == Gvcp::Status::Success && controller)
+            device.controller = controller->front();
+    });
+}
+
+/** Asks all of \a open for a register at once, and gives each answer to \a take. */
+template <typename Take>
+void GigeDiscovery::askEach(std::vector<FoundDevice *> open, std::uint32_t address, const Take &take)
+{
+    constexpr int attempts = 2;
     const std::uint16_t id = nextId();
     for (int attempt = 0; attempt < attempts && !open.empty(); ++attempt) {
         for (const FoundDevice *device : open)
-            m_socket.send(Gvcp::readRegisters(id, {Gvcp::ControlPrivilege}), device->endpoint);
+            m_socket.send(Gvcp::readRegisters(id, {address}), device->endpoint);
         const auto deadline = UdpSocket::Clock::now() + m_options.patience / attempts;
         while (!open.empty()) {
             const std::optional<Datagram> datagram = m_socket.receive(deadline);
@@ -265,18 +303,18 @@ void GigeDiscovery::askForAccess(std::map<std::uint64_t, FoundDevice> &devices)
                 Gvcp::acknowledgeIn(datagram->bytes.data(), datagram->bytes.size());
             if (asked == open.end() || !answer || answer->id != id || answer->command != Gvcp::Command::ReadRegister)
                 continue;
-            (*asked)->accessStatus = accessIn(*answer);
-            (*asked)->untold = 0;
+            take(**asked, *answer);
             open.erase(asked);
         }
     }
 }
 
 /** A packet may be lost: a device stays until it has missed several rounds. */
-void GigeDiscovery::publish(std::map<std::uint64_t, FoundDevice> &&answers, bool isBlocked)
+void GigeDiscovery::publish(std::map<std::uint64_t, FoundDevice> &&answers, std::optional<std::string> refusal)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_isBlocked = isBlocked;
+    m_refusal = std::move(refusal);
+    m_emptyRounds = answers.empty() ? std::min(m_emptyRounds + 1, m_options.missable) : 0;
     for (Seen &seen : m_seen) {
         const auto answer = answers.find(seen.device.record.mac);
         if (answer == answers.end()) {

@@ -10,6 +10,7 @@
 #include <map>
 #include <mutex>
 #include <optional>
+#include <string>
 #include <thread>
 #include <vector>
 
@@ -21,6 +22,7 @@ struct FoundDevice
     Gvcp::DeviceRecord record;
     Endpoint endpoint; ///< where it answers
     std::int32_t accessStatus = 0; ///< an OrvCam::AccessStatus
+    std::uint32_t controller = 0; ///< address of the program that controls it, if it tells
     int untold = 0; ///< rounds since it told who controls it
 };
 
@@ -67,8 +69,11 @@ public:
     /** The next round begins at once. */
     void lookNow();
 
-    /** Whether the network has refused questions, for instance because the adapter has lost its address. */
-    bool isBlocked() const;
+    /** Why the system lets nobody be asked, for people; empty if it does, or if nobody is to be asked. */
+    std::string refusal() const;
+
+    /** Whether nobody has answered for some rounds. */
+    bool isSilent() const;
 
 private:
     struct Seen
@@ -80,15 +85,17 @@ private:
 
     void run();
     void lookAround();
-    bool ask(std::uint16_t id) const;
+    std::optional<std::string> ask(std::uint16_t id) const;
     bool broadcasts() const;
     std::vector<std::uint32_t> addresses() const;
     void take(const Datagram &datagram, std::uint16_t id, std::map<std::uint64_t, FoundDevice> &answers) const;
     void askForAccess(std::map<std::uint64_t, FoundDevice> &devices);
+    template <typename Take>
+    void askEach(std::vector<FoundDevice *> open, std::uint32_t address, const Take &take);
     std::uint16_t nextId();
     std::optional<Gvcp::Status> askForIp(const FoundDevice &device, const IpConfiguration &configuration) const;
     std::vector<Seen>::iterator place(std::uint64_t mac);
-    void publish(std::map<std::uint64_t, FoundDevice> &&answers, bool isBlocked);
+    void publish(std::map<std::uint64_t, FoundDevice> &&answers, std::optional<std::string> refusal);
 
     const NetAdapter m_adapter;
     const Options m_options;
@@ -100,7 +107,8 @@ private:
     std::vector<Seen> m_seen; ///< in the order in which they were found
     std::vector<std::uint32_t> m_furtherAddresses; ///< that are asked one by one
     bool m_isRetired = false;
-    bool m_isBlocked = false;
+    std::optional<std::string> m_refusal; ///< of the system, to ask anyone in the last round
+    int m_emptyRounds = 0; ///< one after the other
     bool m_isHurried = false;
     bool m_isEnding = false;
 

@@ -42,6 +42,22 @@ bool operator==(const DeviceTexts &left, const DeviceTexts &right)
     return all(left) == all(right);
 }
 
+/** Of the link to a camera in this process. */
+std::string keyOf(std::uint64_t mac)
+{
+    return "GigE Vision " + textOfMac(mac);
+}
+
+/** Discovery cannot tell this process from others that control the camera. */
+std::int32_t accessStatusOf(std::uint64_t mac, const std::optional<FoundDevice> &found)
+{
+    if (const std::shared_ptr<OpenRemoteCamera> open = OpenRemoteCameras::find(keyOf(mac))) {
+        if (open->camera().GetAccessMode() == GenApi::RW)
+            return OrvCam::AccessStatusReadWrite;
+    }
+    return found ? found->accessStatus : std::int32_t(OrvCam::AccessStatusNoAccess);
+}
+
 } // namespace
 
 /** A camera that discovery has found. It has one link, however many applications of this process open it. */
@@ -68,23 +84,15 @@ public:
     std::unique_ptr<Connection> open(std::int32_t accessMode, OrvCamErr &err) override;
 
 private:
-    std::string key() const { return "GigE Vision " + *m_texts.id; }
-
     const std::uint64_t m_mac;
     const DeviceTexts m_texts;
     const std::shared_ptr<GigeDiscovery> m_discovery;
     const GigeInterface::Options m_options;
 };
 
-/** Discovery cannot tell this process from others that control the camera. */
 std::int32_t GigeDevice::accessStatus() const
 {
-    if (const std::shared_ptr<OpenRemoteCamera> open = OpenRemoteCameras::find(key())) {
-        if (open->camera().GetAccessMode() == GenApi::RW)
-            return OrvCam::AccessStatusReadWrite;
-    }
-    const std::optional<FoundDevice> found = m_discovery->find(m_mac);
-    return found ? found->accessStatus : std::int32_t(OrvCam::AccessStatusNoAccess);
+    return accessStatusOf(m_mac, m_discovery->find(m_mac));
 }
 
 OrvCamErr GigeDevice::readIpConfiguration(IpConfiguration &configuration) const
@@ -108,13 +116,14 @@ std::unique_ptr<Connection> GigeDevice::open(std::int32_t, OrvCamErr &err)
         err = OrvCamErr_InvalidState;
     if (err != OrvCamErr_Ok)
         return nullptr;
-    const auto openLink = [mac = m_mac, discovery = m_discovery, link = m_options.open] {
+    const auto openLink = [mac = m_mac, discovery = m_discovery, link = m_options.open](const IsWanted &isWanted,
+                                                                                        const IsFetching &isFetching) {
         const std::optional<FoundDevice> found = discovery->find(mac);
         if (!found)
             throw LinkError(LinkError::Kind::Silent, "The camera is not on the network");
-        return link(discovery->adapter().address, found->endpoint);
+        return link(discovery->adapter().address, found->endpoint, isWanted, isFetching);
     };
-    return std::make_unique<RemoteConnection>(OpenRemoteCameras::open(key(), openLink, m_options.patience));
+    return std::make_unique<RemoteConnection>(OpenRemoteCameras::open(keyOf(m_mac), openLink, m_options.patience));
 }
 
 GigeInterface::GigeInterface(const std::string &id, const NetAdapter &adapter, const Options &options)
@@ -176,17 +185,29 @@ OrvCamErr GigeInterface::reEnumerate(bool &changed, std::uint32_t)
     return OrvCamErr_Ok;
 }
 
+/** Without making devices: applications that look at an interface's features have asked for none. */
 std::vector<DeviceNumbers> GigeInterface::numbersOfDevices() const
 {
     std::vector<DeviceNumbers> numbers;
-    for (const std::shared_ptr<GigeDevice> &device : known()) {
+    for (const FoundDevice &found : m_discovery->devices()) {
         DeviceNumbers of;
-        of.mac = device->mac();
-        device->readIpConfiguration(of.ip);
-        of.accessStatus = device->accessStatus();
+        of.mac = found.record.mac;
+        of.ip = found.record.ip;
+        of.accessStatus = accessStatusOf(found.record.mac, found);
         numbers.push_back(of);
     }
     return numbers;
+}
+
+std::vector<std::string> GigeInterface::takenDevices() const
+{
+    std::vector<std::string> texts;
+    for (const FoundDevice &found : m_discovery->devices()) {
+        if (found.controller != 0 && accessStatusOf(found.record.mac, found) != OrvCam::AccessStatusReadWrite)
+            texts.push_back(*textsOf(found.record).displayName + " is controlled by another program at "
+                            + dotted(found.controller) + '.');
+    }
+    return texts;
 }
 
 } // namespace OrvCameraApi

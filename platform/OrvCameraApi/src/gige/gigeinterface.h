@@ -20,7 +20,8 @@ class GigeInterface final : public BackendInterface
 {
 public:
     /** Opens the device that answers there through the adapter of that address. Throws LinkError. */
-    using OpenLink = std::function<std::unique_ptr<CameraLink>(std::uint32_t adapter, const Endpoint &device)>;
+    using OpenLink = std::function<std::unique_ptr<CameraLink>(std::uint32_t adapter, const Endpoint &device,
+                                                               const IsWanted &isWanted, const IsFetching &isFetching)>;
 
     struct Options
     {
@@ -41,6 +42,9 @@ public:
 
     /** Does not wait: devices that are found later are in later lists. */
     OrvCamErr reEnumerate(bool &changed, std::uint32_t timeout) override;
+
+    /** For each device that another program controls, a text for people with the address of that program. */
+    std::vector<std::string> takenDevices() const;
 
     /** Whose devices these are. It may outlive this object. */
     std::shared_ptr<GigeDiscovery> discovery() const { return m_discovery; }

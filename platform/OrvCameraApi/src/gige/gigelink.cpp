@@ -49,26 +49,42 @@ bool isTaken(GvcpClient &client)
     throw LinkError(LinkError::Kind::Denied, "Another program" + who + " has taken the camera");
 }
 
-/** The place of the description. Throws if it is not in the camera. */
-Gvcp::DescriptionFile fileOf(GvcpClient &client)
+/** Where the camera says that its description is. */
+struct Source
 {
-    const std::optional<Gvcp::Packet> url = client.readMemory(Gvcp::FirstUrl, Gvcp::urlLength);
-    if (!url)
+    Gvcp::DescriptionFile file; ///< in the camera
+    bool isOnlySource; ///< no other place is named, which a library below could turn to
+};
+
+/** Throws if the description is not in the camera. A camera has two places to name; the second one need not exist. */
+Source sourceOf(GvcpClient &client)
+{
+    const std::optional<Gvcp::Packet> first = client.readMemory(Gvcp::FirstUrl, Gvcp::urlLength);
+    if (!first)
         throwSilent();
-    const std::optional<Gvcp::DescriptionFile> file = Gvcp::localFileIn(textIn(*url));
-    if (!file)
-        throw LinkError(LinkError::Kind::Failed,
-                        "The description is not in the camera and is not fetched from elsewhere: \""
-                            + shown(textIn(*url)) + '"');
-    return *file;
+    const std::optional<Gvcp::Packet> second = client.readMemory(Gvcp::SecondUrl, Gvcp::urlLength);
+    const std::string other = second ? textIn(*second) : "";
+    const std::optional<Gvcp::DescriptionFile> otherFile = Gvcp::localFileIn(other);
+    if (const std::optional<Gvcp::DescriptionFile> file = Gvcp::localFileIn(textIn(*first)))
+        return {*file, other.empty() || otherFile};
+    if (otherFile)
+        return {*otherFile, false};
+    throw LinkError(LinkError::Kind::Failed,
+                    "The description is not in the camera and is not fetched from elsewhere: \"" + shown(textIn(*first))
+                        + '"');
 }
 
-std::string fetch(GvcpClient &client, const Gvcp::DescriptionFile &file)
+std::string fetch(GvcpClient &client, const Gvcp::DescriptionFile &file, const IsWanted &isWanted)
 {
-    const std::optional<Gvcp::Packet> bytes = client.readMemory(file.address, file.length);
-    if (!bytes)
-        throwSilent();
-    std::string text(bytes->begin(), bytes->end());
+    std::string text;
+    while (text.size() < file.length) {
+        requireWanted(isWanted);
+        const auto count = std::uint32_t(std::min<std::size_t>(file.length - text.size(), Gvcp::mostMemory));
+        const std::optional<Gvcp::Packet> bytes = client.readMemory(file.address + std::uint32_t(text.size()), count);
+        if (!bytes)
+            throwSilent();
+        text.append(bytes->begin(), bytes->end());
+    }
     return file.isArchive() ? OrvGenApi::descriptionInZip(text, file.name) : text;
 }
 
@@ -76,10 +92,12 @@ std::string fetch(GvcpClient &client, const Gvcp::DescriptionFile &file)
 class GvcpTransport final : public CameraLink
 {
 public:
-    GvcpTransport(std::uint32_t adapter, const Endpoint &device, bool isReadOnly, const Gvcp::DescriptionFile &file)
-        : m_client(adapter, device)
+    GvcpTransport(std::uint32_t adapter, const Endpoint &device, bool isReadOnly, const Gvcp::DescriptionFile &file,
+                  IsWanted isWanted)
+        : m_client(adapter, device, {}, isWanted)
         , m_isReadOnly(isReadOnly)
         , m_file(file)
+        , m_isWanted(std::move(isWanted))
     {
         if (!m_isReadOnly)
             require(Gvcp::writeRegister(m_client.nextId(), Gvcp::ControlPrivilege, control));
@@ -92,7 +110,7 @@ public:
     GvcpTransport(const GvcpTransport &) = delete;
     GvcpTransport &operator=(const GvcpTransport &) = delete;
 
-    std::string description() override { return fetch(m_client, m_file); }
+    std::string description() override { return fetch(m_client, m_file, m_isWanted); }
     bool isReadOnly() const override { return m_isReadOnly; }
     void read(void *buffer, std::uint64_t address, std::uint32_t length) override;
     void write(const void *buffer, std::uint64_t address, std::uint32_t length) override;
@@ -116,6 +134,7 @@ private:
     GvcpClient m_client;
     const bool m_isReadOnly;
     const Gvcp::DescriptionFile m_file;
+    const IsWanted m_isWanted;
 };
 
 /** The payload of the answer. Throws if the camera refuses or does not answer. */
@@ -136,6 +155,7 @@ void GvcpTransport::read(WireSpan &span)
     constexpr std::size_t echo = 4; // the address stands before the bytes
     const bool isRegister = span.bytes.size() == 4;
     for (std::size_t done = 0; done < span.bytes.size();) {
+        requireWanted(m_isWanted);
         const std::size_t count = std::min(span.bytes.size() - done, Gvcp::mostMemory);
         const auto at = std::uint32_t(span.begin + done);
         const Gvcp::Packet answer = require(isRegister ? Gvcp::readRegisters(m_client.nextId(), {at})
@@ -162,6 +182,7 @@ void GvcpTransport::write(const void *buffer, std::uint64_t address, std::uint32
         read(span); // the bytes around it stay
     std::copy_n(static_cast<const std::uint8_t *>(buffer), length, span.bytes.begin() + span.offset);
     const std::uint8_t *const bytes = span.bytes.data();
+    requireWanted(m_isWanted); // nothing new is written after its writer has been told that it is not
     if (span.bytes.size() == 4) {
         const std::uint32_t value =
             std::uint32_t(bytes[0]) << 24 | std::uint32_t(bytes[1]) << 16 | std::uint32_t(bytes[2]) << 8 | bytes[3];
@@ -169,6 +190,7 @@ void GvcpTransport::write(const void *buffer, std::uint64_t address, std::uint32
         return;
     }
     for (std::size_t done = 0; done < span.bytes.size(); done += Gvcp::mostMemory) {
+        requireWanted(m_isWanted);
         const std::size_t count = std::min(span.bytes.size() - done, Gvcp::mostMemory);
         require(Gvcp::writeMemory(m_client.nextId(), std::uint32_t(span.begin + done), bytes + done, count));
     }
@@ -218,29 +240,35 @@ private:
     const std::string m_unpacked; ///< the description, if the camera has it in an archive
 };
 
-/** Through the library below, unless it cannot read the description: it knows no names in capitals, for instance. */
+/**
+ * Through the library below, unless it might fetch the description from outside the camera, or cannot read it: it knows
+ * no names in capitals, for instance.
+ */
 std::unique_ptr<CameraLink> openTransport(std::uint32_t adapter, const Endpoint &device, bool isReadOnly,
-                                          const Gvcp::DescriptionFile &file, const OpenTransport &open)
+                                          const Source &source, const IsWanted &isWanted, const OpenTransport &open)
 {
     try {
-        return open(adapter, device.address, isReadOnly);
+        if (source.isOnlySource)
+            return open(adapter, device.address, isReadOnly, isWanted);
     } catch (const LinkError &error) {
         if (error.kind() != LinkError::Kind::Failed)
             throw;
     }
-    return std::make_unique<GvcpTransport>(adapter, device, isReadOnly, file);
+    return std::make_unique<GvcpTransport>(adapter, device, isReadOnly, source.file, isWanted);
 }
 
 } // namespace
 
-std::unique_ptr<CameraLink> openGigeCamera(std::uint32_t adapter, const Endpoint &device, const OpenTransport &open)
+std::unique_ptr<CameraLink> openGigeCamera(std::uint32_t adapter, const Endpoint &device, const IsWanted &isWanted,
+                                           const IsFetching &isFetching, const OpenTransport &open)
 {
-    GvcpClient client(adapter, device);
+    GvcpClient client(adapter, device, {}, isWanted);
     const bool isReadOnly = isTaken(client);
-    const Gvcp::DescriptionFile file = fileOf(client);
-    std::string unpacked = file.isArchive() ? fetch(client, file) : std::string();
-    return std::make_unique<GigeLink>(openTransport(adapter, device, isReadOnly, file, open), adapter, device,
-                                      std::move(unpacked));
+    isFetching();
+    const Source source = sourceOf(client);
+    std::string unpacked = source.file.isArchive() ? fetch(client, source.file, isWanted) : std::string();
+    return std::make_unique<GigeLink>(openTransport(adapter, device, isReadOnly, source, isWanted, open), adapter,
+                                      device, std::move(unpacked));
 }
 
 } // namespace OrvCameraApi

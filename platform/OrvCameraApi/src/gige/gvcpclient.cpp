@@ -1,13 +1,16 @@
 #include "gvcpclient.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace OrvCameraApi {
 
-GvcpClient::GvcpClient(std::uint32_t local, const Endpoint &device, const GvcpPatience &patience)
+GvcpClient::GvcpClient(std::uint32_t local, const Endpoint &device, const GvcpPatience &patience,
+                       std::function<bool()> isWanted)
     : m_socket({local, 0})
     , m_device(device)
     , m_patience(patience)
+    , m_isWanted(std::move(isWanted))
 {
 }
 
@@ -42,7 +45,7 @@ std::optional<Gvcp::Acknowledge> GvcpClient::request(const Gvcp::Packet &packet)
             if (const std::optional<std::uint16_t> time = Gvcp::pendingTime(answer->payload))
                 deadline = std::min(end, UdpSocket::Clock::now() + std::chrono::milliseconds(*time));
         }
-        if (UdpSocket::Clock::now() >= end)
+        if (UdpSocket::Clock::now() >= end || (m_isWanted && !m_isWanted()))
             break;
     }
     return std::nullopt;

@@ -5,6 +5,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -18,15 +19,16 @@ struct GvcpPatience
     std::chrono::milliseconds longest{1000}; ///< with everything that pending acknowledges ask for
 };
 
-/** Talks to one device, without controlling it. Used by one thread, except stop(). */
+/** Talks to one device. Used by one thread. */
 class GvcpClient
 {
 public:
-    /** \a local is the address of the adapter through which the device is reached. */
-    GvcpClient(std::uint32_t local, const Endpoint &device, const GvcpPatience &patience = {});
-
-    /** Ends the request that is running, without an answer, and all later ones; any thread. */
-    void stop() const { m_socket.wake(); }
+    /**
+     * \a local is the address of the adapter through which the device is reached. A packet is not repeated when
+     * \a isWanted, if there is one, says that nobody waits any more.
+     */
+    GvcpClient(std::uint32_t local, const Endpoint &device, const GvcpPatience &patience = {},
+               std::function<bool()> isWanted = {});
 
     /** The values of the registers, with as few packets as possible; none if the device does not answer or refuses. */
     std::optional<std::vector<std::uint32_t>> readRegisters(const std::vector<std::uint32_t> &addresses);
@@ -43,6 +45,7 @@ private:
     UdpSocket m_socket;
     const Endpoint m_device;
     const GvcpPatience m_patience;
+    const std::function<bool()> m_isWanted;
     std::uint16_t m_id = 0;
 };
 

@@ -37,26 +37,33 @@ int millisecondsUntil(UdpSocket::Clock::time_point deadline)
     return int(std::clamp<std::int64_t>(left, 0, 60'000));
 }
 
+/** A socket that is bound to \a local, or -1. */
+int boundSocket(const Endpoint &local)
+{
+    const int socket = ::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    const sockaddr_in address = toSystem(local);
+    if (socket >= 0 && ::bind(socket, reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0) {
+        ::close(socket);
+        return -1;
+    }
+    return socket;
+}
+
 } // namespace
 
 UdpSocket::UdpSocket(const Endpoint &local)
+    : m_socket(boundSocket(local))
 {
     std::array<int, 2> pipe{};
     if (::pipe2(pipe.data(), O_CLOEXEC | O_NONBLOCK) == 0) {
         m_wakeReader = pipe[0];
         m_wakeWriter = pipe[1];
     }
-    m_socket = ::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
-    const sockaddr_in address = toSystem(local);
-    if (m_socket >= 0 && ::bind(m_socket, reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0) {
-        ::close(m_socket);
-        m_socket = -1;
-    }
 }
 
 UdpSocket::~UdpSocket()
 {
-    for (const int descriptor : {m_socket, m_wakeReader, m_wakeWriter}) {
+    for (const int descriptor : {m_socket, m_broadcasts, m_wakeReader, m_wakeWriter}) {
         if (descriptor >= 0)
             ::close(descriptor);
     }
@@ -71,13 +78,18 @@ Endpoint UdpSocket::local() const
     return fromSystem(address);
 }
 
-bool UdpSocket::allowBroadcast(unsigned adapterIndex)
+void UdpSocket::useAdapter(unsigned index)
+{
+    const std::uint32_t number = htonl(index);
+    ::setsockopt(m_socket, IPPROTO_IP, IP_UNICAST_IF, &number, sizeof number);
+}
+
+void UdpSocket::allowBroadcast()
 {
     const int on = 1;
-    ip_mreqn adapter{};
-    adapter.imr_ifindex = int(adapterIndex);
-    return ::setsockopt(m_socket, SOL_SOCKET, SO_BROADCAST, &on, sizeof on) == 0
-        && ::setsockopt(m_socket, IPPROTO_IP, IP_MULTICAST_IF, &adapter, sizeof adapter) == 0;
+    ::setsockopt(m_socket, SOL_SOCKET, SO_BROADCAST, &on, sizeof on);
+    if (m_broadcasts < 0)
+        m_broadcasts = boundSocket({INADDR_BROADCAST, local().port});
 }
 
 bool UdpSocket::send(const std::vector<std::uint8_t> &bytes, const Endpoint &to) const
@@ -91,18 +103,20 @@ bool UdpSocket::send(const std::vector<std::uint8_t> &bytes, const Endpoint &to)
 std::optional<Datagram> UdpSocket::receive(Clock::time_point deadline) const
 {
     for (;;) {
-        std::array<pollfd, 2> waiting = {{{m_socket, POLLIN, 0}, {m_wakeReader, POLLIN, 0}}};
+        std::array<pollfd, 3> waiting = {{{m_wakeReader, POLLIN, 0}, {m_socket, POLLIN, 0}, {m_broadcasts, POLLIN, 0}}};
         const int ready = ::poll(waiting.data(), waiting.size(), millisecondsUntil(deadline));
         // Datagrams that come without end keep nobody beyond the deadline.
-        if (waiting[1].revents || Clock::now() >= deadline || (ready < 0 && errno != EINTR))
+        if (waiting[0].revents || Clock::now() >= deadline || (ready < 0 && errno != EINTR))
             return std::nullopt;
-        if (!waiting[0].revents)
+        const auto filled =
+            std::find_if(waiting.begin() + 1, waiting.end(), [](const pollfd &each) { return each.revents != 0; });
+        if (filled == waiting.end())
             continue;
         Datagram datagram;
         datagram.bytes.resize(65536);
         sockaddr_in from{};
         socklen_t size = sizeof from;
-        const ssize_t count = ::recvfrom(m_socket, datagram.bytes.data(), datagram.bytes.size(), 0,
+        const ssize_t count = ::recvfrom(filled->fd, datagram.bytes.data(), datagram.bytes.size(), 0,
                                          reinterpret_cast<sockaddr *>(&from), &size);
         if (count < 0)
             continue; // an error that an earlier packet has left, for instance that nobody listens

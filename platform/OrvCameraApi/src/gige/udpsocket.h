@@ -38,8 +38,14 @@ public:
     bool isOpen() const { return m_socket >= 0; }
     Endpoint local() const;
 
-    /** Lets broadcasts leave by the adapter with that index of the system. */
-    bool allowBroadcast(unsigned adapterIndex);
+    /** All leaves by the adapter with that index of the system, also when another one is in the same subnet. */
+    void useAdapter(unsigned index);
+
+    /**
+     * Lets broadcasts leave, and hears those to the same port: a device with an address from elsewhere can answer in no
+     * other way.
+     */
+    void allowBroadcast();
 
     bool send(const std::vector<std::uint8_t> &bytes, const Endpoint &to) const;
 
@@ -51,6 +57,7 @@ public:
 
 private:
     int m_socket = -1;
+    int m_broadcasts = -1; ///< the same port of 255.255.255.255, which a socket with an address does not hear
     int m_wakeReader = -1;
     int m_wakeWriter = -1;
 };

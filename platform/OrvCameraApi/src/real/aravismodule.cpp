@@ -56,24 +56,27 @@ bool isInstalled()
     return ::access(path().c_str(), R_OK) == 0;
 }
 
-std::unique_ptr<CameraLink> openGige(std::uint32_t adapter, std::uint32_t address, bool isReadOnly)
+std::unique_ptr<CameraLink> openGige(std::uint32_t adapter, std::uint32_t address, bool isReadOnly,
+                                     const IsWanted &isWanted)
 {
     module().require();
-    return std::unique_ptr<CameraLink>(module().openGige(adapter, address, isReadOnly));
+    return std::unique_ptr<CameraLink>(module().openGige(adapter, address, isReadOnly, isWanted));
 }
 
-std::unique_ptr<CameraLink> openUsb(const std::string &id)
+std::unique_ptr<CameraLink> openUsb(const std::string &id, const IsWanted &isWanted)
 {
     module().require();
-    return std::unique_ptr<CameraLink>(module().openUsb(id.c_str()));
+    return std::unique_ptr<CameraLink>(module().openUsb(id.c_str(), isWanted));
 }
 
-std::vector<UsbCamera> usbCameras()
+UsbDiscovery::Found usbCameras()
 {
-    std::vector<UsbCamera> cameras;
+    UsbDiscovery::Found found;
     if (module().isComplete())
-        module().listUsb(cameras);
-    return cameras;
+        module().listUsb(found.cameras);
+    else
+        found.problem = "USB cameras cannot be reached: " + module().failure;
+    return found;
 }
 
 } // namespace OrvCameraApi::AravisModule

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cameralink.h"
-#include "usbinterface.h"
+#include "usbdiscovery.h"
 
 #include <cstdint>
 #include <memory>
@@ -16,11 +16,12 @@ namespace AravisModule {
 /** Whether it lies beside this library; it is not loaded for that. */
 bool isInstalled();
 
-std::unique_ptr<CameraLink> openGige(std::uint32_t adapter, std::uint32_t address, bool isReadOnly);
-std::unique_ptr<CameraLink> openUsb(const std::string &id);
+std::unique_ptr<CameraLink> openGige(std::uint32_t adapter, std::uint32_t address, bool isReadOnly,
+                                     const IsWanted &isWanted);
+std::unique_ptr<CameraLink> openUsb(const std::string &id, const IsWanted &isWanted);
 
-/** None as well when the module cannot be loaded. */
-std::vector<UsbCamera> usbCameras();
+/** None as well when the module cannot be loaded, which is the problem then. */
+UsbDiscovery::Found usbCameras();
 
 } // namespace AravisModule
 

@@ -4,6 +4,7 @@
 #include "gigeinterface.h"
 #include "gigelink.h"
 #include "usbinterface.h"
+#include "usbpermission.h"
 
 #include <algorithm>
 #include <map>
@@ -49,6 +50,8 @@ public:
         retire();
     }
 
+    std::vector<std::string> problems() const;
+
     void stopLooking()
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
@@ -64,6 +67,9 @@ private:
                 discovery->retire();
         }
         m_adapters.clear();
+        if (const std::shared_ptr<UsbInterface> usb = m_usb.lock())
+            usb->retire();
+        m_usb.reset();
     }
 
     bool isWanted(const NetAdapter &adapter) const;
@@ -71,6 +77,8 @@ private:
     std::shared_ptr<GigeInterface> interfaceFor(const std::string &id, const NetAdapter &adapter,
                                                 std::vector<std::uint32_t> addresses) const;
     std::shared_ptr<UsbInterface> usb() const;
+    void retireOthers(const Interfaces &listed) const;
+    std::vector<std::string> mistakes() const;
 
     mutable std::mutex m_mutex;
     OrvTransports::Discovery m_discovery;
@@ -126,8 +134,79 @@ std::optional<Backend::Interfaces> RealCameras::interfaces() const
         const std::string id = isAlone ? adapter->name : adapter->name + '/' + dotted(adapter->address);
         interfaces.push_back(interfaceFor(id, *adapter, std::move(near)));
     }
+    retireOthers(interfaces);
     interfaces.push_back(usb());
     return interfaces;
+}
+
+/** Adapters that have gone, or have other addresses, are not looked at any more. */
+void RealCameras::retireOthers(const Interfaces &listed) const
+{
+    for (auto each = m_adapters.begin(); each != m_adapters.end();) {
+        const std::shared_ptr<GigeInterface> interface = each->second.lock();
+        const bool isListed = std::find(listed.begin(), listed.end(), interface) != listed.end();
+        if (interface && !isListed)
+            interface->discovery()->retire();
+        each = isListed ? std::next(each) : m_adapters.erase(each);
+    }
+}
+
+/** The words of the choice that mean nothing here. */
+std::vector<std::string> RealCameras::mistakes() const
+{
+    std::vector<std::string> mistakes;
+    for (const std::string &address : m_discovery.addresses) {
+        if (!addressIn(address))
+            mistakes.push_back('"' + address + "\" is not the IPv4 address of a camera.");
+    }
+    const std::vector<NetAdapter> all = netAdapters();
+    for (const std::string &name : m_discovery.adapters) {
+        const bool isThere = std::any_of(all.begin(), all.end(), [&name](const NetAdapter &adapter) {
+            return name == adapter.name || addressIn(name) == adapter.address;
+        });
+        if (!isThere)
+            mistakes.push_back("There is no network adapter \"" + name + "\" with an IPv4 address.");
+    }
+    return mistakes;
+}
+
+std::vector<std::string> RealCameras::problems() const
+{
+    constexpr std::size_t named = 4; // of the silent adapters
+    const std::string port = std::to_string(Gvcp::port);
+    std::vector<std::string> silent;
+    bool isAnyDevice = false;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const std::shared_ptr<UsbInterface> usb = m_usb.lock();
+    if (!usb)
+        return {};
+    std::vector<std::string> problems = mistakes();
+    for (const auto &[id, weak] : m_adapters) {
+        const std::shared_ptr<GigeInterface> interface = weak.lock();
+        if (!interface)
+            continue;
+        const GigeDiscovery &discovery = *interface->discovery();
+        const std::string where = discovery.adapter().name + " (" + dotted(discovery.adapter().address) + ')';
+        if (const std::string refusal = discovery.refusal(); !refusal.empty())
+            problems.push_back("Cameras on " + where + " cannot be asked: " + refusal
+                               + ". A firewall may forbid UDP to port " + port + '.');
+        if (discovery.isSilent())
+            silent.push_back(where);
+        isAnyDevice |= !discovery.devices().empty();
+        for (std::string &taken : interface->takenDevices())
+            problems.push_back(std::move(taken));
+    }
+    if (!silent.empty() && !isAnyDevice) { // one that is connected elsewhere is no problem of the other adapters
+        std::string text = "No camera has answered on " + silent.front();
+        for (std::size_t i = 1; i < std::min(silent.size(), named); ++i)
+            text += ", " + silent[i];
+        text += silent.size() > named ? " and others" : "";
+        problems.push_back(text + ". If one is connected, a firewall may drop its answers, which come from UDP port "
+                           + port + '.');
+    }
+    problems.push_back(usb->problem());
+    problems.erase(std::remove(problems.begin(), problems.end(), std::string()), problems.end());
+    return problems;
 }
 
 std::shared_ptr<GigeInterface> RealCameras::interfaceFor(const std::string &id, const NetAdapter &adapter,
@@ -139,8 +218,9 @@ std::shared_ptr<GigeInterface> RealCameras::interfaceFor(const std::string &id, 
         GigeInterface::Options options;
         options.discovery.broadcasts = m_discovery.addresses.empty();
         options.discovery.addresses = std::move(addresses);
-        options.open = [](std::uint32_t local, const Endpoint &device) {
-            return openGigeCamera(local, device, AravisModule::openGige);
+        options.open = [](std::uint32_t local, const Endpoint &device, const IsWanted &isWanted,
+                          const IsFetching &isFetching) {
+            return openGigeCamera(local, device, isWanted, isFetching, AravisModule::openGige);
         };
         interface = std::make_shared<GigeInterface>(id, adapter, options);
         weak = interface;
@@ -154,8 +234,20 @@ std::shared_ptr<UsbInterface> RealCameras::usb() const
     std::shared_ptr<UsbInterface> interface = m_usb.lock();
     if (!interface) {
         UsbInterface::Options options;
-        options.list = AravisModule::usbCameras;
-        options.open = AravisModule::openUsb;
+        options.list = [] {
+            UsbDiscovery::Found found = AravisModule::usbCameras();
+            if (found.problem.empty())
+                found.problem = usbPermissionProblem("/");
+            return found;
+        };
+        options.open = [](const std::string &id, const IsWanted &isWanted) {
+            try {
+                return AravisModule::openUsb(id, isWanted);
+            } catch (const LinkError &error) {
+                const std::string problem = usbPermissionProblem("/");
+                throw LinkError(error.kind(), error.what() + (problem.empty() ? "" : ". " + problem));
+            }
+        };
         interface = std::make_shared<UsbInterface>(std::move(options));
         m_usb = interface;
     }
@@ -178,6 +270,11 @@ Backend &realCameras()
 void setDiscovery(const OrvTransports::Discovery &discovery)
 {
     theCameras().setDiscovery(discovery);
+}
+
+std::vector<std::string> problemsOfRealCameras()
+{
+    return theCameras().problems();
 }
 
 void stopLooking()

@@ -4,6 +4,9 @@
 
 #include <OrvCameraApi/transports.h>
 
+#include <string>
+#include <vector>
+
 namespace OrvCameraApi {
 
 /** The cameras on the network and on USB; the same object as long as the process. */
@@ -11,6 +14,9 @@ Backend &realCameras();
 
 /** Where interfaces look from now on. */
 void setDiscovery(const OrvTransports::Discovery &discovery);
+
+/** As OrvTransports::problems(). */
+std::vector<std::string> problemsOfRealCameras();
 
 /** Only cameras that are known are asked from now on, until somebody lists interfaces again. */
 void stopLooking();

@@ -107,6 +107,11 @@ Cameras used()
     return choice.cameras;
 }
 
+std::vector<std::string> problems()
+{
+    return OrvCameraApi::problemsOfRealCameras();
+}
+
 Progress progressOf(OrvCam::Device &device)
 {
     const auto *const open = dynamic_cast<OrvCameraApi::Device *>(&device);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <stdexcept>
 #include <string>
 
@@ -13,7 +14,8 @@ public:
     enum class Kind {
         Failed, ///< the camera has refused the access
         Denied, ///< another program controls the camera
-        Silent ///< the camera has not answered
+        Silent, ///< the camera has not answered
+        Unwanted ///< nobody waits any more
     };
 
     LinkError(Kind kind, const std::string &text)
@@ -27,6 +29,22 @@ public:
 private:
     Kind m_kind;
 };
+
+/**
+ * Whether anyone still waits for what a link is doing. Asked before the next part of it; packets that were lost may be
+ * repeated without asking by libraries below.
+ */
+using IsWanted = std::function<bool()>;
+
+/** Called by who opens a link when the camera has answered and its description is fetched. */
+using IsFetching = std::function<void()>;
+
+/** Throws LinkError if nobody waits. */
+inline void requireWanted(const IsWanted &isWanted)
+{
+    if (!isWanted())
+        throw LinkError(LinkError::Kind::Unwanted, "Nobody waits for the camera any more");
+}
 
 /**
  * An open camera at the other end of a wire. Its functions may take seconds; one thread uses them. They throw

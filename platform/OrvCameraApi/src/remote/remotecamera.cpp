@@ -1,5 +1,7 @@
 #include "remotecamera.h"
 
+#include "endingthreads.h"
+
 #include <OrvGenApi/nodemap.h>
 
 #include <algorithm>
@@ -20,7 +22,6 @@ public:
             if (const std::shared_ptr<RemoteCamera> camera = weak.lock())
                 RemoteCamera::close(camera);
         }
-        joinClosed();
     }
 
     void add(const std::shared_ptr<RemoteCamera> &camera)
@@ -29,39 +30,20 @@ public:
         m_open.push_back(camera);
     }
 
-    /** Also joins those that have ended since. */
     void close(std::thread thread, std::shared_ptr<const std::atomic<bool>> hasEnded)
     {
+        m_closed.add(std::move(thread), std::move(hasEnded));
         const std::lock_guard<std::mutex> lock(m_mutex);
-        const auto ended =
-            std::partition(m_closed.begin(), m_closed.end(), [](const Closed &closed) { return !*closed.hasEnded; });
-        std::for_each(ended, m_closed.end(), [](Closed &closed) { closed.thread.join(); });
-        m_closed.erase(ended, m_closed.end());
         m_open.erase(std::remove_if(m_open.begin(), m_open.end(), [](const auto &weak) { return weak.expired(); }),
                      m_open.end());
-        m_closed.push_back({std::move(thread), std::move(hasEnded)});
     }
 
-    void joinClosed()
-    {
-        std::unique_lock<std::mutex> lock(m_mutex);
-        std::vector<Closed> ending = std::move(m_closed);
-        m_closed.clear();
-        lock.unlock();
-        for (Closed &closed : ending)
-            closed.thread.join();
-    }
+    void waitForClosed() { m_closed.join(); }
 
 private:
-    struct Closed
-    {
-        std::thread thread;
-        std::shared_ptr<const std::atomic<bool>> hasEnded;
-    };
-
     std::mutex m_mutex;
     std::vector<std::weak_ptr<RemoteCamera>> m_open;
-    std::vector<Closed> m_closed;
+    EndingThreads m_closed;
 };
 
 RunningCameras &runningCameras()
@@ -101,6 +83,7 @@ std::exception_ptr forCallers(const LinkError &error)
     case LinkError::Kind::Silent:
         return std::make_exception_ptr(GenICam::TimeoutException(error.what(), __FILE__, __LINE__));
     case LinkError::Kind::Failed:
+    case LinkError::Kind::Unwanted:
         break;
     }
     return std::make_exception_ptr(GenICam::RuntimeException(error.what(), __FILE__, __LINE__));
@@ -109,8 +92,8 @@ std::exception_ptr forCallers(const LinkError &error)
 } // namespace
 
 RemoteCamera::RemoteCamera(Open open, const Patience &patience)
-    : m_open(std::move(open))
-    , m_patience(patience)
+    : m_patience(patience)
+    , m_open(std::move(open))
 {
 }
 
@@ -142,7 +125,7 @@ void RemoteCamera::close(const std::shared_ptr<RemoteCamera> &camera)
 
 void RemoteCamera::waitForClosed()
 {
-    runningCameras().joinClosed();
+    runningCameras().waitForClosed();
 }
 
 RemoteCamera::State RemoteCamera::state() const
@@ -227,7 +210,11 @@ std::shared_ptr<RemoteCamera::Access> RemoteCamera::access(bool isWrite, std::in
     if (!m_changed.wait_for(lock, m_patience.access, [&] { return access->isDone; })) {
         m_isSilent = true;
         // Nothing is written after its writer has been told that it is not.
-        m_waiting.erase(std::remove(m_waiting.begin(), m_waiting.end(), access), m_waiting.end());
+        const auto waiting = std::find(m_waiting.begin(), m_waiting.end(), access);
+        if (waiting == m_waiting.end())
+            m_isGivenUp = true; // it is the one that is running
+        else
+            m_waiting.erase(waiting);
         throwNoAnswer();
     }
     if (access->failure)
@@ -248,7 +235,7 @@ void RemoteCamera::run()
         lock.lock();
         if (isOpen)
             pause = m_patience.retry;
-        m_changed.wait_for(lock, pause, [this] { return m_isEnding; });
+        m_changed.wait_for(lock, pause, [this] { return m_isEnding.load(); });
         pause = std::min(2 * pause, m_patience.longestRetry);
     }
     failWaiting();
@@ -284,7 +271,7 @@ void RemoteCamera::tellAll(const Tell &tell)
 bool RemoteCamera::openLink()
 {
     try {
-        std::unique_ptr<CameraLink> link = m_open();
+        std::unique_ptr<CameraLink> link = opener()([this] { return isWanted(); }, [this] { noteFetching(); });
         if (!link)
             throw LinkError(LinkError::Kind::Failed, "The camera cannot be opened");
         if (description().empty())
@@ -315,10 +302,29 @@ bool RemoteCamera::openLink()
     return true;
 }
 
+RemoteCamera::Open RemoteCamera::opener() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_open;
+}
+
+void RemoteCamera::setOpen(Open open)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_open = std::move(open);
+}
+
+/** A camera that was lost is so until it is back. */
+void RemoteCamera::noteFetching()
+{
+    if (description().empty())
+        setState(State::Description);
+}
+
 /** The node map is made here, because that takes a moment too. */
 void RemoteCamera::fetchDescription(CameraLink &link)
 {
-    setState(State::Description);
+    noteFetching();
     std::string description = link.description();
     setState(State::Features);
     std::shared_ptr<OrvGenApi::NodeMap> map = OrvGenApi::NodeMap::fromString(description);
@@ -372,6 +378,7 @@ void RemoteCamera::serve()
         isGood = perform(*access);
         lock.lock();
         access->isDone = true;
+        m_isGivenUp = false;
         m_isSilent = m_isSilent && !isGood;
         m_changed.notify_all();
     }
@@ -398,7 +405,8 @@ bool RemoteCamera::perform(Access &access)
             m_link->read(access.bytes.data(), access.address, std::uint32_t(access.bytes.size()));
     } catch (const LinkError &error) {
         access.failure = forCallers(error);
-        return error.kind() == LinkError::Kind::Failed || (error.kind() == LinkError::Kind::Denied && isLinkAlive());
+        const bool isOver = error.kind() == LinkError::Kind::Failed || error.kind() == LinkError::Kind::Unwanted;
+        return isOver || (error.kind() == LinkError::Kind::Denied && isLinkAlive());
     } catch (const std::exception &error) {
         access.failure = std::make_exception_ptr(GenICam::RuntimeException(error.what(), __FILE__, __LINE__));
     } catch (...) {

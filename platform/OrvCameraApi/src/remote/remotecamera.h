@@ -31,8 +31,8 @@ namespace OrvCameraApi {
 class RemoteCamera final : public GenApi::IPort
 {
 public:
-    /** Opens the camera. Throws LinkError. */
-    using Open = std::function<std::unique_ptr<CameraLink>()>;
+    /** Opens the camera, with a link that keeps \a isWanted. Throws LinkError. */
+    using Open = std::function<std::unique_ptr<CameraLink>(const IsWanted &isWanted, const IsFetching &isFetching)>;
 
     struct Patience
     {
@@ -51,6 +51,9 @@ public:
 
     /** Waits until all threads of closed cameras have ended. */
     static void waitForClosed();
+
+    /** How the camera is opened from now on. */
+    void setOpen(Open open);
 
     State state() const;
     bool isConnected() const { return state() == State::Connected; }
@@ -93,11 +96,14 @@ private:
 
     void run();
     bool openLink();
+    Open opener() const;
+    void noteFetching();
     void fetchDescription(CameraLink &link);
     void setState(State state);
     void fail(const std::string &why);
     void serve();
     bool isLinkAlive();
+    bool isWanted() const { return !m_isEnding && !m_isGivenUp; }
     bool perform(Access &access);
     void lose();
     void failWaiting();
@@ -107,15 +113,16 @@ private:
     std::vector<std::shared_ptr<ConnectionListener>> listeners();
     std::shared_ptr<Access> access(bool isWrite, std::int64_t address, std::vector<std::uint8_t> bytes);
 
-    const Open m_open;
     const Patience m_patience;
     std::unique_ptr<CameraLink> m_link; ///< of the thread
     std::atomic<GenApi::EAccessMode> m_accessMode{GenApi::NA};
 
     mutable std::mutex m_mutex;
     std::condition_variable m_changed;
+    Open m_open;
     State m_state = State::Connecting;
-    bool m_isEnding = false;
+    std::atomic<bool> m_isEnding{false}; ///< changes with the mutex held
+    std::atomic<bool> m_isGivenUp{false}; ///< the access that is running
     bool m_isSilent = false; ///< a caller has given up an access that is still running
     std::deque<std::shared_ptr<Access>> m_waiting;
     std::string m_description;

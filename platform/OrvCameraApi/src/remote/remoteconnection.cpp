@@ -27,11 +27,11 @@ Slots &slots()
 }
 
 /** A link that is being closed still controls the camera, and would count as another program. */
-void waitFor(const std::atomic<bool> &hasEnded)
+void waitFor(const std::atomic<bool> &hasEnded, const IsWanted &isWanted)
 {
     using namespace std::chrono_literals;
     const auto deadline = std::chrono::steady_clock::now() + 5s;
-    while (!hasEnded && std::chrono::steady_clock::now() < deadline)
+    while (!hasEnded && isWanted() && std::chrono::steady_clock::now() < deadline)
         std::this_thread::sleep_for(10ms);
 }
 
@@ -50,11 +50,15 @@ std::shared_ptr<OpenRemoteCamera> OpenRemoteCameras::open(const std::string &key
     const std::lock_guard<std::mutex> lock(slots().mutex);
     Slot &slot = slots().byKey[key];
     std::shared_ptr<OpenRemoteCamera> camera = slot.camera.lock();
-    if (!camera) {
-        const auto openAfterwards = [open, former = slot.hasEnded] {
+    if (camera) {
+        camera->camera().setOpen(open); // may know the camera at another address by now
+    } else {
+        const auto openAfterwards = [open, former = slot.hasEnded](const IsWanted &isWanted,
+                                                                   const IsFetching &isFetching) {
             if (former)
-                waitFor(*former);
-            return open();
+                waitFor(*former, isWanted);
+            requireWanted(isWanted);
+            return open(isWanted, isFetching);
         };
         camera = std::make_shared<OpenRemoteCamera>(openAfterwards, patience);
         slot.camera = camera;

@@ -46,7 +46,10 @@ public:
     {
         err = OrvCamErr_Ok;
         std::shared_ptr<OpenRemoteCamera> open = OpenRemoteCameras::open(
-            "USB3 Vision " + *m_texts.id, [id = *m_texts.id, link = m_options.open] { return link(id); },
+            "USB3 Vision " + *m_texts.id,
+            [id = *m_texts.id, link = m_options.open](const IsWanted &isWanted, const IsFetching &) {
+                return link(id, isWanted);
+            },
             m_options.patience);
         return std::make_unique<RemoteConnection>(std::move(open));
     }
@@ -59,19 +62,9 @@ private:
 UsbInterface::UsbInterface(Options options)
     : m_texts{"USB3", "USB ports", "1.0.0"}
     , m_options(std::move(options))
+    , m_discovery(m_options.list, m_options.period)
     , m_port({}, [this] { return std::vector<DeviceNumbers>(devices()->size()); })
-    , m_thread([this] { run(); })
 {
-}
-
-UsbInterface::~UsbInterface()
-{
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_isEnding = true;
-    }
-    m_changed.notify_all();
-    m_thread.join();
 }
 
 std::shared_ptr<GenApi::INodeMap> UsbInterface::makeNodeMap()
@@ -85,7 +78,7 @@ std::optional<BackendInterface::Devices> UsbInterface::devices() const
 {
     Devices devices;
     const std::lock_guard<std::mutex> lock(m_mutex);
-    for (const UsbCamera &camera : m_found) {
+    for (const UsbCamera &camera : m_discovery.found().cameras) {
         std::weak_ptr<Device> &weak = m_devices[camera.id];
         std::shared_ptr<Device> device = weak.lock();
         if (!device) {
@@ -99,28 +92,12 @@ std::optional<BackendInterface::Devices> UsbInterface::devices() const
 
 OrvCamErr UsbInterface::reEnumerate(bool &changed, std::uint32_t)
 {
+    m_discovery.lookNow();
     Devices seen = *devices();
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        changed = seen != m_lastSeen;
-        m_lastSeen = std::move(seen);
-        m_isHurried = true;
-    }
-    m_changed.notify_all();
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    changed = seen != m_lastSeen;
+    m_lastSeen = std::move(seen);
     return OrvCamErr_Ok;
-}
-
-void UsbInterface::run()
-{
-    std::unique_lock<std::mutex> lock(m_mutex);
-    while (!m_isEnding) {
-        m_isHurried = false;
-        lock.unlock();
-        std::vector<UsbCamera> found = m_options.list();
-        lock.lock();
-        m_found = std::move(found);
-        m_changed.wait_for(lock, m_options.period, [this] { return m_isEnding || m_isHurried; });
-    }
 }
 
 } // namespace OrvCameraApi

@@ -3,41 +3,33 @@
 #include "backend.h"
 #include "interfaceport.h"
 #include "remotecamera.h"
+#include "usbdiscovery.h"
 
-#include <condition_variable>
+#include <chrono>
 #include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
 #include <string>
-#include <thread>
-#include <vector>
 
 namespace OrvCameraApi {
 
-/** A USB3 Vision camera that is plugged in. The texts are UTF-8. */
-struct UsbCamera
-{
-    std::string id; ///< for opening it
-    std::string vendor;
-    std::string model;
-    std::string serialNumber;
-};
-
-/** The USB ports of this host with the USB3 Vision cameras on them, looked for by a thread of its own. */
+/** The USB ports of this host with the USB3 Vision cameras that its discovery has found. */
 class UsbInterface final : public BackendInterface
 {
 public:
+    /** Opens the camera with that identifier. Throws LinkError. */
+    using OpenLink = std::function<std::unique_ptr<CameraLink>(const std::string &id, const IsWanted &isWanted)>;
+
     struct Options
     {
-        std::function<std::vector<UsbCamera>()> list; ///< may take a moment
-        std::function<std::unique_ptr<CameraLink>(const std::string &id)> open; ///< throws LinkError
+        UsbDiscovery::List list;
+        OpenLink open;
         RemoteCamera::Patience patience;
         std::chrono::milliseconds period{1000};
     };
 
     explicit UsbInterface(Options options);
-    ~UsbInterface() override;
 
     const InterfaceTexts &texts() const override { return m_texts; }
     std::int32_t type() const override { return OrvCam::InterfaceTypeUsb3Vision; }
@@ -48,24 +40,23 @@ public:
     /** Does not wait: devices that are found later are in later lists. */
     OrvCamErr reEnumerate(bool &changed, std::uint32_t timeout) override;
 
+    /** Why a camera may be missing and what can be done, for people; or empty. */
+    std::string problem() const { return m_discovery.found().problem; }
+
+    /** From now on nobody looks for cameras. */
+    void retire() { m_discovery.retire(); }
+
 private:
     class Device;
 
-    void run();
-
     const InterfaceTexts m_texts;
     const Options m_options;
+    UsbDiscovery m_discovery;
     InterfacePort m_port;
 
     mutable std::mutex m_mutex;
-    std::condition_variable m_changed;
-    std::vector<UsbCamera> m_found;
     mutable std::map<std::string, std::weak_ptr<Device>> m_devices; ///< by identifier
     Devices m_lastSeen; ///< in the last enumeration
-    bool m_isHurried = false;
-    bool m_isEnding = false;
-
-    std::thread m_thread; ///< the last, because it uses the others
 };
 
 } // namespace OrvCameraApi
