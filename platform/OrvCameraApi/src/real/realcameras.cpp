@@ -36,6 +36,26 @@ std::vector<std::uint32_t> addressesIn(const std::vector<std::string> &texts)
     return addresses;
 }
 
+std::string refusalOn(const std::string &adapter, const std::string &reason)
+{
+    return "Cameras on " + adapter + " cannot be asked: " + reason + ". A firewall may forbid UDP to port "
+        + std::to_string(Gvcp::port) + '.';
+}
+
+/** The sentence for \a adapters on which nobody has answered, if there are any. */
+std::string silenceOn(const std::vector<std::string> &adapters)
+{
+    constexpr std::size_t most = 4; // that are named
+    if (adapters.empty())
+        return {};
+    std::string text = "No camera has answered on " + adapters.front();
+    for (std::size_t i = 1; i < std::min(adapters.size(), most); ++i)
+        text.append(", ").append(adapters[i]);
+    text += adapters.size() > most ? " and others" : "";
+    text += ". If one is connected, a firewall may drop its answers, which come from UDP port ";
+    return text + std::to_string(Gvcp::port) + '.';
+}
+
 /** Keeps interfaces only as long as others do, so that nothing is looked for when no system exists. */
 class RealCameras final : public Backend
 {
@@ -172,8 +192,6 @@ std::vector<std::string> RealCameras::mistakes() const
 
 std::vector<std::string> RealCameras::problems() const
 {
-    constexpr std::size_t named = 4; // of the silent adapters
-    const std::string port = std::to_string(Gvcp::port);
     std::vector<std::string> silent;
     bool isAnyDevice = false;
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -188,22 +206,15 @@ std::vector<std::string> RealCameras::problems() const
         const GigeDiscovery &discovery = *interface->discovery();
         const std::string where = discovery.adapter().name + " (" + dotted(discovery.adapter().address) + ')';
         if (const std::string refusal = discovery.refusal(); !refusal.empty())
-            problems.push_back("Cameras on " + where + " cannot be asked: " + refusal
-                               + ". A firewall may forbid UDP to port " + port + '.');
+            problems.push_back(refusalOn(where, refusal));
         if (discovery.isSilent())
             silent.push_back(where);
         isAnyDevice |= !discovery.devices().empty();
         for (std::string &taken : interface->takenDevices())
             problems.push_back(std::move(taken));
     }
-    if (!silent.empty() && !isAnyDevice) { // one that is connected elsewhere is no problem of the other adapters
-        std::string text = "No camera has answered on " + silent.front();
-        for (std::size_t i = 1; i < std::min(silent.size(), named); ++i)
-            text += ", " + silent[i];
-        text += silent.size() > named ? " and others" : "";
-        problems.push_back(text + ". If one is connected, a firewall may drop its answers, which come from UDP port "
-                           + port + '.');
-    }
+    if (!isAnyDevice) // one that is connected elsewhere is no problem of the other adapters
+        problems.push_back(silenceOn(silent));
     problems.push_back(usb->problem());
     problems.erase(std::remove(problems.begin(), problems.end(), std::string()), problems.end());
     return problems;
