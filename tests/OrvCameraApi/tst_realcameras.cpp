@@ -382,7 +382,8 @@ void TestRealCameras::useCameras(bool areKilled)
     };
     QTRY_VERIFY(areAll(Step::Connected));
     QVERIFY(areEdited(1));
-    cameras.front().reset(); // its link is no other program
+    cameras.front().reset(); // its link is no other program, nor is one that is given up
+    OpenCamera(findCamera(*system, addresses.front()));
     cameras.front() = std::make_unique<ShownCamera>(findCamera(*system, addresses.front()));
     QTRY_VERIFY(areAll(Step::Connected));
     QVERIFY(areEdited(2));

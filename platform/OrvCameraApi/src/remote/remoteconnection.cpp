@@ -1,17 +1,30 @@
 #include "remoteconnection.h"
 
+#include <algorithm>
 #include <map>
 #include <mutex>
 #include <thread>
+#include <vector>
 
 namespace OrvCameraApi {
 
 namespace {
 
+using Ending = std::shared_ptr<const std::atomic<bool>>;
+
 struct Slot
 {
     std::weak_ptr<OpenRemoteCamera> camera;
-    std::shared_ptr<const std::atomic<bool>> hasEnded; ///< of the last camera
+    std::vector<Ending> endings; ///< of the links until now: one that is given up early ends before those before it
+
+    /** Whether nobody needs it any more. */
+    bool isOver()
+    {
+        endings.erase(
+            std::remove_if(endings.begin(), endings.end(), [](const Ending &ending) { return ending->load(); }),
+            endings.end());
+        return endings.empty() && camera.expired();
+    }
 };
 
 struct Slots
@@ -48,21 +61,24 @@ std::shared_ptr<OpenRemoteCamera> OpenRemoteCameras::open(const std::string &key
                                                           const RemoteCamera::Patience &patience)
 {
     const std::lock_guard<std::mutex> lock(slots().mutex);
-    Slot &slot = slots().byKey[key];
+    std::map<std::string, Slot> &byKey = slots().byKey;
+    for (auto former = byKey.begin(); former != byKey.end();)
+        former = former->second.isOver() ? byKey.erase(former) : std::next(former);
+    Slot &slot = byKey[key];
     std::shared_ptr<OpenRemoteCamera> camera = slot.camera.lock();
     if (camera) {
         camera->camera().setOpen(open); // may know the camera at another address by now
     } else {
-        const auto openAfterwards = [open, former = slot.hasEnded](const IsWanted &isWanted,
+        const auto openAfterwards = [open, endings = slot.endings](const IsWanted &isWanted,
                                                                    const IsFetching &isFetching) {
-            if (former)
-                waitFor(*former, isWanted);
+            for (const Ending &ending : endings)
+                waitFor(*ending, isWanted);
             requireWanted(isWanted);
             return open(isWanted, isFetching);
         };
         camera = std::make_shared<OpenRemoteCamera>(openAfterwards, patience);
         slot.camera = camera;
-        slot.hasEnded = camera->camera().hasEnded();
+        slot.endings.push_back(camera->camera().hasEnded());
     }
     return camera;
 }
