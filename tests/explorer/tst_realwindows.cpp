@@ -126,8 +126,7 @@ private Q_SLOTS:
         auto *const enable = window.findChild<QAbstractButton *>(QStringLiteral("chBoxEnable"));
         QVERIFY(enable);
         QTRY_VERIFY(enable->isEnabled());
-        OrvGenParam::Enum *const mode =
-            window.device()->GetCameraParameters(nullptr)->GetEnum("TriggerMode", nullptr);
+        OrvGenParam::Enum *const mode = window.device()->GetCameraParameters(nullptr)->GetEnum("TriggerMode", nullptr);
         QVERIFY(mode && !enable->isChecked());
         enable->click();
         QCOMPARE(mode->GetValue(nullptr), std::int64_t(1));
