@@ -32,7 +32,8 @@ void Changes::addRead(Node &node)
 {
     // A fresh walk each time: an earlier part of the same write may have read, and so kept, what changes now.
     const uint64_t mark = ++m_map.m_walk;
-    std::vector<Node *> open{&node};
+    std::vector<Node *> &open = m_map.m_open;
+    open.assign(1, &node);
     node.m_changeMark = mark;
     while (!open.empty()) {
         Node *const next = open.back();
@@ -47,6 +48,8 @@ void Changes::addRead(Node &node)
         next->m_accessKnown = staysKnown;
         if (next->m_changeList != m_list) {
             next->m_changeList = m_list;
+            if (m_nodes.capacity() == 0)
+                m_nodes.reserve(8); // enough for most
             m_nodes.push_back(next);
         }
         for (Node *dependent : next->m_dependents) {

@@ -57,7 +57,8 @@ public:
     void noteChecked(const Node &next, int64_t value) { m_checked = {&next, value}; }
     bool isChecked(const Node &node, int64_t value) const { return m_checked == std::pair(&node, value); }
 
-    const std::vector<Node *> &nodes() const { return m_nodes; }
+    /** The nodes that have changed; none is left here. */
+    std::vector<Node *> takeNodes() { return std::move(m_nodes); }
     uint64_t list() const { return m_list; }
     bool contains(const Node &node) const;
 

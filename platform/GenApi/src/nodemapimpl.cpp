@@ -7,6 +7,7 @@
 #include <pugixml.hpp>
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 
 namespace OrvGenApi {
@@ -100,7 +101,7 @@ void NodeMapImpl::Poll(int64_t ElapsedTime)
             each.node->dropCache();
             changes.add(*each.node);
         }
-        changed = changes.nodes();
+        changed = changes.takeNodes();
         fire(changed, cbPostInsideLock, failure);
     }
     fire(changed, cbPostOutsideLock, failure);
@@ -139,7 +140,7 @@ bool NodeMapImpl::connect(IPort *port, const std::string &portName)
             each->dropCache();
         Changes changes(*this);
         changes.add(*node);
-        changed = changes.nodes();
+        changed = changes.takeNodes();
         fire(changed, cbPostInsideLock, failure);
     }
     fire(changed, cbPostOutsideLock, failure);
@@ -242,28 +243,65 @@ bool NodeMapImpl::add(std::unique_ptr<Node> node)
     return true;
 }
 
+namespace {
+
+/** A change calls few callbacks as a rule: those need no memory from the heap. */
+class CallList
+{
+public:
+    using Call = std::pair<Node *, CNodeCallback *>;
+
+    void add(const Call &call)
+    {
+        if (m_count < m_few.size())
+            m_few[m_count] = call;
+        else
+            m_more.push_back(call);
+        ++m_count;
+    }
+    bool isEmpty() const { return m_count == 0; }
+    std::size_t size() const { return m_count; }
+    const Call &at(std::size_t i) const { return i < m_few.size() ? m_few[i] : m_more[i - m_few.size()]; }
+
+private:
+    std::array<Call, 8> m_few;
+    std::vector<Call> m_more;
+    std::size_t m_count = 0;
+};
+
+} // namespace
+
 /**
- * The callbacks are listed under the lock and called from the list, as one may register or deregister others. Each is
- * looked for once more before its turn, and those taken out meanwhile are destroyed by the last run that ends.
+ * The callbacks are listed under the lock and called from the list, as one may register or deregister others. Once any
+ * has been deregistered, each is looked for again before its turn. Those taken out meanwhile are destroyed by the last
+ * run that ends. Inside the lock, the caller holds it.
  */
 void NodeMapImpl::fire(const std::vector<Node *> &nodes, ECallbackType moment, std::exception_ptr &failure)
 {
-    std::vector<std::pair<Node *, CNodeCallback *>> calls;
+    const auto lockIfOutside = [this, moment](std::optional<MapLock> &lock) {
+        if (moment == cbPostOutsideLock)
+            lock.emplace(*this);
+    };
+    CallList calls;
+    uint64_t removals = 0;
     {
-        const MapLock lock(*this);
+        std::optional<MapLock> lock;
+        lockIfOutside(lock);
         if (m_suppressMode != csmOff) {
             if (m_suppressMode == csmOnce && moment == cbPostOutsideLock)
                 m_suppressMode = csmOff;
             return;
         }
         for (Node *node : nodes)
-            node->m_callbacks.forEach([&](CNodeCallback *callback) { calls.emplace_back(node, callback); });
-        if (calls.empty())
+            node->m_callbacks.forEach([&](CNodeCallback *callback) { calls.add({node, callback}); });
+        if (calls.isEmpty())
             return;
+        removals = m_removals;
         ++m_firing;
     }
-    for (const auto &[node, callback] : calls) {
-        {
+    for (std::size_t i = 0; i < calls.size(); ++i) {
+        const auto [node, callback] = calls.at(i);
+        if (m_removals != removals) {
             const MapLock lock(*this);
             if (!node->m_callbacks.contains(callback))
                 continue;
@@ -277,7 +315,8 @@ void NodeMapImpl::fire(const std::vector<Node *> &nodes, ECallbackType moment, s
     }
     std::vector<CNodeCallback *> removed;
     {
-        const MapLock lock(*this);
+        std::optional<MapLock> lock;
+        lockIfOutside(lock);
         if (--m_firing == 0)
             removed.swap(m_removedCallbacks);
     }
@@ -290,6 +329,7 @@ bool NodeMapImpl::removeCallback(Node &node, CNodeCallback *callback)
     if (!callback || !node.m_callbacks.remove(callback))
         return false;
     --m_callbacks;
+    ++m_removals;
     // The callback may be the one that is running: then it is destroyed when it has returned.
     if (m_firing > 0)
         m_removedCallbacks.push_back(callback);

@@ -6,10 +6,12 @@
 #include <GenApi/IDeviceInfo.h>
 #include <OrvGenApi/nodemap.h>
 
+#include <atomic>
 #include <exception>
 #include <mutex>
 #include <optional>
 #include <unordered_map>
+#include <vector>
 
 namespace OrvGenApi {
 
@@ -164,6 +166,7 @@ public:
     std::optional<Faults> m_faults;
     std::vector<Polled> m_polled;
     uint64_t m_walk = 0; ///< counts the walks over dependents
+    std::vector<Node *> m_open; ///< room for a walk of Changes, of no meaning between two
     unsigned m_depth = 0; ///< nodes that are asking others
     bool m_verifying = false; ///< values that are read have to be within their limits
     bool m_renewing = false; ///< reads past the caches keep what they read
@@ -185,6 +188,7 @@ private:
     uint64_t m_evaluation = 0;
     std::size_t m_callbacks = 0; ///< that are registered
     unsigned m_firing = 0; ///< runs of fire() that have not ended
+    std::atomic<uint64_t> m_removals{0}; ///< of callbacks, so far
     std::vector<GenApi::CNodeCallback *> m_removedCallbacks; ///< to be destroyed when none is running
 };
 
@@ -323,7 +327,7 @@ void Node::change(const char *operation, const Write &write)
         m_map.startEvaluation();
         if (failure && !changes.portHasFailed())
             std::rethrow_exception(failure);
-        changed = changes.nodes();
+        changed = changes.takeNodes();
         m_map.fire(changed, GenApi::cbPostInsideLock, failure);
     }
     m_map.fire(changed, GenApi::cbPostOutsideLock, failure);
