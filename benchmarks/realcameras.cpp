@@ -3,6 +3,7 @@
 
 #include <fakecamera.h>
 #include <gigeserver.h>
+#include <held.h>
 
 #include <OrvCameraApi/transports.h>
 #include <OrvCameraGuiApi/camera_api/orvgenparam.h>
@@ -23,6 +24,7 @@
 
 using OrvTest::FakeCamera;
 using OrvTest::GigeServer;
+using OrvTest::Held;
 
 namespace {
 
@@ -30,17 +32,6 @@ constexpr std::uint32_t fakeAddress = 0x7F000001;
 constexpr int repetitions = 21;
 constexpr int features = 1000;
 constexpr int packetLength = 536; ///< the most bytes of memory in a packet
-
-struct Releaser
-{
-    template <typename Object>
-    void operator()(Object *object) const
-    {
-        object->Release();
-    }
-};
-template <typename Object>
-using Held = std::unique_ptr<Object, Releaser>;
 
 template <typename Condition>
 void waitUntil(Condition &&condition)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <held.h>
+
 #include <OrvCameraApi/simulation.h>
 #include <OrvCameraGuiApi/camera_api/orvcam.h>
 #include <OrvCameraGuiApi/camera_api/orvgenparam.h>
@@ -16,18 +18,7 @@ namespace SimTest {
 
 using namespace std::chrono_literals;
 
-struct Releaser
-{
-    template <typename Object>
-    void operator()(Object *object) const
-    {
-        object->Release();
-    }
-};
-
-/** Releases an object of the camera access library at the end of the scope. */
-template <typename Object>
-using Held = std::unique_ptr<Object, Releaser>;
+using OrvTest::Held;
 
 constexpr const char *twoFrame = "ORV-GIGE-0001";
 constexpr const char *stray = "ORV-GIGE-0002";

@@ -36,7 +36,7 @@ private:
  */
 using IsWanted = std::function<bool()>;
 
-/** Called by who opens a link when the camera has answered and its description is fetched. */
+/** Called while a camera is opened, once it has answered: what follows is fetching its description. */
 using IsFetching = std::function<void()>;
 
 /** Throws LinkError if nobody waits. */

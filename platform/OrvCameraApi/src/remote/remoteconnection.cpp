@@ -66,16 +66,18 @@ std::shared_ptr<OpenRemoteCamera> OpenRemoteCameras::open(const std::string &key
         former = former->second.isOver() ? byKey.erase(former) : std::next(former);
     Slot &slot = byKey[key];
     std::shared_ptr<OpenRemoteCamera> camera = slot.camera.lock();
+    std::vector<Ending> formers = slot.endings;
+    if (camera)
+        formers.erase(std::remove(formers.begin(), formers.end(), camera->camera().hasEnded()), formers.end());
+    const auto openAfterwards = [open, formers](const IsWanted &isWanted, const IsFetching &isFetching) {
+        for (const Ending &former : formers)
+            waitFor(*former, isWanted);
+        requireWanted(isWanted);
+        return open(isWanted, isFetching);
+    };
     if (camera) {
-        camera->camera().setOpen(open); // may know the camera at another address by now
+        camera->camera().setOpen(openAfterwards); // may know the camera at another address by now
     } else {
-        const auto openAfterwards = [open, endings = slot.endings](const IsWanted &isWanted,
-                                                                   const IsFetching &isFetching) {
-            for (const Ending &ending : endings)
-                waitFor(*ending, isWanted);
-            requireWanted(isWanted);
-            return open(isWanted, isFetching);
-        };
         camera = std::make_shared<OpenRemoteCamera>(openAfterwards, patience);
         slot.camera = camera;
         slot.endings.push_back(camera->camera().hasEnded());
