@@ -16,6 +16,7 @@ set(ORV_PUBLIC_HEADERS
     export.h
     feature_tree/creategenparamtreeview.h
     feature_tree/iorvgenparamtreeview.h
+    feature_tree/orvfeaturetreetools.h
     feature_tree/orvgenparamtreeview.h
     widgets/int64validator.h
     widgets/qtorvdoubleslider.h

@@ -2,6 +2,41 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>AccessReason</name>
+    <message>
+        <source>not implemented by the camera</source>
+        <translation>in der Kamera nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>not implemented, says %1</source>
+        <translation>laut %1 nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>not available now</source>
+        <translation>zurzeit nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>not available now because of %1</source>
+        <translation>zurzeit wegen %1 nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>locked by %1</source>
+        <translation>von %1 gesperrt</translation>
+    </message>
+    <message>
+        <source>the acquisition is running (%1)</source>
+        <translation>die Aufnahme läuft (%1)</translation>
+    </message>
+    <message>
+        <source>the camera lets it be read only</source>
+        <translation>die Kamera lässt es nur lesen</translation>
+    </message>
+    <message>
+        <source>&lt;i&gt;Not writable:&lt;/i&gt; %1</source>
+        <translation>&lt;i&gt;Nicht änderbar:&lt;/i&gt; %1</translation>
+    </message>
+</context>
+<context>
     <name>DeviceTreeModel</name>
     <message>
         <source>Name</source>
@@ -13,6 +48,49 @@
     <message>
         <source>Enter a number from %1 to %2.</source>
         <translation>Geben Sie eine Zahl von %1 bis %2 ein.</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureMenu</name>
+    <message>
+        <source>Copy &amp;GenICam Name</source>
+        <translation>&amp;GenICam-Namen kopieren</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Value</source>
+        <translation>&amp;Wert kopieren</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Row</source>
+        <translation>&amp;Zeile kopieren</translation>
+    </message>
+    <message>
+        <source>Read &amp;Again</source>
+        <translation>&amp;Neu lesen</translation>
+    </message>
+    <message>
+        <source>&amp;Execute</source>
+        <translation>&amp;Ausführen</translation>
+    </message>
+    <message>
+        <source>&amp;Favorite</source>
+        <translation>&amp;Favorit</translation>
+    </message>
+    <message>
+        <source>Go to &amp;Selector</source>
+        <translation>Zum &amp;Selektor</translation>
+    </message>
+    <message>
+        <source>Show &amp;Only This Category</source>
+        <translation>Nur diese &amp;Kategorie zeigen</translation>
+    </message>
+    <message>
+        <source>Show A&amp;ll Categories</source>
+        <translation>A&amp;lle Kategorien zeigen</translation>
+    </message>
+    <message>
+        <source>Go to Selecte&amp;d Feature</source>
+        <translation>Zu&amp;m ausgewählten Merkmal</translation>
     </message>
 </context>
 <context>
@@ -1468,6 +1546,33 @@ Press OK to skip the IP Configuration, or press Ignore to confirm</source>
     <message>
         <source>Can&apos;t set IP address</source>
         <translation>Die IP-Adresse kann nicht gesetzt werden</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvFeatureTreeTools</name>
+    <message>
+        <source>There is no feature &apos;%1&apos;.</source>
+        <translation>Es gibt kein Merkmal „%1“.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not meant to be shown.</source>
+        <translation>„%1“ ist nicht zum Anzeigen gedacht.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is shown at the level %2.</source>
+        <translation>„%1“ wird auf der Stufe %2 gezeigt.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is hidden by the filter.</source>
+        <translation>„%1“ ist vom Filter verdeckt.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not shown.</source>
+        <translation>„%1“ wird nicht gezeigt.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not shown: %2.</source>
+        <translation>„%1“ wird nicht gezeigt: %2.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,41 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>AccessReason</name>
+    <message>
+        <source>not implemented by the camera</source>
+        <translation>カメラに実装されていません</translation>
+    </message>
+    <message>
+        <source>not implemented, says %1</source>
+        <translation>%1 により実装されていません</translation>
+    </message>
+    <message>
+        <source>not available now</source>
+        <translation>現在は使用できません</translation>
+    </message>
+    <message>
+        <source>not available now because of %1</source>
+        <translation>%1 のため現在は使用できません</translation>
+    </message>
+    <message>
+        <source>locked by %1</source>
+        <translation>%1 によりロックされています</translation>
+    </message>
+    <message>
+        <source>the acquisition is running (%1)</source>
+        <translation>画像取得中です (%1)</translation>
+    </message>
+    <message>
+        <source>the camera lets it be read only</source>
+        <translation>カメラでは読み取り専用です</translation>
+    </message>
+    <message>
+        <source>&lt;i&gt;Not writable:&lt;/i&gt; %1</source>
+        <translation>&lt;i&gt;書き込み不可:&lt;/i&gt; %1</translation>
+    </message>
+</context>
+<context>
     <name>DeviceTreeModel</name>
     <message>
         <source>Name</source>
@@ -13,6 +48,49 @@
     <message>
         <source>Enter a number from %1 to %2.</source>
         <translation>%1 から %2 までの数値を入力してください。</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureMenu</name>
+    <message>
+        <source>Copy &amp;GenICam Name</source>
+        <translation>GenICam 名をコピー(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Value</source>
+        <translation>値をコピー(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Row</source>
+        <translation>行をコピー(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Read &amp;Again</source>
+        <translation>再読み込み(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Execute</source>
+        <translation>実行(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Favorite</source>
+        <translation>お気に入り(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Go to &amp;Selector</source>
+        <translation>セレクターへ移動(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Show &amp;Only This Category</source>
+        <translation>このカテゴリーのみ表示(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Show A&amp;ll Categories</source>
+        <translation>すべてのカテゴリーを表示(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Go to Selecte&amp;d Feature</source>
+        <translation>選択対象の機能へ移動(&amp;D)</translation>
     </message>
 </context>
 <context>
@@ -1468,6 +1546,33 @@ Press OK to skip the IP Configuration, or press Ignore to confirm</source>
     <message>
         <source>Can&apos;t set IP address</source>
         <translation>IP アドレスを設定できません</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvFeatureTreeTools</name>
+    <message>
+        <source>There is no feature &apos;%1&apos;.</source>
+        <translation>機能「%1」はありません。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not meant to be shown.</source>
+        <translation>「%1」は表示対象ではありません。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is shown at the level %2.</source>
+        <translation>「%1」はレベル %2 で表示されます。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is hidden by the filter.</source>
+        <translation>「%1」は絞り込みにより非表示です。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not shown.</source>
+        <translation>「%1」は表示されていません。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not shown: %2.</source>
+        <translation>「%1」は表示されていません: %2。</translation>
     </message>
 </context>
 <context>

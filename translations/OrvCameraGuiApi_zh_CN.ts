@@ -2,6 +2,41 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>AccessReason</name>
+    <message>
+        <source>not implemented by the camera</source>
+        <translation>相机未实现</translation>
+    </message>
+    <message>
+        <source>not implemented, says %1</source>
+        <translation>根据 %1 未实现</translation>
+    </message>
+    <message>
+        <source>not available now</source>
+        <translation>当前不可用</translation>
+    </message>
+    <message>
+        <source>not available now because of %1</source>
+        <translation>由于 %1，当前不可用</translation>
+    </message>
+    <message>
+        <source>locked by %1</source>
+        <translation>被 %1 锁定</translation>
+    </message>
+    <message>
+        <source>the acquisition is running (%1)</source>
+        <translation>正在采集 (%1)</translation>
+    </message>
+    <message>
+        <source>the camera lets it be read only</source>
+        <translation>相机只允许读取</translation>
+    </message>
+    <message>
+        <source>&lt;i&gt;Not writable:&lt;/i&gt; %1</source>
+        <translation>&lt;i&gt;不可写：&lt;/i&gt; %1</translation>
+    </message>
+</context>
+<context>
     <name>DeviceTreeModel</name>
     <message>
         <source>Name</source>
@@ -13,6 +48,49 @@
     <message>
         <source>Enter a number from %1 to %2.</source>
         <translation>请输入 %1 到 %2 之间的数值。</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureMenu</name>
+    <message>
+        <source>Copy &amp;GenICam Name</source>
+        <translation>复制 GenICam 名称(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Value</source>
+        <translation>复制值(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Row</source>
+        <translation>复制行(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Read &amp;Again</source>
+        <translation>重新读取(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Execute</source>
+        <translation>执行(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Favorite</source>
+        <translation>收藏(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Go to &amp;Selector</source>
+        <translation>转到选择器(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Show &amp;Only This Category</source>
+        <translation>仅显示此类别(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Show A&amp;ll Categories</source>
+        <translation>显示所有类别(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Go to Selecte&amp;d Feature</source>
+        <translation>转到所选特性(&amp;D)</translation>
     </message>
 </context>
 <context>
@@ -1468,6 +1546,33 @@ Press OK to skip the IP Configuration, or press Ignore to confirm</source>
     <message>
         <source>Can&apos;t set IP address</source>
         <translation>无法设置 IP 地址</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvFeatureTreeTools</name>
+    <message>
+        <source>There is no feature &apos;%1&apos;.</source>
+        <translation>没有特性“%1”。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not meant to be shown.</source>
+        <translation>“%1”不用于显示。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is shown at the level %2.</source>
+        <translation>“%1”在级别 %2 中显示。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is hidden by the filter.</source>
+        <translation>“%1”被筛选隐藏。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not shown.</source>
+        <translation>“%1”未显示。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not shown: %2.</source>
+        <translation>“%1”未显示：%2。</translation>
     </message>
 </context>
 <context>

@@ -12,6 +12,8 @@
 #include <QPointer>
 #include <QScopedValueRollback>
 
+#include <vector>
+
 namespace {
 
 QPair<quintptr, int> identityOf(const QModelIndex &index)
@@ -90,10 +92,11 @@ void FeatureTree::setModel(QAbstractItemModel *model)
     if (former == plain)
         return;
     OpenCalls::retire(former);
-    if (!model)
-        return;
-    setSelectionModel(new FeatureSelection(model, this));
-    delete plain;
+    if (model) {
+        setSelectionModel(new FeatureSelection(model, this));
+        delete plain;
+    }
+    Q_EMIT modelReplaced();
 }
 
 FeatureSelection *FeatureTree::featureSelection() const
@@ -225,6 +228,27 @@ void FeatureTree::moveCurrentTo(const QModelIndex &index)
 {
     const QScopedValueRollback<bool> quiet(m_opensNothing, true);
     setCurrentIndex(index);
+}
+
+/** From the outermost category inwards, as the view can only open what it shows; slots may change rows each time. */
+bool FeatureTree::jumpTo(const QModelIndex &index)
+{
+    const OpenCalls::Call call;
+    const QPersistentModelIndex target(index);
+    std::vector<QPersistentModelIndex> above;
+    for (QModelIndex category = index.parent(); category.isValid(); category = category.parent())
+        above.emplace_back(category);
+    for (auto category = above.rbegin(); category != above.rend(); ++category) {
+        if (category->isValid() && category->model() == model())
+            expand(*category);
+    }
+    if (!target.isValid() || target.model() != model())
+        return false;
+    moveCurrentTo(target);
+    if (!target.isValid() || target.model() != model())
+        return false;
+    scrollTo(target);
+    return currentIndex() == target;
 }
 
 void FeatureTree::setReadOnly(bool readOnly)

@@ -6,6 +6,8 @@
 #include <QTreeView>
 #include <QVector>
 
+#include <optional>
+
 class FeatureSelection;
 
 /**
@@ -54,15 +56,30 @@ public:
     /** Null without a model, and when the selection model is another one. */
     FeatureSelection *featureSelection() const;
 
+    /** What is saved of the expansion while only a part of the features is shown, if anything: see TreeState. @{ */
+    const std::optional<QByteArray> &keptExpansion() const { return m_keptExpansion; }
+    void keepExpansion(const std::optional<QByteArray> &expansion) { m_keptExpansion = expansion; }
+    /** @} */
+
     /** Whether no editor opens and no key changes a value. Editors that are open close unwritten. Off by default. */
     bool isReadOnly() const { return m_isReadOnly; }
     void setReadOnly(bool readOnly);
 
     using QTreeView::edit;
 
+    /** Opens the categories that \a index stands in, and moves there as moveCurrentTo(). False if the row has gone. */
+    bool jumpTo(const QModelIndex &index);
+
     void keyboardSearch(const QString &search) override;
     void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                      const QVector<int> &roles = QVector<int>()) override;
+
+Q_SIGNALS:
+    /** Another model, or none, has been set; selection model and header have followed. */
+    void modelReplaced();
+
+    /** What the model says about the current row has changed beside its value. */
+    void helpOutdated();
 
 protected:
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
@@ -90,6 +107,7 @@ private:
      */
     QHash<QPair<quintptr, int>, int> m_rowsOnScreen;
     QElapsedTimer m_sinceSearch; ///< since the last key of a search by typing
+    std::optional<QByteArray> m_keptExpansion;
     bool m_isReadOnly = false;
     bool m_opensNothing = false; ///< while the current item moves without the user
 };

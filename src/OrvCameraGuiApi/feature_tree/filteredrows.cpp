@@ -91,8 +91,11 @@ FilteredRows::Branch *FilteredRows::addBranch(const QModelIndex &source, Branch 
     branch->source = source;
     branch->parent = parent;
     // Asking nodes may end in asking for this branch.
-    if (parent)
-        parent->sourceRows[size_t(source.row())].below = branch;
+    if (parent) {
+        SourceRow &row = parent->sourceRows[size_t(source.row())];
+        row.below = branch;
+        branch->category = row.node;
+    }
     read(*branch);
     return m_isAbandoned ? nullptr : branch;
 }
@@ -163,15 +166,15 @@ void FilteredRows::evaluate(Branch &branch, Rows &rows) const
 {
     rows.clear();
     for (size_t row = 0; row < branch.sourceRows.size() && !m_isAbandoned; ++row) {
-        if (accepts(branch.sourceRows[row]))
+        if (accepts(branch, branch.sourceRows[row]))
             rows.push_back(int(row));
     }
 }
 
 /** Nodes that have not been implemented are asked again each time: nothing reports that a port has been connected. */
-bool FilteredRows::accepts(SourceRow &row) const
+bool FilteredRows::accepts(const Branch &branch, SourceRow &row) const
 {
-    if (!m_rule->passes(row.node))
+    if (!m_rule->passes(row.node, branch.category))
         return false;
     if (row.isImplemented)
         return true;

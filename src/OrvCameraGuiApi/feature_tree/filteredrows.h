@@ -69,6 +69,7 @@ public:
         const Rows &rowsAt(Moment moment) const;
 
         QModelIndex source; ///< of the category, in this place; invalid for the root
+        GenApi::INode *category = nullptr; ///< its node, if it has one; null for the root
         Branch *parent = nullptr; ///< null for the root
         Branch *elsewhere = nullptr; ///< the next branch of the same category
         std::vector<SourceRow> sourceRows; ///< all of them
@@ -143,7 +144,10 @@ public:
     void noteReport(const Place &place);
 
     /** Whether the row at \a place passes the filter; may ask its node. */
-    bool accepts(const Place &place) const { return accepts(place.branch->sourceRows[size_t(place.sourceRow)]); }
+    bool accepts(const Place &place) const
+    {
+        return accepts(*place.branch, place.branch->sourceRows[size_t(place.sourceRow)]);
+    }
 
     /** The change that brings or removes the row at \a place. */
     static Change toggled(const Place &place);
@@ -163,7 +167,7 @@ private:
     void readSourceRows(Branch &branch) const;
     void findListedAgain(const Branch &branch);
     void evaluate(Branch &branch, Rows &rows) const;
-    bool accepts(SourceRow &row) const;
+    bool accepts(const Branch &branch, SourceRow &row) const;
     Branch *recentBranchWith(const QModelIndex &source);
     Branch *firstBranchWith(const QModelIndex &source);
     int firstRowOf(const Branch &branch, const QModelIndex &source) const;

@@ -3,14 +3,16 @@
 #include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
 #include <OrvCameraGuiApi/feature_tree/opencalls.h>
 
-bool FilterRule::accepts(GenApi::INode *node) const
+bool FilterRule::accepts(GenApi::INode *node, GenApi::INode *category) const
 {
     const OpenCalls::Call call;
-    return passes(node) && isImplemented(node).value_or(true);
+    return passes(node, category) && isImplemented(node).value_or(true);
 }
 
-bool FilterRule::passes(GenApi::INode *node) const
+bool FilterRule::passes(GenApi::INode *node, GenApi::INode *category) const
 {
+    if (!choice.accepts(node, category))
+        return false;
     if (!node)
         return true;
     bool isTooHigh = false;

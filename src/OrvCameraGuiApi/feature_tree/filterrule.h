@@ -1,5 +1,6 @@
 #pragma once
 
+#include <OrvCameraGuiApi/feature_tree/featurechoice.h>
 #include <OrvCameraGuiApi/feature_tree/wildcardmatcher.h>
 
 #include <GenApi/GenApi.h>
@@ -13,10 +14,13 @@ struct FilterRule
      * Whether \a node passes, which may be null. Whatever cannot be read of a node does not keep it from being shown.
      * The access mode, which may ask the device, is asked for last.
      */
-    bool accepts(GenApi::INode *node) const;
+    bool accepts(GenApi::INode *node, GenApi::INode *category) const;
 
-    /** Whether level and pattern let \a node pass, without asking for its access mode. The caller holds a Call. */
-    bool passes(GenApi::INode *node) const;
+    /**
+     * Whether level, pattern and choice let \a node pass in \a category, which is null at the top, without asking for
+     * its access mode. The caller holds a Call.
+     */
+    bool passes(GenApi::INode *node, GenApi::INode *category) const;
 
     /** Nothing if \a node cannot tell. The caller holds a Call. */
     static std::optional<bool> isImplemented(GenApi::INode *node);
@@ -25,6 +29,7 @@ struct FilterRule
     WildcardMatcher pattern; ///< for display names; an empty one lets every name pass
     bool wholeWords = false; ///< whether the pattern has to match the whole name
     bool matchesNodeNames = false; ///< whether a match of the GenICam name will do too
+    FeatureChoice choice; ///< all by default
 
 private:
     bool acceptsName(GenApi::INode &node) const;

@@ -1,5 +1,6 @@
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 
+#include <OrvCameraGuiApi/feature_tree/accessreason.h>
 #include <OrvCameraGuiApi/feature_tree/blockarena.h>
 #include <OrvCameraGuiApi/feature_tree/featurehandler.h>
 #include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
@@ -139,6 +140,7 @@ public:
     QString nameToolTip(const GenParamFeature &feature) const;
     QVariant valueData(const QModelIndex &index, int role);
     QVariant readValue(const GenParamFeature &feature, int role) const;
+    QString whatsThis(const GenParamFeature &feature) const;
     QVariant valueForeground(const GenParamFeature &feature, bool isRead) const;
     void recordError(const QModelIndex &index, const QString &message, int role);
 
@@ -146,6 +148,8 @@ public:
     GenApi::INodeMap *const nodeMap;
     bool addressesAreDeclared = false; ///< by the node map: names do not decide which integers are addresses
     const GenICam::gcstring currentAddressName = "GevCurrentIPAddress";
+    std::function<void(GenApi::IValue *, const QString &)> readObserver; ///< may be empty
+    bool tellsReasons = false;
     bool isReleased = false; ///< nothing may ask a node any more
     std::vector<GenApi::CallbackHandleType> callbacks;
     std::unique_ptr<Memory> memory{new Memory}; ///< null when they have been freed
@@ -449,7 +453,19 @@ QVariant GenParamTreeModelPrivate::readValue(const GenParamFeature &feature, int
         return GenParamTreeModel::tr("<Value not available>");
     if (handler.isRead() && !isReadable(mode))
         return GenParamTreeModel::tr("<Value not readable>");
-    return role == Qt::DisplayRole ? handler.text(feature) : handler.editValue(feature);
+    if (role != Qt::DisplayRole)
+        return handler.editValue(feature);
+    const QVariant text = handler.text(feature);
+    if (readObserver && !isReleased && handler.isRead())
+        readObserver(feature.value(), text.toString());
+    return text;
+}
+
+QString GenParamTreeModelPrivate::whatsThis(const GenParamFeature &feature) const
+{
+    const QString help = genParamWhatsThis(feature);
+    const QString reason = tellsReasons && feature.value() ? AccessReason(feature.value()).html() : QString();
+    return reason.isEmpty() ? help : QStringLiteral("%1<br />%2").arg(help, reason);
 }
 
 QVariant GenParamTreeModelPrivate::valueForeground(const GenParamFeature &feature, bool isRead) const
@@ -557,10 +573,37 @@ QVariant GenParamTreeModel::data(const QModelIndex &index, int role) const
     case ControlDataRole:
         return d->controlData(d->featureOf(index));
     case Qt::WhatsThisRole:
-        return genParamWhatsThis(d->featureOf(index));
+        return d->whatsThis(d->featureOf(index));
     default:
         return (d.data()->*ModelColumn::of(index).data)(index, role);
     }
+}
+
+QModelIndex GenParamTreeModel::indexOf(GenApi::IValue *feature) const
+{
+    if (d->isReleased || !feature)
+        return {};
+    const auto found = d->memory->entries.find(feature);
+    return found != d->memory->entries.end() ? createIndex(found->second.row, NameColumn, &*found) : QModelIndex();
+}
+
+QModelIndex GenParamTreeModel::indexOf(const QString &name) const
+{
+    if (d->isReleased || !d->nodeMap)
+        return {};
+    GenApi::IValue *feature = nullptr;
+    failureOf([&] { feature = dynamic_cast<GenApi::IValue *>(d->nodeMap->GetNode(name.toUtf8().constData())); });
+    return indexOf(feature);
+}
+
+void GenParamTreeModel::setReadObserver(std::function<void(GenApi::IValue *, const QString &)> observer)
+{
+    d->readObserver = std::move(observer);
+}
+
+void GenParamTreeModel::setTellsReasons(bool on)
+{
+    d->tellsReasons = on;
 }
 
 void GenParamTreeModel::clearError(const QModelIndex &index, int role)

@@ -9,6 +9,8 @@
 #include <QAbstractItemModel>
 #include <QScopedPointer>
 
+#include <functional>
+
 class GenParamTreeModelPrivate;
 
 Q_DECLARE_METATYPE(GenApi::IValue *)
@@ -76,6 +78,18 @@ public:
      * was written.
      */
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
+
+    /** Of the first occurrence of the feature; invalid if it is not in the tree. No registers are read. @{ */
+    QModelIndex indexOf(GenApi::IValue *feature) const;
+    QModelIndex indexOf(const QString &name) const;
+    /** @} */
+
+    /** \a observer is told each text of a value that is read to be shown. It does not call back; may be empty. */
+    void setReadObserver(std::function<void(GenApi::IValue *feature, const QString &text)> observer);
+
+    /** Whether the What's This texts tell why a feature cannot be written, with links to "feature:NAME". Off at first.
+     */
+    void setTellsReasons(bool on);
 
     /** Forgets that \a role of the feature at \a index failed, and emits errorDisappeared() if it did. */
     void clearError(const QModelIndex &index, int role);

@@ -316,11 +316,14 @@ bool GenParamTreeVisibilityFilterProxyModel::filterAcceptsRow(int sourceRow, con
     if (!d->source)
         return false;
     const QModelIndex index = d->source->index(sourceRow, GenParamTreeModel::NameColumn, sourceParent);
-    GenApi::INode *node = nullptr;
-    failureOf([&] {
-        node = nodeOf(d->source->data(index, GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>());
-    });
-    return d->rule.accepts(node);
+    const auto nodeAt = [this](const QModelIndex &at) {
+        GenApi::INode *node = nullptr;
+        failureOf([&] {
+            node = nodeOf(d->source->data(at, GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>());
+        });
+        return node;
+    };
+    return d->rule.accepts(nodeAt(index), sourceParent.isValid() ? nodeAt(sourceParent) : nullptr);
 }
 
 QModelIndex GenParamTreeVisibilityFilterProxyModel::survivorOf(const QModelIndex &index) const
@@ -466,6 +469,17 @@ void GenParamTreeVisibilityFilterProxyModel::setMatchesNodeNames(bool on)
 {
     d->rule.matchesNodeNames = on;
     d->refilter();
+}
+
+void GenParamTreeVisibilityFilterProxyModel::setChoice(const FeatureChoice &choice)
+{
+    d->rule.choice = choice;
+    d->refilter();
+}
+
+FeatureChoice GenParamTreeVisibilityFilterProxyModel::choice() const
+{
+    return d->rule.choice;
 }
 
 void GenParamTreeVisibilityFilterProxyModel::invalidate()

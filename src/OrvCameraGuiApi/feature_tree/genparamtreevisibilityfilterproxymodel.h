@@ -1,5 +1,7 @@
 #pragma once
 
+#include <OrvCameraGuiApi/feature_tree/featurechoice.h>
+
 #include <QScopedPointer>
 #include <QSortFilterProxyModel>
 
@@ -44,6 +46,9 @@ public:
     /** The first row of \a parent from \a row on that is a category, or -1. */
     int nextCategory(const QModelIndex &parent, int row) const;
 
+    /** See setChoice(). */
+    FeatureChoice choice() const;
+
     QModelIndex mapToSource(const QModelIndex &proxyIndex) const override;
     QModelIndex mapFromSource(const QModelIndex &sourceIndex) const override;
     QModelIndex index(int row, int column, const QModelIndex &parent = QModelIndex()) const override;
@@ -78,6 +83,9 @@ public Q_SLOTS:
 
     /** Whether a feature passes as well whose GenICam name matches the pattern; off by default. */
     void setMatchesNodeNames(bool on);
+
+    /** Which features pass at all; everything by default. */
+    void setChoice(const FeatureChoice &choice);
 
     /** Asks every row again. */
     void invalidate();

@@ -169,6 +169,7 @@ public:
     void connectProxy();
     void splitColumns();
     void currentChanged(const QModelIndex &index);
+    void showHelp(const QModelIndex &index);
     void tellCurrent(const QString &name);
     void moveCurrentFromGoing();
 
@@ -231,6 +232,7 @@ void OrvGenParamTreeViewPrivate::init(GenApi::INodeMap *map)
     initSplitter();
     initButtons();
     filterOptions = new FilterOptions(q);
+    QObject::connect(ui.treeView, &FeatureTree::helpOutdated, q, [this] { showHelp(ui.treeView->currentIndex()); });
     install(map);
     ui.treeView->setItemDelegate(new ReadableDelegate(q));
     ui.treeView->setItemDelegateForColumn(GenParamTreeModel::ValueColumn, new GenParamDelegate(q));
@@ -430,8 +432,13 @@ void OrvGenParamTreeViewPrivate::splitColumns()
 void OrvGenParamTreeViewPrivate::currentChanged(const QModelIndex &index)
 {
     const QString name = index.data(GenParamTreeModel::FeatureNameRole).toString();
-    ui.whatsThisLabel->setHtml(shortened(index.data(Qt::WhatsThisRole).toString()));
+    showHelp(index);
     tellCurrent(name);
+}
+
+void OrvGenParamTreeViewPrivate::showHelp(const QModelIndex &index)
+{
+    ui.whatsThisLabel->setHtml(shortened(index.data(Qt::WhatsThisRole).toString()));
 }
 
 void OrvGenParamTreeViewPrivate::tellCurrent(const QString &name)

@@ -1,6 +1,7 @@
 #include <OrvCameraGuiApi/feature_tree/treestate.h>
 
 #include <OrvCameraGuiApi/feature_tree/categorywalk.h>
+#include <OrvCameraGuiApi/feature_tree/featuretree.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 
 #include <QSplitter>
@@ -74,7 +75,7 @@ bool areSizes(const QByteArray &bytes)
 
 } // namespace
 
-QByteArray TreeState::save(const QTreeView &tree, int visibility, const QSplitter &splitter)
+QByteArray TreeState::saveExpansion(const QTreeView &tree)
 {
     QByteArray state;
     if (!tree.model())
@@ -85,6 +86,16 @@ QByteArray TreeState::save(const QTreeView &tree, int visibility, const QSplitte
             state += categoryMarker;
         }
     });
+    return state;
+}
+
+QByteArray TreeState::save(const QTreeView &tree, int visibility, const QSplitter &splitter)
+{
+    if (!tree.model())
+        return {};
+    const auto *const features = qobject_cast<const FeatureTree *>(&tree);
+    const std::optional<QByteArray> kept = features ? features->keptExpansion() : std::nullopt;
+    QByteArray state = kept ? *kept : saveExpansion(tree);
     state += widthMarker + QByteArray::number(tree.columnWidth(GenParamTreeModel::NameColumn));
     state += visibilityMarker + QByteArray::number(visibility);
     state += splitterMarker + splitter.saveState().toHex();
@@ -95,6 +106,11 @@ void TreeState::loadExpansion(QTreeView &tree, const QByteArray &state)
 {
     if (!tree.model())
         return;
+    auto *const features = qobject_cast<FeatureTree *>(&tree);
+    if (features && features->keptExpansion()) {
+        features->keepExpansion(state.left(state.indexOf(widthMarker)));
+        return;
+    }
     // Slots of the tree may change its rows or its model meanwhile.
     std::vector<QPersistentModelIndex> toToggle;
     forEachCategoryPath(*tree.model(), [&](const QModelIndex &index, const QByteArray &path) {

@@ -17,11 +17,14 @@ class QTreeView;
  */
 namespace TreeState {
 
+/** The part of the text that tells of categories. */
+QByteArray saveExpansion(const QTreeView &tree);
+
 QByteArray save(const QTreeView &tree, int visibility, const QSplitter &splitter);
 
 /**
  * Expands the categories whose path occurs in \a state and collapses all others. Intentionally any place will do, be it
- * inside the path of another category.
+ * inside the path of another category. A tree that keeps an expansion for later keeps this one instead.
  */
 void loadExpansion(QTreeView &tree, const QByteArray &state);
 

@@ -1,0 +1,153 @@
+#include <OrvCameraGuiApi/feature_tree/featuremenu.h>
+
+#include <OrvCameraGuiApi/feature_tree/featuretree.h>
+#include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
+#include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
+#include <OrvCameraGuiApi/feature_tree/opencalls.h>
+#include <OrvCameraGuiApi/feature_tree/orvfeaturetreetools.h>
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+namespace {
+
+constexpr int mostJumps = 40; ///< that fit on a screen
+
+GenApi::IValue *featureAt(const QModelIndex &row)
+{
+    return row.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
+}
+
+/** What \a list gives, by name. */
+template <typename List>
+QStringList namesOf(GenApi::IValue *feature, List list)
+{
+    QStringList names;
+    failureOf([&] {
+        GenApi::FeatureList_t features;
+        if (const GenApi::CSelectorPtr selector(feature); selector.IsValid())
+            list(*selector, features);
+        for (GenApi::IValue *const found : features)
+            names += fromGenICam(nodeOf(found)->GetName());
+    });
+    return names;
+}
+
+/** \a text as a menu shows it literally. */
+QString forMenu(QString text)
+{
+    return text.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+void copy(const QString &text)
+{
+    QGuiApplication::clipboard()->setText(text);
+}
+
+} // namespace
+
+FeatureMenu::FeatureMenu(OrvGui::OrvFeatureTreeTools &tools, FeatureTree &tree, const QModelIndex &row)
+    : QMenu(&tree)
+    , m_tools(tools)
+    , m_tree(&tree)
+    , m_row(row.siblingAtColumn(GenParamTreeModel::NameColumn))
+    , m_name(row.data(GenParamTreeModel::FeatureNameRole).toString())
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    if (m_row.isValid()) {
+        addTexts();
+        addActions();
+        addLinks();
+    }
+    addPart();
+}
+
+/** Each action goes when the tools go; nothing follows an act, which may destroy all this. */
+template <typename Act>
+QAction *FeatureMenu::add(QMenu &menu, const QString &text, Act act)
+{
+    QAction *const action = menu.addAction(text);
+    connect(action, &QAction::triggered, &m_tools, act);
+    return action;
+}
+
+QModelIndex FeatureMenu::cell(int column) const
+{
+    return m_row.isValid() ? m_row.sibling(m_row.row(), column) : QModelIndex();
+}
+
+QString FeatureMenu::textAt(int column) const
+{
+    return cell(column).data().toString();
+}
+
+void FeatureMenu::addTexts()
+{
+    const bool isCategory = ::isCategory(featureAt(m_row));
+    add(*this, tr("Copy &GenICam Name"), [name = m_name] { copy(name); });
+    add(*this, tr("Copy &Value"), [this] { copy(textAt(GenParamTreeModel::ValueColumn)); })->setDisabled(isCategory);
+    add(*this, tr("Copy &Row"), [this] {
+        const QString name = textAt(GenParamTreeModel::NameColumn);
+        copy(QStringLiteral("%1\t%2").arg(name, textAt(GenParamTreeModel::ValueColumn)));
+    });
+}
+
+void FeatureMenu::addActions()
+{
+    addSeparator();
+    add(*this, tr("Read &Again"), [this] { m_tools.readAgain(m_name); });
+    GenApi::EInterfaceType type = GenApi::intfIBase;
+    failureOf([&] { type = nodeOf(featureAt(m_row))->GetPrincipalInterfaceType(); });
+    if (type == GenApi::intfICommand) {
+        const bool can = !m_tree->isReadOnly() && (cell(GenParamTreeModel::ValueColumn).flags() & Qt::ItemIsEditable);
+        add(*this, tr("&Execute"), [this] {
+            const QModelIndex value = cell(GenParamTreeModel::ValueColumn);
+            if (m_tree && !m_tree->isReadOnly() && value.isValid())
+                m_tree->model()->setData(value, true);
+        })->setEnabled(can);
+    }
+    if (type != GenApi::intfICategory) {
+        QAction *const favorite = add(*this, tr("&Favorite"), [this](bool on) { m_tools.setFavorite(m_name, on); });
+        favorite->setCheckable(true);
+        favorite->setChecked(m_tools.isFavorite(m_name));
+    }
+}
+
+void FeatureMenu::addLinks()
+{
+    GenApi::IValue *const feature = featureAt(m_row);
+    addJumps(tr("Go to &Selector"), namesOf(feature, [](GenApi::ISelector &selector, GenApi::FeatureList_t &features) {
+                 selector.GetSelectingFeatures(features);
+             }));
+    addJumps(tr("Go to Selecte&d Feature"),
+             namesOf(feature, [](GenApi::ISelector &selector, GenApi::FeatureList_t &features) {
+                 selector.GetSelectedFeatures(features);
+             }));
+}
+
+void FeatureMenu::addJumps(const QString &title, const QStringList &names)
+{
+    if (names.isEmpty())
+        return;
+    QMenu *const jumps = addMenu(title);
+    for (const QString &name : names.mid(0, mostJumps))
+        add(*jumps, forMenu(name), [this, name] { m_tools.jumpTo(name); });
+}
+
+void FeatureMenu::addPart()
+{
+    if (!isEmpty())
+        addSeparator();
+    QModelIndex category = m_row;
+    if (category.isValid() && !::isCategory(featureAt(category)))
+        category = category.parent();
+    if (category.isValid()) {
+        const QString name = category.data(GenParamTreeModel::FeatureNameRole).toString();
+        add(*this, tr("Show &Only This Category"), [this, name] {
+            m_tools.showOnlyCategory(name);
+        })->setEnabled(name != m_tools.onlyCategory());
+    }
+    add(*this, tr("Show A&ll Categories"), [this] {
+        m_tools.showOnlyCategory(QString());
+    })->setEnabled(!m_tools.onlyCategory().isEmpty());
+}

@@ -1,0 +1,518 @@
+#include <OrvCameraGuiApi/feature_tree/orvfeaturetreetools.h>
+
+#include <OrvCameraGuiApi/feature_tree/accessreason.h>
+#include <OrvCameraGuiApi/feature_tree/featuremenu.h>
+#include <OrvCameraGuiApi/feature_tree/featuretree.h>
+#include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
+#include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
+#include <OrvCameraGuiApi/feature_tree/genparamtreevisibilityfilterproxymodel.h>
+#include <OrvCameraGuiApi/feature_tree/opencalls.h>
+#include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
+#include <OrvCameraGuiApi/feature_tree/rereading.h>
+#include <OrvCameraGuiApi/feature_tree/treestate.h>
+
+#include <QComboBox>
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QTextBrowser>
+#include <QUrl>
+
+#include <utility>
+
+namespace {
+
+const QLatin1String linkScheme("feature");
+
+GenApi::IValue *featureAt(const QModelIndex &index)
+{
+    return index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
+}
+
+GenApi::INode *nodeAt(const QModelIndex &index)
+{
+    GenApi::INode *node = nullptr;
+    failureOf([&] { node = nodeOf(featureAt(index)); });
+    return node;
+}
+
+} // namespace
+
+namespace OrvGui {
+
+class OrvFeatureTreeToolsPrivate
+{
+public:
+    OrvFeatureTreeToolsPrivate(OrvFeatureTreeTools *tools, OrvGenParamTreeView *shown);
+    Q_DISABLE_COPY(OrvFeatureTreeToolsPrivate)
+
+    /** Which part of the features is shown. */
+    struct Part
+    {
+        bool isOfAll() const { return !favoritesOnly && category.isEmpty(); }
+
+        bool favoritesOnly = false;
+        QString category; ///< the only one; empty for all
+    };
+
+    GenParamTreeVisibilityFilterProxyModel *filter() const;
+    GenParamTreeModel *model() const;
+    QModelIndex sourceOf(const QString &name) const;
+    QModelIndex shown(const QString &name) const;
+
+    void modelReplaced();
+    void followModel();
+    void setPart(const Part &wanted);
+    void filterPart();
+    FeatureChoice choice() const;
+    QModelIndex showMoreFor(const QString &name);
+    QString whyHidden(const QString &name) const;
+
+    bool filterKey(const QKeyEvent &event);
+    bool filterPress(const QMouseEvent &event);
+    void openMenu(const QModelIndex &row, const QPoint &globalPos);
+    void openMenuAtCurrent();
+    bool openLink(const QUrl &link);
+    bool noteReason();
+    void updateReason();
+    void reasonMayHaveChanged(const QModelIndex &cell);
+
+    OrvFeatureTreeTools *const q;
+    const QPointer<OrvGenParamTreeView> view;
+    const QPointer<FeatureTree> tree;
+    const QPointer<QTextBrowser> help;
+    Rereading rereading;
+    bool hasContextMenu = false;
+    bool tellsReasons = false;
+    bool isReasonQueued = false;
+    QString shownReason; ///< that the help text has
+    QStringList favorites;
+    Part part;
+    QPointer<FeatureMenu> menu;
+};
+
+OrvFeatureTreeToolsPrivate::OrvFeatureTreeToolsPrivate(OrvFeatureTreeTools *tools, OrvGenParamTreeView *shownView)
+    : q(tools)
+    , view(shownView)
+    , tree(shownView ? qobject_cast<FeatureTree *>(shownView->treeView()) : nullptr)
+    , help(shownView ? shownView->findChild<QTextBrowser *>(QStringLiteral("whatsThisLabel")) : nullptr)
+    , rereading(nullptr)
+{
+}
+
+/** Null without a node map, and without a view. */
+GenParamTreeVisibilityFilterProxyModel *OrvFeatureTreeToolsPrivate::filter() const
+{
+    return tree ? qobject_cast<GenParamTreeVisibilityFilterProxyModel *>(tree->model()) : nullptr;
+}
+
+GenParamTreeModel *OrvFeatureTreeToolsPrivate::model() const
+{
+    const auto *const proxy = filter();
+    return proxy ? qobject_cast<GenParamTreeModel *>(proxy->sourceModel()) : nullptr;
+}
+
+QModelIndex OrvFeatureTreeToolsPrivate::sourceOf(const QString &name) const
+{
+    const GenParamTreeModel *const source = model();
+    return source ? source->indexOf(name) : QModelIndex();
+}
+
+/** The first row of the feature that is shown, if any. */
+QModelIndex OrvFeatureTreeToolsPrivate::shown(const QString &name) const
+{
+    const QModelIndex source = sourceOf(name);
+    return source.isValid() ? filter()->mapFromSource(source) : QModelIndex();
+}
+
+/** Called while the tree takes the new model; the former one is still whole. */
+void OrvFeatureTreeToolsPrivate::modelReplaced()
+{
+    rereading.stop();
+    if (menu)
+        menu->close();
+    shownReason.clear();
+    tree->keepExpansion(std::nullopt);
+    const bool endsCategory = !std::exchange(part.category, QString()).isEmpty();
+    followModel();
+    if (endsCategory) { // later, as slots may do anything
+        QMetaObject::invokeMethod(
+            q, [this] { Q_EMIT q->shownPartChanged(); }, Qt::QueuedConnection);
+    }
+}
+
+void OrvFeatureTreeToolsPrivate::followModel()
+{
+    GenParamTreeModel *const source = model();
+    if (!source)
+        return;
+    source->setTellsReasons(tellsReasons);
+    QObject::connect(source, &QAbstractItemModel::dataChanged, q,
+                     [this](const QModelIndex &cell) { reasonMayHaveChanged(cell); });
+    if (!part.isOfAll())
+        filterPart();
+}
+
+void OrvFeatureTreeToolsPrivate::setPart(const Part &wanted)
+{
+    const OpenCalls::Call call;
+    const QPointer<OrvFeatureTreeTools> alive(q);
+    part = wanted;
+    filterPart();
+    if (alive)
+        Q_EMIT q->shownPartChanged();
+}
+
+/** Categories that go and come again are closed: so their expansion is kept meanwhile. */
+void OrvFeatureTreeToolsPrivate::filterPart()
+{
+    auto *const proxy = filter();
+    if (!proxy)
+        return;
+    const OpenCalls::Call call;
+    const QPointer<OrvFeatureTreeTools> alive(q);
+    const bool wasOfAll = !tree->keptExpansion();
+    if (wasOfAll && part.isOfAll())
+        return;
+    if (wasOfAll)
+        tree->keepExpansion(TreeState::saveExpansion(*tree));
+    proxy->setChoice(choice());
+    if (!alive || proxy != filter())
+        return;
+    if (part.isOfAll()) {
+        const QByteArray kept = *tree->keptExpansion();
+        tree->keepExpansion(std::nullopt);
+        TreeState::loadExpansion(*tree, kept);
+    } else if (part.favoritesOnly) {
+        tree->expandAll();
+    } else if (const QModelIndex category = shown(part.category); category.isValid()) {
+        for (QModelIndex above = category; above.isValid(); above = above.parent())
+            tree->expand(above);
+    }
+}
+
+FeatureChoice OrvFeatureTreeToolsPrivate::choice() const
+{
+    FeatureChoice chosen;
+    if (part.favoritesOnly) {
+        QVector<GenApi::INode *> nodes;
+        for (const QString &name : favorites)
+            nodes.append(nodeAt(sourceOf(name)));
+        chosen.setFeatures(nodes);
+    }
+    if (!part.category.isEmpty())
+        chosen.setCategory(nodeAt(sourceOf(part.category)));
+    return chosen;
+}
+
+/** As much as is needed; the part stays as it is if that does not help. */
+QModelIndex OrvFeatureTreeToolsPrivate::showMoreFor(const QString &name)
+{
+    const QPointer<OrvFeatureTreeTools> alive(q);
+    const Part former = part;
+    Part more = part;
+    for (const auto &enlarge :
+         {+[](Part &smaller) { smaller.category.clear(); }, +[](Part &smaller) { smaller.favoritesOnly = false; }}) {
+        enlarge(more);
+        setPart(more);
+        if (!alive)
+            return {};
+        if (const QModelIndex found = shown(name); found.isValid())
+            return found;
+    }
+    setPart(former);
+    return {};
+}
+
+QString OrvFeatureTreeToolsPrivate::whyHidden(const QString &name) const
+{
+    const QModelIndex source = sourceOf(name);
+    if (!source.isValid())
+        return OrvFeatureTreeTools::tr("There is no feature '%1'.").arg(name);
+    int level = 0;
+    for (QModelIndex above = source; above.isValid(); above = above.parent()) {
+        GenApi::INode *const node = nodeAt(above);
+        failureOf([&] { level = qMax(level, node ? int(node->GetVisibility()) : 0); });
+    }
+    const auto *const levels = view->findChild<QComboBox *>(QStringLiteral("cbVisibility"));
+    if (level > Guru)
+        return OrvFeatureTreeTools::tr("'%1' is not meant to be shown.").arg(name);
+    if (level > view->visibility() && levels)
+        return OrvFeatureTreeTools::tr("'%1' is shown at the level %2.").arg(name, levels->itemText(level));
+    if (!view->filterText().isEmpty())
+        return OrvFeatureTreeTools::tr("'%1' is hidden by the filter.").arg(name);
+    const QString reason = q->reasonFor(name);
+    return reason.isEmpty() ? OrvFeatureTreeTools::tr("'%1' is not shown.").arg(name)
+                            : OrvFeatureTreeTools::tr("'%1' is not shown: %2.").arg(name, reason);
+}
+
+/** Of the tree and of an editor in it, which leaves these keys alone. */
+bool OrvFeatureTreeToolsPrivate::filterKey(const QKeyEvent &event)
+{
+    const bool isForMenu =
+        event.key() == Qt::Key_Menu || (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier);
+    if (!hasContextMenu || !isForMenu)
+        return false;
+    openMenuAtCurrent();
+    return true;
+}
+
+/** The right button makes the row current, but opens no editor, which the menu would cover. */
+bool OrvFeatureTreeToolsPrivate::filterPress(const QMouseEvent &event)
+{
+    if (!hasContextMenu || event.button() != Qt::RightButton)
+        return false;
+    const QPersistentModelIndex index(tree->indexAt(event.pos()));
+    const QPointer<FeatureTree> pressed(tree);
+    pressed->setFocus(Qt::MouseFocusReason);
+    if (pressed && index.isValid())
+        pressed->moveCurrentTo(index);
+    return true;
+}
+
+void OrvFeatureTreeToolsPrivate::openMenuAtCurrent()
+{
+    const QModelIndex current = tree->currentIndex();
+    const QRect cell = tree->visualRect(current.siblingAtColumn(GenParamTreeModel::NameColumn));
+    const QPoint corner = current.isValid() ? cell.center() : tree->viewport()->rect().center();
+    openMenu(current, tree->viewport()->mapToGlobal(corner));
+}
+
+void OrvFeatureTreeToolsPrivate::openMenu(const QModelIndex &row, const QPoint &globalPos)
+{
+    const OpenCalls::Call call;
+    if ((menu && menu->isVisible()) || !tree->model()) // a key may arrive in two ways
+        return;
+    const QPointer<OrvFeatureTreeTools> alive(q);
+    const QPointer<QAbstractItemModel> opened(tree->model());
+    const QPointer<FeatureMenu> made(new FeatureMenu(*q, *tree, row));
+    // Nodes have been asked, which may have changed anything.
+    if (!alive || !tree || tree->model() != opened) {
+        if (made)
+            made->deleteLater();
+        return;
+    }
+    menu = made;
+    made->popup(globalPos);
+}
+
+/** Links that are opened in a text browser would replace its text. */
+bool OrvFeatureTreeToolsPrivate::openLink(const QUrl &link)
+{
+    const bool isOurs = tellsReasons && link.scheme() == linkScheme;
+    if (isOurs)
+        q->jumpTo(link.path(QUrl::FullyDecoded));
+    return isOurs;
+}
+
+/** Only features whose access depends on others change it, and then their nodes report. */
+void OrvFeatureTreeToolsPrivate::reasonMayHaveChanged(const QModelIndex &cell)
+{
+    if (!tellsReasons || isReasonQueued || !tree)
+        return;
+    const QModelIndex current = tree->currentIndex();
+    if (!current.isValid() || featureAt(current) != featureAt(cell))
+        return;
+    isReasonQueued = true;
+    QMetaObject::invokeMethod(
+        q, [this] { updateReason(); }, Qt::QueuedConnection);
+}
+
+/** Whether the reason of the current feature differs from that which was noted last. */
+bool OrvFeatureTreeToolsPrivate::noteReason()
+{
+    const OpenCalls::Call call;
+    const QPointer<OrvFeatureTreeTools> alive(q);
+    const QString reason = AccessReason(featureAt(tree->currentIndex())).text();
+    return alive && std::exchange(shownReason, reason) != reason;
+}
+
+/** The rest of the help text reads more registers, so it is made anew only if the reason differs. */
+void OrvFeatureTreeToolsPrivate::updateReason()
+{
+    isReasonQueued = false;
+    if (!tree || !tellsReasons)
+        return;
+    const OpenCalls::Call call;
+    if (noteReason() && tree)
+        Q_EMIT tree->helpOutdated();
+}
+
+OrvFeatureTreeTools::OrvFeatureTreeTools(OrvGenParamTreeView *view, QObject *parent)
+    : QObject(parent)
+    , d(new OrvFeatureTreeToolsPrivate(this, view))
+{
+    if (!d->tree)
+        return;
+    d->tree->installEventFilter(this);
+    d->tree->viewport()->installEventFilter(this);
+    connect(d->tree, &FeatureTree::modelReplaced, this, [this] { d->modelReplaced(); });
+    connect(view, &OrvGenParamTreeView::currentFeatureChanged, this, [this] {
+        if (d->tellsReasons)
+            d->noteReason();
+    });
+    d->followModel();
+}
+
+OrvFeatureTreeTools::~OrvFeatureTreeTools()
+{
+    if (!d->tree)
+        return;
+    if (d->menu)
+        d->menu->close();
+    setTellsReasons(false);
+    blockSignals(true);
+    d->setPart({});
+}
+
+bool OrvFeatureTreeTools::hasContextMenu() const
+{
+    return d->hasContextMenu;
+}
+
+void OrvFeatureTreeTools::setContextMenu(bool on)
+{
+    d->hasContextMenu = on;
+}
+
+bool OrvFeatureTreeTools::tellsReasons() const
+{
+    return d->tellsReasons;
+}
+
+void OrvFeatureTreeTools::setTellsReasons(bool on)
+{
+    if (d->tellsReasons == on || !d->tree)
+        return;
+    d->tellsReasons = on;
+    d->help->disconnect(this);
+    d->help->setOpenLinks(!on);
+    connect(d->help, &QTextBrowser::anchorClicked, this, [this](const QUrl &link) { d->openLink(link); });
+    if (GenParamTreeModel *const model = d->model())
+        model->setTellsReasons(on);
+    const OpenCalls::Call call;
+    const QPointer<FeatureTree> tree(d->tree);
+    if (on)
+        d->noteReason();
+    if (tree)
+        Q_EMIT tree->helpOutdated();
+}
+
+QString OrvFeatureTreeTools::reasonFor(const QString &name) const
+{
+    const OpenCalls::Call call;
+    return AccessReason(featureAt(d->sourceOf(name))).text();
+}
+
+QStringList OrvFeatureTreeTools::favorites() const
+{
+    return d->favorites;
+}
+
+void OrvFeatureTreeTools::setFavorites(const QStringList &names)
+{
+    QStringList favorites = names;
+    favorites.removeDuplicates();
+    if (std::exchange(d->favorites, favorites) == favorites)
+        return;
+    const QPointer<OrvFeatureTreeTools> alive(this);
+    if (d->part.favoritesOnly)
+        d->filterPart();
+    if (alive)
+        Q_EMIT favoritesChanged();
+}
+
+bool OrvFeatureTreeTools::isFavorite(const QString &name) const
+{
+    return d->favorites.contains(name);
+}
+
+void OrvFeatureTreeTools::setFavorite(const QString &name, bool on)
+{
+    QStringList favorites = d->favorites;
+    favorites.removeAll(name);
+    if (on)
+        favorites.append(name);
+    setFavorites(favorites);
+}
+
+bool OrvFeatureTreeTools::showsFavoritesOnly() const
+{
+    return d->part.favoritesOnly;
+}
+
+void OrvFeatureTreeTools::setShowsFavoritesOnly(bool on)
+{
+    OrvFeatureTreeToolsPrivate::Part wanted = d->part;
+    if (std::exchange(wanted.favoritesOnly, on) != on)
+        d->setPart(wanted);
+}
+
+QString OrvFeatureTreeTools::onlyCategory() const
+{
+    return d->part.category;
+}
+
+bool OrvFeatureTreeTools::showOnlyCategory(const QString &name)
+{
+    const OpenCalls::Call call;
+    if (!name.isEmpty() && !isCategory(featureAt(d->sourceOf(name))))
+        return false;
+    OrvFeatureTreeToolsPrivate::Part wanted = d->part;
+    if (std::exchange(wanted.category, name) != name)
+        d->setPart(wanted);
+    return true;
+}
+
+bool OrvFeatureTreeTools::jumpTo(const QString &name)
+{
+    if (!d->tree)
+        return false;
+    const OpenCalls::Call call;
+    const QPointer<OrvFeatureTreeTools> alive(this);
+    QModelIndex target = d->shown(name);
+    if (!target.isValid() && d->sourceOf(name).isValid() && !d->part.isOfAll())
+        target = d->showMoreFor(name);
+    if (!alive || !d->tree)
+        return false;
+    if (target.isValid())
+        return d->tree->jumpTo(target);
+    Q_EMIT told(d->whyHidden(name));
+    return false;
+}
+
+void OrvFeatureTreeTools::readAgain(const QString &name)
+{
+    const QModelIndex row = d->shown(name);
+    if (row.isValid())
+        d->rereading.start(row);
+}
+
+bool OrvFeatureTreeTools::eventFilter(QObject *watched, QEvent *event)
+{
+    if (!d->tree)
+        return false;
+    const bool isInViewport = watched == d->tree->viewport();
+    switch (event->type()) {
+    case QEvent::KeyPress:
+        return !isInViewport && d->filterKey(*static_cast<QKeyEvent *>(event));
+    case QEvent::MouseButtonPress:
+        return isInViewport && d->filterPress(*static_cast<QMouseEvent *>(event));
+    case QEvent::ContextMenu: {
+        if (!d->hasContextMenu)
+            return false;
+        const auto &asked = *static_cast<QContextMenuEvent *>(event);
+        if (asked.reason() != QContextMenuEvent::Mouse)
+            d->openMenuAtCurrent();
+        else if (isInViewport)
+            d->openMenu(d->tree->indexAt(asked.pos()), asked.globalPos());
+        return true;
+    }
+    case QEvent::WhatsThisClicked:
+        return d->openLink(QUrl(static_cast<QWhatsThisClickedEvent *>(event)->href()));
+    default:
+        return false;
+    }
+}
+
+} // namespace OrvGui

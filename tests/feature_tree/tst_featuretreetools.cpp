@@ -1,0 +1,356 @@
+#include "shownview.h"
+
+#include <OrvCameraGuiApi/feature_tree/orvfeaturetreetools.h>
+
+#include <QClipboard>
+#include <QMenu>
+
+using OrvGui::OrvFeatureTreeTools;
+
+namespace {
+
+QByteArray reg(const char *name, int address, const char *mode = "RW")
+{
+    return QByteArray("<IntReg Name=\"") + name + "\"><Address>" + QByteArray::number(address)
+        + "</Address><Length>8</Length><AccessMode>" + mode
+        + "</AccessMode><pPort>Device</pPort><Sign>Signed</Sign><Endianess>BigEndian</Endianess></IntReg>";
+}
+
+/** A camera whose features depend on one another; "Twice" is listed in two categories. */
+QByteArray nodes()
+{
+    return R"(
+<Category Name="Root"><pFeature>Image</pFeature><pFeature>Trigger</pFeature><pFeature>Again</pFeature></Category>
+<Category Name="Image"><pFeature>Width</pFeature><pFeature>Twice</pFeature><pFeature>Inner</pFeature></Category>
+<Category Name="Inner"><pFeature>Gain</pFeature><pFeature>Temperature</pFeature><pFeature>Expert</pFeature></Category>
+<Category Name="Trigger"><pFeature>Selector</pFeature><pFeature>Delay</pFeature><pFeature>Fire</pFeature>
+  <pFeature>TLParamsLocked</pFeature><pFeature>Switch</pFeature></Category>
+<Category Name="Again"><pFeature>Twice</pFeature><pFeature>Inner</pFeature></Category>
+<Integer Name="Width"><DisplayName>Image &amp; Width</DisplayName><pIsLocked>Streaming</pIsLocked>
+  <pValue>WidthReg</pValue></Integer>
+<IntSwissKnife Name="Streaming"><pVariable Name="L">TLParamsLocked</pVariable><Formula>L</Formula></IntSwissKnife>
+<Integer Name="Twice"><pValue>Hidden</pValue></Integer>
+<Integer Name="Hidden"><pIsLocked>Switch</pIsLocked><pValue>TwiceReg</pValue></Integer>
+<Integer Name="Gain"><pIsAvailable>Switch</pIsAvailable><pValue>GainReg</pValue></Integer>
+<Integer Name="Temperature"><pValue>TemperatureReg</pValue></Integer>
+<Integer Name="Expert"><Visibility>Expert</Visibility><Value>3</Value></Integer>
+<Enumeration Name="Selector"><EnumEntry Name="A"><Value>0</Value></EnumEntry><EnumEntry Name="B"><Value>1</Value>
+  </EnumEntry><pValue>SelectorReg</pValue><pSelected>Delay</pSelected></Enumeration>
+<Integer Name="Delay"><pValue>DelayReg</pValue></Integer>
+<Command Name="Fire"><pValue>FireReg</pValue><CommandValue>7</CommandValue></Command>
+<Integer Name="TLParamsLocked"><pValue>LockReg</pValue></Integer>
+<Integer Name="Switch"><pValue>SwitchReg</pValue></Integer>)"
+        + reg("WidthReg", 0) + reg("TwiceReg", 8) + reg("GainReg", 16) + reg("TemperatureReg", 24, "RO")
+        + reg("SelectorReg", 32) + reg("DelayReg", 40) + reg("FireReg", 48) + reg("LockReg", 56) + reg("SwitchReg", 64);
+}
+
+struct Stage : ShownView
+{
+    Stage()
+        : ShownView(nodes())
+    {
+        tools.setContextMenu(true);
+    }
+
+    void set(const char *name, int64_t value) const { node<GenApi::CIntegerPtr>(name)->SetValue(value); }
+    QString current() const
+    {
+        return tree->currentIndex().data(OrvGui::OrvGenParamTreeView::FeatureNameRole).toString();
+    }
+
+    QStringList names() const
+    {
+        QStringList all;
+        for (const QModelIndex &row : rows())
+            all += nodeName(row);
+        return all;
+    }
+
+    /** Offscreen each menu that opens says so. */
+    static void expectMenu()
+    {
+        OrvTest::TestCase::expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
+    }
+
+    /** Opens the menu of the row with the Menu key. */
+    QMenu *menuOf(const char *name) const
+    {
+        expectMenu();
+        tree->setFocus();
+        tree->setCurrentIndex(cell(name, 0));
+        QTest::keyClick(tree, Qt::Key_Menu);
+        return qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    }
+
+    /** Chooses in the menu of the row by keys: the mnemonics. */
+    bool choose(const char *name, const char *keys) const
+    {
+        if (!menuOf(name))
+            return false;
+        for (const char *key = keys; *key && QApplication::activePopupWidget(); ++key)
+            QTest::keyClick(QApplication::activePopupWidget(), *key);
+        return !QApplication::activePopupWidget();
+    }
+
+    OrvFeatureTreeTools tools{&view};
+};
+
+} // namespace
+
+class FeatureTreeToolsTest : public OrvTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void menuActsOnTheRow();
+    void mouseAndKeysOpenTheMenu();
+    void menuGoesWithTheNodeMap();
+    void tellsWhyNotWritable_data();
+    void tellsWhyNotWritable();
+    void reasonsFollowTheCameraAndLead();
+    void readsAgainWhatIsShown();
+    void showsAPartOnly();
+    void jumpsToWhatIsHidden();
+    void outlivesAndIsOutlived();
+};
+
+void FeatureTreeToolsTest::menuActsOnTheRow()
+{
+    Stage stage;
+    QVERIFY(stage.show());
+    const auto copied = [&](const char *name, const char *keys) {
+        return stage.choose(name, keys) ? QGuiApplication::clipboard()->text() : QStringLiteral("no menu");
+    };
+    QCOMPARE(copied("Width", "g"), QStringLiteral("Width"));
+    stage.set("Width", 640);
+    QCOMPARE(copied("Width", "v"), QStringLiteral("640"));
+    QCOMPARE(copied("Width", "r"), QStringLiteral("Image & Width\t640"));
+
+    QSignalSpy written(&stage.view, &OrvGui::OrvGenParamTreeView::featureWritten);
+    QVERIFY(stage.choose("Fire", "e"));
+    QCOMPARE(written.count(), 1);
+    stage.view.setReadOnly(true);
+    QVERIFY(!stage.choose("Fire", "e"));
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    QCOMPARE(written.count(), 1);
+
+    QVERIFY(stage.menuOf("Delay"));
+    Stage::expectMenu();
+    QTest::keyClick(QApplication::activePopupWidget(), 's');
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+    QCOMPARE(stage.current(), QStringLiteral("Selector"));
+
+    QSignalSpy favorites(&stage.tools, &OrvFeatureTreeTools::favoritesChanged);
+    QVERIFY(stage.choose("Gain", "f"));
+    QCOMPARE(stage.tools.favorites(), QStringList{QStringLiteral("Gain")});
+    QVERIFY(stage.choose("Gain", "f"));
+    QCOMPARE(stage.tools.favorites(), QStringList());
+    QCOMPARE(favorites.count(), 2);
+}
+
+void FeatureTreeToolsTest::mouseAndKeysOpenTheMenu()
+{
+    Stage stage;
+    QVERIFY(stage.show());
+    QWidget *const viewport = stage.tree->viewport();
+    const QPoint place = stage.tree->visualRect(stage.cell("Width")).center();
+    Stage::expectMenu();
+    WindowMouse::press(viewport, place, Qt::RightButton);
+    QVERIFY(QApplication::activePopupWidget());
+    QCOMPARE(stage.current(), QStringLiteral("Width"));
+    QVERIFY(!stage.editor());
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    WindowMouse::release(viewport, place, Qt::RightButton);
+    Stage::expectMenu();
+    QTest::keyClick(stage.tree, Qt::Key_F10, Qt::ShiftModifier);
+    QVERIFY(QApplication::activePopupWidget());
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    stage.tools.setContextMenu(false);
+    WindowMouse::press(viewport, place, Qt::RightButton);
+    QTest::keyClick(stage.tree, Qt::Key_Menu);
+    QVERIFY(!QApplication::activePopupWidget());
+}
+
+void FeatureTreeToolsTest::menuGoesWithTheNodeMap()
+{
+    Stage stage;
+    QVERIFY(stage.show());
+    const QPointer<QMenu> menu = stage.menuOf("Width");
+    QVERIFY(menu);
+    stage.view.clearParams();
+    QVERIFY(!QApplication::activePopupWidget());
+    QTRY_VERIFY(!menu);
+    QVERIFY(!stage.tools.jumpTo(QStringLiteral("Width")));
+    QTest::keyClick(stage.tree, Qt::Key_Menu);
+    QVERIFY(!QApplication::activePopupWidget());
+}
+
+void FeatureTreeToolsTest::tellsWhyNotWritable_data()
+{
+    QTest::addColumn<QString>("feature");
+    QTest::addColumn<QString>("changed");
+    QTest::addColumn<int>("value");
+    QTest::addColumn<QString>("reason");
+
+    const auto row = [](const char *feature, const char *changed, int value, const char *reason) {
+        QTest::newRow(
+            qPrintable(QStringLiteral("%1 %2 %3").arg(QLatin1String(feature), QLatin1String(changed)).arg(value)))
+            << feature << changed << value << reason;
+    };
+    row("Width", "TLParamsLocked", 0, "");
+    row("Width", "TLParamsLocked", 1, "the acquisition is running (Streaming)");
+    row("Twice", "Switch", 0, "");
+    row("Twice", "Switch", 1, "locked by Switch");
+    row("Gain", "Switch", 0, "not available now because of Switch");
+    row("Gain", "Switch", 1, "");
+    row("Temperature", "Switch", 1, "the camera lets it be read only");
+    row("Image", "Switch", 0, "");
+    row("Nothing", "Switch", 0, "");
+}
+
+void FeatureTreeToolsTest::tellsWhyNotWritable()
+{
+    QFETCH(QString, feature);
+    QFETCH(QString, changed);
+    QFETCH(int, value);
+    Stage stage;
+    stage.set(changed.toLatin1(), value);
+    QTEST(stage.tools.reasonFor(feature), "reason");
+    for (const char *const getter : {"GetProperty", "GetAccessMode", "GetChildren", "GetName", "GetValue"}) {
+        failGetter(*stage.map, "Switch", getter);
+        failGetter(*stage.map, feature.toStdString(), getter);
+        stage.tools.reasonFor(feature);
+    }
+}
+
+void FeatureTreeToolsTest::reasonsFollowTheCameraAndLead()
+{
+    Stage stage;
+    QVERIFY(stage.show());
+    auto *const help = stage.part<QTextBrowser>("whatsThisLabel");
+    stage.tree->setCurrentIndex(stage.cell("Twice", 0));
+    stage.set("Switch", 1);
+    QVERIFY(!help->toPlainText().contains(QLatin1String("locked by Switch")));
+    stage.tools.setTellsReasons(true);
+    QTRY_VERIFY(help->toPlainText().contains(QLatin1String("locked by Switch")));
+    stage.set("Switch", 0);
+    QTRY_VERIFY(!help->toPlainText().contains(QLatin1String("locked by Switch")));
+    stage.set("Switch", 1);
+    QTRY_VERIFY(help->toPlainText().contains(QLatin1String("locked by Switch")));
+    help->setFocus();
+    QTest::keyClick(help, Qt::Key_Tab);
+    QTest::keyClick(help, Qt::Key_Return);
+    QCOMPARE(stage.current(), QStringLiteral("Switch"));
+}
+
+void FeatureTreeToolsTest::readsAgainWhatIsShown()
+{
+    Stage stage;
+    QVERIFY(stage.show());
+    const auto text = [&](const char *name) { return stage.cell(name).data().toString(); };
+    QCOMPARE(text("Temperature") + text("Delay"), QStringLiteral("00"));
+    const quint64 behind = qToBigEndian<quint64>(77);
+    for (const int64_t address : {24, 40}) // not through the node map, which has the former values
+        stage.port.Write(&behind, address, sizeof behind);
+    QVERIFY(stage.choose("Image", "a"));
+    QTRY_COMPARE(text("Temperature"), QStringLiteral("77"));
+    QCOMPARE(text("Delay"), QStringLiteral("0"));
+    QVERIFY(stage.choose("Delay", "a"));
+    QTRY_COMPARE(text("Delay"), QStringLiteral("77"));
+    QVERIFY(stage.choose("Image", "a"));
+    stage.view.clearParams(); // while it is going on
+    QCoreApplication::processEvents();
+}
+
+void FeatureTreeToolsTest::showsAPartOnly()
+{
+    Stage stage;
+    QVERIFY(stage.show());
+    const QStringList all = stage.names();
+    const auto list = [](const char *names) { return QString::fromLatin1(names).split(QLatin1Char(' ')); };
+    stage.tree->setExpanded(stage.cell("Trigger", 0), false);
+    const QByteArray arranged = stage.view.saveState();
+
+    QVERIFY(stage.choose("Gain", "o"));
+    QCOMPARE(stage.names(), list("Image Inner Gain Temperature Expert Again Inner Gain Temperature Expert"));
+    QCOMPARE(QByteArray(stage.view.saveState()), arranged);
+    stage.tools.setFavorites(list("Gain Delay Nowhere"));
+    stage.tools.setShowsFavoritesOnly(true);
+    QCOMPARE(stage.names(), list("Image Inner Gain Again Inner Gain"));
+    QVERIFY(stage.choose("Gain", "l"));
+    QCOMPARE(stage.names(), list("Image Inner Gain Trigger Delay Again Inner Gain"));
+    QVERIFY(stage.tree->isExpanded(stage.cell("Trigger", 0)));
+    stage.tools.setFavorite(QStringLiteral("Delay"), false);
+    QCOMPARE(stage.names(), list("Image Inner Gain Again Inner Gain"));
+    stage.tools.setShowsFavoritesOnly(false);
+    QCOMPARE(stage.names(), all);
+    QCOMPARE(QByteArray(stage.view.saveState()), arranged);
+
+    QVERIFY(stage.tools.showOnlyCategory(QStringLiteral("Trigger")));
+    QVERIFY(!stage.tools.showOnlyCategory(QStringLiteral("Width")));
+    QCOMPARE(stage.tools.onlyCategory(), QStringLiteral("Trigger"));
+    QSignalSpy changed(&stage.tools, &OrvFeatureTreeTools::shownPartChanged);
+    FeatureCamera other(nodes());
+    stage.view.setParams(other.map.get());
+    QCOMPARE(stage.tools.onlyCategory(), QString());
+    QCOMPARE(stage.names(), all);
+    QTRY_COMPARE(changed.count(), 1);
+    stage.view.clearParams(); // before its node map
+}
+
+void FeatureTreeToolsTest::jumpsToWhatIsHidden()
+{
+    Stage stage;
+    QVERIFY(stage.show());
+    stage.tree->collapseAll();
+    stage.view.setVisibility(OrvGui::Basic);
+    QVERIFY(stage.tools.jumpTo(QStringLiteral("Gain")));
+    QCOMPARE(stage.current(), QStringLiteral("Gain"));
+    QVERIFY(stage.tree->visualRect(stage.tree->currentIndex()).isValid());
+
+    stage.tools.setFavorites({QStringLiteral("Delay")});
+    stage.tools.setShowsFavoritesOnly(true);
+    stage.tools.showOnlyCategory(QStringLiteral("Image"));
+    QVERIFY(stage.tools.jumpTo(QStringLiteral("Delay")));
+    QVERIFY(stage.tools.showsFavoritesOnly() && stage.tools.onlyCategory().isEmpty());
+    QVERIFY(stage.tools.jumpTo(QStringLiteral("Width")));
+    QVERIFY(!stage.tools.showsFavoritesOnly());
+
+    QSignalSpy told(&stage.tools, &OrvFeatureTreeTools::told);
+    stage.tools.showOnlyCategory(QStringLiteral("Trigger"));
+    QVERIFY(!stage.tools.jumpTo(QStringLiteral("Expert")));
+    QCOMPARE(told.takeFirst().first().toString(), QStringLiteral("'Expert' is shown at the level Expert."));
+    QCOMPARE(stage.tools.onlyCategory(), QStringLiteral("Trigger"));
+    stage.view.setFilterText(QStringLiteral("Delay"));
+    QVERIFY(!stage.tools.jumpTo(QStringLiteral("Gain")));
+    QVERIFY(!stage.tools.jumpTo(QStringLiteral("Nowhere")));
+    QVERIFY(!stage.tools.jumpTo(QStringLiteral("WidthReg")));
+    QCOMPARE(told.count(), 3);
+}
+
+void FeatureTreeToolsTest::outlivesAndIsOutlived()
+{
+    FeatureCamera camera(nodes());
+    auto view = std::make_unique<OrvGui::OrvGenParamTreeView>(camera.map.get());
+    for (const bool viewFirst : {false, true}) {
+        auto tools = std::make_unique<OrvFeatureTreeTools>(view.get());
+        tools->setContextMenu(true);
+        tools->setTellsReasons(true);
+        tools->showOnlyCategory(QStringLiteral("Image"));
+        if (viewFirst)
+            view.reset();
+        else
+            tools.reset();
+        if (tools) {
+            tools->setShowsFavoritesOnly(true);
+            QVERIFY(!tools->jumpTo(QStringLiteral("Width")) && !tools->showOnlyCategory(QStringLiteral("Image")));
+            tools->readAgain(QStringLiteral("Width"));
+        } else {
+            QVERIFY(cellOf(*view->treeView()->model(), camera.node("Delay")).isValid());
+        }
+    }
+    OrvFeatureTreeTools(nullptr).setTellsReasons(true);
+}
+
+ORV_TEST_MAIN(FeatureTreeToolsTest)
+#include "tst_featuretreetools.moc"
