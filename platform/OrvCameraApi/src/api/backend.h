@@ -1,5 +1,7 @@
 #pragma once
 
+#include "framesource.h"
+
 #include <OrvCameraGuiApi/camera_api/orvcam.h>
 
 #include <GenApi/INodeMap.h>
@@ -7,6 +9,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -122,6 +125,12 @@ public:
 
     /** Called once. A listener that has expired is not called. */
     virtual void setListener(std::weak_ptr<ConnectionListener> listener) = 0;
+
+    /** Whether openFrames() can succeed at all. */
+    virtual bool givesFrames() const { return false; }
+
+    /** Never null; may throw. Each camera has one at a time. It is destroyed before this object. */
+    virtual std::unique_ptr<FrameSource> openFrames() { throw std::runtime_error("This device gives no pictures"); }
 };
 
 /** A device that was found on an interface. */

@@ -30,6 +30,7 @@ Device *Device::open(const DeviceInfo &info, std::int32_t accessMode, OrvCamErr 
 
 void Device::Release()
 {
+    m_session->closeStreams();
     m_session->events().removeAll();
     delete this;
 }

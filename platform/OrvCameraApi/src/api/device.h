@@ -23,7 +23,8 @@ public:
     OrvCamErr UnregisterEvent(std::uint32_t eventId, OrvCam::DeviceEventCallback callback, void *context) override;
     OrvGenParam::Array *GetCameraParameters(OrvCamErr *err) override;
 
-    const Session &session() const { return *m_session; }
+    /** Never null. */
+    const std::shared_ptr<Session> &session() const { return m_session; }
 
 private:
     explicit Device(std::shared_ptr<Session> session);

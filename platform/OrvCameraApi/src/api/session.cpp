@@ -2,6 +2,9 @@
 // when its callback releases the device; a device that is gone is told nothing.
 #include "session.h"
 
+#include "streamcore.h"
+
+#include <algorithm>
 #include <utility>
 
 namespace OrvCameraApi {
@@ -18,6 +21,48 @@ std::shared_ptr<Session> Session::start(std::unique_ptr<Connection> connection)
     auto session = std::make_shared<Session>(std::move(connection));
     started.setListener(session);
     return session;
+}
+
+void Session::add(std::weak_ptr<StreamCore> stream)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const auto isGone = [](const std::weak_ptr<StreamCore> &other) { return other.expired(); };
+    m_streams.erase(std::remove_if(m_streams.begin(), m_streams.end(), isGone), m_streams.end());
+    m_streams.push_back(std::move(stream));
+}
+
+std::vector<std::shared_ptr<StreamCore>> Session::streams()
+{
+    std::vector<std::shared_ptr<StreamCore>> present;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    for (const std::weak_ptr<StreamCore> &weak : m_streams) {
+        if (std::shared_ptr<StreamCore> stream = weak.lock())
+            present.push_back(std::move(stream));
+    }
+    return present;
+}
+
+void Session::closeStreams()
+{
+    for (const std::shared_ptr<StreamCore> &stream : streams())
+        stream->close();
+}
+
+/** Tells streams as well, for the event of the loss may come later, when the camera is back. */
+void Session::prepareReturn()
+{
+    for (const std::shared_ptr<StreamCore> &stream : streams())
+        stream->connectionLost();
+    m_parameters.invalidate();
+}
+
+void Session::raise(std::uint32_t eventId)
+{
+    if (eventId == OrvCam::EventDeviceDisconnected && !m_connection->isConnected()) { // not one that is late
+        for (const std::shared_ptr<StreamCore> &stream : streams())
+            stream->connectionLost();
+    }
+    m_events.fire(eventId);
 }
 
 } // namespace OrvCameraApi

@@ -5,12 +5,16 @@
 #include "lazyparameters.h"
 
 #include <memory>
+#include <mutex>
+#include <vector>
 
 namespace OrvCameraApi {
 
+class StreamCore;
+
 /**
- * The inside of an open device: its connection, its parameters, its event callbacks. Shared, because a callback may
- * release the device while the session still delivers the event.
+ * The inside of an open device: its connection, its parameters, its event callbacks, its streams. Shared, because a
+ * callback may release the device while the session still delivers the event, and a stream may still be stopping.
  */
 class Session final : public ConnectionListener
 {
@@ -21,15 +25,25 @@ public:
 
     EventHub &events() { return m_events; }
     LazyParameters &parameters() { return m_parameters; }
+    Connection &connection() { return *m_connection; }
     OpeningProgress progress() const { return m_connection->progress(); }
 
-    void prepareReturn() override { m_parameters.invalidate(); }
-    void raise(std::uint32_t eventId) override { m_events.fire(eventId); }
+    void add(std::weak_ptr<StreamCore> stream);
+
+    /** Nothing is written by a stream after this. */
+    void closeStreams();
+
+    void prepareReturn() override;
+    void raise(std::uint32_t eventId) override;
 
 private:
+    std::vector<std::shared_ptr<StreamCore>> streams();
+
     const std::unique_ptr<Connection> m_connection;
     EventHub m_events;
     LazyParameters m_parameters;
+    std::mutex m_mutex;
+    std::vector<std::weak_ptr<StreamCore>> m_streams;
 };
 
 } // namespace OrvCameraApi

@@ -4,6 +4,9 @@
 
 #include <GenApi/GenApi.h>
 
+#include <exception>
+#include <string>
+
 namespace OrvCameraApi {
 
 /** Runs \a action, which may throw anything, and returns the error code for the outcome. */
@@ -22,6 +25,24 @@ OrvCamErr errorOf(Action &&action) noexcept
     } catch (...) {
         return OrvCamErr_GenICamGenericError;
     }
+}
+
+/** Runs \a action, which may throw anything, and returns what is to be said about that; empty when it has not thrown.
+ */
+template <typename Action>
+std::string failureOf(Action &&action)
+{
+    std::string why;
+    try {
+        action();
+        return why;
+    } catch (const GenICam::GenericException &error) {
+        why = error.GetDescription();
+    } catch (const std::exception &error) {
+        why = error.what();
+    } catch (...) { // NOLINT(bugprone-empty-catch)
+    }
+    return why.empty() ? "Unknown error" : why;
 }
 
 /** Stores \a outcome in \a err, which may be null. */

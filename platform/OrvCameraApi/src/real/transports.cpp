@@ -117,7 +117,7 @@ Progress progressOf(OrvCam::Device &device)
     const auto *const open = dynamic_cast<OrvCameraApi::Device *>(&device);
     if (!open)
         return {};
-    const OrvCameraApi::OpeningProgress progress = open->session().progress();
+    const OrvCameraApi::OpeningProgress progress = open->session()->progress();
     switch (progress.step) {
     case OrvCameraApi::OpeningStep::Connecting:
         return {Step::Connecting, progress.failure};

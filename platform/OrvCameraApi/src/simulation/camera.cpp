@@ -37,6 +37,12 @@ public:
         m_camera->addListener(std::move(listener));
     }
 
+    bool givesFrames() const override { return true; }
+    std::unique_ptr<FrameSource> openFrames() override
+    {
+        return std::make_unique<SimulatedFrames>(m_camera->m_sending);
+    }
+
 private:
     const std::shared_ptr<Camera> m_camera;
     MonitoredPort m_port;

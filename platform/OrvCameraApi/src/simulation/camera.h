@@ -5,6 +5,7 @@
 #include "portmonitor.h"
 #include "registerfile.h"
 #include "servicemap.h"
+#include "simulatedframes.h"
 #include "stallpoint.h"
 
 #include <OrvCameraApi/simulation.h>
@@ -77,6 +78,7 @@ private:
     PortMonitor m_monitor;
     ServiceMap m_service;
     Locked<State> m_state;
+    const std::shared_ptr<SimulatedFrames::Sending> m_sending = std::make_shared<SimulatedFrames::Sending>(false);
 };
 
 } // namespace OrvCameraApi

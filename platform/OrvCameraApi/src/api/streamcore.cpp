@@ -1,0 +1,344 @@
+#include "streamcore.h"
+
+#include "acquisition.h"
+#include "endingthreads.h"
+#include "genapierror.h"
+#include "nodemaplock.h"
+#include "session.h"
+
+#include <OrvCameraGuiApi/camera_api/orvgenparam.h>
+
+#include <GenApi/GenApi.h>
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+namespace OrvCameraApi {
+
+namespace {
+
+using namespace std::chrono_literals;
+using Clock = FrameSource::Clock;
+
+constexpr auto longestWait = 500ms; ///< between two looks whether the camera is still there
+constexpr auto patience = 15s; ///< for a frame of a counted run, which has no end otherwise
+constexpr auto closingPatience = 1500ms; ///< a little more than for an access to a camera
+
+/** Threads of streams that are gone; they wait for a camera. */
+EndingThreads &endingThreads()
+{
+    static EndingThreads threads;
+    return threads;
+}
+
+[[noreturn]] void fail(const std::string &text)
+{
+    throw GenICam::RuntimeException(text.c_str(), __FILE__, __LINE__);
+}
+
+} // namespace
+
+void StreamCore::start(std::uint64_t frames)
+{
+    const Lock lock(m_mutex);
+    if (m_state == State::Stopping)
+        m_next = frames;
+    if (m_state != State::Stopped || m_isEnding)
+        return;
+    begin(frames);
+    if (!m_thread.joinable()) {
+        m_thread = std::thread([core = shared_from_this(), hasEnded = m_hasEnded]() mutable {
+            core->run();
+            core.reset();
+            *hasEnded = true;
+        });
+    }
+}
+
+/** With the mutex held. */
+void StreamCore::begin(std::uint64_t frames)
+{
+    m_state = State::Starting;
+    m_frames = frames;
+    m_next.reset();
+    m_isLost = false;
+    m_failure.clear();
+    m_statistics = {};
+    m_newest.reset();
+    m_changed.notify_all();
+}
+
+void StreamCore::stop()
+{
+    const Lock lock(m_mutex);
+    m_next.reset();
+    if (m_state != State::Stopped)
+        m_state = State::Stopping;
+    m_changed.notify_all();
+}
+
+OrvStreams::State StreamCore::state()
+{
+    const Lock lock(m_mutex);
+    m_isTold = false;
+    return m_state;
+}
+
+std::string StreamCore::failure() const
+{
+    const Lock lock(m_mutex);
+    return m_failure;
+}
+
+OrvStreams::Statistics StreamCore::statistics() const
+{
+    const Lock lock(m_mutex);
+    return m_statistics;
+}
+
+std::shared_ptr<const OrvStreams::Frame> StreamCore::take()
+{
+    const Lock lock(m_mutex);
+    m_isTold = false;
+    return std::exchange(m_newest, nullptr);
+}
+
+void StreamCore::setListener(std::function<void()> listener)
+{
+    Lock lock(m_mutex);
+    m_listener = listener ? std::make_shared<const std::function<void()>>(std::move(listener)) : nullptr;
+    m_isTold = false;
+    if (!isOwnThread())
+        m_changed.wait(lock, [this] { return !m_isTelling; });
+}
+
+void StreamCore::connectionLost()
+{
+    const Lock lock(m_mutex);
+    m_isLost = m_state != State::Stopped;
+    m_changed.notify_all();
+}
+
+void StreamCore::close()
+{
+    stop();
+    if (isOwnThread()) // in the listener, or in a callback of a node
+        stopAcquisition();
+    Lock lock(m_mutex);
+    if (!isOwnThread())
+        m_changed.wait_for(lock, closingPatience, [this] { return isIdle(); });
+    m_next.reset();
+    m_isClosed = true;
+}
+
+void StreamCore::end(const std::shared_ptr<StreamCore> &core)
+{
+    core->setListener({});
+    core->close();
+    std::thread thread;
+    {
+        const Lock lock(core->m_mutex);
+        core->m_isEnding = true;
+        thread = std::move(core->m_thread);
+        core->m_changed.notify_all();
+    }
+    if (thread.joinable())
+        endingThreads().add(std::move(thread), core->m_hasEnded);
+}
+
+void StreamCore::run()
+{
+    m_threadId = std::this_thread::get_id();
+    Lock lock(m_mutex);
+    while (true) {
+        m_changed.wait(lock, [this] { return m_isEnding || m_state != State::Stopped; });
+        if (m_state == State::Stopped)
+            return;
+        lock.unlock();
+        tell();
+        acquire();
+        lock.lock();
+        if (m_next && !m_isClosed)
+            begin(*m_next);
+        else
+            m_state = State::Stopped;
+        m_changed.notify_all();
+        lock.unlock();
+        tell();
+        lock.lock();
+    }
+}
+
+void StreamCore::acquire()
+{
+    const std::string failure = failureOf([this] {
+        const std::shared_ptr<Session> session = m_session.lock();
+        if (!session || isClosed())
+            fail("The device has been released");
+        acquire(*session);
+    });
+    const Lock lock(m_mutex);
+    if (m_failure.empty())
+        m_failure = failure;
+}
+
+void StreamCore::acquire(Session &session)
+{
+    OrvCamErr err = OrvCamErr_Ok;
+    OrvGenParam::Array *const parameters = session.parameters().get(&err);
+    if (!parameters || !session.connection().isConnected())
+        fail("The camera is not connected");
+    GenApi::INodeMap &map = *parameters->GetNodeMap();
+    const std::unique_ptr<FrameSource> source = session.connection().openFrames();
+    Acquisition acquisition(map, [&](const std::function<void()> &action) { return write(map, action); });
+    m_acquisition = &acquisition;
+    const std::string failure = failureOf([&] {
+        acquisition.lockFeatures();
+        source->prepare(map, [this] { wake(); });
+        const std::uint64_t ofMode = acquisition.frameLimit();
+        const bool isTriggered = acquisition.isTriggered();
+        {
+            const Lock lock(m_mutex);
+            if (isStopping())
+                return;
+        }
+        acquisition.start();
+        receive(session, *source, ofMode, isTriggered);
+    });
+    {
+        const Lock lock(m_mutex);
+        if (!failure.empty() && m_state != State::Stopping)
+            m_failure = failure;
+        m_state = State::Stopping;
+    }
+    tell();
+    stopAcquisition();
+    m_acquisition = nullptr;
+}
+
+/** Of this thread, also from within a callback of the application. */
+void StreamCore::stopAcquisition()
+{
+    if (!m_acquisition)
+        return;
+    bool isLost = false;
+    {
+        const Lock lock(m_mutex);
+        isLost = m_isLost;
+    }
+    const std::string failure = m_acquisition->stop(isLost);
+    const Lock lock(m_mutex);
+    if (m_failure.empty() && !m_isLost)
+        m_failure = failure;
+}
+
+/** Until the end of the run. \a ofMode: the frames that the camera sends by itself. */
+void StreamCore::receive(Session &session, FrameSource &source, std::uint64_t ofMode, bool isTriggered)
+{
+    std::uint64_t limit = 0;
+    {
+        const Lock lock(m_mutex);
+        if (!isStopping())
+            m_state = State::Running;
+        limit = ofMode != 0 && m_frames != 0 ? std::min(ofMode, m_frames) : std::max(ofMode, m_frames);
+    }
+    tell();
+    Clock::time_point last = Clock::now();
+    while (waitUntil(std::min(source.nextLook(), Clock::now() + longestWait))) {
+        if (!session.connection().isConnected())
+            connectionLost();
+        FrameSource::Look look = source.look();
+        const Clock::time_point now = Clock::now();
+        if (look.frame || look.lost != 0)
+            last = now;
+        else if (limit != 0 && !isTriggered && now - last > patience)
+            fail("The camera has sent no picture");
+        const bool isFrame = look.frame != nullptr;
+        const bool isOver = publish(std::move(look), limit);
+        if (isFrame)
+            tell();
+        if (isOver)
+            return;
+    }
+}
+
+/** Returns whether these were all. */
+bool StreamCore::publish(FrameSource::Look look, std::uint64_t limit)
+{
+    std::shared_ptr<const OrvStreams::Frame> replaced; // freed without the mutex
+    const Lock lock(m_mutex);
+    m_statistics.lost += look.lost;
+    if (look.frame) {
+        look.frame->number = m_statistics.received + m_statistics.lost;
+        ++m_statistics.received;
+        m_statistics.replaced += m_newest ? 1 : 0;
+        replaced = std::exchange(m_newest, std::move(look.frame));
+    }
+    return limit != 0 && m_statistics.received + m_statistics.lost >= limit;
+}
+
+/** False when it is time to stop. Throws when the camera is lost. */
+bool StreamCore::waitUntil(Clock::time_point time)
+{
+    Lock lock(m_mutex);
+    m_changed.wait_until(lock, time, [this] { return isStopping() || m_isWoken; });
+    m_isWoken = false;
+    if (m_isLost && m_state != State::Stopping)
+        fail("The connection to the camera was lost");
+    return !isStopping();
+}
+
+void StreamCore::wake()
+{
+    const Lock lock(m_mutex);
+    m_isWoken = true;
+    m_changed.notify_all();
+}
+
+/**
+ * Whoever closes may hold the lock of the node map, so that is taken first. After close() no write begins, as one that
+ * has begun is waited for.
+ */
+bool StreamCore::write(GenApi::INodeMap &map, const std::function<void()> &action)
+{
+    const NodeMapLock mapLock(map);
+    {
+        const Lock lock(m_mutex);
+        if (m_isClosed)
+            return false;
+        ++m_writes;
+    }
+    const auto endWrite = [this] {
+        const Lock lock(m_mutex);
+        --m_writes;
+        m_changed.notify_all();
+    };
+    try {
+        action();
+    } catch (...) {
+        endWrite();
+        throw;
+    }
+    endWrite();
+    return true;
+}
+
+/** On the stream's thread, without the mutex. */
+void StreamCore::tell()
+{
+    Lock lock(m_mutex);
+    if (!m_listener || m_isTold)
+        return;
+    m_isTold = true;
+    m_isTelling = true;
+    std::shared_ptr<const std::function<void()>> listener = m_listener;
+    lock.unlock();
+    failureOf([&listener] { (*listener)(); });
+    listener.reset(); // may hold the last pointer to anything
+    lock.lock();
+    m_isTelling = false;
+    m_changed.notify_all();
+}
+
+} // namespace OrvCameraApi

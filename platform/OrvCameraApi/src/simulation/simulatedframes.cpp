@@ -1,0 +1,61 @@
+#include "simulatedframes.h"
+
+#include "picture.h"
+
+#include <GenApi/GenApi.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace OrvCameraApi {
+
+using namespace std::chrono_literals;
+
+SimulatedFrames::SimulatedFrames(std::shared_ptr<Sending> sending)
+    : m_sending(std::move(sending))
+{
+    if (m_sending->exchange(true))
+        throw GenICam::AccessException("The pictures of this camera are shown elsewhere already", __FILE__, __LINE__);
+}
+
+SimulatedFrames::~SimulatedFrames()
+{
+    *m_sending = false;
+}
+
+/** The first picture comes after its time of exposure, as do all. */
+void SimulatedFrames::prepare(GenApi::INodeMap &map, std::function<void()>)
+{
+    m_map = &map;
+    m_next = Clock::now() + readPictureSettings(map).period;
+    m_nextLook = std::min(m_next, Clock::now() + 100ms);
+}
+
+/**
+ * The settings are read once for each picture, so that they cannot change while it is made, and between pictures that
+ * are far apart, because the rate may change.
+ */
+FrameSource::Look SimulatedFrames::look()
+{
+    const PictureSettings settings = readPictureSettings(*m_map);
+    const Clock::time_point now = Clock::now();
+    m_next = std::min(m_next, now + settings.period);
+    if (now < m_next) {
+        m_nextLook = std::min(m_next, now + 100ms);
+        return {};
+    }
+    m_next = std::max(m_next + settings.period, now);
+    m_nextLook = std::min(m_next, now + 100ms);
+    const std::uint64_t number = m_number++;
+    const std::shared_ptr<BufferedFrame> frame = m_buffers.take(settings.size);
+    if (!frame)
+        return {nullptr, 1};
+    drawPicture(settings, number, frame->bytes.get());
+    frame->pixelFormat = settings.layout.code;
+    frame->width = settings.width;
+    frame->height = settings.height;
+    frame->received = Clock::now();
+    return {frame, 0};
+}
+
+} // namespace OrvCameraApi
