@@ -4,6 +4,8 @@
 #include "camerasource.h"
 #include "camerawatch.h"
 #include "configuremenu.h"
+#include "featuremarks.h"
+#include "settings/settingsmenu.h"
 #include "simulationmenu.h"
 #include "widgetspage.h"
 
@@ -73,6 +75,8 @@ ExplorerWindow::ExplorerWindow(std::unique_ptr<CameraSource> source, QWidget *pa
     , m_view(new OrvGui::OrvGenParamTreeView(this))
     , m_tools(addToolBar(tr("Tools")))
     , m_configure(new ConfigureMenu(this))
+    , m_settings(new SettingsMenu(this))
+    , m_marks(new FeatureMarks(*m_view, this))
     , m_simulation(new SimulationMenu(this))
     , m_connectionIcon(new QLabel(this))
     , m_connectionLabel(new QLabel(this))
@@ -87,6 +91,7 @@ ExplorerWindow::ExplorerWindow(std::unique_ptr<CameraSource> source, QWidget *pa
     createFileMenu();
     createViewMenu();
     createConfigureMenu();
+    createSettingsMenu();
     createSimulationMenu();
     createHelpMenu();
     setSource(std::move(source));
@@ -97,6 +102,7 @@ ExplorerWindow::~ExplorerWindow()
 {
     // View and windows go after the camera.
     m_watch.reset();
+    m_settings->setCamera(nullptr);
     m_simulation->setCamera(QString(), nullptr);
     m_configure->setDevice(nullptr);
     m_view->clearParams();
@@ -220,6 +226,26 @@ void ExplorerWindow::createConfigureMenu()
     }
 }
 
+void ExplorerWindow::createSettingsMenu()
+{
+    menuBar()->addMenu(m_settings);
+    connect(m_settings, &SettingsMenu::told, this,
+            [this](const QString &message) { statusBar()->showMessage(message, messageTime); });
+    connect(m_settings, &SettingsMenu::featuresMarked, m_marks, &FeatureMarks::mark);
+    connect(m_settings, &SettingsMenu::featureChosen, this, &ExplorerWindow::goTo);
+}
+
+void ExplorerWindow::goTo(const QString &feature)
+{
+    if (!m_marks->goTo(feature)) {
+        statusBar()->showMessage(tr("'%1' is not in the tree.").arg(feature), messageTime);
+        return;
+    }
+    showPage(m_view->objectName());
+    activateWindow();
+    m_view->treeView()->setFocus();
+}
+
 void ExplorerWindow::createSimulationMenu()
 {
     menuBar()->addMenu(m_simulation);
@@ -237,6 +263,7 @@ void ExplorerWindow::setSource(std::unique_ptr<CameraSource> source)
 {
     // All before the former one goes.
     m_watch = std::make_unique<CameraWatch>(source->device());
+    m_settings->setCamera(source->nodeMap());
     m_simulation->setCamera(source->id(), source->nodeMap());
     m_simulation->setFeature(QString());
     m_configure->setDevice(source->device());
@@ -293,6 +320,7 @@ void ExplorerWindow::setReachable(bool reachable)
     if (!isChange)
         return;
     m_configure->setReachable(reachable);
+    m_settings->setReachable(reachable);
     refresh();
 }
 
@@ -393,6 +421,7 @@ void ExplorerWindow::saveSettings(QSettings &settings) const
     settings.setValue(pollsKey, m_polling->isChecked());
     settings.setValue(intervalKey, int(m_view->getPollingTime()));
     m_configure->saveSettings(settings);
+    m_settings->saveSettings(settings);
     QHash<QString, QByteArray> trees = m_treeStates;
     trees.insert(m_source->name(), m_view->saveState());
     settings.beginGroup(treesGroup);
@@ -421,6 +450,7 @@ void ExplorerWindow::restoreSettings(QSettings &settings)
     m_polling->setChecked(settings.value(pollsKey, true).toBool());
     updatePolling();
     m_configure->restoreSettings(settings);
+    m_settings->restoreSettings(settings);
     settings.beginGroup(treesGroup);
     const QStringList names = settings.childKeys();
     for (const QString &name : names)

@@ -12,12 +12,14 @@
 class CameraSource;
 class CameraWatch;
 class ConfigureMenu;
+class FeatureMarks;
 class QLabel;
 class QMenu;
 class QModelIndex;
 class QSettings;
 class QTabWidget;
 class QToolBar;
+class SettingsMenu;
 class SimulationMenu;
 
 namespace OrvGui {
@@ -75,6 +77,7 @@ private:
     void createCamerasMenu(QMenu &file);
     void createViewMenu();
     void createConfigureMenu();
+    void createSettingsMenu();
     void createSimulationMenu();
     void createHelpMenu();
 
@@ -89,6 +92,7 @@ private:
     void setReachable(bool reachable);
     void updatePolling();
     void refresh();
+    void goTo(const QString &feature);
     void followCurrent(const QModelIndex &current);
     void report(const QString &message);
     void showAbout();
@@ -102,6 +106,8 @@ private:
     OrvGui::OrvGenParamTreeView *const m_view;
     QToolBar *const m_tools;
     ConfigureMenu *const m_configure;
+    SettingsMenu *const m_settings;
+    FeatureMarks *const m_marks;
     SimulationMenu *const m_simulation;
     std::optional<OrvTransports::Cameras> m_chosenCameras; ///< in the menu
     QAction *m_polling = nullptr;

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "settingsfile.h"
+
+#include <GenApi/GenApi.h>
+
+#include <functional>
+#include <unordered_map>
+#include <vector>
+
+/** Told before each feature; throws to interrupt. \a feature is the one that is next. */
+using SettingsProgress = std::function<void(int done, int total, const QByteArray &feature)>;
+
+/** Thrown by a progress that nobody wants to go on. */
+struct SettingsInterrupted
+{
+};
+
+/** Performs \a operation; why it failed, never empty then. */
+QString failureOf(const std::function<void()> &operation);
+
+/** What a feature answers. */
+struct FeatureValue
+{
+    QByteArray text;
+    QString failure; ///< empty: the text is the value
+};
+
+/**
+ * The features of a node map, whose operations may all throw, as plain answers. For one thread; other threads may use
+ * the node map at the same time.
+ */
+class FeatureMap
+{
+public:
+    explicit FeatureMap(GenApi::INodeMap &map);
+
+    GenApi::INodeMap &nodeMap() const { return m_map; }
+
+    /** A feature by its name, null if there is none that has a value. */
+    GenApi::INode *feature(const QByteArray &name);
+
+    /** All that select the feature, whoever selects others in front of them. */
+    const std::vector<GenApi::INode *> &selectorsOf(GenApi::INode *feature);
+
+    /** The features that belong to a set of settings, whatever others depend on in front of them. */
+    std::vector<GenApi::INode *> streamableFeatures();
+
+    /** Likewise, all that have a value, except those of the connection: it must survive a foreign file. */
+    std::vector<GenApi::INode *> otherFeatures();
+
+    /** Vendor, model and version, one line. */
+    QString device() const;
+
+private:
+    std::vector<GenApi::INode *> featuresThat(bool (*belong)(GenApi::INode *));
+
+    GenApi::INodeMap &m_map;
+    std::unordered_map<GenApi::INode *, std::vector<GenApi::INode *>> m_selectors;
+};
+
+QByteArray nameOf(GenApi::INode *feature);
+GenApi::EInterfaceType kindOf(GenApi::INode *feature);
+
+/** From the camera; \a usesCache: what was read before will do. */
+FeatureValue readValue(GenApi::INode *feature, bool usesCache = false);
+
+/** Whether it has a value that belongs to a set of settings. */
+bool isStreamable(GenApi::INode *feature);
+
+bool isImplemented(GenApi::INode *feature);
+bool isReadable(GenApi::INode *feature);
+bool isWritable(GenApi::INode *feature);
+
+/** Why it cannot be written now, empty if it can. */
+QString lockedReason(GenApi::INode *feature);
+
+/** Writes the value, and reads it again; why it is another one by then, empty if it is not. */
+QString writeValue(GenApi::INode *feature, const QByteArray &value);
+
+/** The same, unless it is the value already. */
+QString ensureValue(GenApi::INode *feature, const QByteArray &value);

@@ -1,0 +1,186 @@
+#include "settingsfile.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <cstdio>
+
+namespace {
+
+constexpr int longestLine = 1 << 20; // bytes
+constexpr qint64 longestFile = 64 << 20; // bytes
+constexpr int mostRemarks = 1000;
+
+const char *const mark = "{05D8C294-F295-4dfb-9D01-096BD04049F4}";
+const char *const deviceMark = "# Device = ";
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(SettingsFile)
+};
+
+/**
+ * The selectors of a line that has its own, "{NAME=VALUE TAB NAME=VALUE} TAB VALUE", taken out of \a value; none if it
+ * is not of that form.
+ */
+QVector<Setting> takeSelectors(QByteArray &value, int line)
+{
+    const int end = value.startsWith('{') ? value.indexOf("}\t") : -1;
+    if (end < 0)
+        return {};
+    QVector<Setting> selectors;
+    const QList<QByteArray> parts = value.mid(1, end - 1).split('\t');
+    for (const QByteArray &part : parts) {
+        const int middle = part.indexOf('=');
+        if (middle < 1)
+            return {};
+        selectors.append({part.left(middle), part.mid(middle + 1), line});
+    }
+    value.remove(0, end + 2);
+    return selectors;
+}
+
+class Parser
+{
+public:
+    SettingsFile parse(QByteArray content)
+    {
+        if (content.startsWith("\xEF\xBB\xBF"))
+            content.remove(0, 3);
+        for (int begin = 0; begin < content.size();) {
+            int end = content.indexOf('\n', begin);
+            if (end < 0)
+                end = content.size();
+            ++m_line;
+            takeLine(content, begin, end > begin && content.at(end - 1) == '\r' ? end - 1 : end);
+            begin = end + 1;
+        }
+        if (m_file.settings.isEmpty() && !m_hasMark)
+            throw SettingsError{Text::tr("There are no settings in it.")};
+        if (!m_hasMark)
+            m_file.remarks.prepend(Text::tr("The head of a settings file is missing."));
+        return m_file;
+    }
+
+private:
+    void takeLine(const QByteArray &content, int begin, int end)
+    {
+        if (end - begin > longestLine)
+            return pass(Text::tr("The line is too long."));
+        const QByteArray line = content.mid(begin, end - begin);
+        if (line.contains('\0'))
+            return pass(Text::tr("The line has a NUL byte."));
+        if (line.startsWith('#'))
+            return takeComment(line);
+        if (line.trimmed().isEmpty())
+            return;
+        const int tab = line.indexOf('\t');
+        if (tab < 1)
+            return pass(Text::tr("The line is no setting: '%1'.").arg(QString::fromUtf8(line.left(60))));
+        QByteArray value = line.mid(tab + 1);
+        m_file.settings += takeSelectors(value, m_line);
+        m_file.settings.append({line.left(tab), value, m_line});
+    }
+
+    void takeComment(const QByteArray &line)
+    {
+        m_hasMark = m_hasMark || line.toUpper().contains(QByteArray(mark).toUpper());
+        if (m_file.device.isEmpty() && line.startsWith(deviceMark))
+            m_file.device = QString::fromUtf8(line.mid(int(qstrlen(deviceMark)))).trimmed();
+    }
+
+    void pass(const QString &why) { addRemark(m_file.remarks, Text::tr("Line %1: %2").arg(m_line).arg(why)); }
+
+    SettingsFile m_file;
+    int m_line = 0;
+    bool m_hasMark = false;
+};
+
+[[noreturn]] void fail(const QString &text, const QString &path, const QString &why)
+{
+    throw SettingsError{text.arg(path, why).simplified()};
+}
+
+bool isStandard(const QString &path)
+{
+    return path == QLatin1String("-");
+}
+
+bool openFor(QFile &file, const QString &path, FILE *standard, QIODevice::OpenMode mode)
+{
+    file.setFileName(path);
+    return isStandard(path) ? file.open(standard, mode) : file.open(mode);
+}
+
+} // namespace
+
+SettingsFile parseSettings(const QByteArray &content)
+{
+    return Parser().parse(content);
+}
+
+SettingsFile readSettings(const QString &path)
+{
+    const QString text = Text::tr("Cannot read '%1': %2");
+    QFile file;
+    if (!openFor(file, path, stdin, QIODevice::ReadOnly))
+        fail(text, path, file.errorString());
+    const QByteArray content = file.read(longestFile + 1);
+    if (content.size() > longestFile)
+        fail(text, path, Text::tr("The file is too large."));
+    if (file.error() != QFileDevice::NoError)
+        fail(text, path, file.errorString());
+    try {
+        return parseSettings(content);
+    } catch (const SettingsError &e) {
+        fail(text, path, e.message);
+    }
+}
+
+QByteArray textOf(const SettingsFile &file)
+{
+    QByteArray text = QByteArray("# ") + mark + "\n# GenApi persistence file (version 3.1.0)\n" + deviceMark
+        + file.device.simplified().toUtf8() + '\n';
+    for (const Setting &setting : file.settings)
+        text += setting.name + '\t' + setting.value + '\n';
+    return text;
+}
+
+void writeSettings(const SettingsFile &file, const QString &path)
+{
+    writeWhole(textOf(file), path);
+}
+
+void writeWhole(const QByteArray &content, const QString &path)
+{
+    const QString text = Text::tr("Cannot write '%1': %2");
+    const QFileInfo info(path);
+    if (!isStandard(path) && (!info.exists() || info.isFile())) {
+        QSaveFile file(path);
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit())
+            fail(text, path, file.errorString());
+        return;
+    }
+    QFile file; // a device or a pipe, which a new file must not replace
+    if (!openFor(file, path, stdout, QIODevice::WriteOnly) || file.write(content) != content.size() || !file.flush())
+        fail(text, path, file.errorString());
+}
+
+void addRemark(QStringList &remarks, const QString &remark)
+{
+    if (remarks.size() < mostRemarks)
+        remarks.append(remark);
+    else if (remarks.size() == mostRemarks)
+        remarks.append(Text::tr("There is more of that kind."));
+}
+
+QString nameWithContext(const QByteArray &name, const QVector<Setting> &context)
+{
+    QStringList entries;
+    for (const Setting &setting : context)
+        entries.append(QString::fromUtf8(setting.name + '=' + setting.value));
+    const QString plain = QString::fromUtf8(name);
+    return entries.isEmpty() ? plain : QStringLiteral("%1 (%2)").arg(plain, entries.join(QLatin1String(", ")));
+}

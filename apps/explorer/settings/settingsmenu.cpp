@@ -1,0 +1,362 @@
+#include "settingsmenu.h"
+
+#include "settingsjob.h"
+#include "settingsreport.h"
+#include "settingssaver.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSettings>
+
+#include <utility>
+
+namespace {
+
+const QLatin1String folderKey("settings/folder");
+
+QString textOf(const QByteArray &value)
+{
+    return QString::fromUtf8(value);
+}
+
+QVector<ReportRow> rowsOf(const QStringList &remarks, int columns)
+{
+    QVector<ReportRow> rows;
+    for (const QString &remark : remarks) {
+        QStringList cells;
+        for (int i = 1; i < columns; ++i)
+            cells.append(QString());
+        rows.append({QString(), cells << remark});
+    }
+    return rows;
+}
+
+} // namespace
+
+/** What a job works on; both threads know it, one after the other. */
+struct SettingsMenu::Task
+{
+    QString path;
+    SettingsFile file;
+    std::unique_ptr<SettingsLoader> loader;
+    QVector<SettingResult> results;
+    QVector<SettingDifference> differences;
+    QString failure; ///< empty: none
+    bool isDone = false; ///< to its end
+};
+
+SettingsMenu::SettingsMenu(QWidget *parent)
+    : QMenu(tr("S&ettings"), parent)
+    , m_save(
+          addAction(tr("&Save Settings..."), this,
+                    [this] { askForFile(tr("Save Settings"), true, [this](const QString &path) { saveTo(path); }); }))
+    , m_load(addAction(
+          tr("&Load Settings..."), this,
+          [this] { askForFile(tr("Load Settings"), false, [this](const QString &path) { loadFrom(path); }); }))
+    , m_compare(addAction(tr("&Compare With File..."), this, [this] {
+        askForFile(tr("Compare With File"), false, [this](const QString &path) { compareWith(path); });
+    }))
+{
+    setToolTipsVisible(true);
+    m_save->setObjectName(QStringLiteral("saveSettings"));
+    m_save->setStatusTip(tr("Write the settings of the camera into a file"));
+    m_load->setObjectName(QStringLiteral("loadSettings"));
+    m_load->setStatusTip(tr("Set the camera as a file says"));
+    m_compare->setObjectName(QStringLiteral("compareSettings"));
+    m_compare->setStatusTip(tr("Show what differs between the camera and a file"));
+    insertSeparator(m_compare);
+    QAction *const files = addAction(tr("Compare &Two Files..."), this, [this] {
+        askForFile(tr("First File"), false, [this](const QString &path) { askForSecondFile(path); });
+    });
+    files->setObjectName(QStringLiteral("compareFiles"));
+    files->setStatusTip(tr("Show what differs between two files"));
+    update();
+}
+
+SettingsMenu::~SettingsMenu() = default;
+
+void SettingsMenu::setCamera(GenApi::INodeMap *nodeMap)
+{
+    if (m_job) {
+        m_job->join();
+        m_nodeMap = nullptr; // whoever tells of it starts nothing
+        finish();
+    }
+    m_nodeMap = nodeMap;
+    const auto reports = parentWidget()->findChildren<SettingsReport *>();
+    for (SettingsReport *report : reports)
+        report->withdrawPutBack();
+    Q_EMIT featuresMarked({});
+    update();
+}
+
+void SettingsMenu::setReachable(bool reachable)
+{
+    if (!reachable && m_job)
+        m_job->interrupt();
+}
+
+void SettingsMenu::update()
+{
+    for (QAction *action : {m_save, m_load, m_compare})
+        action->setEnabled(m_nodeMap);
+}
+
+void SettingsMenu::askForFile(const QString &title, bool isNew, const std::function<void(const QString &)> &use)
+{
+    auto *const dialog = new QFileDialog(parentWidget(), title, m_folder, tr("Settings (*.gps *.txt);;All files (*)"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(isNew ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog->setFileMode(isNew ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    if (isNew)
+        dialog->setDefaultSuffix(QStringLiteral("gps"));
+    connect(dialog, &QFileDialog::fileSelected, this, [this, use](const QString &path) {
+        m_folder = QFileInfo(path).absolutePath();
+        use(path);
+    });
+    dialog->open();
+}
+
+void SettingsMenu::askForSecondFile(const QString &first)
+{
+    askForFile(tr("Second File"), false, [this, first](const QString &second) { compareFiles(first, second); });
+}
+
+/** One job at a time: its window is modal. \a whenDone is called however it ended. */
+void SettingsMenu::start(const QString &title, const Work &work, const std::function<void()> &whenDone)
+{
+    if (m_job)
+        return;
+    m_whenDone = whenDone;
+    m_job = std::make_unique<SettingsJob>(title, work, parentWidget());
+    connect(m_job.get(), &SettingsJob::ended, this, &SettingsMenu::finish);
+    m_job->show();
+}
+
+void SettingsMenu::finish()
+{
+    SettingsJob *const job = m_job.release();
+    job->join();
+    job->disconnect(this); // it may be about to tell its end
+    job->hide();
+    job->deleteLater(); // this may be a slot of it
+    std::exchange(m_whenDone, {})();
+}
+
+void SettingsMenu::saveTo(const QString &path)
+{
+    if (!m_nodeMap)
+        return;
+    const auto task = std::make_shared<Task>();
+    task->path = path;
+    const auto work = [task, map = m_nodeMap](const SettingsProgress &progress) {
+        task->file = SettingsSaver(*map, progress).save();
+        try {
+            writeSettings(task->file, task->path);
+            task->isDone = true;
+        } catch (const SettingsError &e) {
+            task->failure = e.message;
+        }
+    };
+    start(tr("Save Settings"), work, [this, task] { reportSaved(*task); });
+}
+
+void SettingsMenu::reportSaved(const Task &task)
+{
+    if (!task.isDone)
+        return warn(task.failure.isEmpty() ? tr("Saving was interrupted; there is no file.") : task.failure);
+    const QString summary =
+        tr("%n line(s) have been saved in '%1'.", nullptr, task.file.settings.size()).arg(task.path);
+    Q_EMIT told(summary);
+    if (!task.file.remarks.isEmpty())
+        report(tr("Save Settings"), summary, {tr("What is missing, and why")}, rowsOf(task.file.remarks, 1));
+}
+
+void SettingsMenu::loadFrom(const QString &path)
+{
+    if (!m_nodeMap)
+        return;
+    const auto task = std::make_shared<Task>();
+    task->path = path;
+    const auto work = [task](const SettingsProgress &) {
+        try {
+            task->file = readSettings(task->path);
+            task->isDone = true;
+        } catch (const SettingsError &e) {
+            task->failure = e.message;
+        }
+    };
+    start(tr("Load Settings"), work, [this, task] {
+        if (!task->isDone)
+            warn(task->failure);
+        else if (m_nodeMap)
+            askAboutDevice(task);
+    });
+}
+
+/** Vendor and model, without the version. */
+void SettingsMenu::askAboutDevice(const std::shared_ptr<Task> &task)
+{
+    const auto modelOf = [](const QString &device) { return device.section(QLatin1String(" -- "), 0, 0); };
+    const QString present = FeatureMap(*m_nodeMap).device();
+    if (task->file.device.isEmpty() || modelOf(task->file.device) == modelOf(present))
+        return load(task);
+    auto *const box = new QMessageBox(QMessageBox::Question, tr("Load Settings"),
+                                      tr("The settings are those of another camera: %1.\nThis one is: %2.")
+                                          .arg(modelOf(task->file.device), modelOf(present)),
+                                      QMessageBox::Cancel, parentWidget());
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextFormat(Qt::PlainText); // the file and the camera have a part in it
+    const QAbstractButton *const loading = box->addButton(tr("&Load"), QMessageBox::AcceptRole);
+    connect(box, &QMessageBox::buttonClicked, this, [this, task, loading](const QAbstractButton *button) {
+        if (button == loading && m_nodeMap)
+            load(task);
+    });
+    box->open();
+}
+
+void SettingsMenu::load(const std::shared_ptr<Task> &task)
+{
+    const auto work = [task, map = m_nodeMap](const SettingsProgress &progress) {
+        task->loader = std::make_unique<SettingsLoader>(*map, task->file);
+        task->loader->load(progress);
+        task->results = task->loader->results();
+    };
+    start(tr("Load Settings"), work, [this, task] { reportLoaded(task, false); });
+}
+
+void SettingsMenu::putBack(const std::shared_ptr<Task> &task)
+{
+    const auto work = [task](const SettingsProgress &progress) {
+        task->loader->putBack(progress);
+        task->results = task->loader->results();
+    };
+    task->file.remarks.clear();
+    start(tr("Put Back"), work, [this, task] { reportLoaded(task, true); });
+}
+
+void SettingsMenu::reportLoaded(const std::shared_ptr<Task> &task, bool isPutBack)
+{
+    const QStringList columns{tr("Feature"), tr("Wanted"), tr("Camera"), tr("Reason")};
+    QVector<ReportRow> rows = rowsOf(task->file.remarks, columns.size());
+    const bool isComplete = task->loader->isComplete();
+    int set = 0;
+    int failed = 0;
+    for (const SettingResult &result : qAsConst(task->results)) {
+        const bool isSet = result.state == SettingResult::State::Set;
+        const bool hasFailed = result.state == SettingResult::State::Different;
+        set += isSet ? 1 : 0;
+        failed += hasFailed ? 1 : 0;
+        if (hasFailed || (isSet && !isComplete))
+            rows.append({textOf(result.setting.name),
+                         {nameWithContext(result.setting.name, result.context), textOf(result.setting.value),
+                          textOf(result.has), isSet ? tr("It has been set.") : result.reason}});
+    }
+    const QString summary = tr("%1 of %2 settings have been set, %3 could not be set; the others were so already.")
+                                .arg(set)
+                                .arg(task->results.size())
+                                .arg(failed);
+    Q_EMIT told(summary);
+    if (rows.isEmpty() && isComplete)
+        return;
+    const QString whole = isComplete ? summary : tr("It was interrupted.") + QLatin1Char(' ') + summary;
+    SettingsReport *const window = report(isPutBack ? tr("Put Back") : tr("Load Settings"), whole, columns, rows);
+    if (isPutBack || !m_nodeMap || !task->loader->hasWritten())
+        return;
+    window->offerPutBack();
+    connect(window, &SettingsReport::putBackWanted, this, [this, task] { putBack(task); });
+}
+
+void SettingsMenu::compareWith(const QString &path)
+{
+    if (!m_nodeMap)
+        return;
+    const auto task = std::make_shared<Task>();
+    task->path = path;
+    const auto work = [task, map = m_nodeMap](const SettingsProgress &progress) {
+        try {
+            task->file = readSettings(task->path);
+            task->differences = compareWithCamera(task->file, *map, progress);
+            task->isDone = true;
+        } catch (const SettingsError &e) {
+            task->failure = e.message;
+        }
+    };
+    start(tr("Compare"), work, [this, task] {
+        SettingsReport *const window = reportCompared(*task, task->path, tr("Camera"));
+        if (!window || !m_nodeMap)
+            return;
+        connect(window, &QDialog::finished, this, [this] { Q_EMIT featuresMarked({}); });
+        QStringList names;
+        for (const SettingDifference &difference : qAsConst(task->differences))
+            names.append(textOf(difference.name));
+        Q_EMIT featuresMarked(names);
+    });
+}
+
+void SettingsMenu::compareFiles(const QString &left, const QString &right)
+{
+    const auto task = std::make_shared<Task>();
+    const auto work = [task, left, right, map = m_nodeMap](const SettingsProgress &) {
+        try {
+            task->file = readSettings(left);
+            const SettingsFile other = readSettings(right);
+            task->differences = compareSettings(task->file, other, map ? selectorsOf(*map) : SelectorNames());
+            task->file.remarks += other.remarks;
+            task->isDone = true;
+        } catch (const SettingsError &e) {
+            task->failure = e.message;
+        }
+    };
+    start(tr("Compare"), work, [this, task, left, right] { reportCompared(*task, left, right); });
+}
+
+SettingsReport *SettingsMenu::reportCompared(const Task &task, const QString &left, const QString &right)
+{
+    if (!task.isDone) {
+        warn(task.failure.isEmpty() ? tr("Comparing was interrupted.") : task.failure);
+        return nullptr;
+    }
+    const QStringList columns{tr("Feature"), QFileInfo(left).fileName(), QFileInfo(right).fileName(), tr("Reason")};
+    QVector<ReportRow> rows = rowsOf(task.file.remarks, columns.size());
+    for (const SettingDifference &difference : task.differences) {
+        QString reason = difference.reason;
+        if (reason.isEmpty() && !(difference.isLeft && difference.isRight))
+            reason = tr("Only in '%1'.").arg(difference.isLeft ? left : right);
+        rows.append({textOf(difference.name),
+                     {nameWithContext(difference.name, difference.context), textOf(difference.left),
+                      textOf(difference.right), reason}});
+    }
+    return report(tr("Compare"),
+                  tr("%n difference(s) between '%1' and '%2'.", nullptr, task.differences.size()).arg(left, right),
+                  columns, rows);
+}
+
+SettingsReport *SettingsMenu::report(const QString &title, const QString &summary, const QStringList &columns,
+                                     const QVector<ReportRow> &rows)
+{
+    auto *const window = new SettingsReport(title, summary, columns, rows, parentWidget());
+    connect(window, &SettingsReport::featureChosen, this, &SettingsMenu::featureChosen);
+    window->show();
+    return window;
+}
+
+void SettingsMenu::warn(const QString &message)
+{
+    auto *const box = new QMessageBox(QMessageBox::Warning, tr("Settings"), message, QMessageBox::Ok, parentWidget());
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextFormat(Qt::PlainText); // a camera or a file may have a part in it
+    box->open();
+}
+
+void SettingsMenu::saveSettings(QSettings &settings) const
+{
+    settings.setValue(folderKey, m_folder);
+}
+
+void SettingsMenu::restoreSettings(const QSettings &settings)
+{
+    m_folder = settings.value(folderKey).toString();
+}

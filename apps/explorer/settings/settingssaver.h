@@ -1,0 +1,46 @@
+#pragma once
+
+#include "featuremap.h"
+
+#include <memory>
+
+/**
+ * Collects the settings of a camera: the streamable features that can be read and written at the moment, those that a
+ * selector selects for each of its entries. Of a camera that marks none as streamable all features, except those of its
+ * connection. Writes nothing but selectors, and puts these back, also when the progress interrupts it. What is missing
+ * is in the remarks.
+ */
+class SettingsSaver
+{
+public:
+    SettingsSaver(GenApi::INodeMap &map, SettingsProgress progress);
+    ~SettingsSaver();
+
+    SettingsFile save();
+
+    /** How many combinations of entries are visited below one selector. */
+    static constexpr int mostCombinations = 20000;
+
+private:
+    struct Block;
+    class KeptSelectors;
+
+    void plan();
+    void place(GenApi::INode *feature);
+    void saveItems(const Block &block);
+    void saveBlock(const Block &block);
+    void saveEntries(const Block &block, const QByteArray &now);
+    void saveFeature(GenApi::INode *feature);
+    void add(const QByteArray &name, const QByteArray &value);
+    void remark(GenApi::INode *feature, const QString &why);
+    void tell(GenApi::INode *feature);
+
+    FeatureMap m_map;
+    const SettingsProgress m_progress;
+    SettingsFile m_file;
+    std::unique_ptr<Block> m_root;
+    QVector<Setting> m_context; ///< selectors with their entries, outside in
+    int m_written = 0; ///< of them, lines in the file already
+    int m_combinations = 0; ///< visited below the present outermost selector
+    int m_done = 0; ///< items of the root
+};
