@@ -1,7 +1,11 @@
-#include "gvcpclient.h"
+#include "gigelink.h"
+#include "gvcpreader.h"
 
 #include <gigeserver.h>
 #include <orvtest.h>
+
+#include <atomic>
+#include <future>
 
 using namespace OrvCameraApi;
 using namespace std::chrono_literals;
@@ -30,6 +34,16 @@ std::string textOf(const Gvcp::Packet &packet)
 
 /** Short enough for tests of what never comes, and long enough for a machine that is busy. */
 constexpr GvcpPatience shortPatience{100ms, 3, 1000ms};
+
+/** What becomes of a read; "link" if only the link may. */
+QByteArray outcomeOf(GvcpReader &reader, std::uint32_t address, std::uint32_t length, void *buffer)
+{
+    try {
+        return reader.read(buffer, address, length, UdpSocket::Clock::now() + 10s) ? "read" : "link";
+    } catch (const LinkError &error) {
+        return error.kind() == LinkError::Kind::Silent ? "silent" : "failed";
+    }
+}
 
 } // namespace
 
@@ -106,6 +120,9 @@ private Q_SLOTS:
     void urls();
     void requests_data();
     void requests();
+    void readsAtOnce();
+    void readsOfParts();
+    void busyCameraIsAlive();
 
     void manyRegistersInFewPackets()
     {
@@ -162,6 +179,10 @@ private Q_SLOTS:
         QVERIFY(datagram && datagram->from == socket.local() && datagram->bytes == Gvcp::Packet{1});
         QVERIFY(socket.send({2}, socket.local()));
         QVERIFY(!socket.receive(UdpSocket::Clock::now()));
+        QVERIFY(socket.send(Gvcp::Packet(4000), socket.local())); // more than the protocol has
+        QVERIFY(socket.send({3}, socket.local()));
+        QCOMPARE(socket.receive(UdpSocket::Clock::now() + 20s)->bytes, Gvcp::Packet{2});
+        QCOMPARE(socket.receive(UdpSocket::Clock::now() + 20s)->bytes, Gvcp::Packet{3});
     }
 
 private:
@@ -170,6 +191,15 @@ private:
         return std::make_unique<GvcpClient>(0x7F000001, Endpoint{m_server->address(), m_server->port()}, patience);
     }
 
+    std::unique_ptr<GvcpReader> makeReader()
+    {
+        m_isWanted = true;
+        return std::make_unique<GvcpReader>(
+            0x7F000001, Endpoint{m_server->address(), m_server->port()}, [this] { return m_isWanted.load(); },
+            shortPatience);
+    }
+
+    std::atomic<bool> m_isWanted{true};
     std::unique_ptr<GigeServer> m_server;
     std::unique_ptr<GvcpClient> m_client;
 };
@@ -245,47 +275,143 @@ void TestGvcp::urls()
 void TestGvcp::requests_data()
 {
     QTest::addColumn<Faults>("faults");
-    QTest::addColumn<bool>("isAnswered");
+    QTest::addColumn<QByteArray>("outcome"); // of a reader; a client knows answered or not
     QTest::addColumn<int>("packets");
-    const auto row = [](const char *name, bool isAnswered, int packets, const std::function<void(Faults &)> &change) {
+    const auto row = [](const char *name, const char *outcome, int packets,
+                        const std::function<void(Faults &)> &change) {
         Faults faults;
         change(faults);
-        QTest::newRow(name) << faults << isAnswered << packets;
+        QTest::newRow(name) << faults << QByteArray(outcome) << packets;
     };
-    row("two are lost", true, 3, [](Faults &faults) { faults.lost = 2; });
-    row("three are lost", false, 3, [](Faults &faults) { faults.lost = 3; });
-    row("pending", true, 1, [](Faults &faults) {
+    row("two are lost", "read", 3, [](Faults &faults) { faults.lost = 2; });
+    row("three are lost", "silent", 3, [](Faults &faults) { faults.lost = 3; });
+    row("slow", "read", 3, [](Faults &faults) { faults.delay = 250ms; });
+    row("pending", "read", 1, [](Faults &faults) {
         faults.pending = 900;
         faults.delay = 300ms; // thrice as long as a packet is waited for
     });
-    row("pending for ever", false, 1, [](Faults &faults) {
+    row("pending for ever", "silent", 1, [](Faults &faults) {
         faults.pending = 0xFFFF;
         faults.delay = 60s;
     });
-    row("pending and forgotten", false, 3, [](Faults &faults) {
+    row("pending and forgotten", "silent", 3, [](Faults &faults) {
         faults.pending = 50;
         faults.delay = 60s;
     });
-    row("length below the packet", false, 1, [](Faults &faults) { faults.lengthError = -1; });
-    row("short", false, 1, [](Faults &faults) { faults.cut = 4; });
-    row("other request", false, 3, [](Faults &faults) { faults.idError = 1; });
-    row("other command", false, 3, [](Faults &faults) { faults.commandError = 2; });
-    row("other port", false, 3, [](Faults &faults) { faults.sender = GigeServer::Sender::OtherPort; });
-    row("other address", false, 3, [](Faults &faults) { faults.sender = GigeServer::Sender::OtherAddress; });
+    row("short", "failed", 1, [](Faults &faults) { faults.cut = 4; });
+    row("empty", "failed", 1, [](Faults &faults) { faults.cut = 100; });
+    row("busy", "failed", 1, [](Faults &faults) { faults.status = 0x8007; });
+    row("denied", "link", 1, [](Faults &faults) { faults.status = 0x8006; });
+    row("other request", "silent", 3, [](Faults &faults) { faults.idError = 1; });
+    row("other command", "silent", 3, [](Faults &faults) { faults.commandError = 2; });
+    row("other port", "silent", 3, [](Faults &faults) { faults.sender = GigeServer::Sender::OtherPort; });
+    row("other address", "silent", 3, [](Faults &faults) { faults.sender = GigeServer::Sender::OtherAddress; });
 }
 
 void TestGvcp::requests()
 {
     QFETCH(Faults, faults);
-    QFETCH(bool, isAnswered);
+    QFETCH(QByteArray, outcome);
     m_server->setFaults(faults);
     const auto values = m_client->readRegisters({GigeServer::CurrentAddress, GigeServer::CurrentMask});
     QTEST(m_server->count(), "packets");
-    QCOMPARE(values.has_value(), isAnswered);
+    QCOMPARE(values.has_value(), outcome == "read");
     if (values)
         QCOMPARE(*values, (std::vector<std::uint32_t>{m_server->address(), 0xFF000000}));
+
+    const std::unique_ptr<GvcpReader> reader = makeReader();
+    std::uint32_t read = 0x12345678;
+    m_server->setFaults(faults);
+    m_server->clearCounts();
+    QCOMPARE(outcomeOf(*reader, GigeServer::CurrentMask, 4, &read), outcome);
+    QTEST(m_server->count(), "packets");
+    QCOMPARE(read, outcome == "read" ? 0xFFU : 0x12345678U); // in the camera's order of bytes
+    QCOMPARE(reader->isCameraBusy(), faults.pending == 0xFFFF);
     m_server->setFaults({});
     QVERIFY(m_client->readRegisters({0})); // what has come too late does not disturb
+    QCOMPARE(outcomeOf(*reader, GigeServer::CurrentMask, 4, &read), QByteArray("read"));
+}
+
+/** Each thread gets what it has asked for, also beside one that waits for a slow register. */
+void TestGvcp::readsAtOnce()
+{
+    const std::unique_ptr<GvcpReader> reader = makeReader();
+    Faults faults;
+    faults.only = GigeServer::ReadMemory;
+    faults.pending = 60'000;
+    faults.delay = 500ms;
+    m_server->setFaults(faults);
+    const auto slow = std::async(std::launch::async, [&] {
+        std::uint64_t value = 0;
+        return outcomeOf(*reader, GigeServer::FreeMemory, 8, &value);
+    });
+    std::vector<std::future<int>> readers;
+    for (std::uint32_t id = 1; id <= 4; ++id) {
+        const std::uint32_t address = GigeServer::FreeMemory + 4 * id;
+        m_server->setValue(address, id << 24); // the lowest byte comes last
+        readers.push_back(std::async(std::launch::async, [&reader, address, id] {
+            int right = 0;
+            for (int i = 0; i < 100; ++i) {
+                std::uint32_t value = 0;
+                right += outcomeOf(*reader, address, 4, &value) == "read" && value == id ? 1 : 0;
+            }
+            return right;
+        }));
+    }
+    for (std::future<int> &each : readers)
+        QCOMPARE(each.get(), 100);
+    QVERIFY(slow.wait_for(0s) != std::future_status::ready);
+    slow.wait();
+}
+
+/** Bytes that do not begin or end where packets do, and those that are in no memory. */
+void TestGvcp::readsOfParts()
+{
+    const std::unique_ptr<GvcpReader> reader = makeReader();
+    std::string all(2000, ' ');
+    for (std::size_t i = 0; i < all.size(); ++i)
+        all[i] = char(i * 7 % 251);
+    m_server->setMemory(GigeServer::FreeMemory, all);
+    for (const auto &[offset, length] : {std::pair{0U, 1U}, {3U, 2U}, {5U, 3U}, {1U, 1500U}, {7U, 0U}}) {
+        std::string read(length, ' ');
+        QCOMPARE(outcomeOf(*reader, GigeServer::FreeMemory + offset, length, read.data()), QByteArray("read"));
+        QCOMPARE(read, all.substr(offset, length));
+    }
+    std::uint64_t nothing = 0;
+    m_server->clearCounts();
+    QCOMPARE(outcomeOf(*reader, 0xFFFFFFFC, 8, &nothing), QByteArray("failed"));
+    QCOMPARE(m_server->count(), 0);
+    m_isWanted = false;
+    QCOMPARE(outcomeOf(*reader, 0, 4, &nothing), QByteArray("failed"));
+    QCOMPARE(m_server->count(), 0);
+}
+
+void TestGvcp::busyCameraIsAlive()
+{
+    const auto always = [] { return true; };
+    const auto cannot = [](std::uint32_t, std::uint32_t, bool, const IsWanted &) -> std::unique_ptr<CameraLink> {
+        throw LinkError(LinkError::Kind::Failed, "Another library is not needed");
+    };
+    m_server->setDescription("<RegisterDescription/>");
+    m_server->setValue(GigeServer::HeartbeatTimeout, 60'000);
+    const std::unique_ptr<CameraLink> link = openGigeCamera(
+        0x7F000001, {m_server->address(), m_server->port()}, always, [] {}, cannot);
+    Faults faults;
+    faults.answersControllerOnly = true;
+    m_server->setFaults(faults);
+    QVERIFY(link->isAlive());
+
+    faults = {};
+    faults.pending = 60'000;
+    faults.delay = 60s; // until it has been asked twice
+    m_server->setFaults(faults);
+    std::uint32_t value = 0;
+    QVERIFY_EXCEPTION_THROWN(link->directReader()->read(&value, 0, 4, UdpSocket::Clock::now() + 200ms), LinkError);
+    m_server->clearCounts();
+    auto alive = std::async(std::launch::async, [&link] { return link->isAlive(); });
+    QTRY_COMPARE(m_server->count(GigeServer::ReadRegister), 2);
+    m_server->setFaults({});
+    QVERIFY(alive.get());
 }
 
 ORV_PLAIN_TEST_MAIN(TestGvcp)

@@ -26,14 +26,16 @@ using OrvTransports::Step;
 
 const char description[] = R"(<RegisterDescription ModelName="Small" VendorName="Somebody" SchemaMajorVersion="1"
     SchemaMinorVersion="1" SchemaSubMinorVersion="0">
-  <Category Name="Root"><pFeature>Width</pFeature></Category>
+  <Category Name="Root"><pFeature>Width</pFeature><pFeature>Wide</pFeature></Category>
   <IntReg Name="Width"><Address>0x20000</Address><Length>4</Length><AccessMode>RW</AccessMode><pPort>Device</pPort>
+    <Cachable>NoCache</Cachable><Sign>Unsigned</Sign><Endianess>BigEndian</Endianess></IntReg>
+  <IntReg Name="Wide"><Address>0x20000</Address><Length>8</Length><AccessMode>RO</AccessMode><pPort>Device</pPort>
     <Cachable>NoCache</Cachable><Sign>Unsigned</Sign><Endianess>BigEndian</Endianess></IntReg>
   <Port Name="Device"/>
 </RegisterDescription>
 )";
 
-const char archive[] = // of it
+const char archive[] = // of one with the width only
     "UEsDBBQAAAAIAAAAIQDRc/TIAQEAAMoBAAAFAAAAZC54bWxtUdFqwzAMfM9XBP+As7FH1dCtHQzaUhLWPju2SDwSO9juWP9+iuOu"
     "FKYX6+50SIehxs6EiH6DQXkzReNsuXcah4McccWaUQ4DK09otfOZciO2Tl9Z2ageR7mXX86f0AeyrtgTK0qqLBn7IGW6ubSPSsUE"
     "ueBNRuycv5bLotq5yARM7yjjxaM4Gx174H8Y+M2Q3B82UpjsTbNkXmvtMQRR/TxXVMBvBOzQdrEXL8BzB2ulSJnDi/pMk3cI09H5"
@@ -51,7 +53,7 @@ public:
         : GigeServer(address)
     {
         setDescription(description);
-        setMemory(widthRegister, std::string("\0\0\1\0", 4));
+        setMemory(widthRegister, std::string("\0\0\1\0\0\0\0\0", 8));
     }
 };
 
@@ -90,6 +92,12 @@ std::string dottedText(std::uint32_t address)
         .toStdString();
 }
 
+} // namespace
+
+Q_DECLARE_METATYPE(GigeServer::Faults)
+
+namespace {
+
 class TestRealCameras : public OrvTest::TestCase
 {
     Q_OBJECT
@@ -106,6 +114,8 @@ private Q_SLOTS:
     void descriptions_data();
     void descriptions();
     void cameraOfAnotherProgram();
+    void slowOrForbidden_data();
+    void slowOrForbidden();
     void addresses();
     void lossIsNoticedAndHealed();
     void twoCamerasAtOnce();
@@ -246,6 +256,48 @@ void TestRealCameras::cameraOfAnotherProgram()
     QCOMPARE(OrvTransports::problems().size(), std::size_t(2));
     OrvTransports::use(OrvTransports::Cameras::Simulated);
     QVERIFY(OrvTransports::problems().empty());
+}
+
+void TestRealCameras::slowOrForbidden_data()
+{
+    QTest::addColumn<GigeServer::Faults>("faults");
+    QTest::addColumn<bool>("isRead");
+    GigeServer::Faults faults;
+    faults.answersControllerOnly = true;
+    QTest::newRow("for the controller only") << faults << true;
+    faults = {};
+    faults.only = GigeServer::ReadMemory;
+    faults.delay = std::chrono::milliseconds(700);
+    QTest::newRow("slow") << faults << true;
+    faults.delay = std::chrono::milliseconds(1500);
+    QTest::newRow("slower") << faults << false;
+    faults.isSilent = true;
+    QTest::newRow("silent") << faults << false;
+}
+
+/** A register that is not as the others are does not lose the camera. */
+void TestRealCameras::slowOrForbidden()
+{
+    QFETCH(GigeServer::Faults, faults);
+    QFETCH(bool, isRead);
+    SmallCamera server;
+    const Held<OrvCam::System> system = systemWith(server);
+    OrvCam::DeviceInfo *const info = findCamera(*system);
+    QVERIFY(info);
+    OpenCamera camera(info);
+    QTRY_COMPARE(camera.connected.load(), 1);
+    OrvGenParam::Array *const parameters = camera.parameters();
+    server.setFaults(faults);
+    OrvCamErr err = OrvCamErr_Ok;
+    const std::int64_t value = parameters->GetInt("Wide", nullptr)->GetValue(&err);
+    QCOMPARE(err == OrvCamErr_Ok, isRead);
+    QCOMPARE(value, isRead ? std::int64_t(256) << 32 : 0);
+    server.clearCounts();
+    QTRY_VERIFY(camera.width()->GetValue(&err) == 256 && err == OrvCamErr_Ok);
+    QTRY_VERIFY(server.count(GigeServer::ReadRegister) > 4); // has been asked whether it lives
+    QCOMPARE(camera.width()->SetValue(512), OrvCamErr_Ok);
+    QCOMPARE(camera.width()->GetValue(nullptr), 512);
+    QVERIFY(camera.connected == 1 && camera.disconnected == 0);
 }
 
 void TestRealCameras::addresses()

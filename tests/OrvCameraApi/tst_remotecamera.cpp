@@ -55,6 +55,9 @@ struct Camera
     Gate reading;
     Gate checking;
     Gate closing;
+    Gate direct; ///< reads beside the link
+    std::atomic<bool> isDirect{false};
+    std::atomic<Fault> directFault{Fault::None};
     std::atomic<Fault> openFault{Fault::None};
     std::atomic<Fault> descriptionFault{Fault::None};
     std::atomic<Fault> accessFault{Fault::None};
@@ -67,7 +70,7 @@ struct Camera
 
     void setOpen(bool isOpen)
     {
-        for (Gate *gate : {&opening, &describing, &reading, &checking, &closing})
+        for (Gate *gate : {&opening, &describing, &reading, &checking, &closing, &direct})
             gate->setOpen(isOpen);
     }
 };
@@ -89,6 +92,28 @@ void raise(Fault fault)
         throw 42;
     }
 }
+
+class Direct final : public DirectReader
+{
+public:
+    explicit Direct(std::shared_ptr<Camera> camera)
+        : m_camera(std::move(camera))
+    {
+    }
+
+    bool read(void *buffer, std::uint64_t, std::uint32_t length, std::chrono::steady_clock::time_point) override
+    {
+        m_camera->direct.pass();
+        if (m_camera->directFault == Fault::Denied)
+            return false;
+        raise(m_camera->directFault);
+        std::fill_n(static_cast<std::uint8_t *>(buffer), length, m_camera->byte.load());
+        return true;
+    }
+
+private:
+    const std::shared_ptr<Camera> m_camera;
+};
 
 class Link final : public CameraLink
 {
@@ -132,10 +157,12 @@ public:
         raise(m_camera->checkFault);
         return m_camera->isAlive;
     }
+    std::shared_ptr<DirectReader> directReader() override { return m_direct; }
 
 private:
     const std::shared_ptr<Camera> m_camera;
     const IsWanted m_isWanted;
+    const std::shared_ptr<Direct> m_direct = m_camera->isDirect ? std::make_shared<Direct>(m_camera) : nullptr;
 };
 
 class Listener final : public ConnectionListener
@@ -258,7 +285,7 @@ private Q_SLOTS:
         std::array<std::uint8_t, 3> read{};
         m_remote->Read(read.data(), 0x1000, 2);
         QCOMPARE(read, (std::array<std::uint8_t, 3>{0x5A, 0x5A, 0}));
-        QCOMPARE(m_remote->accessCount(), std::uint64_t(2));
+        QCOMPARE(m_camera->reading.arrived(), 1);
     }
 
     void accessFaults_data()
@@ -275,12 +302,15 @@ private Q_SLOTS:
     void accessFaults()
     {
         QFETCH(Fault, fault);
-        for (const bool isWrite : {false, true}) {
+        for (const auto &[isWrite, isDirect] : {std::pair{false, false}, {true, false}, {false, true}}) {
+            m_camera->isDirect = isDirect;
             m_patience.check = 10ms; // for the return of a silent camera
             startConnected();
             m_camera->accessFault = fault;
+            m_camera->directFault = fault;
             QTEST(failureOf(*m_remote, isWrite), "failure");
             m_camera->accessFault = Fault::None;
+            m_camera->directFault = Fault::None;
             QTRY_COMPARE(failureOf(*m_remote, isWrite), QByteArray());
         }
     }
@@ -427,6 +457,79 @@ private Q_SLOTS:
         RemoteCamera::waitForClosed();
         QCOMPARE(m_camera->opened.load(), 0);
         QCOMPARE(m_listener->events(), QStringList());
+    }
+
+    /** Neither for one another nor for the link. */
+    void readersDoNotWait()
+    {
+        m_camera->isDirect = true;
+        startConnected();
+        m_camera->direct.setOpen(false);
+        m_camera->byte = 7;
+        const auto read = [remote = m_remote] {
+            std::uint8_t byte = 0;
+            remote->Read(&byte, 0, 1);
+            return byte;
+        };
+        auto first = std::async(std::launch::async, read);
+        auto second = std::async(std::launch::async, read);
+        QTRY_COMPARE(m_camera->direct.arrived(), 2);
+        QCOMPARE(failureOf(*m_remote, true), QByteArray()); // writes 0
+        m_camera->direct.setOpen(true);
+        QCOMPARE(int(first.get() + second.get()), 0);
+        QCOMPARE(m_camera->reading.arrived(), 0);
+
+        m_camera->direct.setOpen(false);
+        const std::shared_ptr<RemoteCamera> kept = m_remote;
+        auto last = std::async(std::launch::async, read);
+        QTRY_COMPARE(m_camera->direct.arrived(), 3);
+        RemoteCamera::close(std::move(m_remote)); // does not wait for the gate
+        RemoteCamera::waitForClosed();
+        QCOMPARE(failureOf(*kept), QByteArray("access"));
+        m_camera->direct.setOpen(true);
+        last.wait();
+        QCOMPARE(m_camera->direct.arrived(), 3);
+    }
+
+    /** A camera that answers nobody but its controller is read by the link from then on. */
+    void readersThatAreDenied()
+    {
+        m_camera->isDirect = true;
+        startConnected();
+        m_camera->directFault = Fault::Denied;
+        m_camera->accessFault = Fault::Failed; // that register is for nobody
+        QCOMPARE(failureOf(*m_remote), QByteArray("other"));
+        m_camera->accessFault = Fault::None;
+        for (int reads = 2; reads < 5; ++reads) {
+            QCOMPARE(failureOf(*m_remote), QByteArray());
+            QCOMPARE(m_camera->reading.arrived(), reads);
+        }
+        QCOMPARE(m_camera->direct.arrived(), 2);
+        QCOMPARE(m_listener->events().size(), 2);
+    }
+
+    /** While the thread asks whether the camera lives nobody else waits for it. */
+    void readerWithoutAnAnswer()
+    {
+        m_camera->isDirect = true;
+        startConnected();
+        m_camera->checking.setOpen(false);
+        m_camera->directFault = Fault::Silent;
+        for (int i = 0; i < 3; ++i)
+            QCOMPARE(failureOf(*m_remote), QByteArray("timeout"));
+        QCOMPARE(failureOf(*m_remote, true), QByteArray("timeout"));
+        QCOMPARE(m_camera->direct.arrived(), 1);
+        m_camera->directFault = Fault::None;
+        m_camera->checking.setOpen(true);
+        QTRY_COMPARE(failureOf(*m_remote), QByteArray());
+        QCOMPARE(m_listener->events().size(), 2); // silent is not lost
+
+        m_camera->isAlive = false;
+        m_camera->openFault = Fault::Silent;
+        m_camera->directFault = Fault::Silent;
+        QCOMPARE(failureOf(*m_remote), QByteArray("timeout"));
+        QTRY_COMPARE(m_remote->state(), RemoteCamera::State::Lost);
+        QCOMPARE(failureOf(*m_remote), QByteArray("access"));
     }
 
     /** Applications may do so in their callbacks, which run on the camera's thread. */

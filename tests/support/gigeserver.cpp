@@ -256,7 +256,10 @@ void GigeServer::answer(const Request &request)
     Bytes payload;
     if (request.command == ForceIp && !forceIp(request.payload))
         return;
-    const std::uint16_t status = perform(request, payload);
+    const bool isForeign = m_controller != Endpoint{} && request.from != m_controller;
+    const std::uint16_t status = faults.status != 0 ? faults.status
+        : faults.answersControllerOnly && isForeign ? accessDenied
+                                                    : perform(request, payload);
     if (status != success)
         payload.clear();
     payload.resize(payload.size() - std::min<std::size_t>(payload.size(), faults.cut));

@@ -72,7 +72,9 @@ public:
         std::uint16_t idError = 0; ///< added to the request id of an answer
         std::uint16_t commandError = 0; ///< added to the command that an answer names
         Sender sender = Sender::Itself;
+        std::uint16_t status = 0; ///< of an answer; the request is not performed unless it is 0
         bool deniesControl = false;
+        bool answersControllerOnly = false; ///< while there is one
     };
 
     /** Bound to \a address of the loopback network, with a port of the system's choice for 0. */

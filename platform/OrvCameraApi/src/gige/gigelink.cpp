@@ -1,7 +1,6 @@
 #include "gigelink.h"
 
-#include "gvcpclient.h"
-#include "wirespan.h"
+#include "gvcpreader.h"
 
 #include <OrvGenApi/ziparchive.h>
 
@@ -128,45 +127,14 @@ public:
 private:
     static constexpr std::uint32_t control = 2; ///< of ControlPrivilege
 
-    Gvcp::Packet require(const Gvcp::Packet &packet);
-    void read(WireSpan &span);
+    void require(const Gvcp::Packet &packet) { answerTo(packet, m_client); }
+    void read(WireSpan &span) { readSpan(span, m_client, m_isWanted); }
 
     GvcpClient m_client;
     const bool m_isReadOnly;
     const Gvcp::DescriptionFile m_file;
     const IsWanted m_isWanted;
 };
-
-/** The payload of the answer. Throws if the camera refuses or does not answer. */
-Gvcp::Packet GvcpTransport::require(const Gvcp::Packet &packet)
-{
-    const std::optional<Gvcp::Acknowledge> answer = m_client.request(packet);
-    if (!answer)
-        throwSilent();
-    if (answer->status == Gvcp::Status::AccessDenied)
-        throw LinkError(LinkError::Kind::Denied, "Another program has taken the camera");
-    if (answer->status != Gvcp::Status::Success)
-        throw LinkError(LinkError::Kind::Failed, "The camera refuses the access");
-    return answer->payload;
-}
-
-void GvcpTransport::read(WireSpan &span)
-{
-    constexpr std::size_t echo = 4; // the address stands before the bytes
-    const bool isRegister = span.bytes.size() == 4;
-    for (std::size_t done = 0; done < span.bytes.size();) {
-        requireWanted(m_isWanted);
-        const std::size_t count = std::min(span.bytes.size() - done, Gvcp::mostMemory);
-        const auto at = std::uint32_t(span.begin + done);
-        const Gvcp::Packet answer = require(isRegister ? Gvcp::readRegisters(m_client.nextId(), {at})
-                                                       : Gvcp::readMemory(m_client.nextId(), at, std::uint16_t(count)));
-        const std::size_t skipped = isRegister ? 0 : echo;
-        if (answer.size() != skipped + count)
-            throw LinkError(LinkError::Kind::Failed, "The camera answers with a wrong length");
-        std::copy(answer.begin() + std::ptrdiff_t(skipped), answer.end(), span.bytes.begin() + std::ptrdiff_t(done));
-        done += count;
-    }
-}
 
 void GvcpTransport::read(void *buffer, std::uint64_t address, std::uint32_t length)
 {
@@ -200,9 +168,12 @@ void GvcpTransport::write(const void *buffer, std::uint64_t address, std::uint32
 class GigeLink final : public CameraLink
 {
 public:
-    GigeLink(std::unique_ptr<CameraLink> transport, std::uint32_t adapter, const Endpoint &device, std::string unpacked)
+    GigeLink(std::unique_ptr<CameraLink> transport, std::uint32_t adapter, const Endpoint &device,
+             const IsWanted &isWanted, std::string unpacked)
         : m_transport(std::move(transport))
-        , m_client(adapter, device)
+        , m_client(adapter, device, lifePatience)
+        , m_reader(std::make_shared<GvcpReader>(adapter, device, isWanted))
+        , m_isWanted(isWanted)
         , m_unpacked(std::move(unpacked))
     {
     }
@@ -219,26 +190,36 @@ public:
         checkRange(address, length);
         m_transport->write(buffer, address, length);
     }
-    bool isAlive() override
-    {
-        const std::optional<std::vector<std::uint32_t>> privilege = m_client.readRegisters({Gvcp::ControlPrivilege});
-        // Gone, restarted, or free for this program by now.
-        return privilege && privilege->front() != 0 && m_transport->isAlive();
-    }
+    bool isAlive() override { return doesPrivilegeLast() && m_transport->isAlive(); }
+    std::shared_ptr<DirectReader> directReader() override { return m_reader; }
 
 private:
-    /** Cut off on its way, an address would be that of another register. */
-    static void checkRange(std::uint64_t address, std::uint32_t length)
-    {
-        constexpr std::uint64_t end = std::uint64_t(1) << 32;
-        if (address >= end || length > end - address)
-            throw LinkError(LinkError::Kind::Failed, "The camera has no such register");
-    }
+    /** What somebody reads meanwhile may take the camera a while. */
+    static constexpr GvcpPatience lifePatience{std::chrono::milliseconds(300), 5, std::chrono::milliseconds(1500)};
+
+    bool doesPrivilegeLast();
 
     const std::unique_ptr<CameraLink> m_transport;
     GvcpClient m_client;
+    const std::shared_ptr<GvcpReader> m_reader;
+    const IsWanted m_isWanted;
     const std::string m_unpacked; ///< the description, if the camera has it in an archive
 };
+
+/** False if the camera is gone, restarted, or free for this program by now. */
+bool GigeLink::doesPrivilegeLast()
+{
+    std::optional<Gvcp::Acknowledge> answer;
+    do {
+        answer = m_client.request(Gvcp::readRegisters(m_client.nextId(), {Gvcp::ControlPrivilege}));
+    } while (!answer && m_reader->isCameraBusy() && m_isWanted());
+    if (!answer)
+        return false;
+    if (answer->status == Gvcp::Status::AccessDenied)
+        return !isReadOnly(); // it answers none but its controller, which is the one below
+    const std::optional<std::vector<std::uint32_t>> privilege = Gvcp::registersIn(answer->payload, 1);
+    return answer->status == Gvcp::Status::Success && privilege && privilege->front() != 0;
+}
 
 /**
  * Through the library below, unless it might fetch the description from outside the camera, or cannot read it: it knows
@@ -268,7 +249,7 @@ std::unique_ptr<CameraLink> openGigeCamera(std::uint32_t adapter, const Endpoint
     const Source source = sourceOf(client);
     std::string unpacked = source.file.isArchive() ? fetch(client, source.file, isWanted) : std::string();
     return std::make_unique<GigeLink>(openTransport(adapter, device, isReadOnly, source, isWanted, open), adapter,
-                                      device, std::move(unpacked));
+                                      device, isWanted, std::move(unpacked));
 }
 
 } // namespace OrvCameraApi

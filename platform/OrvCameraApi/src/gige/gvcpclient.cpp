@@ -21,29 +21,34 @@ std::uint16_t GvcpClient::nextId()
     return m_id;
 }
 
-std::optional<Gvcp::Acknowledge> GvcpClient::request(const Gvcp::Packet &packet)
+std::optional<Gvcp::Acknowledge> GvcpClient::request(const Gvcp::Packet &packet, UdpSocket::Clock::time_point deadline)
 {
     if (!m_socket.isOpen())
         return std::nullopt;
     const auto command = Gvcp::Command(packet.at(2) << 8 | packet.at(3));
     const auto id = std::uint16_t(packet.at(6) << 8 | packet.at(7));
-    const auto end = UdpSocket::Clock::now() + m_patience.longest;
+    m_busyUntil = {};
+    const auto end = std::min(deadline, UdpSocket::Clock::now() + m_patience.longest);
     for (int attempt = 0; attempt < m_patience.attempts; ++attempt) {
         m_socket.send(packet, m_device);
-        auto deadline = std::min(end, UdpSocket::Clock::now() + m_patience.once);
-        while (const std::optional<Datagram> datagram = m_socket.receive(deadline)) {
+        auto attemptEnd = std::min(end, UdpSocket::Clock::now() + m_patience.once);
+        while (const std::optional<Datagram> datagram = m_socket.receive(attemptEnd)) {
             if (datagram->from != m_device)
                 continue;
             std::optional<Gvcp::Acknowledge> answer =
                 Gvcp::acknowledgeIn(datagram->bytes.data(), datagram->bytes.size());
             if (!answer || answer->id != id)
                 continue;
-            if (answer->command == command)
+            if (answer->command == command) {
+                m_busyUntil = {};
                 return answer;
+            }
             if (answer->command != Gvcp::Command::Pending)
                 continue;
-            if (const std::optional<std::uint16_t> time = Gvcp::pendingTime(answer->payload))
-                deadline = std::min(end, UdpSocket::Clock::now() + std::chrono::milliseconds(*time));
+            if (const std::optional<std::uint16_t> time = Gvcp::pendingTime(answer->payload)) {
+                m_busyUntil = UdpSocket::Clock::now() + std::chrono::milliseconds(*time);
+                attemptEnd = std::min(end, m_busyUntil);
+            }
         }
         if (UdpSocket::Clock::now() >= end || (m_isWanted && !m_isWanted()))
             break;

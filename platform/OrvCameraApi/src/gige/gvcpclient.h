@@ -36,8 +36,17 @@ public:
     /** \a length bytes; none if the device does not answer or refuses. */
     std::optional<Gvcp::Packet> readMemory(std::uint32_t address, std::uint32_t length);
 
-    /** The acknowledge of \a packet; packets from elsewhere and for other requests are ignored. */
-    std::optional<Gvcp::Acknowledge> request(const Gvcp::Packet &packet);
+    /**
+     * The acknowledge of \a packet, before \a deadline; packets from elsewhere and for other requests are ignored. One
+     * that the system does not send is as one that got lost.
+     */
+    std::optional<Gvcp::Acknowledge>
+    request(const Gvcp::Packet &packet, UdpSocket::Clock::time_point deadline = UdpSocket::Clock::time_point::max());
+
+    bool isOpen() const { return m_socket.isOpen(); }
+
+    /** Until when the device has asked to be waited for, if it has not answered the last request. */
+    UdpSocket::Clock::time_point busyUntil() const { return m_busyUntil; }
 
     std::uint16_t nextId();
 
@@ -47,6 +56,7 @@ private:
     const GvcpPatience m_patience;
     const std::function<bool()> m_isWanted;
     std::uint16_t m_id = 0;
+    UdpSocket::Clock::time_point m_busyUntil;
 };
 
 } // namespace OrvCameraApi

@@ -16,6 +16,8 @@ namespace OrvCameraApi {
 
 namespace {
 
+constexpr std::size_t largestDatagram = 2048; ///< thrice what the control protocol allows
+
 sockaddr_in toSystem(const Endpoint &endpoint)
 {
     sockaddr_in address{};
@@ -112,17 +114,15 @@ std::optional<Datagram> UdpSocket::receive(Clock::time_point deadline) const
             std::find_if(waiting.begin() + 1, waiting.end(), [](const pollfd &each) { return each.revents != 0; });
         if (filled == waiting.end())
             continue;
-        Datagram datagram;
-        datagram.bytes.resize(65536);
+        std::array<std::uint8_t, largestDatagram> bytes; // NOLINT(cppcoreguidelines-pro-type-member-init)
         sockaddr_in from{};
         socklen_t size = sizeof from;
-        const ssize_t count = ::recvfrom(filled->fd, datagram.bytes.data(), datagram.bytes.size(), 0,
-                                         reinterpret_cast<sockaddr *>(&from), &size);
-        if (count < 0)
-            continue; // an error that an earlier packet has left, for instance that nobody listens
-        datagram.bytes.resize(std::size_t(count));
-        datagram.from = fromSystem(from);
-        return datagram;
+        const ssize_t count =
+            ::recvfrom(filled->fd, bytes.data(), bytes.size(), MSG_TRUNC, reinterpret_cast<sockaddr *>(&from), &size);
+        // Below 0 is an error that an earlier packet has left, for instance that nobody listens.
+        if (count < 0 || std::size_t(count) > bytes.size())
+            continue;
+        return Datagram{fromSystem(from), {bytes.begin(), bytes.begin() + count}};
     }
 }
 

@@ -49,7 +49,7 @@ public:
 
     bool send(const std::vector<std::uint8_t> &bytes, const Endpoint &to) const;
 
-    /** The next datagram; none at \a deadline, or once wake() has been called. */
+    /** The next datagram; none at \a deadline, or once wake() has been called. One above 2 KiB is dropped. */
     std::optional<Datagram> receive(Clock::time_point deadline) const;
 
     /** Ends the receive() that is running and all later ones; any thread. */

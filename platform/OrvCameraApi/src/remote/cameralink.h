@@ -1,7 +1,9 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <stdexcept>
 #include <string>
 
@@ -46,6 +48,21 @@ inline void requireWanted(const IsWanted &isWanted)
         throw LinkError(LinkError::Kind::Unwanted, "Nobody waits for the camera any more");
 }
 
+/** Reads an open camera beside its link, without waiting for the thread of that. Any thread may use it, some at once.
+ */
+class DirectReader
+{
+public:
+    virtual ~DirectReader() = default;
+
+    /**
+     * As CameraLink::read(), until \a deadline. False if only the link may read: what the camera keeps for whoever
+     * controls it, or all of it.
+     */
+    virtual bool read(void *buffer, std::uint64_t address, std::uint32_t length,
+                      std::chrono::steady_clock::time_point deadline) = 0;
+};
+
 /**
  * An open camera at the other end of a wire. Its functions may take seconds; one thread uses them. They throw
  * LinkError.
@@ -69,6 +86,9 @@ public:
      * Asked while there is nothing else to do; may ask the camera.
      */
     virtual bool isAlive() = 0;
+
+    /** The same one each time; null if all is read through the link. It may outlive the link. */
+    virtual std::shared_ptr<DirectReader> directReader() { return nullptr; }
 };
 
 } // namespace OrvCameraApi

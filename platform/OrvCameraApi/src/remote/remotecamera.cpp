@@ -62,13 +62,18 @@ RunningCameras &runningCameras()
     throw GenICam::TimeoutException("The camera does not answer", __FILE__, __LINE__);
 }
 
-/** A copy of those in \a buffer, or zeros without one. */
-std::vector<std::uint8_t> bytesOf(const void *buffer, std::int64_t length)
+std::uint32_t checkedLength(std::int64_t length)
 {
     constexpr std::int64_t longest = 1 << 20;
     if (length < 0 || length > longest)
         throw GenICam::OutOfRangeException("The register is too long", __FILE__, __LINE__);
-    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(length));
+    return std::uint32_t(length);
+}
+
+/** A copy of those in \a buffer, or zeros without one. */
+std::vector<std::uint8_t> bytesOf(const void *buffer, std::int64_t length)
+{
+    std::vector<std::uint8_t> bytes(checkedLength(length));
     if (buffer)
         std::copy_n(static_cast<const std::uint8_t *>(buffer), bytes.size(), bytes.begin());
     return bytes;
@@ -87,6 +92,20 @@ std::exception_ptr forCallers(const LinkError &error)
         break;
     }
     return std::make_exception_ptr(GenICam::RuntimeException(error.what(), __FILE__, __LINE__));
+}
+
+/** The same for what is being handled. */
+std::exception_ptr forCallers()
+{
+    try {
+        throw;
+    } catch (const LinkError &error) {
+        return forCallers(error);
+    } catch (const std::exception &error) {
+        return std::make_exception_ptr(GenICam::RuntimeException(error.what(), __FILE__, __LINE__));
+    } catch (...) {
+        return std::make_exception_ptr(GenICam::RuntimeException("The access failed", __FILE__, __LINE__));
+    }
 }
 
 } // namespace
@@ -154,12 +173,6 @@ void RemoteCamera::addListener(std::weak_ptr<ConnectionListener> listener)
     m_listeners.push_back(std::move(listener));
 }
 
-std::uint64_t RemoteCamera::accessCount() const
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_accessCount;
-}
-
 std::shared_ptr<GenApi::INodeMap> RemoteCamera::takeNodeMap()
 {
     {
@@ -174,8 +187,60 @@ std::shared_ptr<GenApi::INodeMap> RemoteCamera::takeNodeMap()
 
 void RemoteCamera::Read(void *buffer, std::int64_t address, std::int64_t length)
 {
+    const std::shared_ptr<DirectReader> reader = directReader();
+    if (reader && readDirectly(*reader, buffer, std::uint64_t(address), checkedLength(length)))
+        return;
     const std::shared_ptr<Access> done = access(false, address, bytesOf(nullptr, length));
     std::copy(done->bytes.begin(), done->bytes.end(), static_cast<std::uint8_t *>(buffer));
+    if (!reader)
+        return;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_directReader == reader)
+        m_directReader.reset(); // the camera answers its controller only
+}
+
+/** Throws unless the camera can be asked now. Null if that has to be by the link, as in the thread's own callbacks. */
+std::shared_ptr<DirectReader> RemoteCamera::directReader()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (!m_directReader || std::this_thread::get_id() == m_threadId)
+        return nullptr;
+    requireAnswering();
+    return m_directReader;
+}
+
+/** False if only the link may read that. */
+bool RemoteCamera::readDirectly(DirectReader &reader, void *buffer, std::uint64_t address, std::uint32_t length)
+{
+    try {
+        return reader.read(buffer, address, length, std::chrono::steady_clock::now() + m_patience.access);
+    } catch (const LinkError &error) {
+        if (error.kind() == LinkError::Kind::Silent)
+            doubt();
+        if (error.kind() == LinkError::Kind::Unwanted)
+            throwNoAnswer(); // to an access of somebody else, or the camera has been closed
+        std::rethrow_exception(forCallers(error));
+    } catch (...) {
+        std::rethrow_exception(forCallers());
+    }
+}
+
+/** The camera has not answered, and the thread shall see to it. */
+void RemoteCamera::doubt()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_isSilent = true;
+    m_isInDoubt = true;
+    m_changed.notify_all();
+}
+
+/** With the mutex held. */
+void RemoteCamera::requireAnswering() const
+{
+    if (m_state != State::Connected || m_isEnding)
+        throwNotConnected();
+    if (m_isSilent)
+        throwNoAnswer();
 }
 
 void RemoteCamera::Write(const void *buffer, std::int64_t address, std::int64_t length)
@@ -193,18 +258,16 @@ std::shared_ptr<RemoteCamera::Access> RemoteCamera::access(bool isWrite, std::in
     access->address = std::uint64_t(address);
     access->bytes = std::move(bytes);
     Lock lock(m_mutex);
-    if (m_state != State::Connected || m_isEnding)
-        throwNotConnected();
     if (std::this_thread::get_id() == m_threadId) { // a callback of the application, told of the connection
-        ++m_accessCount;
+        if (m_state != State::Connected || m_isEnding)
+            throwNotConnected();
         lock.unlock();
         perform(*access);
         if (access->failure)
             std::rethrow_exception(access->failure);
         return access;
     }
-    if (m_isSilent)
-        throwNoAnswer();
+    requireAnswering();
     m_waiting.push_back(access);
     m_changed.notify_all();
     if (!m_changed.wait_for(lock, m_patience.access, [&] { return access->isDone; })) {
@@ -239,6 +302,7 @@ void RemoteCamera::run()
         pause = std::min(2 * pause, m_patience.longestRetry);
     }
     failWaiting();
+    m_directReader.reset();
     lock.unlock();
     m_link.reset();
 }
@@ -296,6 +360,8 @@ bool RemoteCamera::openLink()
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_failure.clear();
         m_isSilent = false;
+        m_isInDoubt = false;
+        m_directReader = m_link->directReader();
         m_state = State::Connected;
     }
     raise(OrvCam::EventDeviceConnected);
@@ -356,16 +422,17 @@ void RemoteCamera::serve()
     bool isGood = true;
     Clock::time_point nextCheck = Clock::now() + m_patience.check;
     Lock lock(m_mutex);
-    m_isSilent = false; // whoever has given up meanwhile has waited for this thread, not for the camera
+    noteAnswer(true); // whoever has given up meanwhile has waited for this thread, not for the camera
     while (isGood) {
-        m_changed.wait_until(lock, nextCheck, [this] { return m_isEnding || !m_waiting.empty(); });
+        m_changed.wait_until(lock, nextCheck, [this] { return m_isEnding || m_isInDoubt || !m_waiting.empty(); });
         if (m_isEnding)
             return;
-        if (Clock::now() >= nextCheck) { // also while there is always something to do
+        if (m_isInDoubt || Clock::now() >= nextCheck) { // also while there is always something to do
+            m_isInDoubt = false;
             lock.unlock();
             isGood = isLinkAlive();
             lock.lock();
-            m_isSilent = m_isSilent && !isGood;
+            noteAnswer(isGood);
             nextCheck = Clock::now() + m_patience.check;
             continue;
         }
@@ -373,17 +440,22 @@ void RemoteCamera::serve()
             continue;
         const std::shared_ptr<Access> access = m_waiting.front();
         m_waiting.pop_front();
-        ++m_accessCount;
         lock.unlock();
         isGood = perform(*access);
         lock.lock();
         access->isDone = true;
         m_isGivenUp = false;
-        m_isSilent = m_isSilent && !isGood;
+        noteAnswer(isGood);
         m_changed.notify_all();
     }
     lock.unlock();
     lose();
+}
+
+/** With the mutex held: whether the camera has answered the thread. A doubt that has come up since goes on. */
+void RemoteCamera::noteAnswer(bool hasAnswered)
+{
+    m_isSilent = m_isSilent && (m_isInDoubt || !hasAnswered);
 }
 
 bool RemoteCamera::isLinkAlive()
@@ -407,10 +479,8 @@ bool RemoteCamera::perform(Access &access)
         access.failure = forCallers(error);
         const bool isOver = error.kind() == LinkError::Kind::Failed || error.kind() == LinkError::Kind::Unwanted;
         return isOver || (error.kind() == LinkError::Kind::Denied && isLinkAlive());
-    } catch (const std::exception &error) {
-        access.failure = std::make_exception_ptr(GenICam::RuntimeException(error.what(), __FILE__, __LINE__));
     } catch (...) {
-        access.failure = std::make_exception_ptr(GenICam::RuntimeException("The access failed", __FILE__, __LINE__));
+        access.failure = forCallers();
     }
     return true;
 }
@@ -421,6 +491,7 @@ void RemoteCamera::lose()
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_state = State::Lost;
+        m_directReader.reset();
         failWaiting();
     }
     raise(OrvCam::EventDeviceDisconnected);

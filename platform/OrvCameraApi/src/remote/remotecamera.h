@@ -25,8 +25,9 @@ namespace OrvCameraApi {
  *
  * The thread opens the camera, fetches its description and makes a node map of it. When that is done, and after each
  * return of a camera that was lost, the listeners get OrvCam::EventDeviceConnected; upon a loss they get
- * OrvCam::EventDeviceDisconnected. An access that takes too long throws, and as long as the camera still has not
- * answered it, further ones throw at once. An attempt to open that fails is repeated, with pauses that grow.
+ * OrvCam::EventDeviceDisconnected. Whoever reads does so directly, where the link offers that; all else is done by the
+ * thread. An access that takes too long throws, and as long as the camera still has not answered it, or another
+ * question of the thread, further ones throw at once. An attempt to open that fails is repeated, with pauses that grow.
  */
 class RemoteCamera final : public GenApi::IPort
 {
@@ -77,9 +78,6 @@ public:
     /** Becomes true when the camera has been closed and its link is gone. */
     std::shared_ptr<const std::atomic<bool>> hasEnded() const { return m_hasEnded; }
 
-    /** Accesses that have reached the link. */
-    std::uint64_t accessCount() const;
-
 private:
     struct Access
     {
@@ -102,9 +100,13 @@ private:
     void setState(State state);
     void fail(const std::string &why);
     void serve();
+    void noteAnswer(bool hasAnswered);
     bool isLinkAlive();
     bool isWanted() const { return !m_isEnding && !m_isGivenUp; }
     bool perform(Access &access);
+    bool readDirectly(DirectReader &reader, void *buffer, std::uint64_t address, std::uint32_t length);
+    std::shared_ptr<DirectReader> directReader();
+    void doubt();
     void lose();
     void failWaiting();
     void raise(std::uint32_t eventId);
@@ -112,6 +114,7 @@ private:
     void tellAll(const Tell &tell);
     std::vector<std::shared_ptr<ConnectionListener>> listeners();
     std::shared_ptr<Access> access(bool isWrite, std::int64_t address, std::vector<std::uint8_t> bytes);
+    void requireAnswering() const;
 
     const Patience m_patience;
     std::unique_ptr<CameraLink> m_link; ///< of the thread
@@ -123,12 +126,13 @@ private:
     State m_state = State::Connecting;
     std::atomic<bool> m_isEnding{false}; ///< changes with the mutex held
     std::atomic<bool> m_isGivenUp{false}; ///< the access that is running
-    bool m_isSilent = false; ///< a caller has given up an access that is still running
+    bool m_isSilent = false; ///< a caller has given up an access
+    bool m_isInDoubt = false; ///< that was a direct one: the thread shall ask whether the camera is alive
+    std::shared_ptr<DirectReader> m_directReader; ///< of the link
     std::deque<std::shared_ptr<Access>> m_waiting;
     std::string m_description;
     std::shared_ptr<GenApi::INodeMap> m_nodeMap; ///< until it is taken
     std::string m_failure;
-    std::uint64_t m_accessCount = 0;
     std::vector<std::weak_ptr<ConnectionListener>> m_listeners;
 
     std::thread m_thread;
