@@ -162,7 +162,7 @@ public:
     void initPolling();
 
     void install(GenApi::INodeMap *map);
-    void remove();
+    void remove(bool isReplaced);
     static void giveUp(QObject *object);
     void showModel(QAbstractItemModel *shown);
     void connectModel();
@@ -326,7 +326,7 @@ void OrvGenParamTreeViewPrivate::initPolling()
 void OrvGenParamTreeViewPrivate::install(GenApi::INodeMap *map)
 {
     const OpenCalls::Call call;
-    remove();
+    remove(true);
     nodeMap = map;
     shareClock();
     model = new GenParamTreeModel(map, q);
@@ -350,14 +350,18 @@ void OrvGenParamTreeViewPrivate::install(GenApi::INodeMap *map)
         applyState(std::exchange(stateToCome, QByteArray()));
 }
 
-/** Nothing refers to the node map afterwards. The objects that did are given up: OpenCalls. */
-void OrvGenParamTreeViewPrivate::remove()
+/**
+ * Nothing refers to the node map afterwards. The objects that did are given up: OpenCalls. Only a tree without one is
+ * left with what it has if another model follows at once, because a tree needs as long for none as for any.
+ */
+void OrvGenParamTreeViewPrivate::remove(bool isReplaced)
 {
     if (!model)
         return;
     model->disconnect(q);
     proxy->disconnect(q);
-    showModel(nullptr);
+    if (nodeMap || !isReplaced)
+        showModel(nullptr);
     model->release();
     giveUp(std::exchange(proxy, nullptr));
     giveUp(std::exchange(model, nullptr));
@@ -367,7 +371,8 @@ void OrvGenParamTreeViewPrivate::remove()
     standingErrors.clear();
     errors = GenParamErrorController();
     showStatus();
-    ui.whatsThisLabel->clear();
+    if (!ui.whatsThisLabel->document()->isEmpty()) // clearing it makes a new layout
+        ui.whatsThisLabel->clear();
 }
 
 /** An object that is in use outlives the view too. */
@@ -671,7 +676,7 @@ OrvGenParamTreeView::OrvGenParamTreeView(OrvGenParam::Array *params, QWidget *pa
 
 OrvGenParamTreeView::~OrvGenParamTreeView()
 {
-    d->remove();
+    d->remove(false);
 }
 
 void OrvGenParamTreeView::setParams(OrvGenParam::Array *params)
@@ -689,7 +694,7 @@ void OrvGenParamTreeView::setParams(GenApi::INodeMap *nodeMap)
 void OrvGenParamTreeView::clearParams()
 {
     d->saveLastState();
-    d->remove();
+    d->remove(false);
     d->tellCurrent(QString());
 }
 
