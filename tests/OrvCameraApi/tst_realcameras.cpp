@@ -267,7 +267,7 @@ void TestRealCameras::slowOrForbidden_data()
     QTest::newRow("for the controller only") << faults << true;
     faults = {};
     faults.only = GigeServer::ReadMemory;
-    faults.delay = std::chrono::milliseconds(700);
+    faults.delay = std::chrono::milliseconds(400);
     QTest::newRow("slow") << faults << true;
     faults.delay = std::chrono::milliseconds(1500);
     QTest::newRow("slower") << faults << false;
