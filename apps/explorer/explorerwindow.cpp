@@ -5,6 +5,8 @@
 #include "camerawatch.h"
 #include "configuremenu.h"
 #include "featuremarks.h"
+#include "log/logdock.h"
+#include "log/writewatch.h"
 #include "settings/settingsmenu.h"
 #include "simulationmenu.h"
 #include "widgetspage.h"
@@ -75,6 +77,7 @@ ExplorerWindow::ExplorerWindow(std::unique_ptr<CameraSource> source, QWidget *pa
     , m_view(new OrvGui::OrvGenParamTreeView(this))
     , m_tools(addToolBar(tr("Tools")))
     , m_configure(new ConfigureMenu(this))
+    , m_log(new LogDock(this))
     , m_settings(new SettingsMenu(this))
     , m_marks(new FeatureMarks(*m_view, this))
     , m_simulation(new SimulationMenu(this))
@@ -90,6 +93,7 @@ ExplorerWindow::ExplorerWindow(std::unique_ptr<CameraSource> source, QWidget *pa
     createStatusBar();
     createFileMenu();
     createViewMenu();
+    createLog();
     createConfigureMenu();
     createSettingsMenu();
     createSimulationMenu();
@@ -102,6 +106,7 @@ ExplorerWindow::~ExplorerWindow()
 {
     // View and windows go after the camera.
     m_watch.reset();
+    m_writes.reset();
     m_settings->setCamera(nullptr);
     m_simulation->setCamera(QString(), nullptr);
     m_configure->setDevice(nullptr);
@@ -205,9 +210,25 @@ void ExplorerWindow::createViewMenu()
     connect(m_polling, &QAction::toggled, this, &ExplorerWindow::updatePolling);
     view->addAction(tr("Polling &Interval..."), this, &ExplorerWindow::choosePollingTime);
     view->addSeparator();
-    view->addAction(m_tools->toggleViewAction());
+    view->addActions({m_tools->toggleViewAction(), m_log->toggleViewAction()});
+    m_log->toggleViewAction()->setShortcut(Qt::CTRL + Qt::Key_L);
     m_tools->addSeparator();
     m_tools->addActions({refreshing, m_polling});
+}
+
+void ExplorerWindow::createLog()
+{
+    addDockWidget(Qt::BottomDockWidgetArea, m_log);
+    m_log->hide();
+    connect(m_log, &LogDock::featureChosen, this, &ExplorerWindow::goTo);
+    connect(m_log, &LogDock::told, this,
+            [this](const QString &message) { statusBar()->showMessage(message, messageTime); });
+    connect(m_view, &OrvGui::OrvGenParamTreeView::featureWritten, this, [this](const QString &feature) {
+        if (m_writes)
+            m_writes->noteWritten(feature);
+    });
+    connect(m_view, &OrvGui::OrvGenParamTreeView::errorOccurred, this,
+            [this](const QString &feature, const QString &text) { m_log->log().add(LogLevel::Error, feature, text); });
 }
 
 /** Ctrl+0 opens the configuration window, Ctrl+1 and so on the dialogs. */
@@ -229,8 +250,10 @@ void ExplorerWindow::createConfigureMenu()
 void ExplorerWindow::createSettingsMenu()
 {
     menuBar()->addMenu(m_settings);
-    connect(m_settings, &SettingsMenu::told, this,
-            [this](const QString &message) { statusBar()->showMessage(message, messageTime); });
+    connect(m_settings, &SettingsMenu::told, this, [this](const QString &message) {
+        statusBar()->showMessage(message, messageTime);
+        m_log->log().add(LogLevel::Information, QString(), message);
+    });
     connect(m_settings, &SettingsMenu::featuresMarked, m_marks, &FeatureMarks::mark);
     connect(m_settings, &SettingsMenu::featureChosen, this, &ExplorerWindow::goTo);
 }
@@ -264,6 +287,7 @@ void ExplorerWindow::setSource(std::unique_ptr<CameraSource> source)
     // All before the former one goes.
     m_watch = std::make_unique<CameraWatch>(source->device());
     m_settings->setCamera(source->nodeMap());
+    m_writes = std::make_unique<WriteWatch>(*source->nodeMap(), m_log->log());
     m_simulation->setCamera(source->id(), source->nodeMap());
     m_simulation->setFeature(QString());
     m_configure->setDevice(source->device());
@@ -271,6 +295,7 @@ void ExplorerWindow::setSource(std::unique_ptr<CameraSource> source)
         m_treeStates.insert(m_source->name(), m_view->saveState());
     m_view->setParams(source->nodeMap());
     m_source = std::move(source);
+    m_log->log().add(LogLevel::Information, QString(), tr("%1 is shown.").arg(m_source->name()));
     setWindowTitle(tr("%1 - Camera Explorer").arg(m_source->name()));
     arrangeTree();
     connect(m_watch.get(), &CameraWatch::reachableChanged, this, &ExplorerWindow::setReachable);
@@ -319,6 +344,8 @@ void ExplorerWindow::setReachable(bool reachable)
     updatePolling();
     if (!isChange)
         return;
+    m_log->log().add(reachable ? LogLevel::Information : LogLevel::Error, QString(),
+                     reachable ? tr("%1 is back.").arg(m_source->name()) : tr("%1 is lost.").arg(m_source->name()));
     m_configure->setReachable(reachable);
     m_settings->setReachable(reachable);
     refresh();
@@ -479,6 +506,8 @@ void ExplorerWindow::followCurrent(const QModelIndex &current)
         // A feature that cannot tell its name cannot be made to fail either.
     }
     m_simulation->setFeature(name);
+    if (m_writes)
+        m_writes->noteCurrent(name);
 }
 
 void ExplorerWindow::report(const QString &message)

@@ -13,6 +13,7 @@ class CameraSource;
 class CameraWatch;
 class ConfigureMenu;
 class FeatureMarks;
+class LogDock;
 class QLabel;
 class QMenu;
 class QModelIndex;
@@ -21,6 +22,7 @@ class QTabWidget;
 class QToolBar;
 class SettingsMenu;
 class SimulationMenu;
+class WriteWatch;
 
 namespace OrvGui {
 class OrvGenParamTreeView;
@@ -76,6 +78,7 @@ private:
     void createFileMenu();
     void createCamerasMenu(QMenu &file);
     void createViewMenu();
+    void createLog();
     void createConfigureMenu();
     void createSettingsMenu();
     void createSimulationMenu();
@@ -99,6 +102,7 @@ private:
 
     std::unique_ptr<CameraSource> m_source;
     std::unique_ptr<CameraWatch> m_watch; ///< on the camera of the source
+    std::unique_ptr<WriteWatch> m_writes; ///< to it
     bool m_isReachable = true;
     bool m_wasShown = false;
     QHash<QString, QByteArray> m_treeStates; ///< of cameras that are not shown, by name
@@ -106,6 +110,7 @@ private:
     OrvGui::OrvGenParamTreeView *const m_view;
     QToolBar *const m_tools;
     ConfigureMenu *const m_configure;
+    LogDock *const m_log;
     SettingsMenu *const m_settings;
     FeatureMarks *const m_marks;
     SimulationMenu *const m_simulation;

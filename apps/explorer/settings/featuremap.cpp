@@ -253,6 +253,14 @@ const std::vector<INode *> &FeatureMap::selectorsOf(INode *feature)
     return m_selectors[feature] = found;
 }
 
+std::vector<INode *> FeatureMap::features() const
+{
+    std::vector<INode *> features = featuresInTree(m_map);
+    features.erase(std::remove_if(features.begin(), features.end(), [](INode *node) { return !hasValue(node); }),
+                   features.end());
+    return features;
+}
+
 std::vector<INode *> FeatureMap::streamableFeatures()
 {
     return featuresThat(isStreamable);
@@ -262,23 +270,23 @@ std::vector<INode *> FeatureMap::otherFeatures()
 {
     return featuresThat([](INode *node) {
         const QByteArray name = nameOf(node);
-        return hasValue(node) && !name.startsWith("Gev") && !name.startsWith("TLParams");
+        return !name.startsWith("Gev") && !name.startsWith("TLParams");
     });
 }
 
 std::vector<INode *> FeatureMap::featuresThat(bool (*belong)(INode *))
 {
-    std::vector<INode *> features;
-    for (INode *feature : featuresInTree(m_map)) {
+    std::vector<INode *> found;
+    for (INode *feature : features()) {
         if (belong(feature))
-            features.push_back(feature);
+            found.push_back(feature);
     }
     DependencyRanks ranks;
-    for (INode *feature : features)
+    for (INode *feature : found)
         ranks.visit(feature);
-    std::stable_sort(features.begin(), features.end(),
+    std::stable_sort(found.begin(), found.end(),
                      [&ranks](INode *left, INode *right) { return ranks.rankOf(left) < ranks.rankOf(right); });
-    return features;
+    return found;
 }
 
 QString FeatureMap::device() const

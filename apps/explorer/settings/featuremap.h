@@ -43,6 +43,9 @@ public:
     /** All that select the feature, whoever selects others in front of them. */
     const std::vector<GenApi::INode *> &selectorsOf(GenApi::INode *feature);
 
+    /** All features that have a value, in the order of the tree. */
+    std::vector<GenApi::INode *> features() const;
+
     /** The features that belong to a set of settings, whatever others depend on in front of them. */
     std::vector<GenApi::INode *> streamableFeatures();
 

@@ -167,8 +167,7 @@ void SettingsMenu::reportSaved(const Task &task)
 {
     if (!task.isDone)
         return warn(task.failure.isEmpty() ? tr("Saving was interrupted; there is no file.") : task.failure);
-    const QString summary =
-        tr("%n line(s) have been saved in '%1'.", nullptr, task.file.settings.size()).arg(task.path);
+    const QString summary = tr("Lines saved in '%1': %2").arg(task.path).arg(task.file.settings.size());
     Q_EMIT told(summary);
     if (!task.file.remarks.isEmpty())
         report(tr("Save Settings"), summary, {tr("What is missing, and why")}, rowsOf(task.file.remarks, 1));
@@ -330,8 +329,8 @@ SettingsReport *SettingsMenu::reportCompared(const Task &task, const QString &le
                       textOf(difference.right), reason}});
     }
     return report(tr("Compare"),
-                  tr("%n difference(s) between '%1' and '%2'.", nullptr, task.differences.size()).arg(left, right),
-                  columns, rows);
+                  tr("Differences between '%1' and '%2': %3").arg(left, right).arg(task.differences.size()), columns,
+                  rows);
 }
 
 SettingsReport *SettingsMenu::report(const QString &title, const QString &summary, const QStringList &columns,

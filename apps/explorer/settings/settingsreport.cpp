@@ -67,7 +67,7 @@ SettingsReport::SettingsReport(const QString &title, const QString &summary, con
     , m_view(new QTreeView(this))
     , m_putBack(new QPushButton(tr("&Put Back"), this))
 {
-    constexpr QSize usualSize(720, 420);
+    constexpr QSize usualSize(820, 420);
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(title);
     resize(usualSize);
@@ -84,8 +84,10 @@ SettingsReport::SettingsReport(const QString &title, const QString &summary, con
     m_view->setAlternatingRowColors(true);
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_view->setTabKeyNavigation(false);
-    for (int column = 0; column + 1 < columns.size(); ++column)
-        m_view->setColumnWidth(column, usualSize.width() / columns.size());
+    for (int column = 0; column + 1 < columns.size(); ++column) {
+        m_view->resizeColumnToContents(column);
+        m_view->setColumnWidth(column, qMin(m_view->columnWidth(column), usualSize.width() / columns.size()));
+    }
     m_view->setVisible(m_view->model()->rowCount() > 0);
     connect(m_view, &QTreeView::activated, this, &SettingsReport::choose);
 
