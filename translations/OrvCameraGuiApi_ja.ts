@@ -105,6 +105,53 @@
     </message>
 </context>
 <context>
+    <name>FindBar</name>
+    <message>
+        <source>Find</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Find Features</source>
+        <translation>機能を検索</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Previous match</source>
+        <translation>前の一致</translation>
+    </message>
+    <message>
+        <source>Previous match (Shift+F3)</source>
+        <translation>前の一致 (Shift+F3)</translation>
+    </message>
+    <message>
+        <source>Next match</source>
+        <translation>次の一致</translation>
+    </message>
+    <message>
+        <source>Next match (F3)</source>
+        <translation>次の一致 (F3)</translation>
+    </message>
+    <message>
+        <source>Close search</source>
+        <translation>検索を閉じる</translation>
+    </message>
+    <message>
+        <source>Close (Esc)</source>
+        <translation>閉じる (Esc)</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>%1 件</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>見つかりません</translation>
+    </message>
+</context>
+<context>
     <name>GenErrorsDlg</name>
     <message>
         <source>Gen&lt;i&gt;Cam errors</source>

@@ -105,6 +105,53 @@
     </message>
 </context>
 <context>
+    <name>FindBar</name>
+    <message>
+        <source>Find</source>
+        <translation>查找</translation>
+    </message>
+    <message>
+        <source>Find Features</source>
+        <translation>查找特性</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>第 %1 个，共 %2 个</translation>
+    </message>
+    <message>
+        <source>Previous match</source>
+        <translation>上一个匹配</translation>
+    </message>
+    <message>
+        <source>Previous match (Shift+F3)</source>
+        <translation>上一个匹配 (Shift+F3)</translation>
+    </message>
+    <message>
+        <source>Next match</source>
+        <translation>下一个匹配</translation>
+    </message>
+    <message>
+        <source>Next match (F3)</source>
+        <translation>下一个匹配 (F3)</translation>
+    </message>
+    <message>
+        <source>Close search</source>
+        <translation>关闭查找</translation>
+    </message>
+    <message>
+        <source>Close (Esc)</source>
+        <translation>关闭 (Esc)</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>找到 %1 个</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>未找到</translation>
+    </message>
+</context>
+<context>
     <name>GenErrorsDlg</name>
     <message>
         <source>Gen&lt;i&gt;Cam errors</source>

@@ -3,17 +3,18 @@
 #include <OrvCameraGuiApi/feature_tree/orvfeaturetreetools.h>
 
 #include <QClipboard>
+#include <QLabel>
 #include <QMenu>
 
 using OrvGui::OrvFeatureTreeTools;
 
 namespace {
 
-QByteArray reg(const char *name, int address, const char *mode = "RW")
+QByteArray reg(const char *name, int address, const char *mode = "RW", const char *caching = "WriteThrough")
 {
     return QByteArray("<IntReg Name=\"") + name + "\"><Address>" + QByteArray::number(address)
-        + "</Address><Length>8</Length><AccessMode>" + mode
-        + "</AccessMode><pPort>Device</pPort><Sign>Signed</Sign><Endianess>BigEndian</Endianess></IntReg>";
+        + "</Address><Length>8</Length><AccessMode>" + mode + "</AccessMode><Cachable>" + caching
+        + "</Cachable><pPort>Device</pPort><Sign>Signed</Sign><Endianess>BigEndian</Endianess></IntReg>";
 }
 
 /** A camera whose features depend on one another; "Twice" is listed in two categories. */
@@ -41,7 +42,8 @@ QByteArray nodes()
 <Integer Name="TLParamsLocked"><pValue>LockReg</pValue></Integer>
 <Integer Name="Switch"><pValue>SwitchReg</pValue></Integer>)"
         + reg("WidthReg", 0) + reg("TwiceReg", 8) + reg("GainReg", 16) + reg("TemperatureReg", 24, "RO")
-        + reg("SelectorReg", 32) + reg("DelayReg", 40) + reg("FireReg", 48) + reg("LockReg", 56) + reg("SwitchReg", 64);
+        + reg("SelectorReg", 32) + reg("DelayReg", 40) + reg("FireReg", 48) + reg("LockReg", 56, "RW", "NoCache")
+        + reg("SwitchReg", 64);
 }
 
 struct Stage : ShownView
@@ -111,6 +113,10 @@ private Q_SLOTS:
     void readsAgainWhatIsShown();
     void showsAPartOnly();
     void jumpsToWhatIsHidden();
+    void findsByKeys();
+    void findsInLargeAndDeepTrees();
+    void followsChanges();
+    void marksWhatHasChanged();
     void outlivesAndIsOutlived();
 };
 
@@ -328,6 +334,156 @@ void FeatureTreeToolsTest::jumpsToWhatIsHidden()
     QCOMPARE(told.count(), 3);
 }
 
+void FeatureTreeToolsTest::findsByKeys()
+{
+    Stage stage;
+    QVERIFY(stage.show());
+    stage.tree->collapseAll();
+    stage.tree->setFocus();
+    QTest::keyClick(stage.tree, Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
+    QVERIFY(!stage.part<QWidget>("findBar"));
+    stage.tools.setFindBar(true);
+    QTest::keyClick(stage.tree, Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
+    auto *const bar = stage.part<QWidget>("findBar");
+    auto *const text = bar->findChild<QLineEdit *>();
+    auto *const count = bar->findChild<QLabel *>();
+    QVERIFY(text->hasFocus());
+    const auto found = [&](const char *name, const char *shown) {
+        return QTest::qWaitFor(
+            [&] { return stage.current() == QLatin1String(name) && count->text() == QLatin1String(shown); });
+    };
+    QTest::keyClicks(text, QStringLiteral("GAIN"));
+    QVERIFY(found("Gain", "1 of 3")); // and the category "Again"
+    QVERIFY(stage.tree->visualRect(stage.tree->currentIndex()).isValid());
+    QVERIFY(!stage.editor());
+    QTest::keyClick(text, Qt::Key_F3);
+    QVERIFY(found("Again", "2 of 3"));
+    QTest::keyClick(text, Qt::Key_Return);
+    QVERIFY(found("Gain", "3 of 3"));
+    QTest::keyClick(text, Qt::Key_Return);
+    QVERIFY(found("Gain", "1 of 3"));
+    QTest::keyClick(text, Qt::Key_F3, Qt::ShiftModifier);
+    QVERIFY(found("Gain", "3 of 3"));
+    stage.tools.showOnlyCategory(QStringLiteral("Image"));
+    QTRY_COMPARE(count->text(), QStringLiteral("1 found"));
+    QTest::keyClick(text, 'x');
+    QTRY_COMPARE(count->text(), QStringLiteral("not found"));
+    QTest::keyClick(text, Qt::Key_Escape);
+    QVERIFY(!bar->isVisible() && stage.tree->hasFocus());
+    QTest::keyClick(stage.tree, Qt::Key_F3);
+    QVERIFY(bar->isVisible());
+    text->setText(QStringLiteral("image")); // a display name and a GenICam name
+    QVERIFY(found("Image", "1 of 2"));
+    FeatureCamera other(nodes());
+    stage.view.setParams(other.map.get());
+    QTRY_COMPARE(count->text(), QStringLiteral("2 found"));
+    stage.view.clearParams();
+    QTRY_COMPARE(count->text(), QStringLiteral("not found"));
+    QTest::keyClick(text, Qt::Key_F3);
+}
+
+/** No register is read, and no key takes the time of the whole search. */
+void FeatureTreeToolsTest::findsInLargeAndDeepTrees()
+{
+    QByteArray description;
+    const int depth = 900;
+    for (int i = 0; i < depth; ++i) {
+        const QByteArray next = i + 1 < depth ? "C" + QByteArray::number(i + 1) : QByteArray("Bottom");
+        description += "<Category Name=\"" + (i ? "C" + QByteArray::number(i) : QByteArray("Root")) + "\"><pFeature>"
+            + next + "</pFeature>" + (i ? "" : "<pFeature>Many</pFeature>") + "</Category>";
+    }
+    QByteArray many = "<Category Name=\"Many\">";
+    for (int i = 0; i < 20000; ++i) {
+        const QByteArray name = "Feature" + QByteArray::number(i);
+        many += "<pFeature>" + name + "</pFeature>";
+        description += "<Integer Name=\"" + name + "\"><pValue>Reg</pValue></Integer>";
+    }
+    description += many + "</Category><Integer Name=\"Bottom\"><Value>1</Value></Integer>" + reg("Reg", 0);
+    FeatureCamera camera(description);
+    OrvGui::OrvGenParamTreeView view(camera.map.get());
+    OrvFeatureTreeTools tools(&view);
+    tools.setFindBar(true);
+    tools.find();
+    auto *const text = view.findChild<QWidget *>(QStringLiteral("findBar"))->findChild<QLineEdit *>();
+    view.show();
+    QVERIFY(QTest::qWaitForWindowActive(&view));
+    const auto current = [&] {
+        return view.treeView()->currentIndex().data(OrvGui::OrvGenParamTreeView::FeatureNameRole).toString();
+    };
+    QTest::keyClicks(text, QStringLiteral("bottom"));
+    QTRY_COMPARE(current(), QStringLiteral("Bottom"));
+    QTest::keyClick(text, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(text, QStringLiteral("feature1999"));
+    QTRY_COMPARE(current(), QStringLiteral("Feature1999"));
+    auto *const count = text->parentWidget()->findChild<QLabel *>();
+    QTRY_COMPARE(count->text(), QStringLiteral("1 of 11"));
+    QVERIFY(tools.showOnlyCategory(QStringLiteral("C500")));
+    QTRY_COMPARE(count->text(), QStringLiteral("not found"));
+    view.clearParams(); // before its node map
+}
+
+void FeatureTreeToolsTest::followsChanges()
+{
+    Stage stage;
+    stage.tools.setTracksChanges(true);
+    QVERIFY(stage.show());
+    const auto changed = [&](const char *names) {
+        return QTest::qWaitFor(
+            [&] { return stage.tools.changedFeatures().join(QLatin1Char(' ')) == QLatin1String(names); });
+    };
+    stage.set("Delay", 5);
+    QVERIFY(stage.enter("Width", "7"));
+    QVERIFY(changed("Delay Width"));
+    stage.set("Delay", 0);
+    QVERIFY(changed("Width"));
+    stage.tools.setShowsChangedOnly(true);
+    QCOMPARE(stage.names().join(QLatin1Char(' ')), QStringLiteral("Image Width"));
+    stage.set("Delay", 6); // which is hidden, and reports
+    QTRY_COMPARE(stage.names().join(QLatin1Char(' ')), QStringLiteral("Image Width Trigger Delay"));
+    QVERIFY(changed("Delay Width"));
+    stage.node("Switch")->InvalidateNode(); // to the same value
+    QTRY_VERIFY(stage.cell("Switch").isValid());
+    QTRY_VERIFY(!stage.cell("Switch").isValid());
+    FeatureCamera other(nodes());
+    stage.view.setParams(other.map.get());
+    QVERIFY(changed("") && !stage.tools.showsChangedOnly() && stage.tools.tracksChanges());
+    stage.view.clearParams();
+}
+
+/** Painting the marks reads no value, not even one that is never cached. */
+void FeatureTreeToolsTest::marksWhatHasChanged()
+{
+    struct CountingPort : OrvGenApi::MemoryPort
+    {
+        void Read(void *buffer, int64_t address, int64_t length) override
+        {
+            ++reads;
+            MemoryPort::Read(buffer, address, length);
+        }
+        int reads = 0;
+    } port;
+    Stage stage;
+    stage.map->connect(&port, "Device");
+    QVERIFY(stage.show());
+    stage.tree->viewport()->grab();
+    stage.tools.setMarksChanges(true);
+    stage.tree->viewport()->grab();
+    const auto bar = [&](const char *name) {
+        const QRect cell = stage.tree->visualRect(stage.cell(name, 0));
+        const QImage seen = stage.tree->viewport()->grab(QRect(cell.right() - 2, cell.center().y(), 1, 1)).toImage();
+        return seen.pixelColor(0, 0);
+    };
+    const QColor unmarked = bar("TLParamsLocked");
+    QCOMPARE(bar("Switch").lightness() > 200, unmarked.lightness() > 200);
+    stage.set("TLParamsLocked", 5);
+    QTRY_VERIFY(bar("TLParamsLocked") != unmarked);
+    PaintLog painted(stage.tree->viewport());
+    const int reads = port.reads;
+    QTRY_COMPARE(bar("TLParamsLocked"), unmarked);
+    QCOMPARE(port.reads, reads);
+    QVERIFY(painted.count > 1);
+}
+
 void FeatureTreeToolsTest::outlivesAndIsOutlived()
 {
     FeatureCamera camera(nodes());
@@ -336,6 +492,10 @@ void FeatureTreeToolsTest::outlivesAndIsOutlived()
         auto tools = std::make_unique<OrvFeatureTreeTools>(view.get());
         tools->setContextMenu(true);
         tools->setTellsReasons(true);
+        tools->setFindBar(true);
+        tools->find();
+        tools->setTracksChanges(true);
+        tools->setMarksChanges(true);
         tools->showOnlyCategory(QStringLiteral("Image"));
         if (viewFirst)
             view.reset();
@@ -345,6 +505,7 @@ void FeatureTreeToolsTest::outlivesAndIsOutlived()
             tools->setShowsFavoritesOnly(true);
             QVERIFY(!tools->jumpTo(QStringLiteral("Width")) && !tools->showOnlyCategory(QStringLiteral("Image")));
             tools->readAgain(QStringLiteral("Width"));
+            tools->findNext();
         } else {
             QVERIFY(cellOf(*view->treeView()->model(), camera.node("Delay")).isValid());
         }

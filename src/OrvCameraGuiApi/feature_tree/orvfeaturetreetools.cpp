@@ -3,19 +3,24 @@
 #include <OrvCameraGuiApi/feature_tree/accessreason.h>
 #include <OrvCameraGuiApi/feature_tree/featuremenu.h>
 #include <OrvCameraGuiApi/feature_tree/featuretree.h>
+#include <OrvCameraGuiApi/feature_tree/findbar.h>
 #include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreevisibilityfilterproxymodel.h>
+#include <OrvCameraGuiApi/feature_tree/markdelegate.h>
 #include <OrvCameraGuiApi/feature_tree/opencalls.h>
 #include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
 #include <OrvCameraGuiApi/feature_tree/rereading.h>
 #include <OrvCameraGuiApi/feature_tree/treestate.h>
+#include <OrvCameraGuiApi/feature_tree/valuewatch.h>
 
+#include <QBoxLayout>
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QTextBrowser>
+#include <QTimer>
 #include <QUrl>
 
 #include <utility>
@@ -49,9 +54,10 @@ public:
     /** Which part of the features is shown. */
     struct Part
     {
-        bool isOfAll() const { return !favoritesOnly && category.isEmpty(); }
+        bool isOfAll() const { return !favoritesOnly && !changedOnly && category.isEmpty(); }
 
         bool favoritesOnly = false;
+        bool changedOnly = false;
         QString category; ///< the only one; empty for all
     };
 
@@ -69,6 +75,7 @@ public:
     QString whyHidden(const QString &name) const;
 
     bool filterKey(const QKeyEvent &event);
+    bool filterKeyOfView(const QKeyEvent &event);
     bool filterPress(const QMouseEvent &event);
     void openMenu(const QModelIndex &row, const QPoint &globalPos);
     void openMenuAtCurrent();
@@ -76,12 +83,18 @@ public:
     bool noteReason();
     void updateReason();
     void reasonMayHaveChanged(const QModelIndex &cell);
+    void valueMayHaveChanged(const QModelIndex &cell);
+    void compared(GenApi::IValue *feature);
 
     OrvFeatureTreeTools *const q;
     const QPointer<OrvGenParamTreeView> view;
     const QPointer<FeatureTree> tree;
     const QPointer<QTextBrowser> help;
     Rereading rereading;
+    ValueWatch watch;
+    QSet<GenApi::IValue *> candidates; ///< that may have changed: only changed ones are shown, and these until read
+    QTimer filterSoon;
+    QPointer<MarkDelegate> marks; ///< null while they are switched off
     bool hasContextMenu = false;
     bool tellsReasons = false;
     bool isReasonQueued = false;
@@ -89,6 +102,7 @@ public:
     QStringList favorites;
     Part part;
     QPointer<FeatureMenu> menu;
+    QPointer<FindBar> findBar; ///< null while it is switched off
 };
 
 OrvFeatureTreeToolsPrivate::OrvFeatureTreeToolsPrivate(OrvFeatureTreeTools *tools, OrvGenParamTreeView *shownView)
@@ -97,7 +111,18 @@ OrvFeatureTreeToolsPrivate::OrvFeatureTreeToolsPrivate(OrvFeatureTreeTools *tool
     , tree(shownView ? qobject_cast<FeatureTree *>(shownView->treeView()) : nullptr)
     , help(shownView ? shownView->findChild<QTextBrowser *>(QStringLiteral("whatsThisLabel")) : nullptr)
     , rereading(nullptr)
+    , watch(nullptr)
 {
+    constexpr int pause = 200; // ms, between evaluations of the filter
+    filterSoon.setSingleShot(true);
+    filterSoon.setInterval(pause);
+    QObject::connect(&filterSoon, &QTimer::timeout, q, [this] { filterPart(); });
+    QObject::connect(&watch, &ValueWatch::compared, q, [this](GenApi::IValue *feature) { compared(feature); });
+    QObject::connect(&watch, &ValueWatch::changedFeaturesChanged, q, &OrvFeatureTreeTools::changedFeaturesChanged);
+    QObject::connect(&watch, &ValueWatch::marksFaded, q, [this] {
+        if (marks)
+            marks->updateMarks();
+    });
 }
 
 /** Null without a node map, and without a view. */
@@ -133,9 +158,13 @@ void OrvFeatureTreeToolsPrivate::modelReplaced()
         menu->close();
     shownReason.clear();
     tree->keepExpansion(std::nullopt);
-    const bool endsCategory = !std::exchange(part.category, QString()).isEmpty();
+    const bool endsPart = !part.category.isEmpty() || part.changedOnly;
+    part.category.clear();
+    part.changedOnly = false;
+    candidates.clear();
+    watch.setModel(model());
     followModel();
-    if (endsCategory) { // later, as slots may do anything
+    if (endsPart) { // later, as slots may do anything
         QMetaObject::invokeMethod(
             q, [this] { Q_EMIT q->shownPartChanged(); }, Qt::QueuedConnection);
     }
@@ -147,8 +176,10 @@ void OrvFeatureTreeToolsPrivate::followModel()
     if (!source)
         return;
     source->setTellsReasons(tellsReasons);
-    QObject::connect(source, &QAbstractItemModel::dataChanged, q,
-                     [this](const QModelIndex &cell) { reasonMayHaveChanged(cell); });
+    QObject::connect(source, &QAbstractItemModel::dataChanged, q, [this](const QModelIndex &cell) {
+        reasonMayHaveChanged(cell);
+        valueMayHaveChanged(cell);
+    });
     if (!part.isOfAll())
         filterPart();
 }
@@ -176,14 +207,18 @@ void OrvFeatureTreeToolsPrivate::filterPart()
         return;
     if (wasOfAll)
         tree->keepExpansion(TreeState::saveExpansion(*tree));
+    bool categoriesCome = wasOfAll;
+    const auto connection = QObject::connect(proxy, &GenParamTreeVisibilityFilterProxyModel::categoriesHaveCome, q,
+                                             [&categoriesCome] { categoriesCome = true; });
     proxy->setChoice(choice());
     if (!alive || proxy != filter())
         return;
+    QObject::disconnect(connection);
     if (part.isOfAll()) {
         const QByteArray kept = *tree->keptExpansion();
         tree->keepExpansion(std::nullopt);
         TreeState::loadExpansion(*tree, kept);
-    } else if (part.favoritesOnly) {
+    } else if (categoriesCome && (part.favoritesOnly || part.changedOnly)) {
         tree->expandAll();
     } else if (const QModelIndex category = shown(part.category); category.isValid()) {
         for (QModelIndex above = category; above.isValid(); above = above.parent())
@@ -194,10 +229,19 @@ void OrvFeatureTreeToolsPrivate::filterPart()
 FeatureChoice OrvFeatureTreeToolsPrivate::choice() const
 {
     FeatureChoice chosen;
+    QSet<GenApi::IValue *> features;
     if (part.favoritesOnly) {
-        QVector<GenApi::INode *> nodes;
         for (const QString &name : favorites)
-            nodes.append(nodeAt(sourceOf(name)));
+            features.insert(featureAt(sourceOf(name)));
+    }
+    if (part.changedOnly) {
+        const QSet<GenApi::IValue *> changed = watch.changed() + candidates;
+        features = part.favoritesOnly ? features.intersect(changed) : changed;
+    }
+    if (part.favoritesOnly || part.changedOnly) {
+        QVector<GenApi::INode *> nodes;
+        for (GenApi::IValue *const feature : std::as_const(features))
+            failureOf([&] { nodes.append(nodeOf(feature)); });
         chosen.setFeatures(nodes);
     }
     if (!part.category.isEmpty())
@@ -212,7 +256,8 @@ QModelIndex OrvFeatureTreeToolsPrivate::showMoreFor(const QString &name)
     const Part former = part;
     Part more = part;
     for (const auto &enlarge :
-         {+[](Part &smaller) { smaller.category.clear(); }, +[](Part &smaller) { smaller.favoritesOnly = false; }}) {
+         {+[](Part &smaller) { smaller.category.clear(); }, +[](Part &smaller) { smaller.changedOnly = false; },
+          +[](Part &smaller) { smaller.favoritesOnly = false; }}) {
         enlarge(more);
         setPart(more);
         if (!alive)
@@ -254,6 +299,21 @@ bool OrvFeatureTreeToolsPrivate::filterKey(const QKeyEvent &event)
     if (!hasContextMenu || !isForMenu)
         return false;
     openMenuAtCurrent();
+    return true;
+}
+
+/** Of all in the view that leaves these keys alone. */
+bool OrvFeatureTreeToolsPrivate::filterKeyOfView(const QKeyEvent &event)
+{
+    if (!findBar)
+        return false;
+    const Qt::KeyboardModifiers modifiers = event.modifiers();
+    if (event.key() == Qt::Key_F && modifiers == (Qt::ControlModifier | Qt::ShiftModifier))
+        findBar->open();
+    else if (event.key() == Qt::Key_F3 && (modifiers & ~Qt::ShiftModifier) == 0)
+        findBar->step(modifiers == Qt::NoModifier);
+    else
+        return false;
     return true;
 }
 
@@ -305,6 +365,31 @@ bool OrvFeatureTreeToolsPrivate::openLink(const QUrl &link)
     return isOurs;
 }
 
+/** Of a hidden feature: it is shown until its value is read, and longer if that differs from the first. */
+void OrvFeatureTreeToolsPrivate::valueMayHaveChanged(const QModelIndex &cell)
+{
+    if (!part.changedOnly)
+        return;
+    GenApi::IValue *const feature = featureAt(cell);
+    if (!watch.knows(feature) || watch.changed().contains(feature) || candidates.contains(feature))
+        return;
+    bool isPolled = true;
+    failureOf([&] { isPolled = nodeOf(feature)->GetPollingTime() > 0; });
+    if (isPolled)
+        return;
+    candidates.insert(feature);
+    if (!filterSoon.isActive())
+        filterSoon.start();
+}
+
+/** Called while the value is painted: the rows follow later. */
+void OrvFeatureTreeToolsPrivate::compared(GenApi::IValue *feature)
+{
+    const bool isDecided = candidates.remove(feature);
+    if (isDecided && !watch.changed().contains(feature) && !filterSoon.isActive())
+        filterSoon.start();
+}
+
 /** Only features whose access depends on others change it, and then their nodes report. */
 void OrvFeatureTreeToolsPrivate::reasonMayHaveChanged(const QModelIndex &cell)
 {
@@ -344,6 +429,7 @@ OrvFeatureTreeTools::OrvFeatureTreeTools(OrvGenParamTreeView *view, QObject *par
 {
     if (!d->tree)
         return;
+    view->installEventFilter(this);
     d->tree->installEventFilter(this);
     d->tree->viewport()->installEventFilter(this);
     connect(d->tree, &FeatureTree::modelReplaced, this, [this] { d->modelReplaced(); });
@@ -351,6 +437,7 @@ OrvFeatureTreeTools::OrvFeatureTreeTools(OrvGenParamTreeView *view, QObject *par
         if (d->tellsReasons)
             d->noteReason();
     });
+    d->watch.setModel(d->model());
     d->followModel();
 }
 
@@ -360,6 +447,8 @@ OrvFeatureTreeTools::~OrvFeatureTreeTools()
         return;
     if (d->menu)
         d->menu->close();
+    setFindBar(false);
+    setMarksChanges(false);
     setTellsReasons(false);
     blockSignals(true);
     d->setPart({});
@@ -448,6 +537,64 @@ void OrvFeatureTreeTools::setShowsFavoritesOnly(bool on)
         d->setPart(wanted);
 }
 
+bool OrvFeatureTreeTools::tracksChanges() const
+{
+    return d->watch.tracksChanges();
+}
+
+void OrvFeatureTreeTools::setTracksChanges(bool on)
+{
+    const QPointer<OrvFeatureTreeTools> alive(this);
+    if (!on)
+        setShowsChangedOnly(false);
+    if (alive)
+        d->watch.setTracksChanges(on);
+}
+
+QStringList OrvFeatureTreeTools::changedFeatures() const
+{
+    const OpenCalls::Call call;
+    QStringList names;
+    for (GenApi::IValue *const feature : d->watch.changed())
+        failureOf([&] { names += fromGenICam(nodeOf(feature)->GetName()); });
+    names.sort();
+    return names;
+}
+
+bool OrvFeatureTreeTools::showsChangedOnly() const
+{
+    return d->part.changedOnly;
+}
+
+void OrvFeatureTreeTools::setShowsChangedOnly(bool on)
+{
+    if (on)
+        d->watch.setTracksChanges(true);
+    OrvFeatureTreeToolsPrivate::Part wanted = d->part;
+    if (std::exchange(wanted.changedOnly, on) == on)
+        return;
+    d->candidates.clear();
+    d->setPart(wanted);
+}
+
+bool OrvFeatureTreeTools::marksChanges() const
+{
+    return d->watch.marks();
+}
+
+void OrvFeatureTreeTools::setMarksChanges(bool on)
+{
+    if (!d->tree || on == marksChanges())
+        return;
+    d->watch.setMarks(on);
+    constexpr int column = GenParamTreeModel::NameColumn;
+    if (on)
+        d->marks = new MarkDelegate(&d->watch, d->tree);
+    d->tree->setItemDelegateForColumn(column, on ? d->marks : nullptr);
+    if (!on)
+        OpenCalls::retire(std::exchange(d->marks, nullptr).data());
+}
+
 QString OrvFeatureTreeTools::onlyCategory() const
 {
     return d->part.category;
@@ -481,6 +628,42 @@ bool OrvFeatureTreeTools::jumpTo(const QString &name)
     return false;
 }
 
+bool OrvFeatureTreeTools::hasFindBar() const
+{
+    return d->findBar;
+}
+
+void OrvFeatureTreeTools::setFindBar(bool on)
+{
+    if (!on && d->findBar) {
+        d->findBar->leave();
+        OpenCalls::retire(std::exchange(d->findBar, nullptr).data()); // it may be on the stack
+    }
+    auto *const layout = d->view ? qobject_cast<QBoxLayout *>(d->view->layout()) : nullptr;
+    if (!on || !layout || d->findBar)
+        return;
+    d->findBar = new FindBar(d->tree, d->view);
+    layout->insertWidget(1, d->findBar); // above the tree
+}
+
+void OrvFeatureTreeTools::find()
+{
+    if (d->findBar)
+        d->findBar->open();
+}
+
+void OrvFeatureTreeTools::findNext()
+{
+    if (d->findBar)
+        d->findBar->step(true);
+}
+
+void OrvFeatureTreeTools::findPrevious()
+{
+    if (d->findBar)
+        d->findBar->step(false);
+}
+
 void OrvFeatureTreeTools::readAgain(const QString &name)
 {
     const QModelIndex row = d->shown(name);
@@ -495,11 +678,13 @@ bool OrvFeatureTreeTools::eventFilter(QObject *watched, QEvent *event)
     const bool isInViewport = watched == d->tree->viewport();
     switch (event->type()) {
     case QEvent::KeyPress:
+        if (watched == d->view)
+            return d->filterKeyOfView(*static_cast<QKeyEvent *>(event));
         return !isInViewport && d->filterKey(*static_cast<QKeyEvent *>(event));
     case QEvent::MouseButtonPress:
         return isInViewport && d->filterPress(*static_cast<QMouseEvent *>(event));
     case QEvent::ContextMenu: {
-        if (!d->hasContextMenu)
+        if (!d->hasContextMenu || watched == d->view)
             return false;
         const auto &asked = *static_cast<QContextMenuEvent *>(event);
         if (asked.reason() != QContextMenuEvent::Mouse)

@@ -14,12 +14,13 @@ class OrvGenParamTreeView;
 
 /**
  * Tools around an OrvGenParamTreeView, each of which is off until it is switched on: a context menu, reasons why a
- * feature cannot be written, favorites, a part of the tree alone.
+ * feature cannot be written, favorites, a part of the tree alone, a bar that finds features, marks on values
+ * that change.
  *
  * Features are named by their GenICam names. What concerns a node map ends when the view gets another one: showing a
- * category alone. A view has one object of this class at most. View and tools may be destroyed in any order; without a
- * view the tools do nothing. GUI thread only. Nothing throws, whatever the node map does. Slots may do what those of
- * the view may, and delete the tools.
+ * category alone, and which values have changed. A view has one object of this class at most. View and tools may be
+ * destroyed in any order; without a view the tools do nothing. GUI thread only. Nothing throws, whatever the node map
+ * does. Slots may do what those of the view may, and delete the tools.
  */
 class ORV_CAMERAGUIAPI_EXPORT OrvFeatureTreeTools : public QObject
 {
@@ -67,6 +68,33 @@ public:
     void setShowsFavoritesOnly(bool on);
     /** @} */
 
+    /**
+     * Whether values are compared with those that were read first since the view got its node map, or since this was
+     * switched on. Only values that are read anyway, because they are shown, are compared.
+     * @{
+     */
+    bool tracksChanges() const;
+    void setTracksChanges(bool on);
+    /** @} */
+
+    /** The features whose value differs from the first, sorted. */
+    QStringList changedFeatures() const;
+
+    /**
+     * Whether only features are shown whose value differs from the first, with the categories that they stand in.
+     * Switches tracksChanges() on. A feature that is hidden and reports a change is shown, and goes again if its value
+     * is the first one; a feature with a polling time reports too often for that. Another node map ends it.
+     * @{
+     */
+    bool showsChangedOnly() const;
+    void setShowsChangedOnly(bool on);
+    /** @} */
+
+    /** Whether a bar beside a value that differs from what was shown before tells so for a moment. @{ */
+    bool marksChanges() const;
+    void setMarksChanges(bool on);
+    /** @} */
+
     /** The category that is shown alone; empty for none. */
     QString onlyCategory() const;
 
@@ -80,6 +108,21 @@ public:
      */
     bool jumpTo(const QString &name);
 
+    /**
+     * Whether Ctrl+Shift+F opens a bar that finds features by their names among the rows that the filter lets pass. F3
+     * and Shift+F3 go to the next match and back; Escape closes the bar.
+     * @{
+     */
+    bool hasFindBar() const;
+    void setFindBar(bool on);
+    /** @} */
+
+    /** What the keys do; nothing without the bar. @{ */
+    void find();
+    void findNext();
+    void findPrevious();
+    /** @} */
+
     /** Drops what is known of the feature, or of those that are shown in the category, so that what is seen is read. */
     void readAgain(const QString &name);
 
@@ -87,6 +130,9 @@ public:
 
 Q_SIGNALS:
     void favoritesChanged();
+
+    /** Emitted from the event loop. */
+    void changedFeaturesChanged();
 
     /** Which part of the features is shown. */
     void shownPartChanged();

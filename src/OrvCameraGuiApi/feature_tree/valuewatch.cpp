@@ -1,0 +1,125 @@
+#include <OrvCameraGuiApi/feature_tree/valuewatch.h>
+
+#include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
+
+#include <utility>
+
+namespace {
+
+constexpr int step = 100; // ms
+constexpr qint64 duration = 1500; // ms
+
+} // namespace
+
+ValueWatch::ValueWatch(QObject *parent)
+    : QObject(parent)
+{
+    m_clock.start();
+    m_timer.setInterval(step);
+    connect(&m_timer, &QTimer::timeout, this, &ValueWatch::fade);
+}
+
+ValueWatch::~ValueWatch()
+{
+    if (m_model)
+        m_model->setReadObserver({});
+}
+
+void ValueWatch::setModel(GenParamTreeModel *model)
+{
+    if (m_model)
+        m_model->setReadObserver({});
+    m_model = model;
+    observe();
+}
+
+void ValueWatch::setTracksChanges(bool on)
+{
+    if (std::exchange(m_tracksChanges, on) != on)
+        observe();
+}
+
+void ValueWatch::setMarks(bool on)
+{
+    if (std::exchange(m_marks, on) == on)
+        return;
+    m_marked.clear();
+    if (!m_tracksChanges)
+        observe();
+}
+
+/** Begins anew. */
+void ValueWatch::observe()
+{
+    m_seen.clear();
+    m_marked.clear();
+    m_timer.stop();
+    if (m_model && (m_tracksChanges || m_marks))
+        m_model->setReadObserver([this](GenApi::IValue *feature, const QString &text) { note(feature, text); });
+    else if (m_model)
+        m_model->setReadObserver({});
+    if (!std::exchange(m_changed, {}).isEmpty())
+        tellSoon();
+}
+
+void ValueWatch::note(GenApi::IValue *feature, const QString &text)
+{
+    const auto seen = m_seen.find(feature);
+    if (seen == m_seen.end()) {
+        m_seen.insert(feature, {text, text});
+        return;
+    }
+    if (std::exchange(seen->last, text) != text && m_marks) {
+        m_marked.insert(feature, m_clock.elapsed());
+        if (!m_timer.isActive())
+            m_timer.start();
+    }
+    if (!m_tracksChanges)
+        return;
+    noteChange(feature, seen->first != text);
+    Q_EMIT compared(feature);
+}
+
+void ValueWatch::noteChange(GenApi::IValue *feature, bool isChanged)
+{
+    if (m_changed.contains(feature) == isChanged)
+        return;
+    if (isChanged)
+        m_changed.insert(feature);
+    else
+        m_changed.remove(feature);
+    tellSoon();
+}
+
+void ValueWatch::tellSoon()
+{
+    if (!std::exchange(m_isTold, false))
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_isTold = true;
+            Q_EMIT changedFeaturesChanged();
+        },
+        Qt::QueuedConnection);
+}
+
+qreal ValueWatch::strengthOf(GenApi::IValue *feature) const
+{
+    const auto marked = m_marked.find(feature);
+    return marked == m_marked.end() ? 0 : qMax<qreal>(0, 1 - qreal(m_clock.elapsed() - *marked) / duration);
+}
+
+/** Marks that have faded are painted away before they are dropped. */
+void ValueWatch::fade()
+{
+    const QPointer<ValueWatch> alive(this);
+    Q_EMIT marksFaded();
+    if (!alive)
+        return;
+    const qint64 oldest = m_clock.elapsed() - duration;
+    for (auto marked = m_marked.begin(); marked != m_marked.end();)
+        marked = *marked < oldest ? m_marked.erase(marked) : std::next(marked);
+    if (m_marked.isEmpty())
+        m_timer.stop();
+}
