@@ -1,5 +1,6 @@
 #include "explorerwindow.h"
 
+#include "actions.h"
 #include "cameradialog.h"
 #include "camerasource.h"
 #include "camerawatch.h"
@@ -7,6 +8,7 @@
 #include "featuremarks.h"
 #include "log/logdock.h"
 #include "log/writewatch.h"
+#include "picture/picturedock.h"
 #include "settings/settingsmenu.h"
 #include "simulationmenu.h"
 #include "widgetspage.h"
@@ -56,19 +58,6 @@ const QLatin1String camerasKey("cameras");
 const QLatin1String pollsKey("polling/enabled");
 const QLatin1String intervalKey("polling/interval");
 
-QIcon iconOf(const char *name)
-{
-    return QIcon(QStringLiteral(":/explorer/%1.ico").arg(QLatin1String(name)));
-}
-
-/** With the keys, as a tool tip is where people look for them. */
-void setTip(QAction &action, const QString &tip)
-{
-    const QString keys = action.shortcut().toString(QKeySequence::NativeText);
-    action.setToolTip(keys.isEmpty() ? tip : QStringLiteral("%1 (%2)").arg(tip, keys));
-    action.setStatusTip(tip);
-}
-
 } // namespace
 
 ExplorerWindow::ExplorerWindow(std::unique_ptr<CameraSource> source, QWidget *parent)
@@ -80,6 +69,7 @@ ExplorerWindow::ExplorerWindow(std::unique_ptr<CameraSource> source, QWidget *pa
     , m_log(new LogDock(this))
     , m_settings(new SettingsMenu(this))
     , m_marks(new FeatureMarks(*m_view, this))
+    , m_picture(new PictureDock(this))
     , m_simulation(new SimulationMenu(this))
     , m_connectionIcon(new QLabel(this))
     , m_connectionLabel(new QLabel(this))
@@ -96,6 +86,7 @@ ExplorerWindow::ExplorerWindow(std::unique_ptr<CameraSource> source, QWidget *pa
     createLog();
     createConfigureMenu();
     createSettingsMenu();
+    createPictureMenu();
     createSimulationMenu();
     createHelpMenu();
     setSource(std::move(source));
@@ -110,6 +101,7 @@ ExplorerWindow::~ExplorerWindow()
     m_settings->setCamera(nullptr);
     m_simulation->setCamera(QString(), nullptr);
     m_configure->setDevice(nullptr);
+    m_picture->setDevice(nullptr);
     m_view->clearParams();
 }
 
@@ -250,10 +242,7 @@ void ExplorerWindow::createConfigureMenu()
 void ExplorerWindow::createSettingsMenu()
 {
     menuBar()->addMenu(m_settings);
-    connect(m_settings, &SettingsMenu::told, this, [this](const QString &message) {
-        statusBar()->showMessage(message, messageTime);
-        m_log->log().add(LogLevel::Information, QString(), message);
-    });
+    connect(m_settings, &SettingsMenu::told, this, &ExplorerWindow::tell);
     connect(m_settings, &SettingsMenu::featuresMarked, m_marks, &FeatureMarks::mark);
     connect(m_settings, &SettingsMenu::featureChosen, this, &ExplorerWindow::goTo);
 }
@@ -267,6 +256,16 @@ void ExplorerWindow::goTo(const QString &feature)
     showPage(m_view->objectName());
     activateWindow();
     m_view->treeView()->setFocus();
+}
+
+/** With the dock that shows pictures. */
+void ExplorerWindow::createPictureMenu()
+{
+    addDockWidget(Qt::RightDockWidgetArea, m_picture);
+    m_picture->hide();
+    menuBar()->addMenu(m_picture->menu());
+    connect(m_picture, &PictureDock::told, this, &ExplorerWindow::tell);
+    connect(m_picture, &PictureDock::failed, this, &ExplorerWindow::report);
 }
 
 void ExplorerWindow::createSimulationMenu()
@@ -291,6 +290,7 @@ void ExplorerWindow::setSource(std::unique_ptr<CameraSource> source)
     m_simulation->setCamera(source->id(), source->nodeMap());
     m_simulation->setFeature(QString());
     m_configure->setDevice(source->device());
+    m_picture->setDevice(source->device());
     if (m_source)
         m_treeStates.insert(m_source->name(), m_view->saveState());
     m_view->setParams(source->nodeMap());
@@ -348,6 +348,7 @@ void ExplorerWindow::setReachable(bool reachable)
                      reachable ? tr("%1 is back.").arg(m_source->name()) : tr("%1 is lost.").arg(m_source->name()));
     m_configure->setReachable(reachable);
     m_settings->setReachable(reachable);
+    m_picture->setReachable(reachable);
     refresh();
 }
 
@@ -516,6 +517,12 @@ void ExplorerWindow::report(const QString &message)
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::PlainText); // a camera may have a part in it
     box->open();
+}
+
+void ExplorerWindow::tell(const QString &message)
+{
+    statusBar()->showMessage(message, messageTime);
+    m_log->log().add(LogLevel::Information, QString(), message);
 }
 
 void ExplorerWindow::showAbout()

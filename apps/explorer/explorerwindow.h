@@ -14,6 +14,7 @@ class CameraWatch;
 class ConfigureMenu;
 class FeatureMarks;
 class LogDock;
+class PictureDock;
 class QLabel;
 class QMenu;
 class QModelIndex;
@@ -81,6 +82,7 @@ private:
     void createLog();
     void createConfigureMenu();
     void createSettingsMenu();
+    void createPictureMenu();
     void createSimulationMenu();
     void createHelpMenu();
 
@@ -98,6 +100,7 @@ private:
     void goTo(const QString &feature);
     void followCurrent(const QModelIndex &current);
     void report(const QString &message);
+    void tell(const QString &message);
     void showAbout();
 
     std::unique_ptr<CameraSource> m_source;
@@ -113,6 +116,7 @@ private:
     LogDock *const m_log;
     SettingsMenu *const m_settings;
     FeatureMarks *const m_marks;
+    PictureDock *const m_picture;
     SimulationMenu *const m_simulation;
     std::optional<OrvTransports::Cameras> m_chosenCameras; ///< in the menu
     QAction *m_polling = nullptr;

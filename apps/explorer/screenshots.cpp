@@ -4,20 +4,27 @@
 #include "camerasource.h"
 #include "configuremenu.h"
 #include "explorerwindow.h"
+#include "picture/histogram.h"
+
+#include <OrvCameraApi/transports.h>
 
 #include <QAction>
 #include <QApplication>
 #include <QDeadlineTimer>
 #include <QDialog>
+#include <QDockWidget>
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QTimer>
 #include <QToolButton>
 
+#include <functional>
+
 namespace {
 
 constexpr int longestWait = 5000; // milliseconds
 constexpr QSize usualSelector(820, 640);
+constexpr int pictureWidth = 420; // beside the features
 
 /** The name that the library gives a part of its windows. */
 template <typename Widget>
@@ -26,13 +33,13 @@ Widget *part(QWidget &window, const char *name)
     return window.findChild<Widget *>(QLatin1String(name));
 }
 
-/** The configuration window is empty until it has read the camera for the first time. */
-void waitForText(const QLineEdit &field)
+/** Until \a condition holds, but not for ever. */
+void waitFor(const std::function<bool()> &condition)
 {
     const QDeadlineTimer deadline(longestWait);
     QTimer wake; // so that the deadline is seen
     wake.start(longestWait / 10);
-    while (field.text().isEmpty() && !deadline.hasExpired())
+    while (!condition() && !deadline.hasExpired())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
@@ -63,6 +70,7 @@ bool Screenshots::save()
     if (!m_fault.isEmpty())
         return false;
     saveErrors();
+    savePicture();
     if (m_window.configureMenu().windowNamed(QStringLiteral("configwindow")))
         saveCameraWindows();
     saveSelection();
@@ -95,6 +103,22 @@ void Screenshots::saveErrors()
     filter->clear();
 }
 
+/** Only of a simulated camera: nobody has said that a real one is to be started. */
+void Screenshots::savePicture()
+{
+    if (OrvTransports::used() != OrvTransports::Cameras::Simulated || !part<QAction>(m_window, "start")->isEnabled())
+        return;
+    auto *const dock = part<QDockWidget>(m_window, "picture");
+    const QSize size = m_window.size();
+    m_window.resize(size + QSize(pictureWidth, 0));
+    part<QAction>(m_window, "oneframe")->trigger();
+    part<QAction>(m_window, "histogram")->trigger();
+    waitFor([dock] { return !dock->findChild<HistogramView *>()->isEmpty(); });
+    grab(m_window, QStringLiteral("picture"));
+    dock->close();
+    m_window.resize(size);
+}
+
 void Screenshots::saveCameraWindows()
 {
     saveConfigWindow();
@@ -109,7 +133,8 @@ void Screenshots::saveConfigWindow()
 {
     QWidget &window = *m_window.configureMenu().windowNamed(QStringLiteral("configwindow"));
     window.show();
-    waitForText(*part<QLineEdit>(window, "lineEditSizeFrameA"));
+    const auto *const field = part<QLineEdit>(window, "lineEditSizeFrameA"); // empty until the camera has been read
+    waitFor([field] { return !field->text().isEmpty(); });
     part<QAction>(window, "actionAbout")->trigger();
     showAndGrab(*part<QDialog>(window, "OrvCamConfigAboutDialog"), QStringLiteral("about"));
     showAndGrab(window, QStringLiteral("configwindow"));

@@ -22,6 +22,7 @@ public:
 private:
     void savePages();
     void saveErrors();
+    void savePicture();
     void saveCameraWindows();
     void saveConfigWindow();
     void saveSelection();

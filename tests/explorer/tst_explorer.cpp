@@ -81,7 +81,7 @@ private Q_SLOTS:
     void drawsItsWindow()
     {
         const auto list = [](const char *names) { return QString::fromLatin1(names).split(QLatin1Char(' ')); };
-        QStringList ofACamera = list("explorer widgets filteroptions filter errors about configwindow");
+        QStringList ofACamera = list("explorer widgets filteroptions filter errors picture about configwindow");
         for (const OrvGui::FeatureDialog &dialog : OrvGui::featureDialogs())
             ofACamera.append(QLatin1String(dialog.kind));
         const std::pair<QStringList, QStringList> rows[] = {

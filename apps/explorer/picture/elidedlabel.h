@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QWidget>
+
+/** A line of plain text that is shortened where there is no room for it; its tool tip then has all of it. */
+class ElidedLabel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ElidedLabel(const QString &name, QWidget *parent = nullptr);
+
+    /** Line breaks become spaces. */
+    void setText(const QString &text);
+    const QString &text() const { return m_text; }
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QString m_text;
+};
