@@ -1,8 +1,7 @@
 #include "simtest.h"
+#include "streamtest.h"
 
 #include <orvtest.h>
-
-#include <OrvCameraApi/streaming.h>
 
 #include <GenApi/GenApi.h>
 
@@ -41,42 +40,13 @@ const char plainCamera[] = R"(<RegisterDescription ModelName="Plain" VendorName=
 </RegisterDescription>)";
 constexpr const char *plain = "PLAIN";
 
-/** A camera that is open, and its stream. */
-struct Camera
+/** A simulated camera that is open, and its stream. */
+struct Camera : StreamedCamera
 {
     explicit Camera(const char *id)
-        : device(open(id))
-        , stream(Stream::create(*device))
+        : StreamedCamera(open(id))
     {
     }
-
-    GenApi::INodeMap &map() const { return *device->GetCameraParameters(nullptr)->GetNodeMap(); }
-    void set(const char *feature, const char *value) const
-    {
-        GenApi::CValuePtr(map().GetNode(feature))->FromString(value);
-    }
-    QByteArray text(const char *feature) const { return GenApi::CValuePtr(map().GetNode(feature))->ToString().c_str(); }
-
-    bool stops() const
-    {
-        return QTest::qWaitFor([this] { return stream->state() == State::Stopped; });
-    }
-    bool receives(std::uint64_t frames = 1) const
-    {
-        const std::uint64_t before = stream->statistics().received;
-        return QTest::qWaitFor([&] { return stream->statistics().received >= before + frames; });
-    }
-
-    /** The first picture of a run of one. */
-    std::shared_ptr<const Frame> picture() const
-    {
-        stream->start(1);
-        stops();
-        return stream->take();
-    }
-
-    Held<OrvCam::Device> device;
-    std::unique_ptr<Stream> stream;
 };
 
 double mean(const Frame &frame)

@@ -3,8 +3,10 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QString>
+#include <QStringList>
 
 #include <csignal>
+#include <utility>
 
 namespace OrvTest {
 
@@ -16,12 +18,17 @@ public:
 
     static bool isInstalled() { return !QStandardPaths::findExecutable(program()).isEmpty(); }
 
-    FakeCamera() { start(); }
+    /** \a options besides that for its address. */
+    explicit FakeCamera(QStringList options = {})
+        : m_options(std::move(options))
+    {
+        start();
+    }
     ~FakeCamera() { kill(); }
 
     void start()
     {
-        m_process.start(program(), {QStringLiteral("-i"), QString::fromLatin1(address)});
+        m_process.start(program(), QStringList{QStringLiteral("-i"), QString::fromLatin1(address)} + m_options);
         m_process.waitForStarted();
     }
 
@@ -38,6 +45,7 @@ public:
 private:
     static QString program() { return QStringLiteral("arv-fake-gv-camera-0.8"); }
 
+    const QStringList m_options;
     QProcess m_process;
 };
 

@@ -4,10 +4,13 @@
 
 #include <GenApi/INodeMap.h>
 
+#include <atomic>
 #include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <stdexcept>
+#include <utility>
 
 namespace OrvCameraApi {
 
@@ -39,6 +42,28 @@ public:
 
     /** Waits for nothing. */
     virtual Look look() = 0;
+};
+
+/** The right to receive the pictures of a camera. One at a time has it. */
+class ReceivingRight
+{
+public:
+    /** Of the camera: whether somebody has the right. */
+    using Taken = std::atomic<bool>;
+
+    /** Throws if somebody has it. */
+    explicit ReceivingRight(std::shared_ptr<Taken> taken)
+        : m_taken(std::move(taken))
+    {
+        if (m_taken->exchange(true))
+            throw std::runtime_error("The pictures of this camera are shown elsewhere already");
+    }
+    ~ReceivingRight() { *m_taken = false; }
+    ReceivingRight(const ReceivingRight &) = delete;
+    ReceivingRight &operator=(const ReceivingRight &) = delete;
+
+private:
+    const std::shared_ptr<Taken> m_taken;
 };
 
 } // namespace OrvCameraApi

@@ -1,6 +1,8 @@
 // Aravis finds USB cameras, opens cameras and moves their bytes. Its headers and Qt's macros do not go together.
 #include "aravislinks.h"
 
+#include "aravisframes.h"
+#include "aravispointers.h"
 #include "wirespan.h"
 
 #include <arv.h>
@@ -31,41 +33,6 @@ std::mutex &usbMutex()
     return mutex;
 }
 
-struct Unref
-{
-    void operator()(void *object) const { g_object_unref(object); }
-};
-
-struct Failure
-{
-    GError *error = nullptr;
-
-    Failure() = default;
-    ~Failure() { g_clear_error(&error); }
-    Failure(const Failure &) = delete;
-    Failure &operator=(const Failure &) = delete;
-
-    std::string text() const { return error ? error->message : "Unknown error"; }
-
-    /** Throws if there is an error. */
-    void check() const
-    {
-        if (!error)
-            return;
-        LinkError::Kind kind = LinkError::Kind::Failed;
-        if (error->domain == ARV_DEVICE_ERROR) {
-            if (error->code == ARV_DEVICE_ERROR_TIMEOUT || error->code == ARV_DEVICE_ERROR_NOT_CONNECTED)
-                kind = LinkError::Kind::Silent;
-            else if (error->code == ARV_DEVICE_ERROR_PROTOCOL_ERROR_ACCESS_DENIED
-                     || error->code == ARV_DEVICE_ERROR_NOT_CONTROLLER)
-                kind = LinkError::Kind::Denied;
-        }
-        throw LinkError(kind, text());
-    }
-};
-
-using DevicePointer = std::unique_ptr<ArvDevice, Unref>;
-
 /** What both kinds of cameras have in common. */
 class AravisLink : public CameraLink
 {
@@ -89,6 +56,11 @@ public:
 
     bool isReadOnly() const override { return false; }
     bool isAlive() override { return !m_isLost; }
+
+    std::unique_ptr<FrameSource> openFrames() override
+    {
+        return std::make_unique<AravisFrames>(DevicePointer(ARV_DEVICE(g_object_ref(device()))));
+    }
 
 protected:
     ArvDevice *device() const { return m_device.get(); }

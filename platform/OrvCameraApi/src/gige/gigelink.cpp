@@ -192,6 +192,7 @@ public:
     }
     bool isAlive() override { return doesPrivilegeLast() && m_transport->isAlive(); }
     std::shared_ptr<DirectReader> directReader() override { return m_reader; }
+    std::unique_ptr<FrameSource> openFrames() override { return m_transport->openFrames(); }
 
 private:
     /** What somebody reads meanwhile may take the camera a while. */

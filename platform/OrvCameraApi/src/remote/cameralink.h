@@ -1,5 +1,7 @@
 #pragma once
 
+#include "framesource.h"
+
 #include <chrono>
 #include <cstdint>
 #include <functional>
@@ -89,6 +91,12 @@ public:
 
     /** The same one each time; null if all is read through the link. It may outlive the link. */
     virtual std::shared_ptr<DirectReader> directReader() { return nullptr; }
+
+    /** What receives the camera's pictures. Another thread uses it, also when this link is gone. */
+    virtual std::unique_ptr<FrameSource> openFrames()
+    {
+        throw LinkError(LinkError::Kind::Failed, "This camera's pictures cannot be received");
+    }
 };
 
 } // namespace OrvCameraApi

@@ -190,8 +190,9 @@ void RemoteCamera::Read(void *buffer, std::int64_t address, std::int64_t length)
     const std::shared_ptr<DirectReader> reader = directReader();
     if (reader && readDirectly(*reader, buffer, std::uint64_t(address), checkedLength(length)))
         return;
-    const std::shared_ptr<Access> done = access(false, address, bytesOf(nullptr, length));
-    std::copy(done->bytes.begin(), done->bytes.end(), static_cast<std::uint8_t *>(buffer));
+    const auto bytes = std::make_shared<std::vector<std::uint8_t>>(bytesOf(nullptr, length)); // outlives a caller
+    access([=](CameraLink &link) { link.read(bytes->data(), std::uint64_t(address), std::uint32_t(bytes->size())); });
+    std::copy(bytes->begin(), bytes->end(), static_cast<std::uint8_t *>(buffer));
     if (!reader)
         return;
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -247,25 +248,79 @@ void RemoteCamera::Write(const void *buffer, std::int64_t address, std::int64_t 
 {
     if (m_accessMode == GenApi::RO)
         throw GenICam::AccessException("Another program controls the camera", __FILE__, __LINE__);
-    access(true, address, bytesOf(buffer, length));
+    access([address, bytes = bytesOf(buffer, length)](CameraLink &link) {
+        link.write(bytes.data(), std::uint64_t(address), std::uint32_t(bytes.size()));
+    });
 }
 
-std::shared_ptr<RemoteCamera::Access> RemoteCamera::access(bool isWrite, std::int64_t address,
-                                                           std::vector<std::uint8_t> bytes)
+/** Of a remote camera, beside the right to receive from it. */
+class RemoteCamera::Frames final : public FrameSource
+{
+public:
+    explicit Frames(std::shared_ptr<RemoteCamera> camera)
+        : m_camera(std::move(camera))
+        , m_right(std::make_unique<ReceivingRight>(m_camera->m_isReceiving))
+    {
+        const auto opened = std::make_shared<std::unique_ptr<FrameSource>>(); // outlives a caller
+        m_camera->access([opened](CameraLink &link) { *opened = link.openFrames(); });
+        m_source = std::move(*opened);
+    }
+
+    /** Libraries below tell the camera. One that does not answer is waited for elsewhere, with the right. */
+    ~Frames() override
+    {
+        if (m_camera->isConnected())
+            return;
+        const auto hasEnded = std::make_shared<std::atomic<bool>>(false);
+        m_camera->m_areFramesEnding = true;
+        auto end = [=, source = std::move(m_source), right = std::move(m_right), camera = m_camera]() mutable {
+            source.reset();
+            right.reset();
+            camera->m_areFramesEnding = false;
+            camera.reset();
+            *hasEnded = true;
+        };
+        runningCameras().close(std::thread(std::move(end)), hasEnded);
+    }
+    Frames(const Frames &) = delete;
+    Frames &operator=(const Frames &) = delete;
+
+    void prepare(GenApi::INodeMap &map, std::function<void()> wake) override
+    {
+        m_source->prepare(map, std::move(wake));
+    }
+    Clock::time_point nextLook() const override { return m_source->nextLook(); }
+    Look look() override { return m_source->look(); }
+
+private:
+    const std::shared_ptr<RemoteCamera> m_camera;
+    std::unique_ptr<ReceivingRight> m_right;
+    std::unique_ptr<FrameSource> m_source;
+};
+
+std::unique_ptr<FrameSource> RemoteCamera::openFrames()
+{
+    using namespace std::chrono_literals;
+    const auto deadline = std::chrono::steady_clock::now() + 5s;
+    while (m_areFramesEnding && std::chrono::steady_clock::now() < deadline)
+        std::this_thread::sleep_for(10ms);
+    return std::make_unique<Frames>(shared_from_this());
+}
+
+/** Waits for the link's thread, which performs it, but for no longer than the camera's patience. */
+void RemoteCamera::access(std::function<void(CameraLink &link)> perform)
 {
     auto access = std::make_shared<Access>();
-    access->isWrite = isWrite;
-    access->address = std::uint64_t(address);
-    access->bytes = std::move(bytes);
+    access->perform = std::move(perform);
     Lock lock(m_mutex);
     if (std::this_thread::get_id() == m_threadId) { // a callback of the application, told of the connection
         if (m_state != State::Connected || m_isEnding)
             throwNotConnected();
         lock.unlock();
-        perform(*access);
+        this->perform(*access);
         if (access->failure)
             std::rethrow_exception(access->failure);
-        return access;
+        return;
     }
     requireAnswering();
     m_waiting.push_back(access);
@@ -282,7 +337,6 @@ std::shared_ptr<RemoteCamera::Access> RemoteCamera::access(bool isWrite, std::in
     }
     if (access->failure)
         std::rethrow_exception(access->failure);
-    return access;
 }
 
 void RemoteCamera::run()
@@ -471,10 +525,7 @@ bool RemoteCamera::isLinkAlive()
 bool RemoteCamera::perform(Access &access)
 {
     try {
-        if (access.isWrite)
-            m_link->write(access.bytes.data(), access.address, std::uint32_t(access.bytes.size()));
-        else
-            m_link->read(access.bytes.data(), access.address, std::uint32_t(access.bytes.size()));
+        access.perform(*m_link);
     } catch (const LinkError &error) {
         access.failure = forCallers(error);
         const bool isOver = error.kind() == LinkError::Kind::Failed || error.kind() == LinkError::Kind::Unwanted;

@@ -29,7 +29,7 @@ namespace OrvCameraApi {
  * thread. An access that takes too long throws, and as long as the camera still has not answered it, or another
  * question of the thread, further ones throw at once. An attempt to open that fails is repeated, with pauses that grow.
  */
-class RemoteCamera final : public GenApi::IPort
+class RemoteCamera final : public GenApi::IPort, public std::enable_shared_from_this<RemoteCamera>
 {
 public:
     /** Opens the camera, with a link that keeps \a isWanted. Throws LinkError. */
@@ -75,15 +75,17 @@ public:
     void Read(void *buffer, std::int64_t address, std::int64_t length) override;
     void Write(const void *buffer, std::int64_t address, std::int64_t length) override;
 
+    /** What receives the pictures; see Connection::openFrames(). */
+    std::unique_ptr<FrameSource> openFrames();
+
     /** Becomes true when the camera has been closed and its link is gone. */
     std::shared_ptr<const std::atomic<bool>> hasEnded() const { return m_hasEnded; }
 
 private:
+    class Frames;
     struct Access
     {
-        bool isWrite;
-        std::uint64_t address;
-        std::vector<std::uint8_t> bytes;
+        std::function<void(CameraLink &link)> perform;
         std::exception_ptr failure;
         bool isDone = false;
     };
@@ -113,7 +115,7 @@ private:
     template <typename Tell>
     void tellAll(const Tell &tell);
     std::vector<std::shared_ptr<ConnectionListener>> listeners();
-    std::shared_ptr<Access> access(bool isWrite, std::int64_t address, std::vector<std::uint8_t> bytes);
+    void access(std::function<void(CameraLink &link)> perform);
     void requireAnswering() const;
 
     const Patience m_patience;
@@ -134,6 +136,8 @@ private:
     std::shared_ptr<GenApi::INodeMap> m_nodeMap; ///< until it is taken
     std::string m_failure;
     std::vector<std::weak_ptr<ConnectionListener>> m_listeners;
+    const std::shared_ptr<ReceivingRight::Taken> m_isReceiving = std::make_shared<ReceivingRight::Taken>(false);
+    std::atomic<bool> m_areFramesEnding{false}; ///< the right to receive will be free soon
 
     std::thread m_thread;
     std::thread::id m_threadId; ///< also when the thread has been closed

@@ -55,6 +55,8 @@ public:
     bool isConnected() const override { return camera().isConnected(); }
     OpeningProgress progress() const override { return {camera().state(), camera().failure()}; }
     void setListener(std::weak_ptr<ConnectionListener> listener) override { camera().addListener(std::move(listener)); }
+    bool givesFrames() const override { return true; }
+    std::unique_ptr<FrameSource> openFrames() override { return camera().openFrames(); }
 
 private:
     RemoteCamera &camera() const { return m_open->camera(); }

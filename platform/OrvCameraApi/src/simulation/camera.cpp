@@ -2,6 +2,7 @@
 
 #include "monitoredport.h"
 #include "powerup.h"
+#include "simulatedframes.h"
 
 #include <GenApi/GenApi.h>
 
@@ -40,7 +41,7 @@ public:
     bool givesFrames() const override { return true; }
     std::unique_ptr<FrameSource> openFrames() override
     {
-        return std::make_unique<SimulatedFrames>(m_camera->m_sending);
+        return std::make_unique<SimulatedFrames>(m_camera->m_isReceiving);
     }
 
 private:

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "backend.h"
+#include "framesource.h"
 #include "locked.h"
 #include "portmonitor.h"
 #include "registerfile.h"
 #include "servicemap.h"
-#include "simulatedframes.h"
 #include "stallpoint.h"
 
 #include <OrvCameraApi/simulation.h>
@@ -78,7 +78,7 @@ private:
     PortMonitor m_monitor;
     ServiceMap m_service;
     Locked<State> m_state;
-    const std::shared_ptr<SimulatedFrames::Sending> m_sending = std::make_shared<SimulatedFrames::Sending>(false);
+    const std::shared_ptr<ReceivingRight::Taken> m_isReceiving = std::make_shared<ReceivingRight::Taken>(false);
 };
 
 } // namespace OrvCameraApi

@@ -2,26 +2,11 @@
 
 #include "picture.h"
 
-#include <GenApi/GenApi.h>
-
 #include <algorithm>
-#include <utility>
 
 namespace OrvCameraApi {
 
 using namespace std::chrono_literals;
-
-SimulatedFrames::SimulatedFrames(std::shared_ptr<Sending> sending)
-    : m_sending(std::move(sending))
-{
-    if (m_sending->exchange(true))
-        throw GenICam::AccessException("The pictures of this camera are shown elsewhere already", __FILE__, __LINE__);
-}
-
-SimulatedFrames::~SimulatedFrames()
-{
-    *m_sending = false;
-}
 
 /** The first picture comes after its time of exposure, as do all. */
 void SimulatedFrames::prepare(GenApi::INodeMap &map, std::function<void()>)

@@ -4,8 +4,8 @@
 #include "framesource.h"
 #include "picturesettings.h"
 
-#include <atomic>
 #include <memory>
+#include <utility>
 
 namespace OrvCameraApi {
 
@@ -13,21 +13,17 @@ namespace OrvCameraApi {
 class SimulatedFrames final : public FrameSource
 {
 public:
-    /** Whether a camera is sending pictures. */
-    using Sending = std::atomic<bool>;
-
-    /** Throws if the camera is sending pictures already. */
-    explicit SimulatedFrames(std::shared_ptr<Sending> sending);
-    ~SimulatedFrames() override;
-    SimulatedFrames(const SimulatedFrames &) = delete;
-    SimulatedFrames &operator=(const SimulatedFrames &) = delete;
+    explicit SimulatedFrames(std::shared_ptr<ReceivingRight::Taken> taken)
+        : m_right(std::move(taken))
+    {
+    }
 
     void prepare(GenApi::INodeMap &map, std::function<void()> wake) override;
     Clock::time_point nextLook() const override { return m_nextLook; }
     Look look() override;
 
 private:
-    const std::shared_ptr<Sending> m_sending;
+    const ReceivingRight m_right;
     GenApi::INodeMap *m_map = nullptr;
     FrameBuffers m_buffers;
     Clock::time_point m_next; ///< picture
