@@ -150,16 +150,22 @@ constexpr int lookingTime = 3000; // milliseconds
 
 /** Tries \a attempt again and again for that long. */
 template <typename Attempt>
-bool tryFor(int milliseconds, const Attempt &attempt)
+bool tryFor(int milliseconds, const GivesUp &givesUp, const Attempt &attempt)
 {
     QElapsedTimer clock;
     clock.start();
     bool isDone = attempt();
-    while (!isDone && clock.elapsed() < milliseconds) {
+    while (!isDone && clock.elapsed() < milliseconds && !(givesUp && givesUp())) {
         QThread::msleep(20);
         isDone = attempt();
     }
     return isDone;
+}
+
+/** Real cameras are found a moment after somebody has begun to look. */
+int timeToLook()
+{
+    return OrvTransports::used() == OrvTransports::Cameras::Simulated ? 0 : lookingTime;
 }
 
 bool isSelectable(OrvCam::DeviceInfo *info)
@@ -200,7 +206,21 @@ std::unique_ptr<CameraSource> openCamera(const std::shared_ptr<OrvCam::System> &
     return camera;
 }
 
-std::unique_ptr<CameraSource> openCamera(const QString &id)
+QVector<ListedCamera> listCameras(const GivesUp &givesUp)
+{
+    const std::shared_ptr<OrvCam::System> system = cameraSystem();
+    QVector<ListedCamera> cameras;
+    tryFor(timeToLook(), givesUp, [&] {
+        cameras.clear();
+        for (OrvCam::DeviceInfo *info : allDevices(*system))
+            cameras.append({QString::fromLatin1(info->GetID()), QString::fromUtf8(info->GetDisplayName()).simplified(),
+                            isSelectable(info)});
+        return false; // there may be more
+    });
+    return cameras;
+}
+
+std::unique_ptr<CameraSource> openCamera(const QString &id, const GivesUp &givesUp)
 {
     const std::shared_ptr<OrvCam::System> system = cameraSystem();
     std::vector<OrvCam::DeviceInfo *> devices;
@@ -213,12 +233,11 @@ std::unique_ptr<CameraSource> openCamera(const QString &id)
         wanted = found == devices.end() ? nullptr : *found;
         return wanted != nullptr;
     };
-    // Real cameras are found a moment after somebody has begun to look.
-    tryFor(OrvTransports::used() == OrvTransports::Cameras::Simulated ? 0 : lookingTime, find);
+    tryFor(timeToLook(), givesUp, find);
     if (!wanted && !id.isEmpty())
         fail(Text::tr("There is no camera '%1'; there are: %2.").arg(id, idsOf(devices).join(QLatin1String(", "))));
-    return openCamera(system, wanted, [](OrvCam::Device &device, const QString &name) {
-        if (!tryFor(openingTime, [&device] { return device.GetCameraParameters(nullptr) != nullptr; }))
+    return openCamera(system, wanted, [&givesUp](OrvCam::Device &device, const QString &name) {
+        if (!tryFor(openingTime, givesUp, [&device] { return device.GetCameraParameters(nullptr) != nullptr; }))
             fail(Text::tr("Cannot open the camera '%1': %2.")
                      .arg(name, QString::fromStdString(OrvTransports::progressOf(device).failure)));
         return true;

@@ -3,6 +3,7 @@
 #include <GenApi/INodeMap.h>
 
 #include <QString>
+#include <QVector>
 
 #include <functional>
 #include <memory>
@@ -44,11 +45,25 @@ struct CameraSourceError
 /** The GenICam description in the file \a path over a memory that reads as zeros. Throws a CameraSourceError. */
 std::unique_ptr<CameraSource> openDescription(const QString &path);
 
+/** Whether somebody who waits gives it up; may be null. */
+using GivesUp = std::function<bool()>;
+
 /**
  * The camera of the process's camera system with the identifier \a id, opened; for an empty one the first camera whose
- * access status allows it. Waits for a real camera. Throws a CameraSourceError.
+ * access status allows it. Waits for a real camera. Throws a CameraSourceError, also when it is given up.
  */
-std::unique_ptr<CameraSource> openCamera(const QString &id);
+std::unique_ptr<CameraSource> openCamera(const QString &id, const GivesUp &givesUp = {});
+
+/** A camera that can be named to open it. */
+struct ListedCamera
+{
+    QString id;
+    QString name;
+    bool canBeOpened = false;
+};
+
+/** Those of the process's camera system. Looks for real ones for a while. Throws a CameraSourceError. */
+QVector<ListedCamera> listCameras(const GivesUp &givesUp = {});
 
 /** The process's camera system, never null. Throws a CameraSourceError. */
 std::shared_ptr<OrvCam::System> cameraSystem();

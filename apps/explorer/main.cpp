@@ -1,9 +1,11 @@
 #include "cameradialog.h"
 #include "camerasource.h"
+#include "exitcodes.h"
 #include "explorerwindow.h"
 #include "languages.h"
 #include "options.h"
 #include "screenshots.h"
+#include "script.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -13,23 +15,21 @@
 
 namespace {
 
-constexpr int usageError = 2;
-
 struct Text
 {
     Q_DECLARE_TR_FUNCTIONS(Explorer)
 };
 
-int fail(const QString &message)
+int fail(const QString &message, ExitCode code)
 {
     std::fprintf(stderr, "%s: %s\n", qPrintable(QCoreApplication::applicationName()), qPrintable(message));
-    return usageError;
+    return code;
 }
 
 int print(const QString &text)
 {
     const bool written = std::fputs(qPrintable(text), stdout) >= 0 && std::fflush(stdout) == 0;
-    return written ? 0 : fail(Text::tr("Cannot write to standard output."));
+    return written ? 0 : fail(Text::tr("Cannot write to standard output."), NoFile);
 }
 
 /** Reads the command line, which needs neither a display nor the window system. */
@@ -55,7 +55,7 @@ int saveScreenshots(ExplorerWindow &window, const QString &directory)
 {
     Screenshots screenshots(window, directory);
     if (!screenshots.save())
-        return fail(Text::tr("Cannot write '%1'.").arg(screenshots.fault()));
+        return fail(Text::tr("Cannot write '%1'.").arg(screenshots.fault()), NoFile);
     return print(screenshots.files().join(QLatin1Char('\n')) + QLatin1Char('\n'));
 }
 
@@ -114,21 +114,30 @@ int runWindow(int argc, char **argv, const Options &options, std::unique_ptr<Cam
     return runFor(window);
 }
 
+int runScript(int argc, char **argv, const Options &options)
+{
+    const QCoreApplication app(argc, argv);
+    Script script;
+    return options.action == Options::Action::ListCameras ? script.listCameras() : script.run(options);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
     const Options options = readCommandLine(argc, argv);
     if (options.action == Options::Action::Fail)
-        return fail(options.text);
+        return fail(options.text, WrongUse);
     if (options.action == Options::Action::PrintText)
         return print(options.text);
     if (options.action == Options::Action::ShowWindow && !hasDisplay())
-        return fail(Text::tr("There is no display; '--screenshot DIR' draws the window into a file."));
+        return fail(Text::tr("There is no display; '--screenshot DIR' draws the window into a file."), WrongUse);
     chooseCameras(options);
+    if (options.action == Options::Action::ListCameras || options.action == Options::Action::RunScript)
+        return runScript(argc, argv, options);
     try {
         return runWindow(argc, argv, options, sourceOf(options));
     } catch (const CameraSourceError &e) {
-        return fail(e.message);
+        return fail(e.message, NoCamera);
     }
 }

@@ -4,8 +4,12 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QHash>
 
 #include <arpa/inet.h>
+
+#include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -21,6 +25,44 @@ Options saying(Options::Action action, const QString &text)
     options.action = action;
     options.text = text;
     return options;
+}
+
+constexpr const char *stepNames[] = {"get", "set", "save", "load", "snap"}; // in the order of ScriptStep::Kind
+
+/** In the order of the command line. */
+QVector<ScriptStep> stepsOf(const QCommandLineParser &parser)
+{
+    QVector<ScriptStep> steps;
+    QHash<QString, int> used; // values of each option
+    for (const QString &option : parser.optionNames()) {
+        const auto *const name = std::find_if(std::begin(stepNames), std::end(stepNames),
+                                              [&option](const char *each) { return option == QLatin1String(each); });
+        if (name != std::end(stepNames))
+            steps.append({ScriptStep::Kind(name - std::begin(stepNames)), parser.values(option).value(used[option]++)});
+    }
+    return steps;
+}
+
+/** Likewise, of the options that need no window. */
+QString misuseOfScripts(const QCommandLineParser &parser)
+{
+    const QVector<ScriptStep> steps = stepsOf(parser);
+    const bool lists = parser.isSet(QStringLiteral("list"));
+    for (const ScriptStep &step : steps) {
+        if (step.argument.isEmpty())
+            return Text::tr("Empty value after '--%1'.").arg(QLatin1String(stepNames[int(step.kind)]));
+        if (step.kind == ScriptStep::Kind::Set && step.argument.indexOf(QLatin1Char('=')) < 1)
+            return Text::tr("'--set' needs NAME=VALUE, not '%1'.").arg(step.argument);
+        if (step.kind == ScriptStep::Kind::Snap && parser.isSet(QStringLiteral("xml")))
+            return Text::tr("'--xml' and '--snap' exclude each other.");
+    }
+    if (lists && (!steps.isEmpty() || parser.isSet(QStringLiteral("xml")) || parser.isSet(QStringLiteral("camera"))))
+        return Text::tr("'--list' goes without another camera or command.");
+    if ((lists || !steps.isEmpty()) && parser.isSet(QStringLiteral("screenshot")))
+        return Text::tr("'--screenshot' goes without other commands.");
+    if (parser.isSet(QStringLiteral("real")) && parser.isSet(QStringLiteral("simulated")))
+        return Text::tr("'--real' and '--simulated' exclude each other.");
+    return {};
 }
 
 /** Why options that are right by themselves cannot be used; empty when they can. */
@@ -49,7 +91,7 @@ QString misuse(const QCommandLineParser &parser)
     if (!language.isEmpty() && !languages().contains(language))
         return Text::tr("There is no language '%1'; there are: %2.")
             .arg(language, languages().join(QLatin1String(", ")));
-    return {};
+    return misuseOfScripts(parser);
 }
 
 } // namespace
@@ -67,6 +109,21 @@ Options parseOptions(const QStringList &arguments)
                                     Text::tr("ID"));
     const QCommandLineOption real(QStringLiteral("real"),
                                   Text::tr("Show the cameras on the network and on USB instead of simulated ones."));
+    const QCommandLineOption simulated(QStringLiteral("simulated"), Text::tr("Show simulated cameras."));
+    const QCommandLineOption list(QStringLiteral("list"),
+                                  Text::tr("Print the cameras that are found, without a window."));
+    const QCommandLineOption get(QStringLiteral("get"),
+                                 Text::tr("Print the value of the feature NAME, without a window."), Text::tr("NAME"));
+    const QCommandLineOption set(QStringLiteral("set"),
+                                 Text::tr("Write VALUE to the feature NAME; execute it if it is a command."),
+                                 Text::tr("NAME=VALUE"));
+    const QCommandLineOption save(QStringLiteral("save"),
+                                  Text::tr("Write the settings of the camera into FILE, '-' for the standard output."),
+                                  Text::tr("FILE"));
+    const QCommandLineOption load(
+        QStringLiteral("load"), Text::tr("Set the camera as FILE says, '-' for the standard input."), Text::tr("FILE"));
+    const QCommandLineOption snap(QStringLiteral("snap"),
+                                  Text::tr("Write a picture of the camera into the PNG file FILE."), Text::tr("FILE"));
     const QCommandLineOption adapter(QStringLiteral("adapter"),
                                      Text::tr("Look for cameras on the network adapter NAME only."), Text::tr("NAME"));
     const QCommandLineOption address(QStringLiteral("address"),
@@ -80,7 +137,8 @@ Options parseOptions(const QStringList &arguments)
         Text::tr("Show the windows in the language LANGUAGE (%1) instead of the system's.")
             .arg(languages().join(QLatin1String(", "))),
         Text::tr("LANGUAGE"));
-    parser.addOptions({help, version, xml, camera, real, adapter, address, screenshot, language});
+    parser.addOptions({help, version, xml, camera, real, simulated, adapter, address, list, get, set, save, load, snap,
+                       screenshot, language});
 
     const bool understood = parser.parse(arguments);
     if (understood && parser.isSet(help))
@@ -96,6 +154,13 @@ Options parseOptions(const QStringList &arguments)
     Options options;
     if (parser.isSet(screenshot))
         options.action = Options::Action::SaveScreenshot;
+    options.steps = stepsOf(parser);
+    if (!options.steps.isEmpty())
+        options.action = Options::Action::RunScript;
+    if (parser.isSet(list))
+        options.action = Options::Action::ListCameras;
+    if (parser.isSet(simulated))
+        options.cameras = OrvTransports::Cameras::Simulated;
     options.xmlFile = parser.value(xml);
     options.cameraId = parser.value(camera);
     if (parser.isSet(real))

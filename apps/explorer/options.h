@@ -4,8 +4,18 @@
 
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 #include <optional>
+
+/** Something that is done with a camera without a window. */
+struct ScriptStep
+{
+    enum class Kind { Get, Set, Save, Load, Snap };
+
+    Kind kind = Kind::Get;
+    QString argument; ///< a feature, NAME=VALUE, or a file
+};
 
 /** The options of the command line. */
 struct Options
@@ -13,6 +23,8 @@ struct Options
     enum class Action {
         ShowWindow,
         SaveScreenshot,
+        ListCameras,
+        RunScript,
         PrintText,
         Fail ///< the command line cannot be used
     };
@@ -22,6 +34,7 @@ struct Options
     QString cameraId; ///< identifier of the camera to open; empty: ask, for a screenshot the first that can be opened
     std::optional<OrvTransports::Cameras> cameras; ///< none: as the settings or the environment say
     OrvTransports::Discovery discovery; ///< for them
+    QVector<ScriptStep> steps; ///< of RunScript, in their order
     QString screenshotDir; ///< where SaveScreenshot writes
     QString language; ///< of the windows; empty: the one of the system
     QString text; ///< what PrintText prints; for Fail one line that says why

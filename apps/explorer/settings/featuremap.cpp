@@ -377,7 +377,7 @@ QString lockedReason(INode *feature)
 QString writeValue(INode *feature, const QByteArray &value)
 {
     const QString failure = failureOf([&] { dynamic_cast<GenApi::IValue &>(*feature).FromString(asGenApi(value)); });
-    if (!failure.isEmpty())
+    if (!failure.isEmpty() || !isReadable(feature))
         return failure;
     const FeatureValue has = readValue(feature);
     if (!has.failure.isEmpty() || isSameValue(value, has.text, kindOf(feature)))

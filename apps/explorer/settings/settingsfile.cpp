@@ -7,6 +7,8 @@
 
 #include <cstdio>
 
+#include <unistd.h>
+
 namespace {
 
 constexpr int longestLine = 1 << 20; // bytes
@@ -108,10 +110,15 @@ bool isStandard(const QString &path)
     return path == QLatin1String("-");
 }
 
-bool openFor(QFile &file, const QString &path, FILE *standard, QIODevice::OpenMode mode)
+/** To its end, or until a signal comes. */
+QByteArray readStandardInput()
 {
-    file.setFileName(path);
-    return isStandard(path) ? file.open(standard, mode) : file.open(mode);
+    QByteArray content;
+    char part[1 << 16];
+    ssize_t count = 0;
+    while (content.size() <= longestFile && (count = ::read(STDIN_FILENO, part, sizeof(part))) > 0)
+        content.append(part, int(count));
+    return content;
 }
 
 } // namespace
@@ -124,14 +131,16 @@ SettingsFile parseSettings(const QByteArray &content)
 SettingsFile readSettings(const QString &path)
 {
     const QString text = Text::tr("Cannot read '%1': %2");
-    QFile file;
-    if (!openFor(file, path, stdin, QIODevice::ReadOnly))
-        fail(text, path, file.errorString());
-    const QByteArray content = file.read(longestFile + 1);
-    if (content.size() > longestFile)
-        fail(text, path, Text::tr("The file is too large."));
+    QFile file(path);
+    QByteArray content;
+    if (isStandard(path))
+        content = readStandardInput();
+    else if (file.open(QIODevice::ReadOnly))
+        content = file.read(longestFile + 1);
     if (file.error() != QFileDevice::NoError)
         fail(text, path, file.errorString());
+    if (content.size() > longestFile)
+        fail(text, path, Text::tr("The file is too large."));
     try {
         return parseSettings(content);
     } catch (const SettingsError &e) {
@@ -163,8 +172,9 @@ void writeWhole(const QByteArray &content, const QString &path)
             fail(text, path, file.errorString());
         return;
     }
-    QFile file; // a device or a pipe, which a new file must not replace
-    if (!openFor(file, path, stdout, QIODevice::WriteOnly) || file.write(content) != content.size() || !file.flush())
+    QFile file(path); // a device or a pipe, which a new file must not replace
+    const bool isOpen = isStandard(path) ? file.open(stdout, QIODevice::WriteOnly) : file.open(QIODevice::WriteOnly);
+    if (!isOpen || file.write(content) != content.size() || !file.flush())
         fail(text, path, file.errorString());
 }
 
