@@ -11,6 +11,7 @@
 #include "picture/picturedock.h"
 #include "settings/settingsmenu.h"
 #include "simulationmenu.h"
+#include "treetoolsmenu.h"
 #include "widgetspage.h"
 
 #include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
@@ -68,6 +69,7 @@ ExplorerWindow::ExplorerWindow(std::unique_ptr<CameraSource> source, QWidget *pa
     , m_configure(new ConfigureMenu(this))
     , m_log(new LogDock(this))
     , m_settings(new SettingsMenu(this))
+    , m_treeTools(new TreeToolsMenu(*m_view, this))
     , m_marks(new FeatureMarks(*m_view, this))
     , m_picture(new PictureDock(this))
     , m_simulation(new SimulationMenu(this))
@@ -201,6 +203,10 @@ void ExplorerWindow::createViewMenu()
     setTip(*m_polling, tr("Read values that change by themselves regularly"));
     connect(m_polling, &QAction::toggled, this, &ExplorerWindow::updatePolling);
     view->addAction(tr("Polling &Interval..."), this, &ExplorerWindow::choosePollingTime);
+    view->addMenu(m_treeTools);
+    connect(m_treeTools, &TreeToolsMenu::treeWanted, this, [this] { showPage(m_view->objectName()); });
+    connect(m_treeTools, &TreeToolsMenu::told, this,
+            [this](const QString &message) { statusBar()->showMessage(message, messageTime); });
     view->addSeparator();
     view->addActions({m_tools->toggleViewAction(), m_log->toggleViewAction()});
     m_log->toggleViewAction()->setShortcut(Qt::CTRL + Qt::Key_L);
@@ -249,10 +255,8 @@ void ExplorerWindow::createSettingsMenu()
 
 void ExplorerWindow::goTo(const QString &feature)
 {
-    if (!m_marks->goTo(feature)) {
-        statusBar()->showMessage(tr("'%1' is not in the tree.").arg(feature), messageTime);
-        return;
-    }
+    if (!m_marks->goTo(feature) && !m_treeTools->jumpTo(feature))
+        return; // and the tools have told why
     showPage(m_view->objectName());
     activateWindow();
     m_view->treeView()->setFocus();
@@ -295,6 +299,7 @@ void ExplorerWindow::setSource(std::unique_ptr<CameraSource> source)
         m_treeStates.insert(m_source->name(), m_view->saveState());
     m_view->setParams(source->nodeMap());
     m_source = std::move(source);
+    m_treeTools->setCamera(m_source->nodeMap());
     m_log->log().add(LogLevel::Information, QString(), tr("%1 is shown.").arg(m_source->name()));
     setWindowTitle(tr("%1 - Camera Explorer").arg(m_source->name()));
     arrangeTree();
@@ -450,6 +455,7 @@ void ExplorerWindow::saveSettings(QSettings &settings) const
     settings.setValue(intervalKey, int(m_view->getPollingTime()));
     m_configure->saveSettings(settings);
     m_settings->saveSettings(settings);
+    m_treeTools->saveSettings(settings);
     QHash<QString, QByteArray> trees = m_treeStates;
     trees.insert(m_source->name(), m_view->saveState());
     settings.beginGroup(treesGroup);
@@ -479,6 +485,7 @@ void ExplorerWindow::restoreSettings(QSettings &settings)
     updatePolling();
     m_configure->restoreSettings(settings);
     m_settings->restoreSettings(settings);
+    m_treeTools->restoreSettings(settings);
     settings.beginGroup(treesGroup);
     const QStringList names = settings.childKeys();
     for (const QString &name : names)

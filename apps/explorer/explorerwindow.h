@@ -23,6 +23,7 @@ class QTabWidget;
 class QToolBar;
 class SettingsMenu;
 class SimulationMenu;
+class TreeToolsMenu;
 class WriteWatch;
 
 namespace OrvGui {
@@ -115,6 +116,7 @@ private:
     ConfigureMenu *const m_configure;
     LogDock *const m_log;
     SettingsMenu *const m_settings;
+    TreeToolsMenu *const m_treeTools;
     FeatureMarks *const m_marks;
     PictureDock *const m_picture;
     SimulationMenu *const m_simulation;

@@ -6,6 +6,7 @@
 #include "whenopen.h"
 
 #include <OrvCameraApi/simulation.h>
+#include <OrvCameraGuiApi/feature_tree/orvfeaturetreetools.h>
 #include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
 #include <OrvCameraGuiApi/widgets/qtorvspinbox.h>
 
@@ -298,6 +299,42 @@ private Q_SLOTS:
         window.restoreSettings(settings);
         QCOMPARE(window.size(), QSize(640, 500));
         QCOMPARE(window.findChild<OrvGui::OrvGenParamTreeView *>()->getPollingTime(), 0UL);
+    }
+
+    void keepsTheFavoritesOfEachModel()
+    {
+        const QTemporaryDir directory;
+        QSettings settings(directory.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
+        const char *const other = "ORV-USB3-0001";
+        for (const bool isSecondRun : {false, true}) {
+            ExplorerWindow window(openCamera(QString()));
+            window.restoreSettings(settings);
+            window.show();
+            QVERIFY(QTest::qWaitForWindowActive(&window));
+            const auto *const tools = window.findChild<OrvGui::OrvFeatureTreeTools *>();
+            const auto *const only = window.findChild<QAction *>(QStringLiteral("favoritesOnly"));
+            QCOMPARE(only->isEnabled(), isSecondRun);
+            if (!isSecondRun) {
+                treeOf(window)->expandAll();
+                treeOf(window)->setFocus();
+                treeOf(window)->setCurrentIndex(cellOf(*treeOf(window), "Frame Exposure Lines"));
+                expectWarning(QStringLiteral("This plugin does not support grabbing the keyboard"));
+                QTest::keyClick(treeOf(window), Qt::Key_Menu);
+                QTest::keyClick(QApplication::activePopupWidget(), 'f');
+            }
+            QCOMPARE(tools->favorites().size(), 1);
+            trigger(window, "favoritesOnly");
+            QCOMPARE(treeOf(window)->model()->rowCount(), 1);
+            window.showCamera(QLatin1String(other));
+            QVERIFY(tools->favorites().isEmpty() && !only->isChecked());
+            window.showCamera(QLatin1String(firstCamera));
+            QCOMPARE(tools->favorites().size(), 1);
+            QVERIFY(treeOf(window)->model()->rowCount() > 1);
+            window.showPage(QStringLiteral("widgets"));
+            QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
+            QVERIFY(window.findChild<QWidget *>(QStringLiteral("findBar"))->isAncestorOf(QApplication::focusWidget()));
+            window.saveSettings(settings);
+        }
     }
 
     void savesAndLoadsTheState()

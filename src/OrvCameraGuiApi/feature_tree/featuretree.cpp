@@ -12,6 +12,7 @@
 #include <QPointer>
 #include <QScopedValueRollback>
 
+#include <utility>
 #include <vector>
 
 namespace {
@@ -306,6 +307,21 @@ void FeatureTree::paintEvent(QPaintEvent *event)
     executeDelayedItemsLayout();
     findRowsOnScreen();
     QTreeView::paintEvent(event);
+}
+
+void FeatureTree::setDecoration(Decoration decoration)
+{
+    m_decoration = std::move(decoration);
+    viewport()->update();
+}
+
+/** The row is painted first, and what it asks may change everything. */
+void FeatureTree::drawRow(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    const QPersistentModelIndex painted(m_decoration ? index : QModelIndex());
+    QTreeView::drawRow(painter, option, index);
+    if (m_decoration && painted.isValid() && painted.model() == model())
+        m_decoration(*painter, option.rect, painted);
 }
 
 void FeatureTree::findRowsOnScreen()

@@ -6,6 +6,7 @@
 #include <QTreeView>
 #include <QVector>
 
+#include <functional>
 #include <optional>
 
 class FeatureSelection;
@@ -47,6 +48,12 @@ public:
     /** Whether the focus is in the tree, in an editor or in a window that an editor has opened. */
     bool hasFocusInside() const;
 
+    /** Paints over a row, given in viewport coordinates, and asks no node. */
+    using Decoration = std::function<void(QPainter &painter, const QRect &row, const QModelIndex &index)>;
+
+    /** None at first, and if \a decoration is empty. */
+    void setDecoration(Decoration decoration);
+
     /** Makes \a index current without opening an editor, whatever the edit triggers are. */
     void moveCurrentTo(const QModelIndex &index);
 
@@ -87,6 +94,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     bool viewportEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void drawRow(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
 private:
     void keepWhatIsInUse();
@@ -108,6 +116,7 @@ private:
     QHash<QPair<quintptr, int>, int> m_rowsOnScreen;
     QElapsedTimer m_sinceSearch; ///< since the last key of a search by typing
     std::optional<QByteArray> m_keptExpansion;
+    Decoration m_decoration;
     bool m_isReadOnly = false;
     bool m_opensNothing = false; ///< while the current item moves without the user
 };

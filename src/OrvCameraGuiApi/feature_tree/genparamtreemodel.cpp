@@ -465,7 +465,7 @@ QString GenParamTreeModelPrivate::whatsThis(const GenParamFeature &feature) cons
 {
     const QString help = genParamWhatsThis(feature);
     const QString reason = tellsReasons && feature.value() ? AccessReason(feature.value()).html() : QString();
-    return reason.isEmpty() ? help : QStringLiteral("%1<br />%2").arg(help, reason);
+    return reason.isEmpty() ? help : QStringLiteral("%1<br />%2").arg(reason, help); // where it is seen at once
 }
 
 QVariant GenParamTreeModelPrivate::valueForeground(const GenParamFeature &feature, bool isRead) const

@@ -1,13 +1,13 @@
 #include <OrvCameraGuiApi/feature_tree/orvfeaturetreetools.h>
 
 #include <OrvCameraGuiApi/feature_tree/accessreason.h>
+#include <OrvCameraGuiApi/feature_tree/changemarks.h>
 #include <OrvCameraGuiApi/feature_tree/featuremenu.h>
 #include <OrvCameraGuiApi/feature_tree/featuretree.h>
 #include <OrvCameraGuiApi/feature_tree/findbar.h>
 #include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreevisibilityfilterproxymodel.h>
-#include <OrvCameraGuiApi/feature_tree/markdelegate.h>
 #include <OrvCameraGuiApi/feature_tree/opencalls.h>
 #include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
 #include <OrvCameraGuiApi/feature_tree/rereading.h>
@@ -23,6 +23,7 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <optional>
 #include <utility>
 
 namespace {
@@ -77,6 +78,8 @@ public:
     bool filterKey(const QKeyEvent &event);
     bool filterKeyOfView(const QKeyEvent &event);
     bool filterPress(const QMouseEvent &event);
+    bool isViewport(const QObject *object) const;
+    bool filterContextMenu(const QContextMenuEvent &event, const QObject *watched);
     void openMenu(const QModelIndex &row, const QPoint &globalPos);
     void openMenuAtCurrent();
     bool openLink(const QUrl &link);
@@ -94,7 +97,7 @@ public:
     ValueWatch watch;
     QSet<GenApi::IValue *> candidates; ///< that may have changed: only changed ones are shown, and these until read
     QTimer filterSoon;
-    QPointer<MarkDelegate> marks; ///< null while they are switched off
+    std::optional<ChangeMarks> marks; ///< none while they are switched off, and without a view
     bool hasContextMenu = false;
     bool tellsReasons = false;
     bool isReasonQueued = false;
@@ -121,7 +124,7 @@ OrvFeatureTreeToolsPrivate::OrvFeatureTreeToolsPrivate(OrvFeatureTreeTools *tool
     QObject::connect(&watch, &ValueWatch::changedFeaturesChanged, q, &OrvFeatureTreeTools::changedFeaturesChanged);
     QObject::connect(&watch, &ValueWatch::marksFaded, q, [this] {
         if (marks)
-            marks->updateMarks();
+            marks->update();
     });
 }
 
@@ -327,6 +330,22 @@ bool OrvFeatureTreeToolsPrivate::filterPress(const QMouseEvent &event)
     pressed->setFocus(Qt::MouseFocusReason);
     if (pressed && index.isValid())
         pressed->moveCurrentTo(index);
+    return true;
+}
+
+bool OrvFeatureTreeToolsPrivate::isViewport(const QObject *object) const
+{
+    return tree && object == tree->viewport();
+}
+
+bool OrvFeatureTreeToolsPrivate::filterContextMenu(const QContextMenuEvent &event, const QObject *watched)
+{
+    if (!hasContextMenu || !tree)
+        return false;
+    if (event.reason() != QContextMenuEvent::Mouse)
+        openMenuAtCurrent();
+    else if (isViewport(watched))
+        openMenu(tree->indexAt(event.pos()), event.globalPos());
     return true;
 }
 
@@ -587,12 +606,10 @@ void OrvFeatureTreeTools::setMarksChanges(bool on)
     if (!d->tree || on == marksChanges())
         return;
     d->watch.setMarks(on);
-    constexpr int column = GenParamTreeModel::NameColumn;
     if (on)
-        d->marks = new MarkDelegate(&d->watch, d->tree);
-    d->tree->setItemDelegateForColumn(column, on ? d->marks : nullptr);
-    if (!on)
-        OpenCalls::retire(std::exchange(d->marks, nullptr).data());
+        d->marks.emplace(d->watch, *d->tree);
+    else
+        d->marks.reset();
 }
 
 QString OrvFeatureTreeTools::onlyCategory() const
@@ -673,26 +690,15 @@ void OrvFeatureTreeTools::readAgain(const QString &name)
 
 bool OrvFeatureTreeTools::eventFilter(QObject *watched, QEvent *event)
 {
-    if (!d->tree)
-        return false;
-    const bool isInViewport = watched == d->tree->viewport();
+    // By the type first: other events come while the view is being destroyed.
     switch (event->type()) {
     case QEvent::KeyPress:
-        if (watched == d->view)
-            return d->filterKeyOfView(*static_cast<QKeyEvent *>(event));
-        return !isInViewport && d->filterKey(*static_cast<QKeyEvent *>(event));
+        return watched == d->view ? d->filterKeyOfView(*static_cast<QKeyEvent *>(event))
+                                  : watched == d->tree && d->filterKey(*static_cast<QKeyEvent *>(event));
     case QEvent::MouseButtonPress:
-        return isInViewport && d->filterPress(*static_cast<QMouseEvent *>(event));
-    case QEvent::ContextMenu: {
-        if (!d->hasContextMenu || watched == d->view)
-            return false;
-        const auto &asked = *static_cast<QContextMenuEvent *>(event);
-        if (asked.reason() != QContextMenuEvent::Mouse)
-            d->openMenuAtCurrent();
-        else if (isInViewport)
-            d->openMenu(d->tree->indexAt(asked.pos()), asked.globalPos());
-        return true;
-    }
+        return d->isViewport(watched) && d->filterPress(*static_cast<QMouseEvent *>(event));
+    case QEvent::ContextMenu:
+        return watched != d->view && d->filterContextMenu(*static_cast<QContextMenuEvent *>(event), watched);
     case QEvent::WhatsThisClicked:
         return d->openLink(QUrl(static_cast<QWhatsThisClickedEvent *>(event)->href()));
     default:
