@@ -213,7 +213,6 @@ void TestGigeDiscovery::strangeAnswers_data()
     row("other port", [](Faults &faults) { faults.sender = GigeServer::Sender::OtherPort; });
     row("other request", [](Faults &faults) { faults.idError = 0x8000; });
     row("other command", [](Faults &faults) { faults.commandError = 2; });
-    row("short record", [](Faults &faults) { faults.cut = 1; });
 }
 
 void TestGigeDiscovery::strangeAnswers()

@@ -299,13 +299,11 @@ void TestGvcp::requests_data()
         faults.delay = 60s;
     });
     row("short", "failed", 1, [](Faults &faults) { faults.cut = 4; });
-    row("empty", "failed", 1, [](Faults &faults) { faults.cut = 100; });
     row("busy", "failed", 1, [](Faults &faults) { faults.status = 0x8007; });
     row("denied", "link", 1, [](Faults &faults) { faults.status = 0x8006; });
     row("other request", "silent", 3, [](Faults &faults) { faults.idError = 1; });
     row("other command", "silent", 3, [](Faults &faults) { faults.commandError = 2; });
     row("other port", "silent", 3, [](Faults &faults) { faults.sender = GigeServer::Sender::OtherPort; });
-    row("other address", "silent", 3, [](Faults &faults) { faults.sender = GigeServer::Sender::OtherAddress; });
 }
 
 void TestGvcp::requests()

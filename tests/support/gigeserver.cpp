@@ -89,7 +89,6 @@ GigeServer::GigeServer(std::uint32_t address, std::uint16_t port)
     m_sockets[0] = boundSocket(address, port);
     m_port = portOf(m_sockets[0]);
     m_sockets[1] = boundSocket(address, 0);
-    m_sockets[2] = boundSocket(loopbackAddress(), m_port);
     [[maybe_unused]] const int failed = ::pipe2(m_wake.data(), O_CLOEXEC | O_NONBLOCK);
     setNumber(0x0000, 0x00010002);
     setNumber(DeviceMode, 0x80000001); // UTF-8
@@ -263,8 +262,8 @@ void GigeServer::answer(const Request &request)
     if (status != success)
         payload.clear();
     payload.resize(payload.size() - std::min<std::size_t>(payload.size(), faults.cut));
-    Bytes packet = acknowledge(status, request.command + 1U + faults.commandError,
-                               payload.size() + std::size_t(faults.lengthError), request.id + faults.idError);
+    Bytes packet =
+        acknowledge(status, request.command + 1U + faults.commandError, payload.size(), request.id + faults.idError);
     packet.insert(packet.end(), payload.begin(), payload.end());
 
     const int socket = m_sockets[std::size_t(faults.sender)];

@@ -35,7 +35,7 @@ public:
         WriteMemory = 0x86
     };
 
-    enum class Sender { Itself, OtherPort, OtherAddress };
+    enum class Sender { Itself, OtherPort };
 
     enum Register : std::uint32_t {
         DeviceMode = 0x0004,
@@ -67,7 +67,6 @@ public:
         int lost = 0; ///< requests that get no answer, from now on
         std::chrono::milliseconds delay{0}; ///< of an answer
         std::uint16_t pending = 0; ///< milliseconds that a pending acknowledge asks for, before the answer
-        int lengthError = 0; ///< added to the length field of an answer
         std::uint32_t cut = 0; ///< bytes that the payload of an answer lacks; its length field agrees
         std::uint16_t idError = 0; ///< added to the request id of an answer
         std::uint16_t commandError = 0; ///< added to the command that an answer names
@@ -150,7 +149,7 @@ private:
 
     const std::uint32_t m_address;
     std::uint16_t m_port = 0;
-    std::array<int, 3> m_sockets{-1, -1, -1}; ///< by Sender
+    std::array<int, 2> m_sockets{-1, -1}; ///< by Sender
     std::array<int, 2> m_wake{-1, -1};
 
     mutable std::mutex m_mutex;
