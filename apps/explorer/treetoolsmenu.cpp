@@ -45,18 +45,17 @@ TreeToolsMenu::TreeToolsMenu(OrvGui::OrvGenParamTreeView &view, QWidget *parent)
 
 void TreeToolsMenu::addSearch()
 {
-    using Search = void (OrvGui::OrvFeatureTreeTools::*)();
-    const auto add = [this](const QString &text, const QKeySequence &key, Search search) {
-        QAction *const action = addAction(text);
+    const auto add = [this](const QString &text, const QKeySequence &key) {
+        QAction *const action = addAction(text, this, &TreeToolsMenu::treeWanted);
         action->setShortcut(key);
-        connect(action, &QAction::triggered, this, [this, search] {
-            Q_EMIT treeWanted();
-            (m_tools->*search)();
-        });
+        return action;
     };
-    add(tr("&Find..."), Qt::CTRL + Qt::SHIFT + Qt::Key_F, &OrvGui::OrvFeatureTreeTools::find);
-    add(tr("Find &Next"), Qt::Key_F3, &OrvGui::OrvFeatureTreeTools::findNext);
-    add(tr("Find &Previous"), Qt::SHIFT + Qt::Key_F3, &OrvGui::OrvFeatureTreeTools::findPrevious);
+    using OrvGui::OrvFeatureTreeTools;
+    connect(add(tr("&Find..."), Qt::CTRL + Qt::SHIFT + Qt::Key_F), &QAction::triggered, m_tools,
+            &OrvFeatureTreeTools::find);
+    connect(add(tr("Find &Next"), Qt::Key_F3), &QAction::triggered, m_tools, &OrvFeatureTreeTools::findNext);
+    connect(add(tr("Find &Previous"), Qt::SHIFT + Qt::Key_F3), &QAction::triggered, m_tools,
+            &OrvFeatureTreeTools::findPrevious);
 }
 
 void TreeToolsMenu::addParts()
