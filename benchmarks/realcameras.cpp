@@ -242,7 +242,7 @@ void measureOpening(Table &table, const QString &what, const OnlyCamera &camera,
     }
     const QString unit = QStringLiteral("ms");
     table.add(what + QStringLiteral(", selected to painted"), unit, inWindow.median(), aravis.median(), 2);
-    table.add(what + QStringLiteral(", the same in a new window"), unit, inNewWindow.median(), aravis.median(), 2);
+    table.add(what + QStringLiteral(", the same in a new window"), unit, inNewWindow.median(), aravis.median(), 0);
 }
 
 /** Packets of user actions, beside the registers that they show or change. */
