@@ -66,11 +66,38 @@ bool CameraDialog::setFirstAddress()
     return false;
 }
 
-std::unique_ptr<CameraSource> chooseCamera(QWidget *parent)
+void CameraDialog::prefer(const QString &id)
+{
+    if (id.isEmpty() || selectDevice(id))
+        return;
+    auto *const tree = findChild<QTreeView *>(QStringLiteral("deviceTreeView"));
+    const auto lookAgain = [this, id] {
+        if (!selectedCamera())
+            selectDevice(id);
+    };
+    connect(tree->model(), &QAbstractItemModel::rowsInserted, this, lookAgain, Qt::QueuedConnection);
+}
+
+bool CameraDialog::selectDevice(const QString &id)
+{
+    auto *const tree = findChild<QTreeView *>(QStringLiteral("deviceTreeView"));
+    const QPersistentModelIndex before = tree->currentIndex();
+    for (QModelIndex index = tree->model()->index(0, 0); index.isValid(); index = tree->indexBelow(index)) {
+        tree->setCurrentIndex(index);
+        OrvCam::DeviceInfo *const camera = selectedCamera();
+        if (camera && QString::fromLatin1(camera->GetID()) == id)
+            return true;
+    }
+    tree->setCurrentIndex(before);
+    return false;
+}
+
+std::unique_ptr<CameraSource> chooseCamera(QWidget *parent, const QString &preferredId)
 {
     const std::shared_ptr<OrvCam::System> system = cameraSystem();
     for (;;) {
         CameraDialog dialog(system.get(), parent);
+        dialog.prefer(preferredId);
         if (dialog.exec() != QDialog::Accepted)
             return nullptr;
         try {

@@ -20,12 +20,16 @@ public:
      */
     bool setFirstAddress();
 
+    /** Makes the camera with that identifier current, once it is found and unless a person has chosen by then. */
+    void prefer(const QString &id);
+
 private:
     void addProblems();
+    bool selectDevice(const QString &id);
 };
 
 /**
- * Asks for a camera until one could be opened; null when nobody wants one. Throws a CameraSourceError when there is no
- * camera system.
+ * Asks for a camera until one could be opened, at first with the preferred one current; null when nobody wants one.
+ * Throws a CameraSourceError when there is no camera system.
  */
-std::unique_ptr<CameraSource> chooseCamera(QWidget *parent = nullptr);
+std::unique_ptr<CameraSource> chooseCamera(QWidget *parent = nullptr, const QString &preferredId = {});

@@ -56,6 +56,7 @@ const QLatin1String toolsKey("window/tools");
 const QLatin1String pageKey("window/page");
 const QLatin1String treesGroup("trees");
 const QLatin1String camerasKey("cameras");
+const QLatin1String cameraKey("camera");
 const QLatin1String pollsKey("polling/enabled");
 const QLatin1String intervalKey("polling/interval");
 
@@ -79,6 +80,7 @@ ExplorerWindow::ExplorerWindow(std::unique_ptr<CameraSource> source, QWidget *pa
 {
     resize(usualSize);
     openWithinScreen(*this);
+    setAnimated(false); // Qt leaks the animation of a dock whose window goes meanwhile
     m_view->setPollingTime(defaultPollingTime);
     m_tools->setObjectName(QStringLiteral("tools"));
     createPages();
@@ -249,6 +251,7 @@ void ExplorerWindow::createSettingsMenu()
 {
     menuBar()->addMenu(m_settings);
     connect(m_settings, &SettingsMenu::told, this, &ExplorerWindow::tell);
+    connect(m_settings, &SettingsMenu::stopWanted, m_picture, &PictureDock::stop);
     connect(m_settings, &SettingsMenu::featuresMarked, m_marks, &FeatureMarks::mark);
     connect(m_settings, &SettingsMenu::featureChosen, this, &ExplorerWindow::goTo);
 }
@@ -380,7 +383,7 @@ void ExplorerWindow::showDescription(const QString &path)
 void ExplorerWindow::chooseCamera()
 {
     try {
-        if (std::unique_ptr<CameraSource> source = ::chooseCamera(this))
+        if (std::unique_ptr<CameraSource> source = ::chooseCamera(this, m_source->id()))
             setSource(std::move(source));
     } catch (const CameraSourceError &e) {
         report(e.message);
@@ -449,6 +452,8 @@ void ExplorerWindow::saveSettings(QSettings &settings) const
     settings.setValue(geometryKey, saveGeometry());
     settings.setValue(toolsKey, saveState());
     settings.setValue(pageKey, m_pages->currentIndex());
+    if (!m_source->id().isEmpty())
+        settings.setValue(cameraKey, m_source->id());
     if (m_chosenCameras)
         settings.setValue(camerasKey, int(*m_chosenCameras));
     settings.setValue(pollsKey, m_polling->isChecked());
@@ -471,6 +476,11 @@ void ExplorerWindow::restoreCameras(const QSettings &settings)
         return;
     if (Cameras(saved) == Cameras::Simulated || OrvTransports::canReachRealCameras())
         OrvTransports::use(Cameras(saved));
+}
+
+QString ExplorerWindow::lastCamera(const QSettings &settings)
+{
+    return settings.value(cameraKey).toString();
 }
 
 /** Missing settings change nothing. The user may have edited the file, so every value is checked. */

@@ -64,6 +64,9 @@ public:
     /** Chooses simulated or real cameras as in the last run, unless the environment chooses. */
     static void restoreCameras(const QSettings &settings);
 
+    /** The identifier of the camera that was shown at the end of the last run; empty for none. */
+    static QString lastCamera(const QSettings &settings);
+
     /** The names of the pages, not translated, in their order; the first is shown at first. */
     QStringList pageNames() const;
     void showPage(const QString &name);

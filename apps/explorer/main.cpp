@@ -20,6 +20,16 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(Explorer)
 };
 
+/** What this program keeps between its runs. */
+class RememberedSettings : public QSettings
+{
+public:
+    RememberedSettings()
+        : QSettings(QStringLiteral("OrvCameraGuiApi"), QCoreApplication::applicationName())
+    {
+    }
+};
+
 int fail(const QString &message, ExitCode code)
 {
     std::fprintf(stderr, "%s: %s\n", qPrintable(QCoreApplication::applicationName()), qPrintable(message));
@@ -68,8 +78,7 @@ void chooseCameras(const Options &options)
     else if (options.cameras)
         OrvTransports::use(*options.cameras);
     else if (options.action == Options::Action::ShowWindow)
-        ExplorerWindow::restoreCameras(
-            QSettings(QStringLiteral("OrvCameraGuiApi"), QCoreApplication::applicationName()));
+        ExplorerWindow::restoreCameras(RememberedSettings());
 }
 
 /** The source that the command line names; null if the user has to choose one. */
@@ -84,7 +93,7 @@ std::unique_ptr<CameraSource> sourceOf(const Options &options)
 /** Only here, for a person, are settings read and written. */
 int runFor(ExplorerWindow &window)
 {
-    QSettings settings(QStringLiteral("OrvCameraGuiApi"), QCoreApplication::applicationName());
+    RememberedSettings settings;
     window.restoreSettings(settings);
     window.show();
     const int status = QApplication::exec();
@@ -105,7 +114,7 @@ int runWindow(int argc, char **argv, const Options &options, std::unique_ptr<Cam
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/explorer/explorer.png")));
 
     if (!source)
-        source = chooseCamera();
+        source = chooseCamera(nullptr, ExplorerWindow::lastCamera(RememberedSettings()));
     if (!source)
         return 0;
     ExplorerWindow window(std::move(source));

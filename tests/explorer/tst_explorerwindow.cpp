@@ -276,16 +276,25 @@ private Q_SLOTS:
             window.showPage(QStringLiteral("widgets"));
             treeOf(window)->collapseAll();
             trigger(window, "poll");
+            window.findChild<QWidget *>(QStringLiteral("log"))->show();
             window.configureMenu().windowNamed(QStringLiteral("pulse"))->move(50, 60);
             window.saveSettings(settings);
         }
         ExplorerWindow window(openCamera(QString()));
         window.restoreSettings(settings);
         QCOMPARE(window.size(), QSize(640, 500));
+        QVERIFY(!window.findChild<QWidget *>(QStringLiteral("log"))->isHidden());
         QVERIFY(!window.findChild<QAction *>(QStringLiteral("poll"))->isChecked());
         QVERIFY(!treeOf(window)->isExpanded(treeOf(window)->model()->index(0, 0)));
         QCOMPARE(window.findChild<QTabWidget *>()->currentIndex(), 1);
         QCOMPARE(window.configureMenu().windowNamed(QStringLiteral("pulse"))->pos(), QPoint(50, 60));
+        QString current;
+        whenOpen<CameraDialog>([&](CameraDialog &dialog) {
+            current = QString::fromLatin1(dialog.selectedCamera() ? dialog.selectedCamera()->GetID() : "");
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        });
+        chooseCamera(nullptr, ExplorerWindow::lastCamera(settings));
+        QCOMPARE(current, QLatin1String(firstCamera));
         treeOf(window)->expandToDepth(0);
         for (const char *camera : {"ORV-USB3-0001", firstCamera}) { // each has its own tree
             window.showCamera(QLatin1String(camera));

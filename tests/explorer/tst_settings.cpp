@@ -317,6 +317,18 @@ private Q_SLOTS:
         QTest::mouseClick(button, Qt::LeftButton);
         QTRY_COMPARE(window.findChildren<SettingsReport *>().size(), 1);
 
+        OrvSim::setRegister(camera, "TLParamsLocked", "1");
+        const QSignalSpy wanted(window.findChild<SettingsMenu *>(), &SettingsMenu::stopWanted);
+        choose("loadSettings");
+        QTRY_VERIFY(window.findChild<QMessageBox *>());
+        for (QAbstractButton *each : window.findChild<QMessageBox *>()->buttons()) {
+            if (each->text().contains(QLatin1String("Stop")))
+                QTest::mouseClick(each, Qt::LeftButton);
+        }
+        QCOMPARE(wanted.size(), 1);
+        OrvSim::setRegister(camera, "TLParamsLocked", "0");
+        QTRY_COMPARE(window.findChildren<SettingsReport *>().size(), 2);
+
         changed.device = QStringLiteral("Someone::Else");
         writeSettings(changed, path);
         choose("loadSettings");

@@ -38,6 +38,9 @@ public:
     void setDevice(OrvCam::Device *device);
     void setReachable(bool reachable);
 
+    /** Ends the pictures, if there are any; the camera may need a moment. */
+    void stop();
+
     /** All commands. */
     QMenu *menu() const { return m_menu; }
 
@@ -57,7 +60,6 @@ private:
     void startOrStop();
     void start(quint64 frames);
     bool makeFeed();
-    void stop();
     bool isRunning() const;
     void follow();
     void followState();

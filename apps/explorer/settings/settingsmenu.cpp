@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
+#include <QTimer>
 
 #include <utility>
 
@@ -145,7 +146,50 @@ void SettingsMenu::finish()
     std::exchange(m_whenDone, {})();
 }
 
+/** Acts at once, or when the camera has stopped sending pictures, if a person agrees to that. */
+void SettingsMenu::whenUnlocked(const QString &title, const std::function<void()> &go)
+{
+    if (!isLocked())
+        return go();
+    auto *const box = new QMessageBox(QMessageBox::Question, title,
+                                      tr("The camera sends pictures, which locks some of its settings."),
+                                      QMessageBox::Cancel, parentWidget());
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    const QPushButton *const stopping = box->addButton(tr("&Stop the Pictures"), QMessageBox::AcceptRole);
+    connect(box, &QMessageBox::buttonClicked, this, [this, title, go, stopping](const QAbstractButton *button) {
+        if (button != stopping)
+            return;
+        constexpr int mostAttempts = 100;
+        Q_EMIT stopWanted();
+        waitUntilUnlocked(title, go, mostAttempts);
+    });
+    box->open();
+}
+
+void SettingsMenu::waitUntilUnlocked(const QString &title, const std::function<void()> &go, int attempts)
+{
+    constexpr int period = 50; // milliseconds
+    if (!isLocked())
+        go();
+    else if (attempts == 0)
+        warn(tr("%1: the camera does not stop sending pictures.").arg(title));
+    else
+        QTimer::singleShot(period, this, [=] { waitUntilUnlocked(title, go, attempts - 1); });
+}
+
+bool SettingsMenu::isLocked() const
+{
+    GenApi::INode *const lock = m_nodeMap ? FeatureMap(*m_nodeMap).feature("TLParamsLocked") : nullptr;
+    const FeatureValue value = lock ? readValue(lock) : FeatureValue();
+    return value.failure.isEmpty() && value.text.toInt() != 0;
+}
+
 void SettingsMenu::saveTo(const QString &path)
+{
+    whenUnlocked(tr("Save Settings"), [this, path] { save(path); });
+}
+
+void SettingsMenu::save(const QString &path)
 {
     if (!m_nodeMap)
         return;
@@ -218,6 +262,14 @@ void SettingsMenu::askAboutDevice(const std::shared_ptr<Task> &task)
 
 void SettingsMenu::load(const std::shared_ptr<Task> &task)
 {
+    const auto go = [this, task] { write(task); };
+    whenUnlocked(tr("Load Settings"), go);
+}
+
+void SettingsMenu::write(const std::shared_ptr<Task> &task)
+{
+    if (!m_nodeMap)
+        return;
     const auto work = [task, map = m_nodeMap](const SettingsProgress &progress) {
         task->loader = std::make_unique<SettingsLoader>(*map, task->file);
         task->loader->load(progress);

@@ -47,6 +47,9 @@ Q_SIGNALS:
     /** The result of a command, for the status bar. */
     void told(const QString &message);
 
+    /** The camera has to stop sending pictures, which locks settings. */
+    void stopWanted();
+
     /** A person wants to see the feature. */
     void featureChosen(const QString &name);
 
@@ -59,10 +62,15 @@ private:
 
     void askForFile(const QString &title, bool isNew, const std::function<void(const QString &)> &use);
     void askForSecondFile(const QString &first);
+    void whenUnlocked(const QString &title, const std::function<void()> &go);
+    void waitUntilUnlocked(const QString &title, const std::function<void()> &go, int attempts);
+    bool isLocked() const;
     void start(const QString &title, const Work &work, const std::function<void()> &whenDone);
     void finish();
+    void save(const QString &path);
     void askAboutDevice(const std::shared_ptr<Task> &task);
     void load(const std::shared_ptr<Task> &task);
+    void write(const std::shared_ptr<Task> &task);
     void putBack(const std::shared_ptr<Task> &task);
     void reportSaved(const Task &task);
     void reportLoaded(const std::shared_ptr<Task> &task, bool isPutBack);
