@@ -17,7 +17,7 @@ Acquisition::Acquisition(GenApi::INodeMap &map, Write write)
 void Acquisition::lockFeatures()
 {
     m_isLocked = true;
-    setLocked(true);
+    failureOf([this] { setLocked(true); }); // pictures come without as well
 }
 
 void Acquisition::start()

@@ -18,7 +18,7 @@ public:
     /** \a map outlives this object. */
     Acquisition(GenApi::INodeMap &map, Write write);
 
-    /** Locks the features that acquisition locks. May throw. */
+    /** Locks the features that acquisition locks, if the camera can do that. */
     void lockFeatures();
 
     /** Throws if the camera cannot be told to start. */

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <exception>
+#include <future>
+#include <system_error>
 #include <utility>
 
 namespace OrvCameraApi {
@@ -269,18 +271,31 @@ public:
     /** Libraries below tell the camera. One that does not answer is waited for elsewhere, with the right. */
     ~Frames() override
     {
-        if (m_camera->isConnected())
-            return;
+        using namespace std::chrono_literals;
+        struct Ending
+        {
+            std::shared_ptr<RemoteCamera> camera;
+            std::unique_ptr<ReceivingRight> right;
+            std::unique_ptr<FrameSource> source;
+            std::promise<void> end;
+        };
+        const auto ending = std::make_shared<Ending>();
+        *ending = {m_camera, std::move(m_right), std::move(m_source), {}};
         const auto hasEnded = std::make_shared<std::atomic<bool>>(false);
-        m_camera->m_areFramesEnding = true;
-        auto end = [=, source = std::move(m_source), right = std::move(m_right), camera = m_camera]() mutable {
-            source.reset();
-            right.reset();
-            camera->m_areFramesEnding = false;
-            camera.reset();
+        const auto end = [ending, hasEnded] {
+            ending->source.reset();
+            ending->right.reset();
+            ending->camera->m_areFramesEnding = false;
+            ending->end.set_value();
             *hasEnded = true;
         };
-        runningCameras().close(std::thread(std::move(end)), hasEnded);
+        m_camera->m_areFramesEnding = true;
+        try {
+            runningCameras().close(std::thread(end), hasEnded);
+        } catch (const std::system_error &) { // no further thread can be had
+            end();
+        }
+        ending->end.get_future().wait_for(m_camera->isConnected() ? 1s : 0s);
     }
     Frames(const Frames &) = delete;
     Frames &operator=(const Frames &) = delete;
