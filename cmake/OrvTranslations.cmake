@@ -1,36 +1,45 @@
-# The languages that the library speaks besides English: catalogues in translations/, compiled by lrelease, carried in
-# the library as resources below :/OrvCameraGuiApi/translations and installed beside it.
+# The languages that the library and the explorer speak besides English: catalogues in translations/, compiled by
+# lrelease, and carried as resources below :/CATALOGUE/translations. Those of the library are installed beside it, too.
 
-set(ORV_CATALOGUES) # .ts
-set(ORV_TRANSLATIONS) # .qm
-foreach(_orv_language de ja zh_CN)
-    list(APPEND ORV_CATALOGUES ${PROJECT_SOURCE_DIR}/translations/OrvCameraGuiApi_${_orv_language}.ts)
-    list(APPEND ORV_TRANSLATIONS ${PROJECT_BINARY_DIR}/translations/OrvCameraGuiApi_${_orv_language}.qm)
-endforeach()
+# orv_list_catalogues(NAME PREFIX): the catalogues NAME_de.ts and so on as PREFIX_CATALOGUES, what lrelease makes of
+# them as PREFIX_TRANSLATIONS.
+function(orv_list_catalogues name prefix)
+    set(catalogues)
+    set(translations)
+    foreach(language de ja zh_CN)
+        list(APPEND catalogues ${PROJECT_SOURCE_DIR}/translations/${name}_${language}.ts)
+        list(APPEND translations ${PROJECT_BINARY_DIR}/translations/${name}_${language}.qm)
+    endforeach()
+    set(${prefix}_CATALOGUES ${catalogues} PARENT_SCOPE)
+    set(${prefix}_TRANSLATIONS ${translations} PARENT_SCOPE)
+endfunction()
+
+orv_list_catalogues(OrvCameraGuiApi ORV)
+orv_list_catalogues(orv-camera-explorer ORV_EXPLORER)
 
 # What lupdate is told before "-ts FILES": contexts are found only where it can follow the includes.
-set(ORV_LUPDATE_ARGUMENTS
-    -silent -locations none -no-obsolete
-    -I ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/src/OrvCameraGuiApi)
+set(_orv_lupdate -silent -locations none -no-obsolete -I ${PROJECT_SOURCE_DIR}/src)
+set(ORV_LUPDATE_ARGUMENTS ${_orv_lupdate} ${PROJECT_SOURCE_DIR}/src/OrvCameraGuiApi)
+set(ORV_EXPLORER_LUPDATE_ARGUMENTS ${_orv_lupdate} ${PROJECT_SOURCE_DIR}/apps/explorer)
 
 # Not part of any build: it writes into the source tree.
 add_custom_target(orv-update-translations
     COMMAND Qt5::lupdate ${ORV_LUPDATE_ARGUMENTS} -ts ${ORV_CATALOGUES}
+    COMMAND Qt5::lupdate ${ORV_EXPLORER_LUPDATE_ARGUMENTS} -ts ${ORV_EXPLORER_CATALOGUES}
     COMMENT "Bringing the catalogues up to date with the source texts; new entries are marked unfinished"
     VERBATIM)
 
-# orv_embed_translations(TARGET): compiles the catalogues and makes them resources of TARGET.
-function(orv_embed_translations target)
-    set_source_files_properties(${ORV_CATALOGUES}
-        PROPERTIES OUTPUT_LOCATION ${PROJECT_BINARY_DIR}/translations)
-    qt5_add_translation(compiled ${ORV_CATALOGUES} OPTIONS -silent)
+# orv_embed_translations(TARGET NAME CATALOGUES...): compiles the catalogues and makes them resources of TARGET.
+function(orv_embed_translations target name)
+    set_source_files_properties(${ARGN} PROPERTIES OUTPUT_LOCATION ${PROJECT_BINARY_DIR}/translations)
+    qt5_add_translation(compiled ${ARGN} OPTIONS -silent)
     set(entries)
     foreach(translation IN LISTS compiled)
-        get_filename_component(name ${translation} NAME)
-        string(APPEND entries "    <file>${name}</file>\n")
+        get_filename_component(file ${translation} NAME)
+        string(APPEND entries "    <file>${file}</file>\n")
     endforeach()
-    configure_file(${PROJECT_SOURCE_DIR}/translations/translations.qrc.in
-        ${PROJECT_BINARY_DIR}/translations/orvtranslations.qrc @ONLY)
-    qt5_add_resources(resources ${PROJECT_BINARY_DIR}/translations/orvtranslations.qrc)
+    set(collection ${PROJECT_BINARY_DIR}/translations/${name}.qrc)
+    configure_file(${PROJECT_SOURCE_DIR}/translations/translations.qrc.in ${collection} @ONLY)
+    qt5_add_resources(resources ${collection})
     target_sources(${target} PRIVATE ${resources})
 endfunction()

@@ -36,5 +36,6 @@ void speak(const QString &language)
 {
     const QLocale locale = language.isEmpty() ? QLocale::system() : QLocale(language);
     install(locale, QStringLiteral("OrvCameraGuiApi"), libraryCatalogues);
+    install(locale, QStringLiteral("orv-camera-explorer"), QStringLiteral(":/orv-camera-explorer/translations"));
     install(locale, QStringLiteral("qtbase"), QLibraryInfo::location(QLibraryInfo::TranslationsPath));
 }

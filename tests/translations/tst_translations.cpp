@@ -15,6 +15,7 @@ namespace {
 using Catalogue = QVector<OrvTest::CatalogueEntry>;
 
 const QDir directory(QStringLiteral(TRANSLATIONS));
+const QString names[] = {QStringLiteral("OrvCameraGuiApi"), QStringLiteral("orv-camera-explorer")};
 
 QStringList keysOf(const Catalogue &catalogue)
 {
@@ -43,10 +44,15 @@ QString marksOf(const QString &text)
     return marks.join(QString());
 }
 
-/** The texts that stay as they are in a language. */
-QStringList untranslated(const QString &language)
+QStringList cataloguesOf(const QString &name)
 {
-    QFile file(directory.filePath(QStringLiteral("untranslated.txt")));
+    return directory.entryList({name + QLatin1String("_*.ts")});
+}
+
+/** The texts that stay as they are in a language. */
+QStringList untranslated(const QString &name, const QString &language)
+{
+    QFile file(directory.filePath(name + QLatin1String("_untranslated.txt")));
     QStringList texts;
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return texts;
@@ -67,26 +73,31 @@ class TestTranslations : public OrvTest::TestCase
 private Q_SLOTS:
     void catalogue_data();
     void catalogue();
+    void updating_data();
     void updating();
     void resources();
 };
 
 void TestTranslations::catalogue_data()
 {
+    QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("language");
-    const QStringList files = directory.entryList({QStringLiteral("*.ts")});
-    QVERIFY(!files.isEmpty());
-    for (const QString &file : files) {
-        const QString language = file.section(QLatin1Char('_'), 1).section(QLatin1Char('.'), 0, 0);
-        QTest::newRow(qPrintable(file)) << language;
+    for (const QString &name : names) {
+        const QStringList files = cataloguesOf(name);
+        QCOMPARE(files.size(), 3);
+        for (const QString &file : files) {
+            const QString language = file.section(QLatin1Char('_'), 1).section(QLatin1Char('.'), 0, 0);
+            QTest::newRow(qPrintable(file)) << name << language;
+        }
     }
 }
 
 /** Every entry is finished and differs from its source, except the listed ones. */
 void TestTranslations::catalogue()
 {
+    QFETCH(QString, name);
     QFETCH(QString, language);
-    const QStringList listed = untranslated(language);
+    const QStringList listed = untranslated(name, language);
     QStringList same;
     const Catalogue entries = OrvTest::readCatalogue(directory.filePath(QLatin1String(QTest::currentDataTag())));
     QVERIFY(!entries.isEmpty());
@@ -101,13 +112,21 @@ void TestTranslations::catalogue()
     QCOMPARE(without(listed, same), QString());
 }
 
+void TestTranslations::updating_data()
+{
+    QTest::addColumn<QString>("lupdateArguments");
+    QTest::newRow("OrvCameraGuiApi") << QStringLiteral(LUPDATE_ARGUMENTS);
+    QTest::newRow("orv-camera-explorer") << QStringLiteral(EXPLORER_LUPDATE_ARGUMENTS);
+}
+
 /** The catalogues have every source text, and none that is gone; the target orv-update-translations sees to that. */
 void TestTranslations::updating()
 {
+    QFETCH(QString, lupdateArguments);
     const QTemporaryDir copies;
-    QStringList arguments = QStringLiteral(LUPDATE_ARGUMENTS).split(QLatin1Char('|'));
+    QStringList arguments = lupdateArguments.split(QLatin1Char('|'));
     arguments.append(QStringLiteral("-ts"));
-    const QStringList files = directory.entryList({QStringLiteral("*.ts")});
+    const QStringList files = cataloguesOf(QLatin1String(QTest::currentDataTag()));
     for (const QString &file : files) {
         QVERIFY(QFile::copy(directory.filePath(file), copies.filePath(file)));
         arguments.append(copies.filePath(file));
