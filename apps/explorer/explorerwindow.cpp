@@ -530,6 +530,7 @@ void ExplorerWindow::followCurrent(const QModelIndex &current)
 
 void ExplorerWindow::report(const QString &message)
 {
+    m_log->log().add(LogLevel::Error, QString(), message);
     auto *const box = new QMessageBox(QMessageBox::Warning, windowTitle(), message, QMessageBox::Ok, this);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::PlainText); // a camera may have a part in it

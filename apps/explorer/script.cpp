@@ -226,17 +226,19 @@ ExitCode Script::execute(const QString &name, CameraSource &source)
 
 ExitCode Script::save(const QString &path, CameraSource &source)
 {
+    ExitCode onError = Refused;
     try {
         const SettingsFile file = SettingsSaver(*source.nodeMap(), checkProgress).save();
         for (const QString &remark : file.remarks)
             complain(remark);
+        onError = NoFile;
         writeSettings(file, path);
         return AllFine;
     } catch (const SettingsInterrupted &) {
         return Interrupted;
     } catch (const SettingsError &e) {
         complain(e.message);
-        return NoFile;
+        return onError;
     }
 }
 

@@ -227,8 +227,7 @@ private Q_SLOTS:
                     throw SettingsInterrupted();
             };
             if (isLost) {
-                const SettingsFile file = SettingsSaver(*source->nodeMap(), stop).save();
-                QVERIFY(file.remarks.join(QLatin1Char('\n')).contains(QLatin1String("could not be put back")));
+                QVERIFY_EXCEPTION_THROWN(SettingsSaver(*source->nodeMap(), stop).save(), SettingsError);
                 return;
             }
             QVERIFY_EXCEPTION_THROWN(SettingsSaver(*source->nodeMap(), stop).save(), SettingsInterrupted);
@@ -266,6 +265,35 @@ private Q_SLOTS:
         file.settings += SettingsSaver(*source->nodeMap(), {}).save().settings.mid(2);
         QCOMPARE(compared(compareWithCamera(file, *source->nodeMap(), {})),
                  QStringLiteral("Nobody 1|\nWidth 50|60\nOffset |40"));
+    }
+
+    /** Another camera, the end of the window, the loss of the camera. */
+    void survivesWhatHappensMeanwhile()
+    {
+        const QTemporaryDir directory;
+        const QString path = directory.filePath(QStringLiteral("camera.gps"));
+        const std::function<void(ExplorerWindow &)> happenings[] = {
+            [](ExplorerWindow &window) { window.showCamera(QStringLiteral("ORV-USB3-0001")); },
+            [](ExplorerWindow &) {},
+            [](ExplorerWindow &window) {
+                OrvSim::unplug(camera);
+                QTRY_VERIFY(!window.findChild<SettingsJob *>());
+                OrvSim::replug(camera);
+            },
+        };
+        writeSettings(SettingsSaver(*openSettings()->nodeMap(), {}).save(), path);
+        for (const auto &happens : happenings) {
+            for (const auto &operation : {&SettingsMenu::saveTo, &SettingsMenu::loadFrom, &SettingsMenu::compareWith}) {
+                ExplorerWindow window(openSettings());
+                window.show();
+                auto *const menu = window.findChild<SettingsMenu *>();
+                (menu->*operation)(path);
+                QVERIFY(window.findChild<SettingsJob *>());
+                happens(window);
+            }
+        }
+        QCOMPARE(OrvSim::liveObjects().devices, std::size_t(0));
+        QVERIFY(!readSettings(path).settings.isEmpty());
     }
 
     /** The whole way, with keys. */

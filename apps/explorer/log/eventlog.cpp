@@ -86,8 +86,10 @@ QVariant EventLog::data(const QModelIndex &index, int role) const
         return {};
     const LogEntry &entry = m_entries.at(std::size_t(index.row()));
     switch (role) {
-    case Qt::DisplayRole:
-        return textOf(entry, index.column());
+    case Qt::DisplayRole: // the day is in the tool tip, and in what is copied and saved
+        return index.column() == TimeColumn
+            ? QDateTime::fromMSecsSinceEpoch(entry.time).toString(QStringLiteral("HH:mm:ss.zzz"))
+            : textOf(entry, index.column());
     case Qt::ToolTipRole:
         return plainToolTip(textOf(entry, index.column()));
     case LevelRole:

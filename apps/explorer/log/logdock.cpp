@@ -108,7 +108,7 @@ void LogDock::createView()
     m_view->setAlternatingRowColors(true);
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_view->setTabKeyNavigation(false);
-    m_view->setColumnWidth(EventLog::TimeColumn, fontMetrics().averageCharWidth() * 26);
+    m_view->setColumnWidth(EventLog::TimeColumn, fontMetrics().averageCharWidth() * 15);
     m_view->setColumnWidth(EventLog::LevelColumn, fontMetrics().averageCharWidth() * 9);
     m_view->setColumnWidth(EventLog::FeatureColumn, fontMetrics().averageCharWidth() * 26);
     auto *const copying = new QAction(tr("Copy"), m_view);

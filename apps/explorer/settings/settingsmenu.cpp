@@ -196,8 +196,8 @@ void SettingsMenu::save(const QString &path)
     const auto task = std::make_shared<Task>();
     task->path = path;
     const auto work = [task, map = m_nodeMap](const SettingsProgress &progress) {
-        task->file = SettingsSaver(*map, progress).save();
         try {
+            task->file = SettingsSaver(*map, progress).save();
             writeSettings(task->file, task->path);
             task->isDone = true;
         } catch (const SettingsError &e) {

@@ -162,7 +162,19 @@ SettingsFile SettingsSaver::save()
     plan();
     m_done = 0;
     saveItems(*m_root);
+    checkCamera();
     return m_file;
+}
+
+/** Half a camera must not replace the file of a whole one. */
+void SettingsSaver::checkCamera() const
+{
+    if (m_file.settings.isEmpty())
+        throw SettingsError{
+            Text::tr("There is nothing that could be saved. %1").arg(m_file.remarks.value(0)).trimmed()};
+    const FeatureValue again = m_first ? readValue(m_first) : FeatureValue();
+    if (!again.failure.isEmpty())
+        throw SettingsError{Text::tr("The camera does not answer any more: %1").arg(again.failure)};
 }
 
 /** A selector has its lines where what it selects stands. */
@@ -268,6 +280,8 @@ void SettingsSaver::saveFeature(INode *feature)
         remark(feature, lineBreakReason());
     else
         add(nameOf(feature), value.text);
+    if (value.failure.isEmpty() && !m_first)
+        m_first = feature;
 }
 
 /** Behind the lines of its selectors. */

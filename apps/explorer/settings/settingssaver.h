@@ -8,7 +8,7 @@
  * Collects the settings of a camera: the streamable features that can be read and written at the moment, those that a
  * selector selects for each of its entries. Of a camera that marks none as streamable all features, except those of its
  * connection. Writes nothing but selectors, and puts these back, also when the progress interrupts it. What is missing
- * is in the remarks.
+ * is in the remarks. Throws a SettingsError if nothing can be saved, or the camera is lost meanwhile.
  */
 class SettingsSaver
 {
@@ -26,6 +26,7 @@ private:
     class KeptSelectors;
 
     void plan();
+    void checkCamera() const;
     void place(GenApi::INode *feature);
     void saveItems(const Block &block);
     void saveBlock(const Block &block);
@@ -39,6 +40,7 @@ private:
     const SettingsProgress m_progress;
     SettingsFile m_file;
     std::unique_ptr<Block> m_root;
+    GenApi::INode *m_first = nullptr; ///< that could be read
     QVector<Setting> m_context; ///< selectors with their entries, outside in
     int m_written = 0; ///< of them, lines in the file already
     int m_combinations = 0; ///< visited below the present outermost selector
