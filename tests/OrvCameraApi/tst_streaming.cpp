@@ -34,6 +34,10 @@ const char plainCamera[] = R"(<RegisterDescription ModelName="Plain" VendorName=
     <pPort>Device</pPort><Endianess>BigEndian</Endianess></FloatReg>
   <IntReg Name="RateBits"><Address>0x1C</Address><Length>4</Length><AccessMode>RW</AccessMode><pPort>Device</pPort>
     <Sign>Unsigned</Sign><Endianess>BigEndian</Endianess></IntReg>
+  <Command Name="AcquisitionStart"><pValue>Acquisition</pValue><CommandValue>1</CommandValue></Command>
+  <Command Name="AcquisitionStop"><pValue>Acquisition</pValue><CommandValue>0</CommandValue></Command>
+  <IntReg Name="Acquisition"><Address>0x20</Address><Length>4</Length><AccessMode>RW</AccessMode><pPort>Device</pPort>
+    <Cachable>NoCache</Cachable><Sign>Unsigned</Sign><Endianess>BigEndian</Endianess></IntReg>
   <Enumeration Name="TestPattern"><EnumEntry Name="HorizontalRamp"><Value>0</Value></EnumEntry><Value>0</Value>
   </Enumeration>
   <Port Name="Device"/>
@@ -309,10 +313,12 @@ void TestStreaming::rates()
         camera.map().InvalidateNodes();
         camera.stream->start(2);
         QVERIFY2(camera.stops(), rate);
+        QCOMPARE(camera.text("Acquisition"), QByteArray("0")); // one register for start and stop
     }
     camera.set("AcquisitionFrameRate", "1e-30");
     camera.stream->start();
     QTRY_COMPARE(camera.stream->state(), State::Running);
+    QCOMPARE(camera.text("Acquisition"), QByteArray("1"));
     camera.stream->stop(); // wakes the thread; a picture takes ten seconds
     QVERIFY(camera.stops());
     QCOMPARE(camera.stream->statistics().received, 0ULL);

@@ -63,7 +63,7 @@ public:
      */
     static std::unique_ptr<Stream> create(OrvCam::Device &device, std::string *error = nullptr);
 
-    /** Stops. Waits for that no longer than a second or two, when the camera does not answer. */
+    /** Stops. Waits for that a second at most, when the camera does not answer. */
     virtual ~Stream() = default;
 
     /**

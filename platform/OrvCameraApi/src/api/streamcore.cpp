@@ -23,7 +23,7 @@ using Clock = FrameSource::Clock;
 
 constexpr auto longestWait = 500ms; ///< between two looks whether the camera is still there
 constexpr auto patience = 15s; ///< for a frame of a counted run, which has no end otherwise
-constexpr auto closingPatience = 1500ms; ///< a little more than for an access to a camera
+constexpr auto closingPatience = 1s; ///< as for an access to a camera
 
 /** Threads of streams that are gone; they wait for a camera. */
 EndingThreads &endingThreads()
@@ -126,7 +126,7 @@ void StreamCore::close()
     if (isOwnThread()) // in the listener, or in a callback of a node
         stopAcquisition();
     Lock lock(m_mutex);
-    if (!isOwnThread())
+    if (!isOwnThread() && !m_isClosed) // whoever closes again has waited already
         m_changed.wait_for(lock, closingPatience, [this] { return isIdle(); });
     m_next.reset();
     m_isClosed = true;
