@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <system_error>
 #include <utility>
 
 namespace OrvCameraApi {
@@ -47,12 +48,17 @@ void StreamCore::start(std::uint64_t frames)
     if (m_state != State::Stopped || m_isEnding)
         return;
     begin(frames);
-    if (!m_thread.joinable()) {
+    if (m_thread.joinable())
+        return;
+    try {
         m_thread = std::thread([core = shared_from_this(), hasEnded = m_hasEnded]() mutable {
             core->run();
             core.reset();
             *hasEnded = true;
         });
+    } catch (const std::system_error &error) {
+        m_state = State::Stopped;
+        m_failure = error.what();
     }
 }
 
