@@ -1,6 +1,9 @@
 #include "measure.h"
+#include "shownpictures.h"
 
 #include <picture/pixelformat.h>
+
+#include <QApplication>
 
 #include <algorithm>
 #include <functional>
@@ -182,9 +185,10 @@ void compare(Table &table, quint32 format, Depth depth, const std::function<QIma
 
 } // namespace
 
-/** What conversions take beside loops over single pixels: benchmarks/run picture */
-int main()
+/** What conversions take beside loops over single pixels, and what showing takes: benchmarks/run picture */
+int main(int argc, char **argv)
 {
+    const QApplication app(argc, argv);
     Table table;
     const auto mono = [](Sample sample, int bits, bool isDeep = false) {
         return [=](const Bytes &bytes) { return Naive(bytes, sample, bits, isDeep).mono(); };
@@ -204,6 +208,7 @@ int main()
     compare(table, 0x010C002B, Depth::Display, bayer(pairSample, 12));
     compare(table, 0x02180014, Depth::Display, naiveRgb);
     compare(table, 0x02100032, Depth::Display, naiveYuv, 1);
+    compareShowing(table);
     table.print();
     return 0;
 }

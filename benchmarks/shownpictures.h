@@ -1,0 +1,6 @@
+#pragma once
+
+class Table;
+
+/** What the processor does for pictures that come from a camera and are shown, beside images that are only shown. */
+void compareShowing(Table &table);
