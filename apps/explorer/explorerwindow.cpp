@@ -74,6 +74,8 @@ ExplorerWindow::ExplorerWindow(std::unique_ptr<CameraSource> source, QWidget *pa
     , m_marks(new FeatureMarks(*m_view, this))
     , m_picture(new PictureDock(this))
     , m_simulation(new SimulationMenu(this))
+    , m_connectedIcon(QStringLiteral(":/icons/connected.ico"))
+    , m_disconnectedIcon(QStringLiteral(":/icons/disconnected.ico"))
     , m_connectionIcon(new QLabel(this))
     , m_connectionLabel(new QLabel(this))
     , m_pollingLabel(new QLabel(this))
@@ -210,7 +212,7 @@ void ExplorerWindow::createViewMenu()
     connect(m_treeTools, &TreeToolsMenu::told, this,
             [this](const QString &message) { statusBar()->showMessage(message, messageTime); });
     view->addSeparator();
-    view->addActions({m_tools->toggleViewAction(), m_log->toggleViewAction()});
+    view->addActions({m_tools->toggleViewAction(), m_picture->toggleViewAction(), m_log->toggleViewAction()});
     m_log->toggleViewAction()->setShortcut(Qt::CTRL + Qt::Key_L);
     m_tools->addSeparator();
     m_tools->addActions({refreshing, m_polling});
@@ -345,7 +347,7 @@ void ExplorerWindow::setReachable(bool reachable)
     const bool isChange = reachable != m_isReachable;
     m_isReachable = reachable;
     m_connectionLabel->setText(reachable ? tr("Connected") : tr("Disconnected"));
-    const QIcon icon(reachable ? QStringLiteral(":/icons/connected.ico") : QStringLiteral(":/icons/disconnected.ico"));
+    const QIcon &icon = reachable ? m_connectedIcon : m_disconnectedIcon;
     m_connectionIcon->setPixmap(icon.pixmap(windowHandle(), QSize(16, 16)));
     for (QLabel *const label : {m_connectionLabel, m_connectionIcon})
         label->setVisible(m_source->device());

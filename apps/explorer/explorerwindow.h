@@ -3,6 +3,7 @@
 #include <OrvCameraApi/transports.h>
 
 #include <QHash>
+#include <QIcon>
 #include <QMainWindow>
 #include <QSize>
 
@@ -125,6 +126,8 @@ private:
     SimulationMenu *const m_simulation;
     std::optional<OrvTransports::Cameras> m_chosenCameras; ///< in the menu
     QAction *m_polling = nullptr;
+    const QIcon m_connectedIcon; ///< kept, as each new one would add to the cache of pixmaps
+    const QIcon m_disconnectedIcon;
     QLabel *const m_connectionIcon;
     QLabel *const m_connectionLabel;
     QLabel *const m_pollingLabel;

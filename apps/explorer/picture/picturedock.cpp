@@ -67,12 +67,8 @@ QAction *PictureDock::addAction(const char *name, const QString &text, const QSt
 
 void PictureDock::createActions()
 {
-    QAction *const toggle = toggleViewAction();
-    toggle->setShortcut(Qt::CTRL + Qt::Key_I);
-    toggle->setText(tr("&Show"));
-    setTip(*toggle, tr("Show the pictures of the camera"));
-    m_menu->addAction(toggle);
-    m_menu->addSeparator();
+    toggleViewAction()->setShortcut(Qt::CTRL + Qt::Key_I);
+    setTip(*toggleViewAction(), tr("Show the pictures of the camera"));
     m_start = addAction("start", {}, {}, Qt::Key_F9);
     connect(m_start, &QAction::triggered, this, &PictureDock::startOrStop);
     m_oneFrame = addAction("oneframe", tr("&One Frame"), {}, Qt::SHIFT + Qt::Key_F9);
@@ -308,11 +304,14 @@ void PictureDock::updateKind()
 double PictureDock::rate()
 {
     const qint64 now = m_time.elapsed();
-    m_received.emplace_back(now, m_feed->stream().statistics().received);
+    const quint64 received = m_feed->stream().statistics().received;
+    if (!m_received.empty() && received < m_received.back().second)
+        m_received.clear(); // started again
+    m_received.emplace_back(now, received);
     while (m_received.size() > 2 && now - m_received[1].first >= rateTime)
         m_received.pop_front();
     const qint64 time = now - m_received.front().first;
-    const quint64 frames = m_received.back().second - m_received.front().second;
+    const quint64 frames = received - m_received.front().second;
     return time > 0 ? double(frames) * 1000 / double(time) : 0;
 }
 

@@ -41,7 +41,7 @@ public:
     /** Ends the pictures, if there are any; the camera may need a moment. */
     void stop();
 
-    /** All commands. */
+    /** All commands; toggleViewAction() is for another menu. */
     QMenu *menu() const { return m_menu; }
 
 Q_SIGNALS:

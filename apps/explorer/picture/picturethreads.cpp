@@ -2,23 +2,44 @@
 
 #include <QCoreApplication>
 #include <QPointer>
-#include <QThreadPool>
 
-#include <limits>
+#include <atomic>
+#include <endingthreads.h>
+#include <memory>
+#include <thread>
 #include <utility>
 
-/**
- * The pool is a child of the application object: it is waited for before what libraries keep until the end of the
- * process goes.
- */
+namespace {
+
+/** A child of the application object, so that nothing runs when what libraries keep for the process goes. */
+class PictureThreads : public QObject
+{
+public:
+    using QObject::QObject;
+
+    void run(std::function<void()> work)
+    {
+        auto hasEnded = std::make_shared<std::atomic<bool>>(false);
+        std::thread thread([work = std::move(work), hasEnded]() mutable {
+            work();
+            work = nullptr;
+            *hasEnded = true;
+        });
+        m_threads.add(std::move(thread), std::move(hasEnded));
+    }
+
+private:
+    OrvCameraApi::EndingThreads m_threads; // joined by its destructor
+};
+
+} // namespace
+
 void inPictureThread(std::function<void()> work)
 {
-    static QPointer<QThreadPool> pool;
-    if (!pool) {
-        pool = new QThreadPool(QCoreApplication::instance());
-        pool->setMaxThreadCount(std::numeric_limits<int>::max()); // one that waits for a camera keeps nobody
-    }
-    pool->start(QRunnable::create(std::move(work)));
+    static QPointer<PictureThreads> threads;
+    if (!threads)
+        threads = new PictureThreads(QCoreApplication::instance());
+    threads->run(std::move(work));
 }
 
 void inPictureThread(QObject *context, std::function<std::function<void()>()> work)

@@ -216,7 +216,7 @@ void PictureView::mousePressEvent(QMouseEvent *event)
 void PictureView::mouseMoveEvent(QMouseEvent *event)
 {
     const QPointF distance = event->localPos() - std::exchange(m_mouse, event->localPos());
-    if (m_drags)
+    if (m_drags && event->buttons() & Qt::LeftButton)
         move(distance);
     else
         Q_EMIT pixelChanged();
