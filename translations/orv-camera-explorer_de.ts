@@ -522,10 +522,6 @@
         <translation>&amp;Bild</translation>
     </message>
     <message>
-        <source>&amp;Show</source>
-        <translation>&amp;Zeigen</translation>
-    </message>
-    <message>
         <source>Show the pictures of the camera</source>
         <translation>Die Bilder der Kamera zeigen</translation>
     </message>

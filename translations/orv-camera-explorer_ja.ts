@@ -522,10 +522,6 @@
         <translation>画像(&amp;P)</translation>
     </message>
     <message>
-        <source>&amp;Show</source>
-        <translation>表示(&amp;S)</translation>
-    </message>
-    <message>
         <source>Show the pictures of the camera</source>
         <translation>カメラの画像を表示します</translation>
     </message>

@@ -522,10 +522,6 @@
         <translation>图像(&amp;P)</translation>
     </message>
     <message>
-        <source>&amp;Show</source>
-        <translation>显示(&amp;S)</translation>
-    </message>
-    <message>
         <source>Show the pictures of the camera</source>
         <translation>显示相机的图像</translation>
     </message>
