@@ -511,6 +511,17 @@ void FeatureTreeToolsTest::outlivesAndIsOutlived()
         }
     }
     OrvFeatureTreeTools(nullptr).setTellsReasons(true);
+
+    Stage stage; // its slots delete the tools
+    for (const auto &emitted : {&OrvFeatureTreeTools::shownPartChanged, &OrvFeatureTreeTools::favoritesChanged}) {
+        const QPointer<OrvFeatureTreeTools> tools(new OrvFeatureTreeTools(&stage.view));
+        tools->setShowsFavoritesOnly(true);
+        connect(tools, emitted, [&] { delete tools; });
+        tools->setFavorites({QStringLiteral("Width")});
+        if (tools)
+            tools->jumpTo(QStringLiteral("Delay")); // which shows more
+        QVERIFY(!tools && stage.cell("Delay").isValid());
+    }
 }
 
 ORV_TEST_MAIN(FeatureTreeToolsTest)

@@ -83,7 +83,10 @@ std::vector<INode *> readBy(const INode &node)
 {
     GenApi::NodeList_t nodes;
     failureOf([&] { node.GetChildren(nodes, GenApi::ctReadingChildren); });
-    return {nodes.begin(), nodes.end()};
+    std::vector<INode *> read;
+    for (INode *const child : nodes)
+        read.push_back(child);
+    return read;
 }
 
 /** The standard feature that cameras lock others with during the acquisition, possibly by way of formulas. */

@@ -8,7 +8,6 @@
 
 namespace OrvGui {
 
-class OrvFeatureTreeTools;
 class OrvFeatureTreeToolsPrivate;
 class OrvGenParamTreeView;
 

@@ -106,7 +106,8 @@ void Rereading::drop(GenApi::INode &node)
         GenApi::NodeList_t read;
         if (type != GenApi::intfICategory)
             node.GetChildren(read, GenApi::ctReadingChildren);
-        m_nodes.insert(m_nodes.end(), read.begin(), read.end());
+        for (GenApi::INode *const child : read)
+            m_nodes.push_back(child);
         node.InvalidateNode();
     });
 }
