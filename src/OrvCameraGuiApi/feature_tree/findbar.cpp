@@ -164,10 +164,10 @@ void FindBar::showCount()
     const QModelIndex current = m_tree->currentIndex().siblingAtColumn(0);
     const size_t at = current.isValid() ? m_search->firstFrom(current) : matches.size();
     const QLocale locale;
-    const QString count = locale.toString(qulonglong(matches.size()));
+    const QString count = locale.toString(qulonglong{matches.size()});
     QString text;
     if (at < matches.size() && matches[at] == current)
-        text = tr("%1 of %2").arg(locale.toString(qulonglong(at + 1)), count);
+        text = tr("%1 of %2").arg(locale.toString(qulonglong{at} + 1), count);
     else if (!matches.empty())
         text = tr("%1 found").arg(count);
     else if (m_search->isComplete() && !m_text->text().isEmpty())
