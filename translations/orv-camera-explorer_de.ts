@@ -808,6 +808,14 @@
         <source>What &apos;%1&apos; selects is not saved: %2</source>
         <translation>Was „%1“ auswählt, wird nicht gespeichert: %2</translation>
     </message>
+    <message>
+        <source>There is nothing that could be saved. %1</source>
+        <translation>Es gibt nichts, was gespeichert werden könnte. %1</translation>
+    </message>
+    <message>
+        <source>The camera does not answer any more: %1</source>
+        <translation>Die Kamera antwortet nicht mehr: %1</translation>
+    </message>
 </context>
 <context>
     <name>SettingsFile</name>

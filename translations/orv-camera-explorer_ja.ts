@@ -808,6 +808,14 @@
         <source>What &apos;%1&apos; selects is not saved: %2</source>
         <translation>「%1」が選択するものは保存されません: %2</translation>
     </message>
+    <message>
+        <source>There is nothing that could be saved. %1</source>
+        <translation>保存できるものがありません。%1</translation>
+    </message>
+    <message>
+        <source>The camera does not answer any more: %1</source>
+        <translation>カメラが応答しなくなりました: %1</translation>
+    </message>
 </context>
 <context>
     <name>SettingsFile</name>

@@ -808,6 +808,14 @@
         <source>What &apos;%1&apos; selects is not saved: %2</source>
         <translation>“%1”所选择的内容未保存：%2</translation>
     </message>
+    <message>
+        <source>There is nothing that could be saved. %1</source>
+        <translation>没有可以保存的内容。%1</translation>
+    </message>
+    <message>
+        <source>The camera does not answer any more: %1</source>
+        <translation>相机不再应答：%1</translation>
+    </message>
 </context>
 <context>
     <name>SettingsFile</name>
