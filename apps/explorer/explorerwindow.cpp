@@ -82,7 +82,6 @@ ExplorerWindow::ExplorerWindow(std::unique_ptr<CameraSource> source, QWidget *pa
 {
     resize(usualSize);
     openWithinScreen(*this);
-    setAnimated(false); // Qt leaks the animation of a dock whose window goes meanwhile
     m_view->setPollingTime(defaultPollingTime);
     m_tools->setObjectName(QStringLiteral("tools"));
     createPages();

@@ -125,8 +125,12 @@ private Q_SLOTS:
         dock.findChild<QComboBox *>()->setFocus();
         QTest::keyClick(dock.findChild<QComboBox *>(), Qt::Key_Down);
         QCOMPARE(view->model()->rowCount(), 2);
+        dock.findChild<QLineEdit *>()->setFocus();
         QTest::keyClicks(dock.findChild<QLineEdit *>(), QStringLiteral("X2"));
         QCOMPARE(view->model()->rowCount(), 1);
+        QTest::keyClick(dock.findChild<QLineEdit *>(), Qt::Key_Escape);
+        QCOMPARE(view->model()->rowCount(), 2);
+        QTest::keyClicks(dock.findChild<QLineEdit *>(), QStringLiteral("X2"));
         view->setFocus();
         QTest::keyClick(view, Qt::Key_A, Qt::ControlModifier);
         QTest::keyClick(view, Qt::Key_C, Qt::ControlModifier);

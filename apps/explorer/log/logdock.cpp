@@ -73,8 +73,12 @@ void LogDock::createBar(QWidget &bar)
 {
     m_text->setPlaceholderText(tr("Filter"));
     m_text->setAccessibleName(tr("Filter"));
-    m_text->setToolTip(tr("Show only lines that have this text in them"));
-    m_text->setClearButtonEnabled(true);
+    m_text->setToolTip(tr("Show only lines that have this text in them; Escape clears it"));
+    auto *const clearing = new QAction(m_text); // no clear button: Qt leaks its animation when the window goes
+    clearing->setShortcut(Qt::Key_Escape);
+    clearing->setShortcutContext(Qt::WidgetShortcut);
+    connect(clearing, &QAction::triggered, m_text, &QLineEdit::clear);
+    m_text->addAction(clearing);
     connect(m_text, &QLineEdit::textChanged, this, &LogDock::updateFilter);
     m_level->addItem(tr("Everything"), int(LogLevel::Information));
     m_level->addItem(tr("Writes and errors"), int(LogLevel::Write));
