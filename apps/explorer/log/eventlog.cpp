@@ -2,9 +2,9 @@
 
 #include <OrvCameraGuiApi/windows/plaintooltip.h>
 
+#include <QCoreApplication>
 #include <QDateTime>
-#include <QMutexLocker>
-#include <QPalette>
+#include <QEvent>
 
 #include <algorithm>
 #include <utility>
@@ -21,7 +21,7 @@ EventLog::EventLog(QObject *parent)
 void EventLog::add(LogLevel level, const QString &feature, const QString &text)
 {
     LogEntry entry{QDateTime::currentMSecsSinceEpoch(), level, feature, text};
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard locker(m_mutex);
     if (m_waiting.empty())
         QMetaObject::invokeMethod(
             this, [this] { m_timer.start(); }, Qt::QueuedConnection);
@@ -31,12 +31,17 @@ void EventLog::add(LogLevel level, const QString &feature, const QString &text)
         m_waiting[std::exchange(m_oldest, (m_oldest + 1) % m_waiting.size())] = std::move(entry);
 }
 
+void EventLog::customEvent(QEvent *)
+{
+    m_timer.start();
+}
+
 /** All that have come since the last time, with one signal. */
 void EventLog::takeOver()
 {
     std::vector<LogEntry> added;
     {
-        const QMutexLocker locker(&m_mutex);
+        const std::lock_guard locker(m_mutex);
         added.swap(m_waiting);
         std::rotate(added.begin(), added.begin() + std::ptrdiff_t(std::exchange(m_oldest, 0)), added.end());
     }

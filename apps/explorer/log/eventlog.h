@@ -1,10 +1,10 @@
 #pragma once
 
 #include <QAbstractTableModel>
-#include <QMutex>
 #include <QTimer>
 
 #include <deque>
+#include <mutex>
 #include <vector>
 
 enum class LogLevel {
@@ -46,13 +46,17 @@ public:
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
+protected:
+    /** Something has been added. */
+    void customEvent(QEvent *event) override;
+
 private:
     void takeOver();
     QString textOf(const LogEntry &entry, int column) const;
 
     std::deque<LogEntry> m_entries;
     QTimer m_timer;
-    QMutex m_mutex; ///< of the following
+    std::mutex m_mutex; ///< of the following
     std::vector<LogEntry> m_waiting; ///< a ring when it is full
     std::size_t m_oldest = 0; ///< in the full ring
 };

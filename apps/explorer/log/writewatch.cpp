@@ -3,8 +3,6 @@
 #include "eventlog.h"
 #include "settings/featuremap.h"
 
-#include <QMutexLocker>
-
 #include <algorithm>
 
 using GenApi::INode;
@@ -70,7 +68,7 @@ void WriteWatch::lookAtSome()
         m_next = (m_next + 1) % m_features.size();
         INode *const node = m_features[m_next].node;
         QString value;
-        const QMutexLocker locker(&m_mutex);
+        const std::lock_guard locker(m_mutex);
         if (!m_known.contains(node) && keptValue(node, value))
             m_known.insert(node, value);
     }
@@ -83,14 +81,14 @@ void WriteWatch::changed(INode *node)
     QString value;
     if (keptValue(node, value))
         return log(node, value);
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard locker(m_mutex);
     if (m_selected.count(node) != 0)
         m_known.remove(node); // it may be another one now
 }
 
 void WriteWatch::log(INode *node, const QString &value)
 {
-    QMutexLocker locker(&m_mutex);
+    std::unique_lock locker(m_mutex);
     const auto known = m_known.find(node);
     const bool isKnown = known != m_known.end();
     const QString before = isKnown ? *known : QString();
@@ -119,7 +117,7 @@ void WriteWatch::noteCurrent(const QString &feature)
     if (!node || !isReadable(node) || kindOf(node) == GenApi::intfICategory)
         return;
     const QString value = textOf(node);
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard locker(m_mutex);
     m_known.insert(node, value);
 }
 

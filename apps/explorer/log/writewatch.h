@@ -3,10 +3,10 @@
 #include <GenApi/GenApi.h>
 
 #include <QHash>
-#include <QMutex>
 #include <QObject>
 #include <QTimer>
 
+#include <mutex>
 #include <unordered_set>
 #include <vector>
 
@@ -52,6 +52,6 @@ private:
     std::unordered_set<GenApi::INode *> m_selected; ///< those of them that have selectors
     std::size_t m_next = 0; ///< to look at
     QTimer m_timer;
-    QMutex m_mutex; ///< of the following
+    std::mutex m_mutex; ///< of the following
     QHash<GenApi::INode *, QString> m_known;
 };

@@ -1,9 +1,10 @@
 #include "settingsjob.h"
 
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QElapsedTimer>
+#include <QEvent>
 #include <QLabel>
-#include <QMutexLocker>
 #include <QProgressBar>
 #include <QThread>
 #include <QTimer>
@@ -77,12 +78,17 @@ void SettingsJob::run(const Work &work)
     } catch (const SettingsInterrupted &) {
         // What has been done is known to the work.
     }
-    QMetaObject::invokeMethod(this, &SettingsJob::ended, Qt::QueuedConnection);
+    QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+}
+
+void SettingsJob::customEvent(QEvent *)
+{
+    Q_EMIT ended();
 }
 
 void SettingsJob::note(int done, int total, const QByteArray &feature)
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard locker(m_mutex);
     m_done = done;
     m_total = total;
     m_feature = feature;
@@ -90,7 +96,7 @@ void SettingsJob::note(int done, int total, const QByteArray &feature)
 
 void SettingsJob::update()
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard locker(m_mutex);
     m_bar->setRange(0, m_total);
     m_bar->setValue(m_done);
     m_label->setText(m_isInterrupted ? tr("Ending...") : QString::fromUtf8(m_feature));

@@ -3,9 +3,9 @@
 #include "featuremap.h"
 
 #include <QDialog>
-#include <QMutex>
 
 #include <atomic>
+#include <mutex>
 #include <thread>
 
 class QLabel;
@@ -41,6 +41,10 @@ Q_SIGNALS:
     /** The work has ended, in whichever way. Emitted from the event loop. */
     void ended();
 
+protected:
+    /** The thread is about to end. */
+    void customEvent(QEvent *event) override;
+
 private:
     void run(const Work &work);
     void note(int done, int total, const QByteArray &feature);
@@ -49,7 +53,7 @@ private:
     QLabel *const m_label;
     QProgressBar *const m_bar;
     std::atomic_bool m_isInterrupted{false};
-    QMutex m_mutex; ///< of the following
+    std::mutex m_mutex; ///< of the following
     int m_done = 0;
     int m_total = 0;
     QByteArray m_feature;
