@@ -16,6 +16,7 @@
 
 #include <functional>
 #include <string>
+#include <system_error>
 #include <utility>
 
 using OrvStreams::State;
@@ -25,6 +26,7 @@ namespace {
 constexpr int clockTime = 250; // milliseconds; the histogram is no newer either
 constexpr qint64 rateTime = 1000; // milliseconds
 const QSize iconSize(16, 16);
+const QLatin1String suggestedFile("picture.png");
 
 } // namespace
 
@@ -178,7 +180,12 @@ bool PictureDock::makeFeed()
         m_failure = QString::fromStdString(error);
         return false;
     }
-    m_feed = std::make_unique<PictureFeed>(std::move(stream));
+    try {
+        m_feed = std::make_unique<PictureFeed>(std::move(stream));
+    } catch (const std::system_error &e) {
+        m_failure = QString::fromLocal8Bit(e.what());
+        return false;
+    }
     connect(m_feed.get(), &PictureFeed::changed, this, &PictureDock::follow);
     return true;
 }
@@ -337,30 +344,48 @@ void PictureDock::countValues()
     m_feed->count(m_view->image());
 }
 
-/** The picture of this moment, whatever comes while the user chooses a file. */
 void PictureDock::save()
 {
     if (!m_frame || m_view->image().isNull())
         return;
-    auto *const dialog = new QFileDialog(this, tr("Save Picture"), QStringLiteral("picture.png"),
-                                         tr("PNG pictures (*.png);;All files (*)"));
+    try {
+        chooseFile(imageToKeep(m_frame));
+    } catch (const std::system_error &e) {
+        tellUnsaved(suggestedFile, QString::fromLocal8Bit(e.what()));
+    }
+}
+
+/** For the picture of this moment, whatever comes meanwhile. */
+void PictureDock::chooseFile(const std::shared_future<QImage> &image)
+{
+    auto *const dialog =
+        new QFileDialog(this, tr("Save Picture"), suggestedFile, tr("PNG pictures (*.png);;All files (*)"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setDefaultSuffix(QStringLiteral("png"));
-    const std::shared_future<QImage> image = imageToKeep(m_frame);
     connect(dialog, &QFileDialog::fileSelected, this, [this, image](const QString &path) { saveTo(path, image); });
     dialog->open();
 }
 
 void PictureDock::saveTo(const QString &path, const std::shared_future<QImage> &image)
 {
-    inPictureThread(this, [this, path, image]() -> std::function<void()> {
+    const auto save = [this, path, image]() -> std::function<void()> {
         const QString failure = savePng(image.get(), path);
         return [this, path, failure] {
             if (failure.isEmpty())
                 Q_EMIT told(tr("Saved '%1'.").arg(path));
             else
-                Q_EMIT failed(tr("Cannot write '%1': %2.").arg(path, failure));
+                tellUnsaved(path, failure);
         };
-    });
+    };
+    try {
+        inPictureThread(this, save);
+    } catch (const std::system_error &e) {
+        tellUnsaved(path, QString::fromLocal8Bit(e.what()));
+    }
+}
+
+void PictureDock::tellUnsaved(const QString &path, const QString &why)
+{
+    Q_EMIT failed(tr("Cannot write '%1': %2.").arg(path, why));
 }

@@ -74,7 +74,9 @@ private:
     double rate();
     void countValues();
     void save();
+    void chooseFile(const std::shared_future<QImage> &image);
     void saveTo(const QString &path, const std::shared_future<QImage> &image);
+    void tellUnsaved(const QString &path, const QString &why);
 
     OrvCam::Device *m_device = nullptr;
     bool m_isReachable = true;

@@ -6,7 +6,8 @@ class QObject;
 
 /**
  * \file
- * Called on the GUI thread; nobody waits for the threads until the application object goes.
+ * Called on the GUI thread; nobody waits for the threads until the application object goes. Throws a std::system_error
+ * where no thread can be had.
  */
 
 /** Runs \a work at once, on another thread. */
