@@ -3,6 +3,9 @@
 #include "picturethreads.h"
 #include "pixelformat.h"
 
+#include <QCoreApplication>
+#include <QEvent>
+
 #include <condition_variable>
 #include <mutex>
 #include <utility>
@@ -137,11 +140,7 @@ private:
     {
         if (!m_feed || std::exchange(m_isPosted, true))
             return;
-        const auto tell = [this, feed = m_feed] {
-            posted();
-            Q_EMIT feed->changed();
-        };
-        QMetaObject::invokeMethod(m_feed, tell, Qt::QueuedConnection);
+        QCoreApplication::postEvent(m_feed, new QEvent(QEvent::User));
     }
 
     std::unique_ptr<OrvStreams::Stream> m_stream;
@@ -185,6 +184,12 @@ OrvStreams::Stream &PictureFeed::stream()
 std::optional<Picture> PictureFeed::takePicture()
 {
     return m_core->takePicture();
+}
+
+void PictureFeed::customEvent(QEvent *)
+{
+    m_core->posted();
+    Q_EMIT changed();
 }
 
 void PictureFeed::giveBack(QImage &&image)

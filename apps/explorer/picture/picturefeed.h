@@ -59,6 +59,9 @@ Q_SIGNALS:
     /** There may be a picture, a histogram, or another state. */
     void changed();
 
+protected:
+    void customEvent(QEvent *event) override;
+
 private:
     const std::shared_ptr<FeedCore> m_core;
 };
