@@ -92,6 +92,18 @@
         <source>Go to Selecte&amp;d Feature</source>
         <translation>Zu&amp;m ausgewählten Merkmal</translation>
     </message>
+    <message>
+        <source>... and %1 more</source>
+        <translation>... und %1 weitere</translation>
+    </message>
+    <message>
+        <source>Favor&amp;ites Only</source>
+        <translation>Nur Favor&amp;iten</translation>
+    </message>
+    <message>
+        <source>&amp;Changed Only</source>
+        <translation>Nur Geän&amp;derte</translation>
+    </message>
 </context>
 <context>
     <name>FilterOptions</name>

@@ -92,6 +92,18 @@
         <source>Go to Selecte&amp;d Feature</source>
         <translation>選択対象の機能へ移動(&amp;D)</translation>
     </message>
+    <message>
+        <source>... and %1 more</source>
+        <translation>... 他 %1 件</translation>
+    </message>
+    <message>
+        <source>Favor&amp;ites Only</source>
+        <translation>お気に入りのみ(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Changed Only</source>
+        <translation>変更分のみ(&amp;C)</translation>
+    </message>
 </context>
 <context>
     <name>FilterOptions</name>

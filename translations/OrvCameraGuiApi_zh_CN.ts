@@ -92,6 +92,18 @@
         <source>Go to Selecte&amp;d Feature</source>
         <translation>转到所选特性(&amp;D)</translation>
     </message>
+    <message>
+        <source>... and %1 more</source>
+        <translation>... 还有 %1 个</translation>
+    </message>
+    <message>
+        <source>Favor&amp;ites Only</source>
+        <translation>仅收藏(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Changed Only</source>
+        <translation>仅已更改(&amp;C)</translation>
+    </message>
 </context>
 <context>
     <name>FilterOptions</name>

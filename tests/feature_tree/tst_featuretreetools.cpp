@@ -6,15 +6,19 @@
 #include <QLabel>
 #include <QMenu>
 
+#include <functional>
+#include <utility>
+
 using OrvGui::OrvFeatureTreeTools;
 
 namespace {
 
-QByteArray reg(const char *name, int address, const char *mode = "RW", const char *caching = "WriteThrough")
+QByteArray reg(const char *name, int address, const char *mode = "RW", const char *caching = "WriteThrough",
+               const char *more = "")
 {
     return QByteArray("<IntReg Name=\"") + name + "\"><Address>" + QByteArray::number(address)
-        + "</Address><Length>8</Length><AccessMode>" + mode + "</AccessMode><Cachable>" + caching
-        + "</Cachable><pPort>Device</pPort><Sign>Signed</Sign><Endianess>BigEndian</Endianess></IntReg>";
+        + "</Address><Length>8</Length><AccessMode>" + mode + "</AccessMode><Cachable>" + caching + "</Cachable>" + more
+        + "<pPort>Device</pPort><Sign>Signed</Sign><Endianess>BigEndian</Endianess></IntReg>";
 }
 
 /** A camera whose features depend on one another; "Twice" is listed in two categories. */
@@ -25,11 +29,20 @@ QByteArray nodes()
 <Category Name="Image"><pFeature>Width</pFeature><pFeature>Twice</pFeature><pFeature>Inner</pFeature></Category>
 <Category Name="Inner"><pFeature>Gain</pFeature><pFeature>Temperature</pFeature><pFeature>Expert</pFeature></Category>
 <Category Name="Trigger"><pFeature>Selector</pFeature><pFeature>Delay</pFeature><pFeature>Fire</pFeature>
-  <pFeature>TLParamsLocked</pFeature><pFeature>Switch</pFeature></Category>
+  <pFeature>TLParamsLocked</pFeature><pFeature>Switch</pFeature><pFeature>Both</pFeature><pFeature>Mode</pFeature>
+  <pFeature>Indexed</pFeature></Category>
 <Category Name="Again"><pFeature>Twice</pFeature><pFeature>Inner</pFeature></Category>
 <Integer Name="Width"><DisplayName>Image &amp; Width</DisplayName><pIsLocked>Streaming</pIsLocked>
   <pValue>WidthReg</pValue></Integer>
 <IntSwissKnife Name="Streaming"><pVariable Name="L">TLParamsLocked</pVariable><Formula>L</Formula></IntSwissKnife>
+<Integer Name="Both"><pIsLocked>Either</pIsLocked><pValue>GainReg</pValue></Integer>
+<IntSwissKnife Name="Either"><pVariable Name="L">TLParamsLocked</pVariable><pVariable Name="S">Switch</pVariable>
+  <Formula>L || S</Formula></IntSwissKnife>
+<Integer Name="Mode"><Value>0</Value></Integer>
+<Integer Name="Indexed"><pIndex>Mode</pIndex><pValueIndexed Index="1">Shut</pValueIndexed>
+  <pValueDefault>TemperatureReg</pValueDefault></Integer>
+<Integer Name="Shut"><pIsLocked>Always</pIsLocked><pValue>GainReg</pValue></Integer>
+<IntSwissKnife Name="Always"><Formula>1</Formula></IntSwissKnife>
 <Integer Name="Twice"><pValue>Hidden</pValue></Integer>
 <Integer Name="Hidden"><pIsLocked>Switch</pIsLocked><pValue>TwiceReg</pValue></Integer>
 <Integer Name="Gain"><pIsAvailable>Switch</pIsAvailable><pValue>GainReg</pValue></Integer>
@@ -41,10 +54,23 @@ QByteArray nodes()
 <Command Name="Fire"><pValue>FireReg</pValue><CommandValue>7</CommandValue></Command>
 <Integer Name="TLParamsLocked"><pValue>LockReg</pValue></Integer>
 <Integer Name="Switch"><pValue>SwitchReg</pValue></Integer>)"
-        + reg("WidthReg", 0) + reg("TwiceReg", 8) + reg("GainReg", 16) + reg("TemperatureReg", 24, "RO")
-        + reg("SelectorReg", 32) + reg("DelayReg", 40) + reg("FireReg", 48) + reg("LockReg", 56, "RW", "NoCache")
-        + reg("SwitchReg", 64);
+        + reg("WidthReg", 0) + reg("TwiceReg", 8) + reg("GainReg", 16)
+        + reg("TemperatureReg", 24, "RO", "WriteThrough", "<PollingTime>10</PollingTime>") + reg("SelectorReg", 32)
+        + reg("DelayReg", 40) + reg("FireReg", 48) + reg("LockReg", 56, "RW", "NoCache") + reg("SwitchReg", 64);
 }
+
+/** Tells of each read. */
+struct TellingPort : OrvGenApi::MemoryPort
+{
+    void Read(void *buffer, int64_t address, int64_t length) override
+    {
+        if (told)
+            told();
+        MemoryPort::Read(buffer, address, length);
+    }
+
+    std::function<void()> told;
+};
 
 struct Stage : ShownView
 {
@@ -107,11 +133,13 @@ private Q_SLOTS:
     void menuActsOnTheRow();
     void mouseAndKeysOpenTheMenu();
     void menuGoesWithTheNodeMap();
+    void toolsMayGoAtAnyTime();
     void tellsWhyNotWritable_data();
     void tellsWhyNotWritable();
     void reasonsFollowTheCameraAndLead();
     void readsAgainWhatIsShown();
     void showsAPartOnly();
+    void slotsMayChooseAnotherPart();
     void jumpsToWhatIsHidden();
     void findsByKeys();
     void findsInLargeAndDeepTrees();
@@ -131,6 +159,10 @@ void FeatureTreeToolsTest::menuActsOnTheRow()
     stage.set("Width", 640);
     QCOMPARE(copied("Width", "v"), QStringLiteral("640"));
     QCOMPARE(copied("Width", "r"), QStringLiteral("Image & Width\t640"));
+    for (const char *const unread : {"Fire", "Gain"}) { // a command, and what is not available
+        QVERIFY(!stage.choose(unread, "v"));
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    }
 
     QSignalSpy written(&stage.view, &OrvGui::OrvGenParamTreeView::featureWritten);
     QVERIFY(stage.choose("Fire", "e"));
@@ -191,6 +223,34 @@ void FeatureTreeToolsTest::menuGoesWithTheNodeMap()
     QVERIFY(!QApplication::activePopupWidget());
 }
 
+/** While the menu is made, and in a slot. */
+void FeatureTreeToolsTest::toolsMayGoAtAnyTime()
+{
+    const auto whenDeletedBy = [](auto deleteBy) {
+        Stage stage;
+        auto *const tools = new OrvFeatureTreeTools(&stage.view, &stage.view);
+        tools->setContextMenu(true);
+        const QPointer<OrvFeatureTreeTools> alive(tools);
+        deleteBy(stage, *tools);
+        return !alive && !QApplication::activePopupWidget() && stage.cell("Width").isValid();
+    };
+    TellingPort port;
+    QVERIFY(whenDeletedBy([&](Stage &stage, OrvFeatureTreeTools &tools) {
+        stage.tools.setContextMenu(false);
+        stage.map->connect(&port, "Device");
+        stage.tree->setCurrentIndex(stage.cell("Width", 0));
+        port.told = [&, done = false]() mutable {
+            if (!std::exchange(done, true))
+                delete &tools;
+        };
+        QTest::keyClick(stage.tree, Qt::Key_Menu); // reads whether the feature is locked
+    }));
+    QVERIFY(whenDeletedBy([&](Stage &, OrvFeatureTreeTools &tools) {
+        QObject::connect(&tools, &OrvFeatureTreeTools::told, &tools, [&] { delete &tools; });
+        tools.jumpTo(QStringLiteral("Nowhere"));
+    }));
+}
+
 void FeatureTreeToolsTest::tellsWhyNotWritable_data()
 {
     QTest::addColumn<QString>("feature");
@@ -204,7 +264,10 @@ void FeatureTreeToolsTest::tellsWhyNotWritable_data()
             << feature << changed << value << reason;
     };
     row("Width", "TLParamsLocked", 0, "");
-    row("Width", "TLParamsLocked", 1, "the acquisition is running (Streaming)");
+    row("Width", "TLParamsLocked", 1, "the acquisition is running (TLParamsLocked)");
+    row("Both", "TLParamsLocked", 1, "locked by TLParamsLocked, Switch");
+    row("Indexed", "Mode", 0, "the camera lets it be read only");
+    row("Indexed", "Mode", 1, "locked by Always");
     row("Twice", "Switch", 0, "");
     row("Twice", "Switch", 1, "locked by Switch");
     row("Gain", "Switch", 0, "not available now because of Switch");
@@ -226,6 +289,12 @@ void FeatureTreeToolsTest::tellsWhyNotWritable()
         failGetter(*stage.map, "Switch", getter);
         failGetter(*stage.map, feature.toStdString(), getter);
         stage.tools.reasonFor(feature);
+        stage.tools.jumpTo(feature);
+        stage.tools.readAgain(feature);
+        QCoreApplication::processEvents();
+        Stage::expectMenu();
+        QTest::keyClick(stage.tree, Qt::Key_Menu); // at the row, if any
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
     }
 }
 
@@ -292,6 +361,23 @@ void FeatureTreeToolsTest::showsAPartOnly()
     QCOMPARE(stage.names(), all);
     QCOMPARE(QByteArray(stage.view.saveState()), arranged);
 
+    stage.tools.setShowsFavoritesOnly(true);
+    stage.view.loadState("Trigger&lt;Image&lt;"); // anybody's text
+    QVERIFY(stage.tools.jumpTo(QStringLiteral("Gain")));
+    stage.tree->setExpanded(stage.cell("Again", 0), false);
+    stage.tools.setFavorites(list("Gain Delay"));
+    QVERIFY(!stage.tree->isExpanded(stage.cell("Again", 0)) && stage.tree->isExpanded(stage.cell("Trigger", 0)));
+    stage.tools.setFavorites({}); // nothing is left but the menu
+    QVERIFY(stage.choose("Nothing", "i"));
+    QCOMPARE(stage.names(), all);
+    QVERIFY(stage.tree->isExpanded(stage.cell("Trigger", 0)) && !stage.tree->isExpanded(stage.cell("Again", 0)));
+    stage.tools.setFavorites(list("Gain"));
+    stage.tree->collapseAll();
+    stage.tools.setShowsFavoritesOnly(true);
+    stage.tree->setCurrentIndex(stage.cell("Gain", 0));
+    stage.tools.setShowsFavoritesOnly(false);
+    QCOMPARE(stage.current(), QStringLiteral("Gain")); // in a category that was closed before
+
     QVERIFY(stage.tools.showOnlyCategory(QStringLiteral("Trigger")));
     QVERIFY(!stage.tools.showOnlyCategory(QStringLiteral("Width")));
     QCOMPARE(stage.tools.onlyCategory(), QStringLiteral("Trigger"));
@@ -302,6 +388,19 @@ void FeatureTreeToolsTest::showsAPartOnly()
     QCOMPARE(stage.names(), all);
     QTRY_COMPARE(changed.count(), 1);
     stage.view.clearParams(); // before its node map
+}
+
+void FeatureTreeToolsTest::slotsMayChooseAnotherPart()
+{
+    Stage stage;
+    const QStringList all = stage.names();
+    stage.tools.setFavorites({QStringLiteral("Gain")});
+    stage.tree->setCurrentIndex(stage.cell("Width", 0));
+    connect(&stage.view, &OrvGui::OrvGenParamTreeView::currentFeatureChanged, &stage.tools,
+            [&] { stage.tools.setShowsFavoritesOnly(false); });
+    stage.tools.setShowsFavoritesOnly(true); // which makes another row current
+    QCOMPARE(stage.names(), all);
+    QVERIFY(!stage.tools.showsFavoritesOnly());
 }
 
 void FeatureTreeToolsTest::jumpsToWhatIsHidden()
@@ -324,7 +423,9 @@ void FeatureTreeToolsTest::jumpsToWhatIsHidden()
 
     QSignalSpy told(&stage.tools, &OrvFeatureTreeTools::told);
     stage.tools.showOnlyCategory(QStringLiteral("Trigger"));
+    QSignalSpy changed(&stage.tools, &OrvFeatureTreeTools::shownPartChanged);
     QVERIFY(!stage.tools.jumpTo(QStringLiteral("Expert")));
+    QCOMPARE(changed.count(), 0); // nothing is tried out
     QCOMPARE(told.takeFirst().first().toString(), QStringLiteral("'Expert' is shown at the level Expert."));
     QCOMPARE(stage.tools.onlyCategory(), QStringLiteral("Trigger"));
     stage.view.setFilterText(QStringLiteral("Delay"));
@@ -372,6 +473,15 @@ void FeatureTreeToolsTest::findsByKeys()
     QVERIFY(!bar->isVisible() && stage.tree->hasFocus());
     QTest::keyClick(stage.tree, Qt::Key_F3);
     QVERIFY(bar->isVisible());
+    QTest::keyClick(stage.tree, Qt::Key_Escape);
+    QVERIFY(!bar->isVisible() && stage.view.isVisible());
+    auto *const level = stage.part<QComboBox>("cbVisibility");
+    level->setFocus();
+    QTest::keyClick(level, Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
+    QVERIFY(text->hasFocus());
+    QVERIFY(stage.walkTo(stage.cell("Image", 0))); // which goes through the bar
+    QTest::keyClick(stage.tree, Qt::Key_Tab, Qt::ShiftModifier);
+    QCOMPARE(QApplication::focusWidget()->parentWidget(), bar);
     text->setText(QStringLiteral("image")); // a display name and a GenICam name
     QVERIFY(found("Image", "1 of 2"));
     FeatureCamera other(nodes());
@@ -382,7 +492,7 @@ void FeatureTreeToolsTest::findsByKeys()
     QTest::keyClick(text, Qt::Key_F3);
 }
 
-/** No register is read, and no key takes the time of the whole search. */
+/** No key takes the time of the whole search. */
 void FeatureTreeToolsTest::findsInLargeAndDeepTrees()
 {
     QByteArray description;
@@ -410,12 +520,13 @@ void FeatureTreeToolsTest::findsInLargeAndDeepTrees()
     const auto current = [&] {
         return view.treeView()->currentIndex().data(OrvGui::OrvGenParamTreeView::FeatureNameRole).toString();
     };
+    auto *const count = text->parentWidget()->findChild<QLabel *>();
     QTest::keyClicks(text, QStringLiteral("bottom"));
+    QVERIFY(count->text().endsWith(QChar(0x2026)));
     QTRY_COMPARE(current(), QStringLiteral("Bottom"));
     QTest::keyClick(text, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClicks(text, QStringLiteral("feature1999"));
     QTRY_COMPARE(current(), QStringLiteral("Feature1999"));
-    auto *const count = text->parentWidget()->findChild<QLabel *>();
     QTRY_COMPARE(count->text(), QStringLiteral("1 of 11"));
     QVERIFY(tools.showOnlyCategory(QStringLiteral("C500")));
     QTRY_COMPARE(count->text(), QStringLiteral("not found"));
@@ -441,9 +552,22 @@ void FeatureTreeToolsTest::followsChanges()
     stage.set("Delay", 6); // which is hidden, and reports
     QTRY_COMPARE(stage.names().join(QLatin1Char(' ')), QStringLiteral("Image Width Trigger Delay"));
     QVERIFY(changed("Delay Width"));
+    stage.map->Poll(20); // the temperature, which stays hidden
     stage.node("Switch")->InvalidateNode(); // to the same value
     QTRY_VERIFY(stage.cell("Switch").isValid());
+    QVERIFY(!stage.cell("Temperature").isValid());
     QTRY_VERIFY(!stage.cell("Switch").isValid());
+    stage.set("Delay", 0); // the first value
+    QTRY_VERIFY(!stage.cell("Delay").isValid());
+
+    stage.tools.setTracksChanges(false);
+    stage.tools.setShowsChangedOnly(true); // no value has been seen
+    stage.set("Delay", 5);
+    QTRY_VERIFY(stage.cell("Delay").isValid());
+    QTRY_VERIFY(!stage.cell("Delay").isValid());
+    stage.set("Delay", 6);
+    QVERIFY(changed("Delay"));
+    QTRY_VERIFY(stage.cell("Delay").isValid());
     FeatureCamera other(nodes());
     stage.view.setParams(other.map.get());
     QVERIFY(changed("") && !stage.tools.showsChangedOnly() && stage.tools.tracksChanges());
@@ -453,15 +577,9 @@ void FeatureTreeToolsTest::followsChanges()
 /** Painting the marks reads no value, not even one that is never cached. */
 void FeatureTreeToolsTest::marksWhatHasChanged()
 {
-    struct CountingPort : OrvGenApi::MemoryPort
-    {
-        void Read(void *buffer, int64_t address, int64_t length) override
-        {
-            ++reads;
-            MemoryPort::Read(buffer, address, length);
-        }
-        int reads = 0;
-    } port;
+    TellingPort port;
+    int reads = 0;
+    port.told = [&] { ++reads; };
     Stage stage;
     stage.map->connect(&port, "Device");
     QVERIFY(stage.show());
@@ -474,14 +592,18 @@ void FeatureTreeToolsTest::marksWhatHasChanged()
         return seen.pixelColor(0, 0);
     };
     const QColor unmarked = bar("TLParamsLocked");
-    QCOMPARE(bar("Switch").lightness() > 200, unmarked.lightness() > 200);
     stage.set("TLParamsLocked", 5);
     QTRY_VERIFY(bar("TLParamsLocked") != unmarked);
     PaintLog painted(stage.tree->viewport());
-    const int reads = port.reads;
+    const int before = reads;
     QTRY_COMPARE(bar("TLParamsLocked"), unmarked);
-    QCOMPARE(port.reads, reads);
+    QCOMPARE(reads, before);
     QVERIFY(painted.count > 1);
+    stage.set("TLParamsLocked", 6);
+    QTRY_VERIFY(bar("TLParamsLocked") != unmarked);
+    painted.clear();
+    stage.tools.setTracksChanges(true); // begins anew, without marks
+    QTRY_VERIFY(painted.count > 0);
 }
 
 void FeatureTreeToolsTest::outlivesAndIsOutlived()
@@ -522,6 +644,15 @@ void FeatureTreeToolsTest::outlivesAndIsOutlived()
             tools->jumpTo(QStringLiteral("Delay")); // which shows more
         QVERIFY(!tools && stage.cell("Delay").isValid());
     }
+
+    view = std::make_unique<OrvGui::OrvGenParamTreeView>(camera.map.get());
+    auto *const inside = new OrvFeatureTreeTools(view.get(), view->treeView()); // goes with the tree
+    inside->setTellsReasons(true);
+    inside->setMarksChanges(true);
+    inside->setFindBar(true);
+    inside->setFavorites({QStringLiteral("Gain")});
+    inside->setShowsFavoritesOnly(true);
+    view.reset();
 }
 
 ORV_TEST_MAIN(FeatureTreeToolsTest)

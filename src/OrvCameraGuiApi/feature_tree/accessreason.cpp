@@ -1,6 +1,7 @@
 #include <OrvCameraGuiApi/feature_tree/accessreason.h>
 
 #include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
+#include <OrvCameraGuiApi/feature_tree/nodelinks.h>
 
 #include <QUrl>
 
@@ -11,7 +12,7 @@ using GenApi::INode;
 
 namespace {
 
-constexpr size_t mostNodes = 200; ///< that are looked at for one feature
+constexpr int mostCulprits = 3; ///< that one line names
 
 /** The nodes that a property of \a node names, which has none, one or several. */
 std::vector<INode *> linked(INode &node, const char *property)
@@ -53,50 +54,77 @@ GenApi::EAccessMode modeOf(const INode &node)
     return mode;
 }
 
-/** Calls \a visit with \a first and the nodes that \a next finds from there, until it returns true. */
-template <typename Next, typename Visit>
-bool search(INode *first, Next next, Visit visit)
+/** Where the index of \a node leads now; nothing if it has none. */
+std::vector<INode *> indexedBy(INode &node)
 {
-    std::vector<INode *> found{first};
-    for (size_t i = 0; i < found.size(); ++i) {
-        if (visit(*found[i]))
-            return true;
-        for (INode *const node : next(*found[i])) {
-            if (found.size() < mostNodes && std::find(found.begin(), found.end(), node) == found.end())
-                found.push_back(node);
-        }
-    }
-    return false;
+    const std::vector<INode *> index = linked(node, "pIndex");
+    if (index.empty())
+        return {};
+    QString now;
+    failureOf([&] { now = QString::number(GenApi::CIntegerPtr(index.front())->GetValue()); });
+    GenICam::gcstring names;
+    GenICam::gcstring indexes;
+    failureOf([&] { node.GetProperty("pValueIndexed", names, indexes); });
+    const QStringList texts = fromGenICam(indexes).split(QLatin1Char('\t'));
+    const std::vector<INode *> targets = linked(node, "pValueIndexed");
+    const int at = texts.indexOf(now);
+    if (at >= 0 && size_t(at) < targets.size())
+        return {targets[size_t(at)]};
+    return linked(node, "pValueDefault");
 }
 
 std::vector<INode *> targetsOf(INode &node)
 {
-    std::vector<INode *> targets;
-    for (const char *const property : {"pValue", "pValueIndexed", "pValueDefault", "pValueCopy"}) {
+    std::vector<INode *> targets = indexedBy(node);
+    for (const char *const property : {"pValue", "pValueCopy"}) {
         const std::vector<INode *> nodes = linked(node, property);
         targets.insert(targets.end(), nodes.begin(), nodes.end());
     }
     return targets;
 }
 
-std::vector<INode *> readBy(const INode &node)
+/** What a condition depends on in the end: a feature, or what reads nothing else but the camera. */
+struct Source
 {
-    GenApi::NodeList_t nodes;
-    failureOf([&] { node.GetChildren(nodes, GenApi::ctReadingChildren); });
-    std::vector<INode *> read;
-    for (INode *const child : nodes)
-        read.push_back(child);
-    return read;
+    INode *node;
+    QString name;
+    bool isFeature; ///< that people can go to
+};
+
+/** The standard feature that cameras lock others with during the acquisition; some do not list it. */
+bool isLockOfAcquisition(const Source &source)
+{
+    return source.name == QLatin1String("TLParamsLocked");
 }
 
-/** The standard feature that cameras lock others with during the acquisition, possibly by way of formulas. */
-bool isLockOfAcquisition(INode *condition)
+/** Like NodeLinks::readBy(), without the port, which all registers have. */
+std::vector<INode *> valuesReadBy(INode &node)
 {
-    return search(condition, readBy, [](INode &node) {
-        GenICam::gcstring name;
-        failureOf([&] { name = node.GetName(); });
-        return name == "TLParamsLocked" && is(&node, true);
-    });
+    std::vector<INode *> nodes = NodeLinks::readBy(node);
+    const auto isPort = [](const INode *read) {
+        bool is = false;
+        failureOf([&] { is = read->GetPrincipalInterfaceType() == GenApi::intfIPort; });
+        return is;
+    };
+    nodes.erase(std::remove_if(nodes.begin(), nodes.end(), isPort), nodes.end());
+    return nodes;
+}
+
+std::vector<Source> sourcesOf(INode *condition)
+{
+    std::vector<Source> sources;
+    const auto next = [&](INode &node) {
+        Source source{&node, QString(), false};
+        failureOf([&] { source.name = fromGenICam(node.GetName()); });
+        failureOf([&] { source.isFeature = node.IsFeature(); });
+        const bool isSource = source.isFeature || isLockOfAcquisition(source);
+        std::vector<INode *> read = isSource ? std::vector<INode *>() : valuesReadBy(node);
+        if (read.empty())
+            sources.push_back(source);
+        return read;
+    };
+    NodeLinks::search(condition, next, [](INode &) { return false; });
+    return sources;
 }
 
 } // namespace
@@ -115,7 +143,7 @@ void AccessReason::find(INode &feature)
 {
     const GenApi::EAccessMode mode = feature.GetAccessMode();
     m_kind = mode == GenApi::NI ? Kind::NotImplemented : mode == GenApi::NA ? Kind::NotAvailable : Kind::ReadOnly;
-    search(&feature, targetsOf, [this](INode &node) {
+    NodeLinks::search(&feature, targetsOf, [this](INode &node) {
         const GenApi::EAccessMode its = modeOf(node);
         return !isWritable(its) && findCondition(node, its);
     });
@@ -142,13 +170,29 @@ bool AccessReason::findCondition(INode &node, GenApi::EAccessMode mode)
         for (INode *const link : linked(node, condition.property)) {
             if (!is(link, condition.forbids))
                 continue;
-            m_kind =
-                condition.kind == Kind::Locked && isLockOfAcquisition(link) ? Kind::AcquisitionRuns : condition.kind;
-            failureOf([&] { m_culprit = fromGenICam(link->GetName()); });
+            m_kind = condition.kind;
+            blame(*link);
             return true;
         }
     }
     return false;
+}
+
+/** Names the features that \a condition depends on; the condition itself if it depends on none. */
+void AccessReason::blame(INode &condition)
+{
+    const std::vector<Source> sources = sourcesOf(&condition);
+    if (m_kind == Kind::Locked && sources.size() == 1 && isLockOfAcquisition(sources.front())
+        && is(sources.front().node, true)) {
+        m_kind = Kind::AcquisitionRuns;
+    }
+    for (const Source &source : sources) {
+        if (source.isFeature && m_culprits.size() < mostCulprits)
+            m_culprits += source.name;
+    }
+    m_areLinks = !m_culprits.isEmpty();
+    if (!m_areLinks)
+        failureOf([&] { m_culprits += fromGenICam(condition.GetName()); });
 }
 
 QString AccessReason::sentence(const QString &culprit) const
@@ -172,14 +216,18 @@ QString AccessReason::sentence(const QString &culprit) const
 
 QString AccessReason::text() const
 {
-    return sentence(m_culprit);
+    return sentence(m_culprits.join(QLatin1String(", ")));
 }
 
 QString AccessReason::html() const
 {
     if (m_kind == Kind::None)
         return {};
-    const QString link = QStringLiteral("<a href=\"feature:%1\">%2</a>")
-                             .arg(QString::fromLatin1(QUrl::toPercentEncoding(m_culprit)), m_culprit.toHtmlEscaped());
-    return tr("<i>Not writable:</i> %1").arg(sentence(m_culprit.isEmpty() ? QString() : link));
+    QStringList names;
+    for (const QString &name : m_culprits) {
+        const QString shown = name.toHtmlEscaped();
+        const QString link = QStringLiteral("<a href=\"feature:%1\">%2</a>");
+        names += m_areLinks ? link.arg(QString::fromLatin1(QUrl::toPercentEncoding(name)), shown) : shown;
+    }
+    return tr("<i>Not writable:</i> %1").arg(sentence(names.join(QLatin1String(", "))));
 }

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QString>
+#include <QStringList>
 
 /**
  * Why a feature cannot be written, out of the links between the nodes: its own conditions, or those of a node that its
@@ -20,16 +21,18 @@ public:
     /** Plain text; empty for a feature that can be written, and where writing is nothing that people do. */
     QString text() const;
 
-    /** The same as a line of a help text, with names as links to "feature:NAME". */
+    /** The same as a line of a help text, with the names of features as links to "feature:NAME". */
     QString html() const;
 
 private:
     enum class Kind { None, NotImplemented, NotAvailable, Locked, AcquisitionRuns, ReadOnly };
 
     void find(GenApi::INode &feature);
+    void blame(GenApi::INode &condition);
     bool findCondition(GenApi::INode &node, GenApi::EAccessMode mode);
     QString sentence(const QString &culprit) const;
 
     Kind m_kind = Kind::None;
-    QString m_culprit; ///< the name of the node that says so, if known
+    QStringList m_culprits; ///< the names of those that decide, as far as they are known
+    bool m_areLinks = false; ///< whether they are features
 };

@@ -30,8 +30,7 @@ void ChangeMarks::update() const
 
 void ChangeMarks::paint(QPainter &painter, const QRect &row, const QModelIndex &index) const
 {
-    auto *const feature = index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
-    const qreal strength = m_watch.strengthOf(feature);
+    const qreal strength = m_watch.strengthOf(featureAt(index));
     if (strength <= 0)
         return;
     const bool isSelected = m_tree->selectionModel()->isSelected(index);

@@ -13,11 +13,6 @@ namespace {
 
 constexpr int mostJumps = 40; ///< that fit on a screen
 
-GenApi::IValue *featureAt(const QModelIndex &row)
-{
-    return row.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
-}
-
 /** What \a list gives, by name. */
 template <typename List>
 QStringList namesOf(GenApi::IValue *feature, List list)
@@ -48,18 +43,50 @@ void copy(const QString &text)
 
 FeatureMenu::FeatureMenu(OrvGui::OrvFeatureTreeTools &tools, FeatureTree &tree, const QModelIndex &row)
     : QMenu(&tree)
-    , m_tools(tools)
+    , m_tools(&tools)
     , m_tree(&tree)
     , m_row(row.siblingAtColumn(GenParamTreeModel::NameColumn))
     , m_name(row.data(GenParamTreeModel::FeatureNameRole).toString())
 {
     setAttribute(Qt::WA_DeleteOnClose);
+    askFeature();
+    if (!m_tools)
+        return;
     if (m_row.isValid()) {
         addTexts();
         addActions();
-        addLinks();
+        addJumps(tr("Go to &Selector"), m_selectors);
+        addJumps(tr("Go to Selecte&d Feature"), m_selected);
     }
     addPart();
+}
+
+/** Before anything is added, as a node that is asked may change or delete anything else. */
+void FeatureMenu::askFeature()
+{
+    GenApi::IValue *const feature = featureAt(m_row);
+    if (!feature)
+        return;
+    failureOf([&] { m_type = nodeOf(feature)->GetPrincipalInterfaceType(); });
+    m_selectors = namesOf(feature, [](GenApi::ISelector &selector, GenApi::FeatureList_t &features) {
+        selector.GetSelectingFeatures(features);
+    });
+    m_selected = namesOf(feature, [](GenApi::ISelector &selector, GenApi::FeatureList_t &features) {
+        selector.GetSelectedFeatures(features);
+    });
+    m_canCopy = canReadValue();
+    if (m_type == GenApi::intfICommand && m_tree && !m_tree->isReadOnly())
+        m_canExecute = cell(GenParamTreeModel::ValueColumn).flags() & Qt::ItemIsEditable;
+}
+
+/** Otherwise the cell has a text that is no value. */
+bool FeatureMenu::canReadValue() const
+{
+    if (m_type == GenApi::intfICategory || m_type == GenApi::intfICommand)
+        return false;
+    bool can = false;
+    failureOf([&] { can = isReadable(nodeOf(featureAt(m_row))->GetAccessMode()); });
+    return can && cell(GenParamTreeModel::ValueColumn).data(Qt::EditRole).isValid();
 }
 
 /** Each action goes when the tools go; nothing follows an act, which may destroy all this. */
@@ -67,7 +94,7 @@ template <typename Act>
 QAction *FeatureMenu::add(QMenu &menu, const QString &text, Act act)
 {
     QAction *const action = menu.addAction(text);
-    connect(action, &QAction::triggered, &m_tools, act);
+    connect(action, &QAction::triggered, m_tools.data(), act);
     return action;
 }
 
@@ -83,9 +110,11 @@ QString FeatureMenu::textAt(int column) const
 
 void FeatureMenu::addTexts()
 {
-    const bool isCategory = ::isCategory(featureAt(m_row));
     add(*this, tr("Copy &GenICam Name"), [name = m_name] { copy(name); });
-    add(*this, tr("Copy &Value"), [this] { copy(textAt(GenParamTreeModel::ValueColumn)); })->setDisabled(isCategory);
+    add(*this, tr("Copy &Value"), [this] {
+        if (canReadValue())
+            copy(textAt(GenParamTreeModel::ValueColumn));
+    })->setEnabled(m_canCopy);
     add(*this, tr("Copy &Row"), [this] {
         const QString name = textAt(GenParamTreeModel::NameColumn);
         copy(QStringLiteral("%1\t%2").arg(name, textAt(GenParamTreeModel::ValueColumn)));
@@ -95,34 +124,19 @@ void FeatureMenu::addTexts()
 void FeatureMenu::addActions()
 {
     addSeparator();
-    add(*this, tr("Read &Again"), [this] { m_tools.readAgain(m_name); });
-    GenApi::EInterfaceType type = GenApi::intfIBase;
-    failureOf([&] { type = nodeOf(featureAt(m_row))->GetPrincipalInterfaceType(); });
-    if (type == GenApi::intfICommand) {
-        const bool can = !m_tree->isReadOnly() && (cell(GenParamTreeModel::ValueColumn).flags() & Qt::ItemIsEditable);
+    add(*this, tr("Read &Again"), [this] { m_tools->readAgain(m_name); });
+    if (m_type == GenApi::intfICommand) {
         add(*this, tr("&Execute"), [this] {
             const QModelIndex value = cell(GenParamTreeModel::ValueColumn);
             if (m_tree && !m_tree->isReadOnly() && value.isValid())
                 m_tree->model()->setData(value, true);
-        })->setEnabled(can);
+        })->setEnabled(m_canExecute);
     }
-    if (type != GenApi::intfICategory) {
-        QAction *const favorite = add(*this, tr("&Favorite"), [this](bool on) { m_tools.setFavorite(m_name, on); });
+    if (m_type != GenApi::intfICategory) {
+        QAction *const favorite = add(*this, tr("&Favorite"), [this](bool on) { m_tools->setFavorite(m_name, on); });
         favorite->setCheckable(true);
-        favorite->setChecked(m_tools.isFavorite(m_name));
+        favorite->setChecked(m_tools->isFavorite(m_name));
     }
-}
-
-void FeatureMenu::addLinks()
-{
-    GenApi::IValue *const feature = featureAt(m_row);
-    addJumps(tr("Go to &Selector"), namesOf(feature, [](GenApi::ISelector &selector, GenApi::FeatureList_t &features) {
-                 selector.GetSelectingFeatures(features);
-             }));
-    addJumps(tr("Go to Selecte&d Feature"),
-             namesOf(feature, [](GenApi::ISelector &selector, GenApi::FeatureList_t &features) {
-                 selector.GetSelectedFeatures(features);
-             }));
 }
 
 void FeatureMenu::addJumps(const QString &title, const QStringList &names)
@@ -131,23 +145,39 @@ void FeatureMenu::addJumps(const QString &title, const QStringList &names)
         return;
     QMenu *const jumps = addMenu(title);
     for (const QString &name : names.mid(0, mostJumps))
-        add(*jumps, forMenu(name), [this, name] { m_tools.jumpTo(name); });
+        add(*jumps, forMenu(name), [this, name] { m_tools->jumpTo(name); });
+    if (names.size() > mostJumps)
+        jumps->addAction(tr("... and %1 more").arg(names.size() - mostJumps))->setEnabled(false);
 }
 
 void FeatureMenu::addPart()
 {
     if (!isEmpty())
         addSeparator();
-    QModelIndex category = m_row;
-    if (category.isValid() && !::isCategory(featureAt(category)))
-        category = category.parent();
+    const QModelIndex category = m_type == GenApi::intfICategory ? QModelIndex(m_row) : m_row.parent();
     if (category.isValid()) {
         const QString name = category.data(GenParamTreeModel::FeatureNameRole).toString();
         add(*this, tr("Show &Only This Category"), [this, name] {
-            m_tools.showOnlyCategory(name);
-        })->setEnabled(name != m_tools.onlyCategory());
+            m_tools->showOnlyCategory(name);
+        })->setEnabled(name != m_tools->onlyCategory());
     }
     add(*this, tr("Show A&ll Categories"), [this] {
-        m_tools.showOnlyCategory(QString());
-    })->setEnabled(!m_tools.onlyCategory().isEmpty());
+        m_tools->showOnlyCategory(QString());
+    })->setEnabled(!m_tools->onlyCategory().isEmpty());
+    addChoices();
+}
+
+/** What would show nothing can only be ended. */
+void FeatureMenu::addChoices()
+{
+    const auto addChoice = [this](const QString &text, bool isOn, bool can, auto choose) {
+        QAction *const choice = add(*this, text, choose);
+        choice->setCheckable(true);
+        choice->setChecked(isOn);
+        choice->setEnabled(isOn || can);
+    };
+    addChoice(tr("Favor&ites Only"), m_tools->showsFavoritesOnly(), !m_tools->favorites().isEmpty(),
+              [this](bool on) { m_tools->setShowsFavoritesOnly(on); });
+    addChoice(tr("&Changed Only"), m_tools->showsChangedOnly(), m_tools->tracksChanges(),
+              [this](bool on) { m_tools->setShowsChangedOnly(on); });
 }

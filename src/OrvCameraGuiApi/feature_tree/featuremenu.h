@@ -1,8 +1,11 @@
 #pragma once
 
+#include <GenApi/GenApi.h>
+
 #include <QMenu>
 #include <QPersistentModelIndex>
 #include <QPointer>
+#include <QStringList>
 
 class FeatureTree;
 
@@ -19,20 +22,30 @@ public:
     /** \a tree is the parent; \a row may be invalid. */
     FeatureMenu(OrvGui::OrvFeatureTreeTools &tools, FeatureTree &tree, const QModelIndex &row);
 
+    Q_DISABLE_COPY(FeatureMenu)
+
 private:
     template <typename Act>
     QAction *add(QMenu &menu, const QString &text, Act act);
+    void askFeature();
     void addTexts();
     void addActions();
     void addLinks();
     void addJumps(const QString &title, const QStringList &names);
     void addPart();
+    void addChoices();
 
     QModelIndex cell(int column) const;
     QString textAt(int column) const;
+    bool canReadValue() const;
 
-    OrvGui::OrvFeatureTreeTools &m_tools;
+    const QPointer<OrvGui::OrvFeatureTreeTools> m_tools; ///< a node that is asked may delete them
     const QPointer<FeatureTree> m_tree;
     const QPersistentModelIndex m_row;
     const QString m_name; ///< of the feature
+    GenApi::EInterfaceType m_type = GenApi::intfIBase;
+    bool m_canCopy = false; ///< the value
+    bool m_canExecute = false;
+    QStringList m_selectors;
+    QStringList m_selected;
 };

@@ -77,10 +77,10 @@ void FeatureSearch::restart()
     Q_EMIT matchesChanged();
 }
 
-QModelIndex FeatureSearch::nextCandidate()
+QModelIndex FeatureSearch::nextCandidate(RowWalk &walk)
 {
     if (!m_isNarrowed)
-        return m_walk.next();
+        return walk.next();
     return m_nextCandidate < m_candidates.size() ? m_candidates[m_nextCandidate++] : QModelIndex();
 }
 
@@ -93,8 +93,11 @@ void FeatureSearch::work()
     QElapsedTimer turn;
     turn.start();
     const size_t known = m_matches.size();
+    RowWalk walk = std::exchange(m_walk, RowWalk());
     while (!turn.hasExpired(longestTurn)) {
-        const QModelIndex row = nextCandidate();
+        const QModelIndex row = nextCandidate(walk);
+        if (!alive || m_revision != revision)
+            return;
         if (!row.isValid()) {
             m_isComplete = true;
             m_timer.stop();
@@ -107,6 +110,7 @@ void FeatureSearch::work()
             || m_matcher.indexIn(row.data(GenParamTreeModel::FeatureNameRole).toString()) >= 0)
             m_matches.push_back(row);
     }
+    m_walk = std::move(walk);
     if (m_isComplete || m_matches.size() != known)
         Q_EMIT matchesChanged();
 }

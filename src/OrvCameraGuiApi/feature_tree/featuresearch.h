@@ -40,7 +40,7 @@ Q_SIGNALS:
 private:
     void restart();
     void work();
-    QModelIndex nextCandidate();
+    QModelIndex nextCandidate(RowWalk &walk);
 
     QPointer<QAbstractItemModel> m_model;
     QString m_text;

@@ -201,7 +201,7 @@ bool FeatureTree::handleSpace(const QKeyEvent &event)
     const QPersistentModelIndex value(editableValue());
     if (!value.isValid() || value != currentIndex())
         return false;
-    auto *const feature = value.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
+    auto *const feature = featureAt(value);
     const QVariant content = FeatureHandler::of(feature).valueAtSpace(value.data(Qt::EditRole));
     if (!content.isValid())
         return false;
@@ -232,17 +232,23 @@ void FeatureTree::moveCurrentTo(const QModelIndex &index)
 }
 
 /** From the outermost category inwards, as the view can only open what it shows; slots may change rows each time. */
+void FeatureTree::openCategory(const QModelIndex &category)
+{
+    const OpenCalls::Call call;
+    std::vector<QPersistentModelIndex> categories;
+    for (QModelIndex above = category; above.isValid(); above = above.parent())
+        categories.emplace_back(above);
+    for (auto closed = categories.rbegin(); closed != categories.rend(); ++closed) {
+        if (closed->isValid() && closed->model() == model())
+            expand(*closed);
+    }
+}
+
 bool FeatureTree::jumpTo(const QModelIndex &index)
 {
     const OpenCalls::Call call;
     const QPersistentModelIndex target(index);
-    std::vector<QPersistentModelIndex> above;
-    for (QModelIndex category = index.parent(); category.isValid(); category = category.parent())
-        above.emplace_back(category);
-    for (auto category = above.rbegin(); category != above.rend(); ++category) {
-        if (category->isValid() && category->model() == model())
-            expand(*category);
-    }
+    openCategory(index.parent());
     if (!target.isValid() || target.model() != model())
         return false;
     moveCurrentTo(target);

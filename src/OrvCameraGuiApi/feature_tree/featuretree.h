@@ -74,6 +74,9 @@ public:
 
     using QTreeView::edit;
 
+    /** Opens \a category and those that it stands in; invalid for none. */
+    void openCategory(const QModelIndex &category);
+
     /** Opens the categories that \a index stands in, and moves there as moveCurrentTo(). False if the row has gone. */
     bool jumpTo(const QModelIndex &index);
 
@@ -87,6 +90,9 @@ Q_SIGNALS:
 
     /** What the model says about the current row has changed beside its value. */
     void helpOutdated();
+
+    /** The view that the tree belongs to is about to be destroyed; both are still whole. */
+    void viewIsGoing();
 
 protected:
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;

@@ -175,6 +175,20 @@ void FindBar::showCount()
     m_count->setText(m_search->isComplete() ? text : text + QChar(0x2026));
 }
 
+void FindBar::standBefore(QWidget &next)
+{
+    QWidget *former = next.previousInFocusChain();
+    while (former != &next && !(former->focusPolicy() & Qt::TabFocus))
+        former = former->previousInFocusChain();
+    const auto children = findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget *const child : children) {
+        if (child->focusPolicy() & Qt::TabFocus) {
+            QWidget::setTabOrder(former, child);
+            former = child;
+        }
+    }
+}
+
 /** Of the field and the buttons, which leave these keys alone. */
 void FindBar::keyPressEvent(QKeyEvent *event)
 {

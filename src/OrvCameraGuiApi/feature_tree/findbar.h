@@ -30,6 +30,9 @@ public:
     /** Goes to the match behind the current row, or before it; the last is followed by the first. Shows the bar. */
     void step(bool forward);
 
+    /** Lets Tab reach the bar before \a next. */
+    void standBefore(QWidget &next);
+
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;

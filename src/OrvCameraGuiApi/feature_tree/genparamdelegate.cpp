@@ -40,11 +40,6 @@ bool isSame(const QVariant &a, const QVariant &b)
     return !(first < second || first > second) && std::isnan(first) == std::isnan(second);
 }
 
-GenApi::IValue *featureOf(const QModelIndex &index)
-{
-    return index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
-}
-
 /** For assistive tools; the line edit of a spin box is called like that. */
 void nameAfterFeature(QWidget *editor, const QModelIndex &index)
 {
@@ -190,7 +185,7 @@ bool showsPlaceholder(QWidget &editor, const QModelIndex &index, const QVariant 
     QLineEdit *const field = handler.textField(editor);
     if (!field)
         return false;
-    const bool isEditable = hasValue || (field == &editor && isText && canRead(featureOf(index)));
+    const bool isEditable = hasValue || (field == &editor && isText && canRead(featureAt(index)));
     field->setPlaceholderText(isEditable ? QString() : isText ? value.toString() : index.data().toString());
     if (!isEditable) {
         const QSignalBlocker quiet(field); // a box would take it for typed
@@ -270,11 +265,11 @@ QWidget *GenParamDelegate::createEditor(QWidget *parent, const QStyleOptionViewI
     if (!control.editor) {
         QWidget *const editor = ReadableDelegate::createEditor(parent, option, index);
         nameAfterFeature(editor, index);
-        refineEditor(editor, featureOf(index));
+        refineEditor(editor, featureAt(index));
         captureMouseForEditor(editor);
         return editor;
     }
-    refineEditor(control.editor, featureOf(index));
+    refineEditor(control.editor, featureAt(index));
     control.editor->setParent(parent);
     nameAfterFeature(control.editor, index);
     // Else one without a cursor of its own takes over the viewport's, which may be that of a column's edge.
@@ -360,7 +355,7 @@ bool GenParamDelegate::fitToFeature(QWidget *editor, const QModelIndex &index) c
     if (!fresh)
         return false;
     const EditorHandler &handler = EditorHandler::of(*fresh);
-    refineEditor(fresh.get(), featureOf(index));
+    refineEditor(fresh.get(), featureAt(index));
     handler.includeValue(*fresh, index.data(Qt::EditRole));
     const QSignalBlocker quiet(editor);
     const EditorFit fit = handler.handles(*editor) ? handler.fit(*editor, *fresh) : EditorFit::OtherClass;

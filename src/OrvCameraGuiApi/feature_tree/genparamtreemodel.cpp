@@ -140,6 +140,7 @@ public:
     QString nameToolTip(const GenParamFeature &feature) const;
     QVariant valueData(const QModelIndex &index, int role);
     QVariant readValue(const GenParamFeature &feature, int role) const;
+    void observe(const GenParamFeature &feature, int role, const QString &text) const;
     QString whatsThis(const GenParamFeature &feature) const;
     QVariant valueForeground(const GenParamFeature &feature, bool isRead) const;
     void recordError(const QModelIndex &index, const QString &message, int role);
@@ -424,6 +425,7 @@ QVariant GenParamTreeModelPrivate::valueData(const QModelIndex &index, int role)
     const GenParamFeature feature = featureOf(index);
     QVariant result;
     if (const auto failure = failureOf([&] { result = readValue(feature, role); })) {
+        observe(feature, role, QString());
         recordError(index, *failure, role);
         return role == Qt::DisplayRole ? GenParamTreeModel::tr("ERROR") : QVariant();
     }
@@ -449,6 +451,8 @@ QVariant GenParamTreeModelPrivate::readValue(const GenParamFeature &feature, int
         return feature.value() ? fromGenICam(feature.node()->GetToolTip()) : QString();
     }
     const GenApi::EAccessMode mode = feature.accessMode();
+    if (handler.isRead() && !isReadable(mode))
+        observe(feature, role, QString());
     if (mode < GenApi::WO)
         return GenParamTreeModel::tr("<Value not available>");
     if (handler.isRead() && !isReadable(mode))
@@ -456,9 +460,16 @@ QVariant GenParamTreeModelPrivate::readValue(const GenParamFeature &feature, int
     if (role != Qt::DisplayRole)
         return handler.editValue(feature);
     const QVariant text = handler.text(feature);
-    if (readObserver && !isReleased && handler.isRead())
-        readObserver(feature.value(), text.toString());
+    const QString shown = text.toString();
+    if (handler.isRead())
+        observe(feature, role, shown.isNull() ? QStringLiteral("") : shown);
     return text;
+}
+
+void GenParamTreeModelPrivate::observe(const GenParamFeature &feature, int role, const QString &text) const
+{
+    if (readObserver && !isReleased && role == Qt::DisplayRole)
+        readObserver(feature.value(), text);
 }
 
 QString GenParamTreeModelPrivate::whatsThis(const GenParamFeature &feature) const
@@ -483,6 +494,13 @@ void GenParamTreeModelPrivate::recordError(const QModelIndex &index, const QStri
     const QString name = featureOf(index).name();
     if (q->m_errors.SetError(name, message, role))
         Q_EMIT q->errorAppeared(index, name, message, role);
+}
+
+GenApi::INode *nodeAt(const QModelIndex &index)
+{
+    GenApi::INode *node = nullptr;
+    failureOf([&] { node = index.isValid() ? nodeOf(featureAt(index)) : nullptr; });
+    return node;
 }
 
 GenParamTreeModel::GenParamTreeModel(GenApi::INodeMap *nodeMap, QObject *parent)

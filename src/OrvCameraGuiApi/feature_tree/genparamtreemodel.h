@@ -15,6 +15,12 @@ class GenParamTreeModelPrivate;
 
 Q_DECLARE_METATYPE(GenApi::IValue *)
 
+/** The feature that a row of the feature tree shows; null for an invalid index. Asks no node. */
+inline GenApi::IValue *featureAt(const QModelIndex &index);
+
+/** Its node; null when there is none. */
+GenApi::INode *nodeAt(const QModelIndex &index);
+
 /**
  * The features of a node map: names in column 0, values in column 1; a category has its features as child rows.
  *
@@ -84,7 +90,10 @@ public:
     QModelIndex indexOf(const QString &name) const;
     /** @} */
 
-    /** \a observer is told each text of a value that is read to be shown. It does not call back; may be empty. */
+    /**
+     * \a observer is told each text of a value that is read to be shown, never null, and a null one where there is none
+     * to be read. It does not call back; may be empty.
+     */
     void setReadObserver(std::function<void(GenApi::IValue *feature, const QString &text)> observer);
 
     /** Whether the What's This texts tell why a feature cannot be written, with links to "feature:NAME". Off at first.
@@ -113,3 +122,8 @@ private:
     GenParamErrorController m_errors;
     const QScopedPointer<GenParamTreeModelPrivate> d;
 };
+
+inline GenApi::IValue *featureAt(const QModelIndex &index)
+{
+    return index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
+}

@@ -316,14 +316,18 @@ bool GenParamTreeVisibilityFilterProxyModel::filterAcceptsRow(int sourceRow, con
     if (!d->source)
         return false;
     const QModelIndex index = d->source->index(sourceRow, GenParamTreeModel::NameColumn, sourceParent);
-    const auto nodeAt = [this](const QModelIndex &at) {
-        GenApi::INode *node = nullptr;
-        failureOf([&] {
-            node = nodeOf(d->source->data(at, GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>());
-        });
-        return node;
-    };
-    return d->rule.accepts(nodeAt(index), sourceParent.isValid() ? nodeAt(sourceParent) : nullptr);
+    return d->rule.accepts(nodeAt(index), nodeAt(sourceParent));
+}
+
+bool GenParamTreeVisibilityFilterProxyModel::acceptsWithoutChoice(const QModelIndex &sourceIndex) const
+{
+    FilterRule rule = d->rule;
+    rule.choice = {};
+    for (QModelIndex row = sourceIndex; row.isValid(); row = row.parent()) {
+        if (!rule.accepts(nodeAt(row), nullptr))
+            return false;
+    }
+    return sourceIndex.isValid();
 }
 
 QModelIndex GenParamTreeVisibilityFilterProxyModel::survivorOf(const QModelIndex &index) const
@@ -475,11 +479,6 @@ void GenParamTreeVisibilityFilterProxyModel::setChoice(const FeatureChoice &choi
 {
     d->rule.choice = choice;
     d->refilter();
-}
-
-FeatureChoice GenParamTreeVisibilityFilterProxyModel::choice() const
-{
-    return d->rule.choice;
 }
 
 void GenParamTreeVisibilityFilterProxyModel::invalidate()

@@ -46,8 +46,8 @@ public:
     /** The first row of \a parent from \a row on that is a category, or -1. */
     int nextCategory(const QModelIndex &parent, int row) const;
 
-    /** See setChoice(). */
-    FeatureChoice choice() const;
+    /** Whether the filter lets the row of the source and the categories above it pass but for the choice. */
+    bool acceptsWithoutChoice(const QModelIndex &sourceIndex) const;
 
     QModelIndex mapToSource(const QModelIndex &proxyIndex) const override;
     QModelIndex mapFromSource(const QModelIndex &sourceIndex) const override;

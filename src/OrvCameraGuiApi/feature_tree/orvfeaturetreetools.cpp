@@ -1,13 +1,16 @@
 #include <OrvCameraGuiApi/feature_tree/orvfeaturetreetools.h>
 
 #include <OrvCameraGuiApi/feature_tree/accessreason.h>
+#include <OrvCameraGuiApi/feature_tree/categorywalk.h>
 #include <OrvCameraGuiApi/feature_tree/changemarks.h>
 #include <OrvCameraGuiApi/feature_tree/featuremenu.h>
 #include <OrvCameraGuiApi/feature_tree/featuretree.h>
+#include <OrvCameraGuiApi/feature_tree/filterrule.h>
 #include <OrvCameraGuiApi/feature_tree/findbar.h>
 #include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreevisibilityfilterproxymodel.h>
+#include <OrvCameraGuiApi/feature_tree/nodelinks.h>
 #include <OrvCameraGuiApi/feature_tree/opencalls.h>
 #include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
 #include <OrvCameraGuiApi/feature_tree/rereading.h>
@@ -25,21 +28,56 @@
 
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace {
 
 const QLatin1String linkScheme("feature");
 
-GenApi::IValue *featureAt(const QModelIndex &index)
+/** Whether \a feature reports at each poll: as a rule the register that it reads has the polling time. */
+bool isPolled(GenApi::IValue *feature)
 {
-    return index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
+    bool is = true;
+    failureOf([&] {
+        is = NodeLinks::search(nodeOf(feature), NodeLinks::readBy,
+                               [](GenApi::INode &node) { return node.GetPollingTime() > 0; });
+    });
+    return is;
 }
 
-GenApi::INode *nodeAt(const QModelIndex &index)
+/** \a visit may change no rows. */
+template <typename Visit>
+void forEachClosedCategory(const FeatureTree &tree, Visit visit)
 {
-    GenApi::INode *node = nullptr;
-    failureOf([&] { node = nodeOf(featureAt(index)); });
-    return node;
+    forEachCategory(*tree.model(), QModelIndex(), 0, tree.model()->rowCount() - 1,
+                    [&](const QModelIndex &category, size_t) {
+                        if (!tree.isExpanded(category))
+                            visit(category);
+                    });
+}
+
+QSet<QPersistentModelIndex> closedCategories(const FeatureTree &tree)
+{
+    QSet<QPersistentModelIndex> closed;
+    forEachClosedCategory(tree, [&](const QModelIndex &category) { closed.insert(category); });
+    return closed;
+}
+
+void openAllBut(const QSet<QPersistentModelIndex> &closed, FeatureTree &tree)
+{
+    if (closed.isEmpty()) {
+        tree.expandAll();
+        return;
+    }
+    std::vector<QPersistentModelIndex> toOpen;
+    forEachClosedCategory(tree, [&](const QModelIndex &category) {
+        if (!closed.contains(category))
+            toOpen.emplace_back(category);
+    });
+    for (const QPersistentModelIndex &category : toOpen) {
+        if (category.isValid() && category.model() == tree.model())
+            tree.expand(category);
+    }
 }
 
 } // namespace
@@ -69,10 +107,12 @@ public:
 
     void modelReplaced();
     void followModel();
+    void leaveView();
     void setPart(const Part &wanted);
     void filterPart();
-    FeatureChoice choice() const;
-    QModelIndex showMoreFor(const QString &name);
+    FeatureChoice choiceOf(const Part &chosenPart) const;
+    bool contains(const Part &some, const QModelIndex &source) const;
+    Part enlargedFor(const QModelIndex &source) const;
     QString whyHidden(const QString &name) const;
 
     bool filterKey(const QKeyEvent &event);
@@ -85,17 +125,20 @@ public:
     bool openLink(const QUrl &link);
     bool noteReason();
     void updateReason();
+    void stopTelling();
     void reasonMayHaveChanged(const QModelIndex &cell);
     void valueMayHaveChanged(const QModelIndex &cell);
+    void filterChangedSoon();
     void compared(GenApi::IValue *feature);
 
     OrvFeatureTreeTools *const q;
-    const QPointer<OrvGenParamTreeView> view;
-    const QPointer<FeatureTree> tree;
-    const QPointer<QTextBrowser> help;
+    QPointer<OrvGenParamTreeView> view; ///< null, like the next two, as soon as the view begins to go
+    QPointer<FeatureTree> tree;
+    QPointer<QTextBrowser> help;
     Rereading rereading;
     ValueWatch watch;
     QSet<GenApi::IValue *> candidates; ///< that may have changed: only changed ones are shown, and these until read
+    QHash<GenApi::IValue *, bool> polled; ///< whether a feature, or what it reads, has a polling time
     QTimer filterSoon;
     std::optional<ChangeMarks> marks; ///< none while they are switched off, and without a view
     bool hasContextMenu = false;
@@ -104,6 +147,7 @@ public:
     QString shownReason; ///< that the help text has
     QStringList favorites;
     Part part;
+    quint64 partRevision = 0; ///< grows whenever the part is filtered
     QPointer<FeatureMenu> menu;
     QPointer<FindBar> findBar; ///< null while it is switched off
 };
@@ -121,7 +165,10 @@ OrvFeatureTreeToolsPrivate::OrvFeatureTreeToolsPrivate(OrvFeatureTreeTools *tool
     filterSoon.setInterval(pause);
     QObject::connect(&filterSoon, &QTimer::timeout, q, [this] { filterPart(); });
     QObject::connect(&watch, &ValueWatch::compared, q, [this](GenApi::IValue *feature) { compared(feature); });
-    QObject::connect(&watch, &ValueWatch::changedFeaturesChanged, q, &OrvFeatureTreeTools::changedFeaturesChanged);
+    QObject::connect(&watch, &ValueWatch::changedFeaturesChanged, q, [this] {
+        filterChangedSoon();
+        Q_EMIT q->changedFeaturesChanged();
+    });
     QObject::connect(&watch, &ValueWatch::marksFaded, q, [this] {
         if (marks)
             marks->update();
@@ -165,6 +212,7 @@ void OrvFeatureTreeToolsPrivate::modelReplaced()
     part.category.clear();
     part.changedOnly = false;
     candidates.clear();
+    polled.clear();
     watch.setModel(model());
     followModel();
     if (endsPart) { // later, as slots may do anything
@@ -187,6 +235,26 @@ void OrvFeatureTreeToolsPrivate::followModel()
         filterPart();
 }
 
+/** Undoes what the view would call back for; the rest goes with it. */
+void OrvFeatureTreeToolsPrivate::leaveView()
+{
+    if (menu)
+        menu->close();
+    rereading.stop();
+    filterSoon.stop();
+    marks.reset();
+    watch.setModel(nullptr);
+    for (QObject *const watched :
+         {static_cast<QObject *>(view), static_cast<QObject *>(tree), static_cast<QObject *>(tree->viewport())})
+        watched->removeEventFilter(q);
+    tree->disconnect(q);
+    view->disconnect(q);
+    findBar = nullptr;
+    help = nullptr;
+    tree = nullptr;
+    view = nullptr;
+}
+
 void OrvFeatureTreeToolsPrivate::setPart(const Part &wanted)
 {
     const OpenCalls::Call call;
@@ -197,79 +265,87 @@ void OrvFeatureTreeToolsPrivate::setPart(const Part &wanted)
         Q_EMIT q->shownPartChanged();
 }
 
-/** Categories that go and come again are closed: so their expansion is kept meanwhile. */
+/**
+ * Categories that go and come again are closed: so their expansion is kept meanwhile. Slots that are called may choose
+ * another part, which is filtered then and there.
+ */
 void OrvFeatureTreeToolsPrivate::filterPart()
 {
     auto *const proxy = filter();
-    if (!proxy)
+    const bool wasOfAll = !proxy || !tree->keptExpansion();
+    if (!proxy || (wasOfAll && part.isOfAll()))
         return;
     const OpenCalls::Call call;
     const QPointer<OrvFeatureTreeTools> alive(q);
-    const bool wasOfAll = !tree->keptExpansion();
-    if (wasOfAll && part.isOfAll())
-        return;
+    const quint64 revision = ++partRevision;
+    QSet<QPersistentModelIndex> closed;
     if (wasOfAll)
         tree->keepExpansion(TreeState::saveExpansion(*tree));
+    else
+        closed = closedCategories(*tree);
     bool categoriesCome = wasOfAll;
     const auto connection = QObject::connect(proxy, &GenParamTreeVisibilityFilterProxyModel::categoriesHaveCome, q,
                                              [&categoriesCome] { categoriesCome = true; });
-    proxy->setChoice(choice());
-    if (!alive || proxy != filter())
-        return;
+    proxy->setChoice(choiceOf(part));
     QObject::disconnect(connection);
+    if (!alive || revision != partRevision || proxy != filter())
+        return;
     if (part.isOfAll()) {
-        const QByteArray kept = *tree->keptExpansion();
+        const QByteArray kept = tree->keptExpansion().value_or(QByteArray());
         tree->keepExpansion(std::nullopt);
-        TreeState::loadExpansion(*tree, kept);
-    } else if (categoriesCome && (part.favoritesOnly || part.changedOnly)) {
-        tree->expandAll();
+        TreeState::loadExpansion(*tree, kept, tree->currentIndex());
+    } else if (part.favoritesOnly || part.changedOnly) {
+        if (categoriesCome)
+            openAllBut(closed, *tree);
     } else if (const QModelIndex category = shown(part.category); category.isValid()) {
-        for (QModelIndex above = category; above.isValid(); above = above.parent())
-            tree->expand(above);
+        tree->openCategory(category);
     }
 }
 
-FeatureChoice OrvFeatureTreeToolsPrivate::choice() const
+FeatureChoice OrvFeatureTreeToolsPrivate::choiceOf(const Part &chosenPart) const
 {
     FeatureChoice chosen;
     QSet<GenApi::IValue *> features;
-    if (part.favoritesOnly) {
+    if (chosenPart.favoritesOnly) {
         for (const QString &name : favorites)
             features.insert(featureAt(sourceOf(name)));
     }
-    if (part.changedOnly) {
+    if (chosenPart.changedOnly) {
         const QSet<GenApi::IValue *> changed = watch.changed() + candidates;
-        features = part.favoritesOnly ? features.intersect(changed) : changed;
+        features = chosenPart.favoritesOnly ? features.intersect(changed) : changed;
     }
-    if (part.favoritesOnly || part.changedOnly) {
+    if (chosenPart.favoritesOnly || chosenPart.changedOnly) {
         QVector<GenApi::INode *> nodes;
         for (GenApi::IValue *const feature : std::as_const(features))
             failureOf([&] { nodes.append(nodeOf(feature)); });
         chosen.setFeatures(nodes);
     }
-    if (!part.category.isEmpty())
-        chosen.setCategory(nodeAt(sourceOf(part.category)));
+    if (!chosenPart.category.isEmpty())
+        chosen.setCategory(nodeAt(sourceOf(chosenPart.category)));
     return chosen;
 }
 
-/** As much as is needed; the part stays as it is if that does not help. */
-QModelIndex OrvFeatureTreeToolsPrivate::showMoreFor(const QString &name)
+bool OrvFeatureTreeToolsPrivate::contains(const Part &some, const QModelIndex &source) const
 {
-    const QPointer<OrvFeatureTreeTools> alive(q);
-    const Part former = part;
-    Part more = part;
-    for (const auto &enlarge :
-         {+[](Part &smaller) { smaller.category.clear(); }, +[](Part &smaller) { smaller.changedOnly = false; },
-          +[](Part &smaller) { smaller.favoritesOnly = false; }}) {
-        enlarge(more);
-        setPart(more);
-        if (!alive)
-            return {};
-        if (const QModelIndex found = shown(name); found.isValid())
-            return found;
+    const FeatureChoice chosen = choiceOf(some);
+    for (QModelIndex row = source; row.isValid(); row = row.parent()) {
+        if (!chosen.accepts(nodeAt(row), nodeAt(row.parent())))
+            return false;
     }
-    setPart(former);
-    return {};
+    return true;
+}
+
+/** As little as will do. */
+OrvFeatureTreeToolsPrivate::Part OrvFeatureTreeToolsPrivate::enlargedFor(const QModelIndex &source) const
+{
+    Part more = part;
+    more.category.clear();
+    if (contains(more, source))
+        return more;
+    more.changedOnly = false;
+    if (!contains(more, source))
+        more.favoritesOnly = false;
+    return more;
 }
 
 QString OrvFeatureTreeToolsPrivate::whyHidden(const QString &name) const
@@ -278,16 +354,18 @@ QString OrvFeatureTreeToolsPrivate::whyHidden(const QString &name) const
     if (!source.isValid())
         return OrvFeatureTreeTools::tr("There is no feature '%1'.").arg(name);
     int level = 0;
+    bool isImplemented = true;
     for (QModelIndex above = source; above.isValid(); above = above.parent()) {
         GenApi::INode *const node = nodeAt(above);
         failureOf([&] { level = qMax(level, node ? int(node->GetVisibility()) : 0); });
+        isImplemented = isImplemented && FilterRule::isImplemented(node).value_or(true);
     }
     const auto *const levels = view->findChild<QComboBox *>(QStringLiteral("cbVisibility"));
     if (level > Guru)
         return OrvFeatureTreeTools::tr("'%1' is not meant to be shown.").arg(name);
     if (level > view->visibility() && levels)
         return OrvFeatureTreeTools::tr("'%1' is shown at the level %2.").arg(name, levels->itemText(level));
-    if (!view->filterText().isEmpty())
+    if (isImplemented && !view->filterText().isEmpty())
         return OrvFeatureTreeTools::tr("'%1' is hidden by the filter.").arg(name);
     const QString reason = q->reasonFor(name);
     return reason.isEmpty() ? OrvFeatureTreeTools::tr("'%1' is not shown.").arg(name)
@@ -315,6 +393,8 @@ bool OrvFeatureTreeToolsPrivate::filterKeyOfView(const QKeyEvent &event)
         findBar->open();
     else if (event.key() == Qt::Key_F3 && (modifiers & ~Qt::ShiftModifier) == 0)
         findBar->step(modifiers == Qt::NoModifier);
+    else if (event.matches(QKeySequence::Cancel) && findBar->isVisible())
+        findBar->leave();
     else
         return false;
     return true;
@@ -351,7 +431,9 @@ bool OrvFeatureTreeToolsPrivate::filterContextMenu(const QContextMenuEvent &even
 
 void OrvFeatureTreeToolsPrivate::openMenuAtCurrent()
 {
+    const OpenCalls::Call call;
     const QModelIndex current = tree->currentIndex();
+    tree->scrollTo(current); // the menu opens beside it
     const QRect cell = tree->visualRect(current.siblingAtColumn(GenParamTreeModel::NameColumn));
     const QPoint corner = current.isValid() ? cell.center() : tree->viewport()->rect().center();
     openMenu(current, tree->viewport()->mapToGlobal(corner));
@@ -390,23 +472,28 @@ void OrvFeatureTreeToolsPrivate::valueMayHaveChanged(const QModelIndex &cell)
     if (!part.changedOnly)
         return;
     GenApi::IValue *const feature = featureAt(cell);
-    if (!watch.knows(feature) || watch.changed().contains(feature) || candidates.contains(feature))
+    if (watch.changed().contains(feature) || candidates.contains(feature))
         return;
-    bool isPolled = true;
-    failureOf([&] { isPolled = nodeOf(feature)->GetPollingTime() > 0; });
-    if (isPolled)
+    auto known = polled.find(feature);
+    if (known == polled.end())
+        known = polled.insert(feature, isPolled(feature));
+    if (*known)
         return;
     candidates.insert(feature);
-    if (!filterSoon.isActive())
+    filterChangedSoon();
+}
+
+void OrvFeatureTreeToolsPrivate::filterChangedSoon()
+{
+    if (part.changedOnly && !filterSoon.isActive())
         filterSoon.start();
 }
 
 /** Called while the value is painted: the rows follow later. */
 void OrvFeatureTreeToolsPrivate::compared(GenApi::IValue *feature)
 {
-    const bool isDecided = candidates.remove(feature);
-    if (isDecided && !watch.changed().contains(feature) && !filterSoon.isActive())
-        filterSoon.start();
+    if (candidates.remove(feature) && !watch.changed().contains(feature))
+        filterChangedSoon();
 }
 
 /** Only features whose access depends on others change it, and then their nodes report. */
@@ -431,6 +518,18 @@ bool OrvFeatureTreeToolsPrivate::noteReason()
     return alive && std::exchange(shownReason, reason) != reason;
 }
 
+/** The help text is made anew later: that reads registers, and the tools may be going. */
+void OrvFeatureTreeToolsPrivate::stopTelling()
+{
+    if (!std::exchange(tellsReasons, false))
+        return;
+    help->disconnect(q);
+    help->setOpenLinks(true);
+    if (GenParamTreeModel *const source = model())
+        source->setTellsReasons(false);
+    QMetaObject::invokeMethod(tree, &FeatureTree::helpOutdated, Qt::QueuedConnection);
+}
+
 /** The rest of the help text reads more registers, so it is made anew only if the reason differs. */
 void OrvFeatureTreeToolsPrivate::updateReason()
 {
@@ -452,6 +551,7 @@ OrvFeatureTreeTools::OrvFeatureTreeTools(OrvGenParamTreeView *view, QObject *par
     d->tree->installEventFilter(this);
     d->tree->viewport()->installEventFilter(this);
     connect(d->tree, &FeatureTree::modelReplaced, this, [this] { d->modelReplaced(); });
+    connect(d->tree, &FeatureTree::viewIsGoing, this, [this] { d->leaveView(); });
     connect(view, &OrvGenParamTreeView::currentFeatureChanged, this, [this] {
         if (d->tellsReasons)
             d->noteReason();
@@ -468,7 +568,7 @@ OrvFeatureTreeTools::~OrvFeatureTreeTools()
         d->menu->close();
     setFindBar(false);
     setMarksChanges(false);
-    setTellsReasons(false);
+    d->stopTelling();
     blockSignals(true);
     d->setPart({});
 }
@@ -492,16 +592,18 @@ void OrvFeatureTreeTools::setTellsReasons(bool on)
 {
     if (d->tellsReasons == on || !d->tree)
         return;
-    d->tellsReasons = on;
-    d->help->disconnect(this);
-    d->help->setOpenLinks(!on);
+    if (!on) {
+        d->stopTelling();
+        return;
+    }
+    d->tellsReasons = true;
+    d->help->setOpenLinks(false);
     connect(d->help, &QTextBrowser::anchorClicked, this, [this](const QUrl &link) { d->openLink(link); });
     if (GenParamTreeModel *const model = d->model())
-        model->setTellsReasons(on);
+        model->setTellsReasons(true);
     const OpenCalls::Call call;
     const QPointer<FeatureTree> tree(d->tree);
-    if (on)
-        d->noteReason();
+    d->noteReason();
     if (tree)
         Q_EMIT tree->helpOutdated();
 }
@@ -635,10 +737,15 @@ bool OrvFeatureTreeTools::jumpTo(const QString &name)
     const OpenCalls::Call call;
     const QPointer<OrvFeatureTreeTools> alive(this);
     QModelIndex target = d->shown(name);
-    if (!target.isValid() && d->sourceOf(name).isValid() && !d->part.isOfAll())
-        target = d->showMoreFor(name);
+    const QModelIndex source = d->sourceOf(name);
+    const bool isOfPart = target.isValid() || !source.isValid() || d->part.isOfAll();
+    const bool helps = !isOfPart && d->filter()->acceptsWithoutChoice(source);
+    if (alive && helps && d->sourceOf(name) == source)
+        d->setPart(d->enlargedFor(source));
     if (!alive || !d->tree)
         return false;
+    if (helps)
+        target = d->shown(name);
     if (target.isValid())
         return d->tree->jumpTo(target);
     Q_EMIT told(d->whyHidden(name));
@@ -661,6 +768,7 @@ void OrvFeatureTreeTools::setFindBar(bool on)
         return;
     d->findBar = new FindBar(d->tree, d->view);
     layout->insertWidget(1, d->findBar); // above the tree
+    d->findBar->standBefore(*d->tree);
 }
 
 void OrvFeatureTreeTools::find()

@@ -69,7 +69,8 @@ public:
 
     /**
      * Whether values are compared with those that were read first since the view got its node map, or since this was
-     * switched on. Only values that are read anyway, because they are shown, are compared.
+     * switched on. Only values that are read anyway, because they are shown, are compared; with another choice of a
+     * selector what it selects may differ.
      * @{
      */
     bool tracksChanges() const;
@@ -81,8 +82,9 @@ public:
 
     /**
      * Whether only features are shown whose value differs from the first, with the categories that they stand in.
-     * Switches tracksChanges() on. A feature that is hidden and reports a change is shown, and goes again if its value
-     * is the first one; a feature with a polling time reports too often for that. Another node map ends it.
+     * Switches tracksChanges() on. A feature that is hidden and reports a change is shown until its value has been
+     * read, and longer if that differs from the first; a value that had not been seen before counts as the first. A
+     * feature that is polled, or reads what is, reports too often for that. Another node map ends it.
      * @{
      */
     bool showsChangedOnly() const;

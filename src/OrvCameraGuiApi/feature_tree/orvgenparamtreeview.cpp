@@ -38,11 +38,6 @@
 
 namespace {
 
-GenApi::IValue *featureOf(const QModelIndex &index)
-{
-    return index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
-}
-
 /**
  * Like QIcon(path), but made of pixmaps that Qt caches by name. With icons from the form, each view would leave further
  * pictures in Qt's cache.
@@ -127,7 +122,7 @@ private:
     const QPointer<QFocusFrame> m_frame;
 };
 
-/** Leaves the key for the filter to the window: a combo box would search its items for it. */
+/** Leaves the keys for filter and search to the window: a combo box would search its items for them. */
 class FindKeyPasser : public QObject
 {
 public:
@@ -135,7 +130,11 @@ public:
 
     bool eventFilter(QObject *, QEvent *event) override
     {
-        if (event->type() != QEvent::KeyPress || !static_cast<QKeyEvent *>(event)->matches(QKeySequence::Find))
+        if (event->type() != QEvent::KeyPress)
+            return false;
+        const auto &key = *static_cast<QKeyEvent *>(event);
+        const bool isForTools = key.key() == Qt::Key_F && key.modifiers() == (Qt::ControlModifier | Qt::ShiftModifier);
+        if (!isForTools && !key.matches(QKeySequence::Find) && !key.matches(QKeySequence::Cancel))
             return false;
         event->ignore();
         return true;
@@ -484,7 +483,7 @@ void OrvGenParamTreeViewPrivate::errorAppeared(const QModelIndex &index, const Q
 {
     errors.SetError(name, message, role);
     showStatus();
-    repaintSoon(featureOf(index));
+    repaintSoon(featureAt(index));
     if (role == GenParamTreeModel::ValueInterfaceRole || role == Qt::EditRole) {
         standingErrors.push_back({QPersistentModelIndex(index), role, QString()});
         checkErrorsSoon();
@@ -500,7 +499,7 @@ void OrvGenParamTreeViewPrivate::errorDisappeared(const QModelIndex &index, cons
         cellChanged(index);
     if (errors.ClearError(name, role)) {
         showStatus();
-        repaintSoon(featureOf(index));
+        repaintSoon(featureAt(index));
     }
     if (role == GenParamTreeModel::ValueInterfaceRole && !isClearing)
         Q_EMIT q->featureWritten(name);
@@ -613,7 +612,7 @@ void OrvGenParamTreeViewPrivate::repaintRows()
     sinceRepaint.start();
     const QVector<FeatureTree::Row> rows = ui.treeView->rowsOnScreen();
     for (const FeatureTree::Row &row : rows) {
-        if (features.contains(featureOf(row.index)))
+        if (features.contains(featureAt(row.index)))
             ui.treeView->viewport()->update(row.rect);
     }
 }
@@ -676,6 +675,8 @@ OrvGenParamTreeView::OrvGenParamTreeView(OrvGenParam::Array *params, QWidget *pa
 
 OrvGenParamTreeView::~OrvGenParamTreeView()
 {
+    Q_EMIT d->ui.treeView->viewIsGoing();
+    d->ui.treeView->disconnect(this); // it outlives what the slots need
     d->remove(false);
 }
 

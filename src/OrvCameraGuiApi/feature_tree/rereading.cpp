@@ -13,11 +13,6 @@ namespace {
 
 constexpr int longestTurn = 4; // ms
 
-GenApi::IValue *featureAt(const QModelIndex &index)
-{
-    return index.data(GenParamTreeModel::ValueInterfaceRole).value<GenApi::IValue *>();
-}
-
 } // namespace
 
 Rereading::Rereading(QObject *parent)
@@ -32,29 +27,42 @@ void Rereading::start(const QModelIndex &row)
     const QAbstractItemModel *const model = row.model();
     if (!model)
         return;
+    const OpenCalls::Call call;
+    const QPointer<Rereading> alive(this);
+    const QPersistentModelIndex category(row.siblingAtColumn(0));
     m_features.push_back(featureAt(row));
-    m_isWalking = model->hasChildren(row.siblingAtColumn(0));
-    if (m_isWalking) {
-        m_category = row.siblingAtColumn(0);
+    const bool hasRows = model->hasChildren(category);
+    if (!alive || !category.isValid())
+        return;
+    if (hasRows) {
+        m_isWalking = true;
+        m_category = category;
         m_walk = RowWalk(*model, m_category);
-        // Rows that come or go let the walk begin anew.
-        const auto restart = [this, model] {
-            m_isWalking = m_isWalking && m_category.isValid();
-            m_features.clear();
-            m_walk = m_isWalking ? RowWalk(*model, m_category) : RowWalk();
-        };
-        m_connections = {connect(model, &QAbstractItemModel::layoutChanged, this, restart),
-                         connect(model, &QAbstractItemModel::rowsInserted, this, restart),
-                         connect(model, &QAbstractItemModel::rowsRemoved, this, restart),
+        m_connections = {connect(model, &QAbstractItemModel::layoutChanged, this, &Rereading::restart),
+                         connect(model, &QAbstractItemModel::rowsInserted, this, &Rereading::restart),
+                         connect(model, &QAbstractItemModel::rowsRemoved, this, &Rereading::restart),
                          connect(model, &QAbstractItemModel::modelReset, this, &Rereading::stop)};
     }
     m_timer.start();
+}
+
+/** Rows that come or go without end must not keep the walk from ending: what has been found by then will do. */
+void Rereading::restart()
+{
+    constexpr int most = 10;
+    ++m_revision;
+    m_isWalking = m_isWalking && m_category.isValid() && ++m_restarts <= most;
+    if (m_isWalking)
+        m_features.clear();
+    m_walk = m_isWalking ? RowWalk(*m_category.model(), m_category) : RowWalk();
 }
 
 void Rereading::stop()
 {
     m_timer.stop();
     stopFollowing();
+    ++m_revision;
+    m_restarts = 0;
     m_isWalking = false;
     m_walk = RowWalk();
     m_features.clear();
@@ -74,10 +82,10 @@ void Rereading::work()
     const OpenCalls::Call call;
     QElapsedTimer turn;
     turn.start();
+    const QPointer<Rereading> alive(this);
     if (m_isWalking && !collect(turn))
         return;
     stopFollowing();
-    const QPointer<Rereading> alive(this);
     while (alive && !(m_nodes.empty() && m_features.empty()) && !turn.hasExpired(longestTurn)) {
         GenApi::INode *node = nullptr;
         if (m_nodes.empty()) {
@@ -115,13 +123,19 @@ void Rereading::drop(GenApi::INode &node)
 /** Whether all rows have been seen. */
 bool Rereading::collect(const QElapsedTimer &turn)
 {
+    const QPointer<Rereading> alive(this);
+    const quint64 revision = m_revision;
+    RowWalk walk = std::exchange(m_walk, RowWalk());
     while (!turn.hasExpired(longestTurn)) {
-        const QModelIndex row = m_walk.next();
+        const QModelIndex row = walk.next();
+        if (!alive || m_revision != revision)
+            return false;
         if (!row.isValid()) {
             m_isWalking = false;
             return true;
         }
         m_features.push_back(featureAt(row));
     }
+    m_walk = std::move(walk);
     return false;
 }

@@ -34,6 +34,7 @@ private:
     void work();
     bool collect(const QElapsedTimer &turn);
     void drop(GenApi::INode &node);
+    void restart();
     void stopFollowing();
 
     QTimer m_timer;
@@ -41,6 +42,8 @@ private:
     RowWalk m_walk; ///< through the category
     std::vector<QMetaObject::Connection> m_connections; ///< to the model, while the walk lasts
     bool m_isWalking = false;
+    quint64 m_revision = 0; ///< grows when the walk begins or ends
+    int m_restarts = 0; ///< of the walk
     std::vector<GenApi::IValue *> m_features; ///< to be dropped
     std::vector<GenApi::INode *> m_nodes; ///< to be dropped first
     QSet<GenApi::INode *> m_dropped;

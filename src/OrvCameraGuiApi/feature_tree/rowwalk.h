@@ -4,7 +4,10 @@
 
 #include <vector>
 
-/** A walk through the rows of a model, from top to bottom, that can be interrupted as long as no rows change. */
+/**
+ * A walk through the rows of a model, from top to bottom, that can be interrupted as long as no rows change. A branch
+ * that is read then may let foreign code run: whoever keeps a walk takes it out for next().
+ */
 class RowWalk
 {
 public:

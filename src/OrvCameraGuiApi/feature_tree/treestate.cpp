@@ -8,6 +8,7 @@
 #include <QTreeView>
 #include <QtEndian>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <limits>
@@ -102,19 +103,23 @@ QByteArray TreeState::save(const QTreeView &tree, int visibility, const QSplitte
     return state;
 }
 
-void TreeState::loadExpansion(QTreeView &tree, const QByteArray &state)
+void TreeState::loadExpansion(QTreeView &tree, const QByteArray &state, const QModelIndex &keptInSight)
 {
     if (!tree.model())
         return;
     auto *const features = qobject_cast<FeatureTree *>(&tree);
     if (features && features->keptExpansion()) {
-        features->keepExpansion(state.left(state.indexOf(widthMarker)));
+        features->keepExpansion(state.mid(0, state.indexOf(widthMarker))); // all of it without a marker
         return;
     }
+    std::vector<QModelIndex> open;
+    for (QModelIndex above = keptInSight.parent(); above.isValid(); above = above.parent())
+        open.push_back(above);
     // Slots of the tree may change its rows or its model meanwhile.
     std::vector<QPersistentModelIndex> toToggle;
     forEachCategoryPath(*tree.model(), [&](const QModelIndex &index, const QByteArray &path) {
-        if (index.model() == tree.model() && tree.isExpanded(index) != state.contains(path))
+        const bool isWanted = state.contains(path) || std::find(open.begin(), open.end(), index) != open.end();
+        if (index.model() == tree.model() && tree.isExpanded(index) != isWanted)
             toToggle.emplace_back(index);
     });
     for (const QPersistentModelIndex &index : toToggle) {

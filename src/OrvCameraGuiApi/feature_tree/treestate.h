@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QModelIndex>
 
 #include <optional>
 
@@ -24,9 +25,10 @@ QByteArray save(const QTreeView &tree, int visibility, const QSplitter &splitter
 
 /**
  * Expands the categories whose path occurs in \a state and collapses all others. Intentionally any place will do, be it
- * inside the path of another category. A tree that keeps an expansion for later keeps this one instead.
+ * inside the path of another category. A tree that keeps an expansion for later keeps this one instead. The categories
+ * above \a keptInSight are expanded whatever \a state has.
  */
-void loadExpansion(QTreeView &tree, const QByteArray &state);
+void loadExpansion(QTreeView &tree, const QByteArray &state, const QModelIndex &keptInSight = QModelIndex());
 
 /** In pixels; nothing if \a state has none that is possible for a column. */
 std::optional<int> columnWidth(const QByteArray &state);

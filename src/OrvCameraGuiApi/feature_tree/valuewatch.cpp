@@ -2,12 +2,23 @@
 
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 
+#include <QCryptographicHash>
+
 #include <utility>
 
 namespace {
 
 constexpr int step = 100; // ms
 constexpr qint64 duration = 1500; // ms
+
+/** What is kept of \a text: a register may have any length. */
+QString kept(const QString &text)
+{
+    constexpr int longest = 100; // characters
+    if (text.size() <= longest)
+        return text;
+    return QString::fromLatin1(QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha1).toHex());
+}
 
 } // namespace
 
@@ -52,21 +63,28 @@ void ValueWatch::setMarks(bool on)
 void ValueWatch::observe()
 {
     m_seen.clear();
-    m_marked.clear();
     m_timer.stop();
+    const bool hadMarks = !std::exchange(m_marked, {}).isEmpty();
     if (m_model && (m_tracksChanges || m_marks))
         m_model->setReadObserver([this](GenApi::IValue *feature, const QString &text) { note(feature, text); });
     else if (m_model)
         m_model->setReadObserver({});
     if (!std::exchange(m_changed, {}).isEmpty())
         tellSoon();
+    if (hadMarks)
+        Q_EMIT marksFaded();
 }
 
-void ValueWatch::note(GenApi::IValue *feature, const QString &text)
+/** \a value is null if it cannot be read. */
+void ValueWatch::note(GenApi::IValue *feature, const QString &value)
 {
+    const QString text = kept(value);
     const auto seen = m_seen.find(feature);
-    if (seen == m_seen.end()) {
-        m_seen.insert(feature, {text, text});
+    if (value.isNull() || seen == m_seen.end()) {
+        if (!value.isNull())
+            m_seen.insert(feature, {text, text});
+        if (m_tracksChanges)
+            Q_EMIT compared(feature);
         return;
     }
     if (std::exchange(seen->last, text) != text && m_marks) {

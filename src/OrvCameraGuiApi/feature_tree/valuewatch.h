@@ -39,20 +39,17 @@ public:
     /** Those whose value differs from the first. */
     const QSet<GenApi::IValue *> &changed() const { return m_changed; }
 
-    /** Whether the first value is known. */
-    bool knows(GenApi::IValue *feature) const { return m_seen.contains(feature); }
-
     /** From 1, just marked, to 0, not marked. */
     qreal strengthOf(GenApi::IValue *feature) const;
 
 Q_SIGNALS:
-    /** A value was read that had been read before. Emitted while it is painted: rows must not change. */
+    /** A value was read, or turned out not to be readable. Emitted while it is painted: rows must not change. */
     void compared(GenApi::IValue *feature);
 
     /** changed() has changed. Emitted later, from the event loop. */
     void changedFeaturesChanged();
 
-    /** To be painted again where there are marks. */
+    /** To be painted again where there are marks, or were. */
     void marksFaded();
 
 private:
@@ -63,7 +60,7 @@ private:
     };
 
     void observe();
-    void note(GenApi::IValue *feature, const QString &text);
+    void note(GenApi::IValue *feature, const QString &value);
     void noteChange(GenApi::IValue *feature, bool isChanged);
     void tellSoon();
     void fade();
