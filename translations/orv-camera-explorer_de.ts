@@ -281,10 +281,6 @@
         <translation>Filter</translation>
     </message>
     <message>
-        <source>Show only lines that have this text in them</source>
-        <translation>Nur Zeilen zeigen, in denen dieser Text steht</translation>
-    </message>
-    <message>
         <source>Everything</source>
         <translation>Alles</translation>
     </message>
@@ -339,6 +335,10 @@
     <message>
         <source>The log has been saved in &apos;%1&apos;.</source>
         <translation>Das Protokoll wurde in „%1“ gespeichert.</translation>
+    </message>
+    <message>
+        <source>Show only lines that have this text in them; Escape clears it</source>
+        <translation>Nur Zeilen zeigen, in denen dieser Text steht; Escape löscht ihn</translation>
     </message>
 </context>
 <context>
@@ -816,6 +816,30 @@
         <source>The camera does not answer any more: %1</source>
         <translation>Die Kamera antwortet nicht mehr: %1</translation>
     </message>
+    <message>
+        <source>It belongs to the connection, not to the settings.</source>
+        <translation>Es gehört zur Verbindung, nicht zu den Einstellungen.</translation>
+    </message>
+    <message>
+        <source>It was set, and could not be read again: %1</source>
+        <translation>Es wurde gesetzt und konnte nicht wieder gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>Another setting has changed it again.</source>
+        <translation>Eine andere Einstellung hat es wieder geändert.</translation>
+    </message>
+    <message>
+        <source>Not all that it selects is saved: %1</source>
+        <translation>Nicht alles, was es auswählt, ist gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>Its text would be taken for selectors.</source>
+        <translation>Sein Text würde für Selektoren gehalten.</translation>
+    </message>
+    <message>
+        <source>It is too large for a file.</source>
+        <translation>Es ist zu groß für eine Datei.</translation>
+    </message>
 </context>
 <context>
     <name>SettingsFile</name>
@@ -858,6 +882,10 @@
     <message>
         <source>There is more of that kind.</source>
         <translation>Es gibt mehr von dieser Art.</translation>
+    </message>
+    <message>
+        <source>It has too many lines.</source>
+        <translation>Sie hat zu viele Zeilen.</translation>
     </message>
 </context>
 <context>
@@ -928,10 +956,6 @@
     <message>
         <source>Second File</source>
         <translation>Zweite Datei</translation>
-    </message>
-    <message>
-        <source>Saving was interrupted; there is no file.</source>
-        <translation>Das Speichern wurde unterbrochen; es gibt keine Datei.</translation>
     </message>
     <message>
         <source>Lines saved in &apos;%1&apos;: %2</source>
@@ -1014,6 +1038,34 @@ Diese ist: %2.</translation>
     <message>
         <source>%1: the camera does not stop sending pictures.</source>
         <translation>%1: Die Kamera hört nicht auf, Bilder zu senden.</translation>
+    </message>
+    <message>
+        <source>%1 has failed: %2</source>
+        <translation>%1 ist fehlgeschlagen: %2</translation>
+    </message>
+    <message>
+        <source>Saving was interrupted.</source>
+        <translation>Das Speichern wurde unterbrochen.</translation>
+    </message>
+    <message>
+        <source>%1 Nothing was written to &apos;%2&apos;.</source>
+        <translation>%1 In „%2“ wurde nichts geschrieben.</translation>
+    </message>
+    <message>
+        <source>Loading was interrupted: nothing has been set.</source>
+        <translation>Das Laden wurde unterbrochen: nichts wurde gesetzt.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 settings have been put back, %3 could not be put back; the others were so already.</source>
+        <translation>%1 von %2 Einstellungen wurden zurückgesetzt, %3 konnten nicht zurückgesetzt werden; die anderen waren schon so.</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>Und %1 weitere.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no file.</source>
+        <translation>„%1“ ist keine Datei.</translation>
     </message>
 </context>
 <context>

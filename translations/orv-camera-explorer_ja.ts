@@ -281,10 +281,6 @@
         <translation>フィルター</translation>
     </message>
     <message>
-        <source>Show only lines that have this text in them</source>
-        <translation>このテキストを含む行だけを表示します</translation>
-    </message>
-    <message>
         <source>Everything</source>
         <translation>すべて</translation>
     </message>
@@ -339,6 +335,10 @@
     <message>
         <source>The log has been saved in &apos;%1&apos;.</source>
         <translation>ログを「%1」に保存しました。</translation>
+    </message>
+    <message>
+        <source>Show only lines that have this text in them; Escape clears it</source>
+        <translation>このテキストを含む行だけを表示します。Escape で消去します</translation>
     </message>
 </context>
 <context>
@@ -816,6 +816,30 @@
         <source>The camera does not answer any more: %1</source>
         <translation>カメラが応答しなくなりました: %1</translation>
     </message>
+    <message>
+        <source>It belongs to the connection, not to the settings.</source>
+        <translation>これは接続に属し、設定ではありません。</translation>
+    </message>
+    <message>
+        <source>It was set, and could not be read again: %1</source>
+        <translation>設定されましたが、読み直せませんでした: %1</translation>
+    </message>
+    <message>
+        <source>Another setting has changed it again.</source>
+        <translation>別の設定によって再び変更されました。</translation>
+    </message>
+    <message>
+        <source>Not all that it selects is saved: %1</source>
+        <translation>これが選択するもののすべては保存されていません: %1</translation>
+    </message>
+    <message>
+        <source>Its text would be taken for selectors.</source>
+        <translation>そのテキストはセレクターと見なされてしまいます。</translation>
+    </message>
+    <message>
+        <source>It is too large for a file.</source>
+        <translation>ファイルには大きすぎます。</translation>
+    </message>
 </context>
 <context>
     <name>SettingsFile</name>
@@ -858,6 +882,10 @@
     <message>
         <source>There is more of that kind.</source>
         <translation>同種のものがほかにもあります。</translation>
+    </message>
+    <message>
+        <source>It has too many lines.</source>
+        <translation>行が多すぎます。</translation>
     </message>
 </context>
 <context>
@@ -928,10 +956,6 @@
     <message>
         <source>Second File</source>
         <translation>2 つ目のファイル</translation>
-    </message>
-    <message>
-        <source>Saving was interrupted; there is no file.</source>
-        <translation>保存が中断されました。ファイルはありません。</translation>
     </message>
     <message>
         <source>Lines saved in &apos;%1&apos;: %2</source>
@@ -1014,6 +1038,34 @@ This one is: %2.</source>
     <message>
         <source>%1: the camera does not stop sending pictures.</source>
         <translation>%1: カメラが画像の送信を停止しません。</translation>
+    </message>
+    <message>
+        <source>%1 has failed: %2</source>
+        <translation>%1 に失敗しました: %2</translation>
+    </message>
+    <message>
+        <source>Saving was interrupted.</source>
+        <translation>保存は中断されました。</translation>
+    </message>
+    <message>
+        <source>%1 Nothing was written to &apos;%2&apos;.</source>
+        <translation>%1 「%2」には何も書き込まれませんでした。</translation>
+    </message>
+    <message>
+        <source>Loading was interrupted: nothing has been set.</source>
+        <translation>読み込みは中断されました: 何も設定されていません。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 settings have been put back, %3 could not be put back; the others were so already.</source>
+        <translation>%2 件の設定のうち %1 件を元に戻しました。%3 件は戻せませんでした。その他はすでにその値でした。</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>ほか %1 件。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no file.</source>
+        <translation>「%1」はファイルではありません。</translation>
     </message>
 </context>
 <context>

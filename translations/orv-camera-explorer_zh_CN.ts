@@ -281,10 +281,6 @@
         <translation>筛选</translation>
     </message>
     <message>
-        <source>Show only lines that have this text in them</source>
-        <translation>只显示包含此文本的行</translation>
-    </message>
-    <message>
         <source>Everything</source>
         <translation>全部</translation>
     </message>
@@ -339,6 +335,10 @@
     <message>
         <source>The log has been saved in &apos;%1&apos;.</source>
         <translation>日志已保存到“%1”。</translation>
+    </message>
+    <message>
+        <source>Show only lines that have this text in them; Escape clears it</source>
+        <translation>只显示含有此文本的行；Escape 键清除它</translation>
     </message>
 </context>
 <context>
@@ -816,6 +816,30 @@
         <source>The camera does not answer any more: %1</source>
         <translation>相机不再应答：%1</translation>
     </message>
+    <message>
+        <source>It belongs to the connection, not to the settings.</source>
+        <translation>它属于连接，不属于设置。</translation>
+    </message>
+    <message>
+        <source>It was set, and could not be read again: %1</source>
+        <translation>已设置，但无法重新读取：%1</translation>
+    </message>
+    <message>
+        <source>Another setting has changed it again.</source>
+        <translation>另一项设置又更改了它。</translation>
+    </message>
+    <message>
+        <source>Not all that it selects is saved: %1</source>
+        <translation>它所选择的内容未全部保存：%1</translation>
+    </message>
+    <message>
+        <source>Its text would be taken for selectors.</source>
+        <translation>其文本会被当作选择器。</translation>
+    </message>
+    <message>
+        <source>It is too large for a file.</source>
+        <translation>对文件来说太大。</translation>
+    </message>
 </context>
 <context>
     <name>SettingsFile</name>
@@ -858,6 +882,10 @@
     <message>
         <source>There is more of that kind.</source>
         <translation>还有更多同类情况。</translation>
+    </message>
+    <message>
+        <source>It has too many lines.</source>
+        <translation>行数过多。</translation>
     </message>
 </context>
 <context>
@@ -928,10 +956,6 @@
     <message>
         <source>Second File</source>
         <translation>第二个文件</translation>
-    </message>
-    <message>
-        <source>Saving was interrupted; there is no file.</source>
-        <translation>保存被中断；没有文件。</translation>
     </message>
     <message>
         <source>Lines saved in &apos;%1&apos;: %2</source>
@@ -1014,6 +1038,34 @@ This one is: %2.</source>
     <message>
         <source>%1: the camera does not stop sending pictures.</source>
         <translation>%1：相机没有停止发送图像。</translation>
+    </message>
+    <message>
+        <source>%1 has failed: %2</source>
+        <translation>%1失败：%2</translation>
+    </message>
+    <message>
+        <source>Saving was interrupted.</source>
+        <translation>保存已中断。</translation>
+    </message>
+    <message>
+        <source>%1 Nothing was written to &apos;%2&apos;.</source>
+        <translation>%1 未向“%2”写入任何内容。</translation>
+    </message>
+    <message>
+        <source>Loading was interrupted: nothing has been set.</source>
+        <translation>加载已中断：未设置任何内容。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 settings have been put back, %3 could not be put back; the others were so already.</source>
+        <translation>%2 项设置中已恢复 %1 项，%3 项无法恢复；其余原本就是如此。</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>另有 %1 项。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no file.</source>
+        <translation>“%1”不是文件。</translation>
     </message>
 </context>
 <context>

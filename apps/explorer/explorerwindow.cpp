@@ -102,8 +102,8 @@ ExplorerWindow::~ExplorerWindow()
 {
     // View and windows go after the camera.
     m_watch.reset();
+    m_settings->setCamera(nullptr); // its thread may hold the lock that the others need
     m_writes.reset();
-    m_settings->setCamera(nullptr);
     m_simulation->setCamera(QString(), nullptr);
     m_configure->setDevice(nullptr);
     m_picture->setDevice(nullptr);
@@ -252,6 +252,10 @@ void ExplorerWindow::createSettingsMenu()
 {
     menuBar()->addMenu(m_settings);
     connect(m_settings, &SettingsMenu::told, this, &ExplorerWindow::tell);
+    connect(m_settings, &SettingsMenu::busyChanged, this, [this](bool busy) {
+        m_isBusy = busy; // what is polled meanwhile would be that of other selectors
+        updatePolling();
+    });
     connect(m_settings, &SettingsMenu::stopWanted, m_picture, &PictureDock::stop);
     connect(m_settings, &SettingsMenu::featuresMarked, m_marks, &FeatureMarks::mark);
     connect(m_settings, &SettingsMenu::featureChosen, this, &ExplorerWindow::goTo);
@@ -443,7 +447,7 @@ void ExplorerWindow::choosePollingTime()
 /** A camera that was lost would let each poll wait for its answer. */
 void ExplorerWindow::updatePolling()
 {
-    const bool polls = m_polling->isChecked() && m_isReachable;
+    const bool polls = m_polling->isChecked() && m_isReachable && !m_isBusy;
     m_view->enablePolling(polls);
     m_pollingLabel->setText(polls ? tr("Polling every %1 ms").arg(m_view->getPollingTime()) : tr("Not polling"));
 }

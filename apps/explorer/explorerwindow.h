@@ -112,6 +112,7 @@ private:
     std::unique_ptr<CameraWatch> m_watch; ///< on the camera of the source
     std::unique_ptr<WriteWatch> m_writes; ///< to it
     bool m_isReachable = true;
+    bool m_isBusy = false; ///< with settings
     bool m_wasShown = false;
     QHash<QString, QByteArray> m_treeStates; ///< of cameras that are not shown, by name
     QTabWidget *const m_pages;

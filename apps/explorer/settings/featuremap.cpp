@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <cmath>
 #include <exception>
 #include <unordered_set>
 
@@ -53,7 +54,9 @@ std::vector<INode *> asNodes(const GenApi::FeatureList_t &features)
 {
     std::vector<INode *> nodes;
     for (GenApi::IValue *feature : features) {
-        if (INode *const node = feature ? feature->GetNode() : nullptr)
+        INode *node = nullptr;
+        failureOf([&] { node = feature ? feature->GetNode() : nullptr; });
+        if (node)
             nodes.push_back(node);
     }
     return nodes;
@@ -221,6 +224,8 @@ QString failureOf(const std::function<void()> &operation)
         why = QString::fromUtf8(e.GetDescription());
     } catch (const std::exception &e) {
         why = QString::fromLocal8Bit(e.what());
+    } catch (...) {
+        // It has no text.
     }
     why = why.simplified();
     return why.isEmpty() ? Text::tr("It failed without a reason.") : why;
@@ -236,7 +241,7 @@ INode *FeatureMap::feature(const QByteArray &name)
     INode *node = nullptr;
     failureOf([&] {
         node = m_map.GetNode(asGenApi(name));
-        if (node && !hasValue(node))
+        if (node && !(node->IsFeature() && hasValue(node)))
             node = nullptr;
     });
     return node;
@@ -251,6 +256,28 @@ const std::vector<INode *> &FeatureMap::selectorsOf(INode *feature)
     std::vector<INode *> path;
     addSelectors(feature, path, found);
     return m_selectors[feature] = found;
+}
+
+QVector<Setting> FeatureMap::withSelectors(const Setting &setting)
+{
+    Setting plain = setting;
+    INode *const node = setting.value.startsWith('{') ? feature(setting.name) : nullptr;
+    QVector<Setting> settings = takeSelectors(plain, [&](const QByteArray &name) {
+        const std::vector<INode *> selectors = node ? selectorsOf(node) : std::vector<INode *>();
+        return std::any_of(selectors.begin(), selectors.end(), [&](INode *each) { return nameOf(each) == name; });
+    });
+    settings.append(plain);
+    return settings;
+}
+
+QByteArray FeatureMap::keyOf(const QByteArray &name, const QVector<Setting> &context)
+{
+    QByteArray key = name;
+    for (const Setting &setting : context) {
+        INode *const selector = feature(setting.name);
+        key += '\0' + setting.name + '\0' + (selector ? normalValue(setting.value, kindOf(selector)) : setting.value);
+    }
+    return key;
 }
 
 std::vector<INode *> FeatureMap::features() const
@@ -268,10 +295,7 @@ std::vector<INode *> FeatureMap::streamableFeatures()
 
 std::vector<INode *> FeatureMap::otherFeatures()
 {
-    return featuresThat([](INode *node) {
-        const QByteArray name = nameOf(node);
-        return !name.startsWith("Gev") && !name.startsWith("TLParams");
-    });
+    return featuresThat([](INode *node) { return kindOf(node) != GenApi::intfIRegister && !isOfConnection(node); });
 }
 
 std::vector<INode *> FeatureMap::featuresThat(bool (*belong)(INode *))
@@ -329,6 +353,13 @@ bool isStreamable(INode *feature)
     return is;
 }
 
+bool isOfConnection(INode *feature)
+{
+    const QByteArray name = nameOf(feature);
+    return name == "TLParamsLocked"
+        || ((name.startsWith("Gev") || name.startsWith("DeviceLink")) && !isStreamable(feature));
+}
+
 bool isImplemented(INode *feature)
 {
     return GenApi::IsImplemented(accessOf(feature));
@@ -374,20 +405,38 @@ QString lockedReason(INode *feature)
     }
 }
 
+/** Whether the camera has a number as near to \a wanted as half the last digit that it shows, or its step. */
+static bool isNear(INode *feature, const QByteArray &wanted)
+{
+    bool is = false;
+    failureOf([&] {
+        auto *const number = dynamic_cast<GenApi::IFloat *>(feature);
+        const std::optional<double> value = numberOf(wanted);
+        if (!number || !value)
+            return;
+        double tolerance = lastDigitOf(*value, number->GetDisplayNotation(), number->GetDisplayPrecision()) / 2;
+        if (number->HasInc())
+            tolerance = std::max(tolerance, number->GetInc());
+        constexpr double slack = 1e-6; // of the rounding to digits
+        is = std::fabs(number->GetValue() - *value) <= tolerance * (1 + slack);
+    });
+    return is;
+}
+
 QString writeValue(INode *feature, const QByteArray &value)
 {
     const QString failure = failureOf([&] { dynamic_cast<GenApi::IValue &>(*feature).FromString(asGenApi(value)); });
     if (!failure.isEmpty() || !isReadable(feature))
         return failure;
     const FeatureValue has = readValue(feature);
-    if (!has.failure.isEmpty() || isSameValue(value, has.text, kindOf(feature)))
+    if (!has.failure.isEmpty() || isSameValue(value, has.text, kindOf(feature)) || isNear(feature, value))
         return has.failure;
     return Text::tr("The camera has taken another value.");
 }
 
-QString ensureValue(INode *feature, const QByteArray &value)
+QString ensureValue(INode *feature, const QByteArray &value, bool usesCache)
 {
-    const FeatureValue has = readValue(feature, true);
+    const FeatureValue has = readValue(feature, usesCache);
     if (has.failure.isEmpty() && isSameValue(value, has.text, kindOf(feature)))
         return {};
     const QString locked = lockedReason(feature);

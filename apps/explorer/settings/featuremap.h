@@ -8,9 +8,6 @@
 #include <unordered_map>
 #include <vector>
 
-/** Told before each feature; throws to interrupt. \a feature is the one that is next. */
-using SettingsProgress = std::function<void(int done, int total, const QByteArray &feature)>;
-
 /** Thrown by a progress that nobody wants to go on. */
 struct SettingsInterrupted
 {
@@ -37,11 +34,17 @@ public:
 
     GenApi::INodeMap &nodeMap() const { return m_map; }
 
-    /** A feature by its name, null if there is none that has a value. */
+    /** A feature by its name, null if there is none that has a value. Registers behind features are none. */
     GenApi::INode *feature(const QByteArray &name);
 
     /** All that select the feature, whoever selects others in front of them. */
     const std::vector<GenApi::INode *> &selectorsOf(GenApi::INode *feature);
+
+    /** A line of a file behind the selectors that it has itself. */
+    QVector<Setting> withSelectors(const Setting &setting);
+
+    /** The same for the same feature with the same entries of its selectors, however these are written. */
+    QByteArray keyOf(const QByteArray &name, const QVector<Setting> &context);
 
     /** All features that have a value, in the order of the tree. */
     std::vector<GenApi::INode *> features() const;
@@ -71,6 +74,9 @@ FeatureValue readValue(GenApi::INode *feature, bool usesCache = false);
 /** Whether it has a value that belongs to a set of settings. */
 bool isStreamable(GenApi::INode *feature);
 
+/** Whether a file must not change it: the connection and the acquisition hang on it. */
+bool isOfConnection(GenApi::INode *feature);
+
 bool isImplemented(GenApi::INode *feature);
 bool isReadable(GenApi::INode *feature);
 bool isWritable(GenApi::INode *feature);
@@ -78,8 +84,8 @@ bool isWritable(GenApi::INode *feature);
 /** Why it cannot be written now, empty if it can. */
 QString lockedReason(GenApi::INode *feature);
 
-/** Writes the value, and reads it again; why it is another one by then, empty if it is not. */
+/** Writes the value, and reads it again; why it is another one by then, as far as its digits and steps allow. */
 QString writeValue(GenApi::INode *feature, const QByteArray &value);
 
-/** The same, unless it is the value already. */
-QString ensureValue(GenApi::INode *feature, const QByteArray &value);
+/** The same, unless it is the value already; \a usesCache: what was read before tells. */
+QString ensureValue(GenApi::INode *feature, const QByteArray &value, bool usesCache = false);

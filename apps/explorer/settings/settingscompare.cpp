@@ -32,13 +32,20 @@ bool looksLikeSelector(const QByteArray &name)
 class Rows
 {
 public:
-    Rows(const SettingsFile &file, const SelectorNames &selectors)
-        : m_selectors(selectors)
+    /** \a entries: of selectors, where the file has none above. */
+    Rows(const SettingsFile &file, FeatureMap *camera, const QHash<QByteArray, QByteArray> &entries)
+        : m_camera(camera)
+        , m_entries(entries)
     {
         for (const Setting &setting : file.settings)
             ++m_counts[setting.name];
-        for (const Setting &setting : file.settings)
-            add(setting);
+        for (const Setting &line : file.settings) {
+            Setting plain = line;
+            const QVector<Setting> settings =
+                camera ? camera->withSelectors(line) : takeSelectors(plain, looksLikeSelector) << plain;
+            for (const Setting &setting : settings)
+                add(setting);
+        }
     }
 
     QVector<Row> rows; ///< the last line of each key
@@ -48,8 +55,10 @@ private:
     void add(const Setting &setting)
     {
         Row row{setting, contextOf(setting.name), setting.name};
-        for (const Setting &each : qAsConst(row.context))
-            row.key += '\0' + each.name + '\0' + each.value;
+        if (m_camera)
+            row.key = m_camera->keyOf(setting.name, row.context);
+        else if (!row.context.isEmpty())
+            row.key += '\0' + row.context.constFirst().name + '\0' + row.context.constFirst().value;
         m_entries.insert(setting.name, setting.value);
         if (looksLikeSelector(setting.name))
             m_lastSelector = setting.name;
@@ -64,7 +73,11 @@ private:
 
     QVector<Setting> contextOf(const QByteArray &name) const
     {
-        QVector<QByteArray> names = m_selectors ? m_selectors(name) : QVector<QByteArray>();
+        QVector<QByteArray> names;
+        if (GenApi::INode *const feature = m_camera ? m_camera->feature(name) : nullptr) {
+            for (GenApi::INode *selector : m_camera->selectorsOf(feature))
+                names.append(nameOf(selector));
+        }
         const bool isRepeated = m_counts.value(name) > 1 && !looksLikeSelector(name);
         if (names.isEmpty() && isRepeated && !m_lastSelector.isEmpty())
             names.append(m_lastSelector);
@@ -76,7 +89,7 @@ private:
         return context;
     }
 
-    const SelectorNames &m_selectors;
+    FeatureMap *const m_camera;
     QHash<QByteArray, int> m_counts;
     QHash<QByteArray, QByteArray> m_entries; ///< so far, of everything
     QByteArray m_lastSelector;
@@ -93,34 +106,43 @@ SettingDifference onOneSide(const Row &row, bool isLeft)
     return difference;
 }
 
-} // namespace
-
-QVector<SettingDifference> compareSettings(const SettingsFile &left, const SettingsFile &right,
-                                           const SelectorNames &selectors)
+bool isSame(const SettingDifference &difference, FeatureMap *camera)
 {
-    const Rows leftRows(left, selectors);
-    const Rows rightRows(right, selectors);
+    GenApi::INode *const feature = camera ? camera->feature(difference.name) : nullptr;
+    return feature ? isSameValue(difference.left, difference.right, kindOf(feature))
+                   : isSameValue(difference.left, difference.right);
+}
+
+QVector<SettingDifference> compareRows(const Rows &left, const Rows &right, FeatureMap *camera)
+{
     QVector<SettingDifference> differences;
-    for (const Row &row : leftRows.rows) {
-        const auto place = rightRows.places.constFind(row.key);
+    for (const Row &row : left.rows) {
+        const auto place = right.places.constFind(row.key);
         SettingDifference difference = onOneSide(row, true);
-        difference.isRight = place != rightRows.places.constEnd();
+        difference.isRight = place != right.places.constEnd();
         if (difference.isRight)
-            difference.right = rightRows.rows.at(*place).setting.value;
-        if (!difference.isRight || !isSameValue(difference.left, difference.right))
+            difference.right = right.rows.at(*place).setting.value;
+        if (!difference.isRight || !isSame(difference, camera))
             differences.append(difference);
     }
-    for (const Row &row : rightRows.rows) {
-        if (!leftRows.places.contains(row.key))
+    for (const Row &row : right.rows) {
+        if (!left.places.contains(row.key))
             differences.append(onOneSide(row, false));
     }
     return differences;
 }
 
-QVector<SettingDifference> compareWithCamera(const SettingsFile &file, GenApi::INodeMap &map,
+} // namespace
+
+QVector<SettingDifference> compareSettings(const SettingsFile &left, const SettingsFile &right, FeatureMap *camera)
+{
+    return compareRows({left, camera, {}}, {right, camera, {}}, camera);
+}
+
+QVector<SettingDifference> compareWithCamera(const SettingsFile &file, GenApi::INodeMap &map, QStringList &remarks,
                                              const SettingsProgress &progress)
 {
-    SettingsLoader loader(map, file);
+    SettingsLoader loader(map, file, progress);
     loader.look(progress);
     QVector<SettingDifference> differences;
     const QVector<SettingResult> results = loader.results();
@@ -130,26 +152,24 @@ QVector<SettingDifference> compareWithCamera(const SettingsFile &file, GenApi::I
                                 result.reason.isEmpty(), result.reason});
     }
     SettingsSaver saver(map, progress);
-    const SettingsFile camera = saver.save();
-    const QVector<SettingDifference> others = compareSettings(file, camera, selectorsOf(map));
-    for (SettingDifference other : others) {
-        if (other.isLeft)
-            continue;
-        other.reason = Text::tr("It is not in the file.");
-        differences.append(other);
+    try {
+        const SettingsFile camera = saver.save();
+        remarks += camera.remarks;
+        QHash<QByteArray, QByteArray> now; // the last line on each selector
+        for (const Setting &setting : camera.settings)
+            now.insert(setting.name, setting.value);
+        FeatureMap features(map);
+        const QVector<SettingDifference> others =
+            compareRows({file, &features, now}, {camera, &features, {}}, &features);
+        for (SettingDifference other : others) {
+            if (other.isLeft)
+                continue;
+            other.reason = Text::tr("It is not in the file.");
+            differences.append(other);
+        }
+    } catch (...) {
+        remarks += saver.remarks();
+        throw;
     }
     return differences;
-}
-
-SelectorNames selectorsOf(GenApi::INodeMap &map)
-{
-    const auto features = std::make_shared<FeatureMap>(map);
-    return [features](const QByteArray &name) {
-        QVector<QByteArray> names;
-        if (GenApi::INode *const feature = features->feature(name)) {
-            for (GenApi::INode *selector : features->selectorsOf(feature))
-                names.append(nameOf(selector));
-        }
-        return names;
-    };
 }

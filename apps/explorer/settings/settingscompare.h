@@ -14,19 +14,16 @@ struct SettingDifference
     QString reason; ///< why it cannot be read, or is on one side only
 };
 
-/** The selectors of a feature, outside in, by name. */
-using SelectorNames = std::function<QVector<QByteArray>(const QByteArray &feature)>;
+/**
+ * What differs between two files, in the order of the left one. \a camera, which may be null, knows selectors and kinds
+ * of values. Where it does not, a feature that stands there more than once belongs to the line of a "...Selector" or
+ * "...Index" above it, and texts count.
+ */
+QVector<SettingDifference> compareSettings(const SettingsFile &left, const SettingsFile &right, FeatureMap *camera);
 
 /**
- * What differs between two files, in the order of the left one. \a selectors may be null; where it knows none, a
- * feature that stands there more than once belongs to the line of a "...Selector" or "...Index" above it.
+ * What differs between a file, the left, and a camera; what the camera could not tell is added to \a remarks, also when
+ * the progress interrupts it. Selectors are moved, and put back. Throws a SettingsError if the camera is lost.
  */
-QVector<SettingDifference> compareSettings(const SettingsFile &left, const SettingsFile &right,
-                                           const SelectorNames &selectors);
-
-/** What differs between a file, the left, and a camera. Selectors are moved, and put back. */
-QVector<SettingDifference> compareWithCamera(const SettingsFile &file, GenApi::INodeMap &map,
+QVector<SettingDifference> compareWithCamera(const SettingsFile &file, GenApi::INodeMap &map, QStringList &remarks,
                                              const SettingsProgress &progress);
-
-/** As the camera has them; it must outlive the result. */
-SelectorNames selectorsOf(GenApi::INodeMap &map);

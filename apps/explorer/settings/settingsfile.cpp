@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr int longestLine = 1 << 20; // bytes
-constexpr qint64 longestFile = 64 << 20; // bytes
 constexpr int mostRemarks = 1000;
 
 const char *const mark = "{05D8C294-F295-4dfb-9D01-096BD04049F4}";
@@ -23,39 +21,25 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(SettingsFile)
 };
 
-/**
- * The selectors of a line that has its own, "{NAME=VALUE TAB NAME=VALUE} TAB VALUE", taken out of \a value; none if it
- * is not of that form.
- */
-QVector<Setting> takeSelectors(QByteArray &value, int line)
-{
-    const int end = value.startsWith('{') ? value.indexOf("}\t") : -1;
-    if (end < 0)
-        return {};
-    QVector<Setting> selectors;
-    const QList<QByteArray> parts = value.mid(1, end - 1).split('\t');
-    for (const QByteArray &part : parts) {
-        const int middle = part.indexOf('=');
-        if (middle < 1)
-            return {};
-        selectors.append({part.left(middle), part.mid(middle + 1), line});
-    }
-    value.remove(0, end + 2);
-    return selectors;
-}
-
 class Parser
 {
 public:
+    explicit Parser(const SettingsProgress &progress)
+        : m_progress(progress)
+    {
+    }
+
     SettingsFile parse(QByteArray content)
     {
+        constexpr int turn = 1000; // lines
         if (content.startsWith("\xEF\xBB\xBF"))
             content.remove(0, 3);
         for (int begin = 0; begin < content.size();) {
             int end = content.indexOf('\n', begin);
             if (end < 0)
                 end = content.size();
-            ++m_line;
+            if (++m_line % turn == 0 && m_progress)
+                m_progress(begin, content.size(), {});
             takeLine(content, begin, end > begin && content.at(end - 1) == '\r' ? end - 1 : end);
             begin = end + 1;
         }
@@ -81,9 +65,9 @@ private:
         const int tab = line.indexOf('\t');
         if (tab < 1)
             return pass(Text::tr("The line is no setting: '%1'.").arg(QString::fromUtf8(line.left(60))));
-        QByteArray value = line.mid(tab + 1);
-        m_file.settings += takeSelectors(value, m_line);
-        m_file.settings.append({line.left(tab), value, m_line});
+        if (m_file.settings.size() == mostSettings)
+            throw SettingsError{Text::tr("It has too many lines.")};
+        m_file.settings.append({line.left(tab), line.mid(tab + 1), m_line});
     }
 
     void takeComment(const QByteArray &line)
@@ -95,6 +79,7 @@ private:
 
     void pass(const QString &why) { addRemark(m_file.remarks, Text::tr("Line %1: %2").arg(m_line).arg(why)); }
 
+    const SettingsProgress &m_progress;
     SettingsFile m_file;
     int m_line = 0;
     bool m_hasMark = false;
@@ -110,31 +95,42 @@ bool isStandard(const QString &path)
     return path == QLatin1String("-");
 }
 
-/** To its end, or until a signal comes. */
-QByteArray readStandardInput()
+/** To its end; a part would be a setting that nobody wrote. A signal ends it, too. */
+QByteArray readStandardInput(const QString &text)
 {
     QByteArray content;
     char part[1 << 16];
     ssize_t count = 0;
     while (content.size() <= longestFile && (count = ::read(STDIN_FILENO, part, sizeof(part))) > 0)
         content.append(part, int(count));
+    if (count < 0)
+        fail(text, QStringLiteral("-"), qt_error_string());
     return content;
+}
+
+/** Devices and pipes, which a new file must not replace, also where they lead to a file. */
+bool isSpecial(const QString &path)
+{
+    const QFileInfo info(path);
+    const QString whole = info.absoluteFilePath();
+    return (info.exists() && !info.isFile()) || whole.startsWith(QLatin1String("/dev/"))
+        || whole.startsWith(QLatin1String("/proc/"));
 }
 
 } // namespace
 
-SettingsFile parseSettings(const QByteArray &content)
+SettingsFile parseSettings(const QByteArray &content, const SettingsProgress &progress)
 {
-    return Parser().parse(content);
+    return Parser(progress).parse(content);
 }
 
-SettingsFile readSettings(const QString &path)
+SettingsFile readSettings(const QString &path, const SettingsProgress &progress)
 {
     const QString text = Text::tr("Cannot read '%1': %2");
     QFile file(path);
     QByteArray content;
     if (isStandard(path))
-        content = readStandardInput();
+        content = readStandardInput(text);
     else if (file.open(QIODevice::ReadOnly))
         content = file.read(longestFile + 1);
     if (file.error() != QFileDevice::NoError)
@@ -142,10 +138,27 @@ SettingsFile readSettings(const QString &path)
     if (content.size() > longestFile)
         fail(text, path, Text::tr("The file is too large."));
     try {
-        return parseSettings(content);
+        return parseSettings(content, progress);
     } catch (const SettingsError &e) {
         fail(text, path, e.message);
     }
+}
+
+QVector<Setting> takeSelectors(Setting &setting, const std::function<bool(const QByteArray &name)> &isSelector)
+{
+    const int end = setting.value.startsWith('{') ? setting.value.indexOf("}\t") : -1;
+    if (end < 0)
+        return {};
+    QVector<Setting> selectors;
+    const QList<QByteArray> parts = setting.value.mid(1, end - 1).split('\t');
+    for (const QByteArray &part : parts) {
+        const int middle = part.indexOf('=');
+        if (middle < 1 || !isSelector(part.left(middle)))
+            return {};
+        selectors.append({part.left(middle), part.mid(middle + 1), setting.line});
+    }
+    setting.value.remove(0, end + 2);
+    return selectors;
 }
 
 QByteArray textOf(const SettingsFile &file)
@@ -165,8 +178,7 @@ void writeSettings(const SettingsFile &file, const QString &path)
 void writeWhole(const QByteArray &content, const QString &path)
 {
     const QString text = Text::tr("Cannot write '%1': %2");
-    const QFileInfo info(path);
-    if (!isStandard(path) && (!info.exists() || info.isFile())) {
+    if (!isStandard(path) && !isSpecial(path)) {
         QSaveFile file(path);
         if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit())
             fail(text, path, file.errorString());

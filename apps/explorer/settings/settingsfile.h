@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <QVector>
 
+#include <functional>
+
 /** A feature and its value, both UTF-8, the value as GenApi writes it. */
 struct Setting
 {
@@ -27,14 +29,28 @@ struct SettingsError
     QString message;
 };
 
+/** Told before each step; throws to interrupt. \a feature is the one that is next, empty for none. */
+using SettingsProgress = std::function<void(int done, int total, const QByteArray &feature)>;
+
 /**
  * Reads \a content: what is no setting is passed over with a remark, a missing head is one. Throws a SettingsError if
  * there is nothing that could be a setting.
  */
-SettingsFile parseSettings(const QByteArray &content);
+SettingsFile parseSettings(const QByteArray &content, const SettingsProgress &progress = {});
 
 /** The same of a file; "-" is the standard input. */
-SettingsFile readSettings(const QString &path);
+SettingsFile readSettings(const QString &path, const SettingsProgress &progress = {});
+
+/** The bounds of a file. */
+constexpr int longestLine = 1 << 20; ///< bytes
+constexpr qint64 longestFile = 64 << 20; ///< bytes
+constexpr int mostSettings = 1000000;
+
+/**
+ * The selectors of a line that has its own, "{NAME=VALUE TAB NAME=VALUE} TAB VALUE", taken out of it; none if it is not
+ * of that form with selectors alone: a text may begin like this, too.
+ */
+QVector<Setting> takeSelectors(Setting &setting, const std::function<bool(const QByteArray &name)> &isSelector);
 
 QByteArray textOf(const SettingsFile &file);
 

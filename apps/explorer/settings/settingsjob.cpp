@@ -73,11 +73,13 @@ void SettingsJob::run(const Work &work)
         QThread::msleep(1); // the lock of the node map is not fair: the windows get it here
         busy.restart();
     };
-    try {
-        work(progress);
-    } catch (const SettingsInterrupted &) {
-        // What has been done is known to the work.
-    }
+    m_failure = failureOf([&] {
+        try {
+            work(progress);
+        } catch (const SettingsInterrupted &) {
+            // What has been done is known to the work.
+        }
+    });
     QCoreApplication::postEvent(this, new QEvent(QEvent::User));
 }
 

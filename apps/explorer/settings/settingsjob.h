@@ -35,6 +35,9 @@ public:
     /** Waits for the end of the work; it is not told any more. */
     void join();
 
+    /** Why the work ended in an unexpected way, once it has ended; empty otherwise. */
+    const QString &failure() const { return m_failure; }
+
     void reject() override;
 
 Q_SIGNALS:
@@ -57,5 +60,6 @@ private:
     int m_done = 0;
     int m_total = 0;
     QByteArray m_feature;
+    QString m_failure; ///< of the thread, until it has ended
     std::thread m_thread;
 };

@@ -27,20 +27,22 @@ struct SettingResult
 class SettingsLoader
 {
 public:
-    SettingsLoader(GenApi::INodeMap &map, const SettingsFile &file);
+    /** Reads selectors. Throws what the progress throws. */
+    SettingsLoader(GenApi::INodeMap &map, const SettingsFile &file, const SettingsProgress &progress = {});
     ~SettingsLoader();
 
-    /** Reads what the camera has, and puts its selectors back. Throws what the progress throws. */
+    /** Reads what the camera has, and puts its selectors back, those inside others, too. Throws likewise. */
     void look(const SettingsProgress &progress);
 
     /**
      * Writes what differs, again and again until nothing changes any more: a value may be out of the limits until
-     * others are set. Reads everything again, and leaves the selectors as the file has them. Has looked before. When
-     * the progress interrupts it, the selectors are put back, what was written stays, and isComplete() is false.
+     * others are set. Reads everything again after the last change, and leaves the selectors as the file has them. Has
+     * looked before. When the progress interrupts it, the selectors are put back, what was written stays, and
+     * isComplete() is false.
      */
     void load(const SettingsProgress &progress);
 
-    /** Likewise, what the camera had before load(). */
+    /** Likewise, what the camera had before load(). May be repeated. */
     void putBack(const SettingsProgress &progress);
 
     bool isComplete() const { return m_isComplete; }
@@ -48,7 +50,10 @@ public:
     /** Whether anything was written that putBack() could change. */
     bool hasWritten() const { return m_hasWritten; }
 
-    /** A line of the file each; selectors, which stand there again and again, once. */
+    /**
+     * A line of the file each; selectors, which stand there again and again, once, and once more for each entry of
+     * others under which they could not be set or put back.
+     */
     QVector<SettingResult> results() const;
 
 private:
@@ -64,16 +69,20 @@ private:
         bool isInFile; ///< has a line of its own
     };
 
-    void addUnknown(const Setting &setting);
+    void refuse(const Setting &setting, const QString &why);
     void addSetting(const Setting &setting, GenApi::INode *feature);
     void addSelectorLine(Entry entry);
     bool rememberSelector(GenApi::INode *selector, const QByteArray &name);
     QString choose(const Entry &entry);
+    void keep(const Entry &entry, std::size_t depth);
+    void keepSelectors();
     void read(Entry &entry);
+    void judge(Entry &entry, const QByteArray &has);
     bool adjust(Entry &entry);
     void adjustAll();
-    void settleSelectors();
-    void restoreSelectors();
+    void apply(bool asInFile);
+    void settleSelectors(bool asInFile);
+    QString settle(const Entry &step);
     SettingResult resultOf(const SelectorState &selector) const;
     void tell(const Entry &entry);
 
@@ -83,6 +92,9 @@ private:
     std::vector<Entry> m_steps; ///< the lines of selectors that count; without a feature the others
     QHash<QByteArray, std::size_t> m_places; ///< of entries, by name and context
     QHash<QByteArray, std::size_t> m_stepPlaces;
+    std::vector<Entry> m_kept; ///< selectors inside others as they were, for each entry of the others that was chosen
+    QHash<QByteArray, std::size_t> m_keptPlaces;
+    std::vector<SettingResult> m_unsettled; ///< of selectors inside others
     std::vector<SelectorState> m_selectors; ///< outside in
     std::unordered_set<GenApi::INode *> m_known; ///< selectors
     QHash<QByteArray, QByteArray> m_last; ///< entries of the selectors at the end

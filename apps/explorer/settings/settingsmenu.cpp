@@ -22,17 +22,24 @@ QString textOf(const QByteArray &value)
     return QString::fromUtf8(value);
 }
 
+/** With nothing in the other columns. */
+QStringList remarkCells(const QString &remark, int columns)
+{
+    QStringList cells;
+    for (int i = 1; i < columns; ++i)
+        cells.append(QString());
+    return cells << remark;
+}
+
 QVector<ReportRow> rowsOf(const QStringList &remarks, int columns)
 {
     QVector<ReportRow> rows;
-    for (const QString &remark : remarks) {
-        QStringList cells;
-        for (int i = 1; i < columns; ++i)
-            cells.append(QString());
-        rows.append({QString(), cells << remark});
-    }
+    for (const QString &remark : remarks)
+        rows.append({QString(), remarkCells(remark, columns)});
     return rows;
 }
+
+constexpr int mostRows = 10000; // a file may have a hundred times as many lines
 
 } // namespace
 
@@ -44,6 +51,7 @@ struct SettingsMenu::Task
     std::unique_ptr<SettingsLoader> loader;
     QVector<SettingResult> results;
     QVector<SettingDifference> differences;
+    int camera = 0; ///< its number
     QString failure; ///< empty: none
     bool isDone = false; ///< to its end
 };
@@ -86,6 +94,8 @@ void SettingsMenu::setCamera(GenApi::INodeMap *nodeMap)
         finish();
     }
     m_nodeMap = nodeMap;
+    ++m_camera;
+    m_marking = nullptr;
     const auto reports = parentWidget()->findChildren<SettingsReport *>();
     for (SettingsReport *report : reports)
         report->withdrawPutBack();
@@ -95,14 +105,19 @@ void SettingsMenu::setCamera(GenApi::INodeMap *nodeMap)
 
 void SettingsMenu::setReachable(bool reachable)
 {
+    m_isReachable = reachable;
     if (!reachable && m_job)
         m_job->interrupt();
+    const auto reports = parentWidget()->findChildren<SettingsReport *>();
+    for (SettingsReport *report : reports)
+        report->setReachable(reachable);
+    update();
 }
 
 void SettingsMenu::update()
 {
     for (QAction *action : {m_save, m_load, m_compare})
-        action->setEnabled(m_nodeMap);
+        action->setEnabled(m_nodeMap && m_isReachable);
 }
 
 void SettingsMenu::askForFile(const QString &title, bool isNew, const std::function<void(const QString &)> &use)
@@ -134,6 +149,7 @@ void SettingsMenu::start(const QString &title, const Work &work, const std::func
     m_job = std::make_unique<SettingsJob>(title, work, parentWidget());
     connect(m_job.get(), &SettingsJob::ended, this, &SettingsMenu::finish);
     m_job->show();
+    Q_EMIT busyChanged(true);
 }
 
 void SettingsMenu::finish()
@@ -143,7 +159,12 @@ void SettingsMenu::finish()
     job->disconnect(this); // it may be about to tell its end
     job->hide();
     job->deleteLater(); // this may be a slot of it
-    std::exchange(m_whenDone, {})();
+    Q_EMIT busyChanged(false);
+    const std::function<void()> whenDone = std::exchange(m_whenDone, {});
+    if (job->failure().isEmpty())
+        whenDone();
+    else
+        warn(tr("%1 has failed: %2").arg(job->windowTitle(), job->failure()));
 }
 
 /** Acts at once, or when the camera has stopped sending pictures, if a person agrees to that. */
@@ -156,12 +177,16 @@ void SettingsMenu::whenUnlocked(const QString &title, const std::function<void()
                                       QMessageBox::Cancel, parentWidget());
     box->setAttribute(Qt::WA_DeleteOnClose);
     const QPushButton *const stopping = box->addButton(tr("&Stop the Pictures"), QMessageBox::AcceptRole);
-    connect(box, &QMessageBox::buttonClicked, this, [this, title, go, stopping](const QAbstractButton *button) {
+    const auto goOn = [this, go, camera = m_camera] {
+        if (camera == m_camera) // no other one was asked about
+            go();
+    };
+    connect(box, &QMessageBox::buttonClicked, this, [this, title, goOn, stopping](const QAbstractButton *button) {
         if (button != stopping)
             return;
         constexpr int mostAttempts = 100;
         Q_EMIT stopWanted();
-        waitUntilUnlocked(title, go, mostAttempts);
+        waitUntilUnlocked(title, goOn, mostAttempts);
     });
     box->open();
 }
@@ -179,7 +204,8 @@ void SettingsMenu::waitUntilUnlocked(const QString &title, const std::function<v
 
 bool SettingsMenu::isLocked() const
 {
-    GenApi::INode *const lock = m_nodeMap ? FeatureMap(*m_nodeMap).feature("TLParamsLocked") : nullptr;
+    GenApi::INode *lock = nullptr;
+    failureOf([&] { lock = m_nodeMap ? m_nodeMap->GetNode("TLParamsLocked") : nullptr; });
     const FeatureValue value = lock ? readValue(lock) : FeatureValue();
     return value.failure.isEmpty() && value.text.toInt() != 0;
 }
@@ -191,27 +217,33 @@ void SettingsMenu::saveTo(const QString &path)
 
 void SettingsMenu::save(const QString &path)
 {
-    if (!m_nodeMap)
+    if (!m_nodeMap || !isFile(path))
         return;
     const auto task = std::make_shared<Task>();
     task->path = path;
     const auto work = [task, map = m_nodeMap](const SettingsProgress &progress) {
+        SettingsSaver saver(*map, progress);
         try {
-            task->file = SettingsSaver(*map, progress).save();
+            task->file = saver.save();
+            progress(0, 0, {}); // the camera may have gone meanwhile
             writeSettings(task->file, task->path);
             task->isDone = true;
         } catch (const SettingsError &e) {
             task->failure = e.message;
+        } catch (const SettingsInterrupted &) {
+            task->failure = tr("Saving was interrupted.");
         }
+        task->file.remarks = saver.remarks();
     };
     start(tr("Save Settings"), work, [this, task] { reportSaved(*task); });
 }
 
 void SettingsMenu::reportSaved(const Task &task)
 {
-    if (!task.isDone)
-        return warn(task.failure.isEmpty() ? tr("Saving was interrupted; there is no file.") : task.failure);
-    const QString summary = tr("Lines saved in '%1': %2").arg(task.path).arg(task.file.settings.size());
+    const QString summary = task.isDone ? tr("Lines saved in '%1': %2").arg(task.path).arg(task.file.settings.size())
+                                        : tr("%1 Nothing was written to '%2'.").arg(task.failure, task.path);
+    if (!task.isDone && task.file.remarks.isEmpty())
+        return warn(summary);
     Q_EMIT told(summary);
     if (!task.file.remarks.isEmpty())
         report(tr("Save Settings"), summary, {tr("What is missing, and why")}, rowsOf(task.file.remarks, 1));
@@ -219,13 +251,15 @@ void SettingsMenu::reportSaved(const Task &task)
 
 void SettingsMenu::loadFrom(const QString &path)
 {
-    if (!m_nodeMap)
+    if (!m_nodeMap || !isFile(path))
         return;
     const auto task = std::make_shared<Task>();
     task->path = path;
-    const auto work = [task](const SettingsProgress &) {
+    task->camera = m_camera;
+    const auto work = [task](const SettingsProgress &progress) {
+        task->failure = tr("Loading was interrupted: nothing has been set.");
         try {
-            task->file = readSettings(task->path);
+            task->file = readSettings(task->path, progress);
             task->isDone = true;
         } catch (const SettingsError &e) {
             task->failure = e.message;
@@ -254,7 +288,7 @@ void SettingsMenu::askAboutDevice(const std::shared_ptr<Task> &task)
     box->setTextFormat(Qt::PlainText); // the file and the camera have a part in it
     const QAbstractButton *const loading = box->addButton(tr("&Load"), QMessageBox::AcceptRole);
     connect(box, &QMessageBox::buttonClicked, this, [this, task, loading](const QAbstractButton *button) {
-        if (button == loading && m_nodeMap)
+        if (button == loading && task->camera == m_camera)
             load(task);
     });
     box->open();
@@ -271,7 +305,7 @@ void SettingsMenu::write(const std::shared_ptr<Task> &task)
     if (!m_nodeMap)
         return;
     const auto work = [task, map = m_nodeMap](const SettingsProgress &progress) {
-        task->loader = std::make_unique<SettingsLoader>(*map, task->file);
+        task->loader = std::make_unique<SettingsLoader>(*map, task->file, progress);
         task->loader->load(progress);
         task->results = task->loader->results();
     };
@@ -290,8 +324,11 @@ void SettingsMenu::putBack(const std::shared_ptr<Task> &task)
 
 void SettingsMenu::reportLoaded(const std::shared_ptr<Task> &task, bool isPutBack)
 {
+    if (!task->loader)
+        return warn(task->failure); // before it was there
     const QStringList columns{tr("Feature"), tr("Wanted"), tr("Camera"), tr("Reason")};
     QVector<ReportRow> rows = rowsOf(task->file.remarks, columns.size());
+    int others = 0;
     const bool isComplete = task->loader->isComplete();
     int set = 0;
     int failed = 0;
@@ -300,36 +337,42 @@ void SettingsMenu::reportLoaded(const std::shared_ptr<Task> &task, bool isPutBac
         const bool hasFailed = result.state == SettingResult::State::Different;
         set += isSet ? 1 : 0;
         failed += hasFailed ? 1 : 0;
-        if (hasFailed || (isSet && !isComplete))
-            rows.append({textOf(result.setting.name),
-                         {nameWithContext(result.setting.name, result.context), textOf(result.setting.value),
-                          textOf(result.has), isSet ? tr("It has been set.") : result.reason}});
+        if (!hasFailed && (!isSet || (isComplete && result.reason.isEmpty())))
+            continue;
+        if (rows.size() >= mostRows && ++others > 0)
+            continue;
+        rows.append({textOf(result.setting.name),
+                     {nameWithContext(result.setting.name, result.context), textOf(result.setting.value),
+                      textOf(result.has), result.reason.isEmpty() ? tr("It has been set.") : result.reason}});
     }
-    const QString summary = tr("%1 of %2 settings have been set, %3 could not be set; the others were so already.")
-                                .arg(set)
-                                .arg(task->results.size())
-                                .arg(failed);
+    const QString text = isPutBack
+        ? tr("%1 of %2 settings have been put back, %3 could not be put back; the others were so already.")
+        : tr("%1 of %2 settings have been set, %3 could not be set; the others were so already.");
+    const QString summary = text.arg(set).arg(task->results.size()).arg(failed);
     Q_EMIT told(summary);
     if (rows.isEmpty() && isComplete)
         return;
     const QString whole = isComplete ? summary : tr("It was interrupted.") + QLatin1Char(' ') + summary;
-    SettingsReport *const window = report(isPutBack ? tr("Put Back") : tr("Load Settings"), whole, columns, rows);
-    if (isPutBack || !m_nodeMap || !task->loader->hasWritten())
+    SettingsReport *const window =
+        report(isPutBack ? tr("Put Back") : tr("Load Settings"), whole, columns, rows, others);
+    const bool isBack = isPutBack && isComplete;
+    if (isBack || !m_nodeMap || !task->loader->hasWritten())
         return;
     window->offerPutBack();
+    window->setReachable(m_isReachable);
     connect(window, &SettingsReport::putBackWanted, this, [this, task] { putBack(task); });
 }
 
 void SettingsMenu::compareWith(const QString &path)
 {
-    if (!m_nodeMap)
+    if (!m_nodeMap || !isFile(path))
         return;
     const auto task = std::make_shared<Task>();
     task->path = path;
     const auto work = [task, map = m_nodeMap](const SettingsProgress &progress) {
         try {
-            task->file = readSettings(task->path);
-            task->differences = compareWithCamera(task->file, *map, progress);
+            task->file = readSettings(task->path, progress);
+            task->differences = compareWithCamera(task->file, *map, task->file.remarks, progress);
             task->isDone = true;
         } catch (const SettingsError &e) {
             task->failure = e.message;
@@ -339,7 +382,11 @@ void SettingsMenu::compareWith(const QString &path)
         SettingsReport *const window = reportCompared(*task, task->path, tr("Camera"));
         if (!window || !m_nodeMap)
             return;
-        connect(window, &QDialog::finished, this, [this] { Q_EMIT featuresMarked({}); });
+        m_marking = window;
+        connect(window, &QDialog::finished, this, [this, window] {
+            if (m_marking == window) // and no newer one
+                Q_EMIT featuresMarked({});
+        });
         QStringList names;
         for (const SettingDifference &difference : qAsConst(task->differences))
             names.append(textOf(difference.name));
@@ -349,12 +396,15 @@ void SettingsMenu::compareWith(const QString &path)
 
 void SettingsMenu::compareFiles(const QString &left, const QString &right)
 {
+    if (!isFile(left) || !isFile(right))
+        return;
     const auto task = std::make_shared<Task>();
-    const auto work = [task, left, right, map = m_nodeMap](const SettingsProgress &) {
+    const auto work = [task, left, right, map = m_nodeMap](const SettingsProgress &progress) {
+        const std::unique_ptr<FeatureMap> camera = map ? std::make_unique<FeatureMap>(*map) : nullptr;
         try {
-            task->file = readSettings(left);
-            const SettingsFile other = readSettings(right);
-            task->differences = compareSettings(task->file, other, map ? selectorsOf(*map) : SelectorNames());
+            task->file = readSettings(left, progress);
+            const SettingsFile other = readSettings(right, progress);
+            task->differences = compareSettings(task->file, other, camera.get());
             task->file.remarks += other.remarks;
             task->isDone = true;
         } catch (const SettingsError &e) {
@@ -367,7 +417,9 @@ void SettingsMenu::compareFiles(const QString &left, const QString &right)
 SettingsReport *SettingsMenu::reportCompared(const Task &task, const QString &left, const QString &right)
 {
     if (!task.isDone) {
-        warn(task.failure.isEmpty() ? tr("Comparing was interrupted.") : task.failure);
+        QStringList lines{task.failure.isEmpty() ? tr("Comparing was interrupted.") : task.failure};
+        constexpr int mostRemarks = 10; // in a message
+        warn((lines + task.file.remarks.mid(0, mostRemarks)).join(QLatin1Char('\n')));
         return nullptr;
     }
     const QStringList columns{tr("Feature"), QFileInfo(left).fileName(), QFileInfo(right).fileName(), tr("Reason")};
@@ -376,22 +428,36 @@ SettingsReport *SettingsMenu::reportCompared(const Task &task, const QString &le
         QString reason = difference.reason;
         if (reason.isEmpty() && !(difference.isLeft && difference.isRight))
             reason = tr("Only in '%1'.").arg(difference.isLeft ? left : right);
+        if (rows.size() >= mostRows)
+            break;
         rows.append({textOf(difference.name),
                      {nameWithContext(difference.name, difference.context), textOf(difference.left),
                       textOf(difference.right), reason}});
     }
+    const int others = task.file.remarks.size() + task.differences.size() - rows.size();
     return report(tr("Compare"),
                   tr("Differences between '%1' and '%2': %3").arg(left, right).arg(task.differences.size()), columns,
-                  rows);
+                  rows, others);
 }
 
 SettingsReport *SettingsMenu::report(const QString &title, const QString &summary, const QStringList &columns,
-                                     const QVector<ReportRow> &rows)
+                                     QVector<ReportRow> rows, int others)
 {
+    if (others > 0)
+        rows.append({QString(), remarkCells(tr("And %1 more.").arg(others), columns.size())});
     auto *const window = new SettingsReport(title, summary, columns, rows, parentWidget());
     connect(window, &SettingsReport::featureChosen, this, &SettingsMenu::featureChosen);
     window->show();
     return window;
+}
+
+/** Opening others may last for ever, and nobody could interrupt that. */
+bool SettingsMenu::isFile(const QString &path)
+{
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile())
+        warn(tr("'%1' is no file.").arg(path));
+    return !info.exists() || info.isFile();
 }
 
 void SettingsMenu::warn(const QString &message)

@@ -44,6 +44,9 @@ public:
     void restoreSettings(const QSettings &settings);
 
 Q_SIGNALS:
+    /** Selectors move from now on; or no longer. */
+    void busyChanged(bool busy);
+
     /** The result of a command, for the status bar. */
     void told(const QString &message);
 
@@ -76,7 +79,8 @@ private:
     void reportLoaded(const std::shared_ptr<Task> &task, bool isPutBack);
     SettingsReport *reportCompared(const Task &task, const QString &left, const QString &right);
     SettingsReport *report(const QString &title, const QString &summary, const QStringList &columns,
-                           const QVector<ReportRow> &rows);
+                           QVector<ReportRow> rows, int others = 0);
+    bool isFile(const QString &path);
     void warn(const QString &message);
     void update();
 
@@ -84,6 +88,9 @@ private:
     QAction *const m_load;
     QAction *const m_compare;
     GenApi::INodeMap *m_nodeMap = nullptr;
+    int m_camera = 0; ///< its number, for what was begun with it
+    bool m_isReachable = true;
+    QPointer<SettingsReport> m_marking; ///< the report whose features are marked
     QString m_folder;
     std::unique_ptr<SettingsJob> m_job;
     std::function<void()> m_whenDone; ///< the job

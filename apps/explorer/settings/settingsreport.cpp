@@ -114,12 +114,19 @@ SettingsReport::SettingsReport(const QString &title, const QString &summary, con
 
 void SettingsReport::offerPutBack()
 {
+    m_canPutBack = true;
     m_putBack->show();
 }
 
 void SettingsReport::withdrawPutBack()
 {
+    m_canPutBack = false;
     m_putBack->setEnabled(false);
+}
+
+void SettingsReport::setReachable(bool reachable)
+{
+    m_putBack->setEnabled(reachable && m_canPutBack);
 }
 
 /** Return leads to the feature: it must not press the button that closes. */

@@ -29,6 +29,9 @@ public:
     /** The camera is no longer there to be put back. */
     void withdrawPutBack();
 
+    /** It cannot be put back while it is lost. */
+    void setReachable(bool reachable);
+
 Q_SIGNALS:
     /** A person wants to see the feature. */
     void featureChosen(const QString &name);
@@ -44,4 +47,5 @@ private:
 
     QTreeView *const m_view;
     QPushButton *const m_putBack;
+    bool m_canPutBack = false;
 };

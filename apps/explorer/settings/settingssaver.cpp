@@ -44,12 +44,13 @@ void addEntries(GenApi::IInteger &selector, QVector<QByteArray> &entries)
 }
 
 /** What can be chosen at the moment, perhaps one more than the limit; \a now where nothing is known. */
-QVector<QByteArray> entriesOf(INode *selector, const QByteArray &now)
+QVector<QByteArray> entriesOf(INode *selector, const QByteArray &now, QString &failure)
 {
     QVector<QByteArray> entries;
-    if (!isWritable(selector))
+    failure = lockedReason(selector);
+    if (!failure.isEmpty())
         return {now};
-    failureOf([&] {
+    failure = failureOf([&] {
         if (auto *const enumeration = dynamic_cast<GenApi::IEnumeration *>(selector))
             addEntries(*enumeration, entries);
         else if (auto *const integer = dynamic_cast<GenApi::IInteger *>(selector))
@@ -159,6 +160,8 @@ SettingsSaver::~SettingsSaver() = default;
 SettingsFile SettingsSaver::save()
 {
     m_file = {m_map.device(), {}, {}};
+    m_first = nullptr;
+    m_size = 0;
     plan();
     m_done = 0;
     saveItems(*m_root);
@@ -246,7 +249,10 @@ void SettingsSaver::saveBlock(const Block &block)
 
 void SettingsSaver::saveEntries(const Block &block, const QByteArray &now)
 {
-    QVector<QByteArray> entries = entriesOf(block.selector, now);
+    QString failure;
+    QVector<QByteArray> entries = entriesOf(block.selector, now, failure);
+    if (!failure.isEmpty())
+        remark(block.selector, Text::tr("Not all that it selects is saved: %1").arg(failure));
     const auto isNow = [&](const QByteArray &entry) { return isSameValue(now, entry, kindOf(block.selector)); };
     if (entries.size() > mostCombinations || std::none_of(entries.cbegin(), entries.cend(), isNow))
         entries.prepend(now); // it is there, whatever is cut
@@ -257,7 +263,7 @@ void SettingsSaver::saveEntries(const Block &block, const QByteArray &now)
         tell(block.selector);
         if (m_combinations++ >= mostCombinations)
             return remark(block.selector, Text::tr("It has too many entries: not all of them are saved."));
-        const QString failure = ensureValue(block.selector, entry);
+        failure = ensureValue(block.selector, entry, m_context.isEmpty());
         if (!failure.isEmpty()) {
             remark(block.selector,
                    Text::tr("What '%1' selects is not saved: %2").arg(QString::fromUtf8(entry), failure));
@@ -271,17 +277,33 @@ void SettingsSaver::saveEntries(const Block &block, const QByteArray &now)
 void SettingsSaver::saveFeature(INode *feature)
 {
     tell(feature);
-    if (!isReadable(feature) || !isWritable(feature))
+    GenApi::EAccessMode mode = GenApi::NA;
+    FeatureValue value;
+    value.failure = failureOf([&] { mode = feature->GetAccessMode(); });
+    if (value.failure.isEmpty() && !(GenApi::IsReadable(mode) && GenApi::IsWritable(mode)))
         return;
-    const FeatureValue value = readValue(feature);
+    if (value.failure.isEmpty())
+        value = readValue(feature);
+    if (value.failure.isEmpty())
+        value.failure = failureOfText(feature, value.text);
     if (!value.failure.isEmpty())
-        remark(feature, value.failure);
-    else if (hasLineBreak(value.text))
-        remark(feature, lineBreakReason());
-    else
-        add(nameOf(feature), value.text);
-    if (value.failure.isEmpty() && !m_first)
+        return remark(feature, value.failure);
+    if (!m_first && m_map.selectorsOf(feature).empty())
         m_first = feature;
+    add(nameOf(feature), value.text);
+}
+
+/** Why no line of a file can hold it, empty if one can. */
+QString SettingsSaver::failureOfText(INode *feature, const QByteArray &text)
+{
+    Setting setting{nameOf(feature), text, 0};
+    if (hasLineBreak(text))
+        return lineBreakReason();
+    if (m_map.withSelectors(setting).size() > 1)
+        return Text::tr("Its text would be taken for selectors.");
+    m_size += setting.name.size() + text.size() + 2;
+    const bool isTooLong = setting.name.size() + text.size() + 1 > longestLine || m_size > longestFile / 2;
+    return isTooLong ? Text::tr("It is too large for a file.") : QString();
 }
 
 /** Behind the lines of its selectors. */

@@ -18,6 +18,9 @@ public:
 
     SettingsFile save();
 
+    /** What is missing so far, selectors that could not be put back among it. */
+    const QStringList &remarks() const { return m_file.remarks; }
+
     /** How many combinations of entries are visited below one selector. */
     static constexpr int mostCombinations = 20000;
 
@@ -32,6 +35,7 @@ private:
     void saveBlock(const Block &block);
     void saveEntries(const Block &block, const QByteArray &now);
     void saveFeature(GenApi::INode *feature);
+    QString failureOfText(GenApi::INode *feature, const QByteArray &text);
     void add(const QByteArray &name, const QByteArray &value);
     void remark(GenApi::INode *feature, const QString &why);
     void tell(GenApi::INode *feature);
@@ -40,7 +44,8 @@ private:
     const SettingsProgress m_progress;
     SettingsFile m_file;
     std::unique_ptr<Block> m_root;
-    GenApi::INode *m_first = nullptr; ///< that could be read
+    GenApi::INode *m_first = nullptr; ///< a feature that could be read, whatever is selected
+    qint64 m_size = 0; ///< of the file, about
     QVector<Setting> m_context; ///< selectors with their entries, outside in
     int m_written = 0; ///< of them, lines in the file already
     int m_combinations = 0; ///< visited below the present outermost selector

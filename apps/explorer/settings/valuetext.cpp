@@ -16,6 +16,48 @@ std::optional<quint64> integerOf(const QByteArray &text)
     return isFine ? std::make_optional(value) : std::nullopt;
 }
 
+bool isSameNumber(const QByteArray &left, const QByteArray &right)
+{
+    const std::optional<double> first = numberOf(left);
+    const std::optional<double> second = numberOf(right);
+    if (!first || !second || !std::isfinite(*first) || !std::isfinite(*second))
+        return false; // the same text at best
+    constexpr double rounding = 1e-12;
+    return std::fabs(*first - *second) <= std::max(std::fabs(*first), std::fabs(*second)) * rounding;
+}
+
+bool isHex(const QByteArray &text)
+{
+    return text.startsWith("0x") || text.startsWith("0X");
+}
+
+} // namespace
+
+bool isSameValue(const QByteArray &left, const QByteArray &right, GenApi::EInterfaceType kind)
+{
+    return normalValue(left, kind) == normalValue(right, kind)
+        || (kind == GenApi::intfIFloat && isSameNumber(left, right));
+}
+
+bool isSameValue(const QByteArray &left, const QByteArray &right)
+{
+    if (isHex(left) && isHex(right))
+        return isSameValue(left, right, GenApi::intfIInteger);
+    return left == right || (left.contains('.') && right.contains('.') && isSameNumber(left, right));
+}
+
+QByteArray normalValue(const QByteArray &text, GenApi::EInterfaceType kind)
+{
+    if (kind == GenApi::intfIInteger) {
+        const std::optional<quint64> value = integerOf(text);
+        return value ? QByteArray::number(*value) : text;
+    }
+    if (kind != GenApi::intfIBoolean)
+        return text;
+    const QByteArray lower = text.trimmed().toLower();
+    return lower == "true" ? QByteArray("1") : lower == "false" ? QByteArray("0") : lower;
+}
+
 std::optional<double> numberOf(const QByteArray &text)
 {
     bool isFine = false;
@@ -23,59 +65,12 @@ std::optional<double> numberOf(const QByteArray &text)
     return isFine ? std::make_optional(value) : std::nullopt;
 }
 
-/** The worth of one in the last digit of a number's text. */
-double lastDigitOf(const QByteArray &text)
+double lastDigitOf(double value, GenApi::EDisplayNotation notation, qint64 precision)
 {
-    const QByteArray lower = text.toLower();
-    const int exponent = lower.indexOf('e');
-    const QByteArray digits = exponent < 0 ? lower : lower.left(exponent);
-    const int point = digits.indexOf('.');
-    const int decimals = point < 0 ? 0 : digits.size() - point - 1;
-    return std::pow(10.0, (exponent < 0 ? 0 : lower.mid(exponent + 1).toInt()) - decimals);
-}
-
-bool isNear(const QByteArray &wanted, const QByteArray &has, double tolerance)
-{
-    const std::optional<double> left = numberOf(wanted);
-    const std::optional<double> right = numberOf(has);
-    if (!left || !right || !std::isfinite(*left) || !std::isfinite(*right))
-        return false; // the same text at best
-    constexpr double rounding = 1e-12;
-    const double magnitude = std::max(std::fabs(*left), std::fabs(*right));
-    return std::fabs(*left - *right) <= tolerance * (1 + 1e-6) + magnitude * rounding;
-}
-
-bool isSameInteger(const QByteArray &left, const QByteArray &right)
-{
-    const std::optional<quint64> value = integerOf(left);
-    return value && value == integerOf(right);
-}
-
-QByteArray truthOf(const QByteArray &text)
-{
-    const QByteArray lower = text.trimmed().toLower();
-    return lower == "true" ? QByteArray("1") : lower == "false" ? QByteArray("0") : lower;
-}
-
-} // namespace
-
-bool isSameValue(const QByteArray &wanted, const QByteArray &has, GenApi::EInterfaceType kind)
-{
-    if (wanted == has)
-        return true;
-    switch (kind) {
-    case GenApi::intfIInteger:
-        return isSameInteger(wanted, has);
-    case GenApi::intfIFloat:
-        return isNear(wanted, has, lastDigitOf(wanted));
-    case GenApi::intfIBoolean:
-        return truthOf(wanted) == truthOf(has);
-    default:
-        return false;
-    }
-}
-
-bool isSameValue(const QByteArray &left, const QByteArray &right)
-{
-    return left == right || isSameInteger(left, right) || isNear(left, right, 0);
+    const double decimals = double(std::clamp<qint64>(precision, 0, 300));
+    if (notation == GenApi::fnFixed)
+        return std::pow(10.0, -decimals);
+    const double first = value == 0 ? 0 : std::floor(std::log10(std::fabs(value)));
+    const double others = notation == GenApi::fnScientific ? decimals : std::max(decimals - 1, 0.0);
+    return std::pow(10.0, first - others);
 }
