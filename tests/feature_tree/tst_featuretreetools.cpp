@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QMenu>
+#include <QWhatsThisClickedEvent>
 
 #include <functional>
 #include <utility>
@@ -312,10 +313,16 @@ void FeatureTreeToolsTest::reasonsFollowTheCameraAndLead()
     QTRY_VERIFY(!help->toPlainText().contains(QLatin1String("locked by Switch")));
     stage.set("Switch", 1);
     QTRY_VERIFY(help->toPlainText().contains(QLatin1String("locked by Switch")));
+    stage.node("Switch")->InvalidateNode();
+    QCoreApplication::processEvents();
+    QVERIFY(help->toPlainText().contains(QLatin1String("locked by Switch"))); // as before
     help->setFocus();
     QTest::keyClick(help, Qt::Key_Tab);
     QTest::keyClick(help, Qt::Key_Return);
     QCOMPARE(stage.current(), QStringLiteral("Switch"));
+    QWhatsThisClickedEvent clicked(QStringLiteral("feature:Width")); // in a pop-up
+    QCoreApplication::sendEvent(&stage.view, &clicked);
+    QCOMPARE(stage.current(), QStringLiteral("Width"));
 }
 
 void FeatureTreeToolsTest::readsAgainWhatIsShown()

@@ -1,6 +1,5 @@
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 
-#include <OrvCameraGuiApi/feature_tree/accessreason.h>
 #include <OrvCameraGuiApi/feature_tree/blockarena.h>
 #include <OrvCameraGuiApi/feature_tree/featurehandler.h>
 #include <OrvCameraGuiApi/feature_tree/genparamfeature.h>
@@ -150,7 +149,7 @@ public:
     bool addressesAreDeclared = false; ///< by the node map: names do not decide which integers are addresses
     const GenICam::gcstring currentAddressName = "GevCurrentIPAddress";
     std::function<void(GenApi::IValue *, const QString &)> readObserver; ///< may be empty
-    bool tellsReasons = false;
+    std::function<QString(GenApi::IValue *)> reasonTeller;
     bool isReleased = false; ///< nothing may ask a node any more
     std::vector<GenApi::CallbackHandleType> callbacks;
     std::unique_ptr<Memory> memory{new Memory}; ///< null when they have been freed
@@ -475,7 +474,8 @@ void GenParamTreeModelPrivate::observe(const GenParamFeature &feature, int role,
 QString GenParamTreeModelPrivate::whatsThis(const GenParamFeature &feature) const
 {
     const QString help = genParamWhatsThis(feature);
-    const QString reason = tellsReasons && feature.value() ? AccessReason(feature.value()).html() : QString();
+    const auto teller = reasonTeller; // it may be taken away meanwhile
+    const QString reason = teller && feature.value() ? teller(feature.value()) : QString();
     return reason.isEmpty() ? help : QStringLiteral("%1<br />%2").arg(reason, help); // where it is seen at once
 }
 
@@ -619,9 +619,9 @@ void GenParamTreeModel::setReadObserver(std::function<void(GenApi::IValue *, con
     d->readObserver = std::move(observer);
 }
 
-void GenParamTreeModel::setTellsReasons(bool on)
+void GenParamTreeModel::setReasonTeller(std::function<QString(GenApi::IValue *)> teller)
 {
-    d->tellsReasons = on;
+    d->reasonTeller = std::move(teller);
 }
 
 void GenParamTreeModel::clearError(const QModelIndex &index, int role)

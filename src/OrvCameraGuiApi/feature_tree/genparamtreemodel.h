@@ -96,9 +96,8 @@ public:
      */
     void setReadObserver(std::function<void(GenApi::IValue *feature, const QString &text)> observer);
 
-    /** Whether the What's This texts tell why a feature cannot be written, with links to "feature:NAME". Off at first.
-     */
-    void setTellsReasons(bool on);
+    /** \a teller gives the What's This texts a first line, as rich text, or an empty one. May itself be empty. */
+    void setReasonTeller(std::function<QString(GenApi::IValue *feature)> teller);
 
     /** Forgets that \a role of the feature at \a index failed, and emits errorDisappeared() if it did. */
     void clearError(const QModelIndex &index, int role);

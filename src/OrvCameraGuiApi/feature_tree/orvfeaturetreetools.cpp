@@ -123,7 +123,9 @@ public:
     void openMenu(const QModelIndex &row, const QPoint &globalPos);
     void openMenuAtCurrent();
     bool openLink(const QUrl &link);
-    bool noteReason();
+    QString tellReason(GenApi::IValue *feature);
+    void renewHelp();
+    void installTeller();
     void updateReason();
     void stopTelling();
     void reasonMayHaveChanged(const QModelIndex &cell);
@@ -144,6 +146,8 @@ public:
     bool hasContextMenu = false;
     bool tellsReasons = false;
     bool isReasonQueued = false;
+    bool isRenewing = false; ///< while the help text is made anew
+    GenApi::IValue *reasonFeature = nullptr; ///< the current one, when its reason was told
     QString shownReason; ///< that the help text has
     QStringList favorites;
     Part part;
@@ -226,7 +230,7 @@ void OrvFeatureTreeToolsPrivate::followModel()
     GenParamTreeModel *const source = model();
     if (!source)
         return;
-    source->setTellsReasons(tellsReasons);
+    installTeller();
     QObject::connect(source, &QAbstractItemModel::dataChanged, q, [this](const QModelIndex &cell) {
         reasonMayHaveChanged(cell);
         valueMayHaveChanged(cell);
@@ -509,13 +513,43 @@ void OrvFeatureTreeToolsPrivate::reasonMayHaveChanged(const QModelIndex &cell)
         q, [this] { updateReason(); }, Qt::QueuedConnection);
 }
 
-/** Whether the reason of the current feature differs from that which was noted last. */
-bool OrvFeatureTreeToolsPrivate::noteReason()
+/** For the help text of the current feature, and for What's This of any row, which may know it better. */
+QString OrvFeatureTreeToolsPrivate::tellReason(GenApi::IValue *feature)
 {
+    const QPointer<OrvFeatureTreeTools> alive(q);
+    const AccessReason reason(feature);
+    if (alive && tree && featureAt(tree->currentIndex()) == feature) {
+        const bool wasCurrent = std::exchange(reasonFeature, feature) == feature;
+        if (std::exchange(shownReason, reason.text()) != reason.text() && wasCurrent && !isRenewing)
+            QMetaObject::invokeMethod(
+                q, [this] { renewHelp(); }, Qt::QueuedConnection);
+    }
+    return reason.html();
+}
+
+/** Once, also if the reason is another one each time. */
+void OrvFeatureTreeToolsPrivate::renewHelp()
+{
+    if (!tree || !tellsReasons)
+        return;
     const OpenCalls::Call call;
     const QPointer<OrvFeatureTreeTools> alive(q);
-    const QString reason = AccessReason(featureAt(tree->currentIndex())).text();
-    return alive && std::exchange(shownReason, reason) != reason;
+    isRenewing = true;
+    Q_EMIT tree->helpOutdated();
+    if (alive)
+        isRenewing = false;
+}
+
+void OrvFeatureTreeToolsPrivate::installTeller()
+{
+    reasonFeature = nullptr;
+    GenParamTreeModel *const source = model();
+    if (source && tellsReasons)
+        source->setReasonTeller([this, alive = QPointer<OrvFeatureTreeTools>(q)](GenApi::IValue *feature) {
+            return alive ? tellReason(feature) : QString();
+        });
+    else if (source)
+        source->setReasonTeller({});
 }
 
 /** The help text is made anew later: that reads registers, and the tools may be going. */
@@ -525,8 +559,7 @@ void OrvFeatureTreeToolsPrivate::stopTelling()
         return;
     help->disconnect(q);
     help->setOpenLinks(true);
-    if (GenParamTreeModel *const source = model())
-        source->setTellsReasons(false);
+    installTeller();
     QMetaObject::invokeMethod(tree, &FeatureTree::helpOutdated, Qt::QueuedConnection);
 }
 
@@ -537,8 +570,7 @@ void OrvFeatureTreeToolsPrivate::updateReason()
     if (!tree || !tellsReasons)
         return;
     const OpenCalls::Call call;
-    if (noteReason() && tree)
-        Q_EMIT tree->helpOutdated();
+    tellReason(featureAt(tree->currentIndex())); // has it made anew
 }
 
 OrvFeatureTreeTools::OrvFeatureTreeTools(OrvGenParamTreeView *view, QObject *parent)
@@ -552,10 +584,6 @@ OrvFeatureTreeTools::OrvFeatureTreeTools(OrvGenParamTreeView *view, QObject *par
     d->tree->viewport()->installEventFilter(this);
     connect(d->tree, &FeatureTree::modelReplaced, this, [this] { d->modelReplaced(); });
     connect(d->tree, &FeatureTree::viewIsGoing, this, [this] { d->leaveView(); });
-    connect(view, &OrvGenParamTreeView::currentFeatureChanged, this, [this] {
-        if (d->tellsReasons)
-            d->noteReason();
-    });
     d->watch.setModel(d->model());
     d->followModel();
 }
@@ -599,13 +627,8 @@ void OrvFeatureTreeTools::setTellsReasons(bool on)
     d->tellsReasons = true;
     d->help->setOpenLinks(false);
     connect(d->help, &QTextBrowser::anchorClicked, this, [this](const QUrl &link) { d->openLink(link); });
-    if (GenParamTreeModel *const model = d->model())
-        model->setTellsReasons(true);
-    const OpenCalls::Call call;
-    const QPointer<FeatureTree> tree(d->tree);
-    d->noteReason();
-    if (tree)
-        Q_EMIT tree->helpOutdated();
+    d->installTeller();
+    d->renewHelp();
 }
 
 QString OrvFeatureTreeTools::reasonFor(const QString &name) const
