@@ -136,13 +136,14 @@ void TestRealStreaming::buffersInUse()
     };
     QVERIFY(QTest::qWaitFor([&] {
         keep();
-        return camera.stream->statistics().lost > 1;
+        return camera.stream->statistics().lost > 0;
     }));
     const std::uint64_t number = kept.back()->number;
     kept.clear();
     QVERIFY(camera.receives());
     keep();
     QVERIFY(!kept.empty() && kept.back()->number > number + 1);
+    QVERIFY(camera.stream->statistics().lost < 100); // frames, which have 181 packets each
     camera.stream.reset();
     QVERIFY(*std::max_element(kept.back()->data, kept.back()->data + kept.back()->size) > 0); // longer than the stream
 }

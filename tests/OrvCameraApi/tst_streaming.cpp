@@ -104,6 +104,7 @@ private Q_SLOTS:
     void buffersInUse();
     void lossAndReturn();
     void releaseWhileRunning();
+    void lossWhileStarting();
     void cameraThatHangs();
     void listener();
     void startsAndStopsFromThreads();
@@ -412,6 +413,39 @@ void TestStreaming::releaseWhileRunning()
     QTRY_VERIFY(isReleased);
     QVERIFY(other.stops());
     QCOMPARE(OrvSim::writeCount(monochrome), 4ULL);
+
+    Camera again(monochrome); // started again while it is released
+    again.stream->setListener([&] {
+        if (again.stream->state() == State::Stopping)
+            again.stream->start();
+    });
+    again.stream->start();
+    QVERIFY(again.receives());
+    again.device.reset();
+    QVERIFY(again.stops());
+    QCOMPARE(OrvSim::writeCount(monochrome), 6ULL);
+}
+
+/** In a callback that is called without the lock of the node map. */
+void TestStreaming::lossWhileStarting()
+{
+    const Camera camera(monochrome);
+    GenApi::INodeMap &map = camera.map();
+    bool isFree = false;
+    const std::function<void(GenApi::INode *)> unplug = [&](GenApi::INode *) {
+        std::thread([&] {
+            isFree = map.GetLock().TryLock();
+            if (isFree)
+                map.GetLock().Unlock();
+        }).join();
+        OrvSim::unplug(monochrome);
+    };
+    GenApi::INode *const locked = map.GetNode("TLParamsLocked");
+    const GenApi::CallbackHandleType callback = GenApi::Register(locked, unplug, GenApi::cbPostOutsideLock);
+    QVERIFY(!camera.picture());
+    QVERIFY(isFree);
+    QCOMPARE(camera.stream->failure(), std::string("The connection to the camera was lost"));
+    GenApi::Deregister(callback);
 }
 
 void TestStreaming::cameraThatHangs()

@@ -4,6 +4,7 @@
 #include "nodemaplock.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace OrvCameraApi {
@@ -45,6 +46,7 @@ std::string Acquisition::stop(bool isLost)
 
 std::uint64_t Acquisition::frameLimit() const
 {
+    const NodeMapLock lock(m_map); // mode and number belong together
     if (isChosen("AcquisitionMode", "SingleFrame"))
         return 1;
     std::int64_t count = 0;
@@ -56,6 +58,25 @@ std::uint64_t Acquisition::frameLimit() const
 bool Acquisition::isTriggered() const
 {
     return isChosen("TriggerMode", "On");
+}
+
+std::chrono::milliseconds Acquisition::frameTime() const
+{
+    const double rate = number("AcquisitionFrameRate");
+    const double microseconds = std::max(number("ExposureTime"), rate > 0 ? 1e6 / rate : 0);
+    return std::chrono::milliseconds(std::int64_t(std::min(microseconds / 1000, 3600e3)));
+}
+
+/** 0 as well if it cannot be told. */
+double Acquisition::number(const char *feature) const
+{
+    double value = 0;
+    failureOf([&] {
+        const NodeMapLock lock(m_map);
+        const GenApi::CFloatPtr number(m_map.GetNode(feature));
+        value = number.IsValid() ? number->GetValue() : 0;
+    });
+    return std::isfinite(value) ? value : 0;
 }
 
 /** False as well if that cannot be told. */

@@ -2,6 +2,7 @@
 
 #include <GenApi/INodeMap.h>
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -36,7 +37,11 @@ public:
     /** Whether the camera waits for triggers, so that no time can be told for the next frame. */
     bool isTriggered() const;
 
+    /** How long a picture takes, at most an hour; 0 if that cannot be told. */
+    std::chrono::milliseconds frameTime() const;
+
 private:
+    double number(const char *feature) const;
     bool isChosen(const char *feature, const char *entry) const;
     bool setLocked(bool locked);
     bool execute(const char *command);

@@ -129,8 +129,14 @@ public:
     /** Whether openFrames() can succeed at all. */
     virtual bool givesFrames() const { return false; }
 
-    /** Never null; may throw. Each camera has one at a time. It is destroyed before this object. */
-    virtual std::unique_ptr<FrameSource> openFrames() { throw std::runtime_error("This device gives no pictures"); }
+    /**
+     * Never null; may throw. Each camera has one at a time. It is destroyed before this object. One that is ending is
+     * waited for, as long as \a isWanted says.
+     */
+    virtual std::unique_ptr<FrameSource> openFrames(const std::function<bool()> & /*isWanted*/)
+    {
+        throw std::runtime_error("This device gives no pictures");
+    }
 };
 
 /** A device that was found on an interface. */

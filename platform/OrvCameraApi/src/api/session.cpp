@@ -23,12 +23,16 @@ std::shared_ptr<Session> Session::start(std::unique_ptr<Connection> connection)
     return session;
 }
 
-void Session::add(std::weak_ptr<StreamCore> stream)
+void Session::add(const std::shared_ptr<StreamCore> &stream)
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
+    std::unique_lock<std::mutex> lock(m_mutex);
     const auto isGone = [](const std::weak_ptr<StreamCore> &other) { return other.expired(); };
     m_streams.erase(std::remove_if(m_streams.begin(), m_streams.end(), isGone), m_streams.end());
-    m_streams.push_back(std::move(stream));
+    m_streams.push_back(stream);
+    const bool isClosed = m_isClosed;
+    lock.unlock();
+    if (isClosed)
+        stream->close();
 }
 
 std::vector<std::shared_ptr<StreamCore>> Session::streams()
@@ -44,6 +48,10 @@ std::vector<std::shared_ptr<StreamCore>> Session::streams()
 
 void Session::closeStreams()
 {
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_isClosed = true;
+    }
     for (const std::shared_ptr<StreamCore> &stream : streams())
         stream->close();
 }

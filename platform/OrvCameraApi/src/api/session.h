@@ -28,9 +28,13 @@ public:
     Connection &connection() { return *m_connection; }
     OpeningProgress progress() const { return m_connection->progress(); }
 
-    void add(std::weak_ptr<StreamCore> stream);
+    /** One that comes after closeStreams() is closed at once. */
+    void add(const std::shared_ptr<StreamCore> &stream);
 
-    /** Nothing is written by a stream after this. */
+    /**
+     * No stream begins to write after this. What a camera has not answered within a second may still be under way; so
+     * may what a callback of this thread, or a holder of the node map's lock, has interrupted.
+     */
     void closeStreams();
 
     void prepareReturn() override;
@@ -44,6 +48,7 @@ private:
     LazyParameters m_parameters;
     std::mutex m_mutex;
     std::vector<std::weak_ptr<StreamCore>> m_streams;
+    bool m_isClosed = false; ///< for streams
 };
 
 } // namespace OrvCameraApi

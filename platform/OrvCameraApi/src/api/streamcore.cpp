@@ -23,7 +23,8 @@ using namespace std::chrono_literals;
 using Clock = FrameSource::Clock;
 
 constexpr auto longestWait = 500ms; ///< between two looks whether the camera is still there
-constexpr auto patience = 15s; ///< for a frame of a counted run, which has no end otherwise
+constexpr std::chrono::milliseconds patience = 15s; ///< for a frame of a counted run, which has no end otherwise
+constexpr auto lossText = "The connection to the camera was lost";
 constexpr auto closingPatience = 1s; ///< as for an access to a camera
 
 /** Threads of streams that are gone; they wait for a camera. */
@@ -42,12 +43,13 @@ EndingThreads &endingThreads()
 
 void StreamCore::start(std::uint64_t frames)
 {
+    std::shared_ptr<const OrvStreams::Frame> former; // freed without the mutex
     const Lock lock(m_mutex);
     if (m_state == State::Stopping)
         m_next = frames;
     if (m_state != State::Stopped || m_isEnding)
         return;
-    begin(frames);
+    former = begin(frames);
     if (m_thread.joinable())
         return;
     try {
@@ -62,8 +64,8 @@ void StreamCore::start(std::uint64_t frames)
     }
 }
 
-/** With the mutex held. */
-void StreamCore::begin(std::uint64_t frames)
+/** With the mutex held. Returns the frame that nobody took. */
+std::shared_ptr<const OrvStreams::Frame> StreamCore::begin(std::uint64_t frames)
 {
     m_state = State::Starting;
     m_frames = frames;
@@ -71,8 +73,8 @@ void StreamCore::begin(std::uint64_t frames)
     m_isLost = false;
     m_failure.clear();
     m_statistics = {};
-    m_newest.reset();
     m_changed.notify_all();
+    return std::exchange(m_newest, nullptr);
 }
 
 void StreamCore::stop()
@@ -112,8 +114,9 @@ std::shared_ptr<const OrvStreams::Frame> StreamCore::take()
 
 void StreamCore::setListener(std::function<void()> listener)
 {
+    auto replaced = listener ? std::make_shared<const std::function<void()>>(std::move(listener)) : nullptr;
     Lock lock(m_mutex);
-    m_listener = listener ? std::make_shared<const std::function<void()>>(std::move(listener)) : nullptr;
+    m_listener.swap(replaced); // the former one goes without the mutex, for it may hold the last pointer to anything
     m_isTold = false;
     if (!isOwnThread())
         m_changed.wait(lock, [this] { return !m_isTelling; });
@@ -128,13 +131,16 @@ void StreamCore::connectionLost()
 
 void StreamCore::close()
 {
+    {
+        const Lock lock(m_mutex);
+        m_isClosing = true;
+    }
     stop();
     if (isOwnThread()) // in the listener, or in a callback of a node
         stopAcquisition();
     Lock lock(m_mutex);
     if (!isOwnThread() && !m_isClosed) // whoever closes again has waited already
         m_changed.wait_for(lock, closingPatience, [this] { return isIdle(); });
-    m_next.reset();
     m_isClosed = true;
 }
 
@@ -165,12 +171,15 @@ void StreamCore::run()
         tell();
         acquire();
         lock.lock();
-        if (m_next && !m_isClosed)
-            begin(*m_next);
+        std::shared_ptr<const OrvStreams::Frame> former;
+        if (m_next && !m_isClosing)
+            former = begin(*m_next);
         else
             m_state = State::Stopped;
+        m_next.reset();
         m_changed.notify_all();
         lock.unlock();
+        former.reset();
         tell();
         lock.lock();
     }
@@ -180,12 +189,12 @@ void StreamCore::acquire()
 {
     const std::string failure = failureOf([this] {
         const std::shared_ptr<Session> session = m_session.lock();
-        if (!session || isClosed())
+        if (!session || isClosing())
             fail("The device has been released");
         acquire(*session);
     });
     const Lock lock(m_mutex);
-    if (m_failure.empty())
+    if (m_failure.empty() && m_state != State::Stopping)
         m_failure = failure;
 }
 
@@ -196,26 +205,27 @@ void StreamCore::acquire(Session &session)
     if (!parameters || !session.connection().isConnected())
         fail("The camera is not connected");
     GenApi::INodeMap &map = *parameters->GetNodeMap();
-    const std::unique_ptr<FrameSource> source = session.connection().openFrames();
+    const std::unique_ptr<FrameSource> source = session.connection().openFrames([this] { return isWanted(); });
     Acquisition acquisition(map, [&](const std::function<void()> &action) { return write(map, action); });
     m_acquisition = &acquisition;
     const std::string failure = failureOf([&] {
+        if (!isWanted())
+            return;
         acquisition.lockFeatures();
-        source->prepare(map, [this] { wake(); });
-        const std::uint64_t ofMode = acquisition.frameLimit();
-        const bool isTriggered = acquisition.isTriggered();
-        {
-            const Lock lock(m_mutex);
-            if (isStopping())
-                return;
-        }
-        acquisition.start();
-        receive(session, *source, ofMode, isTriggered);
+        // The source may call for longer than this object lives. What it writes counts as well.
+        const auto wake = [weak = weak_from_this()] {
+            if (const std::shared_ptr<StreamCore> core = weak.lock())
+                core->wake();
+        };
+        if (isWanted() && write(map, [&] { source->prepare(map, wake); }))
+            receive(session, *source, acquisition);
     });
+    const bool isConnected = session.connection().isConnected();
     {
         const Lock lock(m_mutex);
+        m_isLost = m_isLost || !isConnected;
         if (!failure.empty() && m_state != State::Stopping)
-            m_failure = failure;
+            m_failure = m_isLost ? lossText : failure; // what has failed has failed for that
         m_state = State::Stopping;
     }
     tell();
@@ -239,9 +249,15 @@ void StreamCore::stopAcquisition()
         m_failure = failure;
 }
 
-/** Until the end of the run. \a ofMode: the frames that the camera sends by itself. */
-void StreamCore::receive(Session &session, FrameSource &source, std::uint64_t ofMode, bool isTriggered)
+/** Starts, and ends with the run. */
+void StreamCore::receive(Session &session, FrameSource &source, Acquisition &acquisition)
 {
+    const std::uint64_t ofMode = acquisition.frameLimit();
+    const bool isTriggered = acquisition.isTriggered();
+    const std::chrono::milliseconds longest = std::max(patience, 2 * acquisition.frameTime());
+    if (!isWanted())
+        return;
+    acquisition.start();
     std::uint64_t limit = 0;
     {
         const Lock lock(m_mutex);
@@ -252,14 +268,16 @@ void StreamCore::receive(Session &session, FrameSource &source, std::uint64_t of
     tell();
     Clock::time_point last = Clock::now();
     while (waitUntil(std::min(source.nextLook(), Clock::now() + longestWait))) {
-        if (!session.connection().isConnected())
+        if (!session.connection().isConnected()) {
             connectionLost();
+            continue;
+        }
         FrameSource::Look look = source.look();
         const Clock::time_point now = Clock::now();
         if (look.frame || look.lost != 0)
             last = now;
-        else if (limit != 0 && !isTriggered && now - last > patience)
-            fail("The camera has sent no picture");
+        else if (limit != 0 && !isTriggered && now - last > longest)
+            fail("No picture has been received");
         const bool isFrame = look.frame != nullptr;
         const bool isOver = publish(std::move(look), limit);
         if (isFrame)
@@ -284,15 +302,27 @@ bool StreamCore::publish(FrameSource::Look look, std::uint64_t limit)
     return limit != 0 && m_statistics.received + m_statistics.lost >= limit;
 }
 
-/** False when it is time to stop. Throws when the camera is lost. */
+/** With the mutex held: false when it is time to stop. Throws when the camera is lost. */
+bool StreamCore::goesOn() const
+{
+    if (m_isLost && m_state != State::Stopping)
+        fail(lossText);
+    return !isStopping();
+}
+
+bool StreamCore::isWanted() const
+{
+    const Lock lock(m_mutex);
+    return goesOn();
+}
+
+/** As goesOn() says. */
 bool StreamCore::waitUntil(Clock::time_point time)
 {
     Lock lock(m_mutex);
     m_changed.wait_until(lock, time, [this] { return isStopping() || m_isWoken; });
     m_isWoken = false;
-    if (m_isLost && m_state != State::Stopping)
-        fail("The connection to the camera was lost");
-    return !isStopping();
+    return goesOn();
 }
 
 void StreamCore::wake()
@@ -303,13 +333,14 @@ void StreamCore::wake()
 }
 
 /**
- * Whoever closes may hold the lock of the node map, so that is taken first. After close() no write begins, as one that
- * has begun is waited for.
+ * After close() no write begins, as one that has begun is waited for. Whoever closes may hold the lock of the node map,
+ * and then nothing gets past here; but the action runs without that lock, since it calls callbacks that applications
+ * want to be called outside of it.
  */
 bool StreamCore::write(GenApi::INodeMap &map, const std::function<void()> &action)
 {
-    const NodeMapLock mapLock(map);
     {
+        const NodeMapLock mapLock(map);
         const Lock lock(m_mutex);
         if (m_isClosed)
             return false;

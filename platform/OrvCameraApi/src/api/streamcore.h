@@ -54,20 +54,22 @@ private:
     using Lock = std::unique_lock<std::mutex>;
     using State = OrvStreams::State;
 
-    void begin(std::uint64_t frames);
+    std::shared_ptr<const OrvStreams::Frame> begin(std::uint64_t frames);
     void run();
     void acquire();
     void acquire(Session &session);
-    void receive(Session &session, FrameSource &source, std::uint64_t limit, bool isTriggered);
+    void receive(Session &session, FrameSource &source, Acquisition &acquisition);
     bool publish(FrameSource::Look look, std::uint64_t limit);
     bool waitUntil(FrameSource::Clock::time_point time);
     bool write(GenApi::INodeMap &map, const std::function<void()> &action);
     void stopAcquisition();
-    bool isStopping() const { return m_state == State::Stopping || m_isLost; }
-    bool isClosed() const
+    bool isStopping() const { return m_state == State::Stopping || m_isLost || m_isClosing; }
+    bool goesOn() const;
+    bool isWanted() const;
+    bool isClosing() const
     {
         const Lock lock(m_mutex);
-        return m_isClosed;
+        return m_isClosing;
     }
     bool isIdle() const { return m_state == State::Stopped && m_writes == 0; }
     bool isOwnThread() const { return std::this_thread::get_id() == m_threadId; }
@@ -83,7 +85,8 @@ private:
     std::optional<std::uint64_t> m_next; ///< to start with, once stopped
     bool m_isLost = false;
     bool m_isWoken = false;
-    bool m_isClosed = false;
+    bool m_isClosing = false; ///< nothing begins any more
+    bool m_isClosed = false; ///< nothing is written any more
     bool m_isEnding = false;
     int m_writes = 0; ///< under way
     std::string m_failure;

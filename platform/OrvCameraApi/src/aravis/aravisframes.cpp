@@ -127,14 +127,16 @@ FrameSource::Clock::time_point AravisFrames::nextLook() const
 FrameSource::Look AravisFrames::look()
 {
     Look look;
-    look.lost = newUnderruns();
-    m_unnamed += look.lost;
+    const bool isStarved = hasNewUnderruns();
     ArvBuffer *const popped = arv_stream_try_pop_buffer(m_stream.get());
     gint waiting = 0;
     arv_stream_get_n_buffers(m_stream.get(), nullptr, &waiting);
     m_isMore = popped && waiting > 0;
-    if (!popped)
+    if (!popped) {
+        if (isStarved && m_unnamed == 0)
+            look.lost = m_unnamed = 1; // or more: the identifier of the next one tells
         return look;
+    }
     const std::shared_ptr<ArvBuffer> buffer(popped, [buffers = m_buffers](ArvBuffer *used) { buffers->push(used); });
     look.lost += missing(arv_buffer_get_frame_id(popped));
     if (isComplete(popped))
@@ -143,13 +145,12 @@ FrameSource::Look AravisFrames::look()
     return look;
 }
 
-/** Frames for which there was no buffer. */
-std::uint64_t AravisFrames::newUnderruns()
+/** Whether there was no buffer for something. Aravis counts frames or, of network cameras, packets. */
+bool AravisFrames::hasNewUnderruns()
 {
     guint64 underruns = 0;
     arv_stream_get_statistics(m_stream.get(), nullptr, nullptr, &underruns);
-    const std::uint64_t former = std::exchange(m_underruns, std::max<std::uint64_t>(underruns, m_underruns));
-    return m_underruns - former;
+    return std::exchange(m_underruns, underruns) != underruns;
 }
 
 /** Frames before that one of which not even a part has come, as far as they are not counted yet. */
@@ -162,8 +163,10 @@ std::uint64_t AravisFrames::missing(std::uint64_t id)
         return 0;
     const bool isShort = last <= period && id <= period;
     const std::uint64_t way = id > last ? id - last : (isShort ? id + period - last : 0);
-    const bool isPlausible = way > 0 && way < period / 2; // otherwise the camera counts anew
-    return isPlausible && way - 1 > known ? way - 1 - known : 0;
+    if (way == 0 || way >= period / 2)
+        return 0; // the camera counts anew
+    m_unnamed = known - std::min(known, way - 1); // a frame that was begun before may end after them
+    return way - 1 - (known - m_unnamed);
 }
 
 /** Null if the buffer does not hold what it says. Throws for what is no picture at all. */

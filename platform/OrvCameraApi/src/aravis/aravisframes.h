@@ -28,7 +28,7 @@ private:
 
     static void called(void *self, ArvStreamCallbackType type, ArvBuffer *);
     void pushBuffers(std::size_t size);
-    std::uint64_t newUnderruns();
+    bool hasNewUnderruns();
     std::uint64_t missing(std::uint64_t id);
     std::shared_ptr<OrvStreams::Frame> frame(std::shared_ptr<ArvBuffer> buffer) const;
 

@@ -285,11 +285,11 @@ public:
         const auto end = [ending, hasEnded] {
             ending->source.reset();
             ending->right.reset();
-            ending->camera->m_areFramesEnding = false;
+            --ending->camera->m_framesEnding;
             ending->end.set_value();
             *hasEnded = true;
         };
-        m_camera->m_areFramesEnding = true;
+        ++m_camera->m_framesEnding;
         try {
             runningCameras().close(std::thread(end), hasEnded);
         } catch (const std::system_error &) { // no further thread can be had
@@ -313,11 +313,11 @@ private:
     std::unique_ptr<FrameSource> m_source;
 };
 
-std::unique_ptr<FrameSource> RemoteCamera::openFrames()
+std::unique_ptr<FrameSource> RemoteCamera::openFrames(const std::function<bool()> &isWanted)
 {
     using namespace std::chrono_literals;
     const auto deadline = std::chrono::steady_clock::now() + 5s;
-    while (m_areFramesEnding && std::chrono::steady_clock::now() < deadline)
+    while (m_framesEnding != 0 && std::chrono::steady_clock::now() < deadline && isWanted())
         std::this_thread::sleep_for(10ms);
     return std::make_unique<Frames>(shared_from_this());
 }

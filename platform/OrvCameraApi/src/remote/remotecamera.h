@@ -76,7 +76,7 @@ public:
     void Write(const void *buffer, std::int64_t address, std::int64_t length) override;
 
     /** What receives the pictures; see Connection::openFrames(). */
-    std::unique_ptr<FrameSource> openFrames();
+    std::unique_ptr<FrameSource> openFrames(const std::function<bool()> &isWanted);
 
     /** Becomes true when the camera has been closed and its link is gone. */
     std::shared_ptr<const std::atomic<bool>> hasEnded() const { return m_hasEnded; }
@@ -137,7 +137,7 @@ private:
     std::string m_failure;
     std::vector<std::weak_ptr<ConnectionListener>> m_listeners;
     const std::shared_ptr<ReceivingRight::Taken> m_isReceiving = std::make_shared<ReceivingRight::Taken>(false);
-    std::atomic<bool> m_areFramesEnding{false}; ///< the right to receive will be free soon
+    std::atomic<int> m_framesEnding{0}; ///< the right to receive will be free soon
 
     std::thread m_thread;
     std::thread::id m_threadId; ///< also when the thread has been closed

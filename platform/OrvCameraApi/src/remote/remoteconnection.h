@@ -56,7 +56,10 @@ public:
     OpeningProgress progress() const override { return {camera().state(), camera().failure()}; }
     void setListener(std::weak_ptr<ConnectionListener> listener) override { camera().addListener(std::move(listener)); }
     bool givesFrames() const override { return true; }
-    std::unique_ptr<FrameSource> openFrames() override { return camera().openFrames(); }
+    std::unique_ptr<FrameSource> openFrames(const std::function<bool()> &isWanted) override
+    {
+        return camera().openFrames(isWanted);
+    }
 
 private:
     RemoteCamera &camera() const { return m_open->camera(); }

@@ -39,7 +39,7 @@ public:
     }
 
     bool givesFrames() const override { return true; }
-    std::unique_ptr<FrameSource> openFrames() override
+    std::unique_ptr<FrameSource> openFrames(const std::function<bool()> & /*isWanted*/) override
     {
         return std::make_unique<SimulatedFrames>(m_camera->m_isReceiving);
     }
