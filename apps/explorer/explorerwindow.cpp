@@ -106,7 +106,7 @@ ExplorerWindow::~ExplorerWindow()
     m_writes.reset();
     m_simulation->setCamera(QString(), nullptr);
     m_configure->setDevice(nullptr);
-    m_picture->setDevice(nullptr);
+    m_picture->setCamera(nullptr);
     m_view->clearParams();
 }
 
@@ -293,7 +293,7 @@ void ExplorerWindow::createHelpMenu()
     menuBar()->addMenu(tr("&Help"))->addAction(tr("&About"), this, &ExplorerWindow::showAbout);
 }
 
-void ExplorerWindow::setSource(std::unique_ptr<CameraSource> source)
+void ExplorerWindow::setSource(std::shared_ptr<CameraSource> source)
 {
     // All before the former one goes.
     m_watch = std::make_unique<CameraWatch>(source->device());
@@ -302,7 +302,7 @@ void ExplorerWindow::setSource(std::unique_ptr<CameraSource> source)
     m_simulation->setCamera(source->id(), source->nodeMap());
     m_simulation->setFeature(QString());
     m_configure->setDevice(source->device());
-    m_picture->setDevice(source->device());
+    m_picture->setCamera(source);
     if (m_source)
         m_treeStates.insert(m_source->name(), m_view->saveState());
     m_view->setParams(source->nodeMap());

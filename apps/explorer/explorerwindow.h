@@ -91,7 +91,7 @@ private:
     void createSimulationMenu();
     void createHelpMenu();
 
-    void setSource(std::unique_ptr<CameraSource> source);
+    void setSource(std::shared_ptr<CameraSource> source);
     void arrangeTree();
     void fitNames();
     void chooseCamera();
@@ -108,7 +108,7 @@ private:
     void tell(const QString &message);
     void showAbout();
 
-    std::unique_ptr<CameraSource> m_source;
+    std::shared_ptr<CameraSource> m_source; ///< kept by the end of its pictures as well
     std::unique_ptr<CameraWatch> m_watch; ///< on the camera of the source
     std::unique_ptr<WriteWatch> m_writes; ///< to it
     bool m_isReachable = true;

@@ -23,6 +23,7 @@
 #include <QTemporaryDir>
 #include <QWheelEvent>
 
+#include <future>
 #include <malloc.h>
 
 namespace {
@@ -131,6 +132,22 @@ constexpr bool hasFileDialogs =
 #else
     true;
 #endif
+
+/** Ends when a test lets it. */
+class SlowStream : public FakeStream
+{
+public:
+    explicit SlowStream(std::future<void> end)
+        : m_end(std::move(end))
+    {
+    }
+    ~SlowStream() override { m_end.wait(); }
+    SlowStream(const SlowStream &) = delete;
+    SlowStream &operator=(const SlowStream &) = delete;
+
+private:
+    const std::future<void> m_end;
+};
 
 std::size_t heapInUse()
 {
@@ -452,9 +469,20 @@ void TestPictureDock::waitsForNoCamera()
     QVERIFY(OrvSim::waitUntilStalled(colorCamera, std::chrono::seconds(20)));
     shown.press(Qt::Key_F9);
     shown.press(Qt::Key_F9);
-    shown.dock()->setDevice(nullptr);
+    shown.dock()->setCamera(nullptr);
     QVERIFY(!shown.runs());
     OrvSim::clearFaults(colorCamera);
+
+    std::promise<void> end; // the camera is not released before, which would wait for it
+    std::weak_ptr<const CameraSource> kept;
+    {
+        const std::shared_ptr<const CameraSource> camera = openCamera(QLatin1String(grayCamera));
+        kept = camera;
+        const PictureFeed feed(std::make_unique<SlowStream>(end.get_future()), camera);
+    }
+    QVERIFY(!kept.expired());
+    end.set_value();
+    QTRY_VERIFY(kept.expired());
 }
 
 void TestPictureDock::isWhereItWas()

@@ -1,6 +1,7 @@
 #include "picturedock.h"
 
 #include "actions.h"
+#include "camerasource.h"
 #include "elidedlabel.h"
 #include "histogram.h"
 #include "picturefile.h"
@@ -53,7 +54,7 @@ PictureDock::PictureDock(QWidget *parent)
     connect(m_view, &PictureView::zoomChanged, this, &PictureDock::updateKind);
     createActions();
     createWidgets();
-    setDevice(nullptr);
+    setCamera(nullptr);
 }
 
 PictureDock::~PictureDock() = default;
@@ -119,11 +120,10 @@ void PictureDock::createWidgets()
     setWidget(contents);
 }
 
-/** The former stream ends in the background. */
-void PictureDock::setDevice(OrvCam::Device *device)
+void PictureDock::setCamera(std::shared_ptr<const CameraSource> camera)
 {
     m_feed.reset();
-    m_device = device;
+    m_camera = camera && camera->device() ? std::move(camera) : nullptr;
     m_isReachable = true;
     m_state = State::Stopped;
     m_failure.clear();
@@ -159,7 +159,7 @@ void PictureDock::startOrStop()
 
 void PictureDock::start(quint64 frames)
 {
-    if (!m_device || !m_isReachable || isRunning())
+    if (!m_camera || !m_isReachable || isRunning())
         return;
     show();
     raise();
@@ -175,13 +175,13 @@ bool PictureDock::makeFeed()
     if (m_feed)
         return true;
     std::string error;
-    std::unique_ptr<OrvStreams::Stream> stream = OrvStreams::Stream::create(*m_device, &error);
+    std::unique_ptr<OrvStreams::Stream> stream = OrvStreams::Stream::create(*m_camera->device(), &error);
     if (!stream) {
         m_failure = QString::fromStdString(error);
         return false;
     }
     try {
-        m_feed = std::make_unique<PictureFeed>(std::move(stream));
+        m_feed = std::make_unique<PictureFeed>(std::move(stream), m_camera);
     } catch (const std::system_error &e) {
         m_failure = QString::fromLocal8Bit(e.what());
         return false;
@@ -267,7 +267,7 @@ void PictureDock::forget()
 /** What cannot be done says why in its tip. */
 void PictureDock::updateActions()
 {
-    const QString obstacle = !m_device ? tr("There is no camera that could send pictures")
+    const QString obstacle = !m_camera ? tr("There is no camera that could send pictures")
         : !m_isReachable               ? tr("The camera is disconnected")
                                        : QString();
     const bool runs = isRunning();

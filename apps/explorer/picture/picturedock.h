@@ -12,15 +12,12 @@
 #include <memory>
 #include <utility>
 
+class CameraSource;
 class ElidedLabel;
 class HistogramView;
 class PictureView;
 class QAction;
 class QMenu;
-
-namespace OrvCam {
-class Device;
-} // namespace OrvCam
 
 /**
  * Shows the pictures of a camera, and what there is to know about them: rate, losses, size, pixel format, the values of
@@ -34,8 +31,11 @@ public:
     explicit PictureDock(QWidget *parent = nullptr);
     ~PictureDock() override;
 
-    /** Null if there is no camera. A device must live until another one is set; a new one counts as reachable. */
-    void setDevice(OrvCam::Device *device);
+    /**
+     * Null if there is no camera; a new one counts as reachable. Pictures of the former one end in the background,
+     * which keeps it until then.
+     */
+    void setCamera(std::shared_ptr<const CameraSource> camera);
     void setReachable(bool reachable);
 
     /** Ends the pictures, if there are any; the camera may need a moment. */
@@ -78,7 +78,7 @@ private:
     void saveTo(const QString &path, const std::shared_future<QImage> &image);
     void tellUnsaved(const QString &path, const QString &why);
 
-    OrvCam::Device *m_device = nullptr;
+    std::shared_ptr<const CameraSource> m_camera; ///< null also for one without a device
     bool m_isReachable = true;
     std::unique_ptr<PictureFeed> m_feed; ///< made when it is first needed
     OrvStreams::State m_state = OrvStreams::State::Stopped;

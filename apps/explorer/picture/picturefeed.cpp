@@ -1,5 +1,6 @@
 #include "picturefeed.h"
 
+#include "camerasource.h"
 #include "picturethreads.h"
 #include "pixelformat.h"
 
@@ -14,14 +15,15 @@
 class FeedCore
 {
 public:
-    FeedCore(std::unique_ptr<OrvStreams::Stream> stream, PictureFeed *feed)
-        : m_stream(std::move(stream))
+    FeedCore(std::unique_ptr<OrvStreams::Stream> stream, std::shared_ptr<const CameraSource> camera, PictureFeed *feed)
+        : m_camera(std::move(camera))
+        , m_stream(std::move(stream))
         , m_feed(feed)
     {
         m_stream->setListener([this] { wake(); });
     }
 
-    /** The thread. The stream ends here, which may wait for a camera. */
+    /** The thread. The stream ends here, and perhaps the camera, which may wait for an answer. */
     void run()
     {
         Lock lock(m_mutex);
@@ -43,6 +45,7 @@ public:
         lock.unlock();
         m_stream->setListener(nullptr);
         m_stream.reset();
+        m_camera.reset();
     }
 
     void end()
@@ -143,6 +146,7 @@ private:
         QCoreApplication::postEvent(m_feed, new QEvent(QEvent::User));
     }
 
+    std::shared_ptr<const CameraSource> m_camera; // goes after the stream
     std::unique_ptr<OrvStreams::Stream> m_stream;
     std::mutex m_mutex;
     std::condition_variable m_changed;
@@ -164,9 +168,10 @@ RawPicture rawPicture(const OrvStreams::Frame *frame)
     return {frame->pixelFormat, frame->width, frame->height, frame->data, frame->size};
 }
 
-PictureFeed::PictureFeed(std::unique_ptr<OrvStreams::Stream> stream, QObject *parent)
+PictureFeed::PictureFeed(std::unique_ptr<OrvStreams::Stream> stream, std::shared_ptr<const CameraSource> camera,
+                         QObject *parent)
     : QObject(parent)
-    , m_core(std::make_shared<FeedCore>(std::move(stream), this))
+    , m_core(std::make_shared<FeedCore>(std::move(stream), std::move(camera), this))
 {
     inPictureThread([core = m_core] { core->run(); });
 }

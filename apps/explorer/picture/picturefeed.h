@@ -11,6 +11,7 @@
 #include <memory>
 #include <optional>
 
+class CameraSource;
 class FeedCore;
 struct RawPicture;
 
@@ -37,7 +38,9 @@ class PictureFeed : public QObject
     Q_OBJECT
 
 public:
-    explicit PictureFeed(std::unique_ptr<OrvStreams::Stream> stream, QObject *parent = nullptr);
+    /** The camera of \a stream is kept until that has ended; for null that is somebody else's business. */
+    explicit PictureFeed(std::unique_ptr<OrvStreams::Stream> stream, std::shared_ptr<const CameraSource> camera = {},
+                         QObject *parent = nullptr);
     ~PictureFeed() override;
 
     /** To start, to stop and to ask; frames and listener are not for others. */

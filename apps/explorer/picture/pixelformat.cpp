@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <new>
 #include <utility>
 
 namespace {
@@ -337,11 +338,15 @@ ConvertedPicture convertPicture(const RawPicture &picture, Depth depth, QImage &
     if (!why.isEmpty())
         return {QImage(), why};
     const bool isDeep = depth == Depth::Full && format->bits > 8;
-    QImage image = imageFor(picture, imageFormat(*format, isDeep), std::move(reuse));
-    if (image.isNull())
+    try {
+        QImage image = imageFor(picture, imageFormat(*format, isDeep), std::move(reuse));
+        if (image.isNull())
+            throw std::bad_alloc();
+        convert(*format, picture, isDeep, image);
+        return {image, shortage(picture)};
+    } catch (const std::bad_alloc &) {
         return {QImage(), Text::tr("There is not enough memory for the picture.")};
-    convert(*format, picture, isDeep, image);
-    return {image, shortage(picture)};
+    }
 }
 
 QString pixelText(const RawPicture &picture, int x, int y)
