@@ -90,11 +90,11 @@ public:
         GenApi::CFloatPtr(map.GetNode("AcquisitionFrameRate"))->SetValue(rate);
         m_window.addDockWidget(Qt::RightDockWidgetArea, &m_dock);
         m_window.resize(windowSize);
-        m_dock.setDevice(m_source->device());
+        m_dock.setCamera(m_source);
         m_window.show();
     }
 
-    ~Live() { m_dock.setDevice(nullptr); }
+    ~Live() { m_dock.setCamera(nullptr); }
 
     QSize viewSize() const { return view()->size(); }
     QString numbers() const { return m_dock.findChild<ElidedLabel *>(QStringLiteral("pictureNumbers"))->text(); }
@@ -120,7 +120,7 @@ public:
 private:
     PictureView *view() const { return m_dock.findChild<PictureView *>(); }
 
-    const std::unique_ptr<CameraSource> m_source = openCamera(QString());
+    const std::shared_ptr<const CameraSource> m_source = openCamera(QString());
     QMainWindow m_window;
     PictureDock m_dock;
 };

@@ -48,8 +48,8 @@ enum class State { Stopped, Starting, Running, Stopping };
 
 /**
  * The frames of a device that is open. While it runs, TLParamsLocked is 1, so that features that acquisition locks are
- * locked. Nothing is written to the camera once it has stopped, but by a library below that ends later because the camera
- * does not answer. A camera that was lost is not told to stop; only TLParamsLocked becomes 0.
+ * locked. Nothing is written to the camera once it has stopped, but by a library below that ends later because the
+ * camera does not answer. A camera that was lost is not told to stop; only TLParamsLocked becomes 0.
  *
  * A thread of the stream starts, receives and stops, so that nobody else waits for a camera. The newest frame wins, and
  * memory is bounded by a few buffers.
