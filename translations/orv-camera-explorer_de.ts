@@ -30,6 +30,14 @@
         <source>There is no camera &apos;%1&apos;; there are: %2.</source>
         <translation>Es gibt keine Kamera „%1“, sondern: %2.</translation>
     </message>
+    <message>
+        <source>There are several cameras: %1; &apos;--camera&apos; names one.</source>
+        <translation>Es gibt mehrere Kameras: %1; „--camera“ nennt eine.</translation>
+    </message>
+    <message>
+        <source>it takes too long</source>
+        <translation>es dauert zu lange</translation>
+    </message>
 </context>
 <context>
     <name>ConfigureMenu</name>
@@ -740,6 +748,14 @@
     <message>
         <source>The picture cannot be written as PNG.</source>
         <translation>Das Bild kann nicht als PNG geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>It was lost on its way.</source>
+        <translation>Es ging unterwegs verloren.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has the value &apos;%2&apos; now.</source>
+        <translation>„%1“ hat jetzt den Wert „%2“.</translation>
     </message>
 </context>
 <context>

@@ -30,6 +30,14 @@
         <source>There is no camera &apos;%1&apos;; there are: %2.</source>
         <translation>カメラ「%1」はありません。あるもの: %2。</translation>
     </message>
+    <message>
+        <source>There are several cameras: %1; &apos;--camera&apos; names one.</source>
+        <translation>複数のカメラがあります: %1。&apos;--camera&apos; で 1 台を指定してください。</translation>
+    </message>
+    <message>
+        <source>it takes too long</source>
+        <translation>時間がかかりすぎます</translation>
+    </message>
 </context>
 <context>
     <name>ConfigureMenu</name>
@@ -740,6 +748,14 @@
     <message>
         <source>The picture cannot be written as PNG.</source>
         <translation>画像を PNG として書き込めません。</translation>
+    </message>
+    <message>
+        <source>It was lost on its way.</source>
+        <translation>途中で失われました。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has the value &apos;%2&apos; now.</source>
+        <translation>&apos;%1&apos; の値は現在 &apos;%2&apos; です。</translation>
     </message>
 </context>
 <context>

@@ -30,6 +30,14 @@
         <source>There is no camera &apos;%1&apos;; there are: %2.</source>
         <translation>没有相机“%1”；现有：%2。</translation>
     </message>
+    <message>
+        <source>There are several cameras: %1; &apos;--camera&apos; names one.</source>
+        <translation>有多台相机：%1；请用“--camera”指定一台。</translation>
+    </message>
+    <message>
+        <source>it takes too long</source>
+        <translation>耗时过长</translation>
+    </message>
 </context>
 <context>
     <name>ConfigureMenu</name>
@@ -740,6 +748,14 @@
     <message>
         <source>The picture cannot be written as PNG.</source>
         <translation>无法将图像写为 PNG。</translation>
+    </message>
+    <message>
+        <source>It was lost on its way.</source>
+        <translation>它在途中丢失。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has the value &apos;%2&apos; now.</source>
+        <translation>“%1”的值现在为“%2”。</translation>
     </message>
 </context>
 <context>

@@ -162,16 +162,49 @@ bool tryFor(int milliseconds, const GivesUp &givesUp, const Attempt &attempt)
     return isDone;
 }
 
-/** Real cameras are found a moment after somebody has begun to look. */
-int timeToLook()
-{
-    return OrvTransports::used() == OrvTransports::Cameras::Simulated ? 0 : lookingTime;
-}
-
 bool isSelectable(OrvCam::DeviceInfo *info)
 {
     const std::int32_t status = info->GetAccessStatus();
     return status != OrvCam::AccessStatusNoAccess && status != OrvCam::AccessStatusIpSubnetMismatch;
+}
+
+/** Null if there is none. */
+OrvCam::DeviceInfo *firstSelectable(const std::vector<OrvCam::DeviceInfo *> &devices)
+{
+    OrvCam::DeviceInfo *first = nullptr;
+    for (OrvCam::DeviceInfo *info : devices) {
+        if (info->GetAccessStatus() == OrvCam::AccessStatusReadWrite)
+            return info;
+        if (!first && isSelectable(info))
+            first = info;
+    }
+    return first;
+}
+
+OrvCam::DeviceInfo *deviceWith(const QString &id, const std::vector<OrvCam::DeviceInfo *> &devices)
+{
+    const auto found = std::find_if(devices.begin(), devices.end(), [&id](OrvCam::DeviceInfo *info) {
+        return QString::fromLatin1(info->GetID()) == id;
+    });
+    return found == devices.end() ? nullptr : *found;
+}
+
+void requireOnlyOne(const std::vector<OrvCam::DeviceInfo *> &devices)
+{
+    QStringList ids;
+    for (OrvCam::DeviceInfo *info : devices) {
+        if (isSelectable(info))
+            ids.append(QString::fromLatin1(info->GetID()));
+    }
+    ids.removeDuplicates(); // it may be reached in two ways
+    if (ids.size() > 1)
+        fail(Text::tr("There are several cameras: %1; '--camera' names one.").arg(ids.join(QLatin1String(", "))));
+}
+
+/** Real cameras are found a moment after somebody has begun to look. */
+int timeToLook()
+{
+    return OrvTransports::used() == OrvTransports::Cameras::Simulated ? 0 : lookingTime;
 }
 
 } // namespace
@@ -214,32 +247,34 @@ QVector<ListedCamera> listCameras(const GivesUp &givesUp)
         cameras.clear();
         for (OrvCam::DeviceInfo *info : allDevices(*system))
             cameras.append({QString::fromLatin1(info->GetID()), QString::fromUtf8(info->GetDisplayName()).simplified(),
-                            isSelectable(info)});
+                            info->GetAccessStatus()});
         return false; // there may be more
     });
     return cameras;
 }
 
-std::unique_ptr<CameraSource> openCamera(const QString &id, const GivesUp &givesUp)
+std::unique_ptr<CameraSource> openCamera(const QString &id, const GivesUp &givesUp, Unnamed unnamed)
 {
     const std::shared_ptr<OrvCam::System> system = cameraSystem();
     std::vector<OrvCam::DeviceInfo *> devices;
     OrvCam::DeviceInfo *wanted = nullptr;
+    const bool mustBeOnly =
+        id.isEmpty() && unnamed == Unnamed::Only && OrvTransports::used() != OrvTransports::Cameras::Simulated;
     const auto find = [&] {
         devices = allDevices(*system);
-        const auto found = std::find_if(devices.begin(), devices.end(), [&id](OrvCam::DeviceInfo *info) {
-            return id.isEmpty() ? isSelectable(info) : QString::fromLatin1(info->GetID()) == id;
-        });
-        wanted = found == devices.end() ? nullptr : *found;
-        return wanted != nullptr;
+        wanted = id.isEmpty() ? firstSelectable(devices) : deviceWith(id, devices);
+        return wanted && !mustBeOnly; // else there may be more
     };
     tryFor(timeToLook(), givesUp, find);
+    if (mustBeOnly)
+        requireOnlyOne(devices);
     if (!wanted && !id.isEmpty())
         fail(Text::tr("There is no camera '%1'; there are: %2.").arg(id, idsOf(devices).join(QLatin1String(", "))));
     return openCamera(system, wanted, [&givesUp](OrvCam::Device &device, const QString &name) {
-        if (!tryFor(openingTime, givesUp, [&device] { return device.GetCameraParameters(nullptr) != nullptr; }))
-            fail(Text::tr("Cannot open the camera '%1': %2.")
-                     .arg(name, QString::fromStdString(OrvTransports::progressOf(device).failure)));
-        return true;
+        if (tryFor(openingTime, givesUp, [&device] { return device.GetCameraParameters(nullptr) != nullptr; }))
+            return true;
+        const QString why = QString::fromStdString(OrvTransports::progressOf(device).failure);
+        fail(Text::tr("Cannot open the camera '%1': %2.")
+                 .arg(name, why.isEmpty() ? Text::tr("it takes too long") : why));
     });
 }

@@ -5,6 +5,7 @@
 #include <QString>
 #include <QVector>
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 
@@ -48,18 +49,25 @@ std::unique_ptr<CameraSource> openDescription(const QString &path);
 /** Whether somebody who waits gives it up; may be null. */
 using GivesUp = std::function<bool()>;
 
+/** Which camera is meant when none is named. */
+enum class Unnamed {
+    First, ///< whose access status allows it; one that no other program controls before others
+    Only ///< the same, but a real camera only if there is no other one: which answers first is chance
+};
+
 /**
- * The camera of the process's camera system with the identifier \a id, opened; for an empty one the first camera whose
- * access status allows it. Waits for a real camera. Throws a CameraSourceError, also when it is given up.
+ * The camera of the process's camera system with the identifier \a id, opened; for an empty one \a unnamed says which.
+ * Waits for a real camera. Throws a CameraSourceError, also when it is given up.
  */
-std::unique_ptr<CameraSource> openCamera(const QString &id, const GivesUp &givesUp = {});
+std::unique_ptr<CameraSource> openCamera(const QString &id, const GivesUp &givesUp = {},
+                                         Unnamed unnamed = Unnamed::First);
 
 /** A camera that can be named to open it. */
 struct ListedCamera
 {
     QString id;
     QString name;
-    bool canBeOpened = false;
+    std::int32_t accessStatus = 0; ///< an OrvCam::AccessStatus
 };
 
 /** Those of the process's camera system. Looks for real ones for a while. Throws a CameraSourceError. */

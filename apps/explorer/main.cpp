@@ -126,6 +126,8 @@ int runWindow(int argc, char **argv, const Options &options, std::unique_ptr<Cam
 int runScript(int argc, char **argv, const Options &options)
 {
     const QCoreApplication app(argc, argv);
+    if (!options.language.isEmpty()) // else what others read stays the same everywhere
+        speak(options.language);
     Script script;
     return options.action == Options::Action::ListCameras ? script.listCameras() : script.run(options);
 }

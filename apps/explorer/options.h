@@ -32,7 +32,7 @@ struct Options
     Action action = Action::ShowWindow;
     QString xmlFile; ///< description to show instead of a camera; empty: a camera
     QString cameraId; ///< identifier of the camera to open; empty: ask, for a screenshot the first that can be opened
-    std::optional<OrvTransports::Cameras> cameras; ///< none: as the settings or the environment say
+    std::optional<OrvTransports::Cameras> cameras; ///< none: as the environment says, for a person as the settings say
     OrvTransports::Discovery discovery; ///< for them
     QVector<ScriptStep> steps; ///< of RunScript, in their order
     QString screenshotDir; ///< where SaveScreenshot writes

@@ -4,9 +4,11 @@
 #include "picture/pixelformat.h"
 #include "settings/settingsloader.h"
 #include "settings/settingssaver.h"
+#include "settings/valuetext.h"
 
 #include <GenApi/GenApi.h>
 #include <OrvCameraApi/streaming.h>
+#include <OrvCameraGuiApi/camera_api/orvcam.h>
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -16,10 +18,13 @@
 #include <csignal>
 #include <cstdio>
 
+#include <unistd.h>
+
 namespace {
 
 constexpr int longestCommand = 10000; // milliseconds
-constexpr int longestPicture = 10000; // milliseconds
+constexpr int longestPicture = 60000; // milliseconds; a stream that gets nothing ends sooner
+constexpr int longestEnd = 5000; // milliseconds
 constexpr int period = 5; // milliseconds
 
 volatile std::sig_atomic_t wasInterrupted = 0;
@@ -45,9 +50,23 @@ void checkProgress(int, int, const QByteArray &)
         throw SettingsInterrupted();
 }
 
+/** In one line, and nothing that a terminal obeys: cameras and files have a part in it. */
+QByteArray withoutControls(const QString &text)
+{
+    QString line;
+    for (const QChar each : text) {
+        if (each.category() == QChar::Other_Control)
+            line += QStringLiteral("\\x%1").arg(each.unicode(), 2, 16, QLatin1Char('0'));
+        else
+            line += each;
+    }
+    return line.toUtf8();
+}
+
 void complain(const QString &message)
 {
-    std::fprintf(stderr, "%s: %s\n", qPrintable(QCoreApplication::applicationName()), message.toUtf8().constData());
+    std::fprintf(stderr, "%s: %s\n", qPrintable(QCoreApplication::applicationName()),
+                 withoutControls(message).constData());
 }
 
 ExitCode refuse(const QString &message)
@@ -87,7 +106,24 @@ GenApi::INode *nodeOf(const QString &name, CameraSource &source)
     return node;
 }
 
-/** One picture, once the stream has stopped again; null, and \a failure tells why. */
+QString stateOf(const ListedCamera &camera)
+{
+    switch (camera.accessStatus) {
+    case OrvCam::AccessStatusNoAccess:
+        return QStringLiteral("taken");
+    case OrvCam::AccessStatusReadOnly:
+        return QStringLiteral("read only");
+    case OrvCam::AccessStatusIpSubnetMismatch:
+        return QStringLiteral("out of reach");
+    default:
+        return QStringLiteral("free");
+    }
+}
+
+/**
+ * One picture, once the stream has stopped again; null, and \a failure tells why. The first ones may be lost on their
+ * way.
+ */
 std::shared_ptr<const OrvStreams::Frame> takeFrame(CameraSource &source, QString &failure)
 {
     std::string why;
@@ -97,13 +133,17 @@ std::shared_ptr<const OrvStreams::Frame> takeFrame(CameraSource &source, QString
     if (!stream)
         return nullptr;
     const auto hasStopped = [&stream] { return stream->state() == OrvStreams::State::Stopped; };
-    stream->start(1);
-    const bool isDone = waitFor(longestPicture, hasStopped);
+    stream->start();
+    const bool isDone = waitFor(longestPicture, [&] { return stream->statistics().received > 0 || hasStopped(); });
     stream->stop();
-    waitFor(longestPicture, hasStopped);
+    QElapsedTimer clock; // also for somebody who interrupts
+    for (clock.start(); !hasStopped() && clock.elapsed() < longestEnd;)
+        QThread::msleep(period);
     failure = QString::fromStdString(stream->failure());
     if (failure.isEmpty() && !isDone)
         failure = Text::tr("None has come within %1 s.").arg(longestPicture / 1000);
+    else if (failure.isEmpty())
+        failure = Text::tr("It was lost on its way.");
     return stream->take();
 }
 
@@ -126,9 +166,8 @@ ExitCode Script::listCameras()
     try {
         const QVector<ListedCamera> cameras = ::listCameras(isInterrupted);
         for (const ListedCamera &camera : cameras) {
-            const QString state = camera.canBeOpened ? QStringLiteral("free") : QStringLiteral("out of reach");
-            const QStringList cells{camera.id, camera.name, state};
-            if (print(cells.join(QLatin1Char('\t')).toUtf8()) != AllFine)
+            const QByteArray line = withoutControls(camera.id) + '\t' + withoutControls(camera.name) + '\t';
+            if (print(line + stateOf(camera).toUtf8()) != AllFine)
                 return NoFile;
         }
         if (isInterrupted())
@@ -148,7 +187,13 @@ ExitCode Script::run(const Options &options)
     if (!source)
         return isInterrupted() ? Interrupted : NoCamera;
     for (const ScriptStep &step : options.steps) {
-        const ExitCode code = isInterrupted() ? Interrupted : perform(step, *source);
+        ExitCode code = Interrupted;
+        const QString failure = failureOf([&] {
+            if (!isInterrupted())
+                code = perform(step, *source);
+        });
+        if (!failure.isEmpty()) // nothing that the step expects
+            code = refuse(failure);
         if (code != AllFine)
             return isInterrupted() ? Interrupted : code;
     }
@@ -158,7 +203,7 @@ ExitCode Script::run(const Options &options)
 std::unique_ptr<CameraSource> Script::open(const Options &options)
 {
     try {
-        return options.xmlFile.isEmpty() ? openCamera(options.cameraId, isInterrupted)
+        return options.xmlFile.isEmpty() ? openCamera(options.cameraId, isInterrupted, Unnamed::Only)
                                          : openDescription(options.xmlFile);
     } catch (const CameraSourceError &e) {
         if (!isInterrupted())
@@ -192,7 +237,7 @@ ExitCode Script::get(const QString &name, CameraSource &source)
     const FeatureValue value = readValue(feature);
     if (!value.failure.isEmpty())
         return refuse(Text::tr("Cannot read '%1': %2").arg(name, value.failure));
-    return print(value.text);
+    return print(::isatty(STDOUT_FILENO) ? withoutControls(QString::fromUtf8(value.text)) : value.text);
 }
 
 ExitCode Script::set(const QString &assignment, CameraSource &source)
@@ -207,7 +252,16 @@ ExitCode Script::set(const QString &assignment, CameraSource &source)
     QString failure = lockedReason(feature);
     if (failure.isEmpty())
         failure = writeValue(feature, value);
-    return failure.isEmpty() ? AllFine : refuse(Text::tr("Cannot set '%1': %2").arg(name, failure));
+    const FeatureValue has = isReadable(feature) ? readValue(feature) : FeatureValue();
+    if (!failure.isEmpty())
+        failure = Text::tr("Cannot set '%1': %2").arg(name, failure);
+    QString remark;
+    if (has.failure.isEmpty() && !has.text.isEmpty() && !isSameValue(value, has.text, kindOf(feature)))
+        remark = Text::tr("'%1' has the value '%2' now.").arg(name, QString::fromUtf8(has.text));
+    const QString message = (failure + QLatin1Char(' ') + remark).trimmed();
+    if (!message.isEmpty())
+        complain(message);
+    return failure.isEmpty() ? AllFine : Refused;
 }
 
 /** Until it is done. */
@@ -221,7 +275,9 @@ ExitCode Script::execute(const QString &name, CameraSource &source)
     });
     if (!failure.isEmpty())
         return refuse(Text::tr("Cannot execute '%1': %2").arg(name, failure));
-    return isDone ? AllFine : refuse(Text::tr("'%1' does not end.").arg(name));
+    if (isDone || isInterrupted())
+        return isDone ? AllFine : Interrupted;
+    return refuse(Text::tr("'%1' does not end.").arg(name));
 }
 
 ExitCode Script::save(const QString &path, CameraSource &source)
@@ -245,12 +301,14 @@ ExitCode Script::save(const QString &path, CameraSource &source)
 ExitCode Script::load(const QString &path, CameraSource &source)
 {
     try {
-        const SettingsFile file = readSettings(path);
+        const SettingsFile file = readSettings(path, checkProgress);
         for (const QString &remark : file.remarks)
             complain(remark);
-        SettingsLoader loader(*source.nodeMap(), file);
+        SettingsLoader loader(*source.nodeMap(), file, checkProgress);
         loader.load(checkProgress);
-        ExitCode code = loader.isComplete() ? AllFine : Interrupted;
+        if (!loader.isComplete())
+            return Interrupted;
+        ExitCode code = AllFine;
         const QVector<SettingResult> results = loader.results();
         for (const SettingResult &result : results) {
             if (result.state != SettingResult::State::Different)
@@ -261,6 +319,8 @@ ExitCode Script::load(const QString &path, CameraSource &source)
                               QString::fromUtf8(result.setting.value), QString::fromUtf8(result.has), result.reason));
         }
         return code;
+    } catch (const SettingsInterrupted &) {
+        return Interrupted;
     } catch (const SettingsError &e) {
         complain(e.message);
         return NoFile;
@@ -271,6 +331,8 @@ ExitCode Script::snap(const QString &path, CameraSource &source)
 {
     QString failure;
     const std::shared_ptr<const OrvStreams::Frame> frame = takeFrame(source, failure);
+    if (!frame && isInterrupted())
+        return Interrupted;
     if (!frame)
         return refuse(Text::tr("There is no picture: %1").arg(failure));
     const ConvertedPicture picture =

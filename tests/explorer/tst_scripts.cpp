@@ -6,6 +6,9 @@
 
 #include <array>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 namespace {
 
 /** Without a display. */
@@ -63,6 +66,7 @@ private Q_SLOTS:
             {1, "--xml x.xml --snap x", "", "--snap"},
             {2, "--camera nobody --get Width", "", "'nobody'"},
             {2, "--xml " TEST_DATA "/malformed.xml --get Width", "", "malformed.xml:7"},
+            {0, "--camera ORV-USB3-0001 --language de --set Gain=3.14159 --get Gain", "3.1\n", "Gain"},
             {3, "--get DeviceUserID --get Nobody --get Width", "Line 1\n", "'Nobody'"},
             {3, "--set Width=3", "", "only be read"},
             {3, "--get Root", "", "'Root'"},
@@ -92,6 +96,18 @@ private Q_SLOTS:
         QCOMPARE(refused.status, 3);
         QVERIFY2(refused.err.contains("Nobody: wanted '1'"), refused.err);
         QCOMPARE(run(load, "nonsense").status, 5);
+        const int directory = ::open("/", O_RDONLY | O_CLOEXEC);
+        const int standard = ::dup(STDIN_FILENO);
+        ::dup2(directory, STDIN_FILENO);
+        QProcess process;
+        process.setInputChannelMode(QProcess::ForwardedInputChannel);
+        start(process, QProcess::splitCommand(load));
+        QVERIFY(process.waitForFinished());
+        ::dup2(standard, STDIN_FILENO);
+        ::close(directory);
+        ::close(standard);
+        QCOMPARE(process.exitCode(), 5);
+        QVERIFY(process.readAllStandardError().contains("directory")); // no empty file
     }
 
     void takesPictures()
@@ -111,8 +127,7 @@ private Q_SLOTS:
               {QStringLiteral("--get"), QStringLiteral("Width"), QStringLiteral("--load"), QStringLiteral("-"),
                QStringLiteral("--get"), QStringLiteral("Height")});
         QVERIFY(process.waitForReadyRead());
-        process.terminate();
-        process.closeWriteChannel(); // it may not have begun to read when the signal came
+        process.terminate(); // standard input does not end
         QVERIFY(process.waitForFinished());
         QCOMPARE(process.exitStatus(), QProcess::NormalExit);
         QCOMPARE(process.exitCode(), 4);

@@ -5,8 +5,10 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <cerrno>
 #include <cstdio>
 
+#include <poll.h>
 #include <unistd.h>
 
 namespace {
@@ -95,16 +97,26 @@ bool isStandard(const QString &path)
     return path == QLatin1String("-");
 }
 
-/** To its end; a part would be a setting that nobody wrote. A signal ends it, too. */
-QByteArray readStandardInput(const QString &text)
+/** To its end; a part would be a setting that nobody wrote. Whoever it comes from may let it wait for ever. */
+QByteArray readStandardInput(const QString &text, const SettingsProgress &progress)
 {
+    constexpr int patience = 100; // milliseconds, between looks whether somebody interrupts
     QByteArray content;
     char part[1 << 16];
-    ssize_t count = 0;
-    while (content.size() <= longestFile && (count = ::read(STDIN_FILENO, part, sizeof(part))) > 0)
-        content.append(part, int(count));
-    if (count < 0)
-        fail(text, QStringLiteral("-"), qt_error_string());
+    while (content.size() <= longestFile) {
+        if (progress)
+            progress(0, 0, {});
+        pollfd input{STDIN_FILENO, POLLIN, 0};
+        if (::poll(&input, 1, patience) <= 0)
+            continue;
+        const ssize_t count = ::read(STDIN_FILENO, part, sizeof(part));
+        if (count == 0)
+            break;
+        if (count > 0)
+            content.append(part, int(count));
+        else if (errno != EINTR && errno != EAGAIN)
+            fail(text, QStringLiteral("-"), qt_error_string());
+    }
     return content;
 }
 
@@ -130,7 +142,7 @@ SettingsFile readSettings(const QString &path, const SettingsProgress &progress)
     QFile file(path);
     QByteArray content;
     if (isStandard(path))
-        content = readStandardInput(text);
+        content = readStandardInput(text, progress);
     else if (file.open(QIODevice::ReadOnly))
         content = file.read(longestFile + 1);
     if (file.error() != QFileDevice::NoError)

@@ -199,15 +199,23 @@ void SettingsMenu::waitUntilUnlocked(const QString &title, const std::function<v
     else if (attempts == 0)
         warn(tr("%1: the camera does not stop sending pictures.").arg(title));
     else
-        QTimer::singleShot(period, this, [=] { waitUntilUnlocked(title, go, attempts - 1); });
+        QTimer::singleShot(period, this, [=, camera = m_camera] {
+            if (camera == m_camera) // and not another one, of which nobody has spoken
+                waitUntilUnlocked(title, go, attempts - 1);
+        });
 }
 
 bool SettingsMenu::isLocked() const
 {
-    GenApi::INode *lock = nullptr;
-    failureOf([&] { lock = m_nodeMap ? m_nodeMap->GetNode("TLParamsLocked") : nullptr; });
-    const FeatureValue value = lock ? readValue(lock) : FeatureValue();
-    return value.failure.isEmpty() && value.text.toInt() != 0;
+    bool is = false; // its text depends on how a person wants to see it
+    failureOf([&] {
+        GenApi::INode *const lock = m_nodeMap ? m_nodeMap->GetNode("TLParamsLocked") : nullptr;
+        if (auto *const number = dynamic_cast<GenApi::IInteger *>(lock))
+            is = number->GetValue(false, true) != 0; // it may change by itself
+        else if (auto *const truth = dynamic_cast<GenApi::IBoolean *>(lock))
+            is = truth->GetValue(false, true);
+    });
+    return is;
 }
 
 void SettingsMenu::saveTo(const QString &path)
