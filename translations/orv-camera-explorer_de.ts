@@ -1310,5 +1310,9 @@ Diese ist: %2.</translation>
         <source>executed</source>
         <translation>ausgeführt</translation>
     </message>
+    <message>
+        <source>written; reading it back failed: %1</source>
+        <translation>geschrieben; das Zurücklesen ist fehlgeschlagen: %1</translation>
+    </message>
 </context>
 </TS>

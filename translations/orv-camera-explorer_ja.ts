@@ -1310,5 +1310,9 @@ This one is: %2.</source>
         <source>executed</source>
         <translation>実行しました</translation>
     </message>
+    <message>
+        <source>written; reading it back failed: %1</source>
+        <translation>書き込みました。読み戻しに失敗しました: %1</translation>
+    </message>
 </context>
 </TS>

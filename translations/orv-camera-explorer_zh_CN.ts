@@ -1310,5 +1310,9 @@ This one is: %2.</source>
         <source>executed</source>
         <translation>已执行</translation>
     </message>
+    <message>
+        <source>written; reading it back failed: %1</source>
+        <translation>已写入；读回失败：%1</translation>
+    </message>
 </context>
 </TS>

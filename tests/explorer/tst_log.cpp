@@ -109,6 +109,11 @@ private Q_SLOTS:
         QTRY_VERIFY(lines().contains(QLatin1String("Error\tDeviceUserID\t")));
         QVERIFY(lines().contains(QLatin1String("Write\tTriggerMode\tOff, before: On")));
         QVERIFY(!lines().contains(QLatin1String("Other")));
+        valueOf(seen, "TriggerMode").ToString();
+        OrvSim::setRegister(camera, "TriggerModeReg", "1"); // by the camera
+        seen.nodeMap()->InvalidateNodes();
+        valueOf(seen, "TriggerMode").FromString("Off"); // the last that was written
+        QTRY_COMPARE(lines().count(QLatin1String("Write\tTriggerMode\tOff")), 2);
         OrvSim::unplug(camera);
         QTRY_VERIFY(lines().contains(QLatin1String("Error\t\tTF-2000C (SN0001) is lost.")));
     }

@@ -23,13 +23,6 @@ bool keptValue(INode *node, QString &text)
     return isKept;
 }
 
-/** The value, or why there is none. */
-QString textOf(INode *node)
-{
-    const FeatureValue value = readValue(node, true);
-    return value.failure.isEmpty() ? QString::fromUtf8(value.text) : value.failure;
-}
-
 } // namespace
 
 WriteWatch::WriteWatch(GenApi::INodeMap &map, EventLog &log, QObject *parent)
@@ -69,8 +62,10 @@ void WriteWatch::lookAtSome()
         INode *const node = m_features[m_next].node;
         QString value;
         const std::lock_guard locker(m_mutex);
-        if (!m_known.contains(node) && keptValue(node, value))
+        if (!m_known.contains(node) && keptValue(node, value)) {
             m_known.insert(node, value);
+            m_kept.insert(node);
+        }
     }
     lock.Unlock();
 }
@@ -79,10 +74,15 @@ void WriteWatch::lookAtSome()
 void WriteWatch::changed(INode *node)
 {
     QString value;
-    if (keptValue(node, value))
-        return log(node, value);
+    const bool isKept = keptValue(node, value);
+    if (isKept)
+        log(node, value);
     const std::lock_guard locker(m_mutex);
-    if (m_selected.count(node) != 0)
+    if (isKept) {
+        m_kept.insert(node);
+        return;
+    }
+    if (m_selected.count(node) != 0 || m_kept.count(node) != 0)
         m_known.remove(node); // it may be another one now
 }
 
@@ -107,7 +107,18 @@ void WriteWatch::noteWritten(const QString &feature)
     if (dynamic_cast<GenApi::ICommand *>(node))
         m_log.add(LogLevel::Write, feature, tr("executed"));
     else if (node && !keptValue(node, value))
-        log(node, textOf(node));
+        logReadBack(node);
+}
+
+void WriteWatch::logReadBack(INode *node)
+{
+    const FeatureValue value = readValue(node, true);
+    if (value.failure.isEmpty())
+        return log(node, QString::fromUtf8(value.text));
+    m_log.add(LogLevel::Write, QString::fromUtf8(nameOf(node)),
+              tr("written; reading it back failed: %1").arg(value.failure));
+    const std::lock_guard locker(m_mutex);
+    m_known.remove(node);
 }
 
 /** The tree reads it as well: it is on the screen. */
@@ -116,9 +127,12 @@ void WriteWatch::noteCurrent(const QString &feature)
     INode *const node = nodeOf(feature);
     if (!node || !isReadable(node) || kindOf(node) == GenApi::intfICategory)
         return;
-    const QString value = textOf(node);
+    const FeatureValue value = readValue(node, true);
     const std::lock_guard locker(m_mutex);
-    m_known.insert(node, value);
+    if (value.failure.isEmpty())
+        m_known.insert(node, QString::fromUtf8(value.text));
+    else
+        m_known.remove(node);
 }
 
 INode *WriteWatch::nodeOf(const QString &feature) const

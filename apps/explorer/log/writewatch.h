@@ -17,7 +17,7 @@ class EventLog;
  * feature GenApi calls back, and after a write it knows the value, so that the camera is asked for nothing. Of a
  * feature that GenApi does not keep, noteWritten() has to tell it.
  *
- * The value that was there before is the last one that any window has read.
+ * The value that was there before is the last one that any window has read, unless the camera has changed it since.
  */
 class WriteWatch : public QObject
 {
@@ -43,6 +43,7 @@ private:
 
     void changed(GenApi::INode *node);
     void log(GenApi::INode *node, const QString &value);
+    void logReadBack(GenApi::INode *node);
     void lookAtSome();
     GenApi::INode *nodeOf(const QString &feature) const;
 
@@ -54,4 +55,5 @@ private:
     QTimer m_timer;
     std::mutex m_mutex; ///< of the following
     QHash<GenApi::INode *, QString> m_known;
+    std::unordered_set<GenApi::INode *> m_kept; ///< those whose writes are told with the value
 };
