@@ -36,7 +36,8 @@ protected:
         const auto &log = *static_cast<const EventLog *>(sourceModel());
         if (log.index(row, 0).data(EventLog::LevelRole).toInt() < int(m_level))
             return false;
-        return m_text.isEmpty() || log.lineOf(row).contains(m_text, Qt::CaseInsensitive);
+        const QString shown = log.lineOf(row).section(QLatin1Char(' '), 1); // without the day
+        return m_text.isEmpty() || shown.contains(m_text, Qt::CaseInsensitive);
     }
 
 private:
