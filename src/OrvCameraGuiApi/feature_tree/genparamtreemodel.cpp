@@ -458,7 +458,7 @@ QVariant GenParamTreeModelPrivate::readValue(const GenParamFeature &feature, int
         return GenParamTreeModel::tr("<Value not readable>");
     if (role != Qt::DisplayRole)
         return handler.editValue(feature);
-    const QVariant text = handler.text(feature);
+    QVariant text = handler.text(feature);
     const QString shown = text.toString();
     if (handler.isRead())
         observe(feature, role, shown.isNull() ? QStringLiteral("") : shown);
