@@ -321,8 +321,11 @@ bool GenParamTreeVisibilityFilterProxyModel::filterAcceptsRow(int sourceRow, con
 
 bool GenParamTreeVisibilityFilterProxyModel::acceptsWithoutChoice(const QModelIndex &sourceIndex) const
 {
-    FilterRule rule = d->rule;
-    rule.choice = {};
+    FilterRule rule; // of any choice
+    rule.level = d->rule.level;
+    rule.pattern = d->rule.pattern;
+    rule.wholeWords = d->rule.wholeWords;
+    rule.matchesNodeNames = d->rule.matchesNodeNames;
     for (QModelIndex row = sourceIndex; row.isValid(); row = row.parent()) {
         if (!rule.accepts(nodeAt(row), nullptr))
             return false;
