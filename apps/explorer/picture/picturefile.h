@@ -16,6 +16,7 @@ std::shared_future<QImage> imageToKeep(std::shared_ptr<const OrvStreams::Frame> 
 
 /**
  * Writes a PNG file; returns why that failed, empty otherwise. A file that is there stays as it is until the new one is
- * complete; what is no regular file is written to directly.
+ * complete, except in a directory that may not be written to: there it is overwritten, as is what is no regular file.
+ * Waits for whoever reads a pipe.
  */
 QString savePng(const QImage &image, const QString &path);
