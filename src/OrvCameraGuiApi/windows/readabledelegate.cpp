@@ -3,12 +3,18 @@
 #include <OrvCameraGuiApi/windows/plaintooltip.h>
 
 #include <QAbstractItemView>
-#include <QGuiApplication>
+#include <QApplication>
 #include <QHelpEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QTextLayout>
 #include <QToolTip>
+#include <QtMath>
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
+#include <iterator>
 
 namespace {
 
@@ -42,6 +48,52 @@ QColor backgroundOf(const QStyleOptionViewItem &option, const QPalette &palette)
     return palette.color(isAlternate ? QPalette::AlternateBase : QPalette::Base);
 }
 
+/** Styles that paint nothing of a plain cell but its background and its text, in these colors and at that place. */
+bool isOfQt(const QStyle &style)
+{
+    constexpr const char *names[] = {"QFusionStyle", "QWindowsStyle", "QCommonStyle"};
+    return std::any_of(std::begin(names), std::end(names),
+                       [&style](const char *name) { return !std::strcmp(style.metaObject()->className(), name); });
+}
+
+/** Whether \a option has nothing but a text of one line. */
+bool isPlain(const QStyleOptionViewItem &option)
+{
+    constexpr auto known = QStyleOptionViewItem::HasDisplay | QStyleOptionViewItem::Alternate;
+    constexpr auto special = QStyle::State_Selected | QStyle::State_HasFocus | QStyle::State_Editing;
+    return !(option.features & ~known) && !(option.state & special) && !option.text.contains(QChar::LineSeparator);
+}
+
+/** Paints the text of a plain cell; false if it has too little room. */
+bool paintText(QPainter &painter, const QStyleOptionViewItem &option, const QStyle &style)
+{
+    const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, option.widget) + 1;
+    const QRect room = option.rect.adjusted(margin, 0, -margin, 0);
+    QTextOption textOption(QStyle::visualAlignment(option.direction, option.displayAlignment));
+    textOption.setTextDirection(option.direction);
+    textOption.setWrapMode(QTextOption::ManualWrap);
+    QTextLayout layout(option.text, option.font);
+    layout.setTextOption(textOption);
+    layout.setCacheEnabled(true); // it is painted at once
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setLineWidth(room.width());
+    layout.endLayout();
+    const QSize size(room.width(), qCeil(line.height()));
+    if (qCeil(line.naturalTextWidth()) > room.width() || size.height() > room.height())
+        return false;
+    style.drawPrimitive(QStyle::PE_PanelItemViewItem, &option, &painter, option.widget);
+    const bool isActive = option.state & QStyle::State_Active;
+    const QPalette::ColorGroup group = !(option.state & QStyle::State_Enabled) ? QPalette::Disabled
+        : isActive                                                             ? QPalette::Active
+                                                                               : QPalette::Inactive;
+    const QPen pen = painter.pen();
+    painter.setPen(option.palette.color(group, QPalette::Text));
+    layout.draw(&painter, QStyle::alignedRect(option.direction, option.displayAlignment, size, room).topLeft());
+    painter.setPen(pen);
+    return true;
+}
+
 } // namespace
 
 QColor readableColor(const QColor &color, const QColor &text, const QColor &background)
@@ -64,6 +116,16 @@ bool ReadableDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, con
     QToolTip::showText(event->globalPos(), plainToolTip(index.data(Qt::ToolTipRole).toString()), view->viewport(),
                        option.rect);
     return true;
+}
+
+/** Qt's styles lay a text out three times, which is most of what painting a tree takes. Once does for most cells. */
+void ReadableDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    const QStyle &style = cell.widget ? *cell.widget->style() : *QApplication::style();
+    if (!isOfQt(style) || !isPlain(cell) || !paintText(*painter, cell, style))
+        style.drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
 }
 
 void ReadableDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
