@@ -39,8 +39,10 @@ void DescriptionLoader::load()
     constexpr std::size_t usualNode = 100; // characters, of the smaller ones: finding room again and again takes long
     m_map.reserve(m_xml.size() / usualNode);
     createNodes(root, 0);
-    for (std::size_t i = 0; i < m_sources.size(); ++i)
-        read(Source(m_sources[i])); // a copy: reading may make further nodes
+    for (std::size_t i = 0; i < m_sources.size(); ++i) {
+        const Source source = m_sources[i]; // a copy: reading may make further nodes
+        source.read(*this, source);
+    }
     finish();
 }
 
@@ -96,7 +98,9 @@ T &DescriptionLoader::create(const Element &element, const std::string &name, co
     node.m_standardNameSpace = std::strcmp(element.attribute("NameSpace").value(), "Standard") == 0;
     if (!m_map.add(std::move(owned)))
         fail(element, "there are two nodes '" + name + "'");
-    m_sources.push_back({&node, element, common});
+    m_sources.push_back({&node, element, common, [](DescriptionLoader &loader, const Source &source) {
+                             loader.read(static_cast<T &>(*source.node), source);
+                         }});
     return node;
 }
 

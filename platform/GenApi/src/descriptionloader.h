@@ -44,6 +44,7 @@ private:
         Node *node;
         Element element;
         Element common; ///< the StructReg that a StructEntry stands in
+        void (*read)(DescriptionLoader &loader, const Source &source); ///< of the node's class: casts would take long
     };
 
     void convertToUtf8();
@@ -61,36 +62,39 @@ private:
     SwissKnifeNode<IntegerFormulaBase> &createKnife(const Element &element, const std::string &name);
     std::string nameOf(const Element &element) const;
 
-    // Reading properties
-    void read(const Source &source);
+    // Reading properties, of each kind of nodes
+    void read(IntegerNode &node, const Source &source);
+    void read(FloatNode &node, const Source &source);
+    void read(IntRegisterNode &node, const Source &source);
+    void read(FloatRegisterNode &node, const Source &source);
+    void read(StringRegisterNode &node, const Source &source);
+    void read(RegisterNode &node, const Source &source);
+    template <typename Base>
+    void read(SwissKnifeNode<Base> &node, const Source &source);
+    template <typename Base>
+    void read(ConverterNode<Base> &node, const Source &source);
+    void read(StringNode &node, const Source &source);
+    void read(BooleanNode &node, const Source &source);
+    void read(CommandNode &node, const Source &source);
+    void read(EnumerationNode &node, const Source &source);
+    void read(EnumEntryNode &node, const Source &source);
+    void read(CategoryNode &node, const Source &source);
+    void read(PlainNode &node, const Source &source);
+    void read(PortNode &node, const Source &source);
+
+    // Parts of them
     bool readCommon(Node &node, const Element &property);
     bool readPresentation(Presentation &presentation, const Element &property);
     bool readRegister(Node &node, RegisterData &data, const Element &property);
     template <typename NumberNode>
     bool readNumberProperty(NumberNode &node, const Element &property);
-    void readInteger(IntegerNode &node, const Element &element);
     void readValidValues(IntegerNode &node, const Element &property);
     template <typename Number>
     bool readSource(NumberSource<Number> &source, Node &node, const Element &property);
     template <typename Number>
     NumberRef<Number> &itemOf(NumberSource<Number> &source, const Element &property);
-    void readFloat(FloatNode &node, const Element &element);
-    void readIntRegister(IntRegisterNode &node, const Source &source);
-    void readFloatRegister(FloatRegisterNode &node, const Element &element);
     template <typename T>
-    void readPlainRegister(T &node, const Element &element);
-    template <typename Base>
-    void readSwissKnife(SwissKnifeNode<Base> &node, const Element &element);
-    template <typename Base>
-    void readConverter(ConverterNode<Base> &node, const Element &element);
-    void readString(StringNode &node, const Element &element);
-    void readBoolean(BooleanNode &node, const Element &element);
-    void readCommand(CommandNode &node, const Element &element);
-    void readEnumeration(EnumerationNode &node, const Element &element);
-    void readEntry(EnumEntryNode &node, const Element &element);
-    void readCategory(CategoryNode &node, const Element &element);
-    void readPlain(PlainNode &node, const Element &element);
-    void readPort(PortNode &node, const Element &element);
+    void readPlainRegister(T &node, const Source &source);
     void readAddressKnife(Node &node, RegisterData &data, const Element &element);
 
     /** The names a formula may use; reads variables, constants and expressions of \a element. */

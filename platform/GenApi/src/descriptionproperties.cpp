@@ -36,7 +36,8 @@ const Names<EDisplayNotation> notations = {
 
 bool is(const pugi::xml_node &property, const char *name)
 {
-    return std::strcmp(property.name(), name) == 0;
+    const char *const own = property.name();
+    return *own == *name && std::strcmp(own, name) == 0; // most differ at once
 }
 
 } // namespace
@@ -126,48 +127,6 @@ bool DescriptionLoader::isYes(const Element &property)
 {
     const std::string_view text = trimmed(textOf(property));
     return text == "Yes" || text == "true" || text == "1";
-}
-
-void DescriptionLoader::read(const Source &source)
-{
-    Node *const node = source.node;
-    const Element &element = source.element;
-    if (const auto integer = dynamic_cast<IntegerNode *>(node))
-        readInteger(*integer, element);
-    else if (const auto intRegister = dynamic_cast<IntRegisterNode *>(node))
-        readIntRegister(*intRegister, source);
-    else if (const auto enumEntry = dynamic_cast<EnumEntryNode *>(node))
-        readEntry(*enumEntry, element);
-    else if (const auto enumeration = dynamic_cast<EnumerationNode *>(node))
-        readEnumeration(*enumeration, element);
-    else if (const auto intKnife = dynamic_cast<SwissKnifeNode<IntegerFormulaBase> *>(node))
-        readSwissKnife(*intKnife, element);
-    else if (const auto boolean = dynamic_cast<BooleanNode *>(node))
-        readBoolean(*boolean, element);
-    else if (const auto category = dynamic_cast<CategoryNode *>(node))
-        readCategory(*category, element);
-    else if (const auto floating = dynamic_cast<FloatNode *>(node))
-        readFloat(*floating, element);
-    else if (const auto floatRegister = dynamic_cast<FloatRegisterNode *>(node))
-        readFloatRegister(*floatRegister, element);
-    else if (const auto command = dynamic_cast<CommandNode *>(node))
-        readCommand(*command, element);
-    else if (const auto string = dynamic_cast<StringNode *>(node))
-        readString(*string, element);
-    else if (const auto stringRegister = dynamic_cast<StringRegisterNode *>(node))
-        readPlainRegister(*stringRegister, element);
-    else if (const auto bytes = dynamic_cast<RegisterNode *>(node))
-        readPlainRegister(*bytes, element);
-    else if (const auto knife = dynamic_cast<SwissKnifeNode<FloatFormulaBase> *>(node))
-        readSwissKnife(*knife, element);
-    else if (const auto converter = dynamic_cast<ConverterNode<FloatFormulaBase> *>(node))
-        readConverter(*converter, element);
-    else if (const auto intConverter = dynamic_cast<ConverterNode<IntegerFormulaBase> *>(node))
-        readConverter(*intConverter, element);
-    else if (const auto port = dynamic_cast<PortNode *>(node))
-        readPort(*port, element);
-    else if (const auto plain = dynamic_cast<PlainNode *>(node))
-        readPlain(*plain, element);
 }
 
 bool DescriptionLoader::readCommon(Node &node, const Element &property)
@@ -358,9 +317,9 @@ bool DescriptionLoader::readNumberProperty(NumberNode &node, const Element &prop
     return true;
 }
 
-void DescriptionLoader::readInteger(IntegerNode &node, const Element &element)
+void DescriptionLoader::read(IntegerNode &node, const Source &source)
 {
-    for (const Element &property : element.children()) {
+    for (const Element &property : source.element.children()) {
         if (!readNumberProperty(node, property) && is(property, "ValidValueSet"))
             readValidValues(node, property);
     }
@@ -386,16 +345,16 @@ void DescriptionLoader::readValidValues(IntegerNode &node, const Element &proper
     std::sort(node.m_validValues->begin(), node.m_validValues->end());
 }
 
-void DescriptionLoader::readFloat(FloatNode &node, const Element &element)
+void DescriptionLoader::read(FloatNode &node, const Source &source)
 {
     node.setCachingMode(WriteAround);
-    for (const Element &property : element.children())
+    for (const Element &property : source.element.children())
         readNumberProperty(node, property);
     if (!node.m_source.isComplete() && !node.isBroken())
         node.setBroken("it has no value");
 }
 
-void DescriptionLoader::readIntRegister(IntRegisterNode &node, const Source &source)
+void DescriptionLoader::read(IntRegisterNode &node, const Source &source)
 {
     const auto readAll = [&](const Element &element) {
         for (const Element &property : element.children()) {
@@ -426,23 +385,33 @@ void DescriptionLoader::readIntRegister(IntRegisterNode &node, const Source &sou
     node.setCachingMode(node.m_register.m_cachable);
 }
 
-void DescriptionLoader::readFloatRegister(FloatRegisterNode &node, const Element &element)
+void DescriptionLoader::read(FloatRegisterNode &node, const Source &source)
 {
-    for (const Element &property : element.children()) {
+    for (const Element &property : source.element.children()) {
         if (!readCommon(node, property) && !readPresentation(node.m_presentation, property))
             readRegister(node, node.m_register, property);
     }
-    node.setCachingMode(element.child("Cachable") ? node.m_register.m_cachable : WriteAround);
+    node.setCachingMode(source.element.child("Cachable") ? node.m_register.m_cachable : WriteAround);
 }
 
 template <typename T>
-void DescriptionLoader::readPlainRegister(T &node, const Element &element)
+void DescriptionLoader::readPlainRegister(T &node, const Source &source)
 {
-    for (const Element &property : element.children()) {
+    for (const Element &property : source.element.children()) {
         if (!readCommon(node, property))
             readRegister(node, node.m_register, property);
     }
     node.setCachingMode(node.m_register.m_cachable);
+}
+
+void DescriptionLoader::read(StringRegisterNode &node, const Source &source)
+{
+    readPlainRegister(node, source);
+}
+
+void DescriptionLoader::read(RegisterNode &node, const Source &source)
+{
+    readPlainRegister(node, source);
 }
 
 FormulaScope DescriptionLoader::scopeOf(Node &node, std::vector<FormulaVariable> &variables, const Element &element)
@@ -498,23 +467,26 @@ Formula DescriptionLoader::formula(const Element &property, FormulaScope scope, 
 }
 
 template <typename Base>
-void DescriptionLoader::readSwissKnife(SwissKnifeNode<Base> &node, const Element &element)
+void DescriptionLoader::read(SwissKnifeNode<Base> &node, const Source &source)
 {
     if (Base::kind == Formula::Kind::Float)
         node.setCachingMode(WriteAround);
-    for (const Element &property : element.children()) {
+    for (const Element &property : source.element.children()) {
         if (!readCommon(node, property))
             readPresentation(node.m_presentation, property);
     }
-    const FormulaScope scope = scopeOf(node, node.m_variables, element);
-    if (const Element property = element.child("Formula"))
+    const FormulaScope scope = scopeOf(node, node.m_variables, source.element);
+    if (const Element property = source.element.child("Formula"))
         node.m_formula = formula(property, scope, nullptr, Base::kind);
     else
-        fail(element, std::string("node '") + node.name() + "' has no formula");
+        fail(source.element, std::string("node '") + node.name() + "' has no formula");
 }
 
+template void DescriptionLoader::read(SwissKnifeNode<FloatFormulaBase> &node, const Source &source);
+template void DescriptionLoader::read(SwissKnifeNode<IntegerFormulaBase> &node, const Source &source);
+
 template <typename Base>
-void DescriptionLoader::readConverter(ConverterNode<Base> &node, const Element &element)
+void DescriptionLoader::read(ConverterNode<Base> &node, const Source &source)
 {
     using Slope = typename ConverterNode<Base>::Slope;
     static const Names<Slope> slopes = {{"Increasing", Slope::Increasing},
@@ -522,7 +494,7 @@ void DescriptionLoader::readConverter(ConverterNode<Base> &node, const Element &
                                         {"Varying", Slope::Varying},
                                         {"Automatic", Slope::Automatic}};
     node.setCachingMode(WriteAround);
-    for (const Element &property : element.children()) {
+    for (const Element &property : source.element.children()) {
         if (readCommon(node, property) || readPresentation(node.m_presentation, property))
             continue;
         if (is(property, "pValue"))
@@ -530,20 +502,23 @@ void DescriptionLoader::readConverter(ConverterNode<Base> &node, const Element &
         else if (is(property, "Slope"))
             node.m_slope = lookUp(slopes, textOf(property)).value_or(Slope::Automatic);
     }
-    const FormulaScope scope = scopeOf(node, node.m_variables, element);
-    const Element to = element.child("FormulaTo");
-    const Element from = element.child("FormulaFrom");
+    const FormulaScope scope = scopeOf(node, node.m_variables, source.element);
+    const Element to = source.element.child("FormulaTo");
+    const Element from = source.element.child("FormulaFrom");
     if (!to || !from)
-        fail(element, std::string("node '") + node.name() + "' needs a FormulaTo and a FormulaFrom");
+        fail(source.element, std::string("node '") + node.name() + "' needs a FormulaTo and a FormulaFrom");
     node.m_formulaTo = formula(to, scope, "FROM", Base::kind);
     node.m_formulaFrom = formula(from, scope, "TO", Base::kind);
     if (!node.m_node && !node.isBroken())
         node.setBroken("it has no pValue");
 }
 
-void DescriptionLoader::readString(StringNode &node, const Element &element)
+template void DescriptionLoader::read(ConverterNode<FloatFormulaBase> &node, const Source &source);
+template void DescriptionLoader::read(ConverterNode<IntegerFormulaBase> &node, const Source &source);
+
+void DescriptionLoader::read(StringNode &node, const Source &source)
 {
-    for (const Element &property : element.children()) {
+    for (const Element &property : source.element.children()) {
         if (readCommon(node, property))
             continue;
         if (is(property, "Value"))
@@ -558,9 +533,9 @@ void DescriptionLoader::readString(StringNode &node, const Element &element)
     }
 }
 
-void DescriptionLoader::readBoolean(BooleanNode &node, const Element &element)
+void DescriptionLoader::read(BooleanNode &node, const Source &source)
 {
-    for (const Element &property : element.children()) {
+    for (const Element &property : source.element.children()) {
         if (readCommon(node, property))
             continue;
         if (is(property, "Value")) {
@@ -576,14 +551,14 @@ void DescriptionLoader::readBoolean(BooleanNode &node, const Element &element)
     if (node.m_value.isSet() && !node.m_value.node()) // is kept as a truth value
         node.m_value.setConstant(node.m_value.constant() != 0 && node.m_value.constant() == node.m_onValue);
     if (node.m_onValue == node.m_offValue)
-        fail(element, std::string("boolean '") + node.name() + "' has the same on and off value");
+        fail(source.element, std::string("boolean '") + node.name() + "' has the same on and off value");
     if (!node.m_value.isSet() && !node.isBroken())
         node.setBroken("it has no value");
 }
 
-void DescriptionLoader::readCommand(CommandNode &node, const Element &element)
+void DescriptionLoader::read(CommandNode &node, const Source &source)
 {
-    for (const Element &property : element.children()) {
+    for (const Element &property : source.element.children()) {
         if (readCommon(node, property))
             continue;
         if (is(property, "Value"))
@@ -599,9 +574,9 @@ void DescriptionLoader::readCommand(CommandNode &node, const Element &element)
         node.setBroken("it has no value or no command value");
 }
 
-void DescriptionLoader::readEnumeration(EnumerationNode &node, const Element &element)
+void DescriptionLoader::read(EnumerationNode &node, const Source &source)
 {
-    for (const Element &property : element.children()) {
+    for (const Element &property : source.element.children()) {
         if (readCommon(node, property))
             continue;
         if (is(property, "Value"))
@@ -610,7 +585,8 @@ void DescriptionLoader::readEnumeration(EnumerationNode &node, const Element &el
             linkNumber(node.m_value, node, property, Use::Value);
     }
     // Its entries were created right behind it.
-    for (std::size_t i = node.m_index + 1; i < m_sources.size() && m_sources[i].element.parent() == element; ++i) {
+    for (std::size_t i = node.m_index + 1; i < m_sources.size() && m_sources[i].element.parent() == source.element;
+         ++i) {
         const auto entry = static_cast<EnumEntryNode *>(m_sources[i].node);
         node.m_entries.push_back(entry);
         if (isYes(m_sources[i].element.child("IsSelfClearing")))
@@ -623,10 +599,10 @@ void DescriptionLoader::readEnumeration(EnumerationNode &node, const Element &el
         node.setBroken("it has no value");
 }
 
-void DescriptionLoader::readEntry(EnumEntryNode &node, const Element &element)
+void DescriptionLoader::read(EnumEntryNode &node, const Source &source)
 {
     bool hasValue = false;
-    for (const Element &property : element.children()) {
+    for (const Element &property : source.element.children()) {
         if (readCommon(node, property))
             continue;
         if (is(property, "Value")) {
@@ -640,12 +616,12 @@ void DescriptionLoader::readEntry(EnumEntryNode &node, const Element &element)
             node.m_selfClearing = isYes(property);
     }
     if (!hasValue)
-        fail(element, std::string("entry '") + node.m_symbolic + "' has no value");
+        fail(source.element, std::string("entry '") + node.m_symbolic + "' has no value");
 }
 
-void DescriptionLoader::readCategory(CategoryNode &node, const Element &element)
+void DescriptionLoader::read(CategoryNode &node, const Source &source)
 {
-    for (const Element &property : element.children()) {
+    for (const Element &property : source.element.children()) {
         if (readCommon(node, property) || !is(property, "pFeature"))
             continue;
         // A feature that does not exist, or a port, is left out; the others stay.
@@ -658,15 +634,15 @@ void DescriptionLoader::readCategory(CategoryNode &node, const Element &element)
     node.m_features.shrink_to_fit();
 }
 
-void DescriptionLoader::readPlain(PlainNode &node, const Element &element)
+void DescriptionLoader::read(PlainNode &node, const Source &source)
 {
-    for (const Element &property : element.children())
+    for (const Element &property : source.element.children())
         readCommon(node, property);
 }
 
-void DescriptionLoader::readPort(PortNode &node, const Element &element)
+void DescriptionLoader::read(PortNode &node, const Source &source)
 {
-    for (const Element &property : element.children()) {
+    for (const Element &property : source.element.children()) {
         if (readCommon(node, property))
             continue;
         if (is(property, "SwapEndianess"))
