@@ -138,6 +138,16 @@ auto listenTo(Sender *(*sender)(const Stage &stage), Emitted emitted)
     return [=](Stage &stage, const Slot &slot) { QObject::connect(sender(stage), emitted, stage.tree, slot); };
 }
 
+/** To a signal of the model of a tree that has been emptied. */
+template <typename Emitted>
+auto listenToEmpty(Emitted emitted)
+{
+    return [=](Stage &stage, const Slot &slot) {
+        stage.view->setParams(static_cast<GenApi::INodeMap *>(nullptr));
+        QObject::connect(stage.tree->model(), emitted, stage.tree, slot);
+    };
+}
+
 /** With all that is put off until events are processed. */
 void runEventLoop()
 {
@@ -169,6 +179,8 @@ const std::vector<Signal> &signalsOfTheTree()
         {"changed value", listenTo(model, &QAbstractItemModel::dataChanged)},
         {"layout", listenTo(model, &QAbstractItemModel::layoutChanged)},
         {"rows", listenTo(model, &QAbstractItemModel::rowsAboutToBeRemoved)},
+        {"about to be filled", listenToEmpty(&QAbstractItemModel::modelAboutToBeReset)},
+        {"filled", listenToEmpty(&QAbstractItemModel::modelReset)},
         {"current item", listenTo(selection, &QItemSelectionModel::currentChanged)},
         {"selection", listenTo(selection, &QItemSelectionModel::selectionChanged)},
         {"collapsed", listenTo(tree, &QTreeView::collapsed)},

@@ -161,7 +161,10 @@ public:
     void initPolling();
 
     void install(GenApi::INodeMap *map);
-    void remove(bool isReplaced);
+    bool isEmptyTree() const;
+    void fill(GenParamTreeModel &empty);
+    void showFiltered();
+    void remove();
     static void giveUp(QObject *object);
     void showModel(QAbstractItemModel *shown);
     void connectModel();
@@ -325,10 +328,48 @@ void OrvGenParamTreeViewPrivate::initPolling()
 void OrvGenParamTreeViewPrivate::install(GenApi::INodeMap *map)
 {
     const OpenCalls::Call call;
-    remove(true);
+    GenParamTreeModel *const empty = isEmptyTree() ? std::exchange(model, nullptr) : nullptr;
+    remove();
     nodeMap = map;
     shareClock();
     model = new GenParamTreeModel(map, q);
+    connectModel();
+    // From here on slots may take the node map away again, or set another one, and so may reading: OpenCalls.
+    const auto *const installed = model;
+    if (empty)
+        fill(*empty);
+    else
+        showFiltered();
+    if (model != installed)
+        return;
+    splitColumns();
+    setSpanForChildren(*ui.treeView, QModelIndex());
+    if (model == installed && map && !stateToCome.isEmpty())
+        applyState(std::exchange(stateToCome, QByteArray()));
+}
+
+/** Whether there is a model without a node map. */
+bool OrvGenParamTreeViewPrivate::isEmptyTree() const
+{
+    return model && !nodeMap && ui.treeView->model() == proxy && ui.treeView->featureSelection();
+}
+
+/** The filter stays, because to give a tree another one takes longer than all else that is done for a small camera. */
+void OrvGenParamTreeViewPrivate::fill(GenParamTreeModel &empty)
+{
+    const auto *const installed = model;
+    proxy->setChoice({}); // as in a new one
+    proxy->setSourceModel(model);
+    empty.disconnect(q);
+    empty.release();
+    giveUp(&empty);
+    if (model == installed)
+        Q_EMIT ui.treeView->modelReplaced();
+}
+
+void OrvGenParamTreeViewPrivate::showFiltered()
+{
+    const auto *const installed = model;
     proxy = new GenParamTreeVisibilityFilterProxyModel(q);
     proxy->setFilterVisibility(ui.cbVisibility->currentIndex());
     proxy->setFilterText(ui.filterLineEdit->text());
@@ -336,31 +377,19 @@ void OrvGenParamTreeViewPrivate::install(GenApi::INodeMap *map)
     proxy->setWholeWords(filterOptions->wholeWordsOnly());
     proxy->setMatchesNodeNames(matchesNames);
     proxy->setSourceModel(model);
-    connectModel();
-    // From here on reading may take the node map away again, or set another one: OpenCalls.
-    const auto *const installed = proxy;
     showModel(proxy);
-    if (proxy != installed)
-        return;
-    connectProxy();
-    splitColumns();
-    setSpanForChildren(*ui.treeView, QModelIndex());
-    if (proxy == installed && map && !stateToCome.isEmpty())
-        applyState(std::exchange(stateToCome, QByteArray()));
+    if (model == installed)
+        connectProxy();
 }
 
-/**
- * Nothing refers to the node map afterwards. The objects that did are given up: OpenCalls. Only a tree without one is
- * left with what it has if another model follows at once, because a tree needs as long for none as for any.
- */
-void OrvGenParamTreeViewPrivate::remove(bool isReplaced)
+/** Nothing refers to the node map afterwards. The objects that did are given up: OpenCalls. */
+void OrvGenParamTreeViewPrivate::remove()
 {
     if (!model)
         return;
     model->disconnect(q);
     proxy->disconnect(q);
-    if (nodeMap || !isReplaced)
-        showModel(nullptr);
+    showModel(nullptr);
     model->release();
     giveUp(std::exchange(proxy, nullptr));
     giveUp(std::exchange(model, nullptr));
@@ -677,7 +706,7 @@ OrvGenParamTreeView::~OrvGenParamTreeView()
 {
     Q_EMIT d->ui.treeView->viewIsGoing();
     d->ui.treeView->disconnect(this); // it outlives what the slots need
-    d->remove(false);
+    d->remove();
 }
 
 void OrvGenParamTreeView::setParams(OrvGenParam::Array *params)
@@ -695,7 +724,7 @@ void OrvGenParamTreeView::setParams(GenApi::INodeMap *nodeMap)
 void OrvGenParamTreeView::clearParams()
 {
     d->saveLastState();
-    d->remove(false);
+    d->remove();
     d->tellCurrent(QString());
 }
 
