@@ -196,18 +196,18 @@ int main(int argc, char **argv)
     const auto bayer = [](Sample sample, int bits, bool isDeep = false) {
         return [=](const Bytes &bytes) { return Naive(bytes, sample, bits, isDeep).bayer(); };
     };
-    compare(table, 0x01080001, Depth::Display, mono(byteSample, 8));
-    compare(table, 0x01100005, Depth::Display, mono(wordSample, 12));
-    compare(table, 0x010C0047, Depth::Display, mono(bitSample, 12));
+    compare(table, 0x01080001, Depth::Shown, mono(byteSample, 8));
+    compare(table, 0x01100005, Depth::Shown, mono(wordSample, 12));
+    compare(table, 0x010C0047, Depth::Shown, mono(bitSample, 12));
     compare(table, 0x010C0047, Depth::Full, mono(bitSample, 12, true));
-    compare(table, 0x010C0006, Depth::Display, mono(pairSample, 12));
-    compare(table, 0x01080009, Depth::Display, bayer(byteSample, 8));
-    compare(table, 0x01100011, Depth::Display, bayer(wordSample, 12));
-    compare(table, 0x010C0059, Depth::Display, bayer(bitSample, 12));
+    compare(table, 0x010C0006, Depth::Shown, mono(pairSample, 12));
+    compare(table, 0x01080009, Depth::Shown, bayer(byteSample, 8));
+    compare(table, 0x01100011, Depth::Shown, bayer(wordSample, 12));
+    compare(table, 0x010C0059, Depth::Shown, bayer(bitSample, 12));
     compare(table, 0x010C0059, Depth::Full, bayer(bitSample, 12, true));
-    compare(table, 0x010C002B, Depth::Display, bayer(pairSample, 12));
-    compare(table, 0x02180014, Depth::Display, naiveRgb);
-    compare(table, 0x02100032, Depth::Display, naiveYuv, 1);
+    compare(table, 0x010C002B, Depth::Shown, bayer(pairSample, 12));
+    compare(table, 0x02180014, Depth::Shown, naiveRgb);
+    compare(table, 0x02100032, Depth::Shown, naiveYuv, 1);
     compareShowing(table);
     table.print();
     return 0;

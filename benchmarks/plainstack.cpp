@@ -4,20 +4,42 @@
 
 #include <GenApi/GenApi.h>
 
+#if QT_VERSION_MAJOR < 6
+
 void PlainFilter::setFilterText(const QString &text)
 {
     m_pattern.setPattern(text);
     invalidateFilter();
 }
 
+bool PlainFilter::isMatch(const QString &name) const
+{
+    return m_pattern.isEmpty() || m_pattern.indexIn(name) >= 0;
+}
+
+#else
+
+void PlainFilter::setFilterText(const QString &text)
+{
+    const auto anywhere = QRegularExpression::UnanchoredWildcardConversion;
+    m_pattern = QRegularExpression(QRegularExpression::wildcardToRegularExpression(text, anywhere),
+                                   QRegularExpression::CaseInsensitiveOption);
+    invalidateFilter();
+}
+
+bool PlainFilter::isMatch(const QString &name) const
+{
+    return m_pattern.match(name).hasMatch();
+}
+
+#endif
+
 bool PlainFilter::filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const
 {
     const QModelIndex index = sourceModel()->index(sourceRow, 0, sourceParent);
     if (index.data(visibilityRole).toInt() > m_level || !index.data(implementedRole).toBool())
         return false;
-    if (index.data(categoryRole).toBool() || m_pattern.isEmpty())
-        return true;
-    return m_pattern.indexIn(index.data().toString()) >= 0;
+    return index.data(categoryRole).toBool() || isMatch(index.data().toString());
 }
 
 namespace {

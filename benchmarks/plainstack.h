@@ -1,10 +1,15 @@
 #pragma once
 
-#include <QRegExp>
 #include <QSortFilterProxyModel>
 #include <QStandardItemModel>
 
 #include <QTreeView>
+
+#if QT_VERSION_MAJOR < 6
+#include <QRegExp>
+#else
+#include <QRegularExpression>
+#endif
 
 #include <memory>
 
@@ -23,8 +28,14 @@ public:
     bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
 
 private:
+    bool isMatch(const QString &name) const;
+
     int m_level = 0;
+#if QT_VERSION_MAJOR < 6
     QRegExp m_pattern{QStringLiteral("*"), Qt::CaseInsensitive, QRegExp::Wildcard};
+#else
+    QRegularExpression m_pattern;
+#endif
 };
 
 /** A copy of all that \a model, a GenParamTreeModel, shows now. */

@@ -29,7 +29,7 @@ public:
     WidgetSheet(QWidget *widget, QDesignerPropertySheetExtension *sheet,
                 QDesignerDynamicPropertySheetExtension *dynamicSheet, QObject *parent);
 
-    int count() const override { return m_sheet->count() + m_switches.size(); }
+    int count() const override { return m_sheet->count() + int(m_switches.size()); }
     int indexOf(const QString &name) const override;
     QString propertyName(int index) const override;
     QString propertyGroup(int index) const override;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QIcon>
+#include <QKeySequence>
 
 class QAction;
 
@@ -9,3 +10,9 @@ QIcon iconOf(const char *name);
 
 /** The tip of an action, with its keys, as a tool tip is where people look for them. */
 void setTip(QAction &action, const QString &tip);
+
+/** \a key with \a modifiers, with either Qt. */
+inline QKeySequence keys(Qt::KeyboardModifiers modifiers, int key)
+{
+    return int(modifiers) | key;
+}

@@ -149,14 +149,15 @@ QStringList ExplorerWindow::pageNames() const
 
 void ExplorerWindow::showPage(const QString &name)
 {
-    m_pages->setCurrentIndex(pageNames().indexOf(name));
+    m_pages->setCurrentIndex(int(pageNames().indexOf(name)));
 }
 
 void ExplorerWindow::createFileMenu()
 {
     QMenu *const file = menuBar()->addMenu(tr("&File"));
-    QAction *const camera = file->addAction(iconOf("opencamera"), tr("Open &Camera..."), this,
-                                            &ExplorerWindow::chooseCamera, Qt::CTRL + Qt::SHIFT + Qt::Key_O);
+    QAction *const camera =
+        file->addAction(iconOf("opencamera"), tr("Open &Camera..."), this, &ExplorerWindow::chooseCamera,
+                        keys(Qt::ControlModifier | Qt::ShiftModifier, Qt::Key_O));
     camera->setObjectName(QStringLiteral("openCamera"));
     setTip(*camera, tr("Choose another camera"));
     QAction *const description = file->addAction(iconOf("opendescription"), tr("&Open Description..."), this,
@@ -200,7 +201,7 @@ void ExplorerWindow::createViewMenu()
     view->addSeparator();
     m_polling = view->addAction(iconOf("poll"), tr("&Poll"));
     m_polling->setObjectName(QStringLiteral("poll"));
-    m_polling->setShortcut(Qt::CTRL + Qt::Key_P);
+    m_polling->setShortcut(keys(Qt::ControlModifier, Qt::Key_P));
     m_polling->setCheckable(true);
     m_polling->setChecked(true);
     setTip(*m_polling, tr("Read values that change by themselves regularly"));
@@ -212,7 +213,7 @@ void ExplorerWindow::createViewMenu()
             [this](const QString &message) { statusBar()->showMessage(message, messageTime); });
     view->addSeparator();
     view->addActions({m_tools->toggleViewAction(), m_picture->toggleViewAction(), m_log->toggleViewAction()});
-    m_log->toggleViewAction()->setShortcut(Qt::CTRL + Qt::Key_L);
+    m_log->toggleViewAction()->setShortcut(keys(Qt::ControlModifier, Qt::Key_L));
     m_tools->addSeparator();
     m_tools->addActions({refreshing, m_polling});
 }
@@ -243,7 +244,7 @@ void ExplorerWindow::createConfigureMenu()
         m_tools->addAction(action);
         if (action->isSeparator())
             continue;
-        action->setShortcut(Qt::CTRL + key++);
+        action->setShortcut(keys(Qt::ControlModifier, key++));
         setTip(*action, QString(action->text()).remove(QLatin1Char('&')));
     }
 }

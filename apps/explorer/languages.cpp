@@ -37,5 +37,10 @@ void speak(const QString &language)
     const QLocale locale = language.isEmpty() ? QLocale::system() : QLocale(language);
     install(locale, QStringLiteral("OrvCameraGuiApi"), libraryCatalogues);
     install(locale, QStringLiteral("orv-camera-explorer"), QStringLiteral(":/orv-camera-explorer/translations"));
-    install(locale, QStringLiteral("qtbase"), QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+#if QT_VERSION_MAJOR < 6
+    const QString ofQt = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+#else
+    const QString ofQt = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+#endif
+    install(locale, QStringLiteral("qtbase"), ofQt);
 }

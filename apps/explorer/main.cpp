@@ -106,8 +106,10 @@ int runWindow(int argc, char **argv, const Options &options, std::unique_ptr<Cam
     const bool screenshot = options.action == Options::Action::SaveScreenshot;
     if (screenshot && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+#if QT_VERSION_MAJOR < 6 // they are always on since
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
     const QApplication app(argc, argv);
     QGuiApplication::setDesktopFileName(QCoreApplication::applicationName());
     speak(options.language);

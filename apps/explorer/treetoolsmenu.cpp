@@ -1,5 +1,7 @@
 #include "treetoolsmenu.h"
 
+#include "actions.h"
+
 #include <OrvCameraGuiApi/feature_tree/orvfeaturetreetools.h>
 #include <OrvCameraGuiApi/feature_tree/orvgenparamtreeview.h>
 
@@ -51,10 +53,10 @@ void TreeToolsMenu::addSearch()
         return action;
     };
     using OrvGui::OrvFeatureTreeTools;
-    connect(add(tr("&Find..."), Qt::CTRL + Qt::SHIFT + Qt::Key_F), &QAction::triggered, m_tools,
+    connect(add(tr("&Find..."), keys(Qt::ControlModifier | Qt::ShiftModifier, Qt::Key_F)), &QAction::triggered, m_tools,
             &OrvFeatureTreeTools::find);
     connect(add(tr("Find &Next"), Qt::Key_F3), &QAction::triggered, m_tools, &OrvFeatureTreeTools::findNext);
-    connect(add(tr("Find &Previous"), Qt::SHIFT + Qt::Key_F3), &QAction::triggered, m_tools,
+    connect(add(tr("Find &Previous"), keys(Qt::ShiftModifier, Qt::Key_F3)), &QAction::triggered, m_tools,
             &OrvFeatureTreeTools::findPrevious);
 }
 

@@ -27,8 +27,10 @@ int showUntilPainted(QWidget &window)
 /** The tree of a simulated camera: by itself, or with "explorer" the whole application as it starts for a person. */
 int main(int argc, char **argv)
 {
+#if QT_VERSION_MAJOR < 6 // they are always on since
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
     const QApplication app(argc, argv);
     auto camera = openCamera(QStringLiteral("ORV-GIGE-0001"));
     if (argc > 1 && std::strcmp(argv[1], "explorer") == 0) {

@@ -9,7 +9,9 @@
 
 int main(int argc, char **argv)
 {
+#if QT_VERSION_MAJOR < 6
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
     QApplication application(argc, argv);
     OrvCam::Device *const camera = openFirstCamera();
     if (!camera)

@@ -89,7 +89,7 @@ QByteArray Session::answer(const QByteArray &step)
         map->Poll(step.mid(1).toLongLong());
         return "ok";
     }
-    const int equals = step.indexOf('=');
+    const auto equals = step.indexOf('=');
     if (equals >= 0) {
         const bool verify = step[equals - 1] != ':';
         const QByteArray name = step.left(verify ? equals : equals - 1);
@@ -144,8 +144,8 @@ QByteArray Session::fired()
 QByteArray kindOf(const GenICam::GenericException &error)
 {
     const QByteArray text = error.what();
-    const int end = text.lastIndexOf("Exception thrown");
-    const int start = text.lastIndexOf(' ', end) + 1;
+    const auto end = text.lastIndexOf("Exception thrown");
+    const auto start = text.lastIndexOf(' ', end) + 1;
     return text.mid(start, end - start);
 }
 

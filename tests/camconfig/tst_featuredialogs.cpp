@@ -59,6 +59,13 @@ void checkKeysAndClosing(const FeatureDialog &feature)
         QVERIFY(dialog->isHidden());
         QCOMPARE(closed, 1);
     }
+    QDialog window; // closes at Escape, and not the part of it that gets the key
+    QDialog *const part = feature.make(camera.device(), &window);
+    part->setWindowFlags(Qt::Widget);
+    QVERIFY(show(window));
+    part->show();
+    QTest::keyClick(part, Qt::Key_Escape);
+    QVERIFY(window.isHidden() && !part->isHidden());
 }
 
 /**

@@ -246,7 +246,7 @@ private Q_SLOTS:
         QVERIFY(shown.devicePane()[7] != device[7]);
 
         shown.click(monochrome);
-        const int usb = shown.devicePane().indexOf(QRegularExpression(QStringLiteral("^USB Version=0x0[12]..$")));
+        const int usb = int(shown.devicePane().indexOf(QRegularExpression(QStringLiteral("^USB Version=0x0[12]..$"))));
         QCOMPARE(usb, 6);
         QCOMPARE(
             shown.part<QTreeView>("deviceInfoView")->model()->index(usb, 1).data(Qt::ForegroundRole).value<QBrush>(),

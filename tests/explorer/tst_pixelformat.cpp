@@ -283,7 +283,7 @@ void TestPixelFormat::convertsLikeThePlainOne()
     for (const auto &[size, count] : cases) {
         const Bytes bytes = randomBytes(count);
         const RawPicture raw = rawPicture(format, size, bytes);
-        for (const Depth depth : {Depth::Display, Depth::Full}) {
+        for (const Depth depth : {Depth::Shown, Depth::Full}) {
             const int bits = depth == Depth::Full && format.bits > 8 ? 16 : 8;
             const Plain plain(format, bytes, size.width(), size.height(), bits);
             const ConvertedPicture converted = convertPicture(raw, depth);
@@ -304,12 +304,12 @@ void TestPixelFormat::reusesOnlyWhatNobodyShares()
 {
     const Bytes bytes{1, 2, 3, 4};
     const RawPicture raw = rawPicture(allFormats()[4], QSize(2, 2), bytes);
-    QImage first = convertPicture(raw, Depth::Display).image;
+    QImage first = convertPicture(raw, Depth::Shown).image;
     const uchar *const memory = first.constBits();
-    QImage second = convertPicture(raw, Depth::Display, std::move(first)).image;
+    QImage second = convertPicture(raw, Depth::Shown, std::move(first)).image;
     QCOMPARE(second.constBits(), memory);
     const QImage shared = second;
-    QVERIFY(convertPicture(raw, Depth::Display, std::move(second)).image.constBits() != memory);
+    QVERIFY(convertPicture(raw, Depth::Shown, std::move(second)).image.constBits() != memory);
 }
 
 void TestPixelFormat::tellsWhatCannotBeShown_data()

@@ -74,9 +74,9 @@ void ExportsTest::exportsThePublicNamesAndNothingElse()
 void ExportsTest::needsNoFurtherLibraries()
 {
     const QRegularExpression needed(QStringLiteral("\\(NEEDED\\).*\\[(.+)\\]"));
-    const QRegularExpression allowed(
-        QStringLiteral("^(lib(Qt5(Widgets|Gui|Core)|OrvGenApi|OrvCameraApi|stdc\\+\\+|m|gcc_s|c|asan|ubsan|tsan)"
-                       "|ld-linux.*)\\.so")); // the C library's loader for what is local to a thread
+    const QRegularExpression allowed(QStringLiteral("^(lib(Qt" QT_STRINGIFY(
+        QT_VERSION_MAJOR) "(Widgets|Gui|Core)|OrvGenApi|OrvCameraApi|stdc\\+\\+|m|gcc_s|c|asan|ubsan|tsan)"
+                          "|ld-linux.*)\\.so")); // the C library's loader for what is local to a thread
     QStringList libraries;
     for (const QString &line : linesOf(QStringLiteral(READELF), {QStringLiteral("-d"), QStringLiteral(LIBRARY)})) {
         const QRegularExpressionMatch match = needed.match(line);

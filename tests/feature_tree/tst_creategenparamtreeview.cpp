@@ -41,7 +41,9 @@ private Q_SLOTS:
     void makesTheApplicationItNeeds()
     {
         QVERIFY(qobject_cast<QApplication *>(QCoreApplication::instance()));
+#if QT_VERSION_MAJOR < 6
         QVERIFY(QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps));
+#endif
     }
 
     void createsWindows()

@@ -50,10 +50,16 @@ struct ShownTree
         return isPainted ? paints.region - corner : QRegion(tree.rect());
     }
 
+    /** In what is on the screen of the lowest row, too. */
+    QPoint placeOf(const QModelIndex &index) const
+    {
+        return tree.visualRect(index).intersected(tree.viewport()->rect()).center();
+    }
+
     bool isRepainted(const QModelIndex &index)
     {
         settle();
-        return paintedAfter({index}).contains(tree.visualRect(index).center());
+        return paintedAfter({index}).contains(placeOf(index));
     }
 
     bool isIgnored(const QModelIndex &index)
@@ -110,7 +116,7 @@ private Q_SLOTS:
         QVERIFY(comes.row() > stays.row());
         const QRegion painted = shown.paintedAfter({stays, comes});
         for (const QModelIndex &index : {stays, comes})
-            QVERIFY(painted.contains(shown.tree.visualRect(index).center()));
+            QVERIFY(painted.contains(shown.placeOf(index)));
     }
 
     /** A category with one feature that is listed twice in a row, and once more far below. */

@@ -3,7 +3,7 @@
 #include <OrvCameraGuiApi/feature_tree/genparamtreevisibilityfilterproxymodel.h>
 
 #include <QRandomGenerator>
-#include <QRegExp>
+#include <QRegularExpression>
 
 namespace {
 
@@ -47,7 +47,8 @@ public:
     void refilter() { invalidateFilter(); }
 
     int level = 0;
-    QRegExp pattern{QStringLiteral("*"), Qt::CaseInsensitive, QRegExp::Wildcard};
+    QString pattern = QStringLiteral("*");
+    bool isCaseSensitive = false;
     bool wholeWords = false;
 
     bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override
@@ -57,8 +58,13 @@ public:
             return false;
         if (node->GetPrincipalInterfaceType() == GenApi::intfICategory || pattern.isEmpty())
             return true;
-        const QString name = QString::fromUtf8(node->GetDisplayName());
-        return wholeWords ? pattern.exactMatch(name) : pattern.indexIn(name) >= 0;
+        const QString name = QString::fromUtf8(node->GetDisplayName().c_str());
+        const QString wildcard = wholeWords ? pattern : QLatin1Char('*') + pattern + QLatin1Char('*');
+        return QRegularExpression(QRegularExpression::wildcardToRegularExpression(wildcard),
+                                  isCaseSensitive ? QRegularExpression::NoPatternOption
+                                                  : QRegularExpression::CaseInsensitiveOption)
+            .match(name)
+            .hasMatch();
     }
 };
 
@@ -119,7 +125,7 @@ void act(ShownView &ours, PlainTree &plain, QRandomGenerator &random)
     const char *const texts[] = {"*", "", "gain", "G?m*", "expo", "nothing", "1", "Top"};
     const int choice = random.bounded(8);
     const int value = random.bounded(16);
-    const int row = random.bounded(visibleRows(plain).size() + 1);
+    const int row = random.bounded(int(visibleRows(plain).size()) + 1);
     switch (choice) {
     case 0:
         ours.view.setVisibility(OrvGui::Visibility(value % 3));
@@ -128,7 +134,7 @@ void act(ShownView &ours, PlainTree &plain, QRandomGenerator &random)
     case 1:
         ours.part<QCheckBox>("checkBoxCase")->setChecked(value % 2 == 0);
         ours.part<QCheckBox>("checkBoxWhole")->setChecked(value / 2 % 4 == 0);
-        plain.filter.pattern.setCaseSensitivity(value % 2 == 0 ? Qt::CaseSensitive : Qt::CaseInsensitive);
+        plain.filter.isCaseSensitive = value % 2 == 0;
         plain.filter.wholeWords = value / 2 % 4 == 0;
         break;
     case 2:
@@ -146,7 +152,7 @@ void act(ShownView &ours, PlainTree &plain, QRandomGenerator &random)
         break;
     default:
         ours.part<QLineEdit>("filterLineEdit")->setText(QString::fromLatin1(texts[value % 8]));
-        plain.filter.pattern.setPattern(QString::fromLatin1(texts[value % 8]));
+        plain.filter.pattern = QString::fromLatin1(texts[value % 8]);
     }
     plain.filter.refilter();
     QCoreApplication::processEvents();
@@ -208,7 +214,7 @@ private Q_SLOTS:
     {
         ShownView shown(description());
         QVERIFY(shown.show());
-        const int implemented = shown.rows().size();
+        const auto implemented = shown.rows().size();
         QVERIFY(shown.type("Amount", "0"));
         shown.part<QLineEdit>("filterLineEdit")->setText(QStringLiteral("gain"));
         QCOMPARE(shown.node<GenApi::CFloatPtr>("Amount")->GetValue(), 0.);

@@ -43,6 +43,15 @@ QStringList itemsOf(const QComboBox &box)
     return items;
 }
 
+/** Flags as a number. */
+QString propertyText(const QWidget &editor, const QByteArray &name)
+{
+    const QMetaObject *const meta = editor.metaObject();
+    const QVariant value = editor.property(name);
+    const bool isFlags = meta->property(meta->indexOfProperty(name)).isFlagType();
+    return isFlags ? QString::number(value.toInt()) : value.toString();
+}
+
 /** The features whose value cell was reported, in order; a category is told of the features in it, too. */
 QStringList changedFeatures(const QSignalSpy &dataChanged)
 {
@@ -266,7 +275,7 @@ private Q_SLOTS:
             QStringList found;
             for (const QByteArray &property : QByteArray(properties).split(' ')) {
                 const QByteArray name = property.left(property.indexOf('='));
-                found += QString::fromLatin1(name) + QLatin1Char('=') + editor->property(name).toString();
+                found += QString::fromLatin1(name) + QLatin1Char('=') + propertyText(*editor, name);
             }
             QCOMPARE(found.join(QLatin1Char(' ')), QLatin1String(properties));
         }

@@ -214,7 +214,8 @@ private Q_SLOTS:
         QVERIFY(shown.show());
         const QRect cell = shown.tree->visualRect(shown.cell("Exposure Time"));
         QWidget *const viewport = shown.tree->viewport();
-        const QPoint arrow = viewport->mapTo(&shown.view, QPoint(cell.right() - 4, cell.top() + 8));
+        // The upper arrow, and beside the edge of the column.
+        const QPoint arrow = viewport->mapTo(&shown.view, cell.topRight() + QPoint(-8, cell.height() / 4));
         QTest::mouseDClick(shown.view.windowHandle(), Qt::LeftButton, {}, arrow);
         auto *const box = qobject_cast<QtOrvSpinBoxVal64 *>(shown.editor());
         QVERIFY(box);

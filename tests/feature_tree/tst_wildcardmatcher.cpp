@@ -2,9 +2,10 @@
 
 #include <OrvCameraGuiApi/feature_tree/wildcardmatcher.h>
 
+#if QT_VERSION_MAJOR < 6
 #include <QRandomGenerator>
-
 #include <QRegExp>
+#endif
 
 namespace {
 
@@ -16,6 +17,7 @@ WildcardMatcher matcherOf(const QString &pattern, Qt::CaseSensitivity sensitivit
     return matcher;
 }
 
+#if QT_VERSION_MAJOR < 6
 QString randomText(QRandomGenerator &random, const QString &letters, int longest)
 {
     const QVector<uint> characters = letters.toUcs4();
@@ -24,6 +26,7 @@ QString randomText(QRandomGenerator &random, const QString &letters, int longest
         text += QString::fromUcs4(&characters[random.bounded(characters.size())], 1);
     return text;
 }
+#endif
 
 } // namespace
 
@@ -39,6 +42,7 @@ private Q_SLOTS:
         QVERIFY(!matcher.isAll(QString(2000, QLatin1Char('a')) + QLatin1Char('1')));
     }
 
+#if QT_VERSION_MAJOR < 6 // Qt 6 does not have that expression
     void answersAsTheRegularExpression()
     {
         const QString letterSets[] = {
@@ -61,6 +65,8 @@ private Q_SLOTS:
             QVERIFY2(matcher.matchesAll() == (pattern.count(QLatin1Char('*')) == pattern.size()), what);
         }
     }
+
+#endif
 
     /** Answers of that expression which nobody can want. */
     void findsWhatThePatternNames()

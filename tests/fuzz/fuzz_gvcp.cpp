@@ -6,7 +6,6 @@
 
 #include <QByteArray>
 #include <QRegularExpression>
-#include <QTextCodec>
 
 using namespace OrvCameraApi;
 
@@ -19,9 +18,8 @@ std::size_t number16(const std::uint8_t *data)
 
 bool isUtf8(const std::string &text)
 {
-    QTextCodec::ConverterState state;
-    QTextCodec::codecForName("UTF-8")->toUnicode(text.data(), int(text.size()), &state);
-    return state.invalidChars == 0 && state.remainingChars == 0;
+    const std::string behind = 'a' + text; // at the beginning a byte order mark would be dropped
+    return QString::fromStdString(behind).toStdString() == behind;
 }
 
 /** A command has the form that every device understands. */

@@ -15,7 +15,7 @@ QString keyOf(const QString &context, const QString &source)
 
 QString withoutMnemonic(QString line)
 {
-    const int place = line.indexOf(QLatin1Char('&'));
+    const auto place = line.indexOf(QLatin1Char('&'));
     return place < 0 ? line : line.remove(place, 1);
 }
 

@@ -29,13 +29,13 @@ inline QPoint handle(const QSlider &slider)
 /** Types characters that no key of QTest stands for, too; "\b" is Backspace. */
 inline void typeOn(QWidget *widget, const QString &text)
 {
-    for (const QChar c : text) {
-        if (c == QLatin1Char('\b')) {
+    for (const char32_t c : text.toStdU32String()) {
+        if (c == '\b') {
             QTest::keyClick(widget, Qt::Key_Backspace);
             continue;
         }
         for (const auto kind : {QEvent::KeyPress, QEvent::KeyRelease}) {
-            QKeyEvent key(kind, c.isDigit() ? 0 : c.unicode(), Qt::NoModifier, QString(c));
+            QKeyEvent key(kind, QChar::isDigit(c) ? 0 : int(c), Qt::NoModifier, QString::fromUcs4(&c, 1));
             QApplication::sendEvent(widget, &key);
         }
     }

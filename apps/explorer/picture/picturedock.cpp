@@ -70,11 +70,11 @@ QAction *PictureDock::addAction(const char *name, const QString &text, const QSt
 
 void PictureDock::createActions()
 {
-    toggleViewAction()->setShortcut(Qt::CTRL + Qt::Key_I);
+    toggleViewAction()->setShortcut(keys(Qt::ControlModifier, Qt::Key_I));
     setTip(*toggleViewAction(), tr("Show the pictures of the camera"));
     m_start = addAction("start", {}, {}, Qt::Key_F9);
     connect(m_start, &QAction::triggered, this, &PictureDock::startOrStop);
-    m_oneFrame = addAction("oneframe", tr("&One Frame"), {}, Qt::SHIFT + Qt::Key_F9);
+    m_oneFrame = addAction("oneframe", tr("&One Frame"), {}, keys(Qt::ShiftModifier, Qt::Key_F9));
     connect(m_oneFrame, &QAction::triggered, this, [this] { start(1); });
     m_menu->addSeparator();
     QAction *const fit = addAction("fit", tr("&Fit"), tr("Show the whole picture"), {});
@@ -82,11 +82,13 @@ void PictureDock::createActions()
     QAction *const pixels =
         addAction("pixels", tr("&100 %"), tr("Show a pixel of the picture as one of the screen"), {});
     connect(pixels, &QAction::triggered, m_view, &PictureView::showPixels);
-    QAction *const zoomIn = addAction("zoomin", tr("Zoom &In"), tr("Show the picture larger"), Qt::CTRL + Qt::Key_Plus);
-    zoomIn->setShortcuts({Qt::CTRL + Qt::Key_Plus, Qt::CTRL + Qt::Key_Equal}); // the same key without Shift
+    QAction *const zoomIn =
+        addAction("zoomin", tr("Zoom &In"), tr("Show the picture larger"), keys(Qt::ControlModifier, Qt::Key_Plus));
+    zoomIn->setShortcuts({keys(Qt::ControlModifier, Qt::Key_Plus),
+                          keys(Qt::ControlModifier, Qt::Key_Equal)}); // the same key without Shift
     connect(zoomIn, &QAction::triggered, m_view, &PictureView::zoomIn);
     QAction *const zoomOut =
-        addAction("zoomout", tr("Zoom O&ut"), tr("Show the picture smaller"), Qt::CTRL + Qt::Key_Minus);
+        addAction("zoomout", tr("Zoom O&ut"), tr("Show the picture smaller"), keys(Qt::ControlModifier, Qt::Key_Minus));
     connect(zoomOut, &QAction::triggered, m_view, &PictureView::zoomOut);
     m_zooms = {fit, pixels, zoomIn, zoomOut};
     m_menu->addSeparator();

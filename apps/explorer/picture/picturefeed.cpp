@@ -117,7 +117,7 @@ private:
         picture.frame = m_stream->take();
         if (picture.frame) {
             ConvertedPicture converted =
-                convertPicture(rawPicture(picture.frame.get()), Depth::Display, std::move(spare));
+                convertPicture(rawPicture(picture.frame.get()), Depth::Shown, std::move(spare));
             picture.image = std::move(converted.image);
             picture.remark = std::move(converted.remark);
         }

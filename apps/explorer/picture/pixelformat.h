@@ -23,7 +23,7 @@ struct ConvertedPicture
 };
 
 enum class Depth {
-    Display, ///< 8 bits: Grayscale8 or RGB32
+    Shown, ///< 8 bits: Grayscale8 or RGB32
     Full ///< 16 bits for formats with more than 8: Grayscale16 or RGBX64
 };
 

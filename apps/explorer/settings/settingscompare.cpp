@@ -67,7 +67,7 @@ private:
             rows[*known] = row;
             return;
         }
-        places.insert(row.key, rows.size());
+        places.insert(row.key, int(rows.size()));
         rows.append(row);
     }
 

@@ -37,11 +37,11 @@ public:
         if (content.startsWith("\xEF\xBB\xBF"))
             content.remove(0, 3);
         for (int begin = 0; begin < content.size();) {
-            int end = content.indexOf('\n', begin);
+            int end = int(content.indexOf('\n', begin));
             if (end < 0)
-                end = content.size();
+                end = int(content.size());
             if (++m_line % turn == 0 && m_progress)
-                m_progress(begin, content.size(), {});
+                m_progress(begin, int(content.size()), {});
             takeLine(content, begin, end > begin && content.at(end - 1) == '\r' ? end - 1 : end);
             begin = end + 1;
         }
@@ -64,7 +64,7 @@ private:
             return takeComment(line);
         if (line.trimmed().isEmpty())
             return;
-        const int tab = line.indexOf('\t');
+        const int tab = int(line.indexOf('\t'));
         if (tab < 1)
             return pass(Text::tr("The line is no setting: '%1'.").arg(QString::fromUtf8(line.left(60))));
         if (m_file.settings.size() == mostSettings)
@@ -158,13 +158,13 @@ SettingsFile readSettings(const QString &path, const SettingsProgress &progress)
 
 QVector<Setting> takeSelectors(Setting &setting, const std::function<bool(const QByteArray &name)> &isSelector)
 {
-    const int end = setting.value.startsWith('{') ? setting.value.indexOf("}\t") : -1;
+    const int end = setting.value.startsWith('{') ? int(setting.value.indexOf("}\t")) : -1;
     if (end < 0)
         return {};
     QVector<Setting> selectors;
     const QList<QByteArray> parts = setting.value.mid(1, end - 1).split('\t');
     for (const QByteArray &part : parts) {
-        const int middle = part.indexOf('=');
+        const int middle = int(part.indexOf('='));
         if (middle < 1 || !isSelector(part.left(middle)))
             return {};
         selectors.append({part.left(middle), part.mid(middle + 1), setting.line});

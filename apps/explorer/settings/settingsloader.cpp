@@ -56,7 +56,7 @@ SettingsLoader::SettingsLoader(GenApi::INodeMap &map, const SettingsFile &file, 
     int done = 0;
     for (const Setting &line : file.settings) {
         if (++done % turn == 0 && progress)
-            progress(done, file.settings.size(), line.name);
+            progress(done, int(file.settings.size()), line.name);
         const QVector<Setting> settings = m_map.withSelectors(line);
         for (const Setting &setting : settings) {
             INode *const feature = m_map.feature(setting.name);

@@ -335,7 +335,7 @@ void SettingsMenu::reportLoaded(const std::shared_ptr<Task> &task, bool isPutBac
     if (!task->loader)
         return warn(task->failure); // before it was there
     const QStringList columns{tr("Feature"), tr("Wanted"), tr("Camera"), tr("Reason")};
-    QVector<ReportRow> rows = rowsOf(task->file.remarks, columns.size());
+    QVector<ReportRow> rows = rowsOf(task->file.remarks, int(columns.size()));
     int others = 0;
     const bool isComplete = task->loader->isComplete();
     int set = 0;
@@ -431,7 +431,7 @@ SettingsReport *SettingsMenu::reportCompared(const Task &task, const QString &le
         return nullptr;
     }
     const QStringList columns{tr("Feature"), QFileInfo(left).fileName(), QFileInfo(right).fileName(), tr("Reason")};
-    QVector<ReportRow> rows = rowsOf(task.file.remarks, columns.size());
+    QVector<ReportRow> rows = rowsOf(task.file.remarks, int(columns.size()));
     for (const SettingDifference &difference : task.differences) {
         QString reason = difference.reason;
         if (reason.isEmpty() && !(difference.isLeft && difference.isRight))
@@ -442,7 +442,7 @@ SettingsReport *SettingsMenu::reportCompared(const Task &task, const QString &le
                      {nameWithContext(difference.name, difference.context), textOf(difference.left),
                       textOf(difference.right), reason}});
     }
-    const int others = task.file.remarks.size() + task.differences.size() - rows.size();
+    const int others = int(task.file.remarks.size() + task.differences.size() - rows.size());
     return report(tr("Compare"),
                   tr("Differences between '%1' and '%2': %3").arg(left, right).arg(task.differences.size()), columns,
                   rows, others);
@@ -452,7 +452,7 @@ SettingsReport *SettingsMenu::report(const QString &title, const QString &summar
                                      QVector<ReportRow> rows, int others)
 {
     if (others > 0)
-        rows.append({QString(), remarkCells(tr("And %1 more.").arg(others), columns.size())});
+        rows.append({QString(), remarkCells(tr("And %1 more.").arg(others), int(columns.size()))});
     auto *const window = new SettingsReport(title, summary, columns, rows, parentWidget());
     connect(window, &SettingsReport::featureChosen, this, &SettingsMenu::featureChosen);
     window->show();

@@ -31,8 +31,11 @@ public:
     {
     }
 
-    int rowCount(const QModelIndex &parent = {}) const override { return parent.isValid() ? 0 : m_rows.size(); }
-    int columnCount(const QModelIndex &parent = {}) const override { return parent.isValid() ? 0 : m_columns.size(); }
+    int rowCount(const QModelIndex &parent = {}) const override { return parent.isValid() ? 0 : int(m_rows.size()); }
+    int columnCount(const QModelIndex &parent = {}) const override
+    {
+        return parent.isValid() ? 0 : int(m_columns.size());
+    }
 
     QVariant data(const QModelIndex &index, int role) const override
     {
@@ -86,7 +89,7 @@ SettingsReport::SettingsReport(const QString &title, const QString &summary, con
     m_view->setTabKeyNavigation(false);
     for (int column = 0; column + 1 < columns.size(); ++column) {
         m_view->resizeColumnToContents(column);
-        m_view->setColumnWidth(column, qMin(m_view->columnWidth(column), usualSize.width() / columns.size()));
+        m_view->setColumnWidth(column, qMin(m_view->columnWidth(column), usualSize.width() / int(columns.size())));
     }
     m_view->setVisible(m_view->model()->rowCount() > 0);
     connect(m_view, &QTreeView::activated, this, &SettingsReport::choose);

@@ -235,12 +235,12 @@ void SettingsSaver::saveBlock(const Block &block)
             remark(block.selector, Text::tr("What it selects is saved once only: %1").arg(now.failure));
         return saveItems(block);
     }
-    const int before = m_file.settings.size();
+    const auto before = m_file.settings.size();
     const QVector<Setting> outside = m_context;
     const KeptSelectors kept(*this, block);
     saveEntries(block, now.text);
     m_context = outside;
-    m_written = std::min(m_written, outside.size());
+    m_written = std::min(m_written, int(outside.size()));
     if (m_file.settings.size() > before)
         kept.addTo(m_file.settings);
     else if (isWritable(block.selector) && isStreamable(block.selector))
@@ -256,7 +256,7 @@ void SettingsSaver::saveEntries(const Block &block, const QByteArray &now)
     const auto isNow = [&](const QByteArray &entry) { return isSameValue(now, entry, kindOf(block.selector)); };
     if (entries.size() > mostCombinations || std::none_of(entries.cbegin(), entries.cend(), isNow))
         entries.prepend(now); // it is there, whatever is cut
-    const int depth = m_context.size();
+    const int depth = int(m_context.size());
     for (const QByteArray &entry : qAsConst(entries)) {
         m_context.resize(depth);
         m_written = std::min(m_written, depth);

@@ -589,13 +589,44 @@ OrvGenApi::MemoryPort::Background background(const char *pattern)
     return {};
 }
 
+constexpr const char *usage = "Usage: genapi_dump DESCRIPTION zero|ones|hash [writes|script]\n";
+
+constexpr const char *help = "Prints what the features of a GenICam description answer, a feature a line.\n"
+                             "\n"
+                             "The registers are in memory and begin as zeros, as ones or as a pattern that\n"
+                             "depends on the address (hash).\n"
+                             "\n"
+                             "  writes         print what writing each feature does instead\n"
+                             "  script         do sequences of operations with each feature instead and print\n"
+                             "                 what becomes of it\n"
+                             "  -h, --help     print this text\n"
+                             "  -v, --version  print the version\n"
+                             "\n"
+                             "Ends with 0, with 1 if the description cannot be loaded, with 2 after a usage\n"
+                             "that is not as above. With GENAPI_DUMP_COUNTS in the environment the accesses to\n"
+                             "registers are counted on the standard error.\n";
+
+/** Whether \a argument asks for a text, which is printed then. */
+bool printsText(const std::string &argument)
+{
+    if (argument == "-h" || argument == "--help")
+        std::cout << usage << help;
+    else if (argument == "-v" || argument == "--version")
+        std::cout << "genapi_dump " ORV_VERSION "\n";
+    else
+        return false;
+    return true;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
+    if (argc == 2 && printsText(argv[1]))
+        return 0;
     const std::string mode = argc == 4 ? argv[3] : "";
     if (argc < 3 || argc > 4 || (!mode.empty() && mode != "writes" && mode != "script")) {
-        std::cerr << "usage: genapi_dump DESCRIPTION zero|ones|hash [writes|script]\n";
+        std::cerr << usage;
         return 2;
     }
     try {

@@ -9,7 +9,7 @@ constexpr unsigned int down = ~0U; // which is -1 where addresses wrap round
 unsigned int nextFree(unsigned int adapter, unsigned int mask, unsigned int step, const QVector<unsigned int> &taken)
 {
     // So many addresses cannot all be taken.
-    int left = taken.size() + 3;
+    int left = int(taken.size()) + 3;
     for (unsigned int address = adapter + step; left > 0 && ((address ^ adapter) & mask) == 0;
          address += step, --left) {
         const bool isHost = !isNetworkAddress(address, mask) && !isBroadcastAddress(address, mask);

@@ -243,8 +243,8 @@ void SetIpDialog::showEvent(QShowEvent *event)
     QDialog::showEvent(event);
     QLineEdit *const edit = d->ui.ipEdit;
     edit->setFocus();
-    const int start = edit->text().lastIndexOf(QLatin1Char('.')) + 1;
-    edit->setSelection(start, edit->text().size() - start);
+    const int start = int(edit->text().lastIndexOf(QLatin1Char('.'))) + 1;
+    edit->setSelection(start, int(edit->text().size()) - start);
     // On a screen that is too small; the area itself follows the focus later, where people take it.
     if (auto *const area = findChild<QScrollArea *>())
         area->ensureWidgetVisible(edit);

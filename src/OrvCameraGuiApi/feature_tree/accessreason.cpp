@@ -67,7 +67,7 @@ std::vector<INode *> indexedBy(INode &node)
     failureOf([&] { node.GetProperty("pValueIndexed", names, indexes); });
     const QStringList texts = fromGenICam(indexes).split(QLatin1Char('\t'));
     const std::vector<INode *> targets = linked(node, "pValueIndexed");
-    const int at = texts.indexOf(now);
+    const auto at = texts.indexOf(now);
     if (at >= 0 && size_t(at) < targets.size())
         return {targets[size_t(at)]};
     return linked(node, "pValueDefault");

@@ -35,7 +35,7 @@ void ChangeMarks::paint(QPainter &painter, const QRect &row, const QModelIndex &
         return;
     const bool isSelected = m_tree->selectionModel()->isSelected(index);
     QColor color = m_tree->palette().color(isSelected ? QPalette::HighlightedText : QPalette::Highlight);
-    color.setAlphaF(strength);
+    color.setAlphaF(float(strength));
     painter.fillRect(barIn(row).adjusted(0, 1, 0, -1), color);
 }
 

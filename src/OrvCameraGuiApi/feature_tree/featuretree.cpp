@@ -2,6 +2,7 @@
 
 #include <OrvCameraGuiApi/feature_tree/featurehandler.h>
 #include <OrvCameraGuiApi/feature_tree/featureselection.h>
+#include <OrvCameraGuiApi/feature_tree/genparamdelegate.h>
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>
 #include <OrvCameraGuiApi/feature_tree/opencalls.h>
 
@@ -83,6 +84,31 @@ void FeatureTree::endEditing(const QModelIndex &index)
     // The write may have closed it already.
     if (editor && indexWidget(edited) == editor)
         closeEditor(editor, QAbstractItemDelegate::NoHint);
+}
+
+/** What the first of the two signals that end editing causes may let the editor go before the second. */
+bool FeatureTree::isLetGo(const QWidget *editor) const
+{
+    const std::optional<QModelIndex> edited = GenParamDelegate::editedIndex(editor);
+    return edited && indexWidget(*edited) != editor;
+}
+
+void FeatureTree::commitData(QWidget *editor)
+{
+    if (!isLetGo(editor))
+        QTreeView::commitData(editor);
+}
+
+void FeatureTree::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    if (!isLetGo(editor))
+        QTreeView::closeEditor(editor, hint);
+}
+
+/** Whether a child of the viewport is an editor of any delegate. */
+bool FeatureTree::isEditor(const QWidget *child) const
+{
+    return GenParamDelegate::editedIndex(child) || indexWidget(indexAt(child->pos())) == child;
 }
 
 void FeatureTree::setModel(QAbstractItemModel *model)
@@ -263,10 +289,10 @@ void FeatureTree::setReadOnly(bool readOnly)
     m_isReadOnly = readOnly;
     if (!readOnly)
         return;
-    // Editors of other rows too, which a program may have opened. The view ignores children that are no editors.
+    // Editors of other rows too, which a program may have opened.
     const QList<QWidget *> children = viewport()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
     for (const QPointer<QWidget> editor : children) {
-        if (editor)
+        if (editor && isEditor(editor))
             closeEditor(editor, QAbstractItemDelegate::RevertModelCache);
     }
 }

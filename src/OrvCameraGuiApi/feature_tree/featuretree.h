@@ -95,6 +95,10 @@ Q_SIGNALS:
     void viewIsGoing();
 
 protected:
+    /** As with Qt 5, which passes over an editor that the view has let go; Qt 6 warns of it. @{ */
+    void commitData(QWidget *editor) override;
+    void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
+    /** @} */
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
     bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -103,6 +107,8 @@ protected:
     void drawRow(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
 private:
+    bool isLetGo(const QWidget *editor) const;
+    bool isEditor(const QWidget *child) const;
     void keepWhatIsInUse();
     bool handleKey(const QKeyEvent &event);
     bool openValue(const QKeyEvent &event);

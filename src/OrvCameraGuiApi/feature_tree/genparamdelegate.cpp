@@ -370,6 +370,12 @@ bool GenParamDelegate::fitToFeature(QWidget *editor, const QModelIndex &index) c
     return false;
 }
 
+std::optional<QModelIndex> GenParamDelegate::editedIndex(const QWidget *editor)
+{
+    const EditorSession *const session = EditorSession::find(editor);
+    return session ? std::optional<QModelIndex>(session->index()) : std::nullopt;
+}
+
 void GenParamDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
 {
     // A view may have got another model meanwhile, which would take the index for its own.

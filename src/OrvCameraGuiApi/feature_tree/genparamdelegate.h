@@ -3,6 +3,10 @@
 #include <OrvCameraGuiApi/feature_tree/controldata.h>
 #include <OrvCameraGuiApi/windows/readabledelegate.h>
 
+#include <QModelIndex>
+
+#include <optional>
+
 class QKeyEvent;
 
 /**
@@ -64,6 +68,9 @@ public:
      * application except on the editor, its pop-ups and its context menu. Null is ignored.
      */
     void captureMouseForEditor(QWidget *editor) const;
+
+    /** The cell of an editor that this class has loaded, invalid when it is gone; nothing for other widgets. */
+    static std::optional<QModelIndex> editedIndex(const QWidget *editor);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -63,7 +63,7 @@ QString shortened(const QString &html)
     for (const QChar c : html) {
         length = c.isSpace() || c == QLatin1Char('<') || c == QLatin1Char('>') ? 0 : length + 1;
         if (c == QLatin1Char('&'))
-            entity = result.size();
+            entity = int(result.size());
         else if (c == QLatin1Char(';'))
             entity = -1;
         if (length == longest && entity >= 0)

@@ -39,7 +39,7 @@ void forEachCategoryPath(const QAbstractItemModel &model, Visit visit)
         if (depth > 0)
             path += '/';
         path += index.data().toString().toUtf8();
-        pathSizes.push_back(path.size());
+        pathSizes.push_back(int(path.size()));
         visit(index, path);
     });
 }
@@ -47,7 +47,7 @@ void forEachCategoryPath(const QAbstractItemModel &model, Visit visit)
 /** The text after the first \a marker. */
 QByteArray after(const QByteArray &state, const char *marker)
 {
-    const int found = state.indexOf(marker);
+    const auto found = state.indexOf(marker);
     return found < 0 ? QByteArray() : state.mid(found + int(qstrlen(marker)));
 }
 

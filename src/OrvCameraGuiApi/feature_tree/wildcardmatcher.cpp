@@ -27,7 +27,7 @@ bool isAscii(const QString &text)
 QString textBetweenStars(const QString &pattern)
 {
     int first = 0;
-    int end = pattern.size();
+    int end = int(pattern.size());
     while (first < end && pattern[first] == QLatin1Char('*'))
         ++first;
     while (first < end && pattern[end - 1] == QLatin1Char('*'))
@@ -123,7 +123,7 @@ int WildcardMatcher::parseBackslashes(int at)
 /** Parses the set from its "[" on, at \a at; where to go on. */
 int WildcardMatcher::parseSet(int at)
 {
-    const int size = m_pattern.size();
+    const int size = int(m_pattern.size());
     CharacterSet set;
     ++at;
     if (at < size && m_pattern[at] == QLatin1Char('^')) {

@@ -26,7 +26,7 @@ public:
     int cursorPosition() const override { return 0; }
     void setCursorPosition(int) override { }
     QString text(int start, int end) const override { return shownText().mid(start, end - start); }
-    int characterCount() const override { return shownText().size(); }
+    int characterCount() const override { return int(shownText().size()); }
     QRect characterRect(int offset) const override;
     int offsetAtPoint(const QPoint &point) const override;
     void scrollToSubstring(int, int) override { }

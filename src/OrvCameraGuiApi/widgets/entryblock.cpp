@@ -25,7 +25,7 @@ bool isShortened(const QString &former, const QString &text)
     int same = 0;
     while (same < text.size() && text.at(same) == former.at(same))
         ++same;
-    return former.endsWith(text.midRef(same));
+    return former.endsWith(text.mid(same));
 }
 
 } // namespace

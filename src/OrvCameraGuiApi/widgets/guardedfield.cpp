@@ -74,8 +74,8 @@ public:
 
     void restore() override { m_box->Base::setValue(m_box->value()); }
     bool commitsOnLeaving() const override { return !m_own || m_own->validateTyping(); }
-    int numberStart() const override { return m_box->prefix().size(); }
-    int numberEnd() const override { return m_box->text().size() - m_box->suffix().size(); }
+    int numberStart() const override { return int(m_box->prefix().size()); }
+    int numberEnd() const override { return int(m_box->text().size() - m_box->suffix().size()); }
     int base() const override { return baseOf(*m_box); }
     bool hasExponent() const override { return std::is_floating_point_v<Number>; }
     QString minimumText() const override { return withAffixes(m_box->minimum()); }

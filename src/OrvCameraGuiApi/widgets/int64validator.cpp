@@ -1,6 +1,7 @@
 #include <OrvCameraGuiApi/widgets/int64validator.h>
 
 #include <OrvCameraGuiApi/widgets/integers.h>
+#include <OrvCameraGuiApi/widgets/localesigns.h>
 #include <OrvCameraGuiApi/widgets/numbertext.h>
 
 #include <QLocale>
@@ -8,11 +9,12 @@
 namespace {
 
 /** Whether the only separator does not cut off a group: it may be meant as a decimal sign. */
-bool isAmbiguous(const QString &text, const QLocale &locale)
+bool isAmbiguous(const QString &typed, const QLocale &locale)
 {
+    const QString text = NumberText::plain(typed, locale);
     constexpr int group = 3; // digits
-    const QChar separator = locale.groupSeparator();
-    const int place = text.indexOf(separator);
+    const QChar separator = LocaleSigns::sole(locale.groupSeparator());
+    const auto place = text.indexOf(separator);
     if (place < 0 || !NumberText::hasGroups(locale) || text.count(separator) > 1)
         return false;
     return place == 0 || text.size() - place - 1 != group;
@@ -82,8 +84,10 @@ QValidator::State Int64Validator::validate(QString &text, int &pos) const
     Q_UNUSED(pos)
     if (text.isEmpty())
         return Intermediate;
-    const bool isLocalSign = m_base == 10 && text.size() == 1 && NumberText::isNegative(text, locale());
-    if (isLocalSign || text == QLatin1String("-"))
+    const QString plain = m_base == 10 ? NumberText::plain(text, locale()) : text;
+    if (plain.isEmpty()) // no more than a mark of the direction
+        return Intermediate;
+    if (plain == QLatin1String("-"))
         return m_bottom < 0 ? Intermediate : Invalid;
 
     bool ok = false;

@@ -1,48 +1,56 @@
 #include <OrvCameraGuiApi/widgets/numbertext.h>
 
 #include <OrvCameraGuiApi/widgets/integers.h>
+#include <OrvCameraGuiApi/widgets/localesigns.h>
 
 #include <QDoubleSpinBox>
 #include <QSpinBox>
 
 #include <cmath>
+#include <string>
 
 namespace {
 
-constexpr QChar MinusSign(0x2212);
+using LocaleSigns::sole;
 
-bool isMinus(QChar c, const QLocale &locale)
-{
-    return c == QLatin1Char('-') || c == MinusSign || c == locale.negativeSign();
-}
+constexpr char32_t MinusSign = 0x2212;
 
-bool isPlus(QChar c, const QLocale &locale)
+/** How a locale writes, asked for once for a whole text. */
+struct Writing
 {
-    return c == QLatin1Char('+') || c == locale.positiveSign();
+    explicit Writing(const QLocale &locale)
+        : minus(sole(locale.negativeSign()).unicode())
+        , plus(sole(locale.positiveSign()).unicode())
+        , zero(QString(locale.zeroDigit()).toStdU32String()[0])
+        , marks(LocaleSigns::marks(locale.negativeSign()) + LocaleSigns::marks(locale.positiveSign()))
+    {
+    }
+
+    const char32_t minus;
+    const char32_t plus;
+    const char32_t zero;
+    const QString marks;
+};
+
+/** \a c in ASCII if it is a digit or a sign; separators stay as they are. */
+char32_t ascii(char32_t c, const Writing &writing)
+{
+    if (writing.zero <= c && c <= writing.zero + 9)
+        return U'0' + (c - writing.zero);
+    if (c == MinusSign || c == writing.minus)
+        return U'-';
+    return c == writing.plus ? U'+' : c;
 }
 
 bool isDecimalSign(QChar c, const QLocale &locale)
 {
-    return c == QLatin1Char('.') || c == locale.decimalPoint();
+    return c == QLatin1Char('.') || c == sole(locale.decimalPoint());
 }
 
-/** \a c in ASCII if it is a digit or a sign of \a locale; separators stay as they are. */
-QChar plain(QChar c, const QLocale &locale)
+/** A single sign in ASCII. */
+bool isSign(QChar c)
 {
-    const int digit = c.unicode() - locale.zeroDigit().unicode();
-    if (digit >= 0 && digit <= 9)
-        return QLatin1Char(char('0' + digit));
-    if (isMinus(c, locale))
-        return QLatin1Char('-');
-    return isPlus(c, locale) ? QLatin1Char('+') : c;
-}
-
-QString plain(const QString &text, const QLocale &locale)
-{
-    QString result = text.trimmed();
-    for (QChar &c : result)
-        c = plain(c, locale);
-    return result;
+    return c == QLatin1Char('-') || c == QLatin1Char('+');
 }
 
 /** Reads digits, signs and exponents only: QString::toDouble() alone would take "inf" and "nan". */
@@ -59,14 +67,14 @@ std::optional<double> plainDouble(const QString &text)
 
 int digitsBehindPoint(const QString &text, QChar point)
 {
-    const int place = text.indexOf(point);
-    return place < 0 ? 0 : text.size() - place - 1;
+    const auto place = text.indexOf(point);
+    return place < 0 ? 0 : int(text.size() - place - 1);
 }
 
 /** Reads the decimal sign of the locale. A point is refused in a locale that has another sign. */
 std::optional<double> localDouble(QString text, const QLocale &locale)
 {
-    const QChar point = locale.decimalPoint();
+    const QChar point = sole(locale.decimalPoint());
     if (point != QLatin1Char('.') && text.contains(QLatin1Char('.')))
         return std::nullopt;
     return plainDouble(text.replace(point, QLatin1Char('.')));
@@ -85,9 +93,9 @@ std::optional<double> groupedDouble(const QString &text, const QLocale &locale)
 template <typename Box>
 QString withoutAffixes(const Box &box, const QString &text)
 {
-    const int first = text.startsWith(box.prefix()) ? box.prefix().size() : 0;
+    const auto first = text.startsWith(box.prefix()) ? box.prefix().size() : 0;
     const bool hasSuffix = text.size() - first >= box.suffix().size() && text.endsWith(box.suffix());
-    const int end = text.size() - (hasSuffix ? box.suffix().size() : 0);
+    const auto end = text.size() - (hasSuffix ? box.suffix().size() : 0);
     return text.mid(first, end - first);
 }
 
@@ -101,8 +109,9 @@ bool isSpecial(const Box &box, const QString &text)
 template <typename Box>
 QValidator::State judgeUnfinished(const Box &box, const QString &number, const QLocale &locale, bool mayBeNegative)
 {
-    const bool isForbidden = (NumberText::isNegative(number, locale) && !mayBeNegative)
-        || (!number.isEmpty() && isPlus(number.at(0), locale) && box.maximum() < 0);
+    const bool isPositive = NumberText::plain(number, locale).startsWith(QLatin1Char('+'));
+    const bool isForbidden =
+        (NumberText::isNegative(number, locale) && !mayBeNegative) || (isPositive && box.maximum() < 0);
     return isForbidden || box.minimum() == box.maximum() ? QValidator::Invalid : QValidator::Intermediate;
 }
 
@@ -122,27 +131,28 @@ QString takeNumber(const Box &box, QString &text, int &pos)
 {
     const QString bare = withoutAffixes(box, text);
     if (!text.startsWith(box.prefix()))
-        pos += box.prefix().size();
+        pos += int(box.prefix().size());
     QString number = bare.trimmed();
-    const int blanksBefore = bare.indexOf(number);
-    pos -= qBound(0, pos - box.prefix().size(), blanksBefore);
+    const int blanksBefore = int(bare.indexOf(number));
+    pos -= qBound(0, pos - int(box.prefix().size()), blanksBefore);
     text = box.prefix() + number + box.suffix();
-    pos = qMin(pos, text.size());
+    pos = qMin(pos, int(text.size()));
     return number;
 }
 
 /** A decimal sign typed before the decimal sign only moves the cursor behind it. */
 void mergeDecimalSigns(const QDoubleSpinBox &box, const QLocale &locale, QString &text, int pos)
 {
-    const int first = box.prefix().size();
-    const int end = text.size() - box.suffix().size();
+    const int first = int(box.prefix().size());
+    const int end = int(text.size() - box.suffix().size());
     if (pos > first && pos < end && isDecimalSign(text.at(pos), locale) && isDecimalSign(text.at(pos - 1), locale))
         text.remove(pos, 1);
 }
 
-int fractionDigits(const QString &number, const QLocale &locale)
+int fractionDigits(const QString &text, const QLocale &locale)
 {
-    const int local = digitsBehindPoint(number, locale.decimalPoint());
+    const QString number = NumberText::plain(text, locale);
+    const int local = digitsBehindPoint(number, sole(locale.decimalPoint()));
     return local > 0 || NumberText::hasGroups(locale) ? local : digitsBehindPoint(number, QLatin1Char('.'));
 }
 
@@ -161,14 +171,26 @@ QLocale NumberText::localeOf(const QAbstractSpinBox &box)
     return locale;
 }
 
+QString NumberText::plain(const QString &text, const QLocale &locale)
+{
+    const Writing writing(locale);
+    std::u32string result;
+    for (const char32_t c : text.toStdU32String()) {
+        const bool isMark = c <= 0xffff && writing.marks.contains(QChar(ushort(c)));
+        if (!isMark)
+            result += ascii(c, writing);
+    }
+    return QString::fromStdU32String(result);
+}
+
 std::optional<qint64> NumberText::toInteger(const QString &text, const QLocale &locale, int base)
 {
     bool isNumber = false;
     qint64 number = text.toLongLong(&isNumber, base);
     if (!isNumber && base == 10) {
-        QString digits = plain(text, locale);
+        QString digits = plain(text, locale).trimmed();
         if (hasGroups(locale))
-            digits.remove(locale.groupSeparator());
+            digits.remove(sole(locale.groupSeparator()));
         number = digits.toLongLong(&isNumber, base);
     }
     return isNumber ? std::optional<qint64>(number) : std::nullopt;
@@ -176,7 +198,7 @@ std::optional<qint64> NumberText::toInteger(const QString &text, const QLocale &
 
 std::optional<double> NumberText::toDouble(const QString &text, const QLocale &locale, int decimals)
 {
-    const QString number = plain(text, locale);
+    const QString number = plain(text, locale).trimmed();
     // So many digits follow no decimal point, so the point is a group separator.
     const bool isPointOfGroups = hasGroups(locale) && digitsBehindPoint(number, QLatin1Char('.')) > decimals;
     std::optional<double> result;
@@ -187,16 +209,16 @@ std::optional<double> NumberText::toDouble(const QString &text, const QLocale &l
     if (result || !hasGroups(locale))
         return result;
     result = groupedDouble(text, locale);
-    const bool isBeingEdited = isPointOfGroups || number.contains(locale.decimalPoint());
+    const bool isBeingEdited = isPointOfGroups || number.contains(sole(locale.decimalPoint()));
     if (!result && isBeingEdited) // the separators fall in place with the next commit
-        result = localDouble(QString(number).remove(locale.groupSeparator()), locale);
+        result = localDouble(QString(number).remove(sole(locale.groupSeparator())), locale);
     return result;
 }
 
 bool NumberText::isUnfinished(const QString &text, const QLocale &locale, int decimals)
 {
-    QString rest = text.trimmed();
-    if (!rest.isEmpty() && (isMinus(rest.at(0), locale) || isPlus(rest.at(0), locale)))
+    QString rest = plain(text, locale).trimmed();
+    if (!rest.isEmpty() && isSign(rest.at(0)))
         rest.remove(0, 1);
     if (decimals > 0 && !rest.isEmpty() && isDecimalSign(rest.at(0), locale))
         rest.remove(0, 1);
@@ -205,7 +227,7 @@ bool NumberText::isUnfinished(const QString &text, const QLocale &locale, int de
 
 bool NumberText::isNegative(const QString &text, const QLocale &locale)
 {
-    return !text.isEmpty() && isMinus(text.at(0), locale);
+    return plain(text, locale).startsWith(QLatin1Char('-'));
 }
 
 QString NumberText::numberPart(const QSpinBox &box, const QString &text)

@@ -23,6 +23,12 @@ QLocale localeOf(const QAbstractSpinBox &box);
 /** Whether \a locale writes group separators, so that they may be typed. */
 bool hasGroups(const QLocale &locale);
 
+/**
+ * \a text with digits and signs in ASCII and without the marks of the direction that \a locale puts beside a sign,
+ * which need not be typed. Separators stay as they are.
+ */
+QString plain(const QString &text, const QLocale &locale);
+
 /** The integer that all of \a text stands for, if any. Only base 10 is read by the locale. */
 std::optional<qint64> toInteger(const QString &text, const QLocale &locale, int base = 10);
 

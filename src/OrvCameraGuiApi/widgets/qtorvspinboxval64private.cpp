@@ -2,6 +2,7 @@
 
 #include <OrvCameraGuiApi/widgets/entryguard.h>
 #include <OrvCameraGuiApi/widgets/keys.h>
+#include <OrvCameraGuiApi/widgets/localesigns.h>
 #include <OrvCameraGuiApi/widgets/numbertext.h>
 
 #include <QAccessible>
@@ -49,7 +50,7 @@ QString QtOrvSpinBoxVal64Private::ungrouped(QString number) const
 {
     const QLocale locale = NumberText::localeOf(*q);
     if (displayIntegerBase == 10 && NumberText::hasGroups(locale))
-        number.remove(locale.groupSeparator());
+        number.remove(LocaleSigns::sole(locale.groupSeparator()));
     return number;
 }
 
@@ -61,7 +62,7 @@ bool QtOrvSpinBoxVal64Private::hasAffixes(const QString &text) const
 /** Less than numberStart() for a text that has no room for a number. */
 int QtOrvSpinBoxVal64Private::numberEnd() const
 {
-    return edit()->displayText().size() - suffix.size();
+    return int(edit()->displayText().size() - suffix.size());
 }
 
 /** The validator gets the locale when it is asked: no event reports that group separators were switched. */

@@ -87,7 +87,7 @@ public:
     QString numberPart(const QString &text) const;
     QString ungrouped(QString number) const;
     bool hasAffixes(const QString &text) const;
-    int numberStart() const { return prefix.size(); }
+    int numberStart() const { return int(prefix.size()); }
     int numberEnd() const;
     const Int64Validator &localizedValidator();
     std::optional<long long> shownNumber();

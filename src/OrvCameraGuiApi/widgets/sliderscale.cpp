@@ -185,7 +185,7 @@ IntegerScale::Stop IntegerScale::next(int value, bool up, int positions) const
         leadOnTo(firstBeyond(value, up));
     if (positions > positionStep()) {
         const qint64 position = qint64(positionOf(value)) + (up ? positions : -qint64(positions));
-        leadOnTo(int(qBound<qint64>(m_first, position, m_last)));
+        leadOnTo(int(qBound(qint64(m_first), position, qint64(m_last))));
     }
     return stop;
 }

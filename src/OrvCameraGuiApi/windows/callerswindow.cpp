@@ -11,11 +11,27 @@
 
 namespace {
 
-/** Qt chooses its platform by these variables. Without any of them it would end the process. */
+bool isSet(const char *variable)
+{
+    return !qEnvironmentVariableIsEmpty(variable);
+}
+
+/** Qt finds a display by these variables. Without any of them it would end the process. */
 bool isDisplaySet()
 {
-    const auto isSet = [](const char *variable) { return !qEnvironmentVariableIsEmpty(variable); };
     return isSet("QT_QPA_PLATFORM") || isSet("DISPLAY") || isSet("WAYLAND_DISPLAY");
+}
+
+/** Qt itself looks for Wayland only in sessions that say so, and would end the process for want of an X server. */
+bool isWaylandAlone()
+{
+    return !isSet("QT_QPA_PLATFORM") && !isSet("DISPLAY") && isSet("WAYLAND_DISPLAY");
+}
+
+/** On Wayland no window can be named by somebody else. */
+bool areForeignWindowsKnown()
+{
+    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
 }
 
 /** Puts the locale of numbers back. */
@@ -58,7 +74,7 @@ private:
     /** Asks for the foreign window each time: it may have gone, and its wrapper does not notice. */
     void follow(QWidget &window)
     {
-        if (window.parentWidget())
+        if (window.parentWidget() || !areForeignWindowsKnown())
             return;
         m_foreign.reset(QWindow::fromWinId(m_foreignId));
         if (!m_foreign)
@@ -80,9 +96,14 @@ bool ensureApplication()
     if (!QCoreApplication::instance() && isDisplaySet()) {
         const NumericLocaleKeeper keeper;
         // Both have to last as long as the application object, which is never destroyed.
-        static int argumentCount = 0;
-        static char *arguments[] = {nullptr};
+        static char name[] = "";
+        static char option[] = "-platform";
+        static char platform[] = "wayland";
+        static char *arguments[] = {name, option, platform, nullptr};
+        static int argumentCount = isWaylandAlone() ? 3 : 0;
+#if QT_VERSION_MAJOR < 6 // it is always on since
         QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
         new QApplication(argumentCount, arguments);
     }
     return qobject_cast<QApplication *>(QCoreApplication::instance()) != nullptr;

@@ -9,7 +9,7 @@ namespace OrvCameraApi::AravisModule {
 
 namespace {
 
-/** In the directory of this library. */
+/** Beside this library. */
 std::string path()
 {
     Dl_info info{};

@@ -21,8 +21,9 @@
 namespace {
 
 /**
- * Keeps from a dialog the keys that a QDialog acts on. Escape would hide it without a closeEvent(). Return and Enter,
- * which have committed a value before they arrive here, would click a default button, even that of a new message.
+ * Keeps from a dialog the keys that a QDialog acts on. Escape would hide it without a closeEvent(); from a dialog that
+ * is a part of another window it goes on to that one. Return and Enter, which have committed a value before they arrive
+ * here, would click a default button, even that of a new message.
  */
 class DialogKeys : public QObject
 {
@@ -40,7 +41,10 @@ public:
             return false;
         auto *const press = static_cast<QKeyEvent *>(event);
         if (press->matches(QKeySequence::Cancel)) {
-            m_dialog->close();
+            if (m_dialog->isWindow())
+                m_dialog->close();
+            else
+                press->ignore();
             return true;
         }
         return press->key() == Qt::Key_Return || press->key() == Qt::Key_Enter;

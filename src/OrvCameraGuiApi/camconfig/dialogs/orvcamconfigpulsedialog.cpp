@@ -209,7 +209,7 @@ void OrvCamConfigPulseDialogPrivate::setButtonState(bool on)
 {
     ui.pushBtnPulseEnable->setText(on ? OrvCamConfigPulseDialog::tr("Stop") : OrvCamConfigPulseDialog::tr("Start"));
     // A new text takes the shortcut away. The shortcut, pressed twice, is the same in every language.
-    constexpr int keys = Qt::CTRL + Qt::SHIFT + Qt::Key_S;
+    constexpr int keys = int(Qt::CTRL) | int(Qt::SHIFT) | int(Qt::Key_S);
     ui.pushBtnPulseEnable->setShortcut(QKeySequence(keys, keys));
     const QString ball = on ? QStringLiteral(":/icons/greenball.ico") : QStringLiteral(":/icons/redball.ico");
     ui.lblPulseEnable->setPixmap(sharpPixmap(ball, q));
