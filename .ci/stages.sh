@@ -2,7 +2,7 @@
 # packages and documentation.
 # shellcheck shell=bash disable=SC2034,SC2154
 
-stages=(format tidy sanitizers threads fuzz genicam consumers abi docs packages test)
+stages=(format tidy sanitizers threads fuzz genicam qt6 consumers abi docs packages test)
 declare -A about=(
     [format]="sources are formatted, scripts are sound, rooms include as drawn"
     [tidy]="clang-tidy on src/ and platform/"
@@ -10,10 +10,11 @@ declare -A about=(
     [threads]="tests labelled threads, with the thread sanitizer"
     [fuzz]="each fuzzer 30 s, the planted faults, what the corpora reach"
     [genicam]="library against installed GenICam headers and libraries"
-    [consumers]="installed headers, examples by CMake and by pkg-config"
+    [qt6]="whole suite with Qt 6"
+    [consumers]="installed headers, examples by CMake and by pkg-config, for Qt 5 and Qt 6"
     [abi]="binary interface against the released one, which sees a virtual function more"
     [docs]="Doxygen, links, examples, pictures, the pages followed"
-    [packages]="Debian packages and archive"
+    [packages]="Debian packages, twice the same; lintian; archive"
     [test]="release build and whole suite"
 )
 
@@ -21,7 +22,7 @@ stage_format() {
     install_packages clang-format shellcheck
     git ls-files -z '*.cpp' '*.h' | xargs -0 -n 40 clang-format --dry-run --Werror
     shellcheck -x run test .ci/run .ci/stages.sh .ci/common.sh .ci/consumers .ci/genicam-build .ci/genicam-prefix \
-        .ci/packages .ci/abi .ci/docs .ci/follow docs/pictures .ci/tidy .ci/fuzz .ci/bare-debian .ci/rooms benchmarks/run
+        .ci/packages .ci/manpages .ci/abi .ci/docs .ci/follow docs/pictures .ci/tidy .ci/fuzz .ci/bare-debian .ci/rooms benchmarks/run
     .ci/rooms
 }
 
@@ -50,25 +51,38 @@ stage_fuzz() {
 
 stage_genicam() { .ci/genicam-build; }
 
-stage_consumers() {
+# Both versions of Qt.
+build_releases() {
+    install_packages "${packages_qt6[@]}"
     build_preset release
+    build_preset release-qt6
+}
+
+stage_qt6() {
+    install_packages "${packages_qt6[@]}"
+    build_preset release-qt6
+    ctest --preset release-qt6
+}
+
+stage_consumers() {
+    build_releases
     .ci/consumers
 }
 
 stage_abi() {
     install_packages abigail-tools
-    build_preset release
+    build_releases
     .ci/abi
 }
 
 stage_docs() {
-    install_packages doxygen graphviz file pngquant
+    install_packages doxygen graphviz file pngquant help2man dpkg-dev
     [ -d build/stage ] || stage_consumers
     .ci/docs
 }
 
 stage_packages() {
-    install_packages dpkg-dev file
+    install_packages dpkg-dev debhelper fakeroot lintian appstream doxygen graphviz file "${packages_qt6[@]}"
     build_preset release
     .ci/packages
 }

@@ -4,6 +4,8 @@ set(ORV_GENICAM_ROOT "" CACHE PATH
     "Installed GenICam reference implementation (3.0 to 3.4) to build against; empty: the stand-ins here")
 set(ORV_CAMERA_API_LIBRARY "" CACHE FILEPATH
     "Camera access library to link when ORV_GENICAM_ROOT is set; empty: the application provides it")
+# GenApi's own folders, Base and GenApi, are too general for the place where every compiler looks.
+set(ORV_GENAPI_HEADERS ${CMAKE_INSTALL_INCLUDEDIR}/OrvGenApi)
 set(ORV_SANITIZE "" CACHE STRING "Sanitizers for everything that is built here, e.g. address,undefined or thread")
 
 # A vendor's headers replace the stand-ins, and with them go the programs and tests that need simulated cameras.
@@ -17,8 +19,9 @@ option(ORV_BUILD_DESIGNER "Build the Qt Designer plug-in" "${PROJECT_IS_TOP_LEVE
 
 include(CMakeDependentOption)
 cmake_dependent_option(ORV_BUILD_TESTS "Build the test suite" "${PROJECT_IS_TOP_LEVEL}" "ORV_STAND_INS" OFF)
-cmake_dependent_option(ORV_BUILD_APPS "Build the explorer" ON "ORV_STAND_INS" OFF)
-cmake_dependent_option(ORV_BUILD_EXAMPLES "Build the examples" "${PROJECT_IS_TOP_LEVEL}" "ORV_STAND_INS" OFF)
+# Examples are built to see that they can be: without the tests, what is installed is built and nothing else.
+cmake_dependent_option(ORV_BUILD_EXAMPLES "Build the examples" ON "ORV_BUILD_TESTS" OFF)
+cmake_dependent_option(ORV_BUILD_APPS "Build the explorer" "${PROJECT_IS_TOP_LEVEL}" "ORV_STAND_INS" OFF)
 cmake_dependent_option(ORV_BUILD_BENCHMARKS "Build the benchmarks" OFF "ORV_STAND_INS" OFF)
 cmake_dependent_option(ORV_BUILD_FUZZERS "Build the fuzzers (clang only)" OFF "ORV_BUILD_TESTS" OFF)
 option(ORV_PLANT_FAULTS "Compile one fault into what each fuzzer tests, to see that it finds it" OFF)

@@ -24,15 +24,15 @@ set(ORV_EXPLORER_LUPDATE_ARGUMENTS ${_orv_lupdate} ${PROJECT_SOURCE_DIR}/apps/ex
 
 # Not part of any build: it writes into the source tree.
 add_custom_target(orv-update-translations
-    COMMAND Qt5::lupdate ${ORV_LUPDATE_ARGUMENTS} -ts ${ORV_CATALOGUES}
-    COMMAND Qt5::lupdate ${ORV_EXPLORER_LUPDATE_ARGUMENTS} -ts ${ORV_EXPLORER_CATALOGUES}
+    COMMAND ${ORV_QT}::lupdate ${ORV_LUPDATE_ARGUMENTS} -ts ${ORV_CATALOGUES}
+    COMMAND ${ORV_QT}::lupdate ${ORV_EXPLORER_LUPDATE_ARGUMENTS} -ts ${ORV_EXPLORER_CATALOGUES}
     COMMENT "Bringing the catalogues up to date with the source texts; new entries are marked unfinished"
     VERBATIM)
 
 # orv_embed_translations(TARGET NAME CATALOGUES...): compiles the catalogues and makes them resources of TARGET.
 function(orv_embed_translations target name)
     set_source_files_properties(${ARGN} PROPERTIES OUTPUT_LOCATION ${PROJECT_BINARY_DIR}/translations)
-    qt5_add_translation(compiled ${ARGN} OPTIONS -silent)
+    cmake_language(CALL qt${ORV_QT_MAJOR}_add_translation compiled ${ARGN} OPTIONS -silent)
     set(entries)
     foreach(translation IN LISTS compiled)
         get_filename_component(file ${translation} NAME)
@@ -40,6 +40,6 @@ function(orv_embed_translations target name)
     endforeach()
     set(collection ${PROJECT_BINARY_DIR}/translations/${name}.qrc)
     configure_file(${PROJECT_SOURCE_DIR}/translations/translations.qrc.in ${collection} @ONLY)
-    qt5_add_resources(resources ${collection})
+    cmake_language(CALL qt${ORV_QT_MAJOR}_add_resources resources ${collection})
     target_sources(${target} PRIVATE ${resources})
 endfunction()
