@@ -22,6 +22,7 @@ cmake_dependent_option(ORV_BUILD_TESTS "Build the test suite" "${PROJECT_IS_TOP_
 # Examples are built to see that they can be: without the tests, what is installed is built and nothing else.
 cmake_dependent_option(ORV_BUILD_EXAMPLES "Build the examples" ON "ORV_BUILD_TESTS" OFF)
 cmake_dependent_option(ORV_BUILD_APPS "Build the explorer" "${PROJECT_IS_TOP_LEVEL}" "ORV_STAND_INS" OFF)
+cmake_dependent_option(ORV_BUILD_ARAVIS "Build the links to real cameras, if Aravis is there" ON "ORV_STAND_INS" OFF)
 cmake_dependent_option(ORV_BUILD_BENCHMARKS "Build the benchmarks" OFF "ORV_STAND_INS" OFF)
 cmake_dependent_option(ORV_BUILD_FUZZERS "Build the fuzzers (clang only)" OFF "ORV_BUILD_TESTS" OFF)
 option(ORV_PLANT_FAULTS "Compile one fault into what each fuzzer tests, to see that it finds it" OFF)
@@ -32,6 +33,8 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+include(CheckPIESupported)
+check_pie_supported() # programs are linked so, too, whatever the compiler does by itself
 set(CMAKE_AUTORCC_OPTIONS --format-version 1) # without the times of files: each build gives the same bytes
 # Installed programs and libraries find each other wherever the whole is moved.
 set(CMAKE_INSTALL_RPATH "$ORIGIN;$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")

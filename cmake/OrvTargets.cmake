@@ -14,6 +14,14 @@ function(orv_forbid_undefined_symbols target)
     endif()
 endfunction()
 
+# orv_export_only(TARGET VERSION NAME...): all that others see of the module TARGET are the functions NAME..., with the
+# version VERSION.
+function(orv_export_only target version)
+    list(JOIN ARGN "; " names)
+    file(CONFIGURE OUTPUT ${target}.map CONTENT "${version} { global: ${names}; local: *; };\n" @ONLY)
+    target_link_options(${target} PRIVATE LINKER:--version-script=${CMAKE_CURRENT_BINARY_DIR}/${target}.map)
+endfunction()
+
 # orv_plant_fault(COPY SOURCE RIGHT WRONG): writes a copy of SOURCE in which WRONG stands in place of RIGHT and sets the
 # variable COPY to its path. For ORV_PLANT_FAULTS only.
 function(orv_plant_fault copy source right wrong)
