@@ -22,7 +22,7 @@ stage_format() {
     install_packages clang-format shellcheck
     git ls-files -z '*.cpp' '*.h' | xargs -0 -n 40 clang-format --dry-run --Werror
     shellcheck -x run test .ci/run .ci/stages.sh .ci/common.sh .ci/consumers .ci/genicam-build .ci/genicam-prefix \
-        .ci/packages .ci/manpages .ci/abi .ci/docs .ci/follow docs/pictures .ci/tidy .ci/fuzz .ci/bare-debian .ci/rooms benchmarks/run
+        .ci/packages .ci/manpages .ci/abi .ci/docs .ci/follow docs/pictures .ci/tidy .ci/fuzz .ci/bare-debian .ci/bare-packages.sh .ci/rooms benchmarks/run
     .ci/rooms
 }
 
@@ -82,7 +82,8 @@ stage_docs() {
 }
 
 stage_packages() {
-    install_packages dpkg-dev debhelper fakeroot lintian appstream doxygen graphviz file "${packages_qt6[@]}"
+    install_packages dpkg-dev debhelper fakeroot lintian appstream desktop-file-utils blhc man-db doxygen graphviz file \
+        "${packages_qt6[@]}"
     build_preset release
     .ci/packages
 }

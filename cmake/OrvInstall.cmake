@@ -123,6 +123,7 @@ if(_orv_doxygen)
     set(_orv_reference_headers ${ORV_PUBLIC_HEADERS})
     list(TRANSFORM _orv_reference_headers PREPEND ${PROJECT_SOURCE_DIR}/src/OrvCameraGuiApi/)
     list(APPEND _orv_reference_headers ${_orv_contract})
+    list(APPEND _orv_reference_headers ${PROJECT_SOURCE_DIR}/docs/reference.dox)
     list(JOIN _orv_reference_headers " " _orv_reference_headers)
     configure_file(docs/Doxyfile.in Doxyfile @ONLY)
     add_custom_target(orv-reference
