@@ -77,5 +77,28 @@ take_blocks() {
         inside { print >file }' "$2"
 }
 
+# Tells the links in the pages "$@", Markdown or HTML, that lead to no file. Fails if there are any.
+broken_links() {
+    local page link result=0
+    for page in "$@"; do
+        while read -r link; do
+            [ -e "$(dirname "$page")/$link" ] || {
+                say "$page: there is no $link" >&2
+                result=1
+            }
+        done < <(links_of "$page")
+    done
+    return $result
+}
+
+# Files that the page $1 links to.
+links_of() {
+    # shellcheck disable=SC2016 # a fence of a block, which is no shell
+    case $1 in
+    *.md) awk '/^```/ { inside = !inside } !inside' "$1" | grep -oE '\]\([^)]+\)' | sed 's/^](//; s/)$//' ;;
+    *) grep -oE '(href|src)="[^"]+' "$1" | sed 's/.*="//' ;;
+    esac | grep -vE '^([a-z]+:|#)' | sed 's/#.*//' | sort -u || true
+}
+
 cd "$top" || exit 1
 mkdir -p "$top/build"

@@ -22,7 +22,8 @@ stage_format() {
     install_packages clang-format shellcheck
     git ls-files -z '*.cpp' '*.h' | xargs -0 -n 40 clang-format --dry-run --Werror
     shellcheck -x run test .ci/run .ci/stages.sh .ci/common.sh .ci/consumers .ci/genicam-build .ci/genicam-prefix \
-        .ci/packages .ci/manpages .ci/abi .ci/docs .ci/follow docs/pictures .ci/tidy .ci/fuzz .ci/bare-debian .ci/bare-packages.sh .ci/rooms benchmarks/run
+        .ci/packages .ci/manpages .ci/abi .ci/docs .ci/follow docs/pictures .ci/tidy .ci/fuzz .ci/rooms \
+        .ci/bare-debian .ci/bare-packages.sh benchmarks/run debian/tests/*-*
     .ci/rooms
 }
 
