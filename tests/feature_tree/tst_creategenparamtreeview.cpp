@@ -139,6 +139,11 @@ int main(int argc, char **argv)
     qunsetenv("QT_QPA_PLATFORM");
     if (CreateGenParamTreeViewForNodemapA(nullptr, "", 0) || OrvProcessEvents(1))
         qFatal("a view without a display");
+    qputenv("DISPLAY", ":none");
+    qputenv("WAYLAND_DISPLAY", "none");
+    if (CreateGenParamTreeViewForNodemapA(nullptr, "", 0) || QCoreApplication::instance())
+        qFatal("a view on a display that does not answer");
+    qunsetenv("WAYLAND_DISPLAY");
     qputenv("DISPLAY", display);
     qputenv("QT_QPA_PLATFORM", platform);
     std::setlocale(LC_NUMERIC, "C"); // the environment of the tests says another one

@@ -19,9 +19,9 @@
  * Without a Qt application object the functions make one, with Qt::AA_UseHighDpiPixmaps, and never destroy it; the
  * caller processes its events, see OrvProcessEvents(). LC_NUMERIC stays as it was. An application that makes its own
  * should set that attribute for icons that are sharp on every screen. The functions return null when the application
- * object has no widgets (QGuiApplication, QCoreApplication), and when no display is set (DISPLAY, WAYLAND_DISPLAY,
- * QT_QPA_PLATFORM). A display that is set but cannot be reached makes Qt end the process, with a message on standard
- * error. All calls come from the GUI thread; none of them throws.
+ * object has no widgets (QGuiApplication, QCoreApplication), when no display is set (DISPLAY, WAYLAND_DISPLAY,
+ * QT_QPA_PLATFORM), and when none of them can be reached; Qt then says why on standard error. All calls come from the
+ * GUI thread; none of them throws.
  */
 extern "C" {
 

@@ -16,16 +16,20 @@ bool isSet(const char *variable)
     return !qEnvironmentVariableIsEmpty(variable);
 }
 
-/** Qt finds a display by these variables. Without any of them it would end the process. */
-bool isDisplaySet()
+/**
+ * The plug-ins of Qt that can reach the displays of the environment, separated by semicolons, the one that Qt itself
+ * would take first; empty without a display. Qt tries no other one, and not always one whose display is set.
+ */
+QByteArray displayPlugins()
 {
-    return isSet("QT_QPA_PLATFORM") || isSet("DISPLAY") || isSet("WAYLAND_DISPLAY");
-}
-
-/** Qt itself looks for Wayland only in sessions that say so, and would end the process for want of an X server. */
-bool isWaylandAlone()
-{
-    return !isSet("QT_QPA_PLATFORM") && !isSet("DISPLAY") && isSet("WAYLAND_DISPLAY");
+    if (isSet("QT_QPA_PLATFORM"))
+        return qgetenv("QT_QPA_PLATFORM");
+    const QByteArray x11 = isSet("DISPLAY") ? "xcb" : "";
+    const QByteArray wayland = isSet("WAYLAND_DISPLAY") ? "wayland" : "";
+    if (x11.isEmpty() || wayland.isEmpty())
+        return x11 + wayland;
+    const bool isWaylandFirst = QT_VERSION_MAJOR > 5 || qgetenv("XDG_SESSION_TYPE") == "wayland";
+    return isWaylandFirst ? wayland + ';' + x11 : x11 + ';' + wayland;
 }
 
 /** On Wayland no window can be named by somebody else. */
@@ -89,22 +93,40 @@ private:
     std::unique_ptr<QWindow> m_foreign; ///< Qt needs it until the window is shown
 };
 
+/**
+ * Makes the application object, unless no plug-in reaches its display. Qt would end the process then: the last plug-in
+ * it is given needs no display, and an application object with that one goes again.
+ */
+void makeApplication(const QByteArray &plugins)
+{
+    const NumericLocaleKeeper keeper;
+    static const char withoutDisplay[] = "offscreen";
+    static char name[] = "";
+    static char option[] = "-platform";
+    QByteArray value = plugins + ';' + withoutDisplay;
+    // Both have to last as long as the application object, which takes the option out.
+    static char *arguments[4];
+    static int argumentCount;
+    arguments[0] = name;
+    arguments[1] = option;
+    arguments[2] = value.data();
+    argumentCount = 3;
+#if QT_VERSION_MAJOR < 6 // it is always on since
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
+    auto *const application = new QApplication(argumentCount, arguments);
+    if (QGuiApplication::platformName() == QLatin1String(withoutDisplay) && !plugins.contains(withoutDisplay))
+        delete application;
+}
+
 } // namespace
 
 bool ensureApplication()
 {
-    if (!QCoreApplication::instance() && isDisplaySet()) {
-        const NumericLocaleKeeper keeper;
-        // Both have to last as long as the application object, which is never destroyed.
-        static char name[] = "";
-        static char option[] = "-platform";
-        static char platform[] = "wayland";
-        static char *arguments[] = {name, option, platform, nullptr};
-        static int argumentCount = isWaylandAlone() ? 3 : 0;
-#if QT_VERSION_MAJOR < 6 // it is always on since
-        QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-#endif
-        new QApplication(argumentCount, arguments);
+    if (!QCoreApplication::instance()) {
+        const QByteArray plugins = displayPlugins();
+        if (!plugins.isEmpty())
+            makeApplication(plugins);
     }
     return qobject_cast<QApplication *>(QCoreApplication::instance()) != nullptr;
 }

@@ -11,8 +11,8 @@ class QWidget;
  */
 
 /**
- * Returns whether widgets can be created. Creates the application object if there is none and a display is set.
- * Restores LC_NUMERIC, because Qt sets it, and with it the caller's decimal sign.
+ * Returns whether widgets can be created. Creates the application object if there is none and a display can be
+ * reached. Restores LC_NUMERIC, because Qt sets it, and with it the caller's decimal sign.
  */
 bool ensureApplication();
 
