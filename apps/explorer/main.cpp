@@ -61,6 +61,17 @@ bool hasDisplay()
     return false;
 }
 
+/** Where the window is drawn, unless the environment says so: Qt 5 does not look for Wayland by itself. */
+void choosePlatform(bool screenshot)
+{
+    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        return;
+    if (screenshot)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    else if (qEnvironmentVariableIsEmpty("DISPLAY"))
+        qputenv("QT_QPA_PLATFORM", "wayland");
+}
+
 int saveScreenshots(ExplorerWindow &window, const QString &directory)
 {
     Screenshots screenshots(window, directory);
@@ -104,8 +115,7 @@ int runFor(ExplorerWindow &window)
 int runWindow(int argc, char **argv, const Options &options, std::unique_ptr<CameraSource> source)
 {
     const bool screenshot = options.action == Options::Action::SaveScreenshot;
-    if (screenshot && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    choosePlatform(screenshot);
 #if QT_VERSION_MAJOR < 6 // they are always on since
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
