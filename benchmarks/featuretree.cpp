@@ -225,7 +225,7 @@ void useOnce(AnyStack &stack, Costs &costs, int round, bool filters)
         if (!filters)
             break;
         stack.paintAfter([&] { stack.tree.expandAll(); }); // the plain one forgets what it filters away
-        measure(filter, [&] { stack.setFilter(QLatin1String(text)); });
+        measure(filter, [&, text = text] { stack.setFilter(QLatin1String(text)); });
         require(countRows(*stack.tree.model()) < rows, "the filter has no effect");
         measure(clear, [&] { stack.setFilter(QString()); });
         require(countRows(*stack.tree.model()) == rows, "rows are lost");

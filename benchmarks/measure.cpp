@@ -47,7 +47,7 @@ void Table::print() const
     std::vector<int> widths(size_t(rows.front().size()), 0);
     for (const QStringList &row : rows) {
         for (int i = 0; i < row.size(); ++i)
-            widths[size_t(i)] = std::max(widths[size_t(i)], row[i].size());
+            widths[size_t(i)] = std::max(widths[size_t(i)], int(row[i].size()));
     }
     QTextStream out(stdout);
     for (const QStringList &row : rows) {

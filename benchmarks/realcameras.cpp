@@ -163,7 +163,7 @@ void settle()
     int threads = 0;
     QElapsedTimer clock;
     waitUntil([&] {
-        const int now = QDir(QStringLiteral("/proc/self/task")).entryList().size();
+        const int now = int(QDir(QStringLiteral("/proc/self/task")).entryList().size());
         if (std::exchange(threads, now) != now)
             clock.start();
         return clock.elapsed() > settled;
@@ -312,7 +312,7 @@ int main(int argc, char **argv)
     server.setDescription(description.toStdString());
     const OnlyCamera camera(dotted(server.address()));
     measureOpening(table, QStringLiteral("%1 features").arg(features), camera, server.address());
-    countPackets(table, camera, server, description.size());
+    countPackets(table, camera, server, int(description.size()));
     table.print();
     return 0;
 }
