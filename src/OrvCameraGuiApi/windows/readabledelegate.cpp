@@ -56,12 +56,13 @@ bool isOfQt(const QStyle &style)
                        [&style](const char *name) { return !std::strcmp(style.metaObject()->className(), name); });
 }
 
-/** Whether \a option has nothing but a text of one line. */
+/** Whether \a option has nothing but a text of one line, in the middle. */
 bool isPlain(const QStyleOptionViewItem &option)
 {
     constexpr auto known = QStyleOptionViewItem::HasDisplay | QStyleOptionViewItem::Alternate;
     constexpr auto special = QStyle::State_Selected | QStyle::State_HasFocus | QStyle::State_Editing;
-    return !(option.features & ~known) && !(option.state & special) && !option.text.contains(QChar::LineSeparator);
+    return !(option.features & ~known) && !(option.state & special) && (option.displayAlignment & Qt::AlignVCenter)
+        && !option.text.contains(QChar::LineSeparator);
 }
 
 /** Paints the text of a plain cell; false if it has too little room. */
