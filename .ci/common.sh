@@ -16,6 +16,8 @@ packages_qt6=(
 # What programs with windows need on a machine that has no desktop: a font, a display for the tests that want one.
 # And a program that stands for a GigE Vision camera.
 packages_run=(fonts-dejavu-core xvfb xauth aravis-tools)
+# For tst_wayland, which is left out without them.
+packages_wayland=(weston qtwayland5 qt6-wayland)
 
 say() { printf '%s\n' "$*"; }
 

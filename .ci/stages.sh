@@ -10,7 +10,7 @@ declare -A about=(
     [threads]="tests labelled threads, with the thread sanitizer"
     [fuzz]="each fuzzer 30 s, the planted faults, what the corpora reach"
     [genicam]="library against installed GenICam headers and libraries"
-    [qt6]="whole suite with Qt 6"
+    [qt6]="whole suite with Qt 6; what clang says to all sources"
     [consumers]="installed headers, examples by CMake and by pkg-config, for Qt 5 and Qt 6"
     [abi]="binary interface against the released one, which sees a virtual function more"
     [docs]="Doxygen, links, examples, pictures, the pages followed"
@@ -22,8 +22,8 @@ stage_format() {
     install_packages clang-format shellcheck
     git ls-files -z '*.cpp' '*.h' | xargs -0 -n 40 clang-format --dry-run --Werror
     shellcheck -x run test .ci/run .ci/stages.sh .ci/common.sh .ci/consumers .ci/genicam-build .ci/genicam-prefix \
-        .ci/packages .ci/manpages .ci/abi .ci/docs .ci/follow docs/pictures .ci/tidy .ci/fuzz .ci/rooms \
-        .ci/bare-debian .ci/bare-packages.sh benchmarks/run debian/tests/*-*
+        .ci/packages .ci/manpages .ci/abi .ci/docs .ci/follow docs/pictures .ci/tidy .ci/clang .ci/fuzz .ci/rooms \
+        .ci/bare-debian .ci/bare-packages.sh benchmarks/run debian/tests/*-* tests/windows/onwayland
     .ci/rooms
 }
 
@@ -34,6 +34,7 @@ stage_tidy() {
 }
 
 stage_sanitizers() {
+    install_packages "${packages_wayland[@]}"
     build_preset asan
     ctest --preset asan
 }
@@ -60,8 +61,10 @@ build_releases() {
 }
 
 stage_qt6() {
-    install_packages "${packages_qt6[@]}"
+    install_packages "${packages_qt6[@]}" "${packages_wayland[@]}" clang
+    cmake --preset release-qt6 -DORV_BUILD_BENCHMARKS=ON >/dev/null
     build_preset release-qt6
+    .ci/clang release-qt6
     ctest --preset release-qt6
 }
 

@@ -49,6 +49,7 @@ QByteArray names(const NodeList_t &nodes)
 template <typename Base>
 struct LoggingPort : Base
 {
+    using Base::Write;
     EAccessMode GetAccessMode() const override { return RW; }
     void Read(void *buffer, int64_t address, int64_t length) override
     {

@@ -40,7 +40,7 @@ struct MemoryCamera final : BackendDevice
             return map;
         }
         bool isConnected() const override { return m_camera.isThere; }
-        void setListener(std::weak_ptr<ConnectionListener> listener) override { m_camera.listener = listener; }
+        void setListener(std::weak_ptr<ConnectionListener> observer) override { m_camera.listener = observer; }
 
     private:
         MemoryCamera &m_camera;
