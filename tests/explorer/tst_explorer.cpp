@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 
 #include <array>
+#include <utility>
 
 namespace {
 
@@ -101,7 +102,7 @@ private Q_SLOTS:
             for (const QString &picture : pictures)
                 files.append(QStringLiteral("%1/%2.png").arg(dir, picture));
             QCOMPARE(result.out.split(QLatin1Char('\n'), Qt::SkipEmptyParts), files);
-            for (const QString &file : qAsConst(files)) {
+            for (const QString &file : std::as_const(files)) {
                 const QImage image(file);
                 QVERIFY(!image.isNull());
                 QSet<QRgb> colors;

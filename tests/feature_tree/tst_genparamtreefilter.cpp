@@ -6,6 +6,8 @@
 
 #include <QAbstractItemModelTester>
 
+#include <utility>
+
 namespace {
 
 QByteArray feature(const char *name, const char *displayName, const char *rest = "")
@@ -168,7 +170,7 @@ private Q_SLOTS:
             kept.append({index, index.data().toString()});
         for (const char *text : {"gain", "*", "top", "", "expo"}) {
             filtered.proxy.setFilterText(QString::fromLatin1(text));
-            for (const auto &[index, name] : qAsConst(kept)) {
+            for (const auto &[index, name] : std::as_const(kept)) {
                 if (index.isValid())
                     QCOMPARE(index.data().toString(), name);
             }

@@ -23,6 +23,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <utility>
 
 namespace {
 
@@ -243,7 +244,7 @@ QWidget *makeValueWidgets(QList<QWidget *> &widgets)
                new QtOrvGainSlider};
     auto *const window = new QWidget;
     auto *const layout = new QFormLayout(window);
-    for (QWidget *const widget : qAsConst(widgets))
+    for (QWidget *const widget : std::as_const(widgets))
         layout->addRow(QStringLiteral(" "), widget);
     return window;
 }

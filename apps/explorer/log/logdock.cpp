@@ -16,6 +16,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 /** Lines of a level or above, with a text anywhere in them. */
 class LogDock::Filter : public QSortFilterProxyModel
@@ -160,7 +161,7 @@ QString LogDock::shownText(bool selectedOnly) const
             rows.append(m_filter->mapToSource(m_filter->index(row, 0)).row());
     }
     QString text;
-    for (const int row : qAsConst(rows))
+    for (const int row : std::as_const(rows))
         text += m_log->lineOf(row) + QLatin1Char('\n');
     return text;
 }

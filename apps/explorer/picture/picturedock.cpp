@@ -281,7 +281,7 @@ void PictureDock::updateActions()
     setTip(*m_oneFrame, obstacle.isEmpty() ? tr("Let the camera send one picture") : obstacle);
     const bool hasPicture = !m_view->image().isNull();
     m_save->setEnabled(hasPicture);
-    for (QAction *const zoom : qAsConst(m_zooms))
+    for (QAction *const zoom : std::as_const(m_zooms))
         zoom->setEnabled(hasPicture);
     m_view->setHint(!obstacle.isEmpty() ? obstacle : runs ? QString() : tr("F9 starts the camera"));
 }

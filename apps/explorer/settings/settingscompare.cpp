@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <set>
+#include <utility>
 
 namespace {
 
@@ -82,7 +83,7 @@ private:
         if (names.isEmpty() && isRepeated && !m_lastSelector.isEmpty())
             names.append(m_lastSelector);
         QVector<Setting> context;
-        for (const QByteArray &selector : qAsConst(names)) {
+        for (const QByteArray &selector : std::as_const(names)) {
             if (m_entries.contains(selector))
                 context.append({selector, m_entries.value(selector), 0});
         }

@@ -340,7 +340,7 @@ void SettingsMenu::reportLoaded(const std::shared_ptr<Task> &task, bool isPutBac
     const bool isComplete = task->loader->isComplete();
     int set = 0;
     int failed = 0;
-    for (const SettingResult &result : qAsConst(task->results)) {
+    for (const SettingResult &result : std::as_const(task->results)) {
         const bool isSet = result.state == SettingResult::State::Set;
         const bool hasFailed = result.state == SettingResult::State::Different;
         set += isSet ? 1 : 0;
@@ -396,7 +396,7 @@ void SettingsMenu::compareWith(const QString &path)
                 Q_EMIT featuresMarked({});
         });
         QStringList names;
-        for (const SettingDifference &difference : qAsConst(task->differences))
+        for (const SettingDifference &difference : std::as_const(task->differences))
             names.append(textOf(difference.name));
         Q_EMIT featuresMarked(names);
     });

@@ -154,7 +154,7 @@ void SettingsReport::copy()
         rows.append(row);
     std::sort(rows.begin(), rows.end());
     QString text = model.title() + QLatin1Char('\n');
-    for (const int row : qAsConst(rows))
+    for (const int row : std::as_const(rows))
         text += model.textOf(row) + QLatin1Char('\n');
     QApplication::clipboard()->setText(text);
 }

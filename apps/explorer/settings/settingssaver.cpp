@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <unordered_set>
+#include <utility>
 
 using GenApi::INode;
 
@@ -257,7 +258,7 @@ void SettingsSaver::saveEntries(const Block &block, const QByteArray &now)
     if (entries.size() > mostCombinations || std::none_of(entries.cbegin(), entries.cend(), isNow))
         entries.prepend(now); // it is there, whatever is cut
     const int depth = int(m_context.size());
-    for (const QByteArray &entry : qAsConst(entries)) {
+    for (const QByteArray &entry : std::as_const(entries)) {
         m_context.resize(depth);
         m_written = std::min(m_written, depth);
         tell(block.selector);

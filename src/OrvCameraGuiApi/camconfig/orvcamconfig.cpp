@@ -360,7 +360,7 @@ void OrvCamConfigPrivate::onDisconnectAction()
 
 void OrvCamConfigPrivate::setDialogsDevice(OrvCam::Device *dialogsDevice)
 {
-    for (const DialogLink &link : qAsConst(dialogs))
+    for (const DialogLink &link : std::as_const(dialogs))
         link.feature->setDevice(*link.dialog, dialogsDevice);
 }
 

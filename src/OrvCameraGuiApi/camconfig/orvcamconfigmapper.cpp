@@ -118,7 +118,7 @@ int OrvCamConfigMapper::bind(OrvGenParam::Param *param, const OrvCamConfigMapDat
 /** Ends the entries of every binding of \a control: another feature may have been bound to it. */
 void OrvCamConfigMapper::endEntries(const QObject *control)
 {
-    for (const Bindings &bindings : qAsConst(m_bindings)) {
+    for (const Bindings &bindings : std::as_const(m_bindings)) {
         for (const Binding &binding : bindings) {
             if (binding->control() == control)
                 binding->endEntries();

@@ -280,7 +280,7 @@ void OrvCamConfigPrivate::offerDialogs()
 {
     constexpr int columns = 3;
     int place = 0;
-    for (const DialogLink &link : qAsConst(dialogs)) {
+    for (const DialogLink &link : std::as_const(dialogs)) {
         link.action->setVisible(link.isOffered);
         link.button->setVisible(link.isOffered);
         ui.buttonLayout->removeWidget(link.button);
@@ -312,7 +312,7 @@ void OrvCamConfigPrivate::doLastAdjustment()
 /** Follows the dialogs, however they were opened or closed. */
 void OrvCamConfigPrivate::checkViewMenu()
 {
-    for (const DialogLink &link : qAsConst(dialogs)) {
+    for (const DialogLink &link : std::as_const(dialogs)) {
         link.button->setChecked(!link.dialog->isHidden());
         link.action->setChecked(!link.dialog->isHidden());
     }
@@ -320,7 +320,7 @@ void OrvCamConfigPrivate::checkViewMenu()
 
 void OrvCamConfigPrivate::closeDialogs()
 {
-    for (const DialogLink &link : qAsConst(dialogs))
+    for (const DialogLink &link : std::as_const(dialogs))
         link.dialog->close();
     about->close();
     if (selector)

@@ -154,7 +154,7 @@ void OrvCamConfigPulseDialogPrivate::makeRoomForUnits()
     }
     const auto makeRoom = [&units](QWidget *widget, int margin, auto &&textIn) {
         int widest = 0;
-        for (const Granularity &unit : qAsConst(units))
+        for (const Granularity &unit : std::as_const(units))
             widest = std::max(widest, widget->fontMetrics().horizontalAdvance(textIn(unit)));
         widget->setMinimumWidth(widest + margin * widget->fontMetrics().averageCharWidth());
     };
