@@ -37,6 +37,17 @@ set(_orv_header_dir ${ORV_HEADERS}/OrvCameraGuiApi)
 # A pkg-config file finds the prefix from its own place, so that an unpacked archive works anywhere.
 file(RELATIVE_PATH _orv_pc_prefix ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
 
+# orv_from_prefix(VARIABLE DIRECTORY): the way from the prefix to DIRECTORY, which may be absolute.
+function(orv_from_prefix variable directory)
+    cmake_path(ABSOLUTE_PATH directory BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX})
+    cmake_path(RELATIVE_PATH directory BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX})
+    set(${variable} ${directory} PARENT_SCOPE)
+endfunction()
+orv_from_prefix(_orv_pc_libdir ${CMAKE_INSTALL_LIBDIR})
+orv_from_prefix(_orv_pc_includedir ${CMAKE_INSTALL_INCLUDEDIR})
+orv_from_prefix(_orv_pc_headers ${ORV_HEADERS})
+orv_from_prefix(_orv_pc_genapi_headers ${ORV_GENAPI_HEADERS})
+
 # orv_install_package(PACKAGE FILE COMPONENT): cmake/FILEConfig.cmake.in and cmake/FILE.pc.in as the package PACKAGE,
 # with its targets and its version.
 function(orv_install_package package file component)
@@ -54,14 +65,16 @@ foreach(_orv_header IN LISTS ORV_PUBLIC_HEADERS)
     get_filename_component(_orv_room ${_orv_header} DIRECTORY)
     install(FILES src/OrvCameraGuiApi/${_orv_header} DESTINATION ${_orv_header_dir}/${_orv_room} COMPONENT Development)
 endforeach()
-# The contract between the library and a camera access library, where the one that is here needs it as well.
-if(ORV_STAND_INS AND ORV_QT_MAJOR EQUAL 5)
-    set(_orv_contract_component CameraApiDevelopment)
-else()
-    set(_orv_contract_component Development)
+# The contract between the library and a camera access library. The one that is here needs it as well, and has it in the
+# same place with either Qt.
+if(ORV_STAND_INS)
+    install(DIRECTORY src/OrvCameraGuiApi/camera_api DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/OrvCameraGuiApi
+        COMPONENT CameraApiDevelopment FILES_MATCHING PATTERN "*.h")
 endif()
-install(DIRECTORY src/OrvCameraGuiApi/camera_api DESTINATION ${_orv_header_dir} COMPONENT ${_orv_contract_component}
-    FILES_MATCHING PATTERN "*.h")
+if(NOT ORV_STAND_INS OR ORV_QT_MAJOR EQUAL 6)
+    install(DIRECTORY src/OrvCameraGuiApi/camera_api DESTINATION ${_orv_header_dir} COMPONENT Development
+        FILES_MATCHING PATTERN "*.h")
+endif()
 install(TARGETS OrvCameraGuiApi EXPORT ${ORV_LIBRARY}Targets
     LIBRARY COMPONENT Runtime NAMELINK_COMPONENT Development)
 install(FILES ${ORV_TRANSLATIONS} COMPONENT Runtime
@@ -72,8 +85,10 @@ if(ORV_STAND_INS)
     install(DIRECTORY platform/GenApi/include/ DESTINATION ${ORV_GENAPI_HEADERS} COMPONENT GenApiDevelopment
         FILES_MATCHING PATTERN "*.h")
     orv_install_package(OrvGenApi OrvGenApi GenApiDevelopment)
-    install(TARGETS genapi_dump RUNTIME COMPONENT GenApiTools)
-    install(FILES docs/man/genapi_dump.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT GenApiTools)
+    if(TARGET genapi_dump)
+        install(TARGETS genapi_dump RUNTIME COMPONENT GenApiTools)
+        install(FILES docs/man/genapi_dump.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT GenApiTools)
+    endif()
 
     install(TARGETS OrvCameraApi EXPORT OrvCameraApiTargets
         LIBRARY COMPONENT CameraApi NAMELINK_COMPONENT CameraApiDevelopment)
@@ -83,7 +98,8 @@ if(ORV_STAND_INS)
     if(TARGET OrvCameraApiAravis)
         install(TARGETS OrvCameraApiAravis LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/OrvCameraApi COMPONENT CameraApi)
     endif()
-    install(FILES platform/OrvCameraApi/udev/70-orv-usb3vision.rules DESTINATION lib/udev/rules.d COMPONENT CameraApi)
+    install(FILES platform/OrvCameraApi/udev/70-orv-usb3vision.rules DESTINATION ${ORV_UDEV_RULES_DIR}
+        COMPONENT CameraApi)
     set(_orv_pc_requires "${ORV_QT}Widgets, OrvGenApi")
     set(_orv_pc_requires_private "OrvCameraApi")
 else()
@@ -95,9 +111,13 @@ endif()
 orv_install_package(${ORV_LIBRARY} OrvCameraGuiApi Development)
 
 if(ORV_BUILD_DESIGNER)
-    set(_orv_plugin_dir ${CMAKE_INSTALL_LIBDIR}/qt${ORV_QT_MAJOR}/plugins/designer)
+    set(_orv_plugin_dir ${ORV_DESIGNER_PLUGIN_DIR})
+    if(NOT _orv_plugin_dir)
+        set(_orv_plugin_dir ${CMAKE_INSTALL_LIBDIR}/qt${ORV_QT_MAJOR}/plugins/designer)
+    endif()
     # The library of the same prefix.
-    file(RELATIVE_PATH _orv_library_dir ${CMAKE_INSTALL_PREFIX}/${_orv_plugin_dir} ${CMAKE_INSTALL_FULL_LIBDIR})
+    orv_from_prefix(_orv_library_dir ${_orv_plugin_dir})
+    file(RELATIVE_PATH _orv_library_dir ${CMAKE_INSTALL_PREFIX}/${_orv_library_dir} ${CMAKE_INSTALL_FULL_LIBDIR})
     set_target_properties(orvwidgets PROPERTIES INSTALL_RPATH "$ORIGIN/${_orv_library_dir}")
     install(TARGETS orvwidgets LIBRARY DESTINATION ${_orv_plugin_dir} COMPONENT Designer)
 endif()
@@ -134,12 +154,14 @@ if(_orv_doxygen)
 endif()
 
 # One archive of everything.
-set(CPACK_PACKAGE_VENDOR "The OrvCameraGuiApi maintainers")
-set(CPACK_PACKAGE_CONTACT "OrvCameraGuiApi maintainers <maintainers@orvcameraguiapi.example>")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
-set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
-set(CPACK_GENERATOR TGZ)
-set(CPACK_STRIP_FILES ON)
-set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
-set(CPACK_OUTPUT_FILE_PREFIX ${PROJECT_BINARY_DIR}/packages)
-include(CPack)
+if(PROJECT_IS_TOP_LEVEL)
+    set(CPACK_PACKAGE_VENDOR "The OrvCameraGuiApi maintainers")
+    set(CPACK_PACKAGE_CONTACT "OrvCameraGuiApi maintainers <maintainers@orvcameraguiapi.example>")
+    set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
+    set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
+    set(CPACK_GENERATOR TGZ)
+    set(CPACK_STRIP_FILES ON)
+    set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+    set(CPACK_OUTPUT_FILE_PREFIX ${PROJECT_BINARY_DIR}/packages)
+    include(CPack)
+endif()

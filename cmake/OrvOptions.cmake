@@ -6,6 +6,9 @@ set(ORV_CAMERA_API_LIBRARY "" CACHE FILEPATH
     "Camera access library to link when ORV_GENICAM_ROOT is set; empty: the application provides it")
 # GenApi's own folders, Base and GenApi, are too general for the place where every compiler looks.
 set(ORV_GENAPI_HEADERS ${CMAKE_INSTALL_INCLUDEDIR}/OrvGenApi)
+set(ORV_DESIGNER_PLUGIN_DIR "" CACHE STRING
+    "Where the Qt Designer plug-in is installed; empty: below the folder for libraries, qt5/plugins/designer or qt6/...")
+set(ORV_UDEV_RULES_DIR lib/udev/rules.d CACHE STRING "Where the udev rule for USB3 Vision cameras is installed")
 set(ORV_SANITIZE "" CACHE STRING "Sanitizers for everything that is built here, e.g. address,undefined or thread")
 
 # A vendor's headers replace the stand-ins, and with them go the programs and tests that need simulated cameras.
@@ -37,10 +40,11 @@ include(CheckPIESupported)
 check_pie_supported() # programs are linked so, too, whatever the compiler does by itself
 set(CMAKE_AUTORCC_OPTIONS --format-version 1) # without the times of files: each build gives the same bytes
 # Installed programs and libraries find each other wherever the whole is moved.
-set(CMAKE_INSTALL_RPATH "$ORIGIN;$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+file(RELATIVE_PATH _orv_libraries ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
+set(CMAKE_INSTALL_RPATH "$ORIGIN;$ORIGIN/${_orv_libraries}")
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
-if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
     set(CMAKE_BUILD_TYPE Release CACHE STRING "" FORCE)
 endif()
 
