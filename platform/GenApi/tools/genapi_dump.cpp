@@ -578,11 +578,16 @@ void Script::run(const std::vector<Visit> &visits)
     forEach([](INode *node) { printFeature(node, 0); });
 }
 
-OrvGenApi::MemoryPort::Background background(const char *pattern)
+bool isPattern(const std::string &name)
 {
-    if (std::strcmp(pattern, "ones") == 0)
+    return name == "zero" || name == "ones" || name == "hash";
+}
+
+OrvGenApi::MemoryPort::Background background(const std::string &pattern)
+{
+    if (pattern == "ones")
         return [](uint64_t address) { return static_cast<uint8_t>(address % 4 == 3); };
-    if (std::strcmp(pattern, "hash") == 0)
+    if (pattern == "hash")
         return [](uint64_t address) {
             return static_cast<uint8_t>(static_cast<uint32_t>(address) * uint32_t(2654435761u) >> 24);
         };
@@ -625,7 +630,7 @@ int main(int argc, char **argv)
     if (argc == 2 && printsText(argv[1]))
         return 0;
     const std::string mode = argc == 4 ? argv[3] : "";
-    if (argc < 3 || argc > 4 || (!mode.empty() && mode != "writes" && mode != "script")) {
+    if (argc < 3 || argc > 4 || !isPattern(argv[2]) || (!mode.empty() && mode != "writes" && mode != "script")) {
         std::cerr << usage;
         return 2;
     }
