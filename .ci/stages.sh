@@ -4,7 +4,7 @@
 
 stages=(format tidy sanitizers threads fuzz genicam qt6 consumers abi docs packages test)
 declare -A about=(
-    [format]="sources are formatted, scripts are sound, rooms include as drawn"
+    [format]="sources are formatted, scripts are sound, rooms include as drawn, licenses are told"
     [tidy]="clang-tidy on src/ and platform/"
     [sanitizers]="whole suite with address and undefined-behaviour sanitizers"
     [threads]="tests labelled threads, with the thread sanitizer"
@@ -19,12 +19,13 @@ declare -A about=(
 )
 
 stage_format() {
-    install_packages clang-format shellcheck
+    install_packages clang-format shellcheck reuse
     git ls-files -z '*.cpp' '*.h' | xargs -0 -n 40 clang-format --dry-run --Werror
     shellcheck -x run test .ci/run .ci/stages.sh .ci/common.sh .ci/consumers .ci/genicam-build .ci/genicam-prefix \
         .ci/packages .ci/manpages .ci/abi .ci/docs .ci/follow docs/pictures .ci/tidy .ci/clang .ci/fuzz .ci/rooms \
         .ci/bare-debian .ci/bare-packages.sh benchmarks/run debian/tests/*-* tests/windows/onwayland
     .ci/rooms
+    reuse lint
 }
 
 stage_tidy() {

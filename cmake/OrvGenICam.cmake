@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+# SPDX-License-Identifier: BSD-3-Clause
+
 # Orv::GenApi: the GenApi interfaces of an installed reference implementation, below ORV_GENICAM_ROOT. Also installed
 # with the library, where an application's find_package includes it.
 

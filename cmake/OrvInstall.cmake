@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+# SPDX-License-Identifier: BSD-3-Clause
+
 # What is installed, and the archive of it. Components: Runtime, Development, Designer and Explorer are the library's;
 # GenApi, GenApiDevelopment, GenApiTools, CameraApi and CameraApiDevelopment are the stand-ins', which a machine with a
 # vendor's packages leaves out. debian/ makes packages of them.

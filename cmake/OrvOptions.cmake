@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+# SPDX-License-Identifier: BSD-3-Clause
+
 # What a build can be told. Everything else follows from these.
 
 set(ORV_GENICAM_ROOT "" CACHE PATH

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+# SPDX-License-Identifier: BSD-3-Clause
+
 # The Qt that everything here is built with, ORV_QT: Qt5 or Qt6. The libraries for the two are installed side by side:
 # ORV_LIBRARY is the name of the library and of its packages for CMake and pkg-config, ORV_HEADERS the folder of its
 # headers below the prefix, ORV_SYMBOLS the version of its symbols. The target is Orv::CameraGuiApi in either.

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+# SPDX-License-Identifier: BSD-3-Clause
+
 # Warnings and definitions for our own code, and the helpers that declare its targets.
 
 add_library(orv_own_code INTERFACE)

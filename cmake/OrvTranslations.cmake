@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+# SPDX-License-Identifier: BSD-3-Clause
+
 # The languages that the library and the explorer speak besides English: catalogues in translations/, compiled by
 # lrelease, and carried as resources below :/CATALOGUE/translations. Those of the library are installed beside it, too.
 

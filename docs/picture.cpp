@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+// SPDX-License-Identifier: BSD-3-Clause
+
 // Draws the widget of a page's example into the PNG file that the first argument names.
 
 #include <QApplication>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+// SPDX-License-Identifier: BSD-3-Clause
+
 // Asks for a camera and shows its feature tree with nothing but the C functions, which need no Qt header. They make the
 // Qt application object; all that is left to do is to let it process its events.
 

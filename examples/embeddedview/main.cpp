@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+// SPDX-License-Identifier: BSD-3-Clause
+
 // Puts the feature tree of a camera into a window of one's own.
 
 #include "firstcamera.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+// SPDX-License-Identifier: BSD-3-Clause
+
 // A form of Qt Designer with a value-entry widget and the feature tree of a camera.
 
 #include "firstcamera.h"

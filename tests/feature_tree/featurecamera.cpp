@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+// SPDX-License-Identifier: BSD-3-Clause
+
 #include "featurecamera.h"
 
 #include <OrvCameraGuiApi/feature_tree/genparamtreemodel.h>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+// SPDX-License-Identifier: BSD-3-Clause
+
 // Feeds descriptions to the node-map engine. To run it longer than `.ci/fuzz` does:
 //
 //     cmake --preset fuzz && cmake --build --preset fuzz --target fuzz_description

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+// SPDX-License-Identifier: BSD-3-Clause
+
 // What a GigE Vision device answers. An input is a datagram, the payload of an acknowledge and a URL, all at once.
 
 #include "fuzzer.h"

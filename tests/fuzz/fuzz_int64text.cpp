@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+// SPDX-License-Identifier: BSD-3-Clause
+
 // Integer text in a base within a range. An input is: base, two bounds of 8 bytes, the text.
 
 #include "fuzzer.h"

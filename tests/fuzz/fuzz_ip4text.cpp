@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+// SPDX-License-Identifier: BSD-3-Clause
+
 // IPv4 text: the verdict and the address against a reading of the text by other means.
 
 #include "fuzzer.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+// SPDX-License-Identifier: BSD-3-Clause
+
 // The text that arranges a feature tree view, given to a view with nested categories.
 // No name looks like a marker with a number behind it, which would be read as one: nothing is escaped.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+// SPDX-License-Identifier: BSD-3-Clause
+
 // Runs every file of the directories that are given through a fuzzer: how the corpora are tested in every build.
 
 #include "fuzzer.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+// SPDX-License-Identifier: BSD-3-Clause
+
 // Two threads and a number without anything between them: what the thread sanitizer has to find, whatever it is kept
 // from looking at elsewhere.
 

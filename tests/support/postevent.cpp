@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+// SPDX-License-Identifier: BSD-3-Clause
+
 // Qt comes without the thread sanitizer, which therefore sees nothing of the lock that guards a thread's list of posted
 // events, only how events move in the list. This function stands before Qt's own in programs that are built with the
 // sanitizer, and has it look away while Qt posts. Nothing of ours runs meanwhile.

@@ -1,4 +1,7 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+# SPDX-License-Identifier: BSD-3-Clause
+
 """Draws the explorer's tool bar icons, in the manner of the library's. Run by hand; the files are committed."""
 
 import importlib.util

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+// SPDX-License-Identifier: BSD-3-Clause
+
 // Prints what a node map answers for every feature of a description, or what writing every feature does. Made for
 // comparing implementations of GenApi: genapi_dump DESCRIPTION zero|ones|hash [writes|script]
 

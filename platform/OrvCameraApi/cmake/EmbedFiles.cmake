@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+# SPDX-License-Identifier: BSD-3-Clause
+
 # cmake -DDIRECTORY=... -DFILES=... -DOUTPUT=... -P EmbedFiles.cmake: FILES of DIRECTORY as the text of a C++ source.
 set(content "#include \"embeddedfiles.h\"\n\nnamespace OrvCameraApi {\n\nconst EmbeddedFile embeddedFiles[] = {\n")
 foreach(name IN LISTS FILES)

@@ -1,4 +1,7 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+# SPDX-License-Identifier: BSD-3-Clause
+
 """Draws the icons of the library. Run by hand; the files are committed.
 
 Those of the feature tree's buttons go into images/, at 16 and, as @2x, at 32 pixels; those of windows and of the

@@ -1,4 +1,7 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+# SPDX-License-Identifier: BSD-3-Clause
+
 """Draws the timing pictures of the strobe dialog into images/. Run by hand; the files are committed.
 
 One picture for each choice of what the two strobes count their delay from: the start of the exposure or that of the

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+// SPDX-License-Identifier: BSD-3-Clause
+
 // Callbacks run without the lock, so that they may register, unregister and release. A list of running calls takes its
 // place: remove() waits on it for calls on other threads, as the contract requires.
 #include "eventhub.h"

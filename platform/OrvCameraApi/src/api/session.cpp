@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+// SPDX-License-Identifier: BSD-3-Clause
+
 // The device owns its session and the transport has a weak pointer to it. An event under way keeps the session alive
 // when its callback releases the device; a device that is gone is told nothing.
 #include "session.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+// SPDX-License-Identifier: BSD-3-Clause
+
 // Aravis finds USB cameras, opens cameras and moves their bytes. Its headers and Qt's macros do not go together.
 #include "aravislinks.h"
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+// SPDX-License-Identifier: BSD-3-Clause
+
 // A small language, one statement a line. Registers are named by their nodes, so the service map turns every name into
 // addresses, and faults and moving registers are then kept by address.
 #include "powerup.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The authors of OrvCameraGuiApi
+// SPDX-License-Identifier: BSD-3-Clause
+
 // Locks are short and never nested: an object copies its state out, then works on the copy. Cameras and interfaces live
 // on in such copies, so that removing one never waits for anyone. Applications are called without a lock of the
 // simulation.
