@@ -189,7 +189,7 @@ int readTexts(const QAbstractItemModel &model, const QModelIndex &parent = QMode
     int length = 0;
     for (int row = 0; row < rows; ++row) {
         const QModelIndex name = model.index(row, 0, parent);
-        length += name.data().toString().size() + model.index(row, 1, parent).data().toString().size();
+        length += int(name.data().toString().size() + model.index(row, 1, parent).data().toString().size());
         length += readTexts(model, name);
     }
     return length;
